@@ -1,0 +1,88 @@
+/*
+ * Accounts: provisioning code, PPP user name, passwords, and the fields of VoIP and e-mail accounts.
+ *
+ * No pointer may be NULL. Only TcmValidateProvisioningCode prints. Lengths count bytes.
+ */
+#ifndef OSTREL_ACCOUNTS_H
+#define OSTREL_ACCOUNTS_H
+
+#include <ostrel/api.h>
+
+/*
+ * TcmValidateProvisioningCode: "000.00d.00d.ddd" with four groups of three: the digits at positions 6 and 10
+ * are 0 to 4, those at positions 12 to 14 are any, every other one is 0.
+ *
+ * 0; OSTREL_INVALID_VALUE. A value of 15 characters that is refused has the first faulty position printed,
+ * not flushed: "TcmValidateProvisioningCode  pCode[%d] error\n", with a blank before the line end at the
+ * positions 6, 10, 12, 13 and 14. Any other length prints nothing.
+ */
+OSTREL_API int TcmValidateProvisioningCode(const char* value);
+
+/*
+ * TcmValidatePPPUsername: the user name of a PPP account.
+ *
+ * A name that ends in one of the ISP's two realms (build options, by default "@example.net" and
+ * "@setup.example.net", compared case-sensitively, with at least one character before them) is judged by the
+ * part before the realm, which holds digits and "#" only:
+ *
+ *   type  realm    characters before the realm
+ *   1     account  28, no "#"
+ *   2     account  fewer than 29: 13 or more, "#", 4;  or 29, one "#", at index 24
+ *   3     account  29, one "#", at index 12
+ *   4     account  19 to 30, two "#", at index 12 and 5 from the end
+ *   5     set-up   16, no "#"
+ *   6     set-up   17, one "#", at index 12
+ *
+ * The part is 18 to 30 characters before the account realm, 16 to 17 before the set-up realm. With three or
+ * more
+ * "#" it is accepted whatever their places, and the type is not written. Any other user name is type 0: 1 to
+ * 131 characters of CHARSET_LATIN1_PRINTABLE.
+ *
+ * account_type: receives the type when the name is accepted, save as said; otherwise it is left as it was.
+ *
+ * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER for the part before the realm or for the
+ * whole name of type 0; OSTREL_INVALID_VALUE: the part has none of the forms.
+ */
+OSTREL_API int TcmValidatePPPUsername(const char* value, int* account_type);
+
+/*
+ * The fields below answer 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, in the order of
+ * the tests. The sets are those of character_sets.h.
+ */
+
+/* TcmValidatePPPPassword: 1 to 67 bytes of CHARSET_LATIN1_PRINTABLE. */
+OSTREL_API int TcmValidatePPPPassword(const char* value);
+
+/* TcmValidateLANConfigPassword: 4 to 12 characters of CHARSET_NAME. */
+OSTREL_API int TcmValidateLANConfigPassword(const char* value);
+
+/* TcmValidateEmailPassword: 0 to 255 characters of CHARSET_NAME. */
+OSTREL_API int TcmValidateEmailPassword(const char* value);
+
+/* TcmValidateVoIPAnbietername: the VoIP provider's name, 1 to 32 characters of CHARSET_NAME. */
+OSTREL_API int TcmValidateVoIPAnbietername(const char* value);
+
+/* TcmValidateVoIPNumber: 1 to 32 characters of CHARSET_DIGITS. */
+OSTREL_API int TcmValidateVoIPNumber(const char* value);
+
+/* TcmValidateVoIPUsername: 1 to 64 characters of CHARSET_MAIL. */
+OSTREL_API int TcmValidateVoIPUsername(const char* value);
+
+/* TcmValidateVoIPPassword: 0 to 255 characters of CHARSET_NAME. */
+OSTREL_API int TcmValidateVoIPPassword(const char* value);
+
+/* TcmValidateVoIPAreaCode: 1 to 6 characters of CHARSET_DIGITS. */
+OSTREL_API int TcmValidateVoIPAreaCode(const char* value);
+
+/*
+ * TcmValidatePort: a TCP or UDP port that can be used, 1 to 65535 as atoi reads it; what follows the digits
+ * is ignored. Port 0 and the empty value are refused.
+ *
+ * 0; OSTREL_INVALID.
+ */
+OSTREL_API int TcmValidatePort(const char* value);
+
+/* TcmValidateVoIPRegistrarPort: the same as TcmValidatePort. */
+OSTREL_API int TcmValidateVoIPRegistrarPort(const char* value);
+
+#endif

@@ -1,0 +1,30 @@
+/*
+ * The character-class table: a class mask for each byte, by ISO 8859-1 (Latin-1).
+ *
+ * Unlike <ctype.h> it knows no locale, has no slot for EOF, and is indexed by the byte as an unsigned char.
+ */
+#ifndef OSTREL_CHARACTER_CLASS_H
+#define OSTREL_CHARACTER_CLASS_H
+
+#include <ostrel/api.h>
+
+enum ostrel_character_class {
+    CT_UPPER = 0x01,
+    CT_LOWER = 0x02,
+    CT_DIGIT = 0x04,
+    CT_CNTRL = 0x08,
+    CT_PUNCT = 0x10,
+    CT_SPACE = 0x20,
+    /* CT_XLETTER: A-F and a-f, always together with a letter bit; CT_DIGIT | CT_XLETTER is a hexadecimal
+       digit. */
+    CT_XLETTER = 0x40,
+    CT_BLANK = 0x80
+};
+
+/*
+ * ostrel_ctype: the classes of each byte. Read-only. The bytes 0x80 to 0x9F have no class at all, not even
+ * CT_CNTRL; 0xA0 (no-break space) is CT_SPACE | CT_BLANK.
+ */
+OSTREL_API const unsigned char ostrel_ctype[256];
+
+#endif

@@ -1,0 +1,13 @@
+/* Everything that libostrel_check.so exports. */
+#ifndef OSTREL_CHECK_H
+#define OSTREL_CHECK_H
+
+#include <ostrel/accounts.h>
+#include <ostrel/addresses.h>
+#include <ostrel/character_class.h>
+#include <ostrel/character_sets.h>
+#include <ostrel/parameter_check.h>
+#include <ostrel/result_code.h>
+#include <ostrel/strings.h>
+
+#endif

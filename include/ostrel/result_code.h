@@ -1,0 +1,52 @@
+/*
+ * Result codes: what every check answers.
+ *
+ * 0 means that the value may be stored; every other code names the fault. Each check's own comment lists the
+ * codes that it can give.
+ */
+#ifndef OSTREL_RESULT_CODE_H
+#define OSTREL_RESULT_CODE_H
+
+enum ostrel_result_code {
+    /* OSTREL_INVALID: the value is refused and no reason is given. */
+    OSTREL_INVALID = -1,
+    OSTREL_VALID = 0,
+
+    /* OSTREL_INVALID_VALUE: the general refusal of the service checks. */
+    OSTREL_INVALID_VALUE = 402,
+    /* OSTREL_EMPTY: a required value is empty (PPP). */
+    OSTREL_EMPTY = 501,
+    /* OSTREL_WRONG_FORM: the right characters in the wrong form, or a value of the wrong kind. */
+    OSTREL_WRONG_FORM = 600,
+    OSTREL_OUT_OF_RANGE = 601,
+
+    /* OSTREL_REPEATED: the entry would stand twice in a list. */
+    OSTREL_REPEATED = 701,
+    /* OSTREL_NOT_IN_LIST: the entry to delete is not in the list. */
+    OSTREL_NOT_IN_LIST = 702,
+    /* OSTREL_WILDCARD_EXTERNAL_PORT: the port mapping's external port is empty. */
+    OSTREL_WILDCARD_EXTERNAL_PORT = 716,
+    /* OSTREL_LEASE_NOT_PERMANENT: the port mapping's lease is not 0. */
+    OSTREL_LEASE_NOT_PERMANENT = 725,
+    /* OSTREL_REMOTE_HOST_NOT_WILDCARD: the port mapping's remote host is not empty. */
+    OSTREL_REMOTE_HOST_NOT_WILDCARD = 726,
+    /* OSTREL_INVALID_DISTANCE: invalid distance from the root access point (wireless). */
+    OSTREL_INVALID_DISTANCE = 728,
+    /* OSTREL_WEP_KEY_LENGTH: a WEP key of a bad length, or WEP keys of differing lengths. */
+    OSTREL_WEP_KEY_LENGTH = 731,
+
+    OSTREL_TOO_SHORT = 801,
+    OSTREL_TOO_LONG = 802,
+    /* OSTREL_FORBIDDEN_CHARACTER: a character outside the allowed set. */
+    OSTREL_FORBIDDEN_CHARACTER = 803,
+
+    /* OSTREL_BUFFER_SIZE_TOO_LARGE: the download-test buffer size is above 1048576. */
+    OSTREL_BUFFER_SIZE_TOO_LARGE = 901,
+
+    /* OSTREL_SECURITY_TYPE_NOT_ALLOWED: HNAP security type not allowed. */
+    OSTREL_SECURITY_TYPE_NOT_ALLOWED = 1001,
+    /* OSTREL_ENCRYPTION_MISMATCH: HNAP encryption or key length does not suit the security type. */
+    OSTREL_ENCRYPTION_MISMATCH = 1002
+};
+
+#endif

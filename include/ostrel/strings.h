@@ -1,0 +1,41 @@
+/*
+ * String primitives: length, membership in a character set, number range, occurrences.
+ *
+ * They print nothing, keep nothing and do not change their arguments. No pointer may be NULL. Values are
+ * NUL-terminated byte strings of any length.
+ */
+#ifndef OSTREL_STRINGS_H
+#define OSTREL_STRINGS_H
+
+#include <ostrel/api.h>
+
+/*
+ * ValidateString: the length of a value and the set that its characters come from.
+ *
+ * min_len, max_len: the accepted lengths in bytes, both inclusive, as signed numbers; with a min_len of 0 or
+ *                   less the empty value is valid.
+ * charset:          the allowed bytes, see character_sets.h; "" allows none.
+ *
+ * 0; OSTREL_TOO_SHORT (tested first); OSTREL_TOO_LONG (before any character is looked at);
+ * OSTREL_FORBIDDEN_CHARACTER.
+ */
+OSTREL_API int ValidateString(int min_len, int max_len, const char* charset, const char* value);
+
+/*
+ * ValidateNum: the characters of a number and its range, both ends inclusive.
+ *
+ * charset: the allowed bytes, as for ValidateString. The empty value passes and reads as 0.
+ *
+ * 0; OSTREL_FORBIDDEN_CHARACTER; OSTREL_OUT_OF_RANGE: the number that the C library's atoi reads is below min
+ * or above max.
+ */
+OSTREL_API int ValidateNum(int min, int max, const char* charset, const char* value);
+
+/*
+ * countChar: how many bytes of the value equal ch, which is read as an unsigned byte; 0 for the empty value.
+ *
+ * The terminating NUL never counts, so the answer for ch 0 is 0.
+ */
+OSTREL_API int countChar(const char* value, int ch);
+
+#endif

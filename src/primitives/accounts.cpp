@@ -1,0 +1,143 @@
+#include "primitives/accounts.h"
+
+#include <ostrel/accounts.h>
+#include <ostrel/result_code.h>
+
+#include <cstdlib>
+#include <string_view>
+
+#include "primitives/strings.h"
+#include "support/char_set.h"
+#include "support/report.h"
+#include "support/text.h"
+
+namespace ostrel {
+
+namespace {
+
+// The realms of the ISP served, with their "@".
+constexpr std::string_view kAccountRealm = OSTREL_ACCOUNT_REALM;
+constexpr std::string_view kSetupRealm = OSTREL_SETUP_REALM;
+
+constexpr bool is_realm(std::string_view text)
+{
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if ((text[i] == '@') != (i == 0)) return false;
+    }
+    return true;
+}
+
+static_assert(kAccountRealm.size() == 12 && is_realm(kAccountRealm), "\"@\" and a domain of 11 characters");
+static_assert(kSetupRealm.size() == 18 && is_realm(kSetupRealm), "\"@\" and a domain of 17 characters");
+
+constexpr int kNoType = 0;
+
+// account_type gives the type of a part of 18 to 30 characters before the account realm, with at most two
+// "#".
+int account_type(std::string_view part, int separators)
+{
+    const std::size_t length = part.size();
+    if (separators == 0) return length == 28 ? 1 : kNoType;
+    if (separators == 1) {
+        if (length < 29) return part[length - 5] == '#' ? 2 : kNoType;
+        if (length > 29) return kNoType;
+        if (part[24] == '#') return 2;
+        return part[12] == '#' ? 3 : kNoType;
+    }
+    return length >= 19 && part[12] == '#' && part[length - 5] == '#' ? 4 : kNoType;
+}
+
+// setup_type gives the type of a part before the set-up realm, with at most two "#".
+int setup_type(std::string_view part, int separators)
+{
+    if (separators == 0) return part.size() == 16 ? 5 : kNoType;
+    return separators == 1 && part.size() == 17 && part[12] == '#' ? 6 : kNoType;
+}
+
+bool is_in_realm(std::string_view name, std::string_view realm)
+{
+    return name.size() > realm.size() && ends_with(name, realm);
+}
+
+}  // namespace
+
+int validate_provisioning_code(const char* value)
+{
+    const std::string_view code = value;
+    if (code.size() != 15) return OSTREL_INVALID_VALUE;
+    constexpr char kShape[] = "000.004.004.999";  // a digit is the highest that may stand in its place
+    for (std::size_t i = 0; i < code.size(); ++i) {
+        const char highest = kShape[i];
+        const char lowest = highest == '.' ? '.' : '0';
+        if (code[i] >= lowest && code[i] <= highest) continue;
+        if (highest == '4' || highest == '9') {
+            remark("TcmValidateProvisioningCode  pCode[%d] error \n", static_cast<int>(i));
+        } else {
+            remark("TcmValidateProvisioningCode  pCode[%d] error\n", static_cast<int>(i));
+        }
+        return OSTREL_INVALID_VALUE;
+    }
+    return OSTREL_VALID;
+}
+
+int validate_ppp_user_name(const char* value, int* type_out)
+{
+    std::string_view name = value;
+    int type = kNoType;
+    if (is_in_realm(name, kAccountRealm)) {
+        name.remove_suffix(kAccountRealm.size());
+        const int separators = count(name, '#');
+        if (const int code = validate_string(18, 30, kPppDigits, name); code != OSTREL_VALID) return code;
+        if (separators >= 3) return OSTREL_VALID;
+        type = account_type(name, separators);
+    } else if (is_in_realm(name, kSetupRealm)) {
+        name.remove_suffix(kSetupRealm.size());
+        const int separators = count(name, '#');
+        if (const int code = validate_string(16, 17, kPppDigits, name); code != OSTREL_VALID) return code;
+        if (separators >= 3) return OSTREL_VALID;
+        type = setup_type(name, separators);
+    } else {
+        if (const int code = validate_string(1, 131, kLatin1Printable, name); code != OSTREL_VALID)
+            return code;
+        *type_out = 0;
+        return OSTREL_VALID;
+    }
+    if (type == kNoType) return OSTREL_INVALID_VALUE;
+    *type_out = type;
+    return OSTREL_VALID;
+}
+
+}  // namespace ostrel
+
+using namespace ostrel;
+
+int TcmValidateProvisioningCode(const char* value) { return validate_provisioning_code(value); }
+
+int TcmValidatePPPUsername(const char* value, int* account_type)
+{
+    return validate_ppp_user_name(value, account_type);
+}
+
+int TcmValidatePPPPassword(const char* value) { return validate_string(1, 67, kLatin1Printable, value); }
+
+int TcmValidateLANConfigPassword(const char* value) { return validate_string(4, 12, kName, value); }
+
+int TcmValidateEmailPassword(const char* value) { return validate_string(0, 255, kName, value); }
+
+int TcmValidateVoIPAnbietername(const char* value) { return validate_string(1, 32, kName, value); }
+
+int TcmValidateVoIPNumber(const char* value) { return validate_string(1, 32, kDigits, value); }
+
+int TcmValidateVoIPUsername(const char* value) { return validate_string(1, 64, kMail, value); }
+
+int TcmValidateVoIPPassword(const char* value) { return validate_string(0, 255, kName, value); }
+
+int TcmValidateVoIPAreaCode(const char* value) { return validate_string(1, 6, kDigits, value); }
+
+int TcmValidatePort(const char* value)
+{
+    const int port = std::atoi(value);
+    return port > 0 && port < 65536 ? OSTREL_VALID : OSTREL_INVALID;
+}
+
+int TcmValidateVoIPRegistrarPort(const char* value) { return TcmValidatePort(value); }

@@ -1,0 +1,13 @@
+// The account rules that other rules call; the exported ones are <ostrel/accounts.h>.
+#ifndef OSTREL_PRIMITIVES_ACCOUNTS_H
+#define OSTREL_PRIMITIVES_ACCOUNTS_H
+
+namespace ostrel {
+
+int validate_provisioning_code(const char* value);
+
+int validate_ppp_user_name(const char* value, int* type_out);
+
+}  // namespace ostrel
+
+#endif

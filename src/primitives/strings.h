@@ -1,0 +1,26 @@
+// The string rules over pieces of values; the exported ones are <ostrel/strings.h>.
+#ifndef OSTREL_PRIMITIVES_STRINGS_H
+#define OSTREL_PRIMITIVES_STRINGS_H
+
+#include <string_view>
+
+#include "support/char_set.h"
+
+namespace ostrel {
+
+// validate_length gives 0, OSTREL_TOO_SHORT or OSTREL_TOO_LONG. The limits are signed: a negative minimum
+// lets every length through, a negative maximum none. Exact for any length, also beyond what an int can hold.
+int validate_length(int min_len, int max_len, std::size_t length);
+
+// validate_string is ValidateString over a piece and a ready set.
+int validate_string(int min_len, int max_len, const CharSet& allowed, std::string_view text);
+
+// validate_number is ValidateNum with a ready set.
+int validate_number(int min, int max, const CharSet& allowed, const char* value);
+
+// count gives how many bytes of the text equal c.
+int count(std::string_view text, char c);
+
+}  // namespace ostrel
+
+#endif

@@ -1,0 +1,31 @@
+#include "support/assertion.h"
+
+#include <cstdlib>
+
+// The hook is declared here because <assert.h> leaves it out where NDEBUG is defined. uClibc comes first: it
+// also claims to be glibc.
+extern "C" {
+#if defined(__UCLIBC__)
+void __assert(const char* condition, const char* file, int line, const char* function);
+#elif defined(__GLIBC__)
+[[noreturn]] void __assert_fail(const char* condition, const char* file, unsigned line, const char* function);
+#else  // musl
+[[noreturn]] void __assert_fail(const char* condition, const char* file, int line, const char* function);
+#endif
+}
+
+namespace ostrel {
+
+void fail_assertion(const char* condition, const char* module, const char* function, unsigned line)
+{
+#if defined(__UCLIBC__)
+    __assert(condition, module, static_cast<int>(line), function);
+    std::abort();  // the hook can be configured so that it only reports
+#elif defined(__GLIBC__)
+    __assert_fail(condition, module, line, function);
+#else
+    __assert_fail(condition, module, static_cast<int>(line), function);
+#endif
+}
+
+}  // namespace ostrel

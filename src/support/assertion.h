@@ -1,0 +1,20 @@
+// Assertions that hold in every build type: a NULL value is the caller's error and ends the process.
+#ifndef OSTREL_SUPPORT_ASSERTION_H
+#define OSTREL_SUPPORT_ASSERTION_H
+
+namespace ostrel {
+
+// fail_assertion reports through the C library's own assertion hook and ends the process.
+[[noreturn]] void fail_assertion(const char* condition, const char* module, const char* function,
+                                 unsigned line);
+
+// require_value asserts on a NULL value_p; function and line are those of the calling check unless stated.
+inline void require_value(const char* value_p, const char* module, unsigned line = __builtin_LINE(),
+                          const char* function = __builtin_FUNCTION())
+{
+    if (value_p == nullptr) fail_assertion("value_p != ((void *)0)", module, function, line);
+}
+
+}  // namespace ostrel
+
+#endif

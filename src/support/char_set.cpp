@@ -1,0 +1,16 @@
+#include "support/char_set.h"
+
+#include <ostrel/character_sets.h>
+
+namespace ostrel {
+
+constexpr CharSet kDigits(CHARSET_DIGITS);
+constexpr CharSet kAlnum(CHARSET_ALNUM);
+constexpr CharSet kPppDigits(CHARSET_PPP_DIGITS);
+constexpr CharSet kHexDigits(CHARSET_HEX);
+constexpr CharSet kAsciiPrintable(CHARSET_ASCII_PRINTABLE);
+constexpr CharSet kLatin1Printable(CHARSET_LATIN1_PRINTABLE);
+constexpr CharSet kName(CHARSET_NAME);
+constexpr CharSet kMail(CHARSET_MAIL);
+
+}  // namespace ostrel

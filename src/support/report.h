@@ -1,0 +1,20 @@
+// Report lines: the one place that writes what the checks have to say.
+//
+// Each message is one output call, so that lines of concurrent callers never break inside.
+#ifndef OSTREL_SUPPORT_REPORT_H
+#define OSTREL_SUPPORT_REPORT_H
+
+namespace ostrel {
+
+// refuse prints the report line, flushes every output stream and returns the code.
+[[gnu::format(printf, 2, 3)]] int refuse(int code, const char* format, ...);
+
+// inform prints the line and flushes every output stream.
+[[gnu::format(printf, 1, 2)]] void inform(const char* format, ...);
+
+// remark prints the line and leaves the flushing to whoever prints next.
+[[gnu::format(printf, 1, 2)]] void remark(const char* format, ...);
+
+}  // namespace ostrel
+
+#endif

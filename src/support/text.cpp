@@ -1,0 +1,19 @@
+#include "support/text.h"
+
+namespace ostrel {
+
+namespace {
+
+char to_lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
+
+}  // namespace
+
+bool equals_ignoring_case(const char* a, const char* b)
+{
+    for (; to_lower(*a) == to_lower(*b); ++a, ++b) {
+        if (*a == '\0') return true;
+    }
+    return false;
+}
+
+}  // namespace ostrel

@@ -1,0 +1,29 @@
+// Comparisons of texts, byte by byte and the same under every locale.
+#ifndef OSTREL_SUPPORT_TEXT_H
+#define OSTREL_SUPPORT_TEXT_H
+
+#include <cstring>
+#include <string_view>
+
+namespace ostrel {
+
+inline bool equals(const char* a, const char* b) { return std::strcmp(a, b) == 0; }
+
+inline bool starts_with(std::string_view text, std::string_view prefix)
+{
+    return text.size() >= prefix.size() && std::strncmp(text.data(), prefix.data(), prefix.size()) == 0;
+}
+
+inline bool ends_with(std::string_view text, std::string_view suffix)
+{
+    if (text.size() < suffix.size()) return false;
+    text.remove_prefix(text.size() - suffix.size());
+    return starts_with(text, suffix);
+}
+
+// equals_ignoring_case folds the letters A to Z only; strcasecmp would fold as the host's locale does.
+bool equals_ignoring_case(const char* a, const char* b);
+
+}  // namespace ostrel
+
+#endif
