@@ -1,0 +1,182 @@
+#include "catalogue/caller.h"
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <new>
+#include <stdexcept>
+
+namespace ostrel::catalogue {
+
+namespace {
+
+std::size_t page_size()
+{
+    static const auto size = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    return size;
+}
+
+std::invalid_argument bad_argument(const Argument& argument, const char* what)
+{
+    return std::invalid_argument("argument " + std::string(argument.name) + " " + what);
+}
+
+const std::string& text_of(const Argument& argument, const Value& value)
+{
+    const auto* text = std::get_if<std::string>(&value);
+    if (text == nullptr) throw bad_argument(argument, "takes a text or NULL");
+    if (text->find('\0') != std::string::npos) throw bad_argument(argument, "cannot hold a NUL byte");
+    return *text;
+}
+
+template <typename T>
+T number_of(const Argument& argument, const Value& value)
+{
+    const auto* number = std::get_if<long long>(&value);
+    if (number == nullptr) throw bad_argument(argument, "takes a number");
+    if (!std::in_range<T>(*number)) {
+        throw bad_argument(argument, std::is_signed_v<T> ? "takes a number from -2147483648 to 2147483647"
+                                                         : "takes a number from 0 to 4294967295");
+    }
+    return static_cast<T>(*number);
+}
+
+// text_at reads a text that may fill its buffer without a terminator.
+std::string text_at(const char* begin, std::size_t capacity) { return {begin, strnlen(begin, capacity)}; }
+
+}  // namespace
+
+GuardedMemory::~GuardedMemory() { release(); }
+
+void GuardedMemory::release()
+{
+    if (mapping_ != nullptr) munmap(mapping_, usable_ + 2 * page_size());
+    mapping_ = nullptr;
+}
+
+char* GuardedMemory::place(std::size_t size, Edge edge)
+{
+    if (mapping_ == nullptr || size > usable_) {
+        release();
+        const std::size_t page = page_size();
+        usable_ = (std::max<std::size_t>(size, 1) + page - 1) / page * page;
+        void* mapping = mmap(nullptr, usable_ + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        if (mapping == MAP_FAILED) throw std::bad_alloc();
+        mapping_ = static_cast<char*>(mapping);
+        if (mprotect(mapping_ + page, usable_, PROT_READ | PROT_WRITE) != 0) throw std::bad_alloc();
+    }
+    char* begin = mapping_ + page_size();
+    return edge == Edge::kBegin ? begin : begin + usable_ - size;
+}
+
+void Caller::load_argument(std::size_t index, const Value& value)
+{
+    const Argument& argument = function_->arguments[index];
+    Raw& raw = raw_[index];
+    if (argument.kind == Kind::kInteger) {
+        raw.integer = number_of<int>(argument, value);
+        return;
+    }
+    if (argument.kind == Kind::kUnsigned) {
+        raw.natural = number_of<unsigned>(argument, value);
+        return;
+    }
+    if (std::holds_alternative<std::nullptr_t>(value)) return;
+    GuardedMemory& memory = memory_.at(index);
+    if (argument.kind == Kind::kIntegerOut) {
+        const int initial = number_of<int>(argument, value);
+        capacity_.at(index) = sizeof initial;
+        raw.pointer = memory.place(sizeof initial, edge_);
+        std::memcpy(raw.pointer, &initial, sizeof initial);
+        return;
+    }
+    if (argument.kind == Kind::kBlocks) {
+        const auto* texts = std::get_if<std::vector<std::string>>(&value);
+        if (texts == nullptr || texts->size() != argument.blocks) {
+            throw bad_argument(argument, ("takes " + std::to_string(argument.blocks) + " texts").c_str());
+        }
+        const std::size_t size = argument.blocks * argument.capacity;
+        char* block = memory.place(size, edge_);
+        std::memset(block, 0, size);
+        raw.pointer = block;
+        for (const std::string& text : *texts) {
+            text_of(argument, text);
+            if (text.size() >= argument.capacity)
+                throw bad_argument(argument, "holds a text that is too long");
+            std::memcpy(block, text.data(), text.size());
+            block += argument.capacity;
+        }
+        return;
+    }
+    const std::string& text = text_of(argument, value);
+    const std::size_t size = std::max(argument.capacity, text.size() + 1);
+    char* place = memory.place(size, edge_);
+    std::memcpy(place, text.data(), text.size());
+    std::memset(place + text.size(), 0, size - text.size());
+    capacity_.at(index) = size;
+    raw.pointer = place;
+}
+
+void Caller::load(const Function& function, const std::vector<Value>& values)
+{
+    const auto& arguments = function.arguments;
+    const auto inputs = static_cast<std::size_t>(
+        std::ranges::count_if(arguments, [](const Argument& argument) { return !argument.output_only; }));
+    const bool outputs_given = values.size() == arguments.size();
+    if (!outputs_given && values.size() != inputs) {
+        std::string expected;
+        for (const Argument& argument : arguments) {
+            if (!argument.output_only) expected.append(expected.empty() ? "" : ", ").append(argument.name);
+        }
+        throw std::invalid_argument(std::string(function.name) + " takes " + std::to_string(inputs) +
+                                    (inputs == 1 ? " argument: " : " arguments: ") + expected + "; " +
+                                    std::to_string(values.size()) + (values.size() == 1 ? " was" : " were") +
+                                    " given");
+    }
+    function_ = &function;
+    raw_.assign(arguments.size(), Raw());
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (outputs_given || !arguments[i].output_only) {
+            load_argument(i, values[next++]);
+        } else {
+            load_argument(i, arguments[i].kind == Kind::kIntegerOut ? Value(0LL) : Value(std::string()));
+        }
+    }
+}
+
+std::vector<Written> Caller::written() const
+{
+    std::vector<Written> result;
+    for (std::size_t i = 0; i < raw_.size(); ++i) {
+        const Argument& argument = function_->arguments[i];
+        const char* begin = static_cast<const char*>(raw_[i].pointer);
+        if (argument.kind != Kind::kBuffer && argument.kind != Kind::kBlocks &&
+            argument.kind != Kind::kIntegerOut) {
+            continue;
+        }
+        Value value = nullptr;
+        if (begin == nullptr) {
+            value = nullptr;
+        } else if (argument.kind == Kind::kIntegerOut) {
+            int number = 0;
+            std::memcpy(&number, begin, sizeof number);
+            value = static_cast<long long>(number);
+        } else if (argument.kind == Kind::kBuffer) {
+            value = text_at(begin, capacity_.at(i));
+        } else {
+            std::vector<std::string> texts;
+            for (std::size_t block = 0; block < argument.blocks; ++block) {
+                texts.push_back(text_at(begin + block * argument.capacity, argument.capacity));
+            }
+            value = std::move(texts);
+        }
+        result.push_back({&argument, std::move(value)});
+    }
+    return result;
+}
+
+}  // namespace ostrel::catalogue

@@ -1,0 +1,72 @@
+// Caller passes given values to a function and shows what it wrote, with an unreadable page at each argument.
+#ifndef OSTREL_CATALOGUE_CALLER_H
+#define OSTREL_CATALOGUE_CALLER_H
+
+#include <cstddef>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+
+namespace ostrel::catalogue {
+
+// Value is what is passed for one argument: NULL, a text, a number, or the texts of several blocks.
+using Value = std::variant<std::nullptr_t, std::string, long long, std::vector<std::string>>;
+
+// Edge says which end of each argument's memory lies against an unreadable page.
+enum class Edge { kEnd, kBegin };
+
+// GuardedMemory is memory between two unreadable pages. It grows as needed and is used again and again.
+class GuardedMemory {
+ public:
+    GuardedMemory() = default;
+    GuardedMemory(const GuardedMemory&) = delete;
+    GuardedMemory& operator=(const GuardedMemory&) = delete;
+    ~GuardedMemory();
+
+    // place gives room for size bytes that touches the unreadable page at that edge. What it held before is
+    // kept nowhere.
+    char* place(std::size_t size, Edge edge);
+
+ private:
+    void release();
+
+    char* mapping_ = nullptr;
+    std::size_t usable_ = 0;  // bytes between the two unreadable pages
+};
+
+// Written is what an argument that the function may write to holds after the call.
+struct Written {
+    const Argument* argument;
+    Value value;
+};
+
+class Caller {
+ public:
+    explicit Caller(Edge edge = Edge::kEnd) : edge_(edge) {}
+
+    // load takes the values of all arguments, or of all that are not only written. Throws
+    // std::invalid_argument, with a message for the user, when their number, kinds or ranges do not suit the
+    // function.
+    void load(const Function& function, const std::vector<Value>& values);
+
+    // call calls the function with what was loaded.
+    int call() { return function_->invoke(raw_); }
+
+    // written reads what the function may have written.
+    [[nodiscard]] std::vector<Written> written() const;
+
+ private:
+    void load_argument(std::size_t index, const Value& value);
+
+    Edge edge_;
+    const Function* function_ = nullptr;
+    std::array<GuardedMemory, 4> memory_;
+    std::array<std::size_t, 4> capacity_{};
+    std::vector<Raw> raw_;
+};
+
+}  // namespace ostrel::catalogue
+
+#endif

@@ -1,0 +1,151 @@
+#include "catalogue/case.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <numeric>
+#include <stdexcept>
+
+namespace ostrel::catalogue {
+
+using nlohmann::json;
+
+namespace {
+
+// bytes_from_utf8 is the reverse of utf8_from_bytes. The JSON parser has already refused malformed UTF-8.
+std::string bytes_from_utf8(std::string_view text)
+{
+    std::string bytes;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto lead = static_cast<unsigned char>(text[i]);
+        if (lead < 0x80) {
+            bytes += text[i];
+        } else if (lead == 0xC2 || lead == 0xC3) {
+            bytes += static_cast<char>((lead & 3) << 6 | (static_cast<unsigned char>(text[++i]) & 0x3F));
+        } else {
+            throw std::invalid_argument("a text holds a character above U+00FF, which is no byte");
+        }
+    }
+    return bytes;
+}
+
+std::size_t edit_distance(std::string_view a, std::string_view b)
+{
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+    std::vector<std::size_t> row(b.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = std::exchange(row[0], i);
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t change = diagonal + (lower(a[i - 1]) == lower(b[j - 1]) ? 0 : 1);
+            diagonal = std::exchange(row[j], std::min({row[j] + 1, row[j - 1] + 1, change}));
+        }
+    }
+    return row.back();
+}
+
+}  // namespace
+
+std::string utf8_from_bytes(std::string_view bytes)
+{
+    std::string text;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x80) {
+            text += c;
+        } else {
+            text += static_cast<char>(0xC0 | byte >> 6);
+            text += static_cast<char>(0x80 | (byte & 0x3F));
+        }
+    }
+    return text;
+}
+
+std::string text_from_json(const json& text)
+{
+    if (text.is_string()) return bytes_from_utf8(text.get_ref<const std::string&>());
+    std::string result;
+    if (text.is_object() && text.contains("repeat")) {
+        const std::string part = text_from_json(text["repeat"]);
+        const json times = text.value("times", json());
+        if (!times.is_number_unsigned())
+            throw std::invalid_argument("\"repeat\" needs a number of \"times\"");
+        const auto count = times.get<std::size_t>();
+        constexpr std::size_t kLargest = std::size_t{1} << 28;
+        if (!part.empty() && count > kLargest / part.size()) {
+            throw std::invalid_argument("a repeated text is longer than 256 MiB");
+        }
+        for (std::size_t i = 0; i < count && !part.empty(); ++i) result += part;
+        return result;
+    }
+    if (text.is_object() && text.contains("join") && text["join"].is_array()) {
+        for (const json& part : text["join"]) result += text_from_json(part);
+        return result;
+    }
+    throw std::invalid_argument(
+        "a text is a string, {\"repeat\": text, \"times\": n} or {\"join\": [text, ...]}");
+}
+
+Value value_from_json(const json& value)
+{
+    if (value.is_null()) return nullptr;
+    if (value.is_number_unsigned() && value.get<unsigned long long>() > 0xFFFFFFFFULL) {
+        throw std::invalid_argument("a number is above 4294967295");
+    }
+    if (value.is_number_integer()) return value.get<long long>();
+    if (value.is_array()) {
+        std::vector<std::string> texts;
+        for (const json& text : value) texts.push_back(text_from_json(text));
+        return texts;
+    }
+    return text_from_json(value);
+}
+
+json json_from_value(const Value& value)
+{
+    struct Visitor {
+        json operator()(std::nullptr_t) const { return nullptr; }
+        json operator()(const std::string& text) const { return utf8_from_bytes(text); }
+        json operator()(long long number) const { return number; }
+        json operator()(const std::vector<std::string>& texts) const
+        {
+            json result = json::array();
+            for (const std::string& text : texts) result.push_back(utf8_from_bytes(text));
+            return result;
+        }
+    };
+    return std::visit(Visitor(), value);
+}
+
+Case case_from_json(const json& row)
+{
+    if (!row.is_object()) throw std::invalid_argument("a case is an object with \"check\" and \"args\"");
+    const json name = row.value("check", json());
+    if (!name.is_string()) throw std::invalid_argument("\"check\" must be the name of a check");
+    const json args = row.value("args", json());
+    if (!args.is_array()) throw std::invalid_argument("\"args\" must be an array");
+    Case result;
+    result.function = find(name.get_ref<const std::string&>());
+    if (result.function == nullptr) throw std::invalid_argument(unknown_function(name.get<std::string>()));
+    for (const json& arg : args) result.values.push_back(value_from_json(arg));
+    return result;
+}
+
+std::string unknown_function(std::string_view name)
+{
+    constexpr std::size_t kLongestName = 64;  // no name is longer; the comparison below is not linear
+    name = name.substr(0, kLongestName);
+    std::vector<std::pair<std::size_t, std::string_view>> nearest;
+    for (const Function& function : functions()) {
+        nearest.emplace_back(edit_distance(name, function.name), function.name);
+    }
+    const std::size_t shown = std::min<std::size_t>(3, nearest.size());
+    std::partial_sort(nearest.begin(), nearest.begin() + static_cast<std::ptrdiff_t>(shown), nearest.end());
+    std::string message = "there is no check " + std::string(name) + "; the nearest names are ";
+    for (std::size_t i = 0; i < shown; ++i) {
+        if (i > 0) message += i + 1 == shown ? " and " : ", ";
+        message += nearest[i].second;
+    }
+    return message;
+}
+
+}  // namespace ostrel::catalogue

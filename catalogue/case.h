@@ -1,0 +1,42 @@
+// Case: which function is called with what, read from JSON.
+#ifndef OSTREL_CATALOGUE_CASE_H
+#define OSTREL_CATALOGUE_CASE_H
+
+#include <nlohmann/json_fwd.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/caller.h"
+#include "catalogue/catalogue.h"
+
+namespace ostrel::catalogue {
+
+struct Case {
+    const Function* function = nullptr;
+    std::vector<Value> values;
+};
+
+// case_from_json reads {"check": name, "args": [...]}; other members are not looked at. Throws
+// std::invalid_argument with a message for the user.
+Case case_from_json(const nlohmann::json& row);
+
+// text_from_json reads a text: a string; {"repeat": text, "times": n}; or {"join": [text, ...]}. Each
+// character of a string is one byte, the one that its code point numbers; code points above 0xFF are refused.
+std::string text_from_json(const nlohmann::json& text);
+
+// value_from_json reads an argument: null, a text, a number, or an array of texts.
+Value value_from_json(const nlohmann::json& value);
+
+// json_from_value is the reverse; texts come out as plain strings.
+nlohmann::json json_from_value(const Value& value);
+
+// utf8_from_bytes writes each byte as the code point of the same number.
+std::string utf8_from_bytes(std::string_view bytes);
+
+// unknown_function is the message for a name that the catalogue does not hold, with the nearest names.
+std::string unknown_function(std::string_view name);
+
+}  // namespace ostrel::catalogue
+
+#endif

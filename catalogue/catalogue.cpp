@@ -1,0 +1,46 @@
+#include "catalogue/catalogue.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace ostrel::catalogue {
+
+namespace {
+
+void append(std::vector<Function>& all, std::string_view family, std::vector<Function> functions)
+{
+    for (Function& function : functions) function.family = family;
+    std::move(functions.begin(), functions.end(), std::back_inserter(all));
+}
+
+std::vector<Function> collect()
+{
+    std::vector<Function> all;
+    append(all, "strings", strings());
+    append(all, "addresses", addresses());
+    append(all, "accounts", accounts());
+    append(all, "parameters", parameter_checks());
+    return all;
+}
+
+}  // namespace
+
+const std::vector<Function>& functions()
+{
+    static const std::vector<Function> all = collect();
+    return all;
+}
+
+const Function* find(std::string_view name)
+{
+    static const std::vector<const Function*> by_name = [] {
+        std::vector<const Function*> sorted;
+        for (const Function& function : functions()) sorted.push_back(&function);
+        std::ranges::sort(sorted, {}, &Function::name);
+        return sorted;
+    }();
+    const auto found = std::ranges::lower_bound(by_name, name, {}, &Function::name);
+    return found != by_name.end() && (*found)->name == name ? *found : nullptr;
+}
+
+}  // namespace ostrel::catalogue
