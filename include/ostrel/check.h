@@ -6,8 +6,14 @@
 #include <ostrel/addresses.h>
 #include <ostrel/character_class.h>
 #include <ostrel/character_sets.h>
+#include <ostrel/l3forwarding_check.h>
+#include <ostrel/lan_check.h>
+#include <ostrel/names.h>
 #include <ostrel/parameter_check.h>
+#include <ostrel/port_mapping_check.h>
+#include <ostrel/ppp_check.h>
 #include <ostrel/result_code.h>
 #include <ostrel/strings.h>
+#include <ostrel/subnets.h>
 
 #endif

@@ -107,6 +107,10 @@ int validate_ppp_user_name(const char* value, int* type_out)
     return OSTREL_VALID;
 }
 
+int validate_ppp_password(std::string_view value) { return validate_string(1, 67, kLatin1Printable, value); }
+
+int validate_lan_config_password(std::string_view value) { return validate_string(4, 12, kName, value); }
+
 }  // namespace ostrel
 
 using namespace ostrel;
@@ -118,9 +122,9 @@ int TcmValidatePPPUsername(const char* value, int* account_type)
     return validate_ppp_user_name(value, account_type);
 }
 
-int TcmValidatePPPPassword(const char* value) { return validate_string(1, 67, kLatin1Printable, value); }
+int TcmValidatePPPPassword(const char* value) { return validate_ppp_password(value); }
 
-int TcmValidateLANConfigPassword(const char* value) { return validate_string(4, 12, kName, value); }
+int TcmValidateLANConfigPassword(const char* value) { return validate_lan_config_password(value); }
 
 int TcmValidateEmailPassword(const char* value) { return validate_string(0, 255, kName, value); }
 

@@ -12,5 +12,9 @@ constexpr CharSet kAsciiPrintable(CHARSET_ASCII_PRINTABLE);
 constexpr CharSet kLatin1Printable(CHARSET_LATIN1_PRINTABLE);
 constexpr CharSet kName(CHARSET_NAME);
 constexpr CharSet kMail(CHARSET_MAIL);
+constexpr CharSet kDescription(CHARSET_DESCRIPTION);
+constexpr CharSet kDeviceName(CHARSET_DEVICE_NAME);
+constexpr CharSet kRouterName(CHARSET_ROUTER_NAME);
+constexpr CharSet kCisName(CHARSET_CIS_NAME);
 
 }  // namespace ostrel

@@ -46,6 +46,10 @@ extern const CharSet kAsciiPrintable;
 extern const CharSet kLatin1Printable;
 extern const CharSet kName;
 extern const CharSet kMail;
+extern const CharSet kDescription;
+extern const CharSet kDeviceName;
+extern const CharSet kRouterName;
+extern const CharSet kCisName;
 
 }  // namespace ostrel
 

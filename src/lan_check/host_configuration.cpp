@@ -1,0 +1,158 @@
+#include <ostrel/character_sets.h>
+#include <ostrel/lan_check.h>
+#include <ostrel/parameter_check.h>
+#include <ostrel/result_code.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+#include "primitives/accounts.h"
+#include "primitives/names.h"
+#include "primitives/strings.h"
+#include "primitives/subnets.h"
+#include "support/assertion.h"
+#include "support/char_set.h"
+#include "support/report.h"
+#include "support/text.h"
+
+using namespace ostrel;
+
+namespace {
+
+constexpr char kModule[] = "lan_check";
+
+constexpr std::size_t kLongestConnection = 255;
+
+}  // namespace
+
+int LAN_check_ipinterface_enabled(const char* value_p)
+{
+    require_value(value_p, kModule);
+    if (equals(value_p, "1")) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface enabled:%s\n\n", __func__, value_p);
+}
+
+int LAN_check_ip_router(const char* value_p)
+{
+    require_value(value_p, kModule);
+    if (is_router_address(value_p)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface IP:%s\n\n", __func__, value_p);
+}
+
+int LAN_check_interface_subnet_mask(const char* value_p)
+{
+    require_value(value_p, kModule);
+    if (equals(value_p, "255.255.255.0")) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface subnet mask:%s\n\n", __func__,
+                  value_p);
+}
+
+int LAN_check_interface_addr_type(const char* value_p)
+{
+    require_value(value_p, kModule);
+    if (equals(value_p, "Static")) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface addressing type:%s\n\n", __func__,
+                  value_p);
+}
+
+int LAN_check_domain_name(const char* value_p)
+{
+    require_value(value_p, kModule);
+    const int code = validate_router_name(value_p);
+    if (code == OSTREL_VALID) return OSTREL_VALID;
+    return refuse(code, "Error in %s: Error domain name:%s\n\n", __func__, value_p);
+}
+
+int LAN_check_dhcp_addr_range(const char* startAddress, const char* endAddress, const char* lanAddress)
+{
+    inform("Info in %s: Check dhcp addr range: start ip%s, end ip:%s, lan ip:%s\n\n", __func__, startAddress,
+           endAddress, lanAddress);
+    if (is_address_range(startAddress, endAddress, lanAddress)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error dhcp addr range: start ip%s, end ip:%s\n\n",
+                  __func__, startAddress, endAddress);
+}
+
+int LAN_check_dns_servers(const char* value_p)
+{
+    require_value(value_p, kModule);
+    if (is_offered_dns(value_p)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error dns server:%s\n\n", __func__, value_p);
+}
+
+int LAN_check_dhcp_reserved_addr(const char* reservedList, const char* lanAddress)
+{
+    inform("Info in %s: Dhcp reserved addr: %s, lan ip:%s\n\n", __func__, reservedList, lanAddress);
+    int code = validate_reserved_addresses(reservedList, lanAddress);
+    if (code == OSTREL_VALID) return OSTREL_VALID;
+    if (code == OSTREL_INVALID) code = OSTREL_INVALID_VALUE;
+    return refuse(code, "Error in %s: Error dhcp reserved addr: %s\n\n", __func__, reservedList);
+}
+
+int LAN_check_config_password(const char* value_p)
+{
+    require_value(value_p, kModule);
+    const int code = validate_lan_config_password(value_p);
+    if (code == OSTREL_VALID) return OSTREL_VALID;
+    return refuse(code, "Error in %s: Error config password:%s\n\n", __func__, value_p);
+}
+
+int LAN_check_dhcp_lease_time(const char* value_p)
+{
+    require_value(value_p, kModule);
+    // It is the address that is compared, with one that no string has; a lease time of any text is accepted.
+    if (reinterpret_cast<std::uintptr_t>(value_p) != UINTPTR_MAX) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID, "Error in %s: Error dhcp lease time:%s\n\n", __func__, value_p);
+}
+
+int LAN_check_use_allocated_wan(const char* value_p)
+{
+    require_value(value_p, kModule);
+    // The sense is inverted: the three keywords are what is refused.
+    if (!equals(value_p, "Normal") && !equals(value_p, "UseAllocatedSubnet") &&
+        !equals(value_p, "Passthrough")) {
+        return OSTREL_VALID;
+    }
+    return refuse(OSTREL_INVALID, "Error in %s: Error use allocated wan:%s\n\n", __func__, value_p);
+}
+
+int LAN_check_associated_connection(const char* value_p)
+{
+    require_value(value_p, kModule);
+    if (std::strlen(value_p) <= kLongestConnection) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID, "Error in %s: Error associated_connection length:%s\n\n", __func__,
+                  value_p);
+}
+
+int LAN_check_passthrough_lease(const char* value_p)
+{
+    require_value(value_p, kModule);
+    const int lease = std::atoi(value_p);
+    if (lease >= 0 && lease <= 65535) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID, "Error in %s: Error passthrough lease:%s\n\n", __func__, value_p);
+}
+
+int LAN_check_passthrough_MAC_address(const char* /*value*/) { return OSTREL_VALID; }
+
+int LAN_check_subnet_mask(const char* value_p)
+{
+    require_value(value_p, kModule);
+    if (equals(value_p, "255.255.255.0") || equals(value_p, "255.255.255.128") ||
+        equals(value_p, "255.255.255.192") || equals(value_p, "255.255.255.224") ||
+        equals(value_p, "255.255.255.240") || equals(value_p, "255.255.255.248") ||
+        equals(value_p, "255.255.255.252")) {
+        return OSTREL_VALID;
+    }
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface subnet mask:%s\n\n", __func__,
+                  value_p);
+}
+
+int LAN_check_cis_dev_name(const char* value_p)
+{
+    require_value(value_p, kModule);
+    if (const int code = validate_string(1, 15, kCisName, value_p); code != OSTREL_VALID) {
+        return refuse(code, "Error in %s: Error dev name:%s\n\n", __func__, value_p);
+    }
+    if (PARAM_check_string_prefix(value_p, CHARSET_IDENT_LETTERS) == OSTREL_VALID) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID, "Error in %s: Error domain name prefix:%s\n\n", __func__, value_p);
+}
