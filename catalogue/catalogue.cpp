@@ -19,7 +19,13 @@ std::vector<Function> collect()
     append(all, "strings", strings());
     append(all, "addresses", addresses());
     append(all, "accounts", accounts());
+    append(all, "subnets", subnets());
+    append(all, "names", names());
     append(all, "parameters", parameter_checks());
+    append(all, "ppp", ppp_checks());
+    append(all, "lan", lan_checks());
+    append(all, "port-mapping", port_mapping_checks());
+    append(all, "forwarding", forwarding_checks());
     return all;
 }
 

@@ -189,7 +189,13 @@ Function number(const char* name, const Name (&names)[detail::Signature<F>::kAri
 std::vector<Function> strings();
 std::vector<Function> addresses();
 std::vector<Function> accounts();
+std::vector<Function> subnets();
+std::vector<Function> names();
 std::vector<Function> parameter_checks();
+std::vector<Function> ppp_checks();
+std::vector<Function> lan_checks();
+std::vector<Function> port_mapping_checks();
+std::vector<Function> forwarding_checks();
 
 }  // namespace ostrel::catalogue
 
