@@ -1,0 +1,168 @@
+// What rows cannot say of the list edits: the exact bytes written, and slow second versions of both DNS
+// edits.
+
+#include <gtest/gtest.h>
+#include <ostrel/lan_check.h>
+
+#include <cstring>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "catalogue/capture.h"
+#include "tests/support/slow_lists.h"
+
+namespace ostrel::tests {
+
+namespace {
+
+constexpr std::size_t kRoom = 256;
+
+// unfilled is a buffer that holds the text, its terminator, and behind it what a zero-filled one would not.
+std::string unfilled(const std::string& text)
+{
+    std::string buffer(kRoom, '\xAA');
+    buffer.replace(0, text.size() + 1, text + '\0');
+    return buffer;
+}
+
+struct Split {
+    bool has_two = false;
+    std::string first;
+    std::string second;
+};
+
+Split slow_split(const std::string& list)
+{
+    const std::size_t comma = list.find(',');
+    if (comma == std::string::npos) return {};
+    return {true, list.substr(0, comma), list.substr(comma + 1)};
+}
+
+struct Answer {
+    int code;
+    std::string out;
+
+    bool operator==(const Answer&) const = default;
+};
+
+void PrintTo(const Answer& answer, std::ostream* stream) { *stream << answer.code << ' ' << answer.out; }
+
+Answer slow_add(const std::string& added, const std::string& existing)
+{
+    const std::string begin = "Error in LAN_check_add_dns_servers: ";
+    std::string out;
+    if (existing.empty()) return {0, out};
+    const Split old_ones = slow_split(existing);
+    if (old_ones.has_two) {
+        out += begin + "Existed dns servers: " + old_ones.second + " and " + old_ones.first + "\n\n";
+    }
+    const Split new_ones = slow_split(added);
+    if (new_ones.has_two) {
+        out += begin + "New dns servers: " + new_ones.second + " and " + new_ones.first + "\n\n";
+    }
+    bool repeated = existing == added;
+    if (new_ones.has_two && old_ones.has_two) {
+        repeated = old_ones.first == new_ones.second || old_ones.second == new_ones.second ||
+                   old_ones.first == new_ones.first || old_ones.second == new_ones.first;
+    } else if (new_ones.has_two) {
+        repeated = existing == new_ones.second || existing == new_ones.first;
+    }
+    return {repeated ? 701 : 0, out};
+}
+
+Answer slow_delete(const std::string& server, const std::string& existing)
+{
+    const std::string begin = "Error in LAN_check_delete_dns_server: ";
+    if (!slow_is_address(server)) return {402, begin + "Not a valid IP addr: " + server + "\n\n"};
+    const Split list = slow_split(existing);
+    if (list.has_two && server == list.second) return {0, ""};
+    const std::size_t length = list.has_two ? list.first.size() : existing.size();
+    if (server.size() == length && std::strncmp(existing.c_str(), server.c_str(), length) != 0) {
+        return {0, ""};
+    }
+    return {702, begin + "Can't find the IP addr: " + server + " in existed servers:" + existing + "\n\n"};
+}
+
+const std::vector<std::string>& server_parts()
+{
+    static const std::vector<std::string> parts = {"1.1.1.1", "1.1.1.1", "8.8.8.8", "10.0.0.1",
+                                                   "0",       ",",       ",",       " "};
+    return parts;
+}
+
+using Edit = int (*)(const char*, const char*);
+
+void expect_agreement(Edit edit, Answer (*slow)(const std::string&, const std::string&), int code)
+{
+    std::mt19937 random(3);
+    int with_code = 0;
+    for (int round = 0; round < 100000; ++round) {
+        const std::string one = random_text(random, server_parts(), 4);
+        const std::string other = random_text(random, server_parts(), 4);
+        Answer actual{};
+        {
+            catalogue::Capture capture;
+            actual.code = edit(one.c_str(), other.c_str());
+            const catalogue::Printed printed = capture.take();
+            actual.out = printed.flushed == printed.out.size() ? printed.out : "not flushed";
+        }
+        const Answer expected = slow(one, other);
+        with_code += expected.code == code ? 1 : 0;
+        ASSERT_EQ(expected, actual) << '"' << one << "\" \"" << other << '"';
+    }
+    EXPECT_GT(with_code, 500);
+}
+
+}  // namespace
+
+TEST(AllowedMacAddresses, an_empty_list_gets_no_terminator)
+{
+    for (const std::string& address : {std::string(), std::string("x"), std::string("00:11:22:33:44:55"),
+                                       std::string(kRoom, 'x'), std::string(kRoom - 1, 'x')}) {
+        std::string buffer = unfilled("");
+        std::string expected = buffer;
+        expected.replace(0, address.size(), address);
+        EXPECT_EQ(LAN_check_add_allowedMACAddress(address.c_str(), buffer.data()), 0);
+        EXPECT_EQ(buffer, expected) << address;
+    }
+}
+
+TEST(AllowedMacAddresses, a_longer_list_gets_a_terminator)
+{
+    const std::string address = "00:11:22:33:44:55";
+    for (std::size_t length = 1; length <= 142; ++length) {
+        const std::string list(length, 'z');
+        std::string buffer = unfilled(list);
+        EXPECT_EQ(LAN_check_add_allowedMACAddress(address.c_str(), buffer.data()), 0);
+        EXPECT_EQ(buffer, unfilled(list + ',' + address)) << length;
+    }
+}
+
+TEST(AllowedMacAddresses, a_refusal_leaves_every_byte)
+{
+    const std::vector<std::pair<std::string, std::string>> refused = {
+        {"zz", std::string(142, 'z')},
+        {"", "z"},
+        {"00:11:22:33:44:5", "z"},
+        {"00:11:22:33:44:55", std::string(143, 'z')},
+    };
+    for (const auto& [address, list] : refused) {
+        std::string buffer = unfilled(list);
+        catalogue::Capture capture;
+        EXPECT_EQ(LAN_check_add_allowedMACAddress(address.c_str(), buffer.data()), -1);
+        EXPECT_EQ(buffer, unfilled(list)) << address;
+    }
+}
+
+TEST(DnsServers, adding_agrees_with_a_slow_version)
+{
+    expect_agreement(LAN_check_add_dns_servers, slow_add, 701);
+}
+
+TEST(DnsServers, deleting_agrees_with_a_slow_version)
+{
+    expect_agreement(LAN_check_delete_dns_server, slow_delete, 702);
+}
+
+}  // namespace ostrel::tests

@@ -1,0 +1,208 @@
+// The list rules against slow second versions that work on copies, and their time.
+
+#include <gtest/gtest.h>
+#include <ostrel/subnets.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "tests/support/slow_lists.h"
+
+namespace ostrel::tests {
+
+namespace {
+
+std::string lan(int last) { return "192.168.1." + std::to_string(last); }
+
+bool slow_is_in_subnet(const std::string& reference, const std::string& address)
+{
+    const char* dot = std::strrchr(reference.c_str(), '.');
+    const auto length = dot == nullptr ? 0 : static_cast<std::size_t>(dot + 1 - reference.c_str());
+    return std::strncmp(reference.c_str(), address.c_str(), length) == 0;
+}
+
+int slow_reserved(const std::string& list, const std::string& lan_address)
+{
+    std::vector<char> copy(list.begin(), list.end());
+    copy.push_back('\0');
+    char* cursor = copy.data();
+    while (char* comma = std::strchr(cursor, ',')) {
+        *comma = '\0';
+        const std::string item = slow_trim(cursor);
+        if (!slow_is_in_subnet(lan_address, item)) return -1;
+        cursor = comma + 1;
+        while (*cursor == ' ') ++cursor;
+        if (std::strstr(cursor, item.c_str()) != nullptr &&
+            (cursor[item.size()] == ',' || cursor[item.size()] == '\0')) {
+            return 701;
+        }
+    }
+    return slow_is_in_subnet(lan_address, slow_trim(cursor)) ? 0 : -1;
+}
+
+int slow_offered_dns(const std::string& list)
+{
+    int servers = 0;
+    int result = 0;
+    std::string rest = list;
+    for (;;) {
+        const std::size_t comma = rest.find(',');
+        ++servers;
+        if (!slow_is_address(slow_trim(rest.substr(0, comma)))) result = -1;
+        if (result != 0 || comma == std::string::npos) break;
+        rest = rest.substr(comma + 1);
+    }
+    return servers >= 3 ? -1 : result;
+}
+
+double seconds(const std::string& list, const char* lan_address, int code)
+{
+    double least = 1e9;
+    for (int run = 0; run < 5; ++run) {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(TcmValidateReservedAddress(list.c_str(), lan_address), code);
+        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+        least = std::min(least, taken.count());
+    }
+    return least;
+}
+
+// expect_linear compares the time for lists of which one is 16 times as long as the other; a time that grew
+// with the square would be 256 times as long.
+void expect_linear(const std::string& small, const std::string& large, const char* lan_address, int code)
+{
+    ASSERT_EQ(large.size() / small.size(), 16U);
+    const double small_time = seconds(small, lan_address, code);
+    const double large_time = seconds(large, lan_address, code);
+    EXPECT_LT(large_time, 80 * small_time + 1e-3) << small_time << " s, then " << large_time << " s";
+}
+
+}  // namespace
+
+TEST(SameSubnet, agrees_with_a_slow_version_on_every_pair_of_short_texts)
+{
+    const std::string alphabet = "1.2";
+    for (std::size_t length = 0; length <= 5; ++length) {
+        std::string reference(length, alphabet[0]);
+        for_each_text(reference, alphabet, [&] {
+            for (std::size_t other_length = 0; other_length <= 5; ++other_length) {
+                std::string address(other_length, alphabet[0]);
+                for_each_text(address, alphabet, [&] {
+                    ASSERT_EQ(isInSameSubnet(reference.c_str(), address.c_str()),
+                              slow_is_in_subnet(reference, address) ? 0 : -1)
+                        << '"' << reference << "\" \"" << address << '"';
+                });
+            }
+        });
+    }
+}
+
+TEST(ReservedAddresses, agree_with_a_slow_version_on_every_short_list)
+{
+    const std::string alphabet = "1., 2";
+    std::size_t repeated = 0;
+    for (std::size_t length = 0; length <= 7; ++length) {
+        std::string list(length, alphabet[0]);
+        for_each_text(list, alphabet, [&] {
+            for (const char* lan_address : {"", "1", ".", "1.", "1.2"}) {
+                const int expected = slow_reserved(list, lan_address);
+                repeated += expected == 701 ? 1 : 0;
+                ASSERT_EQ(TcmValidateReservedAddress(list.c_str(), lan_address), expected)
+                    << '"' << list << "\" \"" << lan_address << '"';
+            }
+        });
+    }
+    EXPECT_GT(repeated, 1000U);
+}
+
+TEST(ReservedAddresses, agree_with_a_slow_version_on_random_lists)
+{
+    std::mt19937 random(1);
+    const std::vector<std::string> parts = {"1.1", "1.2", "1.12", "1.1 2", "2.1", "1.", ",", ",", " ", "\t"};
+    std::vector<int> codes(702);
+    for (int round = 0; round < 200000; ++round) {
+        const std::string list = random_text(random, parts, 12);
+        const char* lan_address = round % 2 == 0 ? "1.9" : "9";
+        const int expected = slow_reserved(list, lan_address);
+        ASSERT_EQ(TcmValidateReservedAddress(list.c_str(), lan_address), expected) << '"' << list << '"';
+        ++codes.at(static_cast<std::size_t>(std::max(expected, 0)));
+    }
+    EXPECT_GT(codes[0], 1000);
+    EXPECT_GT(codes[701], 1000);
+}
+
+TEST(ReservedAddresses, take_linear_time_without_equally_long_neighbours)
+{
+    const auto list = [](int pairs) {
+        std::string text;
+        for (int i = 0; i < pairs; ++i) text += "192.168.1.5,192.168.1.66,";
+        return text.replace(text.size() - 1, 1, " ");
+    };
+    expect_linear(list(8192), list(8192 * 16), "192.168.1.1", 0);
+}
+
+TEST(ReservedAddresses, take_linear_time_for_long_items)
+{
+    // The search for the first item compares nearly all of it at each place of the third, were it a plain
+    // one.
+    const auto list = [](std::size_t length) {
+        const std::string same(length / 4 - 2, 'a');
+        return same + "b," + same + "c," + same + same + "d,d";
+    };
+    expect_linear(list(1U << 16), list(1U << 20), "nodot", 0);
+}
+
+TEST(OfferedDns, agree_with_a_slow_version)
+{
+    std::mt19937 random(2);
+    const std::vector<std::string> parts = {"1.1.1.1", "1.1.1.1", "255.8.8.8", "1.1.1.256", ",", ",",
+                                            ",",       " ",       "\t",        "1",         "."};
+    int accepted = 0;
+    for (int round = 0; round < 200000; ++round) {
+        const std::string list = random_text(random, parts, 7);
+        const int expected = slow_offered_dns(list);
+        accepted += expected == 0 ? 1 : 0;
+        ASSERT_EQ(TcmValidateofferDNS(list.c_str()), expected) << '"' << list << '"';
+    }
+    EXPECT_GT(accepted, 1000);
+}
+
+TEST(AddressRange, every_pair_of_last_numbers)
+{
+    for (int start = 0; start <= 256; ++start) {
+        for (int end = 0; end <= 256; ++end) {
+            const bool valid = start >= 1 && end <= 254 && start <= end;
+            ASSERT_EQ(TcmValidateAddressRange(lan(start).c_str(), lan(end).c_str(), "192.168.1.1"),
+                      valid ? 0 : -1)
+                << start << " to " << end;
+        }
+    }
+}
+
+TEST(RouterAddress, every_third_and_last_number)
+{
+    for (int third = 0; third <= 256; ++third) {
+        for (int last = 0; last <= 256; ++last) {
+            const std::string address = "192.168." + std::to_string(third) + '.' + std::to_string(last);
+            ASSERT_EQ(TcmValidateIPRouter(address.c_str()), third <= 255 && last >= 1 && last <= 254 ? 0 : -1)
+                << address;
+        }
+    }
+}
+
+TEST(RouterAddress, every_first_and_second_number)
+{
+    for (int first = 0; first <= 255; ++first) {
+        for (int second = 0; second <= 255; ++second) {
+            const std::string address = std::to_string(first) + '.' + std::to_string(second) + ".1.1";
+            ASSERT_EQ(TcmValidateIPRouter(address.c_str()), first == 192 && second == 168 ? 0 : -1)
+                << address;
+        }
+    }
+}
+
+}  // namespace ostrel::tests
