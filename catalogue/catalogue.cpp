@@ -20,6 +20,8 @@ std::vector<Function> collect()
     append(all, "addresses", addresses());
     append(all, "accounts", accounts());
     append(all, "parameters", parameter_checks());
+    append(all, "wireless", wireless());
+    append(all, "wlan", wlan_checks());
     return all;
 }
 

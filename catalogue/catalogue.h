@@ -190,6 +190,8 @@ std::vector<Function> strings();
 std::vector<Function> addresses();
 std::vector<Function> accounts();
 std::vector<Function> parameter_checks();
+std::vector<Function> wireless();
+std::vector<Function> wlan_checks();
 
 }  // namespace ostrel::catalogue
 

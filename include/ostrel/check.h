@@ -9,5 +9,7 @@
 #include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
 #include <ostrel/strings.h>
+#include <ostrel/wireless.h>
+#include <ostrel/wlan_check.h>
 
 #endif

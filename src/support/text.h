@@ -21,6 +21,11 @@ inline bool ends_with(std::string_view text, std::string_view suffix)
     return starts_with(text, suffix);
 }
 
+inline bool equals(std::string_view a, std::string_view b)
+{
+    return a.size() == b.size() && starts_with(a, b);
+}
+
 // equals_ignoring_case folds the letters A to Z only; strcasecmp would fold as the host's locale does.
 bool equals_ignoring_case(const char* a, const char* b);
 
