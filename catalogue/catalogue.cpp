@@ -26,6 +26,8 @@ std::vector<Function> collect()
     append(all, "lan", lan_checks());
     append(all, "port-mapping", port_mapping_checks());
     append(all, "forwarding", forwarding_checks());
+    append(all, "wireless", wireless());
+    append(all, "wlan", wlan_checks());
     return all;
 }
 

@@ -196,6 +196,8 @@ std::vector<Function> ppp_checks();
 std::vector<Function> lan_checks();
 std::vector<Function> port_mapping_checks();
 std::vector<Function> forwarding_checks();
+std::vector<Function> wireless();
+std::vector<Function> wlan_checks();
 
 }  // namespace ostrel::catalogue
 

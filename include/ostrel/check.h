@@ -15,5 +15,7 @@
 #include <ostrel/result_code.h>
 #include <ostrel/strings.h>
 #include <ostrel/subnets.h>
+#include <ostrel/wireless.h>
+#include <ostrel/wlan_check.h>
 
 #endif

@@ -27,6 +27,8 @@ int validate_number(int min, int max, const CharSet& allowed, const char* value)
     return number >= min && number <= max ? OSTREL_VALID : OSTREL_OUT_OF_RANGE;
 }
 
+bool is_printable_ascii(std::string_view text) { return !text.empty() && kAsciiPrintable.contains_all(text); }
+
 int count(std::string_view text, char c)
 {
     int occurrences = 0;

@@ -1,0 +1,56 @@
+/*
+ * Radio settings of a wireless LAN.
+ *
+ * What holds for all checks of the wireless LAN stands in <ostrel/wlan_check.h>.
+ *
+ * radio is "RADIO_2.4GHz" or "RADIO_5GHz", in upper or lower case. Numbers are as atoi reads them. All are
+ * silent and answer 0 or OSTREL_INVALID.
+ */
+#ifndef OSTREL_WLAN_CHECK_RADIO_H
+#define OSTREL_WLAN_CHECK_RADIO_H
+
+#include <ostrel/api.h>
+
+/* WLAN_check_radio_id: one of the two radios; a build for another model than "M2840" has only the first. */
+OSTREL_API int WLAN_check_radio_id(const char* radio);
+
+/*
+ * WLAN_check_channel: the channel of a radio.
+ *
+ * "0" is the automatic channel and valid on any radio, also on one that does not exist. On 2.4 GHz a channel
+ * is valid if it is below 14 and among the first 15 numbers that the driver lists: the command "wlctl -i wl0
+ * channels > /var/hnapwl0chlist" is run through the shell, and the file is read and deleted. Where the file
+ * cannot be opened, every channel is refused and nothing is deleted. On 5 GHz the channels 36, 40, 44, 48,
+ * 149, 153, 157 and 161 are valid, and 0: also "00", text without a number and the empty value.
+ *
+ * THE FILE'S NAME IS FIXED, so two calls must not run at once. Only the 2.4 GHz radio runs the command.
+ */
+OSTREL_API int WLAN_check_channel(const char* channel, const char* radio);
+
+/*
+ * WLAN_check_second_channel: the second channel of a 40 MHz pair on 2.4 GHz.
+ *
+ * The second is the primary + 2 for the primaries 1 to 4 and 7, the primary - 2 for 5, 6 and 8 to 13; or both
+ * are 0.
+ */
+OSTREL_API int WLAN_check_second_channel(const char* primary, const char* second);
+
+/*
+ * WLAN_check_5g_second_channel: the centre of a 40 MHz pair on 5 GHz: 38 for 36 and 40, 46 for 44 and 48, 151
+ * for 149 and 153, 159 for 157 and 161; or both are 0.
+ */
+OSTREL_API int WLAN_check_5g_second_channel(const char* primary, const char* second);
+
+/* WLAN_check_wide_channel: the width in MHz: "0" or "20", and "40" on 5 GHz only. */
+OSTREL_API int WLAN_check_wide_channel(const char* width, const char* radio);
+
+/*
+ * WLAN_check_IEEE11_mode: on 2.4 GHz "802.11b", "802.11g", "802.11n", "802.11bg" or "802.11bgn"; on 5 GHz
+ * "802.11n", "802.11a" or "802.11an".
+ */
+OSTREL_API int WLAN_check_IEEE11_mode(const char* mode, const char* radio);
+
+/* WLAN_check_IEEE11_standard: "a", "b", "g" or "n". */
+OSTREL_API int WLAN_check_IEEE11_standard(const char* value);
+
+#endif

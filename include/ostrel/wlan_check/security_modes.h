@@ -1,0 +1,119 @@
+/*
+ * Security modes of a wireless LAN, its HNAP security setting and its RADIUS secret.
+ *
+ * What holds for all checks of the wireless LAN stands in <ostrel/wlan_check.h>.
+ */
+#ifndef OSTREL_WLAN_CHECK_SECURITY_MODES_H
+#define OSTREL_WLAN_CHECK_SECURITY_MODES_H
+
+#include <ostrel/api.h>
+
+/*
+ * WLAN_check_beacon_type: see TcmValidateBeaconType.
+ *
+ * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error beacon type:%s\n\n".
+ */
+OSTREL_API int WLAN_check_beacon_type(const char* value);
+
+/*
+ * WLAN_check_basic_encryption_modes: "WEPEncryption" or "None".
+ *
+ * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic encryption modes:%s\n\n".
+ */
+OSTREL_API int WLAN_check_basic_encryption_modes(const char* value);
+
+/*
+ * WLAN_check_basic_authentication_modes: "None" or "EAPAuthentication".
+ *
+ * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic authentication modes:%s\n\n".
+ */
+OSTREL_API int WLAN_check_basic_authentication_modes(const char* value);
+
+/*
+ * WLAN_check_wpa_encryption_modes: "WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption",
+ * "AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption" or "WEPandTKIPandAESEncryption".
+ *
+ * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wpa encryption modes:%s\n\n".
+ */
+OSTREL_API int WLAN_check_wpa_encryption_modes(const char* value);
+
+/*
+ * WLAN_check_wpa_authentication_modes: "PSKAuthentication" or "EAPAuthentication".
+ *
+ * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wpa authentication modes:%s\n\n".
+ */
+OSTREL_API int WLAN_check_wpa_authentication_modes(const char* value);
+
+/*
+ * WLAN_check_IEEE11i_encryption_modes: an encryption mode of IEEE 802.11i (WPA2).
+ *
+ * readwrite_mode: which list applies.
+ *                 0: "AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption",
+ *                    "WEPandTKIPandAESEncryption"
+ *                 1: "WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption"
+ *
+ * 0; OSTREL_INVALID_VALUE, in the order of the tests:
+ *   32 bytes or more: "Error in %s: Error IEEE11i encryption modes:%s length out of range. [0,31]\n\n"
+ *   another mode:     "Error in %s: Error IEEE11i encryption modes:readwrite mode %d invalid \n\n"
+ *   not in the list:  "Error in %s: Error IEEE11i encryption modes:%s\n\n"
+ */
+OSTREL_API int WLAN_check_IEEE11i_encryption_modes(const char* value, int readwrite_mode);
+
+/*
+ * WLAN_check_IEEE11i_authentication_modes: an authentication mode of IEEE 802.11i.
+ *
+ * readwrite_mode: 0: "EAPAuthentication", "EAPandPSKAuthentication"; 1: "PSKAuthentication".
+ *
+ * Codes, tests and texts as for WLAN_check_IEEE11i_encryption_modes: the texts speak of encryption modes.
+ */
+OSTREL_API int WLAN_check_IEEE11i_authentication_modes(const char* value, int readwrite_mode);
+
+/*
+ * WLAN_check_authentication_service_mode: "none" (in lower case), "LinkAuthentication" or "RadiusClient".
+ *
+ * 0; OSTREL_INVALID_VALUE, with
+ *   32 bytes or more: "Error in %s: Error authentication_service_mode:%s length out of range. [0,31]\n\n"
+ *   otherwise:        "Error in %s: Error authentication_service_mode value invalid :%s\n\n"
+ */
+OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
+
+/*
+ * WLAN_check_HNAP_SecurityType: an HNAP security type and the encryption that suits it. Silent.
+ *
+ * setting1, setting2: "0" and "auto" together allow WPA2 only.
+ *
+ *   type                                   encryption
+ *   "WEP-OPEN", "WEP-SHARED"               "WEP-64" or "WEP-128"
+ *   "WEP-RADIUS"                           the same; not offered on the model "M2840"
+ *   "WPA-PSK", "WPA-RADIUS"                "TKIP"
+ *   "WPA2-PSK", "WPA2-RADIUS"              "AES"
+ *   "WPA-AUTO-PSK", "WPA-AUTO-RADIUS"      "TKIPORAES"
+ *
+ * The two settings and the model, which is an option of the build, are compared with the host's
+ * cmsUtl_strcmp.
+ *
+ * 0; OSTREL_SECURITY_TYPE_NOT_ALLOWED: another type, the empty one included, or one not allowed here;
+ * OSTREL_ENCRYPTION_MISMATCH.
+ */
+OSTREL_API int WLAN_check_HNAP_SecurityType(const char* setting1, const char* setting2, const char* type,
+                                            const char* encryption);
+
+/*
+ * WLAN_check_HNAP_KeyRenewal: the interval in seconds at which a group key is renewed: 600 to 7200, written
+ * in 3 or 4 digits. Silent.
+ *
+ * renewal: with "false" the other two are not looked at.
+ * type:    with "WEP-SHARED", "WEP-RADIUS" or "WEP-OPEN" the interval is not looked at.
+ *
+ * 0; OSTREL_INVALID.
+ */
+OSTREL_API int WLAN_check_HNAP_KeyRenewal(const char* renewal, const char* interval, const char* type);
+
+/*
+ * WLAN_check_radius_sec: a RADIUS shared secret (RFC 2865) of 1 to 80 bytes, whatever they are. Silent.
+ *
+ * 0; OSTREL_INVALID.
+ */
+OSTREL_API int WLAN_check_radius_sec(const char* value);
+
+#endif

@@ -1,0 +1,20 @@
+// HTML character references, for where the host supplies no converter.
+#ifndef OSTREL_SUPPORT_CHARACTER_REFERENCES_H
+#define OSTREL_SUPPORT_CHARACTER_REFERENCES_H
+
+#include <cstddef>
+
+namespace ostrel {
+
+// convert_references rewrites the references in the first length bytes of the text into the Latin-1 bytes
+// that they stand for and ends the text behind the last one; text[length] must be writable.
+//
+// It knows the names of HTML 4 for Latin-1 characters ("&nbsp;" to "&yuml;", "&quot;", "&amp;", "&lt;",
+// "&gt;"), XML's "&apos;", and the numbers 1 to 255 in decimal ("&#65;") and hexadecimal ("&#x41;",
+// "&#X41;"). Anything else stands as it is: an unknown name, a missing ";", another number. The text is read
+// once, so what a reference gives is not read again: "&amp;lt;" becomes "&lt;". The text never grows.
+void convert_references(char* text, std::size_t length);
+
+}  // namespace ostrel
+
+#endif

@@ -1,0 +1,33 @@
+#include "support/host.h"
+
+#include <cstddef>
+#include <cstring>
+
+#include "support/character_references.h"
+#include "support/text.h"
+
+// Weak, so that a host without them can load the library; visible, so that the loader may bind them to the
+// host's.
+extern "C" {
+[[gnu::weak, gnu::visibility("default")]] int cmsUtl_strcmp(const char* a, const char* b);
+[[gnu::weak, gnu::visibility("default")]] int htmlToText(char* text, std::size_t length);
+}
+
+namespace ostrel {
+
+bool host_equals(const char* a, const char* b)
+{
+    return cmsUtl_strcmp != nullptr ? cmsUtl_strcmp(a, b) == 0 : equals(a, b);
+}
+
+void resolve_references(char* text)
+{
+    const std::size_t length = std::strlen(text);
+    if (htmlToText != nullptr) {
+        htmlToText(text, length);
+    } else {
+        convert_references(text, length);
+    }
+}
+
+}  // namespace ostrel

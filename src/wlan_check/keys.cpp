@@ -1,0 +1,135 @@
+#include <ostrel/result_code.h>
+#include <ostrel/wlan_check/keys.h>
+
+#include <cstdlib>
+#include <cstring>
+
+#include "primitives/strings.h"
+#include "primitives/wireless.h"
+#include "support/assertion.h"
+#include "support/char_set.h"
+#include "support/report.h"
+#include "support/text.h"
+#include "wlan_check/rules.h"
+
+using namespace ostrel;
+
+namespace {
+
+constexpr unsigned kWepKeysLine = 500;  // the line that the assertion names is part of its text
+
+constexpr std::size_t kWepKeys = 4;
+constexpr std::size_t kWepKeyDistance = 257;  // from one key of the block to the next
+constexpr int kWep64Length = 10;              // hexadecimal digits
+constexpr int kWep128Length = 26;
+
+bool is_pass_phrase_type(const char* type)
+{
+    return equals(type, "WPA-PSK") || equals(type, "WPA-AUTO-PSK") || equals(type, "WPA2-PSK");
+}
+
+bool is_radius_type(const char* type)
+{
+    return equals(type, "WPA-RADIUS") || equals(type, "WPA-AUTO-RADIUS") || equals(type, "WPA2-RADIUS");
+}
+
+int trace_code(int code)
+{
+    trace("The code : %d\n", code);
+    return code;
+}
+
+int check_wep_key(const char* key, const char* encryption)
+{
+    if (!is_printable_ascii(key) && !kHexDigits.contains_all(key)) {
+        trace("The key should not be empty or non printable ascii string: %s\n", key);
+        trace("The key should not contain non hexa char: %s\n", key);
+        return OSTREL_FORBIDDEN_CHARACTER;
+    }
+    trace("The key : %s\n", key);
+    const std::size_t length = std::strlen(key);
+    const bool suits = (equals(encryption, "WEP-64") && length == kWep64Length) ||
+                       (equals(encryption, "WEP-128") && length == kWep128Length);
+    return trace_code(suits ? OSTREL_VALID : OSTREL_ENCRYPTION_MISMATCH);
+}
+
+}  // namespace
+
+int WLAN_check_preshared_key(const char* value)
+{
+    const int code = validate_pre_shared_key(value);
+    if (code == OSTREL_VALID) return OSTREL_VALID;
+    return refuse(code, "Error in %s: Error key pass phrase:%s\n\n", __func__, value);
+}
+
+int WLAN_check_preshared_key2(const char* psk, const char* passphrase)
+{
+    if (psk[0] != '\0') {
+        const int code = validate_pre_shared_key(psk);
+        if (code == OSTREL_VALID) return OSTREL_VALID;
+        return refuse(code, "Error in %s: Error PreSharedKey:%s\n\n", __func__, psk);
+    }
+    if (passphrase[0] != '\0') {
+        // What is judged as a pass phrase is the key, which is empty: a pass phrase alone is always refused.
+        return refuse(validate_pass_phrase(psk), "Error in %s: Error KeyPassphrase:%s\n\n", __func__,
+                      passphrase);
+    }
+    inform("Error in %s: Error PreSharedKey:%s\n\n", __func__, psk);
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error KeyPassphrase:%s\n\n", __func__, passphrase);
+}
+
+int WLAN_check_wepkeys(char* keys)
+{
+    if (keys == nullptr) fail_assertion("value != ((void *)0)", "wlan_check", __func__, kWepKeysLine);
+    int kept_length = 0;
+    for (std::size_t i = 0; i < kWepKeys; ++i) {
+        char* key = keys + i * kWepKeyDistance;
+        if (!is_printable_ascii(key)) {
+            inform("Error in %s: The key should not be empty or non printable ascii string: %s\n\n", __func__,
+                   key);
+            key[0] = '\0';
+            continue;
+        }
+        if (!kHexDigits.contains_all(key)) {
+            return refuse(OSTREL_FORBIDDEN_CHARACTER,
+                          "Error in %s: The key should not contain non hexa char: %s\n\n", __func__, key);
+        }
+        const int length = static_cast<int>(std::strlen(key));
+        if (length > kWep128Length) {
+            return refuse(OSTREL_TOO_LONG, "Error in %s: The hexa key is too long: %s\n\n", __func__, key);
+        }
+        if (length < kWep64Length) {
+            return refuse(OSTREL_TOO_SHORT, "Error in %s: The hexa key is too short: %s\n\n", __func__, key);
+        }
+        if (length != kWep64Length && length != kWep128Length) {
+            return refuse(OSTREL_WEP_KEY_LENGTH,
+                          "Error in %s: The hexa key length is less than %d and more than %d: %s\n\n",
+                          __func__, kWep128Length, kWep64Length, key);
+        }
+        if (kept_length == 0) kept_length = length;
+        if (length != kept_length) {
+            return refuse(OSTREL_WEP_KEY_LENGTH,
+                          "Error in %s: The previons valid key length is %d and now %d for: %s\n\n", __func__,
+                          kept_length, length, key);
+        }
+    }
+    return kept_length != 0 ? OSTREL_VALID : OSTREL_INVALID_VALUE;
+}
+
+int WLAN_check_keys(const char* key, const char* type, const char* encryption)
+{
+    if (is_pass_phrase_type(type)) {
+        const bool is_key =
+            validate_pre_shared_key(key) == OSTREL_VALID || validate_pass_phrase(key) == OSTREL_VALID;
+        return trace_code(is_key ? OSTREL_VALID : OSTREL_INVALID);
+    }
+    if (is_wep_type(type)) return check_wep_key(key, encryption);
+    return trace_code(is_radius_type(type) ? OSTREL_VALID : OSTREL_INVALID);
+}
+
+int WLAN_check_default_wep_key_index(const char* value)
+{
+    const int index = std::atoi(value);
+    if (index >= 0 && index < static_cast<int>(kWepKeys)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error default wep key index:%s\n\n", __func__, value);
+}

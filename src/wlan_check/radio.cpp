@@ -1,0 +1,130 @@
+#include <ostrel/result_code.h>
+#include <ostrel/wlan_check/radio.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "support/text.h"
+#include "wlan_check/rules.h"
+
+using namespace ostrel;
+
+namespace {
+
+constexpr char kListFile[] = "/var/hnapwl0chlist";
+constexpr char kListCommand[] = "wlctl -i wl0 channels > /var/hnapwl0chlist";
+constexpr int kMostListed = 15;
+constexpr int kHighestChannel = 13;  // channel 14 is not accepted, even where the driver offers it
+
+struct ChannelPair {
+    int primary;
+    int second;
+};
+
+// 1 to 4 and 7 pair upward, the others downward; no second channel at all is the pair of zeros.
+constexpr ChannelPair kPairs[] = {{1, 3}, {2, 4}, {3, 5},  {4, 6},  {5, 3},   {6, 4},   {7, 9},
+                                  {8, 6}, {9, 7}, {10, 8}, {11, 9}, {12, 10}, {13, 11}, {0, 0}};
+// The second channel is the centre of the 40 MHz pair.
+constexpr ChannelPair k5GHzPairs[] = {{36, 38},   {40, 38},   {44, 46},   {48, 46}, {149, 151},
+                                      {153, 151}, {157, 159}, {161, 159}, {0, 0}};
+
+bool is_2_4_ghz(const char* radio) { return equals_ignoring_case(radio, "RADIO_2.4GHz"); }
+
+bool is_5_ghz(const char* radio) { return equals_ignoring_case(radio, "RADIO_5GHz"); }
+
+bool is_5_ghz_channel(int channel)
+{
+    switch (channel) {
+        case 36:
+        case 40:
+        case 44:
+        case 48:
+        case 149:
+        case 153:
+        case 157:
+        case 161:
+            return true;
+        default:
+            return false;
+    }
+}
+
+// is_listed_by_driver asks the wireless driver's tool which channels it allows at this moment.
+bool is_listed_by_driver(int channel)
+{
+    // The tool's exit status says nothing that the list does not.
+    // NOLINTNEXTLINE(cert-env33-c,concurrency-mt-unsafe)
+    [[maybe_unused]] const int status = std::system(kListCommand);
+    std::FILE* list = std::fopen(kListFile, "r");
+    if (list == nullptr) return false;
+    bool found = false;
+    int listed = 0;
+    for (int i = 0; i < kMostListed && !found && std::fscanf(list, "%d", &listed) == 1; ++i) {
+        found = listed == channel && listed <= kHighestChannel;
+    }
+    std::fclose(list);
+    unlink(kListFile);
+    return found;
+}
+
+int require(bool valid) { return valid ? OSTREL_VALID : OSTREL_INVALID; }
+
+}  // namespace
+
+int WLAN_check_radio_id(const char* radio)
+{
+    if (is_model_m2840()) return require(is_2_4_ghz(radio) || is_5_ghz(radio));
+    return require(is_2_4_ghz(radio));
+}
+
+int WLAN_check_channel(const char* channel, const char* radio)
+{
+    if (equals(channel, "0")) return OSTREL_VALID;
+    const int number = std::atoi(channel);
+    if (is_2_4_ghz(radio)) return require(is_listed_by_driver(number));
+    // Text without a number reads as 0 and passes for the automatic channel on this band.
+    return require(is_5_ghz(radio) && (number == 0 || is_5_ghz_channel(number)));
+}
+
+int WLAN_check_second_channel(const char* primary, const char* second)
+{
+    const int first_number = std::atoi(primary);
+    const int second_number = std::atoi(second);
+    for (const ChannelPair& pair : kPairs) {
+        if (pair.primary == first_number && pair.second == second_number) return OSTREL_VALID;
+    }
+    return OSTREL_INVALID;
+}
+
+int WLAN_check_5g_second_channel(const char* primary, const char* second)
+{
+    const int first_number = std::atoi(primary);
+    const int second_number = std::atoi(second);
+    for (const ChannelPair& pair : k5GHzPairs) {
+        if (pair.primary == first_number && pair.second == second_number) return OSTREL_VALID;
+    }
+    return OSTREL_INVALID;
+}
+
+int WLAN_check_wide_channel(const char* width, const char* radio)
+{
+    const bool is_narrow = equals(width, "0") || equals(width, "20");
+    if (is_2_4_ghz(radio)) return require(is_narrow);
+    return require(is_5_ghz(radio) && (is_narrow || equals(width, "40")));
+}
+
+int WLAN_check_IEEE11_mode(const char* mode, const char* radio)
+{
+    if (is_2_4_ghz(radio)) {
+        return require(equals(mode, "802.11b") || equals(mode, "802.11g") || equals(mode, "802.11n") ||
+                       equals(mode, "802.11bg") || equals(mode, "802.11bgn"));
+    }
+    return require(is_5_ghz(radio) &&
+                   (equals(mode, "802.11n") || equals(mode, "802.11a") || equals(mode, "802.11an")));
+}
+
+int WLAN_check_IEEE11_standard(const char* value)
+{
+    return require(equals(value, "a") || equals(value, "b") || equals(value, "g") || equals(value, "n"));
+}

@@ -1,0 +1,106 @@
+#include <ostrel/result_code.h>
+#include <ostrel/wlan_check/settings.h>
+
+#include <cstdlib>
+#include <cstring>
+
+#include "primitives/wireless.h"
+#include "support/char_set.h"
+#include "support/host.h"
+#include "support/report.h"
+#include "support/text.h"
+
+using namespace ostrel;
+
+namespace {
+
+constexpr std::size_t kLongestMode = 31;
+constexpr int kLongestDescription = 4096;
+constexpr int kLongestDomain = 3;
+
+constexpr CharSet kEnvironments("OIoi");  // outdoor, indoor
+
+// A missing place holds the terminator, which no set contains.
+bool is_regulatory_domain(const char* value)
+{
+    return kDigits.contains(value[0]) && kDigits.contains(value[1]) && kEnvironments.contains(value[2]);
+}
+
+bool is_operation_mode(const char* value, int readwrite_mode)
+{
+    if (readwrite_mode == 1) return equals(value, "InfrastructureAccessPoint");
+    return equals(value, "WirelessBridge") || equals(value, "WirelessRepeater") ||
+           equals(value, "WirelessStation");
+}
+
+}  // namespace
+
+int WLAN_check_ssid(char* value)
+{
+    resolve_references(value);
+    const int code = validate_ssid(value);
+    if (code == OSTREL_VALID) return OSTREL_VALID;
+    return refuse(code, "Error in %s: Error SSID:%s\n", __func__, value);
+}
+
+int WLAN_check_max_bit_rate(const char* value)
+{
+    if (is_rate_or_auto(value)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error max bit rate:%s\n\n", __func__, value);
+}
+
+int WLAN_check_basic_data_transmit_rate(const char* value)
+{
+    if (is_rate_set(value)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error basic data transmit rate:%s\n\n", __func__,
+                  value);
+}
+
+int WLAN_check_op_data_transmit_rate(const char* value)
+{
+    if (equals(value, "1,2,5.5,6,9,11,12,18,24,36,48,54") || equals(value, "")) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error operation data transmit rate:%s\n\n", __func__,
+                  value);
+}
+
+int WLAN_check_location_description(const char* value)
+{
+    if (std::strlen(value) <= kLongestDescription) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE,
+                  "Error in %s: Error location description :%s length out of range. [0,%d]\n\n", __func__,
+                  value, kLongestDescription);
+}
+
+int WLAN_check_regulatory_domain(const char* value)
+{
+    if (std::strlen(value) > kLongestDomain) {
+        return refuse(OSTREL_INVALID_VALUE,
+                      "Error in %s: Error regulatory domain :%s length out of range. [0,%d]\n\n", __func__,
+                      value, kLongestDomain);
+    }
+    if (is_regulatory_domain(value)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error regulatory domain value invalid :%s\n\n",
+                  __func__, value);
+}
+
+int WLAN_check_device_opration_mode(const char* value, int readwrite_mode)
+{
+    if (std::strlen(value) > kLongestMode) {
+        return refuse(OSTREL_INVALID_VALUE,
+                      "Error in %s: Error operating mode:%s length out of range. [0,31]\n\n", __func__,
+                      value);
+    }
+    if (readwrite_mode != 0 && readwrite_mode != 1) {
+        return refuse(OSTREL_INVALID_VALUE,
+                      "Error in %s: Error operating mode:readwrite mode %d invalid \n\n", __func__,
+                      readwrite_mode);
+    }
+    if (is_operation_mode(value, readwrite_mode)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error operating mode:%s\n\n", __func__, value);
+}
+
+int WLAN_check_DistanceFromRoot(const char* value)
+{
+    if (std::atoi(value) < 0) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_DISTANCE, "Error in %s: Error DistanceFromRoot:%s\n\n", __func__, value);
+}

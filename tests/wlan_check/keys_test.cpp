@@ -1,0 +1,116 @@
+// What the vectors cannot say of the keys: which bytes of a WEP key block are written, and the assertion.
+
+#include <gtest/gtest.h>
+#include <ostrel/result_code.h>
+#include <ostrel/wlan_check.h>
+
+#include <array>
+#include <cstring>
+#include <string>
+
+#include "catalogue/capture.h"
+
+namespace ostrel::tests {
+
+namespace {
+
+constexpr std::size_t kDistance = 257;
+constexpr char kFilling = '\x5A';
+
+using Keys = std::array<std::string, 4>;
+using Block = std::array<char, 4 * kDistance>;
+
+// block_of lays the keys out in a block whose other bytes are all set.
+Block block_of(const Keys& keys)
+{
+    Block block;
+    block.fill(kFilling);
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        std::memcpy(block.data() + i * kDistance, keys[i].c_str(), keys[i].size() + 1);
+    }
+    return block;
+}
+
+// check answers what WLAN_check_wepkeys does, and expects it to write a NUL at the given keys and nothing
+// else.
+int check(const Keys& keys, const std::array<bool, 4>& emptied)
+{
+    Block block = block_of(keys);
+    Block expected = block;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (emptied.at(i)) expected.at(i * kDistance) = '\0';
+    }
+    int code = 0;
+    {
+        const catalogue::Capture capture;
+        code = WLAN_check_wepkeys(block.data());
+    }
+    EXPECT_TRUE(block == expected);
+    return code;
+}
+
+constexpr char kKey[] = "0123456789";
+
+TEST(WepKeys, OnlyTheFirstByteOfAnEmptiedKeyIsWritten)
+{
+    const std::string longest(256, '\t');
+    EXPECT_EQ(OSTREL_VALID, check({kKey, kKey, kKey, kKey}, {}));
+    EXPECT_EQ(OSTREL_VALID, check({"\t123456789", kKey, longest, "caf\xE9"}, {true, false, true, true}));
+    EXPECT_EQ(OSTREL_INVALID_VALUE, check({longest, longest, longest, longest}, {true, true, true, true}));
+    EXPECT_EQ(OSTREL_INVALID_VALUE, check({"", "", "", ""}, {}));
+}
+
+TEST(WepKeys, KeysStayEmptiedWhenALaterOneIsRefusedAndLaterOnesStay)
+{
+    EXPECT_EQ(OSTREL_TOO_SHORT, check({"\x7F", "\x80", "abc", "\t"}, {true, true, false, false}));
+    EXPECT_EQ(OSTREL_FORBIDDEN_CHARACTER, check({"\x01", "xyz", "\t", "\t"}, {true, false, false, false}));
+}
+
+TEST(WepKeys, EveryByteAtEveryPlace)
+{
+    for (std::size_t place = 0; place < 10; ++place) {
+        for (int byte = 1; byte < 256; ++byte) {
+            std::string key = kKey;
+            key[place] = static_cast<char>(byte);
+            const bool hexadecimal =
+                (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'F') || (byte >= 'a' && byte <= 'f');
+            const bool printable = byte >= 0x20 && byte <= 0x7E;
+            const int expected = printable && !hexadecimal ? OSTREL_FORBIDDEN_CHARACTER : OSTREL_VALID;
+            EXPECT_EQ(expected, check({kKey, key, kKey, kKey}, {false, !printable, false, false}))
+                << place << ' ' << byte;
+        }
+    }
+}
+
+TEST(WepKeys, EveryLengthBesideEachOther)
+{
+    for (std::size_t first = 1; first <= 256; ++first) {
+        const bool kept = first == 10 || first == 26;
+        const int expected = first < 10   ? OSTREL_TOO_SHORT
+                             : first > 26 ? OSTREL_TOO_LONG
+                             : kept       ? OSTREL_VALID
+                                          : OSTREL_WEP_KEY_LENGTH;
+        const std::string key(first, 'a');
+        EXPECT_EQ(expected, check({key, key, key, key}, {})) << first;
+        EXPECT_EQ(expected, check({key, "", "", key}, {})) << first;
+        if (kept) {
+            const std::string other(36 - first, 'a');
+            EXPECT_EQ(OSTREL_WEP_KEY_LENGTH, check({key, "", "", other}, {})) << first;
+        }
+    }
+}
+
+TEST(WepKeysDeathTest, NullIsAssertedOn)
+{
+#if defined(__GLIBC__) && !defined(__UCLIBC__)
+    const char* const report =
+        ": wlan_check:500: WLAN_check_wepkeys: Assertion `value != \\(\\(void \\*\\)0\\)' failed";
+#else
+    const char* const report = "value != \\(\\(void \\*\\)0\\)";
+#endif
+    EXPECT_EXIT(WLAN_check_wepkeys(nullptr), testing::KilledBySignal(SIGABRT), report);
+}
+
+}  // namespace
+
+}  // namespace ostrel::tests
