@@ -19,7 +19,14 @@ std::vector<Function> collect()
     append(all, "strings", strings());
     append(all, "addresses", addresses());
     append(all, "accounts", accounts());
+    append(all, "hosts", hosts());
+    append(all, "date-time", date_time());
     append(all, "parameters", parameter_checks());
+    append(all, "management", management());
+    append(all, "guest-access", guest_access());
+    append(all, "hnap", hnap());
+    append(all, "time", time_checks());
+    append(all, "branding", branding_checks());
     return all;
 }
 

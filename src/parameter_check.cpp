@@ -94,8 +94,7 @@ int PARAM_check_hexa_string(const char* value_p)
 
 int PARAM_check_printable_ascii_string(const char* value_p)
 {
-    if (value_p == nullptr || value_p[0] == '\0') return OSTREL_INVALID;
-    return kAsciiPrintable.contains_all(value_p) ? OSTREL_VALID : OSTREL_INVALID;
+    return is_printable(value_p) ? OSTREL_VALID : OSTREL_INVALID;
 }
 
 int PARAM_check_provisioning_code(const char* value_p) { return validate_provisioning_code(value_p); }

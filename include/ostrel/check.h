@@ -4,10 +4,15 @@
 
 #include <ostrel/accounts.h>
 #include <ostrel/addresses.h>
+#include <ostrel/branding_check.h>
 #include <ostrel/character_class.h>
 #include <ostrel/character_sets.h>
+#include <ostrel/date_time.h>
+#include <ostrel/hosts.h>
+#include <ostrel/mgtserver_check.h>
 #include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
 #include <ostrel/strings.h>
+#include <ostrel/time_check.h>
 
 #endif

@@ -27,6 +27,11 @@ int validate_number(int min, int max, const CharSet& allowed, const char* value)
     return number >= min && number <= max ? OSTREL_VALID : OSTREL_OUT_OF_RANGE;
 }
 
+bool is_printable(const char* value)
+{
+    return value != nullptr && value[0] != '\0' && kAsciiPrintable.contains_all(value);
+}
+
 int count(std::string_view text, char c)
 {
     int occurrences = 0;

@@ -10,6 +10,10 @@ constexpr CharSet kPppDigits(CHARSET_PPP_DIGITS);
 constexpr CharSet kHexDigits(CHARSET_HEX);
 constexpr CharSet kAsciiPrintable(CHARSET_ASCII_PRINTABLE);
 constexpr CharSet kLatin1Printable(CHARSET_LATIN1_PRINTABLE);
+constexpr CharSet kIpv4(CHARSET_IPV4);
+constexpr CharSet kHost(CHARSET_HOST);
+constexpr CharSet kUrl(CHARSET_URL);
+constexpr CharSet kHostPort(CHARSET_HOSTPORT);
 constexpr CharSet kName(CHARSET_NAME);
 constexpr CharSet kMail(CHARSET_MAIL);
 

@@ -44,6 +44,10 @@ extern const CharSet kPppDigits;
 extern const CharSet kHexDigits;
 extern const CharSet kAsciiPrintable;
 extern const CharSet kLatin1Printable;
+extern const CharSet kIpv4;
+extern const CharSet kHost;
+extern const CharSet kUrl;
+extern const CharSet kHostPort;
 extern const CharSet kName;
 extern const CharSet kMail;
 
