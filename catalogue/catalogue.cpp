@@ -18,16 +18,23 @@ std::vector<Function> collect()
     std::vector<Function> all;
     append(all, "strings", strings());
     append(all, "addresses", addresses());
+    append(all, "hosts", hosts());
     append(all, "accounts", accounts());
+    append(all, "date-time", date_time());
     append(all, "subnets", subnets());
+    append(all, "wireless", wireless());
     append(all, "names", names());
     append(all, "parameters", parameter_checks());
+    append(all, "wlan", wlan_checks());
     append(all, "ppp", ppp_checks());
     append(all, "lan", lan_checks());
     append(all, "port-mapping", port_mapping_checks());
     append(all, "forwarding", forwarding_checks());
-    append(all, "wireless", wireless());
-    append(all, "wlan", wlan_checks());
+    append(all, "management", management());
+    append(all, "guest-access", guest_access());
+    append(all, "hnap", hnap());
+    append(all, "time", time_checks());
+    append(all, "branding", branding_checks());
     return all;
 }
 

@@ -94,7 +94,7 @@ int PARAM_check_hexa_string(const char* value_p)
 
 int PARAM_check_printable_ascii_string(const char* value_p)
 {
-    return value_p != nullptr && is_printable_ascii(value_p) ? OSTREL_VALID : OSTREL_INVALID;
+    return is_printable(value_p) ? OSTREL_VALID : OSTREL_INVALID;
 }
 
 int PARAM_check_provisioning_code(const char* value_p) { return validate_provisioning_code(value_p); }

@@ -27,7 +27,10 @@ int validate_number(int min, int max, const CharSet& allowed, const char* value)
     return number >= min && number <= max ? OSTREL_VALID : OSTREL_OUT_OF_RANGE;
 }
 
-bool is_printable_ascii(std::string_view text) { return !text.empty() && kAsciiPrintable.contains_all(text); }
+bool is_printable(const char* value)
+{
+    return value != nullptr && value[0] != '\0' && kAsciiPrintable.contains_all(value);
+}
 
 int count(std::string_view text, char c)
 {

@@ -18,8 +18,9 @@ int validate_string(int min_len, int max_len, const CharSet& allowed, std::strin
 // validate_number is ValidateNum with a ready set.
 int validate_number(int min, int max, const CharSet& allowed, const char* value);
 
-// is_printable_ascii tells whether the text is one or more bytes of 0x20 to 0x7E.
-bool is_printable_ascii(std::string_view text);
+// is_printable tells whether every byte is one of 0x20 to 0x7E. Neither NULL nor the empty value is
+// printable.
+bool is_printable(const char* value);
 
 // count gives how many bytes of the text equal c.
 int count(std::string_view text, char c);

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "primitives/addresses.h"
+#include "support/search.h"
 #include "support/text.h"
 
 namespace ostrel {
@@ -54,12 +55,10 @@ struct Split {
 
 Split split(std::string_view list)
 {
-    std::size_t length = 0;
-    while (length < list.size() && list[length] != ',') ++length;
-    const std::string_view item = trim(std::string_view(list.data(), length));
-    if (length == list.size()) return {item, std::string_view(), true};
-    list.remove_prefix(length + 1);
-    return {item, skip_blanks(list), false};
+    const std::string_view item = before(list, ',');
+    if (item.size() == list.size()) return {trim(item), std::string_view(), true};
+    list.remove_prefix(item.size() + 1);
+    return {trim(item), skip_blanks(list), false};
 }
 
 // is_repeated looks at the character where the next item ends if it is as long as this one, and only then

@@ -57,11 +57,10 @@ bool is_rate_set(std::string_view text)
     // An empty item is no rate, which refuses the empty value and a comma that leads, ends or follows
     // another.
     for (;;) {
-        std::size_t length = 0;
-        while (length < text.size() && text[length] != ',') ++length;
-        if (!is_rate({text.data(), length})) return false;
-        if (length == text.size()) return true;
-        text.remove_prefix(length + 1);
+        const std::string_view item = before(text, ',');
+        if (!is_rate(item)) return false;
+        if (item.size() == text.size()) return true;
+        text.remove_prefix(item.size() + 1);
     }
 }
 

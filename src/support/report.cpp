@@ -32,12 +32,4 @@ void remark(const char* format, ...)
     va_end(arguments);
 }
 
-void trace(const char* format, ...)
-{
-    va_list arguments;
-    va_start(arguments, format);
-    std::vfprintf(stderr, format, arguments);
-    va_end(arguments);
-}
-
 }  // namespace ostrel

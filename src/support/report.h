@@ -15,9 +15,6 @@ namespace ostrel {
 // remark prints the line and leaves the flushing to whoever prints next.
 [[gnu::format(printf, 1, 2)]] void remark(const char* format, ...);
 
-// trace prints the line to standard error and flushes nothing.
-[[gnu::format(printf, 1, 2)]] void trace(const char* format, ...);
-
 }  // namespace ostrel
 
 #endif

@@ -1,6 +1,7 @@
 #include <ostrel/result_code.h>
 #include <ostrel/wlan_check/keys.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -20,8 +21,8 @@ constexpr unsigned kWepKeysLine = 500;  // the line that the assertion names is 
 
 constexpr std::size_t kWepKeys = 4;
 constexpr std::size_t kWepKeyDistance = 257;  // from one key of the block to the next
-constexpr int kWep64Length = 10;              // hexadecimal digits
-constexpr int kWep128Length = 26;
+constexpr std::size_t kWep64Length = 10;      // hexadecimal digits
+constexpr std::size_t kWep128Length = 26;
 
 bool is_pass_phrase_type(const char* type)
 {
@@ -35,18 +36,18 @@ bool is_radius_type(const char* type)
 
 int trace_code(int code)
 {
-    trace("The code : %d\n", code);
+    std::fprintf(stderr, "The code : %d\n", code);
     return code;
 }
 
 int check_wep_key(const char* key, const char* encryption)
 {
-    if (!is_printable_ascii(key) && !kHexDigits.contains_all(key)) {
-        trace("The key should not be empty or non printable ascii string: %s\n", key);
-        trace("The key should not contain non hexa char: %s\n", key);
+    if (!is_printable(key) && !kHexDigits.contains_all(key)) {
+        std::fprintf(stderr, "The key should not be empty or non printable ascii string: %s\n", key);
+        std::fprintf(stderr, "The key should not contain non hexa char: %s\n", key);
         return OSTREL_FORBIDDEN_CHARACTER;
     }
-    trace("The key : %s\n", key);
+    std::fprintf(stderr, "The key : %s\n", key);
     const std::size_t length = std::strlen(key);
     const bool suits = (equals(encryption, "WEP-64") && length == kWep64Length) ||
                        (equals(encryption, "WEP-128") && length == kWep128Length);
@@ -81,10 +82,10 @@ int WLAN_check_preshared_key2(const char* psk, const char* passphrase)
 int WLAN_check_wepkeys(char* keys)
 {
     if (keys == nullptr) fail_assertion("value != ((void *)0)", "wlan_check", __func__, kWepKeysLine);
-    int kept_length = 0;
+    std::size_t kept_length = 0;
     for (std::size_t i = 0; i < kWepKeys; ++i) {
         char* key = keys + i * kWepKeyDistance;
-        if (!is_printable_ascii(key)) {
+        if (!is_printable(key)) {
             inform("Error in %s: The key should not be empty or non printable ascii string: %s\n\n", __func__,
                    key);
             key[0] = '\0';
@@ -94,7 +95,12 @@ int WLAN_check_wepkeys(char* keys)
             return refuse(OSTREL_FORBIDDEN_CHARACTER,
                           "Error in %s: The key should not contain non hexa char: %s\n\n", __func__, key);
         }
-        const int length = static_cast<int>(std::strlen(key));
+        const std::size_t length = std::strlen(key);
+        if (length == 0) {
+            // Never so: an empty key is not printable.
+            inform("Error in %s: skip wepkeys[%d] for empty string\n", __func__, static_cast<int>(i));
+            continue;
+        }
         if (length > kWep128Length) {
             return refuse(OSTREL_TOO_LONG, "Error in %s: The hexa key is too long: %s\n\n", __func__, key);
         }
@@ -104,13 +110,13 @@ int WLAN_check_wepkeys(char* keys)
         if (length != kWep64Length && length != kWep128Length) {
             return refuse(OSTREL_WEP_KEY_LENGTH,
                           "Error in %s: The hexa key length is less than %d and more than %d: %s\n\n",
-                          __func__, kWep128Length, kWep64Length, key);
+                          __func__, static_cast<int>(kWep128Length), static_cast<int>(kWep64Length), key);
         }
         if (kept_length == 0) kept_length = length;
         if (length != kept_length) {
             return refuse(OSTREL_WEP_KEY_LENGTH,
                           "Error in %s: The previons valid key length is %d and now %d for: %s\n\n", __func__,
-                          kept_length, length, key);
+                          static_cast<int>(kept_length), static_cast<int>(length), key);
         }
     }
     return kept_length != 0 ? OSTREL_VALID : OSTREL_INVALID_VALUE;
