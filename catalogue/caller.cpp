@@ -112,7 +112,9 @@ void Caller::load_argument(std::size_t index, const Value& value)
         return;
     }
     const std::string& text = text_of(argument, value);
-    const std::size_t size = std::max(argument.capacity, text.size() + 1);
+    // What a function writes to an output can be as long as what it was given.
+    const std::size_t length = argument.output_only ? longest_text_ : text.size();
+    const std::size_t size = std::max(argument.capacity, length + 1);
     char* place = memory.place(size, edge_);
     std::memcpy(place, text.data(), text.size());
     std::memset(place + text.size(), 0, size - text.size());
@@ -138,6 +140,12 @@ void Caller::load(const Function& function, const std::vector<Value>& values)
     }
     function_ = &function;
     raw_.assign(arguments.size(), Raw());
+    longest_text_ = 0;
+    for (const Value& value : values) {
+        if (const auto* text = std::get_if<std::string>(&value)) {
+            longest_text_ = std::max(longest_text_, text->size());
+        }
+    }
     std::size_t next = 0;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (outputs_given || !arguments[i].output_only) {

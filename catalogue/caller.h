@@ -64,6 +64,7 @@ class Caller {
     const Function* function_ = nullptr;
     std::array<GuardedMemory, 4> memory_;
     std::array<std::size_t, 4> capacity_{};
+    std::size_t longest_text_ = 0;  // of those given in the call
     std::vector<Raw> raw_;
 };
 

@@ -21,6 +21,8 @@ std::vector<Function> collect()
     append(all, "accounts", accounts());
     append(all, "subnets", subnets());
     append(all, "names", names());
+    append(all, "hosts", hosts());
+    append(all, "date-time", date_time());
     append(all, "parameters", parameter_checks());
     append(all, "ppp", ppp_checks());
     append(all, "lan", lan_checks());
@@ -28,6 +30,11 @@ std::vector<Function> collect()
     append(all, "forwarding", forwarding_checks());
     append(all, "wireless", wireless());
     append(all, "wlan", wlan_checks());
+    append(all, "management", management());
+    append(all, "guest-access", guest_access());
+    append(all, "hnap", hnap());
+    append(all, "time", time_checks());
+    append(all, "branding", branding_checks());
     return all;
 }
 

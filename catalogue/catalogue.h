@@ -85,7 +85,7 @@ constexpr Name buffer(const char* text, std::size_t capacity)
     return name;
 }
 
-// output names a buffer that is only written.
+// output names a buffer that is only written. It is given room for the longest text of the call, too.
 constexpr Name output(const char* text, std::size_t capacity)
 {
     Name name = buffer(text, capacity);
@@ -191,6 +191,8 @@ std::vector<Function> addresses();
 std::vector<Function> accounts();
 std::vector<Function> subnets();
 std::vector<Function> names();
+std::vector<Function> hosts();
+std::vector<Function> date_time();
 std::vector<Function> parameter_checks();
 std::vector<Function> ppp_checks();
 std::vector<Function> lan_checks();
@@ -198,6 +200,11 @@ std::vector<Function> port_mapping_checks();
 std::vector<Function> forwarding_checks();
 std::vector<Function> wireless();
 std::vector<Function> wlan_checks();
+std::vector<Function> management();
+std::vector<Function> guest_access();
+std::vector<Function> hnap();
+std::vector<Function> time_checks();
+std::vector<Function> branding_checks();
 
 }  // namespace ostrel::catalogue
 

@@ -4,10 +4,14 @@
 
 #include <ostrel/accounts.h>
 #include <ostrel/addresses.h>
+#include <ostrel/branding_check.h>
 #include <ostrel/character_class.h>
 #include <ostrel/character_sets.h>
+#include <ostrel/date_time.h>
+#include <ostrel/hosts.h>
 #include <ostrel/l3forwarding_check.h>
 #include <ostrel/lan_check.h>
+#include <ostrel/mgtserver_check.h>
 #include <ostrel/names.h>
 #include <ostrel/parameter_check.h>
 #include <ostrel/port_mapping_check.h>
@@ -15,6 +19,7 @@
 #include <ostrel/result_code.h>
 #include <ostrel/strings.h>
 #include <ostrel/subnets.h>
+#include <ostrel/time_check.h>
 #include <ostrel/wireless.h>
 #include <ostrel/wlan_check.h>
 

@@ -30,8 +30,19 @@ inline bool equals(std::string_view a, std::string_view b)
 // grows with the length of the text, whatever the two hold.
 bool contains(std::string_view text, std::string_view part);
 
+// before gives the part of a text before the first c, or all of it where there is none.
+inline std::string_view before(std::string_view text, char c)
+{
+    std::size_t length = 0;
+    while (length < text.size() && text[length] != c) ++length;
+    return {text.data(), length};
+}
+
 // equals_ignoring_case folds the letters A to Z only; strcasecmp would fold as the host's locale does.
 bool equals_ignoring_case(const char* a, const char* b);
+
+// starts_with_ignoring_case reads the text no further than the first difference.
+bool starts_with_ignoring_case(const char* text, const char* prefix);
 
 }  // namespace ostrel
 

@@ -1,0 +1,67 @@
+/*
+ * Branding of the web portal.
+ *
+ * value is a NUL-terminated byte string of any length; only Param_check_datetime_value takes NULL. A check
+ * writes one line to standard output when it refuses a value, "%s" first being its own name, and then flushes
+ * all output streams.
+ */
+#ifndef OSTREL_BRANDING_CHECK_H
+#define OSTREL_BRANDING_CHECK_H
+
+#include <ostrel/api.h>
+
+/*
+ * The first eight are upper limits of the length; any bytes are accepted, the empty value too.
+ *
+ * 0; OSTREL_TOO_LONG, with "Error in %s: The length of string :%s shoud not be less than %d\n" (the value,
+ * the limit). The limit printed is one above the longest value that is accepted, and the message means "must
+ * be less than".
+ */
+
+/* Param_check_ispname_value: at most 31 bytes; the limit printed is 32. */
+OSTREL_API int Param_check_ispname_value(const char* value);
+
+/* Param_check_helpdesk_value: at most 63 bytes; the limit printed is 64. */
+OSTREL_API int Param_check_helpdesk_value(const char* value);
+
+/* Param_check_page_value: at most 255 bytes; the limit printed is 256. */
+OSTREL_API int Param_check_page_value(const char* value);
+
+/* Param_check_logo_value: at most 5459 bytes, as the host encodes the logo; the limit printed is 5460. */
+OSTREL_API int Param_check_logo_value(const char* value);
+
+/* Param_check_logo_size_value: at most 4095 bytes; the limit printed is 4096. */
+OSTREL_API int Param_check_logo_size_value(const char* value);
+
+/* Param_check_server_value: at most 255 bytes; the limit printed is 256. */
+OSTREL_API int Param_check_server_value(const char* value);
+
+/* Param_check_login_value: at most 39 bytes; the limit printed is 40. */
+OSTREL_API int Param_check_login_value(const char* value);
+
+/* Param_check_pword_value: at most 29 bytes; the limit printed is 30. The password is printed. */
+OSTREL_API int Param_check_pword_value(const char* value);
+
+/*
+ * Param_check_color_value: a colour as red, green and blue of two hexadecimal digits each, of either case; no
+ * "#" before them.
+ *
+ * 0; OSTREL_OUT_OF_RANGE: not 6 bytes, with
+ *   "Error in %s: The length of color :%s shoud not be equal to %d\n" (the value, 6), which means "must be";
+ * OSTREL_WRONG_FORM: another character, with
+ *   "Error in %s: color :%s contain invalid char %c\n" (the value, the first such byte as it is).
+ */
+OSTREL_API int Param_check_color_value(const char* value);
+
+/*
+ * Param_check_bool_value: "0" or "1".
+ *
+ * 0; OSTREL_OUT_OF_RANGE, with "Error in %s: bool value :%s out of range\n" (the value).
+ */
+OSTREL_API int Param_check_bool_value(const char* value);
+
+/* Param_check_datetime_value: accepts everything, NULL included, and does not look at it. Always 0. Silent.
+ */
+OSTREL_API int Param_check_datetime_value(const char* value);
+
+#endif

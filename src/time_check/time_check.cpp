@@ -1,0 +1,108 @@
+#include <ostrel/result_code.h>
+#include <ostrel/time_check.h>
+
+#include <cstring>
+
+#include "primitives/date_time.h"
+#include "primitives/hosts.h"
+#include "primitives/strings.h"
+#include "support/report.h"
+#include "time_check/time_zones.h"
+
+using namespace ostrel;
+
+namespace {
+
+constexpr std::size_t kLongestZoneName = 63;
+constexpr std::size_t kLongestServer = 64;
+
+bool is_empty(const char* value) { return value[0] == '\0'; }
+
+int check_timezone_formate(const char* value)
+{
+    if (is_zone_offset(value)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID, "Error in %s: %s is not validate timezone formate\n", __func__, value);
+}
+
+int check_daylight_saving_time(const char* value)
+{
+    if (is_switch_over(value)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID, "Error in %s: %s is not validate daylight saving time\n", __func__, value);
+}
+
+}  // namespace
+
+int Time_validate_tzone_and_tzone_name(char* tzone, char* tzone_name)
+{
+    if (is_empty(tzone) && is_empty(tzone_name)) return OSTREL_VALID;
+    if (is_empty(tzone_name)) {
+        if (get_tzone_name_by_tzone(tzone, tzone_name) == OSTREL_VALID) return OSTREL_VALID;
+        return refuse(OSTREL_INVALID_VALUE, "Error in %s: NOT get timezone name from timezone:%s\n\n",
+                      __func__, tzone);
+    }
+    if (is_empty(tzone)) {
+        if (get_tzone_by_tzone_name(tzone, tzone_name) == OSTREL_VALID) return OSTREL_VALID;
+        return refuse(OSTREL_INVALID_VALUE, "Error in %s: NOT get timezone from timezone name:%s\n\n",
+                      __func__, tzone_name);
+    }
+    if (is_tzone_consistent_with_tz_name(tzone, tzone_name) == OSTREL_VALID) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Timezone:%s and timezone name:%s aren't consistent\n",
+                  __func__, tzone, tzone_name);
+}
+
+int TIME_check_sync_daylight_saving_time(const char* start, const char* end)
+{
+    if (is_empty(start) == is_empty(end)) return OSTREL_VALID;
+    return refuse(
+        OSTREL_WRONG_FORM,
+        "Error in %s: DaylightSavingsStart :%s and DaylightSavingsEnd :%s should be set none or both\n",
+        __func__, start, end);
+}
+
+// The next three let a value pass that is empty or not printable: that is how an unset value gets through.
+
+int TIME_check_local_time_zone(const char* value)
+{
+    if (TIME_check_ascii_string(value) != OSTREL_VALID) return OSTREL_VALID;
+    if (check_timezone_formate(value) == OSTREL_VALID) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Failed check local timezone.\n\n", __func__);
+}
+
+int TIME_check_local_time_zone_name(const char* value)
+{
+    if (TIME_check_ascii_string(value) != OSTREL_VALID) return OSTREL_VALID;
+    if (std::strlen(value) <= kLongestZoneName) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Failed check local timezone name.\n\n", __func__);
+}
+
+int TIME_check_daylight_saving_start_or_end(const char* value)
+{
+    if (TIME_check_ascii_string(value) != OSTREL_VALID) return OSTREL_VALID;
+    if (check_daylight_saving_time(value) == OSTREL_VALID) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Failed check daylight saving time.\n\n", __func__);
+}
+
+int TIME_check_ntpserver_length(const char* value)
+{
+    if (!is_empty(value) && std::strlen(value) <= kLongestServer) return OSTREL_VALID;
+    return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: %s is out of range for the value of NTPServer\n",
+                  __func__, value);
+}
+
+int TIME_check_url(const char* value)
+{
+    if (is_host(value)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: %s is not validate URL\n", __func__, value);
+}
+
+int TIME_check_ascii_string(const char* value)
+{
+    if (value != nullptr && is_printable_ascii(value)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID, "Error in %s: %s is not printable ascii string\n", __func__, value);
+}
+
+int TIME_check_NTP_server(const char* value)
+{
+    if (const int code = TIME_check_ntpserver_length(value); code != OSTREL_VALID) return code;
+    return TIME_check_url(value);
+}
