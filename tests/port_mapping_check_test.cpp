@@ -17,19 +17,19 @@ const char* const kCondition = ": Assertion `value_p != \\(\\(void \\*\\)0\\)' f
 
 }  // namespace
 
-TEST(PortAvailable, NULL_is_asserted_by_the_lookup_for_TCP)
+TEST(PortAvailable, NullIsAssertedByTheLookupForTCP)
 {
     EXPECT_EXIT(PORTMAPPING_check_port_available(nullptr, 0), testing::KilledBySignal(SIGABRT),
                 std::string("port_mapping_check:[0-9]+: is_port_reserved") + kCondition);
 }
 
-TEST(PortAvailable, NULL_is_asserted_by_the_rule_for_UDP)
+TEST(PortAvailable, NullIsAssertedByTheRuleForUDP)
 {
     EXPECT_EXIT(PORTMAPPING_check_port_available(nullptr, 1), testing::KilledBySignal(SIGABRT),
                 std::string("port_mapping_check:[0-9]+: is_wan_udp_port_available") + kCondition);
 }
 
-TEST(PortAvailable, every_port)
+TEST(PortAvailable, EveryPort)
 {
     const std::set<int> tcp = {80, 161, 443, 1723, 1728, 6667, 7547};
     const std::set<int> udp = {161, 5060};

@@ -29,7 +29,7 @@ const char* pointer(std::uintptr_t address)
 
 }  // namespace
 
-TEST_P(LanAssertion, ends_the_process_for_NULL)
+TEST_P(LanAssertion, EndsTheProcessForNull)
 {
     const std::string report = std::string("lan_check:[0-9]+: ") + GetParam().name +
                                ": Assertion `value_p != \\(\\(void \\*\\)0\\)' failed";
@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Asserting{"LAN_check_subnet_mask", LAN_check_subnet_mask},
                     Asserting{"LAN_check_cis_dev_name", LAN_check_cis_dev_name}));
 
-TEST(LeaseTime, no_other_address_is_refused_or_read)
+TEST(LeaseTime, NoOtherAddressIsRefusedOrRead)
 {
     EXPECT_EQ(LAN_check_dhcp_lease_time(pointer(UINTPTR_MAX - 1)), 0);
     EXPECT_EQ(LAN_check_dhcp_lease_time(pointer(UINTPTR_MAX / 2)), 0);
@@ -60,12 +60,12 @@ TEST(LeaseTime, no_other_address_is_refused_or_read)
 }
 
 // The line holds the value, and reading the one at that address ends the process.
-TEST(LeaseTime, the_address_of_all_ones_is_refused)
+TEST(LeaseTime, TheAddressOfAllOnesIsRefused)
 {
     EXPECT_DEATH(LAN_check_dhcp_lease_time(pointer(UINTPTR_MAX)), "");
 }
 
-TEST(DeviceName, every_first_and_every_later_byte)
+TEST(DeviceName, EveryFirstAndEveryLaterByte)
 {
     for (int byte = 1; byte <= 255; ++byte) {
         const bool letter = (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');

@@ -8,7 +8,7 @@
 
 namespace ostrel::tests {
 
-TEST(Names, every_byte)
+TEST(Names, EveryByte)
 {
     for (int byte = 1; byte <= 255; ++byte) {
         const std::string value(1, static_cast<char>(byte));

@@ -83,7 +83,7 @@ void expect_linear(const std::string& small, const std::string& large, const cha
 
 }  // namespace
 
-TEST(SameSubnet, agrees_with_a_slow_version_on_every_pair_of_short_texts)
+TEST(SameSubnet, AgreesWithASlowVersionOnEveryPairOfShortTexts)
 {
     const std::string alphabet = "1.2";
     for (std::size_t length = 0; length <= 5; ++length) {
@@ -101,7 +101,7 @@ TEST(SameSubnet, agrees_with_a_slow_version_on_every_pair_of_short_texts)
     }
 }
 
-TEST(ReservedAddresses, agree_with_a_slow_version_on_every_short_list)
+TEST(ReservedAddresses, AgreeWithASlowVersionOnEveryShortList)
 {
     const std::string alphabet = "1., 2";
     std::size_t repeated = 0;
@@ -119,9 +119,9 @@ TEST(ReservedAddresses, agree_with_a_slow_version_on_every_short_list)
     EXPECT_GT(repeated, 1000U);
 }
 
-TEST(ReservedAddresses, agree_with_a_slow_version_on_random_lists)
+TEST(ReservedAddresses, AgreeWithASlowVersionOnRandomLists)
 {
-    std::mt19937 random(1);
+    std::mt19937 random(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp): every run tries the same lists
     const std::vector<std::string> parts = {"1.1", "1.2", "1.12", "1.1 2", "2.1", "1.", ",", ",", " ", "\t"};
     std::vector<int> codes(702);
     for (int round = 0; round < 200000; ++round) {
@@ -135,7 +135,7 @@ TEST(ReservedAddresses, agree_with_a_slow_version_on_random_lists)
     EXPECT_GT(codes[701], 1000);
 }
 
-TEST(ReservedAddresses, take_linear_time_without_equally_long_neighbours)
+TEST(ReservedAddresses, TakeLinearTimeWithoutEquallyLongNeighbours)
 {
     const auto list = [](int pairs) {
         std::string text;
@@ -145,7 +145,7 @@ TEST(ReservedAddresses, take_linear_time_without_equally_long_neighbours)
     expect_linear(list(8192), list(8192 * 16), "192.168.1.1", 0);
 }
 
-TEST(ReservedAddresses, take_linear_time_for_long_items)
+TEST(ReservedAddresses, TakeLinearTimeForLongItems)
 {
     // The search for the first item compares nearly all of it at each place of the third, were it a plain
     // one.
@@ -156,9 +156,9 @@ TEST(ReservedAddresses, take_linear_time_for_long_items)
     expect_linear(list(1U << 16), list(1U << 20), "nodot", 0);
 }
 
-TEST(OfferedDns, agree_with_a_slow_version)
+TEST(OfferedDns, AgreeWithASlowVersion)
 {
-    std::mt19937 random(2);
+    std::mt19937 random(2);  // NOLINT(cert-msc32-c,cert-msc51-cpp): every run tries the same lists
     const std::vector<std::string> parts = {"1.1.1.1", "1.1.1.1", "255.8.8.8", "1.1.1.256", ",", ",",
                                             ",",       " ",       "\t",        "1",         "."};
     int accepted = 0;
@@ -171,7 +171,7 @@ TEST(OfferedDns, agree_with_a_slow_version)
     EXPECT_GT(accepted, 1000);
 }
 
-TEST(AddressRange, every_pair_of_last_numbers)
+TEST(AddressRange, EveryPairOfLastNumbers)
 {
     for (int start = 0; start <= 256; ++start) {
         for (int end = 0; end <= 256; ++end) {
@@ -183,7 +183,7 @@ TEST(AddressRange, every_pair_of_last_numbers)
     }
 }
 
-TEST(RouterAddress, every_third_and_last_number)
+TEST(RouterAddress, EveryThirdAndLastNumber)
 {
     for (int third = 0; third <= 256; ++third) {
         for (int last = 0; last <= 256; ++last) {
@@ -194,7 +194,7 @@ TEST(RouterAddress, every_third_and_last_number)
     }
 }
 
-TEST(RouterAddress, every_first_and_second_number)
+TEST(RouterAddress, EveryFirstAndSecondNumber)
 {
     for (int first = 0; first <= 255; ++first) {
         for (int second = 0; second <= 255; ++second) {
