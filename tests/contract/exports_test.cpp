@@ -1,0 +1,130 @@
+// The export list, the public headers, the catalogue and the library that is loaded: all name the same
+// things.
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <ostrel/check.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+
+namespace ostrel::tests {
+
+namespace {
+
+std::string contents(const std::filesystem::path& path)
+{
+    std::ifstream file(path);
+    EXPECT_TRUE(file) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::string> matches(const std::string& text, const std::string& pattern)
+{
+    const std::regex form(pattern);
+    std::vector<std::string> found;
+    for (std::sregex_iterator match(text.begin(), text.end(), form), end; match != end; ++match) {
+        found.push_back((*match)[1]);
+    }
+    return found;
+}
+
+std::vector<std::string> listed_names()
+{
+    const std::string map = contents(OSTREL_SOURCE_DIR "/abi/exports.map");
+    const std::size_t begin = map.find("global:");
+    return matches(map.substr(begin, map.find("local:") - begin), "(\\w+);");
+}
+
+std::set<std::string> catalogue_names()
+{
+    std::set<std::string> names = {"ostrel_ctype"};
+    for (const catalogue::Function& function : catalogue::functions()) names.emplace(function.name);
+    return names;
+}
+
+TEST(Exports, TheListHoldsEachNameOnce)
+{
+    std::vector<std::string> names = listed_names();
+    EXPECT_FALSE(names.empty());
+    std::ranges::sort(names);
+    const auto repeated = std::ranges::adjacent_find(names);
+    EXPECT_EQ(names.end(), repeated) << *repeated << " stands twice";
+}
+
+TEST(Exports, TheListHasOneUnnamedVersionAndSpellsEveryName)
+{
+    const std::string map = contents(OSTREL_SOURCE_DIR "/abi/exports.map");
+    EXPECT_TRUE(
+        std::regex_match(map, std::regex("\\{\\s+global:\\s+(\\w+;\\s+)+local:\\s+\\*;\\s+\\};\\s*")));
+}
+
+TEST(Exports, TheCatalogueDescribesEveryExportedFunctionOnce)
+{
+    const std::vector<std::string> names = listed_names();
+    EXPECT_EQ(std::set<std::string>(names.begin(), names.end()), catalogue_names());
+    EXPECT_EQ(catalogue_names().size(), catalogue::functions().size() + 1) << "an entry stands twice";
+}
+
+TEST(Exports, TheHeadersDeclareWhatIsListed)
+{
+    std::multiset<std::string> declared;
+    for (const auto& header : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/include/ostrel")) {
+        for (const std::string& name :
+             matches(contents(header.path()), "OSTREL_API [\\w\\s*]*?(\\w+)[(\\[]")) {
+            declared.insert(name);
+        }
+    }
+    const std::vector<std::string> names = listed_names();
+    EXPECT_EQ(std::multiset<std::string>(names.begin(), names.end()), declared);
+}
+
+TEST(Exports, CheckHeaderIncludesEveryOther)
+{
+    const std::string all = contents(OSTREL_SOURCE_DIR "/include/ostrel/check.h");
+    for (const auto& header : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/include/ostrel")) {
+        const std::string name = header.path().filename();
+        if (name == "check.h" || name == "api.h") continue;
+        EXPECT_NE(std::string::npos, all.find("#include <ostrel/" + name + ">")) << name;
+    }
+}
+
+TEST(Exports, EachEntryIsTheFunctionOfItsName)
+{
+    for (const catalogue::Function& function : catalogue::functions()) {
+        const std::string name(function.name);
+        EXPECT_EQ(function.address, dlsym(RTLD_DEFAULT, name.c_str())) << name;
+    }
+    EXPECT_EQ(static_cast<const void*>(ostrel_ctype), dlsym(RTLD_DEFAULT, "ostrel_ctype"));
+}
+
+// Every name comes from the library's file, and from the variant's when a variant is asked for.
+TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
+{
+    const char* asked_for = std::getenv("LD_LIBRARY_PATH");  // NOLINT(concurrency-mt-unsafe)
+    const std::string folder = asked_for != nullptr ? asked_for : OSTREL_LIBRARY_DIR;
+    void* library = dlopen("libostrel_check.so", RTLD_NOW | RTLD_NOLOAD);
+    ASSERT_NE(nullptr, library) << dlerror();
+    for (const std::string& name : listed_names()) {
+        void* address = dlsym(library, name.c_str());
+        ASSERT_NE(nullptr, address) << name;
+        Dl_info info{};
+        ASSERT_NE(0, dladdr(address, &info)) << name;
+        EXPECT_TRUE(std::filesystem::equivalent(folder + "/libostrel_check.so", info.dli_fname))
+            << info.dli_fname;
+    }
+    dlclose(library);
+}
+
+}  // namespace
+
+}  // namespace ostrel::tests
