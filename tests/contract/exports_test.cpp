@@ -45,11 +45,32 @@ std::vector<std::string> listed_names()
     return matches(map.substr(begin, map.find("local:") - begin), "(\\w+);");
 }
 
-std::set<std::string> catalogue_names()
+std::vector<std::string> catalogue_names()
 {
-    std::set<std::string> names = {"ostrel_ctype"};
-    for (const catalogue::Function& function : catalogue::functions()) names.emplace(function.name);
+    std::vector<std::string> names = {"ostrel_ctype"};
+    for (const catalogue::Function& function : catalogue::functions()) names.emplace_back(function.name);
     return names;
+}
+
+std::vector<std::string> declared_names()
+{
+    std::vector<std::string> names;
+    for (const auto& header : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/include/ostrel")) {
+        if (header.path().filename() == "api.h") continue;  // declares nothing, defines OSTREL_API
+        std::ranges::move(matches(contents(header.path()), "OSTREL_API [\\w\\s*]*?(\\w+)[(\\[]"),
+                          std::back_inserter(names));
+    }
+    return names;
+}
+
+// differences gives what stands more often in one list than in the other, so that a failure is short.
+std::vector<std::string> differences(const std::vector<std::string>& a, const std::vector<std::string>& b)
+{
+    const std::multiset<std::string> sorted_a(a.begin(), a.end());
+    const std::multiset<std::string> sorted_b(b.begin(), b.end());
+    std::vector<std::string> result;
+    std::ranges::set_symmetric_difference(sorted_a, sorted_b, std::back_inserter(result));
+    return result;
 }
 
 TEST(Exports, TheListHoldsEachNameOnce)
@@ -70,22 +91,12 @@ TEST(Exports, TheListHasOneUnnamedVersionAndSpellsEveryName)
 
 TEST(Exports, TheCatalogueDescribesEveryExportedFunctionOnce)
 {
-    const std::vector<std::string> names = listed_names();
-    EXPECT_EQ(std::set<std::string>(names.begin(), names.end()), catalogue_names());
-    EXPECT_EQ(catalogue_names().size(), catalogue::functions().size() + 1) << "an entry stands twice";
+    EXPECT_EQ(std::vector<std::string>(), differences(listed_names(), catalogue_names()));
 }
 
 TEST(Exports, TheHeadersDeclareWhatIsListed)
 {
-    std::multiset<std::string> declared;
-    for (const auto& header : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/include/ostrel")) {
-        for (const std::string& name :
-             matches(contents(header.path()), "OSTREL_API [\\w\\s*]*?(\\w+)[(\\[]")) {
-            declared.insert(name);
-        }
-    }
-    const std::vector<std::string> names = listed_names();
-    EXPECT_EQ(std::multiset<std::string>(names.begin(), names.end()), declared);
+    EXPECT_EQ(std::vector<std::string>(), differences(listed_names(), declared_names()));
 }
 
 TEST(Exports, CheckHeaderIncludesEveryOther)

@@ -36,7 +36,7 @@ std::string repeated(std::string_view part, std::size_t size)
     return text;
 }
 
-std::vector<std::string> hostile_texts()
+std::vector<std::string> make_hostile_texts()
 {
     std::vector<std::string> texts;
     for (int byte = 0x80; byte <= 0xFF; ++byte) texts.emplace_back(kMegabyte, static_cast<char>(byte));
@@ -48,6 +48,12 @@ std::vector<std::string> hostile_texts()
          {"%s%n", "%s%s%s%s%s%s%s%s%n", "%", "%%", "%*d", "%99999999d", "\x7f", "\x80", "\xff"}) {
         texts.emplace_back(text);
     }
+    return texts;
+}
+
+const std::vector<std::string>& hostile_texts()
+{
+    static const std::vector<std::string> texts = make_hostile_texts();  // once for all children
     return texts;
 }
 
@@ -90,6 +96,22 @@ bool is_listed(const Function& function, int code)
     return false;
 }
 
+// widest gives a value for each argument: texts are empty, a last number, which is an upper limit if
+// anything, is as large as can be, and the others are 0.
+std::vector<Value> widest(const Function& function)
+{
+    std::vector<Value> values;
+    Value* last_number = nullptr;
+    values.reserve(function.arguments.size());
+    for (const Argument& argument : function.arguments) {
+        values.push_back(neutral(argument, 0));
+        const bool is_number = argument.kind == Kind::kInteger || argument.kind == Kind::kUnsigned;
+        if (is_number) last_number = &values.back();
+    }
+    if (last_number != nullptr) *last_number = static_cast<long long>(std::numeric_limits<int>::max());
+    return values;
+}
+
 // try_all calls the function with the text in each text argument in turn, and gives how many answers are not
 // listed.
 int try_all(const Function& function, const std::string& text, std::array<Caller, 2>& callers)
@@ -97,24 +119,15 @@ int try_all(const Function& function, const std::string& text, std::array<Caller
     int unlisted = 0;
     for (std::size_t hostile = 0; hostile < function.arguments.size(); ++hostile) {
         if (!is_text(function.arguments[hostile])) continue;
-        for (const long long number : {0LL, -1LL, static_cast<long long>(std::numeric_limits<int>::max())}) {
-            std::vector<Value> values;
-            for (const Argument& argument : function.arguments) values.push_back(neutral(argument, number));
-            values[hostile] = text;
-            if (never_returns(function, values)) continue;
-            for (Caller& caller : callers) {
-                caller.load(function, values);
-                const int code = caller.call();
-                if (is_listed(function, code)) continue;
-                std::fprintf(stderr, "%s answered %d\n", std::string(function.name).c_str(), code);
-                ++unlisted;
-            }
-            // Without a number among the arguments there is no other call to make.
-            if (!std::ranges::any_of(function.arguments, [](const Argument& argument) {
-                    return argument.kind == Kind::kInteger || argument.kind == Kind::kUnsigned;
-                })) {
-                break;
-            }
+        std::vector<Value> values = widest(function);
+        values[hostile] = text;
+        if (never_returns(function, values)) continue;
+        for (Caller& caller : callers) {
+            caller.load(function, values);
+            const int code = caller.call();
+            if (is_listed(function, code)) continue;
+            std::fprintf(stderr, "%s answered %d\n", std::string(function.name).c_str(), code);
+            ++unlisted;
         }
     }
     return unlisted;

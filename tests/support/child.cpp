@@ -75,6 +75,8 @@ Child::Child(const std::function<int()>& body) : start_(Clock::now())
     std::array<int, 2> out{};
     std::array<int, 2> err{};
     check(pipe2(out.data(), O_CLOEXEC) == 0 && pipe2(err.data(), O_CLOEXEC) == 0, "pipe2");
+    fcntl(out[0], F_SETFL, O_NONBLOCK);  // of a child that was killed only what is there is read
+    fcntl(err[0], F_SETFL, O_NONBLOCK);
     std::fflush(nullptr);  // or the child would print what the parent has not yet
     pid_ = fork();
     check(pid_ >= 0, "fork");
@@ -117,6 +119,7 @@ ChildEnd Child::wait(std::chrono::milliseconds limit)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
     pid_ = -1;
+    while (drain(out_, end.out) || drain(err_, end.err)) continue;
     if (end.timed_out) return end;
     if (WIFSIGNALED(status)) end.signal = WTERMSIG(status);
     if (WIFEXITED(status)) end.status = WEXITSTATUS(status);
