@@ -74,6 +74,8 @@ std::string text_from_json(const json& text)
         if (!part.empty() && count > kLargest / part.size()) {
             throw std::invalid_argument("a repeated text is longer than 256 MiB");
         }
+        if (part.size() == 1) return std::string(count, part[0]);
+        result.reserve(count * part.size());
         for (std::size_t i = 0; i < count && !part.empty(); ++i) result += part;
         return result;
     }

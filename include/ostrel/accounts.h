@@ -34,9 +34,8 @@ OSTREL_API int TcmValidateProvisioningCode(const char* value);
  *   6     set-up   17, one "#", at index 12
  *
  * The part is 18 to 30 characters before the account realm, 16 to 17 before the set-up realm. With three or
- * more
- * "#" it is accepted whatever their places, and the type is not written. Any other user name is type 0: 1 to
- * 131 characters of CHARSET_LATIN1_PRINTABLE.
+ * more "#" it is accepted whatever their places, and the type is not written. Any other user name is type 0:
+ * 1 to 131 characters of CHARSET_LATIN1_PRINTABLE.
  *
  * account_type: receives the type when the name is accepted, save as said; otherwise it is left as it was.
  *

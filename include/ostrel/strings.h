@@ -32,9 +32,10 @@ OSTREL_API int ValidateString(int min_len, int max_len, const char* charset, con
 OSTREL_API int ValidateNum(int min, int max, const char* charset, const char* value);
 
 /*
- * countChar: how many bytes of the value equal ch, which is read as an unsigned byte; 0 for the empty value.
+ * countChar: how many bytes of the value equal ch; 0 for the empty value.
  *
- * The terminating NUL never counts, so the answer for ch 0 is 0.
+ * ch: a byte, 0 to 255; a byte from 0x80 up may also be given as the negative number that a signed char makes
+ * of it. No byte equals any other number. The terminating NUL never counts, so the answer for ch 0 is 0.
  */
 OSTREL_API int countChar(const char* value, int ch);
 

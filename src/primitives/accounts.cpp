@@ -15,20 +15,21 @@ namespace ostrel {
 
 namespace {
 
-// The realms of the ISP served, with their "@".
-constexpr std::string_view kAccountRealm = OSTREL_ACCOUNT_REALM;
-constexpr std::string_view kSetupRealm = OSTREL_SETUP_REALM;
+// The realms of the ISP served, with their "@". They are arrays because a constant view would be a pointer,
+// which needs a relocation.
+constexpr char kAccountRealm[] = OSTREL_ACCOUNT_REALM;
+constexpr char kSetupRealm[] = OSTREL_SETUP_REALM;
 
-constexpr bool is_realm(std::string_view text)
+constexpr bool is_realm(std::string_view text, std::size_t size)
 {
     for (std::size_t i = 0; i < text.size(); ++i) {
         if ((text[i] == '@') != (i == 0)) return false;
     }
-    return true;
+    return text.size() == size;
 }
 
-static_assert(kAccountRealm.size() == 12 && is_realm(kAccountRealm), "\"@\" and a domain of 11 characters");
-static_assert(kSetupRealm.size() == 18 && is_realm(kSetupRealm), "\"@\" and a domain of 17 characters");
+static_assert(is_realm(kAccountRealm, 12), "\"@\" and a domain of 11 characters");
+static_assert(is_realm(kSetupRealm, 18), "\"@\" and a domain of 17 characters");
 
 constexpr int kNoType = 0;
 
@@ -54,9 +55,12 @@ int setup_type(std::string_view part, int separators)
     return separators == 1 && part.size() == 17 && part[12] == '#' ? 6 : kNoType;
 }
 
-bool is_in_realm(std::string_view name, std::string_view realm)
+// cut_realm takes the realm off the end of a name that has at least one character before it.
+bool cut_realm(std::string_view& name, std::string_view realm)
 {
-    return name.size() > realm.size() && ends_with(name, realm);
+    if (name.size() <= realm.size() || !ends_with(name, realm)) return false;
+    name.remove_suffix(realm.size());
+    return true;
 }
 
 }  // namespace
@@ -84,14 +88,12 @@ int validate_ppp_user_name(const char* value, int* type_out)
 {
     std::string_view name = value;
     int type = kNoType;
-    if (is_in_realm(name, kAccountRealm)) {
-        name.remove_suffix(kAccountRealm.size());
+    if (cut_realm(name, kAccountRealm)) {
         const int separators = count(name, '#');
         if (const int code = validate_string(18, 30, kPppDigits, name); code != OSTREL_VALID) return code;
         if (separators >= 3) return OSTREL_VALID;
         type = account_type(name, separators);
-    } else if (is_in_realm(name, kSetupRealm)) {
-        name.remove_suffix(kSetupRealm.size());
+    } else if (cut_realm(name, kSetupRealm)) {
         const int separators = count(name, '#');
         if (const int code = validate_string(16, 17, kPppDigits, name); code != OSTREL_VALID) return code;
         if (separators >= 3) return OSTREL_VALID;

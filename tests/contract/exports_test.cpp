@@ -1,0 +1,153 @@
+// The export list, the public headers, the catalogue and the library that is loaded: all name the same
+// things.
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <ostrel/check.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+
+namespace ostrel::tests {
+
+namespace {
+
+std::string contents(const std::filesystem::path& path)
+{
+    std::ifstream file(path);
+    EXPECT_TRUE(file) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+bool is_name_character(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; }
+
+// names_before gives the name that ends where each of the marks stands.
+std::vector<std::string> names_before(const std::string& text, std::string_view marks)
+{
+    std::vector<std::string> names;
+    for (std::size_t end = text.find_first_of(marks); end != std::string::npos;
+         end = text.find_first_of(marks, end + 1)) {
+        std::size_t begin = end;
+        while (begin > 0 && is_name_character(text[begin - 1])) --begin;
+        if (begin < end) names.push_back(text.substr(begin, end - begin));
+    }
+    return names;
+}
+
+std::vector<std::string> listed_names()
+{
+    const std::string map = contents(OSTREL_SOURCE_DIR "/abi/exports.map");
+    const std::size_t begin = map.find("global:");
+    return names_before(map.substr(begin, map.find("local:") - begin), ";");
+}
+
+std::vector<std::string> catalogue_names()
+{
+    std::vector<std::string> names = {"ostrel_ctype"};
+    for (const catalogue::Function& function : catalogue::functions()) names.emplace_back(function.name);
+    return names;
+}
+
+std::vector<std::string> declared_names()
+{
+    std::vector<std::string> names;
+    for (const auto& header : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/include/ostrel")) {
+        if (header.path().filename() == "api.h") continue;  // declares nothing, defines OSTREL_API
+        const std::string text = contents(header.path());
+        const std::string mark = "\nOSTREL_API ";
+        for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + 1)) {
+            // The declared name stands before the first parenthesis or bracket.
+            names.push_back(names_before(text.substr(at, text.find(';', at) - at), "([").front());
+        }
+    }
+    return names;
+}
+
+// differences gives what stands more often in one list than in the other, so that a failure is short.
+std::vector<std::string> differences(const std::vector<std::string>& a, const std::vector<std::string>& b)
+{
+    const std::multiset<std::string> sorted_a(a.begin(), a.end());
+    const std::multiset<std::string> sorted_b(b.begin(), b.end());
+    std::vector<std::string> result;
+    std::ranges::set_symmetric_difference(sorted_a, sorted_b, std::back_inserter(result));
+    return result;
+}
+
+TEST(Exports, TheListHoldsEachNameOnce)
+{
+    std::vector<std::string> names = listed_names();
+    EXPECT_FALSE(names.empty());
+    std::ranges::sort(names);
+    const auto repeated = std::ranges::adjacent_find(names);
+    EXPECT_EQ(names.end(), repeated) << *repeated << " stands twice";
+}
+
+TEST(Exports, TheListHasOneUnnamedVersionAndSpellsEveryName)
+{
+    std::string map = contents(OSTREL_SOURCE_DIR "/abi/exports.map");
+    std::erase_if(map, [](char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; });
+    std::string expected = "{global:";
+    for (const std::string& name : listed_names()) expected += name + ";";
+    EXPECT_EQ(expected + "local:*;};", map);
+}
+
+TEST(Exports, TheCatalogueDescribesEveryExportedFunctionOnce)
+{
+    EXPECT_EQ(std::vector<std::string>(), differences(listed_names(), catalogue_names()));
+}
+
+TEST(Exports, TheHeadersDeclareWhatIsListed)
+{
+    EXPECT_EQ(std::vector<std::string>(), differences(listed_names(), declared_names()));
+}
+
+TEST(Exports, CheckHeaderIncludesEveryOther)
+{
+    const std::string all = contents(OSTREL_SOURCE_DIR "/include/ostrel/check.h");
+    for (const auto& header : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/include/ostrel")) {
+        const std::string name = header.path().filename();
+        if (name == "check.h" || name == "api.h") continue;
+        EXPECT_NE(std::string::npos, all.find("#include <ostrel/" + name + ">")) << name;
+    }
+}
+
+TEST(Exports, EachEntryIsTheFunctionOfItsName)
+{
+    for (const catalogue::Function& function : catalogue::functions()) {
+        const std::string name(function.name);
+        EXPECT_EQ(function.address, dlsym(RTLD_DEFAULT, name.c_str())) << name;
+    }
+    EXPECT_EQ(static_cast<const void*>(ostrel_ctype), dlsym(RTLD_DEFAULT, "ostrel_ctype"));
+}
+
+// Every name comes from the library's file, and from the variant's when a variant is asked for.
+TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
+{
+    const char* asked_for = std::getenv("LD_LIBRARY_PATH");  // NOLINT(concurrency-mt-unsafe)
+    const std::string folder = asked_for != nullptr ? asked_for : OSTREL_LIBRARY_DIR;
+    void* library = dlopen("libostrel_check.so", RTLD_NOW | RTLD_NOLOAD);
+    ASSERT_NE(nullptr, library) << dlerror();
+    for (const std::string& name : listed_names()) {
+        void* address = dlsym(library, name.c_str());
+        ASSERT_NE(nullptr, address) << name;
+        Dl_info info{};
+        ASSERT_NE(0, dladdr(address, &info)) << name;
+        EXPECT_TRUE(std::filesystem::equivalent(folder + "/libostrel_check.so", info.dli_fname))
+            << info.dli_fname;
+    }
+    dlclose(library);
+}
+
+}  // namespace
+
+}  // namespace ostrel::tests
