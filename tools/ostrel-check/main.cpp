@@ -6,6 +6,7 @@
 #include <csignal>
 #include <exception>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -69,19 +70,24 @@ class Formatter : public CLI::Formatter {
     }
 };
 
-int complain(const std::string& problem)
+int complain(std::string_view problem, std::string_view advice)
 {
     std::string message = "ostrel-check: ";
     append_escaped(message, problem, 2000);
-    say(message + "\nostrel-check --help shows how to use it.\n");
+    say(message.append("\n").append(advice));
     return kExitUsage;
+}
+
+int complain_of_usage(std::string_view problem)
+{
+    return complain(problem, "ostrel-check --help shows how to use it.\n");
 }
 
 int judge_words(std::vector<std::string> words, bool with_escapes, double limit)
 {
-    if (words.empty()) return complain("a check's NAME, list or batch is missing");
+    if (words.empty()) return complain_of_usage("a check's NAME, list or batch is missing");
     if (words.front().starts_with('-') && words.front() != "-") {
-        return complain("there is no option " + words.front());
+        return complain_of_usage("there is no option " + words.front());
     }
     if (with_escapes) {
         for (std::string& word : words) word = read_escapes(word);
@@ -97,6 +103,7 @@ int run(int argc, char** argv)
     app.set_version_flag("--version", "ostrel-check " OSTREL_VERSION);
     app.formatter(std::make_shared<Formatter>());
     app.prefix_command();
+    app.require_subcommand(0, 1);  // a file may be called "list"
 
     const CLI::Range seconds(0.001, 86400.0);
     double limit = 2;
@@ -129,7 +136,7 @@ int run(int argc, char** argv)
     } catch (const CLI::Success& success) {
         return app.exit(success);
     } catch (const CLI::ParseError& error) {
-        return complain(error.what());
+        return complain_of_usage(error.what());
     }
     if (*list) {
         write_all(STDOUT_FILENO, list_checks());
@@ -155,7 +162,9 @@ int main(int argc, char** argv)
     std::signal(SIGPIPE, SIG_IGN);
     try {
         return ostrel::tool::run(argc, argv);
+    } catch (const std::invalid_argument& error) {
+        return ostrel::tool::complain_of_usage(error.what());
     } catch (const std::exception& error) {
-        return ostrel::tool::complain(error.what());
+        return ostrel::tool::complain(error.what(), "");
     }
 }
