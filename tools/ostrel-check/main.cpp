@@ -85,6 +85,7 @@ int complain_of_usage(std::string_view problem)
 
 int judge_words(std::vector<std::string> words, bool with_escapes, double limit)
 {
+    if (!words.empty() && words.front() == "--") words.erase(words.begin());
     if (words.empty()) return complain_of_usage("a check's NAME, list or batch is missing");
     if (words.front().starts_with('-') && words.front() != "-") {
         return complain_of_usage("there is no option " + words.front());

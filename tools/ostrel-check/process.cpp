@@ -121,11 +121,9 @@ std::string describe_no_return(double seconds)
 
 void occupy_standard_descriptors()
 {
-    int number = 0;
-    do {
-        number = open("/dev/null", O_RDONLY);
-    } while (number >= 0 && number <= STDERR_FILENO);
-    if (number >= 0) close(number);
+    for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(number, F_GETFD) < 0) open("/dev/null", number == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
 }
 
 void say(std::string_view text)

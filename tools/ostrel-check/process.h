@@ -63,7 +63,7 @@ std::string describe_ending(const Ending& ending, bool by_assertion);
 std::string describe_no_return(double seconds);
 
 // occupy_standard_descriptors keeps a pipe or a file from taking the number of a standard stream that is
-// closed. Writing to it goes on to fail.
+// closed. Using that stream goes on to fail.
 void occupy_standard_descriptors();
 
 // say writes to standard error, if that can be.

@@ -67,7 +67,8 @@ void judge(Result& result, int code)
 std::string_view condition_of(const catalogue::Function& function, int code)
 {
     const auto found = std::ranges::find(function.codes, code, &catalogue::Code::code);
-    return found == function.codes.end() ? std::string_view() : found->condition;
+    const bool says_more = found != function.codes.end() && found->condition != catalogue::meaning(code);
+    return says_more ? found->condition : std::string_view();
 }
 
 std::string describe(const Result& result)

@@ -64,7 +64,7 @@ struct Result {
 // judge sets the verdict on a call that returned.
 void judge(Result& result, int code);
 
-// condition_of says what brings a code about, or nothing where the catalogue does not know.
+// condition_of says what brings a code about, where the catalogue knows more of that than its meaning.
 std::string_view condition_of(const catalogue::Function& function, int code);
 
 // describe says the verdict in a line: "refused: 601, out of range (the number is ...)".
