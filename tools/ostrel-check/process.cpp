@@ -115,7 +115,7 @@ std::string describe_ending(const Ending& ending, bool by_assertion)
 std::string describe_no_return(double seconds)
 {
     std::array<char, 64> text{};
-    std::snprintf(text.data(), text.size(), "did not return within %g s", seconds);
+    std::snprintf(text.data(), text.size(), "the check did not return within %g s", seconds);
     return text.data();
 }
 

@@ -70,11 +70,6 @@ void watch_output(const Descriptor& news)
     stderr = open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
 }
 
-std::string verdict_line(const Result& result)
-{
-    return std::string(result.function->name) + ": " + describe(result) + "\n";
-}
-
 [[noreturn]] void call(Caller& caller, Result& result, const Descriptor& news)
 {
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
@@ -85,7 +80,7 @@ std::string verdict_line(const Result& result)
     std::fflush(nullptr);
     result.after = caller.written();
     std::string text = last_printed == '\n' ? "" : "\n";
-    text += verdict_line(result);
+    text += describe(result) + "\n";
     append_after(text, "  ", result);
     write_all(STDOUT_FILENO, text);
     _exit(exit_code(result.verdict));
@@ -137,7 +132,7 @@ int judge_one(std::string_view name, std::span<const std::string> words, double 
         result.verdict = Verdict::kEnded;
         result.problem = describe_ending(wait_for(child), news == News::kAsserted);
     }
-    write_all(STDOUT_FILENO, verdict_line(result));
+    write_all(STDOUT_FILENO, describe(result) + "\n");
     return exit_code(result.verdict);
 }
 

@@ -87,7 +87,7 @@ std::string describe(const Result& result)
             return text;
         }
         default:
-            return result.problem;
+            return std::string(name_of(result.verdict)) + ": " + result.problem;
     }
 }
 

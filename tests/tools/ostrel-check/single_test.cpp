@@ -15,16 +15,15 @@ std::string usage_error(const std::string& problem)
 
 TEST(Single, AcceptedIsZero)
 {
-    EXPECT_EQ((Outcome{0, "PARAM_check_port: accepted: 0, valid\n", ""}), run({"PARAM_check_port", "8080"}));
+    EXPECT_EQ((Outcome{0, "accepted: 0, valid\n", ""}), run({"PARAM_check_port", "8080"}));
 }
 
 TEST(Single, RefusedIsOneBehindTheReport)
 {
-    const Outcome refused{
-        1,
-        "Error in PARAM_check_port: The port shoud be between 0~65535\n"
-        "PARAM_check_port: refused: 601, out of range (the number is below 0 or above 65535)\n",
-        ""};
+    const Outcome refused{1,
+                          "Error in PARAM_check_port: The port shoud be between 0~65535\n"
+                          "refused: 601, out of range (the number is below 0 or above 65535)\n",
+                          ""};
     EXPECT_EQ(refused, run({"PARAM_check_port", "65536"}));
     EXPECT_EQ(refused, run({"PARAM_check_port", "-1"}));
     EXPECT_EQ(refused, run({"--limit-time", "9", "PARAM_check_port", "-1"}));
@@ -44,7 +43,7 @@ TEST(Single, WhatBeginsLikeAnOptionIsAValueBehindTheName)
 TEST(Single, VerdictBeginsALineWhateverWasPrinted)
 {
     EXPECT_EQ((Outcome{1,
-                       "-\nPARAM_check_MACAddress: refused: 402, invalid value (any other value, NULL "
+                       "-\nrefused: 402, invalid value (any other value, NULL "
                        "included)\n",
                        ""}),
               run({"PARAM_check_MACAddress", "00-11-22-33-44-55"}));
@@ -52,14 +51,14 @@ TEST(Single, VerdictBeginsALineWhateverWasPrinted)
 
 TEST(Single, NumberThatIsNoVerdictIsAnAnswer)
 {
-    EXPECT_EQ((Outcome{0, "countChar: answer 2\n", ""}), run({"countChar", "a,b,c", "44"}));
-    EXPECT_EQ((Outcome{0, "countChar: answer 1\n", ""}), run({"countChar", "a,b", "0x2C"}));
+    EXPECT_EQ((Outcome{0, "answer 2\n", ""}), run({"countChar", "a,b,c", "44"}));
+    EXPECT_EQ((Outcome{0, "answer 1\n", ""}), run({"countChar", "a,b", "0x2C"}));
 }
 
 TEST(Single, WhatIsFilledInIsShown)
 {
     EXPECT_EQ((Outcome{0,
-                       "TcmValidatePPPUsername: accepted: 0, valid\n"
+                       "accepted: 0, valid\n"
                        "  account_type after the call: 2\n",
                        ""}),
               run({"TcmValidatePPPUsername", "1234567890123#4567@example.net"}));
@@ -87,7 +86,7 @@ TEST(Single, FailedAssertionIsThree)
 {
     const Outcome outcome = run({"PARAM_check_bool_value", "@null"});
     EXPECT_EQ(3, outcome.status);
-    EXPECT_EQ("PARAM_check_bool_value: an assertion ended the process (SIGABRT)\n", outcome.out);
+    EXPECT_EQ("ended: an assertion ended the process (SIGABRT)\n", outcome.out);
     EXPECT_NE(std::string::npos,
               outcome.err.find("PARAM_check_bool_value: Assertion `value_p != ((void *)0)' failed.\n"));
     EXPECT_EQ(1, run({"PARAM_check_bool_value", "@@null"}).status);
@@ -95,7 +94,7 @@ TEST(Single, FailedAssertionIsThree)
 
 TEST(Single, CallThatDoesNotReturnIsThree)
 {
-    EXPECT_EQ((Outcome{3, "PARAM_check_ui2_value: did not return within 0.2 s\n", ""}),
+    EXPECT_EQ((Outcome{3, "no return: the check did not return within 0.2 s\n", ""}),
               run({"--limit-time", "0.2", "PARAM_check_ui2_value", "1"}));
 }
 

@@ -42,7 +42,7 @@ TEST(Trouble, IsTheVerdictOfItsLineAndTheRestGoesOn)
     EXPECT_NE(std::string::npos,
               rows[1]["err"].get<std::string>().find("Assertion `value_p != ((void *)0)' failed."));
     EXPECT_TRUE(rows[1]["code"].is_null());
-    EXPECT_EQ("did not return within 0.3 s", rows[3]["meaning"]);
+    EXPECT_EQ("the check did not return within 0.3 s", rows[3]["meaning"]);
     EXPECT_NE("an assertion ended the process (SIGABRT)", rows[4]["meaning"]);
     EXPECT_EQ("", rows[4]["err"]);
     EXPECT_EQ(
@@ -59,8 +59,9 @@ TEST(Trouble, TableNamesTheCaseAndItsAssertion)
               outcome.out.find("      2  ended            PARAM_check_port @null\n"
                                "                          an assertion ended the process (SIGABRT)\n"
                                "                          ! ostrel-check: parameter_check:"));
-    EXPECT_NE(std::string::npos, outcome.out.find("      4  no return        PARAM_check_ui2_value 1\n"
-                                                  "                          did not return within 0.3 s\n"));
+    EXPECT_NE(std::string::npos,
+              outcome.out.find("      4  no return        PARAM_check_ui2_value 1\n"
+                               "                          the check did not return within 0.3 s\n"));
     EXPECT_EQ("8 cases: 2 accepted, 1 refused, 3 ended the process, 2 did not return\n", summary_of(outcome));
 }
 
