@@ -1,21 +1,27 @@
 #include "catalogue/capture.h"
 
+#include <sys/mman.h>
 #include <sys/types.h>
 
+#include <algorithm>
+#include <cstring>
 #include <new>
-#include <utility>
 
 namespace ostrel::catalogue {
 
 namespace {
 
-ssize_t append(void* text, const char* bytes, std::size_t size)
+ssize_t append(void* cookie, const char* bytes, std::size_t size)
 {
-    static_cast<std::string*>(text)->append(bytes, size);
+    auto& text = *static_cast<Prints::Text*>(cookie);
+    const std::size_t fits = std::min(size, Prints::Text::kCapacity - text.size);
+    std::memcpy(text.bytes + text.size, bytes, fits);
+    text.size += fits;
+    if (fits < size) text.cut = true;
     return static_cast<ssize_t>(size);
 }
 
-std::FILE* open_stream(std::string& text, int buffering)
+std::FILE* open_stream(Prints::Text& text, int buffering)
 {
     cookie_io_functions_t functions{};
     functions.write = append;
@@ -25,14 +31,26 @@ std::FILE* open_stream(std::string& text, int buffering)
     return stream;
 }
 
+Prints* map_prints()
+{
+    void* memory = mmap(nullptr, sizeof(Prints), PROT_READ | PROT_WRITE,
+                        MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (memory == MAP_FAILED) throw std::bad_alloc();
+    return static_cast<Prints*>(memory);
+}
+
 }  // namespace
 
-Capture::Capture()
-    : saved_out_(stdout),
+Capture::Capture() : Capture(*map_prints()) { owned_ = prints_; }
+
+Capture::Capture(Prints& prints)
+    : prints_(&prints),
+      saved_out_(stdout),
       saved_err_(stderr),
-      stream_out_(open_stream(out_, _IOFBF)),
-      stream_err_(open_stream(err_, _IONBF))
+      stream_out_(open_stream(prints.out, _IOFBF)),
+      stream_err_(open_stream(prints.err, _IONBF))
 {
+    clear();
     // glibc's standard streams are variables that a program may set.
     stdout = stream_out_;
     stderr = stream_err_;
@@ -44,15 +62,29 @@ Capture::~Capture()
     stderr = saved_err_;
     std::fclose(stream_out_);
     std::fclose(stream_err_);
+    if (owned_ != nullptr) munmap(owned_, sizeof *owned_);
+}
+
+void Capture::clear()
+{
+    for (Prints::Text* text : {&prints_->out, &prints_->err}) {
+        text->size = 0;
+        text->cut = false;
+    }
+}
+
+PrintedView Capture::look()
+{
+    const std::size_t flushed = prints_->out.size;
+    std::fflush(stream_out_);
+    return {prints_->out.view(), flushed, prints_->err.view(), prints_->out.cut || prints_->err.cut};
 }
 
 Printed Capture::take()
 {
-    Printed printed;
-    printed.flushed = out_.size();
-    std::fflush(stream_out_);
-    printed.out = std::exchange(out_, {});
-    printed.err = std::exchange(err_, {});
+    const PrintedView view = look();
+    Printed printed{std::string(view.out), view.flushed, std::string(view.err)};
+    clear();
     return printed;
 }
 

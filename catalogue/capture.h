@@ -5,19 +5,46 @@
 #include <cstddef>
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 namespace ostrel::catalogue {
 
-struct Printed {
-    std::string out;          // what went to standard output
+// Prints is memory for what is printed. It is meant for untouched, zeroed memory of mmap, of which only what
+// is written to counts. Shared with another process it shows that process what was printed, even when this
+// one has come to its end.
+struct Prints {
+    struct Text {
+        static constexpr std::size_t kCapacity = std::size_t{32} << 20;
+        std::size_t size;
+        bool cut;  // more was printed than there is room for
+        char bytes[kCapacity];
+
+        [[nodiscard]] std::string_view view() const { return {bytes, size}; }
+    };
+    Text out;
+    Text err;
+};
+
+// PrintedView is what was printed, in place. It holds until more is printed.
+struct PrintedView {
+    std::string_view out;     // what went to standard output
     std::size_t flushed = 0;  // how many of its bytes had been flushed when the call returned
-    std::string err;          // what went to standard error
+    std::string_view err;     // what went to standard error
+    bool cut = false;
+};
+
+struct Printed {
+    std::string out;
+    std::size_t flushed = 0;
+    std::string err;
 };
 
 // Capture takes the place of standard output and standard error for as long as it lives. One at a time.
 class Capture {
  public:
     Capture();
+    // This one collects in memory that the caller owns.
+    explicit Capture(Prints& prints);
     Capture(const Capture&) = delete;
     Capture& operator=(const Capture&) = delete;
     ~Capture();
@@ -25,9 +52,15 @@ class Capture {
     // take gives what was printed since the last time.
     Printed take();
 
+    // look shows what was printed since the last take or clear.
+    PrintedView look();
+
+    // clear forgets what was printed.
+    void clear();
+
  private:
-    std::string out_;
-    std::string err_;
+    Prints* prints_;
+    Prints* owned_ = nullptr;
     std::FILE* saved_out_;
     std::FILE* saved_err_;
     std::FILE* stream_out_;

@@ -28,6 +28,43 @@ std::string bytes_from_utf8(std::string_view text)
     return bytes;
 }
 
+// A few bytes of JSON can describe a very long text, or nest very deeply.
+constexpr std::size_t kLongestText = std::size_t{16} << 20;
+constexpr int kDeepest = 8;
+constexpr std::size_t kMostArguments = 4;
+constexpr std::size_t kMostBlocks = 16;
+
+void require_room(std::size_t size)
+{
+    if (size > kLongestText) throw std::invalid_argument("a text is longer than 16 MiB");
+}
+
+void append_text(std::string& result, const json& text, int depth)
+{
+    if (depth > kDeepest) throw std::invalid_argument("a text is nested too deeply");
+    if (text.is_string()) {
+        const std::string bytes = bytes_from_utf8(text.get_ref<const std::string&>());
+        require_room(result.size() + bytes.size());
+        result += bytes;
+    } else if (text.is_object() && text.contains("repeat")) {
+        std::string part;
+        append_text(part, text["repeat"], depth + 1);
+        const auto times = text.find("times");
+        if (times == text.end() || !times->is_number_unsigned()) {
+            throw std::invalid_argument("\"repeat\" needs a number of \"times\"");
+        }
+        if (part.empty()) return;
+        const auto count = times->get<std::size_t>();
+        require_room(count > kLongestText ? count : result.size() + count * part.size());
+        for (std::size_t i = 0; i < count; ++i) result += part;
+    } else if (text.is_object() && text.contains("join") && text["join"].is_array()) {
+        for (const json& part : text["join"]) append_text(result, part, depth + 1);
+    } else {
+        throw std::invalid_argument(
+            "a text is a string, {\"repeat\": text, \"times\": n} or {\"join\": [text, ...]}");
+    }
+}
+
 std::size_t edit_distance(std::string_view a, std::string_view b)
 {
     const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
@@ -62,29 +99,9 @@ std::string utf8_from_bytes(std::string_view bytes)
 
 std::string text_from_json(const json& text)
 {
-    if (text.is_string()) return bytes_from_utf8(text.get_ref<const std::string&>());
     std::string result;
-    if (text.is_object() && text.contains("repeat")) {
-        const std::string part = text_from_json(text["repeat"]);
-        const json times = text.value("times", json());
-        if (!times.is_number_unsigned())
-            throw std::invalid_argument("\"repeat\" needs a number of \"times\"");
-        const auto count = times.get<std::size_t>();
-        constexpr std::size_t kLargest = std::size_t{1} << 28;
-        if (!part.empty() && count > kLargest / part.size()) {
-            throw std::invalid_argument("a repeated text is longer than 256 MiB");
-        }
-        if (part.size() == 1) return std::string(count, part[0]);
-        result.reserve(count * part.size());
-        for (std::size_t i = 0; i < count && !part.empty(); ++i) result += part;
-        return result;
-    }
-    if (text.is_object() && text.contains("join") && text["join"].is_array()) {
-        for (const json& part : text["join"]) result += text_from_json(part);
-        return result;
-    }
-    throw std::invalid_argument(
-        "a text is a string, {\"repeat\": text, \"times\": n} or {\"join\": [text, ...]}");
+    append_text(result, text, 1);
+    return result;
 }
 
 Value value_from_json(const json& value)
@@ -96,6 +113,7 @@ Value value_from_json(const json& value)
     if (value.is_number_integer()) return value.get<long long>();
     if (value.is_array()) {
         std::vector<std::string> texts;
+        if (value.size() > kMostBlocks) throw std::invalid_argument("no argument takes that many texts");
         for (const json& text : value) texts.push_back(text_from_json(text));
         return texts;
     }
@@ -121,14 +139,17 @@ json json_from_value(const Value& value)
 Case case_from_json(const json& row)
 {
     if (!row.is_object()) throw std::invalid_argument("a case is an object with \"check\" and \"args\"");
-    const json name = row.value("check", json());
-    if (!name.is_string()) throw std::invalid_argument("\"check\" must be the name of a check");
-    const json args = row.value("args", json());
-    if (!args.is_array()) throw std::invalid_argument("\"args\" must be an array");
+    const auto name = row.find("check");
+    if (name == row.end() || !name->is_string()) {
+        throw std::invalid_argument("\"check\" must be the name of a check");
+    }
+    const auto args = row.find("args");
+    if (args == row.end() || !args->is_array()) throw std::invalid_argument("\"args\" must be an array");
     Case result;
-    result.function = find(name.get_ref<const std::string&>());
-    if (result.function == nullptr) throw std::invalid_argument(unknown_function(name.get<std::string>()));
-    for (const json& arg : args) result.values.push_back(value_from_json(arg));
+    result.function = find(name->get_ref<const std::string&>());
+    if (result.function == nullptr) throw std::invalid_argument(unknown_function(name->get<std::string>()));
+    if (args->size() > kMostArguments) throw std::invalid_argument("no check takes that many arguments");
+    for (const json& arg : *args) result.values.push_back(value_from_json(arg));
     return result;
 }
 

@@ -22,7 +22,8 @@ struct Case {
 Case case_from_json(const nlohmann::json& row);
 
 // text_from_json reads a text: a string; {"repeat": text, "times": n}; or {"join": [text, ...]}. Each
-// character of a string is one byte, the one that its code point numbers; code points above 0xFF are refused.
+// character of a string is one byte, the one that its code point numbers; code points above 0xFF are refused,
+// and so are texts above 16 MiB.
 std::string text_from_json(const nlohmann::json& text);
 
 // value_from_json reads an argument: null, a text, a number, or an array of texts.

@@ -1,0 +1,49 @@
+// Runs ostrel-check as a user would.
+#ifndef OSTREL_TESTS_RUN_H
+#define OSTREL_TESTS_RUN_H
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ostrel::tool {
+
+struct Outcome {
+    int status = 0;  // 128 and the signal's number where a signal ended it
+    std::string out;
+    std::string err;
+
+    bool operator==(const Outcome&) const = default;
+};
+
+void PrintTo(const Outcome& outcome, std::ostream* stream);
+
+// run runs ostrel-check with those arguments and that standard input.
+Outcome run(std::vector<std::string> arguments, std::string_view input = "");
+
+// run_batch runs the batch in JSON over that input, and reads each line; the last is the summary.
+std::vector<nlohmann::json> run_batch(std::string_view input, std::vector<std::string> options = {});
+
+// summary_of reads the table's last line.
+std::string summary_of(const Outcome& outcome);
+
+// File is a file that lasts as long as this does.
+class File {
+ public:
+    explicit File(std::string_view text);
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+    ~File();
+
+    [[nodiscard]] const std::string& path() const { return path_; }
+    [[nodiscard]] std::string text() const;
+
+ private:
+    std::string path_;
+};
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,154 @@
+// One value on the command line.
+
+#include <gtest/gtest.h>
+
+#include "run.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+std::string usage_error(const std::string& problem)
+{
+    return "ostrel-check: " + problem + "\nostrel-check --help shows how to use it.\n";
+}
+
+TEST(Single, AcceptedIsZero)
+{
+    EXPECT_EQ((Outcome{0, "accepted: 0, valid\n", ""}), run({"PARAM_check_port", "8080"}));
+}
+
+TEST(Single, RefusedIsOneBehindTheReport)
+{
+    const Outcome refused{1,
+                          "Error in PARAM_check_port: The port shoud be between 0~65535\n"
+                          "refused: 601, out of range (the number is below 0 or above 65535)\n",
+                          ""};
+    EXPECT_EQ(refused, run({"PARAM_check_port", "65536"}));
+    EXPECT_EQ(refused, run({"PARAM_check_port", "-1"}));
+    EXPECT_EQ(refused, run({"--limit-time", "9", "PARAM_check_port", "-1"}));
+}
+
+TEST(Single, WhatBeginsLikeAnOptionIsAValueBehindTheName)
+{
+    EXPECT_EQ(1, run({"PARAM_check_bool_value", "--help"}).status);
+    EXPECT_EQ("Error in PARAM_check_bool_value: The value --version out of range[0,1]\n",
+              run({"PARAM_check_bool_value", "--version"}).out.substr(0, 71));
+    EXPECT_EQ(0, run({"PARAM_check_printable_ascii_string", "--"}).status);
+    EXPECT_EQ(0, run({"PARAM_check_printable_ascii_string", "-e"}).status);
+    EXPECT_EQ(0, run({"PARAM_check_printable_ascii_string", "batch"}).status);
+    EXPECT_EQ(0, run({"--", "PARAM_check_printable_ascii_string", "list"}).status);
+}
+
+TEST(Single, VerdictBeginsALineWhateverWasPrinted)
+{
+    EXPECT_EQ((Outcome{1,
+                       "-\nrefused: 402, invalid value (any other value, NULL "
+                       "included)\n",
+                       ""}),
+              run({"PARAM_check_MACAddress", "00-11-22-33-44-55"}));
+}
+
+TEST(Single, NumberThatIsNoVerdictIsAnAnswer)
+{
+    EXPECT_EQ((Outcome{0, "answer 2\n", ""}), run({"countChar", "a,b,c", "44"}));
+    EXPECT_EQ((Outcome{0, "answer 1\n", ""}), run({"countChar", "a,b", "0x2C"}));
+}
+
+TEST(Single, WhatIsFilledInIsShown)
+{
+    EXPECT_EQ((Outcome{0,
+                       "accepted: 0, valid\n"
+                       "  account_type after the call: 2\n",
+                       ""}),
+              run({"TcmValidatePPPUsername", "1234567890123#4567@example.net"}));
+}
+
+TEST(Single, EscapesAreReadOnRequest)
+{
+    EXPECT_EQ(0, run({"-e", "TcmValidatePPPPassword", "caf\\xE9"}).status);
+    EXPECT_EQ(1, run({"--escapes", "TcmValidatePPPPassword", "a\\nb"}).status);
+    EXPECT_EQ(0, run({"TcmValidatePPPPassword", "a\\nb"}).status);
+    EXPECT_EQ((Outcome{2, "", usage_error("argument value_p cannot hold a NUL byte")}),
+              run({"-e", "PARAM_check_port", "1\\x00"}));
+    EXPECT_EQ((Outcome{2, "", usage_error("\\q is no escape; a backslash itself is \\\\")}),
+              run({"-e", "PARAM_check_port", "\\q"}));
+}
+
+TEST(Single, RawBytesReachTheCheckAsTheyAre)
+{
+    EXPECT_EQ(0, run({"TcmValidatePPPPassword", "caf\xE9"}).status);
+    EXPECT_EQ("Error in PARAM_check_bool_value: The value \xE9\x1B[1m out of range[0,1]\n",
+              run({"PARAM_check_bool_value", "\xE9\x1B[1m"}).out.substr(0, 67));
+}
+
+TEST(Single, FailedAssertionIsThree)
+{
+    const Outcome outcome = run({"PARAM_check_bool_value", "@null"});
+    EXPECT_EQ(3, outcome.status);
+    EXPECT_EQ("ended: an assertion ended the process (SIGABRT)\n", outcome.out);
+    EXPECT_NE(std::string::npos,
+              outcome.err.find("PARAM_check_bool_value: Assertion `value_p != ((void *)0)' failed.\n"));
+    EXPECT_EQ(1, run({"PARAM_check_bool_value", "@@null"}).status);
+}
+
+TEST(Single, CallThatDoesNotReturnIsThree)
+{
+    EXPECT_EQ((Outcome{3, "no return: the check did not return within 0.2 s\n", ""}),
+              run({"--limit-time", "0.2", "PARAM_check_ui2_value", "1"}));
+}
+
+TEST(Single, WrongUsageIsTwo)
+{
+    EXPECT_EQ((Outcome{2, "",
+                       usage_error("there is no check PARAM_check_prot; the nearest names are "
+                                   "PARAM_check_port, PARAM_check_ip_addr and PARAM_check_number")}),
+              run({"PARAM_check_prot", "1"}));
+    EXPECT_EQ((Outcome{2, "", usage_error("0 values were given; expected: PARAM_check_port value_p")}),
+              run({"PARAM_check_port"}));
+    EXPECT_EQ((Outcome{2, "",
+                       usage_error("1 value was given; expected: PARAM_check_num_range value_p min:number "
+                                   "max:number")}),
+              run({"PARAM_check_num_range", "1"}));
+    EXPECT_EQ((Outcome{2, "", usage_error("argument min takes a number; \"a\" is none")}),
+              run({"PARAM_check_num_range", "1", "a", "3"}));
+    EXPECT_EQ((Outcome{2, "", usage_error("argument min takes a number from -2147483648 to 2147483647")}),
+              run({"PARAM_check_num_range", "1", "2147483648", "3"}));
+    EXPECT_EQ((Outcome{2, "", usage_error("argument min takes a number")}),
+              run({"PARAM_check_num_range", "1", "@null", "3"}));
+    EXPECT_EQ((Outcome{2, "", usage_error("a check's NAME, list or batch is missing")}), run({}));
+    EXPECT_EQ((Outcome{2, "", usage_error("there is no option --limit")}),
+              run({"--limit", "PARAM_check_port"}));
+    EXPECT_EQ(2, run({"--limit-time", "0", "PARAM_check_port", "1"}).status);
+    EXPECT_EQ(2, run({"batch", "--nothing"}).status);
+    EXPECT_EQ(2, run({"list", "more"}).status);
+}
+
+TEST(Single, UnknownNamesAreShownSafely)
+{
+    const Outcome outcome = run({"\x1B[1m\xE9", "1"});
+    EXPECT_EQ(2, outcome.status);
+    EXPECT_EQ("ostrel-check: there is no check \\x1B[1m\\xE9;", outcome.err.substr(0, 44));
+}
+
+TEST(Single, HelpAndVersion)
+{
+    EXPECT_EQ((Outcome{0, "ostrel-check " OSTREL_VERSION "\n", ""}), run({"--version"}));
+    EXPECT_NE(std::string::npos, run({"--help"}).out.find("ostrel-check PARAM_check_port 8080"));
+    EXPECT_NE(std::string::npos, run({"batch", "--help"}).out.find("--json"));
+}
+
+TEST(Single, ListShowsArgumentsAndRule)
+{
+    const Outcome list = run({"list"});
+    EXPECT_EQ(0, list.status);
+    EXPECT_NE(std::string::npos, list.out.find("\nparameters\n"));
+    EXPECT_NE(std::string::npos, list.out.find("  PARAM_check_number value_p min_len:number max_len:number\n"
+                                               "      min_len to max_len decimal digits; the limits are "
+                                               "lengths\n"));
+    EXPECT_NE(std::string::npos, list.out.find("; fills in account_type\n"));
+}
+
+}  // namespace
+
+}  // namespace ostrel::tool

@@ -1,0 +1,72 @@
+// Arena: memory that a worker and its supervisor share, so that what a worker has done outlives it.
+#ifndef OSTREL_TOOLS_ARENA_H
+#define OSTREL_TOOLS_ARENA_H
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "catalogue/capture.h"
+#include "verdict.h"
+
+namespace ostrel::tool {
+
+inline constexpr std::size_t kLongestLine = std::size_t{16} << 20;
+inline constexpr std::size_t kChunk = std::size_t{256} << 10;
+inline constexpr std::size_t kOutput = std::size_t{256} << 20;
+
+// Progress is how far a worker has come with its chunk.
+struct Progress {
+    std::size_t read = 0;  // bytes of the input
+    std::uint64_t line = 0;
+    std::size_t written = 0;  // bytes of the output
+    Tally tally;              // of what stands in the output
+};
+
+// Arena is mapped whole; of its pages only those that were written to exist.
+class Arena {
+ public:
+    // commit makes known how far the worker has come, in one step: whenever the worker ends, progress() is
+    // either the one before or the new one.
+    void commit(const Progress& progress)
+    {
+        const std::uint64_t next = commits_.load(std::memory_order_relaxed) + 1;
+        progress_[next & 1] = progress;
+        commits_.store(next, std::memory_order_release);
+    }
+
+    [[nodiscard]] std::uint64_t commits() const { return commits_.load(std::memory_order_acquire); }
+    [[nodiscard]] const Progress& progress() const { return progress_[commits() & 1]; }
+
+    std::size_t file = 0;  // which of the files the input is from
+    std::size_t input_size = 0;
+    std::array<char, kLongestLine + kChunk> input;
+    std::array<char, kOutput> output;
+    catalogue::Prints prints;
+
+    [[nodiscard]] std::string_view rest_of_input() const
+    {
+        return std::string_view(input.data(), input_size).substr(progress().read);
+    }
+
+ private:
+    std::atomic<std::uint64_t> commits_;
+    std::array<Progress, 2> progress_;
+};
+
+struct Unmap {
+    void operator()(Arena* arena) const;
+};
+
+// map_arena throws std::system_error.
+std::unique_ptr<Arena, Unmap> map_arena();
+
+// give_back gives the system the pages behind the first size bytes of a part of an arena.
+void give_back(char* begin, std::size_t capacity, std::size_t size);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,94 @@
+#include "batch.h"
+
+#include <poll.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <deque>
+#include <vector>
+
+#include "show.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+class Batch {
+ public:
+    Batch(const Rules& rules, unsigned jobs) : rules_(&rules), input_(rules.files)
+    {
+        for (unsigned i = 0; i < jobs; ++i) idle_.push_back(std::make_unique<Slot>(rules));
+    }
+
+    int run()
+    {
+        // Chunks are given out in order, and taken back in that order.
+        while (take_finished()) {
+            const bool can_read = !idle_.empty() && !input_.is_at_end();
+            if (busy_.empty() && !can_read) return finish();
+            if (wait(can_read)) read();
+            for (const auto& slot : busy_) slot->look();
+        }
+        return tally_.exit_code();  // nobody reads any more
+    }
+
+ private:
+    // take_finished writes out what is done at the front; false: nobody reads any more.
+    bool take_finished()
+    {
+        while (!busy_.empty() && !busy_.front()->is_running()) {
+            if (!busy_.front()->take(STDOUT_FILENO, tally_)) return false;
+            if (!busy_.front()->is_done()) continue;
+            idle_.push_back(std::move(busy_.front()));
+            busy_.pop_front();
+        }
+        return true;
+    }
+
+    // wait waits until there is something to do, and says whether there is something to read.
+    bool wait(bool can_read)
+    {
+        std::vector<pollfd> waiting;
+        if (can_read) waiting.push_back({input_.descriptor(), POLLIN, 0});
+        for (const auto& slot : busy_) {
+            if (slot->is_running()) waiting.push_back({slot->answers(), POLLIN, 0});
+        }
+        // A call that does not return is noticed after one to one and an eighth of its limit.
+        const double tick = std::clamp(rules_->limit / 8 * 1000, 1.0, 1000.0);
+        poll(waiting.data(), waiting.size(), busy_.empty() ? -1 : static_cast<int>(tick));
+        return can_read && waiting.front().revents != 0;
+    }
+
+    void read()
+    {
+        std::optional<Chunk> chunk = input_.read();
+        if (!chunk) return;
+        if (rules_->format == Format::kTable && rules_->files.size() > 1 && chunk->starts_file) {
+            append_escaped(chunk->heading, rules_->files[chunk->file], kLongestLine);
+            chunk->heading += ":\n";
+        }
+        busy_.push_back(std::move(idle_.back()));
+        idle_.pop_back();
+        busy_.back()->give(*chunk);
+    }
+
+    int finish()
+    {
+        const bool is_json = rules_->format == Format::kJson;
+        const std::uint64_t unreadable = input_.unreadable_files();
+        write_all(STDOUT_FILENO, is_json ? json_summary(tally_, unreadable) : summary(tally_, unreadable));
+        return unreadable > 0 ? std::max(tally_.exit_code(), kExitUsage) : tally_.exit_code();
+    }
+
+    const Rules* rules_;
+    Input input_;
+    std::vector<std::unique_ptr<Slot>> idle_;
+    std::deque<std::unique_ptr<Slot>> busy_;
+    Tally tally_;
+};
+
+}  // namespace
+
+int run_batch(const Rules& rules, unsigned jobs) { return Batch(rules, jobs).run(); }
+
+}  // namespace ostrel::tool

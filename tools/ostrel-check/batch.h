@@ -1,0 +1,14 @@
+// Batch: many cases, judged in worker processes, with the results in the order of the input.
+#ifndef OSTREL_TOOLS_BATCH_H
+#define OSTREL_TOOLS_BATCH_H
+
+#include "slot.h"
+
+namespace ostrel::tool {
+
+// run_batch judges the files' lines and gives the exit code.
+int run_batch(const Rules& rules, unsigned jobs);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,30 @@
+// Bytes shown so that a terminal can print them and a reader can tell them apart.
+#ifndef OSTREL_TOOLS_SHOW_H
+#define OSTREL_TOOLS_SHOW_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "catalogue/caller.h"
+
+namespace ostrel::tool {
+
+// append_escaped shows control bytes, DEL and bytes from 0x80 as \xNN. Of a text longer than limit the rest
+// is only counted.
+void append_escaped(std::string& out, std::string_view bytes, std::size_t limit);
+
+// append_word shows a text as a word that Words reads as that text again, as long as it is not cut.
+void append_word(std::string& out, std::string_view text, std::size_t limit);
+
+// append_value shows an argument as words.
+void append_value(std::string& out, const catalogue::Value& value, std::size_t limit);
+
+// append_json_text writes a text of JSON; a byte from 0x80 as the code point of the same number.
+void append_json_text(std::string& out, std::string_view bytes);
+
+void append_json_value(std::string& out, const catalogue::Value& value);
+
+}  // namespace ostrel::tool
+
+#endif

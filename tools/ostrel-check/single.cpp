@@ -1,0 +1,157 @@
+#include "single.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <stdexcept>
+#include <system_error>
+
+#include "catalogue/case.h"
+#include "process.h"
+#include "render.h"
+#include "words.h"
+
+namespace ostrel::tool {
+
+using catalogue::Caller;
+using catalogue::Function;
+
+namespace {
+
+// What the check's own process tells the one that waits, a byte each.
+constexpr std::string_view kReturnMark = "r";
+constexpr std::string_view kAssertionMark = "a";
+
+// last_printed is the last byte that the check's own process has sent to standard output.
+char last_printed = '\n';
+
+// pass_on answers as the C library expects it of a stream; no exception may go through it.
+ssize_t pass_on(int descriptor, std::string_view text)
+{
+    try {
+        return write_all(descriptor, text) ? static_cast<ssize_t>(text.size()) : -1;
+    } catch (const std::system_error&) {
+        return -1;
+    }
+}
+
+ssize_t print(void*, const char* bytes, std::size_t size)
+{
+    if (size > 0) last_printed = bytes[size - 1];
+    return pass_on(STDOUT_FILENO, {bytes, size});
+}
+
+ssize_t print_error(void* news, const char* bytes, std::size_t size)
+{
+    if (mentions_assertion({bytes, size})) {
+        write_all(static_cast<const Descriptor*>(news)->number(), kAssertionMark);
+    }
+    return pass_on(STDERR_FILENO, {bytes, size});
+}
+
+std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int buffering)
+{
+    cookie_io_functions_t functions{};
+    functions.write = write;
+    std::FILE* stream = fopencookie(cookie, "w", functions);
+    if (stream == nullptr) throw std::bad_alloc();
+    std::setvbuf(stream, nullptr, buffering, BUFSIZ);
+    return stream;
+}
+
+// watch_output passes on what is printed as it comes. It lets the verdict begin on a line of its own, and
+// tells an assertion from another abort.
+void watch_output(const Descriptor& news)
+{
+    stdout = open_stream(print, nullptr, isatty(STDOUT_FILENO) == 1 ? _IOLBF : _IOFBF);
+    stderr = open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
+}
+
+[[noreturn]] void call(Caller& caller, Result& result, const Descriptor& news)
+{
+    const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    dup2(nothing, STDIN_FILENO);
+    watch_output(news);
+    judge(result, caller.call());
+    write_all(news.number(), kReturnMark);
+    std::fflush(nullptr);
+    result.after = caller.written();
+    std::string text = last_printed == '\n' ? "" : "\n";
+    text += describe(result) + "\n";
+    append_after(text, "  ", result);
+    write_all(STDOUT_FILENO, text);
+    _exit(exit_code(result.verdict));
+}
+
+// wait_for_news waits for a byte of the check's process: nothing comes when it has ended or the time is over.
+enum class News { kReturned, kAsserted, kEnded, kNone };
+
+News wait_for_news(const Descriptor& news, double seconds)
+{
+    pollfd waiting{news.number(), POLLIN, 0};
+    int ready = 0;
+    do {
+        ready = poll(&waiting, 1, static_cast<int>(seconds * 1000));
+    } while (ready < 0 && errno == EINTR);
+    if (ready <= 0) return News::kNone;
+    char byte = 0;
+    if (read(news.number(), &byte, 1) != 1) return News::kEnded;
+    return byte == kReturnMark.front() ? News::kReturned : News::kAsserted;
+}
+
+}  // namespace
+
+int judge_one(std::string_view name, std::span<const std::string> words, double limit)
+{
+    Result result;
+    result.function = catalogue::find(name);
+    if (result.function == nullptr) throw std::invalid_argument(catalogue::unknown_function(name));
+    std::vector<catalogue::Value> values;
+    read_values(*result.function, words, values);
+    Caller caller;
+    caller.load(*result.function, values);
+
+    Pipe pipe = make_pipe();
+    const pid_t child = fork_guarded();
+    if (child == 0) call(caller, result, pipe.writing);
+    pipe.writing.close();
+
+    const News news = wait_for_news(pipe.reading, limit);
+    if (news == News::kReturned) {
+        const Ending ending = wait_for(child);
+        return ending.by_signal ? kExitEnded : ending.number;
+    }
+    if (news == News::kNone) {
+        stop(child);
+        result.verdict = Verdict::kNoReturn;
+        result.problem = describe_no_return(limit);
+    } else {
+        result.verdict = Verdict::kEnded;
+        result.problem = describe_ending(wait_for(child), news == News::kAsserted);
+    }
+    write_all(STDOUT_FILENO, describe(result) + "\n");
+    return exit_code(result.verdict);
+}
+
+std::string list_checks()
+{
+    std::string text;
+    std::string_view family;
+    for (const Function& function : catalogue::functions()) {
+        if (function.family != family) {
+            family = function.family;
+            text.append(text.empty() ? "" : "\n").append(family).append("\n");
+        }
+        text.append("  ").append(usage_of(function)).append("\n      ").append(function.rule);
+        for (const catalogue::Argument& argument : function.arguments) {
+            if (argument.output_only) text.append("; fills in ").append(argument.name);
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+}  // namespace ostrel::tool

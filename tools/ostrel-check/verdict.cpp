@@ -1,0 +1,94 @@
+#include "verdict.h"
+
+#include <algorithm>
+
+namespace ostrel::tool {
+
+std::string_view name_of(Verdict verdict)
+{
+    switch (verdict) {
+        case Verdict::kAccepted:
+            return "accepted";
+        case Verdict::kRefused:
+            return "refused";
+        case Verdict::kAnswer:
+            return "answer";
+        case Verdict::kMalformed:
+            return "malformed";
+        case Verdict::kEnded:
+            return "ended";
+        case Verdict::kNoReturn:
+            break;
+    }
+    return "no return";
+}
+
+int exit_code(Verdict verdict)
+{
+    switch (verdict) {
+        case Verdict::kAccepted:
+        case Verdict::kAnswer:
+            return kExitAccepted;
+        case Verdict::kRefused:
+            return kExitRefused;
+        case Verdict::kMalformed:
+            return kExitUsage;
+        case Verdict::kEnded:
+        case Verdict::kNoReturn:
+            break;
+    }
+    return kExitEnded;
+}
+
+void Tally::add(const Tally& other)
+{
+    for (std::size_t i = 0; i < kVerdicts; ++i) counts[i] += other.counts[i];
+}
+
+int Tally::exit_code() const
+{
+    int highest = kExitAccepted;
+    for (std::size_t i = 0; i < kVerdicts; ++i) {
+        if (counts[i] > 0) highest = std::max(highest, tool::exit_code(static_cast<Verdict>(i)));
+    }
+    return highest;
+}
+
+void judge(Result& result, int code)
+{
+    result.code = code;
+    if (!result.function->is_verdict) {
+        result.verdict = Verdict::kAnswer;
+    } else {
+        result.verdict = code == 0 ? Verdict::kAccepted : Verdict::kRefused;
+    }
+}
+
+std::string_view condition_of(const catalogue::Function& function, int code)
+{
+    const auto found = std::ranges::find(function.codes, code, &catalogue::Code::code);
+    const bool says_more = found != function.codes.end() && found->condition != catalogue::meaning(code);
+    return says_more ? found->condition : std::string_view();
+}
+
+std::string describe(const Result& result)
+{
+    const std::string code = std::to_string(result.code);
+    switch (result.verdict) {
+        case Verdict::kAccepted:
+            return "accepted: 0, valid";
+        case Verdict::kAnswer:
+            return "answer " + code;
+        case Verdict::kRefused: {
+            std::string text = "refused: " + code + ", ";
+            text += catalogue::meaning(result.code);
+            const std::string_view condition = condition_of(*result.function, result.code);
+            if (!condition.empty()) text.append(" (").append(condition).append(")");
+            return text;
+        }
+        default:
+            return std::string(name_of(result.verdict)) + ": " + result.problem;
+    }
+}
+
+}  // namespace ostrel::tool

@@ -1,0 +1,75 @@
+// Verdict: what became of a case.
+#ifndef OSTREL_TOOLS_VERDICT_H
+#define OSTREL_TOOLS_VERDICT_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/caller.h"
+#include "catalogue/capture.h"
+#include "catalogue/catalogue.h"
+
+namespace ostrel::tool {
+
+enum class Verdict {
+    kAccepted,
+    kRefused,
+    kAnswer,     // a number that is no verdict
+    kMalformed,  // no case
+    kEnded,      // the check ended its process
+    kNoReturn,
+};
+
+inline constexpr std::size_t kVerdicts = 6;
+
+// name_of gives the verdict in a word or two.
+std::string_view name_of(Verdict verdict);
+
+// The exit codes, of which the highest wins.
+inline constexpr int kExitAccepted = 0;
+inline constexpr int kExitRefused = 1;
+inline constexpr int kExitUsage = 2;
+inline constexpr int kExitEnded = 3;
+
+int exit_code(Verdict verdict);
+
+// Tally counts the cases of each verdict.
+struct Tally {
+    std::array<std::uint64_t, kVerdicts> counts{};
+
+    void add(Verdict verdict) { ++counts[static_cast<std::size_t>(verdict)]; }
+    void add(const Tally& other);
+    [[nodiscard]] std::uint64_t of(Verdict verdict) const
+    {
+        return counts[static_cast<std::size_t>(verdict)];
+    }
+    [[nodiscard]] int exit_code() const;
+};
+
+// Result is a case and what became of it. The views belong to whoever made it.
+struct Result {
+    Verdict verdict = Verdict::kMalformed;
+    const catalogue::Function* function = nullptr;  // NULL: malformed
+    const std::vector<catalogue::Value>* values = nullptr;
+    int code = 0;
+    std::string problem;  // malformed, ended or not returned: in words
+    catalogue::PrintedView printed;
+    std::vector<catalogue::Written> after;
+};
+
+// judge sets the verdict on a call that returned.
+void judge(Result& result, int code);
+
+// condition_of says what brings a code about, where the catalogue knows more of that than its meaning.
+std::string_view condition_of(const catalogue::Function& function, int code);
+
+// describe says the verdict in a line: "refused: 601, out of range (the number is ...)".
+std::string describe(const Result& result);
+
+}  // namespace ostrel::tool
+
+#endif

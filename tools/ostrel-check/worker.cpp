@@ -1,0 +1,123 @@
+#include "worker.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstring>
+#include <stdexcept>
+
+#include "line.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+// Judge judges lines, with the same memory again and again.
+class Judge {
+ public:
+    Judge(Arena& arena, Format format, const std::vector<std::string>& files)
+        : arena_(&arena), format_(format), files_(&files), capture_(arena.prints)
+    {
+    }
+
+    // round judges lines until the input is done or the output is enough.
+    void round()
+    {
+        Progress progress = arena_->progress();
+        std::string_view rest = arena_->rest_of_input();
+        while (!rest.empty() && progress.written < kEnoughOutput) {
+            const std::string_view line = rest.substr(0, rest.find('\n'));
+            const std::size_t taken = std::min(rest.size(), line.size() + 1);
+            rest.remove_prefix(taken);
+            line_number_ = progress.line;
+            judge(line, progress);
+            progress.read += taken;
+            ++progress.line;
+            arena_->commit(progress);
+        }
+    }
+
+ private:
+    void judge(std::string_view line, Progress& progress)
+    {
+        result_.after.clear();
+        result_.problem.clear();
+        try {
+            if (!line_.read(line)) return;
+            caller_.load(*line_.function(), line_.values());
+            result_.function = line_.function();
+            result_.values = &line_.values();
+        } catch (const std::exception& error) {
+            refuse_line(error.what(), progress);
+            return;
+        }
+        capture_.clear();
+        const int code = caller_.call();
+        result_.printed = capture_.look();
+        result_.after = caller_.written();
+        tool::judge(result_, code);
+        write(progress);
+    }
+
+    void refuse_line(std::string_view problem, Progress& progress)
+    {
+        result_.verdict = Verdict::kMalformed;
+        result_.function = line_.function();
+        result_.problem = problem;
+        result_.printed = {};
+        write(progress);
+    }
+
+    void write(Progress& progress)
+    {
+        text_.clear();
+        append_result(text_, format_, {(*files_)[arena_->file], line_number_}, result_);
+        if (text_.size() > kOutput - kEnoughOutput) {
+            refuse_line("the result is too long to be written", progress);
+            return;
+        }
+        std::memcpy(arena_->output.data() + progress.written, text_.data(), text_.size());
+        progress.written += text_.size();
+        progress.tally.add(result_.verdict);
+        if (text_.capacity() > kEnoughOutput) text_ = std::string();
+    }
+
+    Arena* arena_;
+    Format format_;
+    const std::vector<std::string>* files_;
+    catalogue::Capture capture_;
+    catalogue::Caller caller_;
+    Line line_;
+    std::uint64_t line_number_ = 0;
+    Result result_;
+    std::string text_;
+};
+
+}  // namespace
+
+void append_result(std::string& out, Format format, const Place& place, const Result& result)
+{
+    if (format == Format::kJson) {
+        append_json(out, place, result);
+    } else {
+        append_row(out, place, result);
+    }
+}
+
+void run_worker(Arena& arena, Format format, const std::vector<std::string>& files, const Descriptor& orders,
+                const Descriptor& answers)
+{
+    // A check that runs a program must not give it the batch to read, nor a way to write between the results.
+    const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
+    for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nothing, standard);
+    Judge judge(arena, format, files);
+    char order = 0;
+    while (read(orders.number(), &order, 1) == 1) {
+        judge.round();
+        if (write(answers.number(), &order, 1) != 1) break;
+    }
+    _exit(0);
+}
+
+}  // namespace ostrel::tool
