@@ -34,8 +34,8 @@ OSTREL_API int ValidateNum(int min, int max, const char* charset, const char* va
 /*
  * countChar: how many bytes of the value equal ch; 0 for the empty value.
  *
- * ch: a byte, 0 to 255; a byte from 0x80 up may also be given as the negative number that a signed char makes
- * of it. No byte equals any other number. The terminating NUL never counts, so the answer for ch 0 is 0.
+ * ch: a byte; as for strchr, only its lowest eight bits count, so that a char of either sign may be passed.
+ * The terminating NUL never counts: the answer for 0 is 0.
  */
 OSTREL_API int countChar(const char* value, int ch);
 

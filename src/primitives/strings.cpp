@@ -3,7 +3,6 @@
 #include <ostrel/result_code.h>
 #include <ostrel/strings.h>
 
-#include <climits>
 #include <cstdlib>
 
 namespace ostrel {
@@ -56,9 +55,4 @@ int ValidateNum(int min, int max, const char* charset, const char* value)
     return validate_number(min, max, CharSet(charset), value);
 }
 
-int countChar(const char* value, int ch)
-{
-    // A host passes a byte as an unsigned char or as a char of either sign; any other number equals no byte.
-    if (ch < SCHAR_MIN || ch > UCHAR_MAX) return 0;
-    return count(value, static_cast<char>(ch));
-}
+int countChar(const char* value, int ch) { return count(value, static_cast<char>(ch)); }

@@ -34,14 +34,6 @@ inline std::string_view before(std::string_view text, char c)
     return {text.data(), length};
 }
 
-// before gives the part of a text before the first c, or all of it where there is none.
-inline std::string_view before(std::string_view text, char c)
-{
-    std::size_t length = 0;
-    while (length < text.size() && text[length] != c) ++length;
-    return {text.data(), length};
-}
-
 // equals_ignoring_case folds the letters A to Z only; strcasecmp would fold as the host's locale does.
 bool equals_ignoring_case(const char* a, const char* b);
 
