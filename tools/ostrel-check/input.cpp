@@ -70,7 +70,7 @@ Chunk Input::take(std::size_t size)
 std::optional<Chunk> Input::read()
 {
     // What was given out has been used by now.
-    std::memmove(buffer_.data(), buffer_.data() + taken_, size_ - taken_);
+    if (taken_ > 0) std::memmove(buffer_.data(), buffer_.data() + taken_, size_ - taken_);
     size_ -= taken_;
     taken_ = 0;
     if (size_ < kChunk && buffer_.size() > kChunk) {

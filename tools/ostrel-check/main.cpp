@@ -54,6 +54,9 @@ number:
   {"check": "PARAM_check_num_range", "args": ["15", 1, 20]}
   {"check": "PARAM_check_port", "args": [null]}
 
+A line ends in a line feed, or in a carriage return and a line feed, and is at
+most 16 MiB long.
+
 Exit code, of which the highest wins: 0 all were accepted, 1 something was
 refused, 2 there were malformed lines or unreadable files, 3 a check ended its
 process or did not return.)";

@@ -64,6 +64,29 @@ TEST(Single, WhatIsFilledInIsShown)
               run({"TcmValidatePPPUsername", "1234567890123#4567@example.net"}));
 }
 
+TEST(Single, EachBlockIsAWordAndIsShownAfterTheCall)
+{
+    const Outcome outcome = run({"WLAN_check_wepkeys", "0123456789", "abc", "@@null", ""});
+    EXPECT_NE(std::string::npos, outcome.out.find("  keys after the call: 0123456789 \"\" \"\" \"\"\n"))
+        << outcome.out;
+    EXPECT_EQ(usage_error("1 value was given; expected: WLAN_check_wepkeys keys_1 keys_2 keys_3 keys_4"),
+              run({"WLAN_check_wepkeys", "0123456789"}).err);
+    EXPECT_EQ(3, run({"WLAN_check_wepkeys", "@null"}).status);
+}
+
+TEST(Single, BufferThatIsOnlyWrittenIsShown)
+{
+    EXPECT_EQ((Outcome{0, "accepted: 0, valid\n  offset_out after the call: +00:00\n", ""}),
+              run({"HNAPCORE_check_timezone", "UTC"}));
+}
+
+TEST(Single, BufferThatIsRewrittenIsShownSafely)
+{
+    const Outcome outcome = run({"WLAN_check_ssid", "caf&eacute;"});
+    EXPECT_EQ(1, outcome.status);
+    EXPECT_TRUE(outcome.out.ends_with(" after the call: \"caf\\xE9\"\n")) << outcome.out;
+}
+
 TEST(Single, EscapesAreReadOnRequest)
 {
     EXPECT_EQ(0, run({"-e", "TcmValidatePPPPassword", "caf\\xE9"}).status);
