@@ -42,8 +42,8 @@ void Line::read_json(std::string_view line)
         // What stands before the colon is the parser's own numbering.
         const std::string_view message = error.what();
         const std::size_t colon = message.find(": ");
-        throw std::invalid_argument("no valid JSON: " +
-                                    std::string(message.substr(colon == message.npos ? 0 : colon + 2)));
+        throw std::invalid_argument(
+            "no valid JSON: " + std::string(message.substr(colon == std::string_view::npos ? 0 : colon + 2)));
     }
     catalogue::Case read = catalogue::case_from_json(row);
     function_ = read.function;
@@ -56,7 +56,7 @@ bool Line::read(std::string_view line)
     values_.clear();
     if (line.ends_with('\r')) line.remove_suffix(1);
     const std::size_t begin = line.find_first_not_of(" \t");
-    if (begin == line.npos || line[begin] == '#') return false;
+    if (begin == std::string_view::npos || line[begin] == '#') return false;
     if (line[begin] == '{') {
         read_json(line);
         return true;

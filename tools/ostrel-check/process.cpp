@@ -101,7 +101,10 @@ void stop(pid_t child)
     wait_for(child);
 }
 
-bool mentions_assertion(std::string_view printed) { return printed.find("Assertion `") != printed.npos; }
+bool mentions_assertion(std::string_view printed)
+{
+    return printed.find("Assertion `") != std::string_view::npos;
+}
 
 std::string describe_ending(const Ending& ending, bool by_assertion)
 {

@@ -22,6 +22,8 @@ void append_hexadecimal(std::string& out, std::string_view introduction, char c)
     out += kHexDigits[byte & 15];
 }
 
+bool is_plain_in_json(char c) { return is_printable(c) && c != '"' && c != '\\'; }
+
 void append_rest(std::string& out, std::size_t size, std::size_t limit)
 {
     if (size > limit) out.append("... (").append(std::to_string(size)).append(" bytes)");
@@ -98,9 +100,8 @@ void append_json_text(std::string& out, std::string_view bytes)
 {
     out += '"';
     while (!bytes.empty()) {
-        const auto special =
-            std::ranges::find_if(bytes, [](char c) { return !is_printable(c) || c == '"' || c == '\\'; });
-        const auto plain = static_cast<std::size_t>(special - bytes.begin());
+        std::size_t plain = 0;
+        while (plain < bytes.size() && is_plain_in_json(bytes[plain])) ++plain;
         out.append(bytes.substr(0, plain));
         bytes.remove_prefix(plain);
         if (bytes.empty()) break;

@@ -55,7 +55,7 @@ std::string summary_of(const Outcome& outcome)
     const std::string_view out = outcome.out;
     if (!out.ends_with('\n')) return "(no whole line)";
     const std::size_t before = out.substr(0, out.size() - 1).rfind('\n');
-    return std::string(out.substr(before == out.npos ? 0 : before + 1));
+    return std::string(out.substr(before == std::string_view::npos ? 0 : before + 1));
 }
 
 File::File(std::string_view text)
