@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <span>
 
 #include "support/text.h"
 #include "wlan_check/rules.h"
@@ -28,6 +29,16 @@ constexpr ChannelPair kPairs[] = {{1, 3}, {2, 4}, {3, 5},  {4, 6},  {5, 3},   {6
 // The second channel is the centre of the 40 MHz pair.
 constexpr ChannelPair k5GHzPairs[] = {{36, 38},   {40, 38},   {44, 46},   {48, 46}, {149, 151},
                                       {153, 151}, {157, 159}, {161, 159}, {0, 0}};
+
+bool is_one_of(std::span<const ChannelPair> pairs, const char* primary, const char* second)
+{
+    const int primary_number = std::atoi(primary);
+    const int second_number = std::atoi(second);
+    for (const ChannelPair& pair : pairs) {
+        if (pair.primary == primary_number && pair.second == second_number) return true;
+    }
+    return false;
+}
 
 bool is_2_4_ghz(const char* radio) { return equals_ignoring_case(radio, "RADIO_2.4GHz"); }
 
@@ -89,22 +100,12 @@ int WLAN_check_channel(const char* channel, const char* radio)
 
 int WLAN_check_second_channel(const char* primary, const char* second)
 {
-    const int first_number = std::atoi(primary);
-    const int second_number = std::atoi(second);
-    for (const ChannelPair& pair : kPairs) {
-        if (pair.primary == first_number && pair.second == second_number) return OSTREL_VALID;
-    }
-    return OSTREL_INVALID;
+    return require(is_one_of(kPairs, primary, second));
 }
 
 int WLAN_check_5g_second_channel(const char* primary, const char* second)
 {
-    const int first_number = std::atoi(primary);
-    const int second_number = std::atoi(second);
-    for (const ChannelPair& pair : k5GHzPairs) {
-        if (pair.primary == first_number && pair.second == second_number) return OSTREL_VALID;
-    }
-    return OSTREL_INVALID;
+    return require(is_one_of(k5GHzPairs, primary, second));
 }
 
 int WLAN_check_wide_channel(const char* width, const char* radio)

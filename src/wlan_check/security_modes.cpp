@@ -55,6 +55,26 @@ bool is_11i_authentication_mode(const char* value, int readwrite_mode)
 
 int require_encryption(bool suits) { return suits ? OSTREL_VALID : OSTREL_ENCRYPTION_MISMATCH; }
 
+// check_11i_mode judges both kinds of modes of IEEE 802.11i. Its lines speak of encryption modes for either,
+// as hosts have always read them.
+int check_11i_mode(const char* value, int readwrite_mode, bool is_listed(const char*, int),
+                   const char* function)
+{
+    if (std::strlen(value) > kLongestMode) {
+        return refuse(OSTREL_INVALID_VALUE,
+                      "Error in %s: Error IEEE11i encryption modes:%s length out of range. [0,31]\n\n",
+                      function, value);
+    }
+    if (readwrite_mode != 0 && readwrite_mode != 1) {
+        return refuse(OSTREL_INVALID_VALUE,
+                      "Error in %s: Error IEEE11i encryption modes:readwrite mode %d invalid \n\n", function,
+                      readwrite_mode);
+    }
+    if (is_listed(value, readwrite_mode)) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error IEEE11i encryption modes:%s\n\n", function,
+                  value);
+}
+
 }  // namespace
 
 int WLAN_check_beacon_type(const char* value)
@@ -91,37 +111,12 @@ int WLAN_check_wpa_authentication_modes(const char* value)
 
 int WLAN_check_IEEE11i_encryption_modes(const char* value, int readwrite_mode)
 {
-    if (std::strlen(value) > kLongestMode) {
-        return refuse(OSTREL_INVALID_VALUE,
-                      "Error in %s: Error IEEE11i encryption modes:%s length out of range. [0,31]\n\n",
-                      __func__, value);
-    }
-    if (readwrite_mode != 0 && readwrite_mode != 1) {
-        return refuse(OSTREL_INVALID_VALUE,
-                      "Error in %s: Error IEEE11i encryption modes:readwrite mode %d invalid \n\n", __func__,
-                      readwrite_mode);
-    }
-    if (is_11i_encryption_mode(value, readwrite_mode)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error IEEE11i encryption modes:%s\n\n", __func__,
-                  value);
+    return check_11i_mode(value, readwrite_mode, is_11i_encryption_mode, __func__);
 }
 
 int WLAN_check_IEEE11i_authentication_modes(const char* value, int readwrite_mode)
 {
-    // The messages speak of encryption modes, as hosts have always read them.
-    if (std::strlen(value) > kLongestMode) {
-        return refuse(OSTREL_INVALID_VALUE,
-                      "Error in %s: Error IEEE11i encryption modes:%s length out of range. [0,31]\n\n",
-                      __func__, value);
-    }
-    if (readwrite_mode != 0 && readwrite_mode != 1) {
-        return refuse(OSTREL_INVALID_VALUE,
-                      "Error in %s: Error IEEE11i encryption modes:readwrite mode %d invalid \n\n", __func__,
-                      readwrite_mode);
-    }
-    if (is_11i_authentication_mode(value, readwrite_mode)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error IEEE11i encryption modes:%s\n\n", __func__,
-                  value);
+    return check_11i_mode(value, readwrite_mode, is_11i_authentication_mode, __func__);
 }
 
 int WLAN_check_authentication_service_mode(const char* value)

@@ -6,11 +6,13 @@
 #include <csignal>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "batch.h"
+#include "driver.h"
 #include "process.h"
 #include "show.h"
 #include "single.h"
@@ -32,6 +34,7 @@ Examples:
   ostrel-check PARAM_check_port @null
   ostrel-check --escapes TcmValidatePPPPassword 'caf\xE9'
   ostrel-check PARAM_check_num_range 15 1 20
+  ostrel-check --channels "1 6 11" WLAN_check_channel 6 RADIO_2.4GHz
   ostrel-check list
   ostrel-check batch settings.txt
   some-program | ostrel-check batch --json
@@ -116,6 +119,9 @@ int run(int argc, char** argv)
     app.add_option("--limit-time", limit, "Time that a call may take (2)")
         ->check(seconds)
         ->type_name("SECONDS");
+    std::optional<std::string> channels;
+    app.add_option("--channels", channels, "Answer in the driver's place when it is asked for its channels")
+        ->type_name("LIST");
 
     CLI::App* list = app.add_subcommand("list", "Show every check with its arguments and its rule");
     list->prefix_command(false);
@@ -130,6 +136,9 @@ int run(int argc, char** argv)
     batch->add_option("--limit-time", limit, "Time that a call may take (2)")
         ->check(seconds)
         ->type_name("SECONDS");
+    batch
+        ->add_option("--channels", channels, "Answer in the driver's place when it is asked for its channels")
+        ->type_name("LIST");
     batch->add_option("--jobs", jobs, "Processes that judge side by side (1)")
         ->check(CLI::Range(1, 64))
         ->type_name("N");
@@ -146,6 +155,8 @@ int run(int argc, char** argv)
         write_all(STDOUT_FILENO, list_checks());
         return kExitAccepted;
     }
+    std::optional<StandIn> driver;
+    if (channels) driver.emplace(*channels);
     if (*batch) {
         if (rules.files.empty()) rules.files.emplace_back("-");
         rules.format = is_json ? Format::kJson : Format::kTable;

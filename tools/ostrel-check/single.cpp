@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "catalogue/case.h"
+#include "driver.h"
 #include "process.h"
 #include "render.h"
 #include "words.h"
@@ -75,6 +76,7 @@ void watch_output(const Descriptor& news)
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
     dup2(nothing, STDIN_FILENO);
     watch_output(news);
+    const Turn turn(*result.function);
     judge(result, caller.call());
     write_all(news.number(), kReturnMark);
     std::fflush(nullptr);

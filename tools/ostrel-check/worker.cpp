@@ -7,6 +7,7 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "driver.h"
 #include "line.h"
 
 namespace ostrel::tool {
@@ -52,6 +53,7 @@ class Judge {
             refuse_line(error.what(), progress);
             return;
         }
+        const Turn turn(*line_.function());
         capture_.clear();
         const int code = caller_.call();
         result_.printed = capture_.look();

@@ -1,0 +1,75 @@
+// The check of the wireless channel, with an answer in the driver's place.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "run.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+constexpr char kListFile[] = "/var/hnapwl0chlist";
+
+class Driver : public testing::Test {
+ public:
+    // Each test has a folder for temporary files of its own, so that it can see that none is left.
+    void SetUp() override
+    {
+        ASSERT_NE(nullptr, mkdtemp(folder_.data()));
+        setenv("TMPDIR", folder_.c_str(), 1);
+    }
+
+    void TearDown() override
+    {
+        EXPECT_TRUE(std::filesystem::is_empty(folder_));
+        EXPECT_FALSE(std::filesystem::exists(kListFile));
+        std::filesystem::remove_all(folder_);
+        unsetenv("TMPDIR");
+    }
+
+ private:
+    std::string folder_ = "/tmp/ostrel driver.XXXXXX";  // a blank in its name does no harm
+};
+
+TEST_F(Driver, ListsTheChannelsGiven)
+{
+    EXPECT_EQ((Outcome{0, "accepted: 0, valid\n", ""}),
+              run({"--channels", "1 6 11", "WLAN_check_channel", "6", "RADIO_2.4GHz"}));
+    const Outcome refused = run({"--channels", "1 6 11", "WLAN_check_channel", "13", "RADIO_2.4GHz"});
+    EXPECT_EQ(1, refused.status);
+    EXPECT_TRUE(refused.out.starts_with("refused: -1")) << refused.out;
+}
+
+TEST_F(Driver, MayListNothing)
+{
+    EXPECT_EQ(1, run({"--channels", "", "WLAN_check_channel", "6", "RADIO_2.4GHz"}).status);
+}
+
+TEST_F(Driver, AnswersABatchToo)
+{
+    const std::string input =
+        "WLAN_check_channel 6 RADIO_2.4GHz\n"
+        "WLAN_check_channel 13 RADIO_2.4GHz\n";
+    const auto rows = run_batch(input, {"--channels", "1 6 11"});
+    ASSERT_EQ(3U, rows.size());
+    EXPECT_EQ(0, rows[0]["code"]);
+    EXPECT_EQ(-1, rows[1]["code"]);
+}
+
+// The file of one fixed name would mix the lists up if two processes ran the check at once.
+TEST_F(Driver, IsAskedByOneProcessAtATime)
+{
+    std::string input;
+    for (int i = 0; i < 200; ++i)
+        input += "WLAN_check_channel 6 RADIO_2.4GHz\n" + std::string(200000, '#') + "\n";
+    const Outcome outcome = run({"batch", "--jobs", "4", "--channels", "1 6 11"}, input);
+    EXPECT_EQ("200 cases: 200 accepted, 0 refused\n", summary_of(outcome));
+}
+
+}  // namespace
+
+}  // namespace ostrel::tool
