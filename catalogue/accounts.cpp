@@ -9,7 +9,8 @@ namespace {
 template <auto F>
 Function field(const char* name, const char* rule, bool may_be_empty = false)
 {
-    std::vector<Code> codes = {{802, "too long"}, {803, "a character outside the set"}};
+    std::vector<Code> codes = {{802, "too long"},
+                               {803, "the length is right and a character is outside the set"}};
     if (!may_be_empty) codes.insert(codes.begin(), {801, "too short"});
     return check<F>(name, {"value"}, rule, std::move(codes));
 }
@@ -25,7 +26,8 @@ std::vector<Function> accounts()
             {{402, "another length, or the first wrong position is printed"}}),
         check<TcmValidatePPPUsername>(
             "TcmValidatePPPUsername", {"value", "account_type"},
-            "1 to 131 printable Latin-1 bytes, or a local part of one of the ISP's forms and its realm",
+            "before one of the ISP's realms: a local part of one of its forms, or with three \"#\" or more; "
+            "otherwise 1 to 131 printable Latin-1 bytes",
             {{801, "the name or its local part is too short"},
              {802, "the name or its local part is too long"},
              {803, "a byte outside the set; before a realm only digits and \"#\" are allowed"},

@@ -24,6 +24,9 @@ std::invalid_argument bad_argument(const Argument& argument, const char* what)
     return std::invalid_argument("argument " + std::string(argument.name) + " " + what);
 }
 
+// kUnwritten is what a number that is only written holds when none is given: none that a function writes.
+constexpr int kUnwritten = std::numeric_limits<int>::min();
+
 const std::string& text_of(const Argument& argument, const Value& value)
 {
     const auto* text = std::get_if<std::string>(&value);
@@ -112,8 +115,7 @@ void Caller::load_argument(std::size_t index, const Value& value)
         return;
     }
     const std::string& text = text_of(argument, value);
-    // What a function writes to an output can be as long as what it was given.
-    const std::size_t length = argument.output_only ? longest_text_ : text.size();
+    const std::size_t length = argument.takes_text ? longest_text_ : text.size();
     const std::size_t size = std::max(argument.capacity, length + 1);
     char* place = memory.place(size, edge_);
     std::memcpy(place, text.data(), text.size());
@@ -131,7 +133,10 @@ void Caller::load(const Function& function, const std::vector<Value>& values)
     if (!outputs_given && values.size() != inputs) {
         std::string expected;
         for (const Argument& argument : arguments) {
-            if (!argument.output_only) expected.append(expected.empty() ? "" : ", ").append(argument.name);
+            if (argument.output_only) continue;
+            expected.append(expected.empty() ? "" : ", ").append(argument.name);
+            if (argument.blocks > 1)
+                expected += " (an array of " + std::to_string(argument.blocks) + " texts)";
         }
         throw std::invalid_argument(std::string(function.name) + " takes " + std::to_string(inputs) +
                                     (inputs == 1 ? " argument: " : " arguments: ") + expected + "; " +
@@ -151,7 +156,9 @@ void Caller::load(const Function& function, const std::vector<Value>& values)
         if (outputs_given || !arguments[i].output_only) {
             load_argument(i, values[next++]);
         } else {
-            load_argument(i, arguments[i].kind == Kind::kIntegerOut ? Value(0LL) : Value(std::string()));
+            load_argument(i, arguments[i].kind == Kind::kIntegerOut
+                                 ? Value(static_cast<long long>(kUnwritten))
+                                 : Value(std::string()));
         }
     }
 }
@@ -172,7 +179,7 @@ std::vector<Written> Caller::written() const
         } else if (argument.kind == Kind::kIntegerOut) {
             int number = 0;
             std::memcpy(&number, begin, sizeof number);
-            value = static_cast<long long>(number);
+            if (number != kUnwritten) value = static_cast<long long>(number);
         } else if (argument.kind == Kind::kBuffer) {
             value = text_at(begin, capacity_.at(i));
         } else {

@@ -36,7 +36,8 @@ class GuardedMemory {
     std::size_t usable_ = 0;  // bytes between the two unreadable pages
 };
 
-// Written is what an argument that the function may write to holds after the call.
+// Written is what an argument that the function may write to holds after the call; NULL for a number that was
+// not written, and for a buffer that was NULL.
 struct Written {
     const Argument* argument;
     Value value;

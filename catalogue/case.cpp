@@ -12,8 +12,10 @@ using nlohmann::json;
 namespace {
 
 // bytes_from_utf8 is the reverse of utf8_from_bytes. The JSON parser has already refused malformed UTF-8.
-std::string bytes_from_utf8(std::string_view text)
+std::string bytes_from_utf8(const std::string& text)
 {
+    const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+    if (std::ranges::all_of(text, is_ascii)) return text;
     std::string bytes;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto lead = static_cast<unsigned char>(text[i]);
@@ -39,6 +41,19 @@ void require_room(std::size_t size)
     if (size > kLongestText) throw std::invalid_argument("a text is longer than 16 MiB");
 }
 
+// append_times doubles what it has, so that long texts are made in few steps.
+void append_times(std::string& result, const std::string& part, std::size_t count)
+{
+    const std::size_t begin = result.size();
+    const std::size_t end = begin + count * part.size();
+    result.reserve(end);
+    if (count > 0) result += part;
+    while (result.size() < end) {
+        const std::size_t made = std::min(result.size() - begin, end - result.size());
+        result.append(result, begin, made);
+    }
+}
+
 void append_text(std::string& result, const json& text, int depth)
 {
     if (depth > kDeepest) throw std::invalid_argument("a text is nested too deeply");
@@ -56,7 +71,7 @@ void append_text(std::string& result, const json& text, int depth)
         if (part.empty()) return;
         const auto count = times->get<std::size_t>();
         require_room(count > kLongestText ? count : result.size() + count * part.size());
-        for (std::size_t i = 0; i < count; ++i) result += part;
+        append_times(result, part, count);
     } else if (text.is_object() && text.contains("join") && text["join"].is_array()) {
         for (const json& part : text["join"]) append_text(result, part, depth + 1);
     } else {
@@ -163,7 +178,7 @@ std::string unknown_function(std::string_view name)
     }
     const std::size_t shown = std::min<std::size_t>(3, nearest.size());
     std::partial_sort(nearest.begin(), nearest.begin() + static_cast<std::ptrdiff_t>(shown), nearest.end());
-    std::string message = "there is no check " + std::string(name) + "; the nearest names are ";
+    std::string message = "there is no check \"" + std::string(name) + "\"; the nearest names are ";
     for (std::size_t i = 0; i < shown; ++i) {
         if (i > 0) message += i + 1 == shown ? " and " : ", ";
         message += nearest[i].second;

@@ -30,6 +30,7 @@ struct Argument {
     std::size_t capacity = 0;  // bytes of a buffer or of one block; 0: as many as the text given needs
     std::size_t blocks = 1;
     bool output_only = false;  // nothing needs to be given
+    bool takes_text = false;   // a buffer that needs room for the longest text given
 };
 
 // Code is one answer besides 0 and what brings it about.
@@ -75,6 +76,7 @@ struct Name {
     std::size_t capacity = 0;
     std::size_t blocks = 1;
     bool output_only = false;
+    bool takes_text = false;
 };
 
 // buffer names a char* argument that has room for capacity bytes, the terminator included.
@@ -85,10 +87,18 @@ constexpr Name buffer(const char* text, std::size_t capacity)
     return name;
 }
 
-// output names a buffer that is only written. It is given room for the longest text of the call, too.
-constexpr Name output(const char* text, std::size_t capacity)
+// list_buffer names a buffer into which a text is copied, of whatever length.
+constexpr Name list_buffer(const char* text, std::size_t capacity)
 {
     Name name = buffer(text, capacity);
+    name.takes_text = true;
+    return name;
+}
+
+// output names a list_buffer that is only written.
+constexpr Name output(const char* text, std::size_t capacity)
+{
+    Name name = list_buffer(text, capacity);
     name.output_only = true;
     return name;
 }
@@ -146,7 +156,7 @@ struct Signature<F> {
         for (std::size_t i = 0; i < kArity; ++i) {
             const Kind kind = kinds[i](names[i]);
             result.push_back({names[i].name, kind, names[i].capacity, names[i].blocks,
-                              names[i].output_only || kind == Kind::kIntegerOut});
+                              names[i].output_only || kind == Kind::kIntegerOut, names[i].takes_text});
         }
         return result;
     }

@@ -7,10 +7,10 @@ namespace ostrel::catalogue {
 std::vector<Function> hosts()
 {
     return {
-        check<TcmValidateDomainName>(
-            "TcmValidateDomainName", {"value"},
-            "a host name: 1 to 6 labels of 1 to 20 letters, digits and - between dots; not digits alone",
-            {{-1, "any other value"}}),
+        check<TcmValidateDomainName>("TcmValidateDomainName", {"value"},
+                                     "a host name: 1 to 6 labels of 1 to 20 letters, digits and - between "
+                                     "dots; not digits and dots alone",
+                                     {{-1, "any other value"}}),
         check<ValidateURL>("ValidateURL", {"value"},
                            "a bare host: a host name (TcmValidateDomainName) or an IPv4 address",
                            {{-1, "any other value; a scheme, a port or a path make it invalid"}}),

@@ -32,7 +32,7 @@ std::vector<Function> lan_checks()
                                      {{402, "an item is no address, or there are more than two"}}),
         check<LAN_check_dhcp_reserved_addr>(
             "LAN_check_dhcp_reserved_addr", {"reservedList", "lanAddress"},
-            "items separated by \",\", each in the LAN's subnet and none repeated directly behind itself",
+            "items separated by \",\", each in the LAN's subnet and none repeated as 701 has it",
             {{402, "an item in another subnet"},
              {701,
               "an item's text stands again in the rest, and the rest ends or has a \",\" where an equally "
@@ -63,13 +63,13 @@ std::vector<Function> lan_checks()
                                        {803, "another character"},
                                        {-1, "the first character is a blank, a digit or \"-\""}}),
         check<LAN_check_add_allowedMACAddress>(
-            "LAN_check_add_allowedMACAddress", {"macAddress", buffer("allowedList", 161)},
+            "LAN_check_add_allowedMACAddress", {"macAddress", list_buffer("allowedList", 161)},
             "17 characters (35, 53, ...) that the list does not hold and has room for; anything if it is "
             "empty",
             {{-1, "NULL, the text stands in the list, a wrong length, or 160 characters or more in all"}}),
         check<LAN_check_add_dns_servers>(
             "LAN_check_add_dns_servers", {"newServers", "existingServers"},
-            "the existing list is empty or NULL, or no server would be repeated",
+            "the existing list is empty or NULL, or nothing is repeated as 701 has it",
             {{701, "one of two new servers is an existing one, or a single new one is the whole list"}}),
         check<LAN_check_delete_dns_server>(
             "LAN_check_delete_dns_server", {"serverAddress", "existingServers"},

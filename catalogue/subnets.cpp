@@ -19,7 +19,7 @@ std::vector<Function> subnets()
               "above the end, or the LAN address has no \".\""}}),
         check<TcmValidateReservedAddress>(
             "TcmValidateReservedAddress", {"reservedList", "lanAddress"},
-            "items separated by \",\", each in the LAN's subnet and none repeated directly behind itself",
+            "items separated by \",\", each in the LAN's subnet and none repeated as 701 has it",
             {{-1, "an item in another subnet"},
              {701,
               "an item's text stands again in the rest, and the rest ends or has a \",\" where an equally "

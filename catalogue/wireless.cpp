@@ -10,8 +10,9 @@ std::vector<Function> wireless()
         check<TcmValueisValid>("TcmValueisValid", {"value", "allowed"},
                                "every byte is one of allowed; the empty value is valid",
                                {{803, "a byte that is not in allowed"}}),
-        check<TcmValidatePSK>("TcmValidatePSK", {"value"}, "a pre-shared key: 64 hexadecimal digits",
-                              {{600, "another length"}, {803, "a character that is no hexadecimal digit"}}),
+        check<TcmValidatePSK>(
+            "TcmValidatePSK", {"value"}, "a pre-shared key: 64 hexadecimal digits",
+            {{600, "another length"}, {803, "the length is right and a character is no hexadecimal digit"}}),
         check<TcmValidateKPP>("TcmValidateKPP", {"value"},
                               "a pass phrase: 8 to 63 bytes, each of 0x20 to 0x7E",
                               {{801, "fewer than 8 bytes"},

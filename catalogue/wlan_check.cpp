@@ -55,19 +55,19 @@ void add_keys(std::vector<Function>& all)
 {
     all.push_back(check<WLAN_check_preshared_key>(
         "WLAN_check_preshared_key", {"value"}, "64 hexadecimal digits",
-        {{600, "another length"}, {803, "a character that is no hexadecimal digit"}}));
+        {{600, "another length"}, {803, "the length is right and a character is no hexadecimal digit"}}));
     all.push_back(check<WLAN_check_preshared_key2>(
         "WLAN_check_preshared_key2", {"psk", "passphrase"},
         "the psk is 64 hexadecimal digits; a pass phrase beside it is not looked at, one alone is refused",
         {{600, "the psk is not empty and of another length"},
-         {803, "the psk holds a character that is no hexadecimal digit"},
+         {803, "the psk has 64 characters and one is no hexadecimal digit"},
          {801, "a pass phrase without a psk"},
          {402, "both are empty"}}));
     all.push_back(check<WLAN_check_wepkeys>(
         "WLAN_check_wepkeys", {blocks("keys", 4, 257)},
         "four keys of 10 or 26 hexadecimal digits and of one length; an empty or unprintable key is emptied "
         "and skipped, and one must remain",
-        {{803, "a key with a character that is no hexadecimal digit"},
+        {{803, "a printable key with a character that is no hexadecimal digit"},
          {802, "a key of more than 26 digits"},
          {801, "a key of fewer than 10 digits"},
          {731, "a key of 11 to 25 digits, or of another length than an earlier one"},
@@ -90,19 +90,23 @@ void add_radio(std::vector<Function>& all)
     all.push_back(check<WLAN_check_radio_id>("WLAN_check_radio_id", {"radio"},
                                              "RADIO_2.4GHz, or RADIO_5GHz on model M2840, in any case",
                                              any_other(-1)));
-    all.push_back(check<WLAN_check_channel>("WLAN_check_channel", {"channel", "radio"},
-                                            "0 on any radio; RADIO_2.4GHz: below 14 and among the first 15 "
-                                            "channels of \"wlctl -i wl0 channels\"; "
-                                            "RADIO_5GHz: 0, 36, 40, 44, 48, 149, 153, 157 or 161",
-                                            {{-1, "another channel or radio, or the driver gave no list"}}));
-    all.push_back(check<WLAN_check_second_channel>(
-        "WLAN_check_second_channel", {"primary", "second"},
-        "second is primary + 2 for 1 to 4 and 7, primary - 2 for 5, 6 and 8 to 13; or both are 0",
+    all.push_back(check<WLAN_check_channel>(
+        "WLAN_check_channel", {"channel", "radio"},
+        "0 on any radio; RADIO_2.4GHz: below 14 and among the first 15 "
+        "channels of \"wlctl -i wl0 channels\"; "
+        "RADIO_5GHz: 0, 36, 40, 44, 48, 149, 153, 157 or 161; text without a number "
+        "is 0",
+        {{-1, "another channel or radio, or the driver gave no list"}}));
+    all.push_back(check<WLAN_check_second_channel>("WLAN_check_second_channel", {"primary", "second"},
+                                                   "second is primary + 2 for 1 to 4 and 7, primary - 2 for "
+                                                   "5, 6 and 8 to 13; or both are 0; text without a "
+                                                   "number is 0",
+                                                   {{-1, "any other pair"}}));
+    all.push_back(check<WLAN_check_5g_second_channel>(
+        "WLAN_check_5g_second_channel", {"primary", "second"},
+        "second is 38 for 36 and 40, 46 for 44 and 48, 151 for "
+        "149 and 153, 159 for 157 and 161; or both are 0; text without a number is 0",
         {{-1, "any other pair"}}));
-    all.push_back(check<WLAN_check_5g_second_channel>("WLAN_check_5g_second_channel", {"primary", "second"},
-                                                      "second is 38 for 36 and 40, 46 for 44 and 48, 151 for "
-                                                      "149 and 153, 159 for 157 and 161; or both are 0",
-                                                      {{-1, "any other pair"}}));
     all.push_back(check<WLAN_check_wide_channel>("WLAN_check_wide_channel", {"width", "radio"},
                                                  "0 or 20, and 40 on RADIO_5GHz",
                                                  {{-1, "another width or radio"}}));

@@ -13,8 +13,8 @@
  * are 0 to 4, those at positions 12 to 14 are any, every other one is 0.
  *
  * 0; OSTREL_INVALID_VALUE. A value of 15 characters that is refused has the first faulty position printed,
- * not flushed: "TcmValidateProvisioningCode  pCode[%d] error\n", with a blank before the line end at the
- * positions 6, 10, 12, 13 and 14. Any other length prints nothing.
+ * not flushed: "TcmValidateProvisioningCode  pCode[%d] error\n", or at the positions 6, 10, 12, 13 and 14
+ * "TcmValidateProvisioningCode  pCode[%d] error \n". Any other length prints nothing.
  */
 OSTREL_API int TcmValidateProvisioningCode(const char* value);
 

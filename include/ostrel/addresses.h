@@ -30,6 +30,8 @@ OSTREL_API int TcmValidateMACaddress(const char* value);
 /*
  * isValidOrdinaryMACAddress: a MAC address as for TcmValidateMACaddress that is an individual address.
  *
+ * NULL is invalid. A character where a ":" belongs is written to standard output, as there.
+ *
  * If the group bit (I/G, the lowest bit of the first octet, IEEE 802) is set, as in every multicast address
  * and in the broadcast address, "Broadcasting MAC address, invalid.\n" is printed, not flushed, and the
  * address is invalid. The test is made before any later character is looked at. "00:00:00:00:00:00" is valid.

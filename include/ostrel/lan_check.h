@@ -7,7 +7,9 @@
  * prints nothing.
  *
  * A check whose argument is value_p asserts: NULL is reported through the C library's assertion hook, in
- * every build type, and ends the process. The arguments of the other checks must not be NULL unless stated.
+ * every build type, and ends the process: the condition is "value_p != ((void *)0)", the module "lan_check",
+ * the function the check, the line that of the source. The arguments of the other checks must not be NULL
+ * unless stated.
  */
 #ifndef OSTREL_LAN_CHECK_H
 #define OSTREL_LAN_CHECK_H
@@ -53,9 +55,11 @@ OSTREL_API int LAN_check_domain_name(const char* value_p);
 /*
  * LAN_check_dhcp_addr_range: the pool of the DHCP server, see TcmValidateAddressRange.
  *
- * Always prints, and flushes, "Info in %s: Check dhcp addr range: start ip%s, end ip:%s, lan ip:%s\n\n".
+ * Always prints, and flushes, "Info in %s: Check dhcp addr range: start ip%s, end ip:%s, lan ip:%s\n\n"
+ * (start, end, LAN address).
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error dhcp addr range: start ip%s, end ip:%s\n\n".
+ * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error dhcp addr range: start ip%s, end ip:%s\n\n"
+ * (start, end).
  */
 OSTREL_API int LAN_check_dhcp_addr_range(const char* startAddress, const char* endAddress,
                                          const char* lanAddress);
@@ -110,6 +114,7 @@ OSTREL_API int LAN_check_associated_connection(const char* value_p);
 
 /*
  * LAN_check_passthrough_lease: a number of 0 to 65535 as atoi reads it; text without a number is 0.
+ * What it counts is the host's affair.
  *
  * 0; OSTREL_INVALID, with "Error in %s: Error passthrough lease:%s\n\n" (the value).
  */
@@ -142,9 +147,9 @@ OSTREL_API int LAN_check_cis_dev_name(const char* value_p);
  *              the length is judged, 18 times the number of addresses less 1, and only when the list is not
  *              empty.
  * allowedList: the list, in a buffer of the caller's of at least 161 bytes: 160 characters and the
- * terminator. When it is empty, macAddress is copied into it as it is, of whatever length and WITHOUT a
- *              terminator: the caller hands over a buffer filled with zeros and large enough. Otherwise ",",
- *              macAddress and a terminator are appended. Only an answer of 0 changes the buffer.
+ *              terminator. When it is empty, macAddress is copied into it as it is, of whatever length and
+ *              WITHOUT a terminator: the caller hands over a buffer filled with zeros and large enough. Otherwise
+ *              ",", macAddress and a terminator are appended. Only an answer of 0 changes the buffer.
  *
  * 0; OSTREL_INVALID: either pointer is NULL, silently; or, tested in this order,
  *   macAddress stands anywhere in the list (the empty one always does), with
@@ -159,9 +164,10 @@ OSTREL_API int LAN_check_add_allowedMACAddress(const char* macAddress, char* all
  * LAN_check_add_dns_servers: adds one or two DNS servers ("first,second") to a list of one or two.
  *
  * newServers:      must not be NULL unless the existing list is empty. Not validated.
- * existingServers: may be NULL, which is the empty list; to that everything can be added.
+ * existingServers: may be NULL, which is the empty list; to that everything can be added,
+ *                  and nothing is printed.
  *
- * Only the first "," splits a list. A list that holds one prints, and flushes, a line, although nothing is
+ * Only the first "," splits a list. A list that holds a "," prints, and flushes, a line, although nothing is
  * refused: "Error in %s: Existed dns servers: %s and %s\n\n" and
  * "Error in %s: New dns servers: %s and %s\n\n", each with the second server before the first.
  *
@@ -174,7 +180,8 @@ OSTREL_API int LAN_check_add_dns_servers(const char* newServers, const char* exi
  * LAN_check_delete_dns_server: whether a DNS server may be deleted from a list of one or two.
  *
  * The server may be deleted when it equals the text behind the list's first ",", or when it is as long as the
- * first (or only) server AND DIFFERS from it. So the first server itself is not found.
+ * first (or only) server AND DIFFERS from it. So the first server itself is not found, and in an empty
+ * list none is.
  *
  * 0; OSTREL_INVALID_VALUE: serverAddress is no IPv4 address (see TcmValidateIPAddress), with
  *   "Error in %s: Not a valid IP addr: %s\n\n" (the address);

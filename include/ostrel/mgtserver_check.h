@@ -69,10 +69,10 @@ OSTREL_API int MGTSERVER_check_periodic_inform_interval(const char* value_p);
 /*
  * GUESTACCESS_check_max_allowed_number: how many guests are allowed: 1 or 2 digits, above 0.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
+ * 0; OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
  * "Error in %s: Error max allowed number:%s\n\n" (the value). Where the number that atoi reads is not above
  * 0, "Error in %s: Error min allowed number:%s\n\n" (the value) is printed too, and OSTREL_INVALID_VALUE is
- * the answer whatever the fault before: "abc" prints both lines, "0" the second alone.
+ * the answer whatever the fault before: "abc" and the empty value print both lines, "0" the second alone.
  */
 OSTREL_API int GUESTACCESS_check_max_allowed_number(const char* value);
 

@@ -3,9 +3,11 @@
  *
  * value_p is the value, a NUL-terminated byte string of any length; no check changes it. A check that prints
  * writes one line to standard output when it refuses a value, beginning "Error in <its own name>: ", and then
- * flushes all output streams. "Asserts" means that a NULL value is reported through the C library's assertion
- * hook, in every build type, and ends the process; where neither that nor a code for NULL is stated, value_p
- * must not be NULL.
+ * flushes all output streams. What a wrapped primitive prints is passed on as it is, not flushed.
+ *
+ * "Asserts" means that a NULL value is reported through the C library's assertion hook, in every build type,
+ * and ends the process: the condition is "value_p != ((void *)0)", the module "parameter_check", the function
+ * the check. Where neither that nor a code for NULL is stated, value_p must not be NULL.
  */
 #ifndef OSTREL_PARAMETER_CHECK_H
 #define OSTREL_PARAMETER_CHECK_H
@@ -15,7 +17,8 @@
 /*
  * Param_check_string_len: a length of min_len to max_len bytes, compared as signed numbers.
  *
- * Asserts. 0; OSTREL_TOO_SHORT (tested first), OSTREL_TOO_LONG, with
+ * Asserts, with the condition "((void *)0) != value_p". 0; OSTREL_TOO_SHORT (tested first), OSTREL_TOO_LONG,
+ * with
  *   "Error in %s: The length of string:%s shoud not be less than %d\n" (the value, min_len) or
  *   "Error in %s: The length of string:%s shoud not be more than %d\n" (the value, max_len).
  * PARAM_check_string_len is the silent, unsigned one.
@@ -42,7 +45,7 @@ OSTREL_API int PARAM_check_ip_addr(const char* value_p);
 OSTREL_API int PARAM_check_Ordinary_MACAddress(const char* value_p);
 
 /*
- * PARAM_check_MACAddress: a MAC address, see TcmValidateMACaddress, which may print.
+ * PARAM_check_MACAddress: a MAC address, see TcmValidateMACaddress, which may print, unflushed.
  *
  * 0; OSTREL_INVALID_VALUE, also for NULL.
  */
@@ -77,7 +80,8 @@ OSTREL_API int PARAM_check_hexa_string(const char* value_p);
 OSTREL_API int PARAM_check_printable_ascii_string(const char* value_p);
 
 /*
- * PARAM_check_provisioning_code: a provisioning code, see TcmValidateProvisioningCode, which may print.
+ * PARAM_check_provisioning_code: a provisioning code, see TcmValidateProvisioningCode, which may print,
+ * unflushed.
  *
  * 0; OSTREL_INVALID_VALUE.
  */
@@ -88,7 +92,9 @@ OSTREL_API int PARAM_check_provisioning_code(const char* value_p);
  *
  * THEY NEVER RETURN FOR A VALUE THAT BEGINS WITH A DIGIT. The empty value is accepted; any other is refused.
  *
- * Assert. 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s is invalid\n".
+ * Assert. 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s is invalid\n". The lines for a number out
+ * of range, "Error in %s: The value %s should be between [0,65536)\n" and
+ * "Error in %s: The value %s should be between [0,4296967296)\n", are never printed.
  */
 OSTREL_API int PARAM_check_ui2_value(const char* value_p);
 OSTREL_API int PARAM_check_ui4_value(const char* value_p);
@@ -150,9 +156,10 @@ OSTREL_API int PARAM_check_string_prefix(const char* value_p, const char* first_
  *
  * 0;
  * OSTREL_OUT_OF_RANGE: NULL, empty, or a number that overflows to a negative one, silently; or a character
- * that is no digit, with "Error in %s: The value %s is invalid\n"; OSTREL_WRONG_FORM: the number is 0,
- * silently; OSTREL_BUFFER_SIZE_TOO_LARGE: above 1048576, with "Error in %s: The value %s should be between
- * [1,%d)\n".
+ *   that is no digit, with "Error in %s: The value %s is invalid\n";
+ * OSTREL_WRONG_FORM: the number is 0, silently;
+ * OSTREL_BUFFER_SIZE_TOO_LARGE: above 1048576, with
+ *   "Error in %s: The value %s should be between [1,%d)\n" (the value, 1048576).
  */
 OSTREL_API int PARAM_check_dl_test_bufsize(const char* value_p);
 

@@ -72,7 +72,7 @@ OSTREL_API int PPP_check_route_protocol_rx(const char* value);
 
 /*
  * PPP_check_shaping_rate: a number of -1 or more as atoi reads it; text without a number is 0, so the empty
- * value is accepted.
+ * value is accepted. The unit is the host's affair.
  *
  * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error shaping rate:%s\n\n" (the value).
  */
@@ -80,6 +80,7 @@ OSTREL_API int PPP_check_shaping_rate(const char* value);
 
 /*
  * PPP_check_shaping_burst_size: a number of 0 or more, read in the same way; unlike the rate it cannot be -1.
+ * The unit is the host's affair.
  *
  * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error shaping burst size:%s\n\n" (the value).
  */

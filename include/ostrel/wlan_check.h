@@ -5,18 +5,19 @@
  * for it. Keywords are compared byte by byte and case counts, save in the name of a radio. An empty value is
  * no keyword.
  *
- * A check that prints writes to standard output when it refuses a value and then flushes all output streams;
- * the texts below are whole, and the first %s is the check's own name. WLAN_check_keys alone writes to
- * standard error.
+ * A check that prints writes to standard output when it refuses a value, save as said, and then flushes all
+ * output streams; the texts are whole, and the first %s is the check's own name. WLAN_check_keys alone writes
+ * to standard error.
  *
  * No check changes its arguments but WLAN_check_ssid and WLAN_check_wepkeys.
  *
  * The host process may supply two utilities, exported from the program or a library that it has loaded:
  *
  *     int cmsUtl_strcmp(const char* a, const char* b);     0 for equal texts; any other number otherwise
- *     int htmlToText(char* text, size_t length);           rewrites the character references of the length
- * bytes of text in place; text[length] is the terminator, and a shorter result must be terminated; the answer
- * is not looked at
+ *     int htmlToText(char* text, size_t length);           rewrites the character references of the text in
+ *                                                          place; text[length] is the terminator, and a
+ *                                                          shorter result must be terminated; the answer is
+ *                                                          not looked at
  *
  * They are weak imports: without them the library compares byte by byte and converts the references itself
  * (see WLAN_check_ssid).

@@ -1,4 +1,4 @@
-// Report lines: the one place that writes what the checks have to say.
+// Report lines: the one place that formats and flushes them.
 //
 // Each message is one output call, so that lines of concurrent callers never break inside.
 #ifndef OSTREL_SUPPORT_REPORT_H

@@ -73,7 +73,13 @@ void append_after(std::string& out, std::string_view indentation, const Result& 
 {
     for (const catalogue::Written& written : result.after) {
         out.append(indentation).append(written.argument->name).append(" after the call: ");
-        append_value(out, written.value, kLongestShown);
+        const bool is_unwritten = written.argument->kind == catalogue::Kind::kIntegerOut &&
+                                  std::holds_alternative<std::nullptr_t>(written.value);
+        if (is_unwritten) {
+            out += "not written";
+        } else {
+            append_value(out, written.value, kLongestShown);
+        }
         out += '\n';
     }
 }

@@ -13,6 +13,7 @@
 #include "driver.h"
 #include "process.h"
 #include "render.h"
+#include "show.h"
 #include "words.h"
 
 namespace ostrel::tool {
@@ -29,6 +30,21 @@ constexpr std::string_view kAssertionMark = "a";
 // last_printed is the last byte that the check's own process has sent to standard output.
 char last_printed = '\n';
 
+// is_shown_on_terminal tells that a value's control bytes must not reach whoever looks at the lines.
+bool is_shown_on_terminal = false;
+
+// append_for_terminal leaves a line's own line breaks and blanks as they are.
+void append_for_terminal(std::string& out, std::string_view text)
+{
+    for (const char& c : text) {
+        if (c == '\n') {
+            out += c;
+        } else {
+            append_escaped(out, {&c, 1}, 1);
+        }
+    }
+}
+
 // pass_on answers as the C library expects it of a stream; no exception may go through it.
 ssize_t pass_on(int descriptor, std::string_view text)
 {
@@ -42,7 +58,10 @@ ssize_t pass_on(int descriptor, std::string_view text)
 ssize_t print(void*, const char* bytes, std::size_t size)
 {
     if (size > 0) last_printed = bytes[size - 1];
-    return pass_on(STDOUT_FILENO, {bytes, size});
+    if (!is_shown_on_terminal) return pass_on(STDOUT_FILENO, {bytes, size});
+    std::string shown;
+    append_for_terminal(shown, {bytes, size});
+    return pass_on(STDOUT_FILENO, shown) < 0 ? -1 : static_cast<ssize_t>(size);
 }
 
 ssize_t print_error(void* news, const char* bytes, std::size_t size)
@@ -67,7 +86,8 @@ std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int bufferi
 // tells an assertion from another abort.
 void watch_output(const Descriptor& news)
 {
-    stdout = open_stream(print, nullptr, isatty(STDOUT_FILENO) == 1 ? _IOLBF : _IOFBF);
+    is_shown_on_terminal = isatty(STDOUT_FILENO) == 1;
+    stdout = open_stream(print, nullptr, is_shown_on_terminal ? _IOLBF : _IOFBF);
     stderr = open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
 }
 
@@ -76,7 +96,6 @@ void watch_output(const Descriptor& news)
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
     dup2(nothing, STDIN_FILENO);
     watch_output(news);
-    const Turn turn(*result.function);
     judge(result, caller.call());
     write_all(news.number(), kReturnMark);
     std::fflush(nullptr);
@@ -116,6 +135,7 @@ int judge_one(std::string_view name, std::span<const std::string> words, double 
     Caller caller;
     caller.load(*result.function, values);
 
+    const Turn turn(*result.function);  // before the time begins to count
     Pipe pipe = make_pipe();
     const pid_t child = fork_guarded();
     if (child == 0) call(caller, result, pipe.writing);
@@ -134,6 +154,7 @@ int judge_one(std::string_view name, std::span<const std::string> words, double 
         result.verdict = Verdict::kEnded;
         result.problem = describe_ending(wait_for(child), news == News::kAsserted);
     }
+    clean_up_after(*result.function);
     write_all(STDOUT_FILENO, describe(result) + "\n");
     return exit_code(result.verdict);
 }

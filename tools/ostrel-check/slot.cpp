@@ -7,6 +7,7 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "driver.h"
 #include "line.h"
 
 namespace ostrel::tool {
@@ -107,6 +108,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
     result.verdict = line.function() == nullptr ? Verdict::kMalformed : verdict;
     result.function = line.function();
     result.values = &line.values();
+    if (result.function != nullptr) clean_up_after(*result.function);
     result.problem = std::move(problem);
     if (result.verdict != Verdict::kMalformed) {
         const catalogue::Prints& prints = arena_->prints;

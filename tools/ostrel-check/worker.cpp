@@ -53,7 +53,7 @@ class Judge {
             refuse_line(error.what(), progress);
             return;
         }
-        const Turn turn(*line_.function());
+        const Turn turn(*line_.function(), [&] { arena_->commit(progress); });
         capture_.clear();
         const int code = caller_.call();
         result_.printed = capture_.look();

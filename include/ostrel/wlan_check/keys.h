@@ -32,9 +32,9 @@ OSTREL_API int WLAN_check_preshared_key2(const char* psk, const char* passphrase
  * WLAN_check_wepkeys: the four WEP keys (IEEE 802.11), of 10 or 26 hexadecimal digits and all of one length.
  *
  * keys: the caller's block of 1028 bytes: four NUL-terminated keys, each in a buffer of 257 bytes, one
- * directly behind the other. A key that is empty or holds a byte outside 0x20 to 0x7E is skipped: its first
- * byte, and nothing else, is set to NUL. It stays so when a later key is refused. NULL is asserted on: the
- *       condition is "value != ((void *)0)", the module "wlan_check", the line 500.
+ *       directly behind the other. A key that is empty or holds a byte outside 0x20 to 0x7E is skipped: its
+ *       first byte, and nothing else, is set to NUL. It stays so when a later key is refused. NULL is
+ *       asserted on: the condition is "value != ((void *)0)", the module "wlan_check", the line 500.
  *
  * The first key that is refused decides; later ones are not looked at. For each skipped key
  *   "Error in %s: The key should not be empty or non printable ascii string: %s\n\n" (the key) is printed.
@@ -58,12 +58,14 @@ OSTREL_API int WLAN_check_wepkeys(char* keys);
  *
  *   type                                       key
  *   "WPA-PSK", "WPA2-PSK", "WPA-AUTO-PSK"      as TcmValidatePSK or as TcmValidateKPP
- *   "WEP-OPEN", "WEP-SHARED", "WEP-RADIUS"     10 characters with "WEP-64", 26 with "WEP-128", each of 0x20
- * to 0x7E: hexadecimal digits are not required "WPA-RADIUS", "WPA2-RADIUS", "WPA-AUTO-RADIUS"   not looked at
+ *   "WEP-OPEN", "WEP-SHARED", "WEP-RADIUS"     10 characters with "WEP-64", 26 with "WEP-128", each of
+ *                                              0x20 to 0x7E: hexadecimal digits are not required
+ *   "WPA-RADIUS", "WPA2-RADIUS",
+ *   "WPA-AUTO-RADIUS"                          not looked at
  *
  * Writes to standard error, nothing to standard output, and flushes nothing. Last comes "The code : %d\n"
- * with the answer, save where it is OSTREL_FORBIDDEN_CHARACTER; before that, for the WEP types, "The key :
- * %s\n".
+ * with the answer, save where it is OSTREL_FORBIDDEN_CHARACTER; before that, for the WEP types,
+ * "The key : %s\n".
  *
  * 0;
  * OSTREL_INVALID: a bad key for a PSK type, or another type;

@@ -12,11 +12,11 @@
  * WLAN_check_ssid: an SSID, see TcmValidateSSID, whose line about the length is printed on every call.
  *
  * value: the caller's buffer. Its HTML character references are rewritten in place first, and the text stays
- *        rewritten whatever the answer; it never grows. "a&amp;b" is an SSID of 3 bytes.
+ *        rewritten whatever the answer. "a&amp;b" is an SSID of 3 bytes.
  *
  * The host's htmlToText does this. Without one the library knows the names of HTML 4 for Latin-1 characters,
  * XML's five, and the numbers 1 to 255, decimal ("&#65;") and hexadecimal ("&#x41;"); each gives one byte of
- * ISO 8859-1, and anything else stands as it is.
+ * ISO 8859-1, anything else stands as it is, and the text never grows.
  *
  * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with "Error in %s: Error SSID:%s\n" (the
  * rewritten value).
@@ -57,8 +57,10 @@ OSTREL_API int WLAN_check_location_description(const char* value);
  * Country letters are refused.
  *
  * 0; OSTREL_INVALID_VALUE, with
- *   4 bytes or more: "Error in %s: Error regulatory domain :%s length out of range. [0,%d]\n\n" (the value,
- * 3) otherwise:       "Error in %s: Error regulatory domain value invalid :%s\n\n"
+ *   4 bytes or more:
+ *     "Error in %s: Error regulatory domain :%s length out of range. [0,%d]\n\n" (the value, 3);
+ *   otherwise:
+ *     "Error in %s: Error regulatory domain value invalid :%s\n\n".
  */
 OSTREL_API int WLAN_check_regulatory_domain(const char* value);
 

@@ -49,6 +49,11 @@ TEST_F(Driver, MayListNothing)
     EXPECT_EQ(1, run({"--channels", "", "WLAN_check_channel", "6", "RADIO_2.4GHz"}).status);
 }
 
+TEST_F(Driver, ListsNumbersOnly)
+{
+    EXPECT_EQ(2, run({"--channels", "1,6,11", "WLAN_check_channel", "6", "RADIO_2.4GHz"}).status);
+}
+
 TEST_F(Driver, AnswersABatchToo)
 {
     const std::string input =
@@ -58,6 +63,23 @@ TEST_F(Driver, AnswersABatchToo)
     ASSERT_EQ(3U, rows.size());
     EXPECT_EQ(0, rows[0]["code"]);
     EXPECT_EQ(-1, rows[1]["code"]);
+}
+
+// A tool that hangs leaves no list behind that a later call could take for the driver's.
+TEST_F(Driver, MayHang)
+{
+    const File path("#!/bin/sh\nsleep 60\n");
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "bin";
+    std::filesystem::create_directory(folder);
+    std::filesystem::copy(path.path(), folder / "wlctl");
+    std::filesystem::permissions(folder / "wlctl", std::filesystem::perms::owner_all);
+    const std::string saved = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
+    setenv("PATH", (folder.string() + ":" + saved).c_str(), 1);
+    EXPECT_EQ(3, run({"--limit-time", "0.3", "WLAN_check_channel", "6", "RADIO_2.4GHz"}).status);
+    EXPECT_FALSE(std::filesystem::exists(kListFile));
+    EXPECT_EQ(3, run({"batch", "--limit-time", "0.3"}, "WLAN_check_channel 6 RADIO_2.4GHz\n").status);
+    setenv("PATH", saved.c_str(), 1);
+    std::filesystem::remove_all(folder);
 }
 
 // The file of one fixed name would mix the lists up if two processes ran the check at once.

@@ -64,6 +64,14 @@ TEST(Single, WhatIsFilledInIsShown)
               run({"TcmValidatePPPUsername", "1234567890123#4567@example.net"}));
 }
 
+TEST(Single, ANumberThatIsNotWrittenIsNotShownAsOne)
+{
+    EXPECT_TRUE(run({"TcmValidatePPPUsername", "1#2#3#4567890123456@example.net"})
+                    .out.ends_with("  account_type after the call: not written\n"));
+    EXPECT_TRUE(
+        run({"TcmValidatePPPUsername", "someone"}).out.ends_with("  account_type after the call: 0\n"));
+}
+
 TEST(Single, EachBlockIsAWordAndIsShownAfterTheCall)
 {
     const Outcome outcome = run({"WLAN_check_wepkeys", "0123456789", "abc", "@@null", ""});
@@ -124,7 +132,7 @@ TEST(Single, CallThatDoesNotReturnIsThree)
 TEST(Single, WrongUsageIsTwo)
 {
     EXPECT_EQ((Outcome{2, "",
-                       usage_error("there is no check PARAM_check_prot; the nearest names are "
+                       usage_error("there is no check \"PARAM_check_prot\"; the nearest names are "
                                    "PARAM_check_port, PARAM_check_ip_addr and PARAM_check_number")}),
               run({"PARAM_check_prot", "1"}));
     EXPECT_EQ((Outcome{2, "", usage_error("0 values were given; expected: PARAM_check_port value_p")}),
@@ -151,7 +159,7 @@ TEST(Single, UnknownNamesAreShownSafely)
 {
     const Outcome outcome = run({"\x1B[1m\xE9", "1"});
     EXPECT_EQ(2, outcome.status);
-    EXPECT_EQ("ostrel-check: there is no check \\x1B[1m\\xE9;", outcome.err.substr(0, 44));
+    EXPECT_EQ("ostrel-check: there is no check \"\\x1B[1m\\xE9\";", outcome.err.substr(0, 46));
 }
 
 TEST(Single, HelpAndVersion)

@@ -1,0 +1,47 @@
+// The examples are whole: every function is in them, and every line is a case.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "run.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+TEST(Examples, JudgeEveryFunctionAndHoldGoodAndRefusedValues)
+{
+    std::vector<std::string> arguments = {"batch", "--json"};
+    for (const auto& entry : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/examples")) {
+        if (entry.is_regular_file()) arguments.push_back(entry.path());
+    }
+    const Outcome outcome = run(arguments);
+    EXPECT_EQ(1, outcome.status);  // neither malformed lines nor checks that did not return
+
+    std::set<std::string> judged;
+    std::set<std::string> verdicts;
+    std::istringstream lines(outcome.out);
+    for (std::string line; std::getline(lines, line);) {
+        const nlohmann::json row = nlohmann::json::parse(line);
+        if (!row.contains("check")) continue;
+        judged.insert(row["check"]);
+        verdicts.insert(row["verdict"]);
+    }
+    for (const catalogue::Function& function : catalogue::functions()) {
+        EXPECT_TRUE(judged.contains(std::string(function.name))) << function.name;
+    }
+    EXPECT_TRUE(verdicts.contains("accepted"));
+    EXPECT_TRUE(verdicts.contains("refused"));
+}
+
+}  // namespace
+
+}  // namespace ostrel::tool
