@@ -75,8 +75,9 @@ TEST(ParameterCheckDigitScan, NeverReturnsForAValueThatBeginsWithADigit)
 {
     constexpr milliseconds kLimit(300);
     for (const auto& check : {PARAM_check_ui2_value, PARAM_check_ui4_value}) {
-        std::vector<std::unique_ptr<Child>> children;
         const std::array<const char*, 6> values = {"0", "1", "9", "65535", "65536", "1x"};
+        std::vector<std::unique_ptr<Child>> children;
+        children.reserve(values.size());
         for (const char* value : values) {
             children.push_back(std::make_unique<Child>([check, value] {
                 std::puts("called");
