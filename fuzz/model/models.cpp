@@ -8,6 +8,11 @@ const Models& models()
         Models result;
         add_generic(result);
         add_wireless(result);
+        add_hosts(result);
+        add_lan(result);
+        add_management(result);
+        add_time(result);
+        add_branding(result);
         return result;
     }();
     return all;
