@@ -17,7 +17,7 @@ constexpr char kRepeat = 2;
 constexpr char kLiteral = 3;
 constexpr std::size_t kShortRun = 128;  // runs below it are written as they are, longer ones in steps
 constexpr std::size_t kStep = 64;
-constexpr std::size_t kMostSteps = 128;
+constexpr std::size_t kMostSteps = 128;  // 8192 bytes
 
 bool is_null(std::string_view field) { return field.size() == 1 && field.front() == kNull; }
 

@@ -19,7 +19,7 @@
 namespace ostrel::fuzz {
 
 // kLongestText bounds a text, so that a few bytes cannot make a call that takes long.
-constexpr std::size_t kLongestText = 20000;
+constexpr std::size_t kLongestText = 8192;
 
 // decode_arguments reads the fields for the arguments of a function. values is used again and again.
 void decode_arguments(const catalogue::Function& function, std::string_view fields,
