@@ -79,8 +79,8 @@ bool is_address(const std::string& value)
     const std::vector<std::string> octets = split(value, '.');
     if (octets.size() != 4) return false;
     for (const std::string& octet : octets) {
-        if (octet.empty()) return false;
-        if (std::stoi(octet) > 255) return false;  // 9 digits at most, as three others stand beside them
+        // More than 9 digits leave no room for the other three, and an empty one fails below or did so above.
+        if (octet.empty() || octet.size() > 9 || std::stoi(octet) > 255) return false;
     }
     return true;
 }
