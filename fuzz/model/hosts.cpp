@@ -5,11 +5,12 @@ namespace ostrel::model {
 
 namespace {
 
-const std::string kUrlSet = rule::kLettersAndDigits + "-_./:?";
-const std::string kNameSet = rule::kLettersAndDigits + "-._";
-const std::string kMailSet = rule::kLettersAndDigits + "-.@";
-const std::string kHostPortSet = kNameSet + ":";
-const std::string kLabelSet = rule::kLettersAndDigits + "-";
+constexpr std::string_view kUrlSet = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-_./:?";
+constexpr std::string_view kNameSet = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-._";
+constexpr std::string_view kMailSet = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-.@";
+constexpr std::string_view kHostPortSet =
+    "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-._:";
+constexpr std::string_view kLabelSet = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-";
 
 bool is_domain_name(const std::string& value)
 {

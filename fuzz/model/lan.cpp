@@ -51,8 +51,8 @@ Answer dhcp_addr_range(Arguments arguments)
     const std::string& start = text(arguments[0]);
     const std::string& end = text(arguments[1]);
     const std::string& lan = text(arguments[2]);
-    const Answer told = printed(0, "Info in LAN_check_dhcp_addr_range: Check dhcp addr range: start ip" +
-                                       start + ", end ip:" + end + ", lan ip:" + lan + "\n\n");
+    Answer told = printed(0, "Info in LAN_check_dhcp_addr_range: Check dhcp addr range: start ip" + start +
+                                 ", end ip:" + end + ", lan ip:" + lan + "\n\n");
     if (rule::is_range(start, end, lan)) return told;
     return rule::followed(
         told, rule::refused(402, "LAN_check_dhcp_addr_range",
@@ -68,7 +68,7 @@ Answer dns_servers(const std::string& value)
 // dhcp_reserved_addr has a code of its own for another subnet, and keeps that of a repeated entry.
 Answer dhcp_reserved_addr(const std::string& list, const std::string& lan)
 {
-    const Answer told = printed(
+    Answer told = printed(
         0, "Info in LAN_check_dhcp_reserved_addr: Dhcp reserved addr: " + list + ", lan ip:" + lan + "\n\n");
     const int code = rule::reserved_addresses(list, lan);
     if (code == 0) return told;

@@ -86,7 +86,7 @@ Answer time_zone(Arguments arguments)
 {
     if (is_null(arguments[0])) return undefined();
     const std::string& value = text(arguments[0]);
-    const bool begins = rule::equal_ignoring_case(std::string_view(value).substr(0, 3), "UTC");
+    const bool begins = rule::equal_ignoring_case(value.substr(0, 3), "UTC");
     if (begins && is_null(arguments[1])) return undefined();
     Answer answer = silent(begins ? 0 : -1);
     if (!begins) {

@@ -7,12 +7,12 @@ namespace ostrel::model {
 
 namespace {
 
-const std::string kAccountRealm = OSTREL_ACCOUNT_REALM;
-const std::string kSetupRealm = OSTREL_SETUP_REALM;
-const std::string kLocalPartSet = "0123456789#";
+constexpr std::string_view kAccountRealm = OSTREL_ACCOUNT_REALM;
+constexpr std::string_view kSetupRealm = OSTREL_SETUP_REALM;
+constexpr std::string_view kLocalPartSet = "0123456789#";
 
 // realm_part is the local part of a name in that realm; a realm alone has none.
-std::optional<std::string> realm_part(const std::string& name, const std::string& realm)
+std::optional<std::string> realm_part(const std::string& name, std::string_view realm)
 {
     if (name.size() <= realm.size() || !name.ends_with(realm)) return std::nullopt;
     return name.substr(0, name.size() - realm.size());

@@ -58,7 +58,7 @@ int setup_type(std::string_view part, int separators)
 // cut_realm takes the realm off the end of a name that has at least one character before it.
 bool cut_realm(std::string_view& name, std::string_view realm)
 {
-    if (name.size() <= realm.size() || !ends_with(name, realm)) return false;
+    if (name.size() == realm.size() || !ends_with(name, realm)) return false;
     name.remove_suffix(realm.size());
     return true;
 }
