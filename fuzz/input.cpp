@@ -1,0 +1,210 @@
+#include "fuzz/input.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+namespace ostrel::fuzz {
+
+using catalogue::Argument;
+using catalogue::Kind;
+using catalogue::Value;
+
+namespace {
+
+constexpr char kNull = 1;
+constexpr char kRepeat = 2;
+constexpr char kLiteral = 3;
+constexpr std::size_t kShortRun = 128;  // runs below it are written as they are, longer ones in steps
+constexpr std::size_t kStep = 64;
+constexpr std::size_t kMostSteps = 128;  // 8192 bytes
+
+bool is_null(std::string_view field) { return field.size() == 1 && field.front() == kNull; }
+
+// next_field takes the first field off.
+std::string_view next_field(std::string_view& fields)
+{
+    const std::size_t end = std::min(fields.find('\0'), fields.size());
+    const std::string_view field = fields.substr(0, end);
+    fields.remove_prefix(std::min(end + 1, fields.size()));
+    return field;
+}
+
+void decode_text(std::string_view field, std::size_t longest, std::string& text)
+{
+    text.clear();
+    for (std::size_t i = 0; i < field.size() && text.size() < longest; ++i) {
+        const char c = field[i];
+        const bool has_operand = i + 1 < field.size();
+        if (c == kRepeat && has_operand) {
+            const std::size_t n = static_cast<unsigned char>(field[++i]);
+            const std::size_t times = n < kShortRun ? n : (n - kShortRun + 1) * kStep;
+            text.append(std::min(times, longest - text.size()), text.empty() ? 'a' : text.back());
+        } else if (c == kLiteral && has_operand) {
+            text += field[++i];
+        } else {
+            text += c;
+        }
+    }
+}
+
+long long decode_number(std::string_view field, Kind kind)
+{
+    const bool is_unsigned = kind == Kind::kUnsigned;
+    const long long lowest = is_unsigned ? 0 : std::numeric_limits<int>::min();
+    const long long highest =
+        is_unsigned ? std::numeric_limits<unsigned>::max() : std::numeric_limits<int>::max();
+    if (field.empty()) return kind == Kind::kIntegerOut ? lowest : 0;
+    if (field.front() == '-' || (field.front() >= '0' && field.front() <= '9')) {
+        long long number = 0;
+        const auto read = std::from_chars(field.data(), field.data() + field.size(), number);
+        if (read.ec == std::errc::result_out_of_range) number = field.front() == '-' ? lowest : highest;
+        return std::clamp(number, lowest, highest);
+    }
+    unsigned bits = 0;
+    for (std::size_t i = 0; i < 4 && i < field.size(); ++i) {
+        bits |= static_cast<unsigned>(static_cast<unsigned char>(field[i])) << 8 * i;
+    }
+    return is_unsigned ? static_cast<long long>(bits) : static_cast<int>(bits);
+}
+
+// reuse gives the text in a value, which keeps its memory when it was a text before.
+std::string& reuse(Value& value)
+{
+    auto* text = std::get_if<std::string>(&value);
+    return text != nullptr ? *text : value.emplace<std::string>();
+}
+
+void decode_blocks(const Argument& argument, std::string_view first, std::string_view& fields, Value& value)
+{
+    auto* texts = std::get_if<std::vector<std::string>>(&value);
+    if (texts == nullptr) texts = &value.emplace<std::vector<std::string>>();
+    texts->resize(argument.blocks);
+    for (std::size_t i = 0; i < argument.blocks; ++i) {
+        decode_text(i == 0 ? first : next_field(fields), argument.capacity - 1, (*texts)[i]);
+        (*texts)[i].resize(std::min((*texts)[i].size(), argument.capacity - 1));
+    }
+}
+
+void decode_argument(const Argument& argument, std::string_view& fields, Value& value)
+{
+    const std::string_view field = next_field(fields);
+    switch (argument.kind) {
+        case Kind::kInteger:
+        case Kind::kUnsigned:
+            value = decode_number(field, argument.kind);
+            return;
+        case Kind::kIntegerOut:
+            if (is_null(field)) {
+                value = nullptr;
+            } else {
+                value = decode_number(field, argument.kind);
+            }
+            return;
+        case Kind::kText:
+        case Kind::kBuffer:
+            if (is_null(field)) {
+                value = nullptr;
+            } else {
+                decode_text(field, kLongestText, reuse(value));
+            }
+            return;
+        case Kind::kBlocks:
+            if (is_null(field)) {
+                value = nullptr;
+            } else {
+                decode_blocks(argument, field, fields, value);
+            }
+            return;
+    }
+}
+
+std::size_t run_at(std::string_view text, std::size_t begin)
+{
+    const std::size_t end = text.find_first_not_of(text[begin], begin);
+    return std::min(end, text.size()) - begin;
+}
+
+void encode_text(std::string_view text, std::string& field)
+{
+    for (std::size_t i = 0; i < text.size();) {
+        if (text[i] >= kNull && text[i] <= kLiteral) field += kLiteral;
+        field += text[i];
+        std::size_t left = run_at(text, i) - 1;
+        i += left + 1;
+        if (left < 4) {
+            // Short runs are the easier to change when they stand there byte by byte.
+            for (; left > 0; --left) {
+                if (text[i - 1] >= kNull && text[i - 1] <= kLiteral) field += kLiteral;
+                field += text[i - 1];
+            }
+        }
+        while (left > 0) {
+            field += kRepeat;
+            const std::size_t steps = std::min(left / kStep, kMostSteps);
+            if (left < kShortRun) {
+                field += static_cast<char>(left);
+                left = 0;
+            } else {
+                field += static_cast<char>(kShortRun + steps - 1);
+                left -= steps * kStep;
+            }
+        }
+    }
+}
+
+struct Encoder {
+    std::string& fields;
+
+    bool operator()(std::nullptr_t) const
+    {
+        fields += kNull;
+        return true;
+    }
+    bool operator()(long long number) const
+    {
+        fields += std::to_string(number);
+        return true;
+    }
+    bool operator()(const std::string& text) const
+    {
+        encode_text(text, fields);
+        return text.size() <= kLongestText;
+    }
+    bool operator()(const std::vector<std::string>& texts) const
+    {
+        bool fits = true;
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            if (i > 0) fields += '\0';
+            fits = (*this)(texts[i]) && fits;
+        }
+        return fits;
+    }
+};
+
+}  // namespace
+
+void decode_arguments(const catalogue::Function& function, std::string_view fields,
+                      std::vector<Value>& values)
+{
+    values.resize(function.arguments.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        decode_argument(function.arguments[i], fields, values[i]);
+    }
+}
+
+std::optional<std::string> encode_arguments(const catalogue::Function& function,
+                                            const std::vector<Value>& values)
+{
+    std::string fields;
+    std::size_t next = 0;
+    const bool all_given = values.size() == function.arguments.size();
+    for (std::size_t i = 0; i < function.arguments.size(); ++i) {
+        if (i > 0) fields += '\0';
+        if (!all_given && function.arguments[i].output_only) continue;
+        if (!std::visit(Encoder{fields}, values.at(next++))) return std::nullopt;
+    }
+    return fields;
+}
+
+}  // namespace ostrel::fuzz

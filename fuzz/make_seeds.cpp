@@ -1,0 +1,94 @@
+// fuzz_seeds VECTORS OUT: writes each call of VECTORS/*.ndjson as an input into OUT/TARGET/, and the texts that
+// stand in them into OUT/TARGET.dict, a dictionary as libFuzzer and AFL++ read it.
+
+#include <cstdio>
+#include <exception>
+#include <fstream>
+#include <set>
+
+#include "fuzz/judge.h"
+#include "fuzz/seeds.h"
+
+namespace ostrel::fuzz {
+
+namespace {
+
+constexpr std::size_t kLongestWord = 32;  // AFL++ takes words of up to 128 bytes, libFuzzer of up to 64
+
+// add_words takes a text, and the pieces of it that lists, addresses and zones are made of.
+void add_words(const std::string& text, std::set<std::string>& words)
+{
+    std::string piece;
+    for (const char c : text + ",") {
+        if (std::string_view(",;|/@=").find(c) == std::string_view::npos) {
+            piece += c;
+            continue;
+        }
+        if (piece.size() > 1 && piece.size() <= kLongestWord) words.insert(piece);
+        piece.clear();
+    }
+    if (text.size() > 1 && text.size() <= kLongestWord) words.insert(text);
+}
+
+void add_words(const catalogue::Case& given, std::set<std::string>& words)
+{
+    for (const catalogue::Value& value : given.values) {
+        if (const auto* text = std::get_if<std::string>(&value)) add_words(*text, words);
+        if (const auto* texts = std::get_if<std::vector<std::string>>(&value)) {
+            for (const std::string& text : *texts) add_words(text, words);
+        }
+    }
+}
+
+void write_dictionary(const std::filesystem::path& file, const std::set<std::string>& words)
+{
+    std::ofstream stream(file);
+    for (const std::string& word : words) {
+        stream << '"';
+        for (const char c : word) {
+            char escaped[8];
+            std::snprintf(escaped, sizeof escaped, "\\x%02x", static_cast<unsigned char>(c));
+            stream << escaped;
+        }
+        stream << "\"\n";
+    }
+}
+
+void make_seeds(const Target& target, const std::vector<catalogue::Case>& cases,
+                const std::filesystem::path& out)
+{
+    const Judge judge(target);
+    const std::filesystem::path folder = out / target.name;
+    std::filesystem::create_directories(folder);
+    std::set<std::string> words;
+    std::size_t count = 0;
+    for (const catalogue::Case& given : cases) {
+        const auto input = judge.encode(*given.function, given.values);
+        if (!input) continue;
+        add_words(given, words);
+        std::ofstream stream(folder / (std::to_string(++count) + "-" + std::string(given.function->name)),
+                             std::ios::binary);
+        stream << *input;
+    }
+    write_dictionary(out / (std::string(target.name) + ".dict"), words);
+}
+
+}  // namespace
+
+}  // namespace ostrel::fuzz
+
+int main(int argc, char** argv)
+{
+    if (argc != 3) {
+        std::fputs("usage: fuzz_seeds VECTORS OUT\n", stderr);
+        return 2;
+    }
+    try {
+        const auto cases = ostrel::fuzz::read_vectors(argv[1]);
+        for (const auto& target : ostrel::fuzz::targets()) ostrel::fuzz::make_seeds(target, cases, argv[2]);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "fuzz_seeds: %s\n", error.what());
+        return 1;
+    }
+    return 0;
+}

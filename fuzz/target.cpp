@@ -1,0 +1,37 @@
+// One fuzzer, for the engines that call LLVMFuzzerTestOneInput: libFuzzer and AFL++.
+
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "fuzz/judge.h"
+
+namespace {
+
+// The judge lives as long as the process: what it captures must not come to an end before the last call.
+ostrel::fuzz::Judge& judge()
+{
+    static auto* const the_judge = new ostrel::fuzz::Judge(*ostrel::fuzz::find_target(OSTREL_FUZZ_TARGET));
+    return *the_judge;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string_view input(reinterpret_cast<const char*>(data), size);
+    if (judge().run(input) != ostrel::fuzz::Verdict::kDiffered) return 0;
+    const std::string& difference = judge().difference();
+    // Standard error is captured.
+    (void)!write(STDERR_FILENO, difference.data(), difference.size());
+    std::abort();
+}
+
+// The library allocates nothing, so what the sanitizer would remember of allocations is of no use here.
+extern "C" const char* __asan_default_options();
+const char* __asan_default_options()
+{
+    return "malloc_context_size=0:quarantine_size_mb=0:thread_local_quarantine_size_kb=0:detect_leaks=0";
+}
