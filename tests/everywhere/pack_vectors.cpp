@@ -60,7 +60,8 @@ void append_parts(std::vector<json>& parts, const json& text)
 {
     if (text.is_object() && text.contains("join")) {
         for (const json& part : text["join"]) append_parts(parts, part);
-    } else if (text != "") {
+    } else if (const auto* string = text.get_ptr<const std::string*>();
+               string == nullptr || !string->empty()) {
         parts.push_back(text);
     }
 }
