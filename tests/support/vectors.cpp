@@ -80,7 +80,8 @@ std::vector<VectorCase> read_cases(const std::vector<Row>& rows)
     std::vector<VectorCase> cases;
     for (const Row& row : rows) {
         if (!row.fault.empty()) {
-            throw std::invalid_argument(row.file.string() + ":" + std::to_string(row.line) + ": " + row.fault);
+            throw std::invalid_argument(row.file.string() + ":" + std::to_string(row.line) + ": " +
+                                        row.fault);
         }
         if (applies_here(row)) cases.push_back({&row, catalogue::case_from_json(row.json)});
     }
