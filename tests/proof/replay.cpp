@@ -21,16 +21,6 @@ namespace {
 using namespace ostrel;
 using namespace ostrel::tests;
 
-std::size_t longest_text(const catalogue::Case& given)
-{
-    std::size_t longest = 0;
-    for (const catalogue::Value& value : given.values) {
-        const auto* text = std::get_if<std::string>(&value);
-        if (text != nullptr) longest = std::max(longest, text->size());
-    }
-    return longest;
-}
-
 // is_as_promised runs the case at the edge, and says so where the outcome is another.
 bool is_as_promised(const VectorCase& one, catalogue::Caller& caller, catalogue::Capture& capture)
 {

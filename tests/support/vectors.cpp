@@ -88,6 +88,16 @@ std::vector<VectorCase> read_cases(const std::vector<Row>& rows)
     return cases;
 }
 
+std::size_t longest_text(const catalogue::Case& given)
+{
+    std::size_t longest = 0;
+    for (const catalogue::Value& value : given.values) {
+        const auto* text = std::get_if<std::string>(&value);
+        if (text != nullptr) longest = std::max(longest, text->size());
+    }
+    return longest;
+}
+
 std::string shown(const std::string& text)
 {
     using catalogue::utf8_from_bytes;

@@ -40,6 +40,9 @@ struct VectorCase {
 // fault. The rows must live as long as the cases.
 std::vector<VectorCase> read_cases(const std::vector<Row>& rows);
 
+// longest_text gives the length of the longest text that is passed.
+std::size_t longest_text(const catalogue::Case& given);
+
 // Outcome is all that a call leaves behind. Two outcomes print readably when they differ.
 struct Outcome {
     int code = 0;
