@@ -85,16 +85,16 @@ void* malloc(std::size_t size) noexcept
     return __libc_malloc(size);
 }
 
-void* calloc(std::size_t count, std::size_t size) noexcept
+void* calloc(std::size_t nmemb, std::size_t size) noexcept
 {
     note(__builtin_return_address(0));
-    return __libc_calloc(count, size);
+    return __libc_calloc(nmemb, size);
 }
 
-void* realloc(void* memory, std::size_t size) noexcept
+void* realloc(void* ptr, std::size_t size) noexcept
 {
     note(__builtin_return_address(0));
-    return __libc_realloc(memory, size);
+    return __libc_realloc(ptr, size);
 }
 
 void* memalign(std::size_t alignment, std::size_t size) noexcept
@@ -109,17 +109,17 @@ void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept
     return __libc_memalign(alignment, size);
 }
 
-int posix_memalign(void** memory, std::size_t alignment, std::size_t size) noexcept
+int posix_memalign(void** memptr, std::size_t alignment, std::size_t size) noexcept
 {
     note(__builtin_return_address(0));
-    *memory = __libc_memalign(alignment, size);
-    return *memory != nullptr ? 0 : ENOMEM;
+    *memptr = __libc_memalign(alignment, size);
+    return *memptr != nullptr ? 0 : ENOMEM;
 }
 
-int vprintf(const char* format, std::va_list arguments)
+int vprintf(const char* format, std::va_list arg)
 {
     const Inside inside("vprintf");
-    return std::vfprintf(stdout, format, arguments);
+    return std::vfprintf(stdout, format, arg);
 }
 
 int fprintf(std::FILE* stream, const char* format, ...)
@@ -132,10 +132,10 @@ int fprintf(std::FILE* stream, const char* format, ...)
     return result;
 }
 
-int puts(const char* text)
+int puts(const char* s)
 {
     const Inside inside("puts");
-    return original<int(const char*)>("puts")(text);
+    return original<int(const char*)>("puts")(s);
 }
 
 int putchar(int c)
@@ -151,11 +151,11 @@ int fflush(std::FILE* stream)
     return real(stream);
 }
 
-std::FILE* fopen(const char* path, const char* mode)
+std::FILE* fopen(const char* filename, const char* modes)
 {
     static auto* const real = original<std::FILE*(const char*, const char*)>("fopen");
     const Inside inside("fopen");
-    return real(std::strcmp(path, kListFile) == 0 ? list_file.c_str() : path, mode);
+    return real(std::strcmp(filename, kListFile) == 0 ? list_file.c_str() : filename, modes);
 }
 
 int fscanf(std::FILE* stream, const char* format, ...)
@@ -183,10 +183,10 @@ int system(const char* /*command*/)
     return real(list_command.c_str());
 }
 
-int unlink(const char* path) noexcept
+int unlink(const char* name) noexcept
 {
     static auto* const real = original<int(const char*)>("unlink");
-    return real(std::strcmp(path, kListFile) == 0 ? list_file.c_str() : path);
+    return real(std::strcmp(name, kListFile) == 0 ? list_file.c_str() : name);
 }
 
 }  // extern "C"

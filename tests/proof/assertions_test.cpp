@@ -138,6 +138,9 @@ void add_reports(const Function& function, Reports& reports)
 
 TEST(Assertions, ExactlyTheseChecksAssertAndSaySo)
 {
+#if !defined(__GLIBC__) || defined(__UCLIBC__)
+    GTEST_SKIP() << "the report has another form";
+#endif
     Reports reports;
     for (const Function& function : catalogue::functions()) add_reports(function, reports);
     EXPECT_EQ(promised(), reports);

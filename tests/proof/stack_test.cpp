@@ -34,9 +34,9 @@ bool measuring = false;  // NOLINT(cppcoreguidelines-avoid-non-const-global-vari
 // While a call is measured nothing is printed, and the list of channels is always the same number.
 extern "C" {
 
-int vprintf(const char* format, std::va_list arguments)
+int vprintf(const char* format, std::va_list arg)
 {
-    return measuring ? 0 : std::vfprintf(stdout, format, arguments);
+    return measuring ? 0 : std::vfprintf(stdout, format, arg);
 }
 
 int fprintf(std::FILE* stream, const char* format, ...)
@@ -49,7 +49,7 @@ int fprintf(std::FILE* stream, const char* format, ...)
     return result;
 }
 
-int puts(const char* text) { return measuring ? 0 : std::fputs(text, stdout) + std::fputc('\n', stdout); }
+int puts(const char* s) { return measuring ? 0 : std::fputs(s, stdout) + std::fputc('\n', stdout); }
 
 int putchar(int c) { return measuring ? 0 : std::fputc(c, stdout); }
 
@@ -57,7 +57,10 @@ int fflush(std::FILE* stream) { return measuring ? 0 : fflush_unlocked(stream); 
 
 int system(const char* /*command*/) { return 0; }
 
-std::FILE* fopen(const char* path, const char* mode) { return measuring ? stderr : fopen64(path, mode); }
+std::FILE* fopen(const char* filename, const char* modes)
+{
+    return measuring ? stderr : fopen64(filename, modes);
+}
 
 int fscanf(std::FILE* /*stream*/, const char* format, ...)
 {
@@ -70,7 +73,7 @@ int fscanf(std::FILE* /*stream*/, const char* format, ...)
 
 int fclose(std::FILE* /*stream*/) { return 0; }
 
-int unlink(const char* /*path*/) noexcept { return 0; }
+int unlink(const char* /*name*/) noexcept { return 0; }
 
 // The C library's version has a table of 2 KiB for long texts. Its C++ declarations leave no room for another.
 const char* find_part(const char* text, const char* part) __asm__("strstr");
@@ -85,14 +88,14 @@ const char* find_part(const char* text, const char* part)
 }
 
 // As the C library's where long has 64 bits: what fits in no long is the highest or the lowest one.
-int atoi(const char* text) noexcept
+int atoi(const char* nptr) noexcept
 {
-    while (*text == ' ' || (*text >= '\t' && *text <= '\r')) ++text;
-    const bool negative = *text == '-';
-    if (*text == '-' || *text == '+') ++text;
+    while (*nptr == ' ' || (*nptr >= '\t' && *nptr <= '\r')) ++nptr;
+    const bool negative = *nptr == '-';
+    if (*nptr == '-' || *nptr == '+') ++nptr;
     long number = 0;
-    for (; *text >= '0' && *text <= '9'; ++text) {
-        const int digit = *text - '0';
+    for (; *nptr >= '0' && *nptr <= '9'; ++nptr) {
+        const int digit = *nptr - '0';
         if (__builtin_mul_overflow(number, 10, &number) || __builtin_sub_overflow(number, digit, &number)) {
             return static_cast<int>(negative ? LONG_MIN : LONG_MAX);
         }
