@@ -76,6 +76,9 @@ const Function* find(std::string_view name);
 // meaning says what a result code means, in a few words.
 std::string_view meaning(int code);
 
+// constant gives the name that result_code.h has for a result code.
+std::string_view constant(int code);
+
 }  // namespace ostrel::catalogue
 
 #endif

@@ -30,6 +30,9 @@ int number_of(std::span<const Value> values, std::size_t argument);
 // byte_at names a byte of a text: byte 3 of 17 is "x".
 std::string byte_at(std::string_view text, std::size_t index);
 
+// quoted shows a text so that it can stand anywhere: cut, and with ? for a byte that is not printable.
+std::string quoted(std::string_view text);
+
 // in_words counts: 1 byte, 2 bytes.
 std::string in_words(std::size_t count, std::string_view unit);
 

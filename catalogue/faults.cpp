@@ -13,14 +13,6 @@ namespace {
 
 constexpr std::string_view kDigits = CHARSET_DIGITS;
 
-std::string quoted(std::string_view text)
-{
-    constexpr std::size_t kLongest = 40;
-    std::string shown = "\"";
-    for (const char c : text.substr(0, kLongest)) shown += c >= ' ' && c <= '~' ? c : '?';
-    return shown + (text.size() > kLongest ? "...\"" : "\"");
-}
-
 std::string instead(std::string_view text, std::size_t index, std::string_view expected)
 {
     return byte_at(text, index) + ", where " + std::string(expected) + " belongs";
@@ -72,6 +64,14 @@ Fault judge_mac(std::string_view text, bool station_only)
 }
 
 }  // namespace
+
+std::string quoted(std::string_view text)
+{
+    constexpr std::size_t kLongest = 40;
+    std::string shown = "\"";
+    for (const char c : text.substr(0, kLongest)) shown += c >= ' ' && c <= '~' ? c : '?';
+    return shown + (text.size() > kLongest ? "...\"" : "\"");
+}
 
 Fault ipv4_fault(std::string_view text)
 {

@@ -114,7 +114,7 @@ Test range_fault()
         for (const std::string_view address : {start, end}) {
             if (address.starts_with(subnet)) continue;
             return "the " + std::string(address.data() == start.data() ? "start" : "end") +
-                   " does not begin with the LAN address up to its last \".\", " + std::string(subnet);
+                   " does not begin with the LAN address up to its last \".\", " + quoted(subnet);
         }
         if (host_number(start) > host_number(end)) return "the start is above the end";
         const std::string fault = host_fault_of("start", host_number(start));
@@ -131,7 +131,7 @@ Test reserved_subnet_fault()
         const auto item =
             find_item(text_of(values, 0), [&](const Item& one) { return !one.text.starts_with(subnet); });
         if (!item) return std::nullopt;
-        return "item " + std::to_string(item->number) + " does not begin with " + std::string(subnet);
+        return "item " + std::to_string(item->number) + " does not begin with " + quoted(subnet);
     };
 }
 

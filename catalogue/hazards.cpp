@@ -41,7 +41,8 @@ class Trial {
  public:
     Trial(const Function& function, std::size_t argument) : function_(&function), argument_(argument)
     {
-        for (std::size_t i = 0; i < argument; ++i) output_ += is_written(function.arguments[i]) ? 1 : 0;
+        for (std::size_t i = 0; i < argument; ++i)
+            if (is_written(function.arguments[i])) ++output_;
     }
 
     void run(const std::vector<Row>& seeds)
@@ -200,7 +201,7 @@ bool may_be_called(const Function& function, const std::vector<Value>& values)
     }
     if (function.name != "WLAN_check_channel" || values.size() != 2) return true;
     const auto* radio = std::get_if<std::string>(&values[1]);
-    return radio != nullptr && (*text == "0" || radio->find("2.4") == std::string::npos);
+    return radio != nullptr && text != nullptr && (*text == "0" || radio->find("2.4") == std::string::npos);
 }
 
 std::vector<Exposure> exposures_of(const Function& function, const std::vector<Row>& rows)
