@@ -30,11 +30,11 @@ struct Argument {
     Kind kind = Kind::kText;
     std::size_t capacity = 0;  // bytes of a buffer or of one block; 0: as many as the text given needs
     std::size_t blocks = 1;
-    bool output_only = false;  // nothing needs to be given
-    bool takes_text = false;   // a buffer that needs room for the longest text given
-    std::string_view what;     // what it is, with limits and units
-    std::string_view written;  // what the function writes to it, and when
-    std::vector<std::string_view> keywords;
+    bool output_only = false;       // nothing needs to be given
+    bool takes_text = false;        // a buffer that needs room for the longest text given
+    std::string_view what = {};     // what it is, with limits and units
+    std::string_view written = {};  // what the function writes to it, and when
+    std::vector<std::string_view> keywords = {};
 };
 
 // Test tells whether a condition is what brought a code about: nothing if not; else what there is to say

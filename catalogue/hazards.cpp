@@ -10,7 +10,8 @@ namespace ostrel::catalogue {
 
 namespace {
 
-constexpr std::size_t kMostSeeds = 16;
+constexpr std::size_t kMostSeeds = 10;
+constexpr std::size_t kMostPlaces = 24;  // of a seed
 constexpr std::size_t kLongestSeed = 300;
 
 std::string range(int first, int last)
@@ -45,8 +46,13 @@ class Trial {
             if (is_written(function.arguments[i])) ++output_;
     }
 
-    void run(const std::vector<Row>& seeds)
+    void run(const std::vector<Row>& seeds, const std::vector<Row>& rows)
     {
+        for (const Row& row : rows) {
+            if (row.code != 0) continue;
+            values_ = row.values;
+            for (std::string* text : texts_of(values_)) call(*text);
+        }
         for (const Row& seed : seeds) {
             for (std::string* text : texts_of(values_ = seed.values)) try_around(*text);
         }
@@ -85,12 +91,13 @@ class Trial {
     {
         const std::string seed = text;
         if (seed.size() > kLongestSeed) return;
-        call(text);
-        std::set<std::size_t> places = {0, seed.size() / 2, seed.size()};
+        std::set<std::size_t> places = {0, seed.size()};
+        for (std::size_t i = 1; i < kMostPlaces; ++i) places.insert(i * seed.size() / kMostPlaces);
         for (int byte = 1; byte < 256; ++byte) {
             const char c = static_cast<char>(byte);
             if (is_letter_or_digit(c)) continue;
             for (const std::size_t place : places) {
+                if (is_known(static_cast<unsigned char>(c), place, seed.size())) continue;
                 text = seed;
                 text.insert(place, 1, c);
                 call(text);
@@ -106,6 +113,13 @@ class Trial {
             }
         }
         text = seed;
+    }
+
+    // is_known tells that a byte was accepted where it would stand; nothing is learnt from trying it again.
+    [[nodiscard]] bool is_known(unsigned char byte, std::size_t place, std::size_t size) const
+    {
+        if (place == 0) return first_[byte] && (size > 0 || last_[byte]);
+        return place == size ? last_[byte] : inside_[byte];
     }
 
     void call(const std::string& text)
@@ -146,16 +160,39 @@ class Trial {
     std::array<bool, 256> last_{};
 };
 
-// seeds_of picks accepted values that differ in shape: evenly from all, so that no kind is left out.
+std::size_t size_of(const Row& row)
+{
+    std::size_t size = 0;
+    for (const Value& value : row.values) {
+        if (const auto* text = std::get_if<std::string>(&value)) size += text->size();
+    }
+    return size;
+}
+
+// with_every_byte gives a row in which the sets of bytes that are arguments hold them all.
+Row with_every_byte(const Function& function, Row row)
+{
+    for (std::size_t i = 0; i < row.values.size(); ++i) {
+        const std::string_view name = function.arguments[i].name;
+        if (name == "charset" || name == "allowed") row.values[i] = range(1, 255);
+    }
+    return row;
+}
+
+// seeds_of picks accepted values evenly from the shortest to the longest.
 std::vector<Row> seeds_of(const Function& function, const std::vector<Row>& rows)
 {
     std::vector<Row> accepted;
     for (const Row& row : rows) {
-        if (row.code == 0 && may_be_called(function, row.values)) accepted.push_back(row);
+        if (row.code == 0 && may_be_called(function, row.values))
+            accepted.push_back(with_every_byte(function, row));
     }
+    std::ranges::stable_sort(accepted, {}, size_of);
     if (accepted.size() <= kMostSeeds) return accepted;
     std::vector<Row> seeds;
-    for (std::size_t i = 0; i < kMostSeeds; ++i) seeds.push_back(accepted[i * accepted.size() / kMostSeeds]);
+    for (std::size_t i = 0; i < kMostSeeds; ++i) {
+        seeds.push_back(accepted[i * (accepted.size() - 1) / (kMostSeeds - 1)]);
+    }
     return seeds;
 }
 
@@ -215,7 +252,7 @@ std::vector<Exposure> exposures_of(const Function& function, const std::vector<R
             argument.kind == Kind::kText || argument.kind == Kind::kBuffer || argument.kind == Kind::kBlocks;
         if (!is_text || argument.output_only) continue;
         Trial trial(function, i);
-        trial.run(seeds);
+        trial.run(seeds, rows);
         result.push_back({&argument, trial.found()});
     }
     return result;

@@ -40,8 +40,8 @@ struct Exposure {
     std::vector<Places> places;  // one for each of hazards()
 };
 
-// exposures_of tries every byte that is no letter or digit at the begin, in the middle and at the end of
-// accepted values, inserted and in the place of another, for each argument that is a text. What counts is what
+// exposures_of tries every byte that is no letter or digit in many places of accepted values, inserted and in
+// the place of another, for each argument that is a text. A set of bytes that is an argument holds them all. What counts is what
 // the argument holds after the call.
 std::vector<Exposure> exposures_of(const Function& function, const std::vector<Row>& rows);
 

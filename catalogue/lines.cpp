@@ -176,6 +176,16 @@ std::optional<std::string> merge(std::string_view a, std::string_view b)
     return result;
 }
 
+// without_repeats leaves one of equal messages that follow each other.
+std::string without_repeats(const std::string& text)
+{
+    std::string result;
+    for (const std::string& message : messages_in(text)) {
+        if (!result.ends_with(message)) result += message;
+    }
+    return result;
+}
+
 std::vector<std::string> read_all(const Function& function, const std::vector<Row>& rows,
                                   bool want_unexplained)
 {
@@ -191,21 +201,34 @@ std::vector<std::string> read_all(const Function& function, const std::vector<Ro
                 continue;
             }
             if (!line || line->empty()) continue;
+            const std::string distinct = without_repeats(*line);
             bool is_known = false;
             for (std::string& other : lines) {
-                if (auto merged = merge(other, *line)) {
+                if (auto merged = merge(other, distinct)) {
                     other = *merged;
                     is_known = true;
                     break;
                 }
             }
-            if (!is_known) lines.push_back(*line);
+            if (!is_known) lines.push_back(distinct);
         }
     }
     return lines;
 }
 
 }  // namespace
+
+std::vector<std::string> messages_in(std::string_view text)
+{
+    std::vector<std::string> result;
+    while (!text.empty()) {
+        std::size_t end = std::min(text.find("\\n"), text.size());
+        while (text.substr(end).starts_with("\\n")) end += 2;
+        result.emplace_back(text.substr(0, end));
+        text.remove_prefix(end);
+    }
+    return result;
+}
 
 std::vector<std::string> lines_of(const Function& function, const std::vector<Row>& rows)
 {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <nlohmann/json.hpp>
 
 #include "catalogue/case.h"
@@ -13,6 +14,23 @@ namespace ostrel::catalogue {
 using nlohmann::json;
 
 namespace {
+
+// lines_by_check reads no more of a line than its first member, which names the check.
+std::map<std::string_view, std::vector<std::string_view>> lines_by_check()
+{
+    constexpr std::string_view kMark = "{\"check\": \"";
+    std::map<std::string_view, std::vector<std::string_view>> index;
+    for (std::string_view file : vector_files()) {
+        while (!file.empty()) {
+            const std::string_view line = file.substr(0, file.find('\n'));
+            file.remove_prefix(std::min(file.size(), line.size() + 1));
+            if (!line.starts_with(kMark)) continue;
+            const std::string_view rest = line.substr(kMark.size());
+            index[rest.substr(0, rest.find('"'))].push_back(line);
+        }
+    }
+    return index;
+}
 
 Row row_from_json(const json& row)
 {
@@ -58,8 +76,8 @@ bool is_about(std::string_view title, const Function& function)
 std::string without_pointers(std::string_view text)
 {
     std::size_t end = text.size();
-    for (const std::string_view mark :
-         {"Row: ", "Rows: ", "Rows of", "Rows with", "Rows and", "Tests: ", "Test: "}) {
+    for (const std::string_view mark : {"Row: ", "Rows: ", "Rows of", "Rows with", "Rows and",
+                                        "Tests: ", "Test: ", "Test:\n", "Tests:\n", "; tests: "}) {
         end = std::min(end, text.find(mark));
     }
     std::string result;
@@ -101,16 +119,13 @@ std::string keyword_hint(const Function& function, std::span<const Value> values
 
 std::vector<Row> rows_of(const Function& function)
 {
+    static const std::map<std::string_view, std::vector<std::string_view>> index = lines_by_check();
     std::vector<Row> rows;
-    const std::string mark = "\"check\": \"" + std::string(function.name) + "\"";
-    for (std::string_view file : vector_files()) {
-        while (!file.empty()) {
-            const std::string_view line = file.substr(0, file.find('\n'));
-            file.remove_prefix(std::min(file.size(), line.size() + 1));
-            if (line.find(mark) == std::string_view::npos) continue;
-            const json row = json::parse(line);
-            if (!row.value("overflow", false)) rows.push_back(row_from_json(row));
-        }
+    const auto lines = index.find(function.name);
+    if (lines == index.end()) return rows;
+    for (const std::string_view line : lines->second) {
+        const json row = json::parse(line);
+        if (!row.value("overflow", false)) rows.push_back(row_from_json(row));
     }
     return rows;
 }

@@ -41,8 +41,12 @@ struct Finding {
 Finding condition_of(const Function& function, std::span<const Value> values, int code);
 
 // lines_of gives what is printed for such rows: the library's messages, with the arguments' names in angle
-// brackets where they stand. Each distinct text once; those that are nothing are left out.
+// brackets where they stand. Each distinct text once; those that are nothing are left out, and so is a
+// message that only repeats the one before it.
 std::vector<std::string> lines_of(const Function& function, const std::vector<Row>& rows);
+
+// messages_in cuts such a text behind each line end.
+std::vector<std::string> messages_in(std::string_view text);
 
 // unexplained_of gives the rows of which lines_of could make nothing.
 std::vector<std::string> unexplained_of(const Function& function, const std::vector<Row>& rows);

@@ -90,8 +90,7 @@ void add_security_modes(std::vector<Function>& all)
          {"interval", "seconds, 600 to 7200, in 3 or 4 digits"},
          {"type",
           "a security type; with one of WEP the interval is not looked at",
-          {"WEP-OPEN", "WEP-SHARED", "WEP-RADIUS", "WPA-PSK", "WPA-RADIUS", "WPA2-PSK", "WPA2-RADIUS",
-           "WPA-AUTO-PSK", "WPA-AUTO-RADIUS"}}},
+          {"WEP-OPEN", "WEP-SHARED", "WEP-RADIUS"}}},
         "renewal is false, or the type is one of WEP, or the interval is 600 to 7200 in 3 or 4 digits",
         {{-1, "the interval has not 3 or 4 digits", when([](std::span<const Value> values) {
               const auto size = text_of(values, 1).size();

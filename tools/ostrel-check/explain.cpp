@@ -60,7 +60,14 @@ void write_arguments(Page& page, const Study& study)
 
 void write_lines(Page& page, const std::vector<std::string>& lines)
 {
-    for (const std::string& line : lines) page.verbatim("prints", line);
+    std::string_view label = "prints";
+    for (const std::string& line : lines) {
+        for (const std::string& message : catalogue::messages_in(line)) {
+            page.verbatim(label, message);
+            label = "and";
+        }
+        label = "or";
+    }
 }
 
 void write_codes(Page& page, const Study& study)
@@ -132,7 +139,7 @@ void write_oddities(Page& page, const Study& study)
 
 void write_examples(Page& page, const Study& study)
 {
-    page.heading("Examples, run just now");
+    page.heading("Examples");
     for (const Example& example : examples_of(*study.function, kExamples, kExamples)) {
         std::string words(study.function->name);
         for (const catalogue::Value& value : example.values) {
@@ -152,7 +159,11 @@ void write_examples(Page& page, const Study& study)
                     append_escaped(line, {&c, 1}, 1);
                 }
             }
-            if (!line.empty()) page.verbatim("printed", line);
+            std::string_view label = "printed";
+            for (const std::string& message : catalogue::messages_in(line)) {
+                page.verbatim(label, message);
+                label = "and";
+            }
         }
     }
 }

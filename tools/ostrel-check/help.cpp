@@ -6,10 +6,11 @@ namespace ostrel::tool {
 
 std::string_view main_help()
 {
-    return R"(A value is passed as it stands, with everything behind NAME, a leading "-" included.
-The word @null passes NULL, and @@null passes the text "@null". With --escapes,
-\xNN, \n, \r, \t and \\ are read in values. Arguments marked :number take a
-decimal number, or a hexadecimal one behind 0x. Options stand before NAME.
+    return R"(A value is passed as it stands, with everything behind NAME, a leading "-"
+included. The word @null passes NULL, and @@null passes the text "@null". With
+--escapes, \xNN, \n, \r, \t and \\ are read in values. Arguments marked :number
+take a decimal number, or a hexadecimal one behind 0x. Options stand before
+NAME.
 
 Examples:
   ostrel-check PARAM_check_port 8080

@@ -92,8 +92,7 @@ void add_limit(CLI::App& app, Options& options)
     app.add_option("--limit-time", options.limit, "Time that a call may take (2)")
         ->check(CLI::Range(0.001, 86400.0))
         ->type_name("SECONDS");
-    app.add_option("--channels", options.channels,
-                   "Answer in the driver's place when it is asked for its channels")
+    app.add_option("--channels", options.channels, "Answer with these for the wireless driver")
         ->type_name("LIST");
 }
 
@@ -113,7 +112,7 @@ CLI::App* add_list(CLI::App& app, Options& options)
     forms->add_flag("--json", options.json, "The catalogue in JSON");
     forms->add_flag("--schema", options.schema, "The JSON Schema of that");
     forms->add_flag("--reference", options.reference, "The reference in Markdown");
-    forms->add_flag("--hazards", options.hazards, "What accepted values may contain, in Markdown");
+    forms->add_flag("--hazards", options.hazards, "What accepted values may hold, in Markdown");
     forms->require_option(0, 1);
     return list;
 }
@@ -122,10 +121,10 @@ CLI::App* add_batch(CLI::App& app, Options& options)
 {
     CLI::App* batch =
         add_command(app, "batch", "Judge the cases of files, or of standard input", batch_help());
-    CLI::Option* json = batch->add_flag("--json", options.json,
-                                        "Write a line of JSON for each case, and one for the summary");
-    CLI::Option* stream = batch->add_flag(
-        "--stream", options.stream, "Write one line of JSON for each line that is read, and no summary");
+    CLI::Option* json =
+        batch->add_flag("--json", options.json, "A line of JSON for each case, one for the summary");
+    CLI::Option* stream =
+        batch->add_flag("--stream", options.stream, "A line of JSON for each line read, no summary");
     stream->excludes(json);
     batch->add_flag("--only-refused", options.rules.style.only_refused, "Leave out what was accepted")
         ->excludes(stream);

@@ -19,7 +19,7 @@ using catalogue::Value;
 
 namespace {
 
-constexpr std::size_t kMostTrials = 12;
+constexpr std::size_t kMostTrials = 8;
 constexpr int kLimit = 2000;  // milliseconds
 
 // with_null gives the values of all arguments, that one NULL.

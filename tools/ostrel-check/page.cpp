@@ -71,7 +71,12 @@ void MarkdownPage::declaration(std::string_view text)
 
 void MarkdownPage::heading(std::string_view text) { out().append("\n**").append(text).append("**\n\n"); }
 
-void MarkdownPage::paragraph(std::string_view text) { out().append(in_markdown(text)).append("\n"); }
+void MarkdownPage::paragraph(std::string_view text)
+{
+    const bool is_item = text.starts_with("- ");
+    if (!is_item && !out().ends_with("\n\n")) out() += '\n';
+    out().append(is_item ? "- " : "").append(in_markdown(is_item ? text.substr(2) : text)).append("\n");
+}
 
 void MarkdownPage::item(std::string_view label, std::string_view text)
 {

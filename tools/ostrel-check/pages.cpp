@@ -38,12 +38,14 @@ std::string hazards_page()
 {
     std::string text =
         "# What an accepted value may contain\n\n"
-        "Made by `scripts/reference`: found by trying every byte that is no letter or digit at the begin, in "
-        "the\n"
-        "middle and at the end of accepted values. Whoever pastes a value into a shell command, a page or a\n"
-        "configuration file must quote what stands in its row. `-`: never; `any`: anywhere; otherwise where: "
-        "`f`\n"
-        "first, `i` inside, `l` last. Which bytes of a kind are meant says `ostrel-check explain`.\n\n"
+        "Made by `scripts/reference`: found by trying every byte that is no letter or digit in many places "
+        "of\n"
+        "accepted values. Where the allowed bytes are an argument too, they were all allowed. Whoever pastes "
+        "a\n"
+        "value into a shell command, a page or a configuration file must quote what stands in its row. `-`:\n"
+        "never; `any`: anywhere; otherwise where: `f` first, `i` inside, `l` last. Which bytes of a kind are "
+        "meant\n"
+        "says `ostrel-check explain`.\n\n"
         "A check that answers 0 says that a value suits its parameter. It does not say that the value is "
         "harmless.\n";
     std::string_view family;

@@ -185,11 +185,10 @@ std::string list_checks(bool with_colours)
                 .append("\n");
         }
         text.append("  ").append(usage_of(function)).append("\n");
-        std::string rule(function.rule);
+        append_wrapped(text, function.rule, 6);
         for (const catalogue::Argument& argument : function.arguments) {
-            if (argument.output_only) rule.append("; fills in ").append(argument.name);
+            if (argument.output_only) append_wrapped(text, "fills in " + std::string(argument.name), 6);
         }
-        append_wrapped(text, rule, 6);
     }
     return text;
 }
