@@ -1,23 +1,23 @@
 #include <ostrel/addresses.h>
 
-#include "catalogue/catalogue.h"
+#include "catalogue/entry.h"
 
 namespace ostrel::catalogue {
 
 std::vector<Function> addresses()
 {
     return {
-        check<TcmValidateIPAddress>("TcmValidateIPAddress", {"value"},
+        check<TcmValidateIPAddress>("TcmValidateIPAddress", {{"value", "an IPv4 address, 7 to 15 bytes"}},
                                     "an IPv4 address: four decimal numbers of 0 to 255 between three dots, "
                                     "7 to 15 characters",
-                                    {{-1, "any other value"}}),
-        check<TcmValidateMACaddress>("TcmValidateMACaddress", {"value"},
+                                    {{-1, "no IPv4 address", fails(ipv4_fault)}}),
+        check<TcmValidateMACaddress>("TcmValidateMACaddress", {{"value", "a MAC address, 17 bytes"}},
                                      "a MAC address: six octets of two hexadecimal digits between five \":\"",
-                                     {{-1, "any other value, NULL included"}}),
+                                     {{-1, "NULL", is_null()}, {-1, "no MAC address", fails(mac_fault)}}),
         check<isValidOrdinaryMACAddress>(
-            "isValidOrdinaryMACAddress", {"value"},
+            "isValidOrdinaryMACAddress", {{"value", "a MAC address, 17 bytes"}},
             "a MAC address whose group bit (the lowest of the first octet) is clear",
-            {{-1, "any other value, NULL included"}}),
+            {{-1, "NULL", is_null()}, {-1, "no MAC address of one station", fails(station_fault)}}),
     };
 }
 

@@ -2,17 +2,14 @@
 #ifndef OSTREL_CATALOGUE_CALLER_H
 #define OSTREL_CATALOGUE_CALLER_H
 
+#include <array>
 #include <cstddef>
-#include <string>
-#include <variant>
 #include <vector>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/value.h"
 
 namespace ostrel::catalogue {
-
-// Value is what is passed for one argument: NULL, a text, a number, or the texts of several blocks.
-using Value = std::variant<std::nullptr_t, std::string, long long, std::vector<std::string>>;
 
 // Edge says which end of each argument's memory lies against an unreadable page.
 enum class Edge { kEnd, kBegin };

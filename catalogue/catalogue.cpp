@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "catalogue/entry.h"
+
 namespace ostrel::catalogue {
 
 namespace {

@@ -1,14 +1,15 @@
-// fuzz_seeds VECTORS OUT: writes each call of VECTORS/*.ndjson as an input into OUT/TARGET/, the names of these
+// fuzz_seeds OUT: writes each call of vectors/*.ndjson as an input into OUT/TARGET/, the names of these
 // files into OUT/TARGET.list, with commas between, and the texts that stand in the calls into OUT/TARGET.dict, a
 // dictionary as libFuzzer and AFL++ read it.
 
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <fstream>
 #include <set>
 
 #include "fuzz/judge.h"
-#include "fuzz/seeds.h"
+#include "tests/support/vectors.h"
 
 namespace ostrel::fuzz {
 
@@ -55,7 +56,7 @@ void write_dictionary(const std::filesystem::path& file, const std::set<std::str
     }
 }
 
-void make_seeds(const Target& target, const std::vector<catalogue::Case>& cases,
+void make_seeds(const Target& target, const std::vector<tests::VectorCase>& cases,
                 const std::filesystem::path& out)
 {
     const Judge judge(target);
@@ -64,7 +65,8 @@ void make_seeds(const Target& target, const std::vector<catalogue::Case>& cases,
     std::set<std::string> words;
     std::string list;
     std::size_t count = 0;
-    for (const catalogue::Case& given : cases) {
+    for (const tests::VectorCase& one : cases) {
+        const catalogue::Case& given = one.given;
         const auto input = judge.encode(*given.function, given.values);
         if (!input) continue;
         add_words(given, words);
@@ -82,13 +84,14 @@ void make_seeds(const Target& target, const std::vector<catalogue::Case>& cases,
 
 int main(int argc, char** argv)
 {
-    if (argc != 3) {
-        std::fputs("usage: fuzz_seeds VECTORS OUT\n", stderr);
+    if (argc != 2) {
+        std::fputs("usage: fuzz_seeds OUT\n", stderr);
         return 2;
     }
     try {
-        const auto cases = ostrel::fuzz::read_vectors(argv[1]);
-        for (const auto& target : ostrel::fuzz::targets()) ostrel::fuzz::make_seeds(target, cases, argv[2]);
+        const auto rows = ostrel::tests::read_rows();
+        const auto cases = ostrel::tests::read_cases(rows);
+        for (const auto& target : ostrel::fuzz::targets()) ostrel::fuzz::make_seeds(target, cases, argv[1]);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "fuzz_seeds: %s\n", error.what());
         return 1;

@@ -1,6 +1,6 @@
 // fuzz_replay judges the calls of the vectors, kept inputs and random ones, without an engine.
 //
-//   fuzz_replay [--random COUNT] [--seed NUMBER] VECTORS [FOLDER...]
+//   fuzz_replay [--random COUNT] [--seed NUMBER] [FOLDER...]
 //
 // A FOLDER holds a folder of inputs for each target. COUNT inputs are made out of all of them. Exits with 1 when
 // the library and the model differ on any.
@@ -11,12 +11,15 @@
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <set>
 #include <stdexcept>
 
 #include "fuzz/judge.h"
 #include "fuzz/mutator.h"
-#include "fuzz/seeds.h"
+#include "tests/support/vectors.h"
 
 namespace ostrel::fuzz {
 
@@ -25,7 +28,7 @@ namespace {
 struct Options {
     std::size_t random = 0;
     std::uint64_t seed = 1;
-    std::vector<std::filesystem::path> folders;  // the vectors' first
+    std::vector<std::filesystem::path> folders;
 };
 
 // Tally is printed at the end: the standard streams are captured as long as a judge lives.
@@ -41,6 +44,13 @@ struct Tally {
         if (++failures <= kMostTold) text += what;
     }
 };
+
+std::string read_file(const std::filesystem::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) throw std::runtime_error("cannot read " + file.string());
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 void run(Judge& judge, std::string_view input, Tally& tally)
 {
@@ -58,11 +68,11 @@ void run(Judge& judge, std::string_view input, Tally& tally)
 }
 
 std::vector<std::string> gather(Judge& judge, const Target& target,
-                                const std::vector<catalogue::Case>& vectors, const Options& options,
+                                const std::vector<tests::VectorCase>& vectors, const Options& options,
                                 Tally& tally)
 {
     std::vector<std::string> inputs;
-    for (const catalogue::Case& given : vectors) {
+    for (const auto& [row, given] : vectors) {
         auto input = judge.encode(*given.function, given.values);
         if (!input) continue;
         if (!judge.decodes(*input, *given.function, given.values)) {
@@ -70,8 +80,8 @@ std::vector<std::string> gather(Judge& judge, const Target& target,
         }
         inputs.push_back(std::move(*input));
     }
-    for (std::size_t i = 1; i < options.folders.size(); ++i) {
-        const auto folder = options.folders[i] / target.name;
+    for (const auto& parent : options.folders) {
+        const auto folder = parent / target.name;
         if (!std::filesystem::is_directory(folder)) continue;
         std::set<std::filesystem::path> files;
         for (const auto& file : std::filesystem::directory_iterator(folder)) files.insert(file.path());
@@ -80,7 +90,7 @@ std::vector<std::string> gather(Judge& judge, const Target& target,
     return inputs;
 }
 
-Tally replay(const Target& target, const std::vector<catalogue::Case>& vectors, const Options& options)
+Tally replay(const Target& target, const std::vector<tests::VectorCase>& vectors, const Options& options)
 {
     Tally tally;
     Judge judge(target);
@@ -126,13 +136,13 @@ Options read_options(int argc, char** argv)
             options.folders.emplace_back(argument);
         }
     }
-    if (options.folders.empty()) throw std::invalid_argument("no folder of vectors");
     return options;
 }
 
 bool run_all(const Options& options)
 {
-    const auto vectors = read_vectors(options.folders.front());
+    const auto rows = tests::read_rows();
+    const auto vectors = tests::read_cases(rows);
     require_targets();
     bool good = true;
     for (const Target& target : targets()) {

@@ -8,12 +8,12 @@ namespace ostrel::model {
 
 namespace {
 
-const std::string kAccountRealm = OSTREL_ACCOUNT_REALM;
-const std::string kSetupRealm = OSTREL_SETUP_REALM;
-const std::string kName = rule::kLettersAndDigits + "-._";
-const std::string kMail = rule::kLettersAndDigits + "-.@";
+constexpr std::string_view kAccountRealm = OSTREL_ACCOUNT_REALM;
+constexpr std::string_view kSetupRealm = OSTREL_SETUP_REALM;
+constexpr std::string_view kName = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-._";
+constexpr std::string_view kMail = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz-.@";
 
-template <int Min, int Max, const std::string& Set>
+template <int Min, int Max, const std::string_view& Set>
 Answer field(const std::string& value)
 {
     return silent(rule::length_and_set(Min, Max, Set, value));
@@ -65,7 +65,7 @@ Verdict in_setup_realm(const std::string& local)
 
 Verdict user_name(const std::string& value)
 {
-    const auto has_realm = [&](const std::string& realm) {
+    const auto has_realm = [&](std::string_view realm) {
         return value.size() > realm.size() && value.substr(value.size() - realm.size()) == realm;
     };
     if (has_realm(kAccountRealm)) return in_account_realm(value.substr(0, value.rfind('@')));

@@ -78,7 +78,7 @@ Answer dhcp_reserved_addr(const std::string& list, const std::string& lan)
 
 Answer config_password(const std::string& value)
 {
-    static const std::string set = rule::kLettersAndDigits + "-._";
+    static const std::string set = std::string(rule::kLettersAndDigits) + "-._";
     const int code = rule::length_and_set(4, 12, set, value);
     if (code == 0) return silent(0);
     return rule::refused(code, "LAN_check_config_password", "Error config password:" + value + "\n\n");
@@ -123,8 +123,8 @@ Answer subnet_mask(const std::string& value)
 
 Answer device_name(const std::string& value)
 {
-    static const std::string set = " -" + rule::kLettersAndDigits;
-    static const std::string first = "_" + rule::kLetters;
+    static const std::string set = " -" + std::string(rule::kLettersAndDigits);
+    static const std::string first = "_" + std::string(rule::kLetters);
     const int code = rule::length_and_set(1, 15, set, value);
     if (code != 0) return rule::refused(code, "LAN_check_cis_dev_name", "Error dev name:" + value + "\n\n");
     if (first.find(value.front()) != std::string::npos) return silent(0);

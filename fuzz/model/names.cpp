@@ -25,7 +25,7 @@ int description(const std::string& value) { return length_and_set(1, 32, printab
 
 int router_name(const std::string& value)
 {
-    static const std::string set = kLettersAndDigits + "!()*-/;?_";
+    static const std::string set = std::string(kLettersAndDigits) + "!()*-/;?_";
     return length_and_set(1, 22, set, value);
 }
 

@@ -92,7 +92,7 @@ Answer bool_word(const std::string& value)
                          "The value " + value + " out of range[true, false]\n");
 }
 
-template <const std::string& Set>
+template <const std::string_view& Set>
 Answer length_of_set(Arguments arguments)
 {
     if (is_null(arguments[0])) return undefined();

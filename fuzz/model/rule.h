@@ -39,9 +39,10 @@ Answer on_texts(Arguments arguments)
 
 namespace rule {
 
-inline const std::string kDigits = "0123456789";
-inline const std::string kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-inline const std::string kLettersAndDigits = kDigits + kLetters;
+inline constexpr std::string_view kDigits = "0123456789";
+inline constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+inline constexpr std::string_view kLettersAndDigits =
+    "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 
 // printable_ascii is every byte from the blank to "~"; printable_latin1 has those of 0xA1 to 0xFF besides.
 const std::string& printable_ascii();

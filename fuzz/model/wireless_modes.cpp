@@ -7,14 +7,20 @@ namespace ostrel::model {
 
 namespace {
 
-using Words = std::vector<std::string>;
+using Words = std::vector<std::string_view>;
 
-const Words kBasicEncryption = {"WEPEncryption", "None"};
-const Words kBasicAuthentication = {"None", "EAPAuthentication"};
-const Words kStrongEncryption = {"AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption",
-                                 "WEPandTKIPandAESEncryption"};
-const Words kWeakEncryption = {"WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption"};
-const Words kSharedKey = {"PSKAuthentication"};
+Words basic_encryptions() { return {"WEPEncryption", "None"}; }
+
+Words basic_authentications() { return {"None", "EAPAuthentication"}; }
+
+Words strong_encryptions()
+{
+    return {"AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption", "WEPandTKIPandAESEncryption"};
+}
+
+Words weak_encryptions() { return {"WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption"}; }
+
+Words shared_key_authentications() { return {"PSKAuthentication"}; }
 
 bool one_of(const std::string& value, const Words& words)
 {
@@ -34,25 +40,25 @@ Answer beacon_type(const std::string& value)
 Answer basic_encryption(const std::string& value)
 {
     return keyword("WLAN_check_basic_encryption_modes", "Error basic encryption modes",
-                   one_of(value, kBasicEncryption), value);
+                   one_of(value, basic_encryptions()), value);
 }
 
 Answer basic_authentication(const std::string& value)
 {
     return keyword("WLAN_check_basic_authentication_modes", "Error basic authentication modes",
-                   one_of(value, kBasicAuthentication), value);
+                   one_of(value, basic_authentications()), value);
 }
 
 Answer wpa_encryption(const std::string& value)
 {
     return keyword("WLAN_check_wpa_encryption_modes", "Error wpa encryption modes",
-                   one_of(value, kStrongEncryption) || one_of(value, kWeakEncryption), value);
+                   one_of(value, strong_encryptions()) || one_of(value, weak_encryptions()), value);
 }
 
 Answer wpa_authentication(const std::string& value)
 {
     return keyword("WLAN_check_wpa_authentication_modes", "Error wpa authentication modes",
-                   one_of(value, kSharedKey) || value == "EAPAuthentication", value);
+                   one_of(value, shared_key_authentications()) || value == "EAPAuthentication", value);
 }
 
 // Both checks of 802.11i speak of encryption modes.
@@ -74,13 +80,14 @@ Answer ieee11i(const char* name, Arguments arguments, const Words& mode0, const 
 
 Answer ieee11i_encryption(Arguments arguments)
 {
-    return ieee11i("WLAN_check_IEEE11i_encryption_modes", arguments, kStrongEncryption, kWeakEncryption);
+    return ieee11i("WLAN_check_IEEE11i_encryption_modes", arguments, strong_encryptions(),
+                   weak_encryptions());
 }
 
 Answer ieee11i_authentication(Arguments arguments)
 {
     return ieee11i("WLAN_check_IEEE11i_authentication_modes", arguments,
-                   {"EAPAuthentication", "EAPandPSKAuthentication"}, kSharedKey);
+                   {"EAPAuthentication", "EAPandPSKAuthentication"}, shared_key_authentications());
 }
 
 Answer service_mode(const std::string& value)

@@ -31,7 +31,7 @@ std::map<std::string, char> name_table()
 // number_in reads leading zeros too, however many, and nothing that is no digit.
 std::optional<char> number_in(std::string digits, int base)
 {
-    const std::string set = base == 16 ? "0123456789abcdefABCDEF" : rule::kDigits;
+    const std::string_view set = base == 16 ? "0123456789abcdefABCDEF" : rule::kDigits;
     if (digits.find_first_not_of(set) != std::string::npos) return std::nullopt;
     digits.erase(0, digits.find_first_not_of('0'));
     if (digits.empty() || digits.size() > 3) return std::nullopt;
@@ -55,9 +55,9 @@ std::string converted(const std::string& value)
     std::string result;
     std::size_t i = 0;
     while (i < value.size()) {
-        const std::size_t end = value[i] == '&'
-                                    ? value.find_first_not_of("#" + rule::kLettersAndDigits, i + 1)
-                                    : std::string::npos;
+        const std::size_t end =
+            value[i] == '&' ? value.find_first_not_of("#" + std::string(rule::kLettersAndDigits), i + 1)
+                            : std::string::npos;
         if (end != std::string::npos && value[end] == ';') {
             if (const auto byte = meant(value.substr(i + 1, end - i - 1))) {
                 result += *byte;

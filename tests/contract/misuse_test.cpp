@@ -14,6 +14,7 @@
 #include "catalogue/caller.h"
 #include "catalogue/catalogue.h"
 #include "tests/support/child.h"
+#include "tests/support/hostile.h"
 
 namespace ostrel::tests {
 
@@ -21,20 +22,12 @@ using catalogue::Argument;
 using catalogue::Caller;
 using catalogue::Edge;
 using catalogue::Function;
-using catalogue::Kind;
 using catalogue::Value;
 
 namespace {
 
 constexpr std::size_t kMegabyte = std::size_t{1} << 20;
 constexpr std::chrono::seconds kLimit(120);
-
-std::string repeated(std::string_view part, std::size_t size)
-{
-    std::string text;
-    while (text.size() < size) text += part;
-    return text;
-}
 
 std::vector<std::string> make_hostile_texts()
 {
@@ -55,62 +48,6 @@ const std::vector<std::string>& hostile_texts()
 {
     static const std::vector<std::string> texts = make_hostile_texts();
     return texts;
-}
-
-bool is_text(const Argument& argument)
-{
-    return !argument.output_only && (argument.kind == Kind::kText || argument.kind == Kind::kBuffer);
-}
-
-// neutral is what an argument holds while another one is hostile.
-Value neutral(const Argument& argument, long long number)
-{
-    switch (argument.kind) {
-        case Kind::kText:
-        case Kind::kBuffer:
-            return std::string();
-        case Kind::kBlocks:
-            return std::vector<std::string>(argument.blocks);
-        case Kind::kUnsigned:
-            return number < 0 ? std::numeric_limits<unsigned>::max() : number;
-        case Kind::kInteger:
-        case Kind::kIntegerOut:
-            return number;
-    }
-    return nullptr;
-}
-
-// never_returns tells that the call would not come back, which parameter_check_test holds.
-bool never_returns(const Function& function, const std::vector<Value>& values)
-{
-    if (function.name != "PARAM_check_ui2_value" && function.name != "PARAM_check_ui4_value") return false;
-    const char first = std::get<std::string>(values[0])[0];
-    return first >= '0' && first <= '9';
-}
-
-bool is_listed(const Function& function, int code)
-{
-    if (!function.is_verdict || code == 0) return true;
-    for (const catalogue::Code& listed : function.codes) {
-        if (listed.code == code) return true;
-    }
-    return false;
-}
-
-// widest gives a value for each argument: texts are empty, a last number, which is an upper limit if
-// anything, is as large as can be, and the others are 0.
-std::vector<Value> widest(const Function& function)
-{
-    std::vector<Value> values;
-    Value* last_number = nullptr;
-    values.reserve(function.arguments.size());
-    for (const Argument& argument : function.arguments) {
-        values.push_back(neutral(argument, 0));
-        const bool is_number = argument.kind == Kind::kInteger || argument.kind == Kind::kUnsigned;
-        if (is_number) last_number = &values.back();
-    }
-    if (last_number != nullptr) *last_number = static_cast<long long>(std::numeric_limits<int>::max());
-    return values;
 }
 
 // try_all calls the function with the text in each text argument in turn, and gives how many answers are not

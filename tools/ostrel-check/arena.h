@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "catalogue/capture.h"
+#include "counts.h"
 #include "verdict.h"
 
 namespace ostrel::tool {
@@ -46,6 +47,7 @@ class Arena {
     std::array<char, kLongestLine + kChunk> input;
     std::array<char, kOutput> output;
     catalogue::Prints prints;
+    Counts counts;  // of what has been judged since they were last taken
 
     [[nodiscard]] std::string_view rest_of_input() const
     {

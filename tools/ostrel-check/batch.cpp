@@ -7,6 +7,7 @@
 #include <deque>
 #include <vector>
 
+#include "progress.h"
 #include "show.h"
 
 namespace ostrel::tool {
@@ -28,16 +29,25 @@ class Batch {
             if (busy_.empty() && !can_read) return finish();
             if (wait(can_read)) read();
             for (const auto& slot : busy_) slot->look();
+            show_progress();
         }
         return tally_.exit_code();  // nobody reads any more
     }
 
  private:
+    void show_progress()
+    {
+        std::uint64_t cases = tally_.sum();
+        for (const auto& slot : busy_) cases += slot->cases();
+        meter_.show(cases);
+    }
+
     // take_finished writes out what is done at the front; false: nobody reads any more.
     bool take_finished()
     {
         while (!busy_.empty() && !busy_.front()->is_running()) {
-            if (!busy_.front()->take(STDOUT_FILENO, tally_)) return false;
+            meter_.clear();
+            if (!busy_.front()->take(STDOUT_FILENO, tally_, counts_)) return false;
             if (!busy_.front()->is_done()) continue;
             idle_.push_back(std::move(busy_.front()));
             busy_.pop_front();
@@ -54,7 +64,8 @@ class Batch {
             if (slot->is_running()) waiting.push_back({slot->answers(), POLLIN, 0});
         }
         // A call that does not return is noticed after one to one and an eighth of its limit.
-        const double tick = std::clamp(rules_->limit / 8 * 1000, 1.0, 1000.0);
+        const double longest = meter_.is_wanted() ? 250.0 : 1000.0;
+        const double tick = std::clamp(rules_->limit / 8 * 1000, 1.0, longest);
         poll(waiting.data(), waiting.size(), busy_.empty() ? -1 : static_cast<int>(tick));
         return can_read && waiting.front().revents != 0;
     }
@@ -63,7 +74,7 @@ class Batch {
     {
         std::optional<Chunk> chunk = input_.read();
         if (!chunk) return;
-        if (rules_->format == Format::kTable && rules_->files.size() > 1 && chunk->starts_file) {
+        if (rules_->style.format == Format::kTable && rules_->files.size() > 1 && chunk->starts_file) {
             append_escaped(chunk->heading, rules_->files[chunk->file], kLongestLine);
             chunk->heading += ":\n";
         }
@@ -74,9 +85,13 @@ class Batch {
 
     int finish()
     {
-        const bool is_json = rules_->format == Format::kJson;
         const std::uint64_t unreadable = input_.unreadable_files();
-        write_all(STDOUT_FILENO, is_json ? json_summary(tally_, unreadable) : summary(tally_, unreadable));
+        meter_.clear();
+        if (rules_->style.format == Format::kJson) {
+            write_all(STDOUT_FILENO, json_summary(tally_, counts_, unreadable));
+        } else if (rules_->style.format == Format::kTable) {
+            write_all(STDOUT_FILENO, summary(tally_, counts_, unreadable));
+        }
         return unreadable > 0 ? std::max(tally_.exit_code(), kExitUsage) : tally_.exit_code();
     }
 
@@ -85,6 +100,8 @@ class Batch {
     std::vector<std::unique_ptr<Slot>> idle_;
     std::deque<std::unique_ptr<Slot>> busy_;
     Tally tally_;
+    Counts counts_;
+    Meter meter_;
 };
 
 }  // namespace

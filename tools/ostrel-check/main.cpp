@@ -12,57 +12,21 @@
 #include <vector>
 
 #include "batch.h"
+#include "catalogue/case.h"
+#include "catalogue/texts.h"
+#include "complete.h"
 #include "driver.h"
+#include "explain.h"
+#include "help.h"
 #include "process.h"
 #include "show.h"
 #include "single.h"
+#include "style.h"
 #include "words.h"
 
 namespace ostrel::tool {
 
 namespace {
-
-constexpr char kExamples[] =
-    R"(A value is passed as it stands, with everything behind NAME, a leading "-" included.
-The word @null passes NULL, and @@null passes the text "@null". With --escapes,
-\xNN, \n, \r, \t and \\ are read in values. Arguments marked :number take a
-decimal number, or a hexadecimal one behind 0x. Options stand before NAME.
-
-Examples:
-  ostrel-check PARAM_check_port 8080
-  ostrel-check PARAM_check_port -1
-  ostrel-check PARAM_check_port @null
-  ostrel-check --escapes TcmValidatePPPPassword 'caf\xE9'
-  ostrel-check PARAM_check_num_range 15 1 20
-  ostrel-check --channels "1 6 11" WLAN_check_channel 6 RADIO_2.4GHz
-  ostrel-check list
-  ostrel-check batch settings.txt
-  some-program | ostrel-check batch --json
-
-Exit code: 0 accepted (or the answer is a number), 1 refused, 2 wrong usage,
-3 the check ended the process or did not return.)";
-
-constexpr char kBatchHelp[] =
-    R"(Each line is a case. Empty lines and comments (#) are passed over. Either words,
-as a shell would quote them, with the escapes \xNN, \n, \r, \t, \\ outside of
-'single quotes', and @null for NULL:
-
-  PARAM_check_port 8080             # a comment
-  TcmValidatePPPPassword "two words"
-  TcmValidatePPPPassword caf\xE9
-
-or an object of JSON, in which a byte above 0x7F is the code point of the same
-number:
-
-  {"check": "PARAM_check_num_range", "args": ["15", 1, 20]}
-  {"check": "PARAM_check_port", "args": [null]}
-
-A line ends in a line feed, or in a carriage return and a line feed, and is at
-most 16 MiB long.
-
-Exit code, of which the highest wins: 0 all were accepted, 1 something was
-refused, 2 there were malformed lines or unreadable files, 3 a check ended its
-process or did not return.)";
 
 // Formatter says what can be given; the parser knows nothing of NAME and VALUE.
 class Formatter : public CLI::Formatter {
@@ -71,7 +35,8 @@ class Formatter : public CLI::Formatter {
     {
         if (app->get_parent() != nullptr) return CLI::Formatter::make_usage(app, std::move(name));
         return "Usage: ostrel-check [OPTIONS] NAME VALUE...\n"
-               "       ostrel-check list\n"
+               "       ostrel-check explain NAME\n"
+               "       ostrel-check list [OPTIONS]\n"
                "       ostrel-check batch [OPTIONS] [FILE...]\n\n";
     }
 };
@@ -92,57 +57,136 @@ int complain_of_usage(std::string_view problem)
 int judge_words(std::vector<std::string> words, bool with_escapes, double limit)
 {
     if (!words.empty() && words.front() == "--") words.erase(words.begin());
-    if (words.empty()) return complain_of_usage("a check's NAME, list or batch is missing");
+    if (words.empty()) return complain_of_usage("a check's NAME, explain, list or batch is missing");
     if (words.front().starts_with('-') && words.front() != "-") {
         return complain_of_usage("there is no option " + words.front());
     }
     if (with_escapes) {
         for (std::string& word : words) word = read_escapes(word);
     }
-    return judge_one(words.front(), std::span(words).subspan(1), limit);
+    try {
+        return judge_one(words.front(), std::span(words).subspan(1), limit);
+    } catch (const std::invalid_argument& error) {
+        return complain(error.what(), advice_for(words.front()));
+    }
+}
+
+// Options are what can be given.
+struct Options {
+    double limit = 2;
+    bool with_escapes = false;
+    std::optional<std::string> channels;
+    std::string name;
+    bool json = false;
+    bool schema = false;
+    bool reference = false;
+    bool hazards = false;
+    bool stream = false;
+    unsigned jobs = 1;
+    Rules rules;
+    std::vector<std::string> words;
+};
+
+void add_limit(CLI::App& app, Options& options)
+{
+    app.add_option("--limit-time", options.limit, "Time that a call may take (2)")
+        ->check(CLI::Range(0.001, 86400.0))
+        ->type_name("SECONDS");
+    app.add_option("--channels", options.channels, "Answer with these for the wireless driver")
+        ->type_name("LIST");
+}
+
+CLI::App* add_command(CLI::App& app, const char* name, const char* what, std::string_view help)
+{
+    CLI::App* command = app.add_subcommand(name, what);
+    command->prefix_command(false);
+    command->footer(std::string(help));
+    return command;
+}
+
+CLI::App* add_list(CLI::App& app, Options& options)
+{
+    CLI::App* list =
+        add_command(app, "list", "Show every check with its arguments and its rule", list_help());
+    CLI::Option_group* forms = list->add_option_group("Forms");
+    forms->add_flag("--json", options.json, "The catalogue in JSON");
+    forms->add_flag("--schema", options.schema, "The JSON Schema of that");
+    forms->add_flag("--reference", options.reference, "The reference in Markdown");
+    forms->add_flag("--hazards", options.hazards, "What accepted values may hold, in Markdown");
+    forms->require_option(0, 1);
+    return list;
+}
+
+CLI::App* add_batch(CLI::App& app, Options& options)
+{
+    CLI::App* batch =
+        add_command(app, "batch", "Judge the cases of files, or of standard input", batch_help());
+    CLI::Option* json =
+        batch->add_flag("--json", options.json, "A line of JSON for each case, one for the summary");
+    CLI::Option* stream =
+        batch->add_flag("--stream", options.stream, "A line of JSON for each line read, no summary");
+    stream->excludes(json);
+    batch->add_flag("--only-refused", options.rules.style.only_refused, "Leave out what was accepted")
+        ->excludes(stream);
+    add_limit(*batch, options);
+    batch->add_option("--jobs", options.jobs, "Processes that judge side by side (1)")
+        ->check(CLI::Range(1, 64))
+        ->type_name("N");
+    batch->add_option("FILE", options.rules.files, "Files to read; - is standard input")->type_name("");
+    return batch;
+}
+
+int show_list(const Options& options)
+{
+    std::string text;
+    if (options.json) {
+        text = list_json();
+    } else if (options.schema) {
+        text = catalogue::schema();
+    } else if (options.reference) {
+        text = reference();
+    } else {
+        text = options.hazards ? hazards_page() : list_checks(wants_colours(STDOUT_FILENO));
+    }
+    write_all(STDOUT_FILENO, text);
+    return kExitAccepted;
+}
+
+int show_explanation(const std::string& name)
+{
+    if (catalogue::find(name) == nullptr)
+        return complain(catalogue::unknown_function(name), advice_for(name));
+    write_all(STDOUT_FILENO, explain(name, wants_colours(STDOUT_FILENO)));
+    return kExitAccepted;
+}
+
+int show_candidates(const std::vector<std::string>& words)
+{
+    std::string text;
+    for (const std::string& candidate : complete(words)) text += candidate + "\n";
+    write_all(STDOUT_FILENO, text);
+    return kExitAccepted;
 }
 
 int run(int argc, char** argv)
 {
     CLI::App app("Judges values of a home gateway's configuration.");
     app.name("ostrel-check");
-    app.footer(kExamples);
+    app.footer(std::string(main_help()));
     app.set_version_flag("--version", "ostrel-check " OSTREL_VERSION);
     app.formatter(std::make_shared<Formatter>());
     app.prefix_command();
     app.require_subcommand(0, 1);  // a file may be called "list"
 
-    const CLI::Range seconds(0.001, 86400.0);
-    double limit = 2;
-    bool with_escapes = false;
-    app.add_flag("-e,--escapes", with_escapes, "Read escapes in the values");
-    app.add_option("--limit-time", limit, "Time that a call may take (2)")
-        ->check(seconds)
-        ->type_name("SECONDS");
-    std::optional<std::string> channels;
-    app.add_option("--channels", channels, "Answer in the driver's place when it is asked for its channels")
-        ->type_name("LIST");
-
-    CLI::App* list = app.add_subcommand("list", "Show every check with its arguments and its rule");
-    list->prefix_command(false);
-
-    CLI::App* batch = app.add_subcommand("batch", "Judge the cases of files, or of standard input");
-    batch->prefix_command(false);
-    batch->footer(kBatchHelp);
-    Rules rules;
-    bool is_json = false;
-    unsigned jobs = 1;
-    batch->add_flag("--json", is_json, "Write a line of JSON for each case, and one for the summary");
-    batch->add_option("--limit-time", limit, "Time that a call may take (2)")
-        ->check(seconds)
-        ->type_name("SECONDS");
-    batch
-        ->add_option("--channels", channels, "Answer in the driver's place when it is asked for its channels")
-        ->type_name("LIST");
-    batch->add_option("--jobs", jobs, "Processes that judge side by side (1)")
-        ->check(CLI::Range(1, 64))
-        ->type_name("N");
-    batch->add_option("FILE", rules.files, "Files to read; - is standard input")->type_name("");
+    Options options;
+    app.add_flag("-e,--escapes", options.with_escapes, "Read escapes in the values");
+    add_limit(app, options);
+    CLI::App* explained = add_command(app, "explain", "Say what a check wants", explain_help());
+    explained->add_option("NAME", options.name, "The check")->required()->type_name("");
+    CLI::App* list = add_list(app, options);
+    CLI::App* batch = add_batch(app, options);
+    CLI::App* completed = add_command(app, "complete", "Complete a word, for a shell", complete_help());
+    completed->add_option("WORD", options.words, "The words behind the program's name")->type_name("");
 
     try {
         app.parse(argc, argv);
@@ -151,19 +195,20 @@ int run(int argc, char** argv)
     } catch (const CLI::ParseError& error) {
         return complain_of_usage(error.what());
     }
-    if (*list) {
-        write_all(STDOUT_FILENO, list_checks());
-        return kExitAccepted;
-    }
+    if (*list) return show_list(options);
+    if (*explained) return show_explanation(options.name);
+    if (*completed) return show_candidates(options.words);
     std::optional<StandIn> driver;
-    if (channels) driver.emplace(*channels);
+    if (options.channels) driver.emplace(*options.channels);
     if (*batch) {
+        Rules& rules = options.rules;
         if (rules.files.empty()) rules.files.emplace_back("-");
-        rules.format = is_json ? Format::kJson : Format::kTable;
-        rules.limit = limit;
-        return run_batch(rules, jobs);
+        if (options.json) rules.style.format = Format::kJson;
+        if (options.stream) rules.style.format = Format::kStream;
+        rules.limit = options.limit;
+        return run_batch(rules, options.jobs);
     }
-    return judge_words(app.remaining(), with_escapes, limit);
+    return judge_words(app.remaining(), options.with_escapes, options.limit);
 }
 
 }  // namespace
@@ -180,6 +225,7 @@ int main(int argc, char** argv)
     } catch (const std::invalid_argument& error) {
         return ostrel::tool::complain_of_usage(error.what());
     } catch (const std::exception& error) {
-        return ostrel::tool::complain(error.what(), "");
+        return ostrel::tool::complain(error.what(),
+                                      "Nothing more was judged; put that right and run it again.\n");
     }
 }

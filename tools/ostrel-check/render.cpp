@@ -60,12 +60,7 @@ std::string counted(std::uint64_t number, std::string_view one, std::string_view
     return std::to_string(number).append(" ").append(number == 1 ? one : many);
 }
 
-std::uint64_t cases(const Tally& tally)
-{
-    std::uint64_t sum = 0;
-    for (const std::uint64_t count : tally.counts) sum += count;
-    return sum - tally.of(Verdict::kMalformed);
-}
+std::uint64_t cases(const Tally& tally) { return tally.sum() - tally.of(Verdict::kMalformed); }
 
 }  // namespace
 
@@ -104,7 +99,7 @@ void append_row(std::string& out, const Place& place, const Result& result)
     out += '\n';
     if (result.verdict == Verdict::kRefused) {
         out.append(kIndentation).append(catalogue::meaning(result.code));
-        const std::string_view condition = condition_of(*result.function, result.code);
+        const std::string condition = explanation_of(result);
         if (!condition.empty()) out.append(": ").append(condition);
         out += '\n';
     } else if (!has_code(result.verdict)) {
@@ -115,17 +110,21 @@ void append_row(std::string& out, const Place& place, const Result& result)
     append_after(out, kIndentation, result);
 }
 
-void append_json(std::string& out, const Place& place, const Result& result)
+void append_json(std::string& out, const Place* place, const Result& result)
 {
-    out += "{\"file\":";
-    append_json_text(out, place.file);
-    out.append(",\"line\":").append(std::to_string(place.line));
+    const std::size_t begin = out.size();
+    if (place != nullptr) {
+        append_json_member(out, "file", place->file);
+        out.append(",\"line\":").append(std::to_string(place->line));
+    }
     if (result.function != nullptr) append_json_member(out, "check", result.function->name);
     append_json_member(out, "verdict", json_name(result.verdict));
     if (has_code(result.verdict)) {
         out.append(",\"code\":").append(std::to_string(result.code));
         append_json_member(out, "meaning",
                            result.verdict == Verdict::kAnswer ? "a number" : catalogue::meaning(result.code));
+        const std::string condition = explanation_of(result);
+        if (!condition.empty()) append_json_member(out, "condition", condition);
     } else {
         out += ",\"code\":null";
         append_json_member(out, "meaning", result.problem);
@@ -145,14 +144,15 @@ void append_json(std::string& out, const Place& place, const Result& result)
         }
         out += '}';
     }
+    out[begin] = '{';  // every member begins with a comma
     out += "}\n";
 }
 
-std::string summary(const Tally& tally, std::uint64_t unreadable_files)
+std::string summary(const Tally& tally, const Counts& counts, std::uint64_t unreadable_files)
 {
-    std::string text = counted(cases(tally), "case", "cases") + ": " +
-                       std::to_string(tally.of(Verdict::kAccepted)) + " accepted, " +
-                       std::to_string(tally.of(Verdict::kRefused)) + " refused";
+    std::string text = cases(tally) > 1 ? "By family and code:\n" + counts.table() : "";
+    text += counted(cases(tally), "case", "cases") + ": " + std::to_string(tally.of(Verdict::kAccepted)) +
+            " accepted, " + std::to_string(tally.of(Verdict::kRefused)) + " refused";
     const auto add = [&](Verdict verdict, std::string_view what) {
         if (tally.of(verdict) > 0) text.append(", ").append(std::to_string(tally.of(verdict))).append(what);
     };
@@ -166,7 +166,7 @@ std::string summary(const Tally& tally, std::uint64_t unreadable_files)
     return text + "\n";
 }
 
-std::string json_summary(const Tally& tally, std::uint64_t unreadable_files)
+std::string json_summary(const Tally& tally, const Counts& counts, std::uint64_t unreadable_files)
 {
     std::string text = "{\"summary\":{\"cases\":" + std::to_string(cases(tally));
     const auto add = [&](std::string_view name, std::uint64_t count) {
@@ -174,7 +174,7 @@ std::string json_summary(const Tally& tally, std::uint64_t unreadable_files)
     };
     for (std::size_t i = 0; i < kVerdicts; ++i) add(json_name(static_cast<Verdict>(i)), tally.counts.at(i));
     add("unreadable_files", unreadable_files);
-    return text + "}}\n";
+    return text + "},\"families\":" + counts.json() + "}\n";
 }
 
 }  // namespace ostrel::tool

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "counts.h"
 #include "verdict.h"
 
 namespace ostrel::tool {
@@ -19,15 +20,16 @@ struct Place {
 // append_row adds a result to a table.
 void append_row(std::string& out, const Place& place, const Result& result);
 
-// append_json adds a line of JSON.
-void append_json(std::string& out, const Place& place, const Result& result);
+// append_json adds a line of JSON; without a place it depends on the case alone.
+void append_json(std::string& out, const Place* place, const Result& result);
 
 // append_after adds a line for each argument that the check may have written to.
 void append_after(std::string& out, std::string_view indentation, const Result& result);
 
-// summary says in a line what became of all cases; json_summary says it in JSON.
-std::string summary(const Tally& tally, std::uint64_t unreadable_files);
-std::string json_summary(const Tally& tally, std::uint64_t unreadable_files);
+// summary says what became of the cases of each family, and in the last line what became of all; json_summary
+// says it in JSON.
+std::string summary(const Tally& tally, const Counts& counts, std::uint64_t unreadable_files);
+std::string json_summary(const Tally& tally, const Counts& counts, std::uint64_t unreadable_files);
 
 }  // namespace ostrel::tool
 

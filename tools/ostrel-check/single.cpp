@@ -4,6 +4,7 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <stdexcept>
@@ -14,6 +15,7 @@
 #include "process.h"
 #include "render.h"
 #include "show.h"
+#include "style.h"
 #include "words.h"
 
 namespace ostrel::tool {
@@ -91,6 +93,17 @@ void watch_output(const Descriptor& news)
     stderr = open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
 }
 
+// verdict_line is the verdict, its first word in colour where that can be.
+std::string verdict_line(const Result& result)
+{
+    const std::string text = describe(result);
+    const std::size_t end = std::min(text.find(':'), text.size());
+    const bool is_good = exit_code(result.verdict) == kExitAccepted;
+    return painted(text.substr(0, end), is_good ? Colour::kGreen : Colour::kRed,
+                   wants_colours(STDOUT_FILENO)) +
+           text.substr(end) + "\n";
+}
+
 [[noreturn]] void call(Caller& caller, Result& result, const Descriptor& news)
 {
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
@@ -101,7 +114,7 @@ void watch_output(const Descriptor& news)
     std::fflush(nullptr);
     result.after = caller.written();
     std::string text = last_printed == '\n' ? "" : "\n";
-    text += describe(result) + "\n";
+    text += verdict_line(result);
     append_after(text, "  ", result);
     write_all(STDOUT_FILENO, text);
     _exit(exit_code(result.verdict));
@@ -132,6 +145,7 @@ int judge_one(std::string_view name, std::span<const std::string> words, double 
     if (result.function == nullptr) throw std::invalid_argument(catalogue::unknown_function(name));
     std::vector<catalogue::Value> values;
     read_values(*result.function, words, values);
+    result.values = &values;
     Caller caller;
     caller.load(*result.function, values);
 
@@ -155,24 +169,26 @@ int judge_one(std::string_view name, std::span<const std::string> words, double 
         result.problem = describe_ending(wait_for(child), news == News::kAsserted);
     }
     clean_up_after(*result.function);
-    write_all(STDOUT_FILENO, describe(result) + "\n");
+    write_all(STDOUT_FILENO, verdict_line(result));
     return exit_code(result.verdict);
 }
 
-std::string list_checks()
+std::string list_checks(bool with_colours)
 {
     std::string text;
     std::string_view family;
     for (const Function& function : catalogue::functions()) {
         if (function.family != family) {
             family = function.family;
-            text.append(text.empty() ? "" : "\n").append(family).append("\n");
+            text.append(text.empty() ? "" : "\n")
+                .append(painted(family, Colour::kBold, with_colours))
+                .append("\n");
         }
-        text.append("  ").append(usage_of(function)).append("\n      ").append(function.rule);
+        text.append("  ").append(usage_of(function)).append("\n");
+        append_wrapped(text, function.rule, 6);
         for (const catalogue::Argument& argument : function.arguments) {
-            if (argument.output_only) text.append("; fills in ").append(argument.name);
+            if (argument.output_only) append_wrapped(text, "fills in " + std::string(argument.name), 6);
         }
-        text += '\n';
     }
     return text;
 }

@@ -13,7 +13,7 @@ namespace ostrel::tool {
 int judge_one(std::string_view name, std::span<const std::string> words, double limit);
 
 // list_checks shows every check.
-std::string list_checks();
+std::string list_checks(bool with_colours);
 
 }  // namespace ostrel::tool
 

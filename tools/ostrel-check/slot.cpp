@@ -32,7 +32,7 @@ void Slot::start_worker()
     if (worker_ == 0) {
         orders_.writing.close();
         answers_.reading.close();
-        run_worker(*arena_, rules_->format, rules_->files, orders_.reading, answers_.writing);
+        run_worker(*arena_, rules_->style, rules_->files, orders_.reading, answers_.writing);
     }
     orders_.reading.close();
     answers_.writing.close();
@@ -114,17 +114,20 @@ void Slot::conclude(Verdict verdict, std::string problem)
         const catalogue::Prints& prints = arena_->prints;
         result.printed = {prints.out.view(), prints.out.size, prints.err.view(), prints.out.cut};
     }
-    append_result(conclusion_, rules_->format, {rules_->files[arena_->file], progress.line}, result);
+    append_result(conclusion_, rules_->style, {rules_->files[arena_->file], progress.line}, result);
     progress.read += std::min(rest.size(), text.size() + 1);
     ++progress.line;
     progress.tally.add(result.verdict);
+    arena_->counts.add(result);
     arena_->commit(progress);
 }
 
-bool Slot::take(int descriptor, Tally& tally)
+bool Slot::take(int descriptor, Tally& tally, Counts& counts)
 {
     Progress progress = arena_->progress();
     tally.add(progress.tally);
+    counts.add(arena_->counts);
+    arena_->counts.clear();
     if (!write_all(descriptor, heading_)) return false;
     if (!write_all(descriptor, {arena_->output.data(), progress.written})) return false;
     if (!write_all(descriptor, conclusion_)) return false;

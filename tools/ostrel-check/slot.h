@@ -18,7 +18,7 @@ using Clock = std::chrono::steady_clock;
 
 // Rules are what holds for every line of a batch.
 struct Rules {
-    Format format = Format::kTable;
+    Style style;
     double limit = 2;  // seconds that a call may take
     std::vector<std::string> files;
 };
@@ -43,7 +43,10 @@ class Slot {
 
     // take writes out what is done and counts it; false: nobody reads any more. What is left of the chunk
     // goes on.
-    bool take(int descriptor, Tally& tally);
+    bool take(int descriptor, Tally& tally, Counts& counts);
+
+    // cases tells how many cases of the chunk have been judged and not been taken.
+    [[nodiscard]] std::uint64_t cases() const { return arena_->progress().tally.sum(); }
 
     // is_done tells that the chunk has been judged and taken.
     [[nodiscard]] bool is_done() const { return !is_running_ && arena_->rest_of_input().empty(); }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "catalogue/rows.h"
+
 namespace ostrel::tool {
 
 std::string_view name_of(Verdict verdict)
@@ -54,6 +56,13 @@ int Tally::exit_code() const
     return highest;
 }
 
+std::uint64_t Tally::sum() const
+{
+    std::uint64_t sum = 0;
+    for (const std::uint64_t count : counts) sum += count;
+    return sum;
+}
+
 void judge(Result& result, int code)
 {
     result.code = code;
@@ -64,11 +73,24 @@ void judge(Result& result, int code)
     }
 }
 
-std::string_view condition_of(const catalogue::Function& function, int code)
+std::string explanation_of(const Result& result)
 {
-    const auto found = std::ranges::find(function.codes, code, &catalogue::Code::code);
-    const bool says_more = found != function.codes.end() && found->condition != catalogue::meaning(code);
-    return says_more ? found->condition : std::string_view();
+    if (result.verdict != Verdict::kRefused || result.values == nullptr) return "";
+    // What counts in a buffer is what the check has made of it.
+    std::vector<catalogue::Value> rewritten;
+    const std::vector<catalogue::Value>* values = result.values;
+    const bool is_buffer = result.function->arguments[0].kind == catalogue::Kind::kBuffer;
+    if (is_buffer && !result.after.empty()) {
+        rewritten = *values;
+        rewritten[0] = result.after[0].value;
+        values = &rewritten;
+    }
+    const catalogue::Finding finding = catalogue::condition_of(*result.function, *values, result.code);
+    if (finding.condition == nullptr) return "";
+    std::string text;
+    if (finding.condition->condition != catalogue::meaning(result.code)) text = finding.condition->condition;
+    if (!finding.detail.empty()) text.append(text.empty() ? "" : ": ").append(finding.detail);
+    return text;
 }
 
 std::string describe(const Result& result)
@@ -82,7 +104,7 @@ std::string describe(const Result& result)
         case Verdict::kRefused: {
             std::string text = "refused: " + code + ", ";
             text += catalogue::meaning(result.code);
-            const std::string_view condition = condition_of(*result.function, result.code);
+            const std::string condition = explanation_of(result);
             if (!condition.empty()) text.append(" (").append(condition).append(")");
             return text;
         }

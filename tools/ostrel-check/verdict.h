@@ -48,6 +48,7 @@ struct Tally {
         return counts[static_cast<std::size_t>(verdict)];
     }
     [[nodiscard]] int exit_code() const;
+    [[nodiscard]] std::uint64_t sum() const;
 };
 
 // Result is a case and what became of it. The views belong to whoever made it.
@@ -64,8 +65,9 @@ struct Result {
 // judge sets the verdict on a call that returned.
 void judge(Result& result, int code);
 
-// condition_of says what brings a code about, where the catalogue knows more of that than its meaning.
-std::string_view condition_of(const catalogue::Function& function, int code);
+// explanation_of says which condition of the rule a refused value has failed and, for rules over characters,
+// at which byte; the empty text where the catalogue knows no more than what the code means.
+std::string explanation_of(const Result& result);
 
 // describe says the verdict in a line: "refused: 601, out of range (the number is ...)".
 std::string describe(const Result& result);

@@ -17,8 +17,8 @@ namespace {
 // Judge judges lines, with the same memory again and again.
 class Judge {
  public:
-    Judge(Arena& arena, Format format, const std::vector<std::string>& files)
-        : arena_(&arena), format_(format), files_(&files), capture_(arena.prints)
+    Judge(Arena& arena, const Style& style, const std::vector<std::string>& files)
+        : arena_(&arena), style_(style), files_(&files), capture_(arena.prints)
     {
     }
 
@@ -45,7 +45,10 @@ class Judge {
         result_.after.clear();
         result_.problem.clear();
         try {
-            if (!line_.read(line)) return;
+            if (!line_.read(line)) {
+                write_nothing(progress);
+                return;
+            }
             caller_.load(*line_.function(), line_.values());
             result_.function = line_.function();
             result_.values = &line_.values();
@@ -71,10 +74,17 @@ class Judge {
         write(progress);
     }
 
+    // write_nothing answers a line without a case: with an empty one where each line is to have its own.
+    void write_nothing(Progress& progress)
+    {
+        if (style_.format != Format::kStream) return;
+        arena_->output[progress.written++] = '\n';
+    }
+
     void write(Progress& progress)
     {
         text_.clear();
-        append_result(text_, format_, {(*files_)[arena_->file], line_number_}, result_);
+        append_result(text_, style_, {(*files_)[arena_->file], line_number_}, result_);
         if (text_.size() > kOutput - kEnoughOutput) {
             refuse_line("the result is too long to be written", progress);
             return;
@@ -82,11 +92,12 @@ class Judge {
         std::memcpy(arena_->output.data() + progress.written, text_.data(), text_.size());
         progress.written += text_.size();
         progress.tally.add(result_.verdict);
+        arena_->counts.add(result_);
         if (text_.capacity() > kEnoughOutput) text_ = std::string();
     }
 
     Arena* arena_;
-    Format format_;
+    Style style_;
     const std::vector<std::string>* files_;
     catalogue::Capture capture_;
     catalogue::Caller caller_;
@@ -98,22 +109,30 @@ class Judge {
 
 }  // namespace
 
-void append_result(std::string& out, Format format, const Place& place, const Result& result)
+void append_result(std::string& out, const Style& style, const Place& place, const Result& result)
 {
-    if (format == Format::kJson) {
-        append_json(out, place, result);
-    } else {
-        append_row(out, place, result);
+    const bool is_harmless = exit_code(result.verdict) == kExitAccepted;
+    if (style.only_refused && is_harmless) return;
+    switch (style.format) {
+        case Format::kTable:
+            append_row(out, place, result);
+            break;
+        case Format::kJson:
+            append_json(out, &place, result);
+            break;
+        case Format::kStream:
+            append_json(out, nullptr, result);
+            break;
     }
 }
 
-void run_worker(Arena& arena, Format format, const std::vector<std::string>& files, const Descriptor& orders,
-                const Descriptor& answers)
+void run_worker(Arena& arena, const Style& style, const std::vector<std::string>& files,
+                const Descriptor& orders, const Descriptor& answers)
 {
     // A check that runs a program must not give it the batch to read, nor a way to write between the results.
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nothing, standard);
-    Judge judge(arena, format, files);
+    Judge judge(arena, style, files);
     char order = 0;
     while (read(orders.number(), &order, 1) == 1) {
         judge.round();

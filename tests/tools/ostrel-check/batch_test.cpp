@@ -30,6 +30,10 @@ TEST(Batch, TableShowsEachCaseAndASummary)
                        "      5  accepted      0  TcmValidatePPPUsername \"caf\\xE9 1\"\n"
                        "                          account_type after the call: 0\n"
                        "      6  answer        1  countChar a,b 44\n"
+                       "By family and code:\n"
+                       "  strings  answered: 1\n"
+                       "  accounts  accepted: 1\n"
+                       "  parameters  accepted: 1, refused 601: 1\n"
                        "4 cases: 2 accepted, 1 refused, 1 answered with a number\n",
                        ""}),
               outcome);
@@ -44,7 +48,7 @@ TEST(Batch, JsonHoldsCodeMeaningPrintsAndBuffers)
         "PARAM_check_bool_value caf\\xE9\\n\\x1B\n");
     ASSERT_EQ(5U, rows.size());
     EXPECT_EQ(json::parse(R"({"file": "-", "line": 1, "check": "PARAM_check_port", "verdict": "refused",
-        "code": 601, "meaning": "out of range", "flushed": true, "err": "", "after": {},
+        "code": 601, "meaning": "out of range", "condition": "the number is below 0 or above 65535", "flushed": true, "err": "", "after": {},
         "out": "Error in PARAM_check_port: The port shoud be between 0~65535\n"})"),
               rows[0]);
     EXPECT_EQ(
@@ -57,7 +61,8 @@ TEST(Batch, JsonHoldsCodeMeaningPrintsAndBuffers)
               rows[3]["out"]);
     EXPECT_EQ(
         json::parse(R"({"summary": {"cases": 4, "accepted": 1, "refused": 3, "answer": 0, "malformed": 0,
-        "ended": 0, "no_return": 0, "unreadable_files": 0}})"),
+        "ended": 0, "no_return": 0, "unreadable_files": 0},
+        "families": {"accounts": {"0": 1}, "parameters": {"402": 2, "601": 1}}})"),
         rows[4]);
 }
 
@@ -134,6 +139,7 @@ TEST(Batch, SeveralFilesAreHeadedAndMissingOnesNamed)
     EXPECT_EQ(first.path() + ":\n      1  accepted      0  PARAM_check_port 1\n" +
                   "-:\n      1  accepted      0  PARAM_check_port 3\n" + last.path() +
                   ":\n      1  accepted      0  PARAM_check_port 2\n"
+                  "By family and code:\n  parameters  accepted: 3\n"
                   "3 cases: 3 accepted, 0 refused; 1 unreadable file\n",
               outcome.out);
     EXPECT_EQ("ostrel-check: cannot read /nowhere/x: No such file or directory\n", outcome.err);

@@ -13,6 +13,12 @@ std::string usage_error(const std::string& problem)
     return "ostrel-check: " + problem + "\nostrel-check --help shows how to use it.\n";
 }
 
+// value_error is the message for values that a check does not take.
+std::string value_error(const std::string& problem, const std::string& name)
+{
+    return "ostrel-check: " + problem + "\nostrel-check explain " + name + " says what it takes.\n";
+}
+
 TEST(Single, AcceptedIsZero)
 {
     EXPECT_EQ((Outcome{0, "accepted: 0, valid\n", ""}), run({"PARAM_check_port", "8080"}));
@@ -43,8 +49,8 @@ TEST(Single, WhatBeginsLikeAnOptionIsAValueBehindTheName)
 TEST(Single, VerdictBeginsALineWhateverWasPrinted)
 {
     EXPECT_EQ((Outcome{1,
-                       "-\nrefused: 402, invalid value (any other value, NULL "
-                       "included)\n",
+                       "-\nrefused: 402, invalid value (no MAC address: byte 3 of 17 is \"-\", where \":\" "
+                       "belongs)\n",
                        ""}),
               run({"PARAM_check_MACAddress", "00-11-22-33-44-55"}));
 }
@@ -77,7 +83,8 @@ TEST(Single, EachBlockIsAWordAndIsShownAfterTheCall)
     const Outcome outcome = run({"WLAN_check_wepkeys", "0123456789", "abc", "@@null", ""});
     EXPECT_EQ(1, outcome.status);
     EXPECT_TRUE(outcome.out.ends_with("  keys after the call: 0123456789 abc @@null \"\"\n")) << outcome.out;
-    EXPECT_EQ(usage_error("1 value was given; expected: WLAN_check_wepkeys keys_1 keys_2 keys_3 keys_4"),
+    EXPECT_EQ(value_error("1 value was given; expected: WLAN_check_wepkeys keys_1 keys_2 keys_3 keys_4",
+                          "WLAN_check_wepkeys"),
               run({"WLAN_check_wepkeys", "0123456789"}).err);
     EXPECT_EQ(3, run({"WLAN_check_wepkeys", "@null"}).status);
 }
@@ -100,7 +107,7 @@ TEST(Single, EscapesAreReadOnRequest)
     EXPECT_EQ(0, run({"-e", "TcmValidatePPPPassword", "caf\\xE9"}).status);
     EXPECT_EQ(1, run({"--escapes", "TcmValidatePPPPassword", "a\\nb"}).status);
     EXPECT_EQ(0, run({"TcmValidatePPPPassword", "a\\nb"}).status);
-    EXPECT_EQ((Outcome{2, "", usage_error("argument value_p cannot hold a NUL byte")}),
+    EXPECT_EQ((Outcome{2, "", value_error("argument value_p cannot hold a NUL byte", "PARAM_check_port")}),
               run({"-e", "PARAM_check_port", "1\\x00"}));
     EXPECT_EQ((Outcome{2, "", usage_error("\\q is no escape; a backslash itself is \\\\")}),
               run({"-e", "PARAM_check_port", "\\q"}));
@@ -132,22 +139,29 @@ TEST(Single, CallThatDoesNotReturnIsThree)
 TEST(Single, WrongUsageIsTwo)
 {
     EXPECT_EQ((Outcome{2, "",
-                       usage_error("there is no check \"PARAM_check_prot\"; the nearest names are "
-                                   "PARAM_check_port, PARAM_check_ip_addr and PARAM_check_number")}),
+                       "ostrel-check: there is no check \"PARAM_check_prot\"; the nearest names are "
+                       "PARAM_check_port, PARAM_check_ip_addr and PARAM_check_number\n"
+                       "ostrel-check list shows every check.\n"}),
               run({"PARAM_check_prot", "1"}));
-    EXPECT_EQ((Outcome{2, "", usage_error("0 values were given; expected: PARAM_check_port value_p")}),
-              run({"PARAM_check_port"}));
+    EXPECT_EQ(
+        (Outcome{2, "",
+                 value_error("0 values were given; expected: PARAM_check_port value_p", "PARAM_check_port")}),
+        run({"PARAM_check_port"}));
     EXPECT_EQ((Outcome{2, "",
-                       usage_error("1 value was given; expected: PARAM_check_num_range value_p min:number "
-                                   "max:number")}),
+                       value_error("1 value was given; expected: PARAM_check_num_range value_p min:number "
+                                   "max:number",
+                                   "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1"}));
-    EXPECT_EQ((Outcome{2, "", usage_error("argument min takes a number; \"a\" is none")}),
-              run({"PARAM_check_num_range", "1", "a", "3"}));
-    EXPECT_EQ((Outcome{2, "", usage_error("argument min takes a number from -2147483648 to 2147483647")}),
+    EXPECT_EQ(
+        (Outcome{2, "", value_error("argument min takes a number; \"a\" is none", "PARAM_check_num_range")}),
+        run({"PARAM_check_num_range", "1", "a", "3"}));
+    EXPECT_EQ((Outcome{2, "",
+                       value_error("argument min takes a number from -2147483648 to 2147483647",
+                                   "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1", "2147483648", "3"}));
-    EXPECT_EQ((Outcome{2, "", usage_error("argument min takes a number")}),
+    EXPECT_EQ((Outcome{2, "", value_error("argument min takes a number", "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1", "@null", "3"}));
-    EXPECT_EQ((Outcome{2, "", usage_error("a check's NAME, list or batch is missing")}), run({}));
+    EXPECT_EQ((Outcome{2, "", usage_error("a check's NAME, explain, list or batch is missing")}), run({}));
     EXPECT_EQ((Outcome{2, "", usage_error("there is no option --limit")}),
               run({"--limit", "PARAM_check_port"}));
     EXPECT_EQ(2, run({"--limit-time", "0", "PARAM_check_port", "1"}).status);
@@ -177,7 +191,7 @@ TEST(Single, ListShowsArgumentsAndRule)
     EXPECT_NE(std::string::npos, list.out.find("  PARAM_check_number value_p min_len:number max_len:number\n"
                                                "      min_len to max_len decimal digits; the limits are "
                                                "lengths\n"));
-    EXPECT_NE(std::string::npos, list.out.find("; fills in account_type\n"));
+    EXPECT_NE(std::string::npos, list.out.find("      fills in account_type\n"));
 }
 
 }  // namespace

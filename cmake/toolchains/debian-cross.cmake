@@ -1,0 +1,14 @@
+# What the toolchain files of Debian's cross compilers share. Before including it they set OSTREL_TRIPLET, the name
+# that the compiler's programs begin with, and OSTREL_EMULATOR, the program that runs the target's.
+set(CMAKE_SYSTEM_NAME Linux)
+string(REGEX REPLACE "-.*" "" CMAKE_SYSTEM_PROCESSOR ${OSTREL_TRIPLET})
+
+set(CMAKE_C_COMPILER ${OSTREL_TRIPLET}-gcc)
+set(CMAKE_CXX_COMPILER ${OSTREL_TRIPLET}-g++)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${OSTREL_EMULATOR} -L /usr/${OSTREL_TRIPLET})
+
+set(CMAKE_FIND_ROOT_PATH /usr/${OSTREL_TRIPLET})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)

@@ -1,0 +1,4 @@
+# MIPS, 32 bits, big-endian
+set(OSTREL_TRIPLET mips-linux-gnu)
+set(OSTREL_EMULATOR qemu-mips)
+include(${CMAKE_CURRENT_LIST_DIR}/debian-cross.cmake)

@@ -1,0 +1,19 @@
+################################################################################
+#
+# ostrel-check
+#
+################################################################################
+
+OSTREL_CHECK_VERSION = 0.1.0
+OSTREL_CHECK_SOURCE = ostrel-$(OSTREL_CHECK_VERSION).tar.gz
+# Where releases are; or point OSTREL_CHECK_OVERRIDE_SRCDIR to a source tree.
+OSTREL_CHECK_SITE = $(OSTREL_SOURCE_URL)
+OSTREL_CHECK_INSTALL_STAGING = YES
+
+OSTREL_CHECK_CONF_OPTS = \
+	-DOSTREL_BUILD_TOOLS=OFF \
+	-DOSTREL_MODEL=$(call qstrip,$(BR2_PACKAGE_OSTREL_CHECK_MODEL)) \
+	-DOSTREL_ACCOUNT_REALM=$(call qstrip,$(BR2_PACKAGE_OSTREL_CHECK_ACCOUNT_REALM)) \
+	-DOSTREL_SETUP_REALM=$(call qstrip,$(BR2_PACKAGE_OSTREL_CHECK_SETUP_REALM))
+
+$(eval $(cmake-package))

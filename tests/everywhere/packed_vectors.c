@@ -1,0 +1,168 @@
+#include "packed_vectors.h"
+
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+
+static const unsigned char* at;
+static const unsigned char* end;
+
+static void give_up(const char* what, const char* path)
+{
+    fprintf(stderr, "%s: %s\n", path, what);
+    exit(2);
+}
+
+static unsigned long number_from(const unsigned char** from)
+{
+    const unsigned char* bytes = *from;
+    if (end - bytes < 4) give_up("the file ends too early", "vectors");
+    *from += 4;
+    return bytes[0] | (unsigned long)bytes[1] << 8 | (unsigned long)bytes[2] << 16 |
+           (unsigned long)bytes[3] << 24;
+}
+
+/* signed_number reads 32 bits whatever the width of long. */
+static long signed_number(unsigned long number)
+{
+    return number > 0x7FFFFFFFUL ? -(long)(0xFFFFFFFFUL - number) - 1 : (long)number;
+}
+
+static void read_string(char* to, size_t capacity)
+{
+    const unsigned long length = number_from(&at);
+    if (length >= capacity || (unsigned long)(end - at) < length) give_up("a string is too long", "vectors");
+    memcpy(to, at, length);
+    to[length] = '\0';
+    at += length;
+}
+
+/* text_from reads the number of parts and steps over them. */
+static struct text text_from(const unsigned char** from)
+{
+    struct text text;
+    unsigned long i;
+    text.count = number_from(from);
+    text.is_null = text.count == 0xFFFFFFFFUL;
+    if (text.is_null) text.count = 0;
+    text.parts = *from;
+    for (i = 0; i < text.count; ++i) {
+        unsigned long length;
+        number_from(from);
+        length = number_from(from);
+        if ((unsigned long)(end - *from) < length) give_up("a text is too long", "vectors");
+        *from += length;
+    }
+    return text;
+}
+
+struct text next_text(const struct text* text)
+{
+    const unsigned char* from = text->parts - 4;
+    text_from(&from);
+    return text_from(&from);
+}
+
+size_t text_length(const struct text* text)
+{
+    const unsigned char* from = text->parts;
+    size_t total = 0;
+    unsigned long i;
+    for (i = 0; i < text->count; ++i) {
+        const unsigned long times = number_from(&from);
+        const unsigned long length = number_from(&from);
+        total += times * length;
+        from += length;
+    }
+    return total;
+}
+
+char* write_text(const struct text* text, char* to)
+{
+    const unsigned char* from = text->parts;
+    unsigned long i;
+    for (i = 0; i < text->count; ++i) {
+        const unsigned long times = number_from(&from);
+        const unsigned long length = number_from(&from);
+        const size_t total = times * length;
+        size_t made = total < length ? total : length;
+        memcpy(to, from, made);
+        /* Doubling: a machine that is emulated has no time for a byte after the other. */
+        while (made < total) {
+            const size_t more = made < total - made ? made : total - made;
+            memcpy(to + made, to, more);
+            made += more;
+        }
+        to += total;
+        from += length;
+    }
+    return to;
+}
+
+unsigned long open_rows(const char* path)
+{
+    static const char kMagic[] = "ostrel vectors 1\n";
+    unsigned char* contents;
+    size_t size;
+    FILE* file = fopen(path, "rb");
+    if (file == NULL) give_up("cannot be read; the build with preset gcc makes it", path);
+    fseek(file, 0, SEEK_END);
+    size = (size_t)ftell(file);
+    rewind(file);
+    contents = malloc(size + 1);
+    if (contents == NULL || fread(contents, 1, size, file) != size) give_up("cannot be read whole", path);
+    fclose(file);
+    at = contents;
+    end = contents + size;
+    if (size < sizeof kMagic || memcmp(at, kMagic, sizeof kMagic - 1) != 0) give_up("holds no vectors", path);
+    at += sizeof kMagic - 1;
+    return number_from(&at);
+}
+
+static void read_argument(struct argument* argument, char kind)
+{
+    unsigned long i;
+    memset(argument, 0, sizeof *argument);
+    argument->kind = kind;
+    switch (kind) {
+        case 'i':
+        case 'u':
+            argument->number = number_from(&at);
+            break;
+        case 't':
+            argument->before = text_from(&at);
+            break;
+        case 'n':
+            argument->is_null = number_from(&at) == 0;
+            if (argument->is_null) break;
+            argument->number = number_from(&at);
+            argument->number_after = number_from(&at);
+            break;
+        case 'b':
+            argument->buffers = number_from(&at);
+            argument->size = number_from(&at);
+            argument->before = text_from(&at);
+            for (i = 1; i < argument->buffers; ++i) text_from(&at);
+            argument->after = text_from(&at);
+            for (i = 1; i < argument->buffers; ++i) text_from(&at);
+            break;
+        default:
+            give_up("an argument of an unknown kind", "vectors");
+    }
+}
+
+void next_row(struct row* row)
+{
+    unsigned long flags;
+    size_t i;
+    read_string(row->label, sizeof row->label);
+    read_string(row->function, sizeof row->function);
+    read_string(row->kinds, sizeof row->kinds);
+    flags = number_from(&at);
+    row->depends_on_overflow = (flags & 1) != 0;
+    row->flushed = (flags & 2) != 0;
+    row->code = signed_number(number_from(&at));
+    row->out = text_from(&at);
+    row->err = text_from(&at);
+    for (i = 0; row->kinds[i] != '\0'; ++i) read_argument(&row->arguments[i], row->kinds[i]);
+}

@@ -1,0 +1,76 @@
+"""The Debian packages can be built, installed and removed again.
+
+usage: debian_test.py BUILD_DIR SOURCE_DIR
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PACKAGES = ["libostrel-check", "libostrel-check-dev", "ostrel-check"]
+
+
+def run(*command, **variables):
+    result = subprocess.run([str(part) for part in command], capture_output=True, text=True, check=False,
+                            env={**os.environ, **{name: str(value) for name, value in variables.items()}})
+    if result.returncode != 0:
+        raise AssertionError("%s\n%s%s" % (command, result.stdout, result.stderr))
+    return result.stdout
+
+
+class Debian(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.scratch = pathlib.Path(tempfile.mkdtemp())
+        cls.addClassCleanup(shutil.rmtree, cls.scratch)
+        run(SOURCE / "packaging/debian/build", BUILD, cls.scratch / "packages")
+        cls.files = sorted((cls.scratch / "packages").glob("*.deb"))
+
+    def dpkg(self, *arguments):
+        """dpkg works on a system of its own, which has nothing but what is installed here."""
+        root = self.scratch / "root"
+        (root / "var/lib/dpkg/updates").mkdir(parents=True, exist_ok=True)
+        (root / "var/lib/dpkg/info").mkdir(exist_ok=True)
+        (root / "var/lib/dpkg/status").touch()
+        return run("dpkg", "--root=%s" % root, "--force-not-root", "--force-depends", "--log=/dev/null", *arguments,
+                   PATH=os.environ["PATH"] + ":/usr/sbin:/sbin")
+
+    def test_installed_and_removed_again(self):
+        root = self.scratch / "root"
+        self.dpkg("--install", *self.files)
+        library = root / "usr/lib/libostrel_check.so"
+        self.assertIn("PARAM_check_port",
+                      run(root / "usr/bin/ostrel-check", "list", LD_LIBRARY_PATH=library.parent))
+        self.assertTrue((root / "usr/include/ostrel/check.h").is_file())
+        self.dpkg("--purge", *PACKAGES)
+        self.assertEqual([], [str(path) for path in root.rglob("*")
+                              if path.is_file() and "var/lib/dpkg" not in str(path)])
+
+    def test_what_they_need(self):
+        def depends(package):
+            (file,) = [file for file in self.files if file.name.startswith(package + "_")]
+            return [item.split()[0] for item in run("dpkg-deb", "--field", file, "Depends").split(", ")]
+
+        self.assertEqual(["libc6"], depends("libostrel-check"))
+        self.assertEqual(["libostrel-check"], depends("libostrel-check-dev"))
+        self.assertEqual({"libostrel-check", "libc6", "libgcc-s1", "libstdc++6"}, set(depends("ostrel-check")))
+
+    def test_no_search_path_of_its_own(self):
+        for name in ("usr/bin/ostrel-check", "usr/lib/libostrel_check.so"):
+            for file in self.files:
+                run("dpkg-deb", "--extract", file, self.scratch / "extracted")
+            self.assertNotIn("RUNPATH", run("readelf", "--dynamic", self.scratch / "extracted" / name))
+
+    def test_the_same_bytes_each_time(self):
+        run(SOURCE / "packaging/debian/build", BUILD, self.scratch / "again")
+        for file in self.files:
+            self.assertEqual(file.read_bytes(), (self.scratch / "again" / file.name).read_bytes(), file.name)
+
+
+if __name__ == "__main__":
+    BUILD, SOURCE = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,6 @@
+# Stands in for OpenWrt's rules.mk: the variables and tools that recipes take from it.
+INCLUDE_DIR := $(TOPDIR)
+BUILD_DIR := $(SCRATCH)/build_dir
+PKG_INSTALL_DIR := $(SCRATCH)/ipkg-install
+INSTALL_DIR := install -d -m0755
+INSTALL_BIN := install -m0755

@@ -1,0 +1,90 @@
+"""The recipes for OpenWrt and Buildroot, checked against stand-ins for the two build systems.
+
+usage: recipes_test.py BUILD_DIR SOURCE_DIR CMAKE
+"""
+
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+RECIPES = pathlib.Path(__file__).parent / "recipes"
+OPTIONS = {"OSTREL_MODEL": "M2841", "OSTREL_ACCOUNT_REALM": "@isp.invalid", "OSTREL_SETUP_REALM": "@setup.isp.invalid",
+           "OSTREL_BUILD_TOOLS": "OFF"}
+
+
+def run(*command, cwd=None):
+    return subprocess.run([str(part) for part in command], capture_output=True, text=True, check=False, cwd=cwd)
+
+
+class Recipes(unittest.TestCase):
+    def setUp(self):
+        self.scratch = pathlib.Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.scratch)
+
+    def make(self, makefile, *variables):
+        result = run("make", "-f", makefile, "CMAKE=" + CMAKE, "SOURCE_TREE=%s" % SOURCE, "SCRATCH=%s" % self.scratch,
+                     "OSTREL_SOURCE_URL=file:///releases", *variables)
+        self.assertEqual(0, result.returncode, result.stdout + result.stderr)
+        self.assertNotIn("warning:", result.stderr)
+
+    def assert_options(self, build):
+        cache = (build / "CMakeCache.txt").read_text()
+        for name, value in OPTIONS.items():
+            self.assertRegex(cache, r"(?m)^%s:\w+=%s$" % (name, re.escape(value)))
+
+    def openwrt(self, makefile):
+        self.make(makefile, "TOPDIR=%s" % (RECIPES / "openwrt"), "FINISHED_BUILD=%s" % BUILD,
+                  'CONFIG_OSTREL_CHECK_MODEL="M2841"', 'CONFIG_OSTREL_CHECK_ACCOUNT_REALM="@isp.invalid"',
+                  'CONFIG_OSTREL_CHECK_SETUP_REALM="@setup.isp.invalid"')
+
+    def test_openwrt(self):
+        self.openwrt(SOURCE / "packaging/openwrt/Makefile")
+        self.assert_options(self.scratch / "build_dir" / ("ostrel-" + VERSION))
+        self.assertEqual(["usr/lib/libostrel_check.so"], [
+            str(path.relative_to(self.scratch / "root")) for path in (self.scratch / "root").rglob("*")
+            if path.is_file()])
+
+    def test_a_fault_of_an_openwrt_recipe_is_seen(self):
+        text = (SOURCE / "packaging/openwrt/Makefile").read_text()
+        for pattern in ("PKG_HASH:=.*", "TITLE:=.*", "define Package/ostrel-check/install", "PKG_NAME:=.*"):
+            faulty = self.scratch / "Makefile"
+            faulty.write_text(re.sub(pattern, "define unused" if "define" in pattern else "", text, count=1))
+            with self.subTest(pattern=pattern), self.assertRaises(AssertionError):
+                self.openwrt(faulty)
+
+    def test_buildroot(self):
+        package = SOURCE / "packaging/buildroot/ostrel-check"
+        self.make(RECIPES / "buildroot/Makefile", "PACKAGE_MK=%s" % (package / "ostrel-check.mk"),
+                  'BR2_PACKAGE_OSTREL_CHECK_MODEL="M2841"',
+                  'BR2_PACKAGE_OSTREL_CHECK_ACCOUNT_REALM="@isp.invalid"',
+                  'BR2_PACKAGE_OSTREL_CHECK_SETUP_REALM="@setup.isp.invalid"')
+        self.assert_options(self.scratch / "build")
+
+    def test_buildroot_config(self):
+        config = self.scratch / "Config.in"
+        symbols = ["BR2_INSTALL_LIBSTDCPP", "BR2_TOOLCHAIN_GCC_AT_LEAST_12"]
+        config.write_text("".join("config %s\n\tbool\n\tdefault y\n" % name for name in symbols) +
+                          "config BR2_STATIC_LIBS\n\tbool\n" +
+                          'source "%s"\n' % (SOURCE / "packaging/buildroot/ostrel-check/Config.in"))
+        (self.scratch / ".config").write_text("CONFIG_BR2_PACKAGE_OSTREL_CHECK=y\n")
+        result = run("kconfig-conf", "--olddefconfig", config, cwd=self.scratch)
+        self.assertEqual((0, ""), (result.returncode, result.stderr))
+        chosen = (self.scratch / ".config").read_text()
+        for option in ("MODEL", "ACCOUNT_REALM", "SETUP_REALM"):
+            default = re.search(r"^set\(OSTREL_%s (\"[^\"]*\")" % option, (SOURCE / "CMakeLists.txt").read_text(), re.M)[1]
+            self.assertIn("BR2_PACKAGE_OSTREL_CHECK_%s=%s\n" % (option, default), chosen)
+
+    def test_versions_agree(self):
+        for name, pattern in (("openwrt/Makefile", "PKG_VERSION:=(.*)"),
+                              ("buildroot/ostrel-check/ostrel-check.mk", "OSTREL_CHECK_VERSION = (.*)")):
+            self.assertEqual([VERSION], re.findall(pattern, (SOURCE / "packaging" / name).read_text()))
+
+
+if __name__ == "__main__":
+    BUILD, SOURCE, CMAKE = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]), sys.argv[3]
+    VERSION = re.search(r"VERSION (\S+)", (SOURCE / "CMakeLists.txt").read_text().split("project(")[1])[1]
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,151 @@
+// NULL for each pointer of each function: exactly the checks of the list fail an assertion, and each report
+// names the condition, the module, the function, and the line where it is fixed. The others return or end by
+// the memory fault.
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <regex>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tests/support/child.h"
+#include "tests/support/hostile.h"
+
+namespace ostrel::tests {
+
+using catalogue::Caller;
+using catalogue::Function;
+using catalogue::Kind;
+using catalogue::Value;
+
+namespace {
+
+constexpr char kUsual[] = "value_p != ((void *)0)";
+constexpr int kAnyLine = 0;
+
+struct Asserting {
+    std::string_view function;
+    std::string module;
+    std::string reporting;  // the function that the report names
+    int line = kAnyLine;
+    std::string condition = kUsual;
+};
+
+// own is a check that reports under its own name, at the line where it stands.
+Asserting own(std::string_view function, const char* module)
+{
+    return {function, module, std::string(function)};
+}
+
+std::vector<Asserting> asserting_checks()
+{
+    std::vector<Asserting> all = {
+        {"Param_check_string_len", "parameter_check", "Param_check_string_len", kAnyLine,
+         "((void *)0) != value_p"},
+        {"WLAN_check_wepkeys", "wlan_check", "WLAN_check_wepkeys", 500, "value != ((void *)0)"},
+        {"MGTSERVER_check_server_url", "mgtserver_check", "MGTSERVER_check_server_url", 41},
+        {"MGTSERVER_check_firmware_url", "mgtserver_check", "MGTSERVER_check_firmware_url", 75},
+        {"MGTSERVER_check_server_password", "mgtserver_check", "MGTSERVER_check_server_password", 105},
+        {"MGTSERVER_check_conn_request_username", "mgtserver_check", "MGTSERVER_check_server_password", 105},
+        {"MGTSERVER_check_conn_request_password", "mgtserver_check", "MGTSERVER_check_server_password", 105},
+        {"MGTSERVER_check_periodic_inform", "mgtserver_check", "MGTSERVER_check_periodic_inform", 135},
+        {"MGTSERVER_check_periodic_inform_time", "mgtserver_check", "MGTSERVER_check_periodic_inform_time",
+         210},
+        {"MGTSERVER_check_periodic_inform_interval", "mgtserver_check",
+         "MGTSERVER_check_periodic_inform_interval", 240},
+        {"PORTMAPPING_check_port_available", "port_mapping_check", "is_port_reserved"},
+        {"PORTMAPPING_check_port_available", "port_mapping_check", "is_wan_udp_port_available"},
+    };
+    for (const std::string_view name :
+         {"PARAM_check_port", "PARAM_check_hexa_string", "PARAM_check_ui2_value", "PARAM_check_ui4_value",
+          "PARAM_check_bool_value", "PARAM_check_bool_value_use_str", "PARAM_check_string_prefix"}) {
+        all.push_back(own(name, "parameter_check"));
+    }
+    for (const std::string_view name :
+         {"LAN_check_ipinterface_enabled", "LAN_check_ip_router", "LAN_check_interface_subnet_mask",
+          "LAN_check_interface_addr_type", "LAN_check_domain_name", "LAN_check_dns_servers",
+          "LAN_check_config_password", "LAN_check_dhcp_lease_time", "LAN_check_use_allocated_wan",
+          "LAN_check_associated_connection", "LAN_check_passthrough_lease", "LAN_check_subnet_mask",
+          "LAN_check_cis_dev_name"}) {
+        all.push_back(own(name, "lan_check"));
+    }
+    return all;
+}
+
+// Reports are what is asserted, without the program's name and with the line where it is fixed, or else "*".
+using Reports = std::multiset<std::string>;
+
+Reports promised()
+{
+    Reports reports;
+    for (const Asserting& one : asserting_checks()) {
+        reports.insert(std::string(one.function) + " says " + one.module + ":" +
+                       (one.line == kAnyLine ? "*" : std::to_string(one.line)) + ": " + one.reporting +
+                       ": Assertion `" + one.condition + "' failed.\n");
+    }
+    return reports;
+}
+
+// asserted calls the function and gives the report of the assertion; the empty text where there is none.
+std::string asserted(const Function& function, const std::vector<Value>& values)
+{
+    const ChildEnd end = run_in_child(std::chrono::seconds(60), [&] {
+        Caller caller;
+        caller.load(function, values);
+        caller.call();
+        return 0;
+    });
+    EXPECT_FALSE(end.timed_out) << function.name;
+    // A sanitizer that sees a memory fault may end the process by SIGABRT too.
+    static const std::regex form(": ([a-z_]+):([0-9]+): (.*: Assertion `.*\n)$");
+    std::smatch parts;
+    if (end.signal != SIGABRT || !std::regex_search(end.err, parts, form)) return "";
+    const bool fixed = parts[1] == "mgtserver_check" || parts[1] == "wlan_check";
+    return parts[1].str() + ":" + (fixed ? parts[2].str() : "*") + ": " + parts[3].str();
+}
+
+// numbers_of gives the numbers to try: some checks ask which protocol it is before they look at the value.
+std::vector<long long> numbers_of(const Function& function)
+{
+    for (const catalogue::Argument& argument : function.arguments) {
+        if (argument.kind == Kind::kInteger || argument.kind == Kind::kUnsigned) return {0, 1, 2};
+    }
+    return {0};
+}
+
+void add_reports(const Function& function, Reports& reports)
+{
+    std::set<std::string> seen;
+    for (std::size_t i = 0; i < function.arguments.size(); ++i) {
+        const Kind kind = function.arguments[i].kind;
+        if (kind == Kind::kInteger || kind == Kind::kUnsigned) continue;
+        for (const long long number : numbers_of(function)) {
+            std::vector<Value> values;
+            for (const catalogue::Argument& argument : function.arguments) {
+                values.push_back(neutral(argument, number));
+            }
+            values[i] = nullptr;
+            seen.insert(asserted(function, values));
+        }
+    }
+    for (const std::string& report : seen) {
+        if (!report.empty()) reports.insert(std::string(function.name) + " says " + report);
+    }
+}
+
+TEST(Assertions, ExactlyTheseChecksAssertAndSaySo)
+{
+#if !defined(__GLIBC__) || defined(__UCLIBC__)
+    GTEST_SKIP() << "the report has another form";
+#endif
+    Reports reports;
+    for (const Function& function : catalogue::functions()) add_reports(function, reports);
+    EXPECT_EQ(promised(), reports);
+}
+
+}  // namespace
+
+}  // namespace ostrel::tests

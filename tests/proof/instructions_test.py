@@ -1,0 +1,105 @@
+"""How many instructions each function takes for long values, counted by callgrind.
+
+usage: instructions_test.py VALGRIND PROGRAM together|each BYTES...
+
+For ten times the bytes a call may take ten times the instructions and a tenth more. That is not asked below a few
+instructions a byte, where a limit of length decides whether a value is printed and the cost of a call
+that prints is compared with one that does not; and no call may take more than a fixed number a byte at all, so
+that what grows faster than its value is caught in any case.
+
+The list of reserved addresses is the exception that the contract demands: the rest of the list is searched for
+each item whose neighbour is as long as itself. There the bound is a fixed number of instructions for each item
+and each byte.
+"""
+
+import collections
+import subprocess
+import sys
+import tempfile
+import unittest
+
+GROWTH = 1.1  # beyond proportion
+CHEAP = 4  # instructions a byte
+MOST = 250  # instructions a byte; strstr takes nearly as many for two long texts that are nearly alike
+MOST_SEARCHING = 30  # instructions for each item and byte
+CALL = 2000  # instructions of a call whatever it is given
+FEW_PARTS = 8  # calls that "together" counts as one
+
+MARK = "desc: Trigger: Client Request: "
+
+Call = collections.namedtuple("Call", "function shape argument")
+Count = collections.namedtuple("Count", "instructions items calls")
+
+
+def counted():
+    """counted runs the program and gives the counts by call and size."""
+    counts = collections.defaultdict(dict)
+    with tempfile.NamedTemporaryFile("r", encoding="ascii", errors="replace") as output:
+        subprocess.run([VALGRIND, "--quiet", "--tool=callgrind", "--combine-dumps=yes", "--collect-atstart=no",
+                        "--callgrind-out-file=" + output.name, PROGRAM, MODE, *SIZES], check=True)
+        with open(output.name, encoding="utf-8", errors="replace") as lines:
+            name = None
+            for line in lines:
+                if line.startswith(MARK):
+                    name = line[len(MARK):].split()
+                elif line.startswith("summary: ") and name:
+                    function, shape, argument, items, size = name
+                    counts[Call(function, shape, argument)][int(size)] = Count(
+                        int(line.split()[1]), int(items), FEW_PARTS if shape == "parts" else 1)
+                    name = None
+    return counts
+
+
+def per_byte(count, size):
+    return max(0, count.instructions - CALL * count.calls) / (size * count.calls)
+
+
+class Instructions(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.counts = counted()
+        cls.linear = {call: by_size for call, by_size in cls.counts.items()
+                      if not any(count.items for count in by_size.values())}
+        cls.searching = {call: by_size for call, by_size in cls.counts.items() if call not in cls.linear}
+
+    def test_every_size_is_counted(self):
+        self.assertGreater(len({call.function for call in self.linear}), 150)
+        for call, by_size in self.linear.items():
+            self.assertEqual([int(size) for size in SIZES], sorted(by_size), call)
+        self.assertEqual(2, len(self.searching))
+
+    def test_growth_is_at_most_in_proportion(self):
+        worst = (0, None)
+        for call, by_size in self.linear.items():
+            sizes = sorted(by_size)
+            for size, next_size in zip(sizes, sizes[1:]):
+                first, second = by_size[size], by_size[next_size]
+                if per_byte(second, next_size) <= CHEAP:
+                    continue
+                growth = second.instructions / first.instructions / (next_size / size)
+                worst = max(worst, (growth, call))
+                self.assertLessEqual(growth, GROWTH, (call, size, next_size, first, second))
+        print("growth: at most %.3f of proportion, %s" % (worst[0], " ".join(worst[1])))
+
+    def test_no_byte_takes_more_than_a_fixed_number(self):
+        worst = (0, None)
+        for call, by_size in self.linear.items():
+            for size, count in by_size.items():
+                worst = max(worst, (per_byte(count, size), call))
+                self.assertLessEqual(per_byte(count, size), MOST, (call, size, count))
+        print("instructions a byte: at most %.1f, %s" % (worst[0], " ".join(worst[1])))
+
+    def test_lists_that_are_searched_for_each_item(self):
+        worst = 0
+        for call, by_size in self.searching.items():
+            self.assertGreaterEqual(len(by_size), 2, call)
+            for size, count in by_size.items():
+                worst = max(worst, (count.instructions - CALL) / (count.items * size))
+                self.assertLessEqual(count.instructions, MOST_SEARCHING * count.items * size + CALL, (call, size))
+        print("instructions for each item and byte of a searched list: at most %.1f" % worst)
+
+
+if __name__ == "__main__":
+    VALGRIND, PROGRAM, MODE = sys.argv[1:4]
+    SIZES = sys.argv[4:]
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,64 @@
+// Runs every row of the vectors, in one process and with as little around it as can be, and counts the rows
+// whose outcome is another. What a tool watches or what a locale changes is then the library's.
+//
+//   replay [LOCALE [BYTES]]
+//
+// LOCALE must be known; the default is C. Rows with a text of more BYTES are left out, if that is given.
+
+#include <algorithm>
+#include <cctype>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <limits>
+#include <string>
+
+#include "tests/support/vectors.h"
+
+namespace {
+
+using namespace ostrel;
+using namespace ostrel::tests;
+
+// is_as_promised runs the case at the edge, and says so where the outcome is another.
+bool is_as_promised(const VectorCase& one, catalogue::Caller& caller, catalogue::Capture& capture)
+{
+    caller.load(*one.given.function, one.given.values);
+    const Outcome expected = expected_outcome(*one.row, caller.written());
+    const Outcome actual = actual_outcome(caller, capture);
+    if (actual == expected) return true;
+    std::cerr << one.row->file.filename().string() << ':' << one.row->line << ": promised";
+    PrintTo(expected, &std::cerr);
+    std::cerr << "but was";
+    PrintTo(actual, &std::cerr);
+    return false;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const std::vector<Row> rows = read_rows();
+    std::vector<VectorCase> cases = read_cases(rows);
+    const std::size_t longest = argc > 2 ? std::stoul(argv[2]) : std::numeric_limits<std::size_t>::max();
+    std::erase_if(cases, [longest](const VectorCase& one) { return longest_text(one.given) > longest; });
+    const char* locale = argc > 1 ? argv[1] : "C";
+    if (std::setlocale(LC_ALL, locale) == nullptr) {
+        std::cerr << "the locale " << locale << " is not known; LOCPATH holds the ones that the tests made\n";
+        return 2;
+    }
+    std::size_t failures = 0;
+    catalogue::Capture capture;
+    catalogue::Caller at_end(catalogue::Edge::kEnd);
+    catalogue::Caller at_begin(catalogue::Edge::kBegin);
+    for (const VectorCase& one : cases) {
+        if (!is_as_promised(one, at_end, capture)) ++failures;
+        if (!is_as_promised(one, at_begin, capture)) ++failures;
+    }
+    // A locale that changes nothing would prove nothing.
+    std::cout << "locale " << locale << ": characters of up to " << MB_CUR_MAX << " bytes, decimal "
+              << std::localeconv()->decimal_point << ", lower I is " << std::tolower('I') << "\n"
+              << cases.size() << " rows, " << failures << " failures\n";
+    return failures == 0 ? 0 : 1;
+}

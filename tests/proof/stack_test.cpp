@@ -1,0 +1,263 @@
+// How much stack the library needs. Each call runs on a stack of its own that was painted before; the deepest
+// word that lost its paint tells how far the call came.
+//
+// The figures are those of the library's own frames. This program is a host that defines the functions of the
+// C library that have frames worth counting; its versions need next to none. The byte and string functions
+// that remain the C library's have none at all. A function that does nothing, called in the same way, is the
+// zero of the figures.
+
+#include <gtest/gtest.h>
+#include <ucontext.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstdarg>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tests/support/hostile.h"
+#include "tests/support/vectors.h"
+
+namespace {
+
+bool measuring = false;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+}  // namespace
+
+// While a call is measured nothing is printed, and the list of channels is always the same number.
+extern "C" {
+
+int vprintf(const char* format, std::va_list arg)
+{
+    return measuring ? 0 : std::vfprintf(stdout, format, arg);
+}
+
+int fprintf(std::FILE* stream, const char* format, ...)
+{
+    if (measuring) return 0;
+    std::va_list arguments;
+    va_start(arguments, format);
+    const int result = std::vfprintf(stream, format, arguments);
+    va_end(arguments);
+    return result;
+}
+
+int puts(const char* s) { return measuring ? 0 : std::fputs(s, stdout) + std::fputc('\n', stdout); }
+
+int putchar(int c) { return measuring ? 0 : std::fputc(c, stdout); }
+
+int fflush(std::FILE* stream) { return measuring ? 0 : fflush_unlocked(stream); }
+
+int system(const char* /*command*/) { return 0; }
+
+std::FILE* fopen(const char* filename, const char* modes)
+{
+    return measuring ? stderr : fopen64(filename, modes);
+}
+
+int fscanf(std::FILE* /*stream*/, const char* format, ...)
+{
+    std::va_list arguments;
+    va_start(arguments, format);
+    *va_arg(arguments, int*) = 1;
+    va_end(arguments);
+    return 1;
+}
+
+int fclose(std::FILE* /*stream*/) { return 0; }
+
+int unlink(const char* /*name*/) noexcept { return 0; }
+
+// The C library's version has a table of 2 KiB for long texts. Its C++ declarations leave no room for another.
+const char* find_part(const char* text, const char* part) __asm__("strstr");
+const char* find_part(const char* text, const char* part)
+{
+    const std::size_t size = std::strlen(part);
+    for (;; ++text) {
+        const int difference = std::strncmp(text, part, size);
+        if (difference == 0) return text;
+        if (*text == '\0') return nullptr;
+    }
+}
+
+// As the C library's where long has 64 bits: what fits in no long is the highest or the lowest one.
+int atoi(const char* nptr) noexcept
+{
+    while (*nptr == ' ' || (*nptr >= '\t' && *nptr <= '\r')) ++nptr;
+    const bool negative = *nptr == '-';
+    if (*nptr == '-' || *nptr == '+') ++nptr;
+    long number = 0;
+    for (; *nptr >= '0' && *nptr <= '9'; ++nptr) {
+        const int digit = *nptr - '0';
+        if (__builtin_mul_overflow(number, 10, &number) || __builtin_sub_overflow(number, digit, &number)) {
+            return static_cast<int>(negative ? LONG_MIN : LONG_MAX);
+        }
+    }
+    return static_cast<int>(negative ? number : -number);
+}
+
+}  // extern "C"
+
+namespace ostrel::tests {
+
+using catalogue::Caller;
+using catalogue::Function;
+using catalogue::Value;
+
+namespace {
+
+constexpr std::size_t kMegabyte = std::size_t{1} << 20;
+constexpr std::size_t kLimit = 2048;
+constexpr std::size_t kStackSize = std::size_t{64} << 10;
+constexpr std::uint64_t kPaint = 0xA5A5'5A5A'C3C3'3C3C;
+
+int do_nothing(const char* /*value*/) { return 0; }
+
+// PaintedStack is a stack between unreadable pages on which calls are measured.
+class PaintedStack {
+ public:
+    PaintedStack()
+        : words_(reinterpret_cast<std::uint64_t*>(memory_.place(kStackSize, catalogue::Edge::kBegin)))
+    {
+        std::fill_n(words_, kWords, kPaint);
+        zero_ = depth_of_nothing();
+    }
+
+    // depth gives the bytes that the loaded call needs.
+    std::size_t depth(Caller& caller) { return run(caller) - zero_; }
+
+ private:
+    static constexpr std::size_t kWords = kStackSize / sizeof(std::uint64_t);
+
+    static void enter(unsigned high, unsigned low)
+    {
+        const auto address = static_cast<std::uintptr_t>(high) << 32 | low;
+        reinterpret_cast<Caller*>(address)->call();  // NOLINT(performance-no-int-to-ptr)
+    }
+
+    std::size_t depth_of_nothing()
+    {
+        const Function nothing = catalogue::check<do_nothing>("nothing", {"value"}, "", {});
+        Caller caller;
+        caller.load(nothing, {std::string()});
+        return run(caller);
+    }
+
+    std::size_t run(Caller& caller)
+    {
+        ucontext_t host;
+        ucontext_t guest;
+        getcontext(&guest);
+        guest.uc_stack.ss_sp = words_;
+        guest.uc_stack.ss_size = kStackSize;
+        guest.uc_link = &host;
+        const auto address = reinterpret_cast<std::uintptr_t>(&caller);
+        makecontext(&guest, reinterpret_cast<void (*)()>(&enter), 2, static_cast<unsigned>(address >> 32),
+                    static_cast<unsigned>(address));
+        measuring = true;
+        swapcontext(&host, &guest);
+        measuring = false;
+        std::uint64_t* const end = words_ + kWords;
+        std::uint64_t* const deepest =
+            std::find_if(words_, end, [](std::uint64_t word) { return word != kPaint; });
+        std::fill(deepest, end, kPaint);
+        return static_cast<std::size_t>(end - deepest) * sizeof(std::uint64_t);
+    }
+
+    catalogue::GuardedMemory memory_;
+    std::uint64_t* words_;
+    std::size_t zero_ = 0;
+};
+
+class Stack : public testing::Test {
+ protected:
+    void measure(const Function& function, const std::vector<Value>& values)
+    {
+        if (never_returns(function, values)) return;
+        caller_.load(function, values);
+        std::size_t& deepest = deepest_[function.name];
+        deepest = std::max(deepest, stack_.depth(caller_));
+    }
+
+    void measure_vectors()
+    {
+        const std::vector<Row> rows = read_rows();
+        for (const VectorCase& one : read_cases(rows)) measure(*one.given.function, one.given.values);
+        measure(*catalogue::find("WLAN_check_channel"), {std::string("6"), std::string("RADIO_2.4GHz")});
+    }
+
+    // measure_long gives the text to each text argument alone, and to all of them at once.
+    void measure_long(const std::string& text)
+    {
+        for (const Function& function : catalogue::functions()) {
+            std::vector<Value> all = widest(function);
+            for (std::size_t i = 0; i < all.size(); ++i) {
+                if (!is_text(function.arguments[i])) continue;
+                std::vector<Value> values = widest(function);
+                all[i] = values[i] = text;
+                measure(function, values);
+            }
+            measure(function, all);
+        }
+    }
+
+    // write_table writes the figures to the file that the environment names, if it names one.
+    void write_table() const
+    {
+        const char* path = std::getenv("OSTREL_STACK_TABLE");  // NOLINT(concurrency-mt-unsafe)
+        if (path == nullptr) return;
+        std::ofstream table(path);
+        for (const auto& [name, bytes] : deepest_) table << name << ' ' << bytes << '\n';
+        EXPECT_TRUE(table.flush()) << path;
+    }
+
+    Caller caller_;
+    PaintedStack stack_;
+    std::map<std::string_view, std::size_t> deepest_;
+};
+
+// Without this the tests below could pass for the wrong reason.
+int needs_a_thousand_bytes(const char* value)
+{
+    volatile char room[1000];
+    room[0] = value[0];
+    return room[0];
+}
+
+TEST_F(Stack, ADeepCallIsSeen)
+{
+    const Function deep = catalogue::check<needs_a_thousand_bytes>("deep", {"value"}, "", {});
+    measure(deep, {std::string("a")});
+    EXPECT_LE(1000 - 128, deepest_["deep"]);
+    EXPECT_GE(1100, deepest_["deep"]);
+}
+
+TEST_F(Stack, EveryFunctionStaysBelowTwoKibibytes)
+{
+    measure_vectors();
+    for (const std::string_view part : {"a", "0", ",", "\xff", "&#65;", "1,", "192.168.1.1,"}) {
+        measure_long(repeated(part, kMegabyte));
+    }
+    std::size_t highest = 0;
+    std::string_view deepest_function;
+    for (const Function& function : catalogue::functions()) {
+        EXPECT_TRUE(deepest_.contains(function.name)) << function.name;
+        EXPECT_GT(kLimit, deepest_[function.name]) << function.name;
+        if (deepest_[function.name] < highest) continue;
+        highest = deepest_[function.name];
+        deepest_function = function.name;
+    }
+    std::printf("deepest: %zu bytes in %s\n", highest, std::string(deepest_function).c_str());
+    write_table();
+}
+
+}  // namespace
+
+}  // namespace ostrel::tests

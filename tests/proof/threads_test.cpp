@@ -1,0 +1,262 @@
+// Eight threads judge every vector at once. Each answer is the one that the vector promises, and every line
+// that is printed arrives whole. Built with the thread sanitizer, which the preset "tsan" does, it also shows
+// that no two threads touch the same memory unguarded.
+//
+// The checks of MAC addresses print a character without a line end, which may come to stand before any line, so
+// their rows are judged apart, and byte by byte.
+//
+// OSTREL_LONGEST_TEXT in the environment leaves out the rows with a longer text.
+//
+// WLAN_check_channel may be called by one thread at a time only, so its rows are left out where they ask the
+// driver for its list.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <barrier>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include "tests/support/vectors.h"
+
+namespace ostrel::tests {
+
+using catalogue::Caller;
+
+namespace {
+
+constexpr std::size_t kThreads = 8;
+
+// Pieces holds each line, or each byte where lines are not whole, and how often it stands there.
+using Pieces = std::map<std::string, std::size_t, std::less<>>;
+
+void add_lines(Pieces& lines, std::string_view text, std::size_t times)
+{
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size() - 1) + 1;
+        lines[std::string(text.substr(0, end))] += times;
+        text.remove_prefix(end);
+    }
+}
+
+void add_bytes(Pieces& bytes, std::string_view text, std::size_t times)
+{
+    for (const char byte : text) bytes[std::string(1, byte)] += times;
+}
+
+// Redirected sends a standard stream to a file for as long as it lives.
+class Redirected {
+ public:
+    Redirected(std::FILE* stream, const std::string& path) : stream_(stream), path_(path)
+    {
+        std::fflush(stream_);
+        saved_ = dup(fileno(stream_));
+        const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0600);
+        dup2(file, fileno(stream_));
+        close(file);
+    }
+    Redirected(const Redirected&) = delete;
+    Redirected& operator=(const Redirected&) = delete;
+    ~Redirected()
+    {
+        std::fflush(stream_);
+        dup2(saved_, fileno(stream_));
+        close(saved_);
+        unlink(path_.c_str());
+    }
+
+    [[nodiscard]] std::string text() const
+    {
+        std::fflush(stream_);
+        std::ifstream file(path_, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+ private:
+    std::FILE* stream_;
+    std::string path_;
+    int saved_ = -1;
+};
+
+// Expected is a case with what it promises, made before any thread runs.
+struct Expected {
+    const VectorCase* one;
+    int code;
+    std::string out;
+    std::string err;
+    std::vector<catalogue::Value> after;
+};
+
+Expected expected_of(const VectorCase& one)
+{
+    Caller caller;
+    caller.load(*one.given.function, one.given.values);
+    Outcome outcome = expected_outcome(*one.row, caller.written());
+    Expected expected{&one, outcome.code, std::move(outcome.out), std::move(outcome.err), {}};
+    for (const nlohmann::json& value : outcome.after) {
+        expected.after.push_back(catalogue::value_from_json(value));
+    }
+    return expected;
+}
+
+bool asks_the_driver(const VectorCase& one)
+{
+    if (one.given.function->name != "WLAN_check_channel") return false;
+    return one.given.values[0] != catalogue::Value(std::string("0")) &&
+           one.row->text.find("2.4") != std::string::npos;
+}
+
+bool is_as_promised(const Expected& expected, const std::vector<catalogue::Written>& written, int code)
+{
+    return code == expected.code &&
+           std::ranges::equal(written, expected.after, {}, &catalogue::Written::value);
+}
+
+// judge_all runs every case, beginning somewhere else in each thread, and gives how many went wrong.
+std::size_t judge_all(const std::vector<Expected>& all, std::size_t thread)
+{
+    std::size_t wrong = 0;
+    Caller caller;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const Expected& expected = all[(i + thread * all.size() / kThreads) % all.size()];
+        caller.load(*expected.one->given.function, expected.one->given.values);
+        const int code = caller.call();
+        if (!is_as_promised(expected, caller.written(), code)) ++wrong;
+    }
+    return wrong;
+}
+
+std::size_t judge_in_threads(const std::vector<Expected>& all)
+{
+    std::atomic<std::size_t> wrong = 0;
+    std::barrier start(static_cast<std::ptrdiff_t>(kThreads));
+    std::vector<std::thread> threads;
+    threads.reserve(kThreads);
+    for (std::size_t i = 0; i < kThreads; ++i) {
+        threads.emplace_back([&, i] {
+            start.arrive_and_wait();
+            wrong += judge_all(all, i);
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
+    return wrong;
+}
+
+// differing gives a few of the lines that stand more often on one side, so that a failure is short.
+std::string differing(const Pieces& expected, const Pieces& actual)
+{
+    std::string result;
+    std::size_t count = 0;
+    const auto compare = [&](const Pieces& a, const Pieces& b, const char* what) {
+        for (const auto& [line, times] : a) {
+            const auto found = b.find(line);
+            if (found != b.end() && found->second == times) continue;
+            if (++count <= 10) result += what + shown(line) + "\n";
+        }
+    };
+    compare(expected, actual, "promised: ");
+    compare(actual, expected, "printed:  ");
+    return result;
+}
+
+std::size_t limit_of_texts()
+{
+    const char* limit = std::getenv("OSTREL_LONGEST_TEXT");  // NOLINT(concurrency-mt-unsafe)
+    return limit != nullptr ? std::stoul(limit) : std::string::npos;
+}
+
+// Vectors are the rows, read once.
+struct Vectors {
+    Vectors()
+    {
+        for (const VectorCase& one : cases) {
+            if (longest_text(one.given) > limit_of_texts() || asks_the_driver(one)) continue;
+            Expected expected = expected_of(one);
+            if (expected.out.empty() && expected.err.empty()) silent.push_back(expected);
+            const bool is_whole = expected.out.empty() || expected.out.back() == '\n';
+            (is_whole ? whole : broken).push_back(std::move(expected));
+        }
+    }
+
+    std::vector<Row> rows = read_rows();
+    std::vector<VectorCase> cases = read_cases(rows);
+    std::vector<Expected> whole;   // what prints whole lines or nothing
+    std::vector<Expected> broken;  // the others
+    std::vector<Expected> silent;  // what prints nothing
+};
+
+class Threads : public testing::Test {
+ protected:
+    static const Vectors& vectors()
+    {
+        static const Vectors all;
+        return all;
+    }
+
+    static void judge(const std::vector<Expected>& all, void (*add)(Pieces&, std::string_view, std::size_t))
+    {
+        const std::string path = testing::TempDir() + "ostrel-threads-" + std::to_string(getpid());
+        std::size_t wrong = 0;
+        std::string out;
+        std::string err;
+        {
+            const Redirected to_out(stdout, path + ".out");
+            const Redirected to_err(stderr, path + ".err");
+            wrong = judge_in_threads(all);
+            out = to_out.text();
+            err = to_err.text();
+        }
+        Pieces expected_out;
+        Pieces expected_err;
+        for (const Expected& one : all) {
+            add(expected_out, one.out, kThreads);
+            add(expected_err, one.err, kThreads);
+        }
+        Pieces actual_out;
+        Pieces actual_err;
+        add(actual_out, out, 1);
+        add(actual_err, err, 1);
+        EXPECT_EQ(0, wrong);
+        EXPECT_EQ("", differing(expected_out, actual_out));
+        EXPECT_EQ("", differing(expected_err, actual_err));
+        std::size_t pieces = 0;
+        for (const auto& [piece, times] : actual_out) pieces += times;
+        for (const auto& [piece, times] : actual_err) pieces += times;
+        std::printf("%zu threads, %zu calls each: %zu %s arrived whole\n", kThreads, all.size(), pieces,
+                    add == add_lines ? "lines" : "bytes");
+    }
+};
+
+TEST_F(Threads, JudgeEveryVector) { judge(vectors().whole, add_lines); }
+
+TEST_F(Threads, JudgeEveryVectorThatPrintsNothing) { judge(vectors().silent, add_lines); }
+
+TEST_F(Threads, JudgeEveryVectorThatPrintsACharacter)
+{
+    for (const Expected& one : vectors().broken) EXPECT_EQ(1, one.out.size()) << one.one->row->text;
+    judge(vectors().broken, add_bytes);
+}
+
+// Without this the tests above could pass for the wrong reason.
+TEST(ThreadsProof, ABrokenLineIsSeen)
+{
+    Pieces expected;
+    Pieces actual;
+    add_lines(expected, "Error in a: x\n\nError in b: y\n\n", 1);
+    add_lines(actual, "Error in a: Error in b: x\n\ny\n\n", 1);
+    EXPECT_NE("", differing(expected, actual));
+}
+
+}  // namespace
+
+}  // namespace ostrel::tests

@@ -1,0 +1,148 @@
+"""The catalogue in JSON, the manual page, completion, and a batch that is cut into pieces.
+
+usage: pages_test.py OSTREL_CHECK SOURCE_DIR
+"""
+
+import json
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+
+def output_of(*command, text="", status=(0,)):
+    result = subprocess.run(command, input=text, capture_output=True, text=True, check=False)
+    assert result.returncode in status, result.stderr
+    return result.stdout
+
+
+class Catalogue(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.catalogue = json.loads(output_of(PROGRAM, "list", "--json"))
+        cls.checks = {check["name"]: check for check in cls.catalogue["checks"]}
+
+    def test_suits_its_schema(self):
+        try:
+            import jsonschema
+        except ImportError:
+            self.skipTest("python3-jsonschema is missing")
+        schema = json.loads(output_of(PROGRAM, "list", "--schema"))
+        self.assertEqual(schema, json.loads((SOURCE / "catalogue" / "catalogue.schema.json").read_text()))
+        jsonschema.Draft202012Validator.check_schema(schema)
+        jsonschema.Draft202012Validator(schema).validate(self.catalogue)
+        del self.checks["PARAM_check_port"]["arguments"][0]["may_contain"]["shell"]
+        with self.assertRaises(jsonschema.ValidationError):
+            jsonschema.Draft202012Validator(schema).validate(self.catalogue)
+
+    def test_is_whole(self):
+        self.assertEqual(170, len(self.checks))
+
+    def test_declarations_are_those_of_the_headers(self):
+        declared = set()
+        for header in (SOURCE / "include").rglob("*.h"):
+            text = header.read_text()
+            for match in re.finditer(r"^OSTREL_API (int \w+\([^;]*\));", text, re.MULTILINE):
+                declared.add(re.sub(r"\s+", " ", match.group(1)))
+        self.assertEqual(declared, {check["declaration"] for check in self.checks.values()})
+
+    def places(self, name, kind, argument=0):
+        return self.checks[name]["arguments"][argument]["may_contain"][kind]
+
+    def test_hazards_that_are_known(self):
+        anywhere = ["first", "inside", "last"]
+        self.assertEqual({"where": anywhere, "bytes": " "}, self.places("WLAN_check_ssid", "blanks"))
+        self.assertEqual(anywhere, self.places("WLAN_check_ssid", "markup")["where"])
+        self.assertEqual([], self.places("WLAN_check_ssid", "high")["where"])
+        self.assertEqual([], self.places("WLAN_check_ssid", "line_ends")["where"])
+        for kind in ("blanks", "quotes", "shell", "line_ends", "controls", "markup", "percent", "high"):
+            self.assertEqual([], self.places("TcmValidateIPAddress", kind)["where"])
+            self.assertEqual([], self.places("WLAN_check_wepkeys", kind)["where"])
+            self.assertEqual(anywhere, self.places("MGTSERVER_check_server_password", kind)["where"])
+        self.assertEqual({"where": ["inside", "last"], "bytes": "?"}, self.places("TcmValidateServerURL", "shell"))
+        self.assertEqual([], self.places("TcmValidateServerURL", "percent")["where"])
+        self.assertEqual(95, len(self.places("TcmValidatePPPPassword", "high")["bytes"]))
+        self.assertEqual("!()*;?", "".join(sorted(self.places("TcmValidateRouterName", "shell")["bytes"])))
+        self.assertEqual(["inside", "last"], self.places("LAN_check_cis_dev_name", "blanks")["where"])
+
+    def test_null_is_told(self):
+        def null(name, argument=0):
+            return self.checks[name]["arguments"][argument]["null"]
+        self.assertEqual("ends the process, by a failed assertion", null("PARAM_check_port"))
+        self.assertEqual("ends the process, by a memory fault", null("TcmValidateIPAddress"))
+        self.assertEqual("refused with 402", null("PARAM_check_MACAddress"))
+        self.assertEqual("accepted", null("Param_check_datetime_value"))
+        self.assertIn("depends on the other arguments", null("PORTMAPPING_check_port_available"))
+
+
+class Surroundings(unittest.TestCase):
+    def need(self, program):
+        if shutil.which(program) is None:
+            self.skipTest(program + " is missing")
+
+    def test_manual_page_is_clean(self):
+        self.need("mandoc")
+        page = str(SOURCE / "docs" / "ostrel-check.1")
+        self.assertEqual("", output_of("mandoc", "-T", "lint", "-W", "style", page))
+        text = re.sub(".\b", "", output_of("mandoc", "-T", "ascii", page))
+        for option in ("json", "schema", "stream", "only-refused", "jobs", "limit-time", "channels"):
+            self.assertIn("--" + option, text)
+
+    def complete_in_bash(self, *words):
+        script = ('PATH=$1:$PATH; . "$2"; shift 2; COMP_WORDS=(ostrel-check "$@"); COMP_CWORD=$#; '
+                  '_ostrel_check; printf "%s\\n" "${COMPREPLY[@]}"')
+        completion = str(SOURCE / "packaging" / "completion" / "ostrel-check.bash")
+        return output_of("bash", "-c", script, "bash", os.path.dirname(PROGRAM), completion, *words).split()
+
+    def test_bash_completes_names_and_keywords(self):
+        self.need("bash")
+        self.assertEqual(["PARAM_check_port"], self.complete_in_bash("PARAM_check_po"))
+        self.assertEqual(["explain"], self.complete_in_bash("ex"))
+        self.assertEqual(["WLAN_check_wepkeys"], self.complete_in_bash("explain", "WLAN_check_we"))
+        self.assertEqual(["WPA", "WPAand11i"], self.complete_in_bash("WLAN_check_beacon_type", "W"))
+        self.assertEqual(["RADIO_2.4GHz", "RADIO_5GHz"], self.complete_in_bash("WLAN_check_channel", "6", ""))
+        self.assertEqual(["--jobs", "--json"], sorted(self.complete_in_bash("batch", "--j")))
+
+    def test_zsh_takes_the_completion(self):
+        self.need("zsh")
+        output_of("zsh", "-n", str(SOURCE / "packaging" / "completion" / "_ostrel-check"))
+        script = ('words=(ostrel-check WLAN_check_beacon_type W); CURRENT=3; compadd() { shift; print -l -- "$@"; }; '
+                  'path=($1 $path); . $2')
+        shown = output_of("zsh", "-f", "-c", script, "zsh", os.path.dirname(PROGRAM),
+                          str(SOURCE / "packaging" / "completion" / "_ostrel-check"))
+        self.assertEqual(["WPA", "WPAand11i"], shown.split())
+
+    def test_doxygen_has_no_warning(self):
+        self.need("doxygen")
+        with tempfile.TemporaryDirectory() as folder:
+            text = (SOURCE / "docs" / "Doxyfile").read_text() + f"\nOUTPUT_DIRECTORY = {folder}\n"
+            result = subprocess.run(["doxygen", "-"], input=text, capture_output=True, text=True, cwd=SOURCE,
+                                    check=False)
+            self.assertEqual((0, ""), (result.returncode, result.stderr))
+            self.assertTrue((pathlib.Path(folder) / "html" / "index.html").exists())
+
+
+class Pieces(unittest.TestCase):
+    def test_parallel_gives_what_one_run_gives(self):
+        if shutil.which("parallel") is None:
+            self.skipTest("parallel is missing")
+        lines = []
+        for number in range(20000):
+            lines.append(f"PARAM_check_port {number * 7}\n" if number % 5 else "\n")
+        text = "".join(lines)
+        whole = output_of(PROGRAM, "batch", "--stream", text=text, status=(1,))
+        self.assertEqual(20000, whole.count("\n"))
+        pieces = output_of("parallel", "--will-cite", "--pipe", "--keep-order", "--jobs", "4", "--block", "20k",
+                           PROGRAM, "batch", "--stream", text=text, status=range(102))
+        self.assertEqual(whole, pieces)
+        self.assertEqual(whole, output_of(PROGRAM, "batch", "--stream", "--jobs", "3", text=text, status=(1,)))
+
+
+if __name__ == "__main__":
+    PROGRAM = sys.argv[1]
+    SOURCE = pathlib.Path(sys.argv[2])
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,82 @@
+#include "complete.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "catalogue/catalogue.h"
+
+namespace ostrel::tool {
+
+using catalogue::Argument;
+using catalogue::Function;
+
+namespace {
+
+using Words = std::vector<std::string_view>;
+
+void add_names(Words& candidates)
+{
+    for (const Function& function : catalogue::functions()) candidates.push_back(function.name);
+}
+
+Words options_of(std::string_view command)
+{
+    if (command == "list") return {"--json", "--schema", "--reference", "--hazards", "--help"};
+    if (command == "batch") {
+        return {"--json", "--stream", "--only-refused", "--jobs", "--limit-time", "--channels", "--help"};
+    }
+    return {"--help"};
+}
+
+// keywords_at gives the keywords of the argument that the value of that number belongs to.
+Words keywords_at(const Function& function, std::size_t value)
+{
+    for (const Argument& argument : function.arguments) {
+        if (argument.output_only) continue;
+        if (value < argument.blocks) return argument.keywords;
+        value -= argument.blocks;
+    }
+    return {};
+}
+
+Words candidates_for(std::span<const std::string> words)
+{
+    // Options of the program itself, of which some take a value.
+    std::size_t first = 0;
+    while (first + 1 < words.size() && words[first].starts_with('-')) {
+        const bool takes_value = words[first] == "--limit-time" || words[first] == "--channels";
+        first += takes_value ? 2 : 1;
+    }
+    if (first >= words.size()) return {};
+    if (first + 1 == words.size()) {
+        if (words[first].starts_with('-')) {
+            return {"--escapes", "--limit-time", "--channels", "--version", "--help"};
+        }
+        Words candidates = {"explain", "list", "batch"};
+        add_names(candidates);
+        return candidates;
+    }
+    const std::string& command = words[first];
+    if (command == "list" || command == "batch") return options_of(command);
+    if (command == "explain") {
+        Words candidates;
+        if (first + 2 == words.size()) add_names(candidates);
+        return candidates;
+    }
+    const Function* function = catalogue::find(command);
+    return function == nullptr ? Words() : keywords_at(*function, words.size() - first - 2);
+}
+
+}  // namespace
+
+std::vector<std::string> complete(std::span<const std::string> words)
+{
+    std::vector<std::string> result;
+    if (words.empty()) return result;
+    for (const std::string_view candidate : candidates_for(words)) {
+        if (candidate.starts_with(words.back())) result.emplace_back(candidate);
+    }
+    return result;
+}
+
+}  // namespace ostrel::tool
