@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <iterator>
+#include <limits>
 
 namespace ostrel::fuzz {
 
@@ -63,7 +64,7 @@ void Mutator::change_number()
     long long number = 0;
     const char* const digits = input_.data() + begin;
     const auto read = std::from_chars(digits, input_.data() + input_.size(), number);
-    if (read.ec != std::errc()) return;
+    if (read.ec != std::errc() || number == std::numeric_limits<long long>::max()) return;
     constexpr long long kEdges[] = {0,   1,   9,     10,    59,    60,      99,         100,
                                     127, 128, 255,   256,   1000,  4096,    9999,       10000,
                                     254, 366, 32768, 65535, 65536, 1048576, 2147483647, 2147483648};
