@@ -37,7 +37,12 @@ class CharSet {
     std::uint32_t words_[8] = {};
 };
 
-// The sets of <ostrel/character_sets.h>, made at compile time.
+}  // namespace ostrel
+
+// The sets of <ostrel/character_sets.h>, made at compile time. They are declared hidden, or else some processors
+// would look up where each of them is in a table, whose rows need relocations.
+namespace [[gnu::visibility("hidden")]] ostrel {
+
 extern const CharSet kDigits;
 extern const CharSet kAlnum;
 extern const CharSet kPppDigits;
