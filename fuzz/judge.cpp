@@ -55,11 +55,13 @@ const Target* find_target(std::string_view name)
 Judge::Judge(const Target& target)
 {
     for (const Function& function : catalogue::functions()) {
+        if (!target.has(function)) continue;
         const auto found = model::models().find(function.name);
-        if (!target.has(function) || found == model::models().end()) continue;
+        if (found == model::models().end()) {
+            throw std::logic_error("no model of " + std::string(function.name));
+        }
         entries_.push_back({&function, found->second, std::ranges::any_of(function.arguments, is_written)});
     }
-    if (entries_.empty()) throw std::invalid_argument("no function to fuzz");
 }
 
 const Judge::Entry& Judge::decode(std::string_view input)

@@ -1,5 +1,6 @@
-// fuzz_seeds VECTORS OUT: writes each call of VECTORS/*.ndjson as an input into OUT/TARGET/, and the texts that
-// stand in them into OUT/TARGET.dict, a dictionary as libFuzzer and AFL++ read it.
+// fuzz_seeds VECTORS OUT: writes each call of VECTORS/*.ndjson as an input into OUT/TARGET/, the names of these
+// files into OUT/TARGET.list, with commas between, and the texts that stand in the calls into OUT/TARGET.dict, a
+// dictionary as libFuzzer and AFL++ read it.
 
 #include <cstdio>
 #include <exception>
@@ -61,15 +62,17 @@ void make_seeds(const Target& target, const std::vector<catalogue::Case>& cases,
     const std::filesystem::path folder = out / target.name;
     std::filesystem::create_directories(folder);
     std::set<std::string> words;
+    std::string list;
     std::size_t count = 0;
     for (const catalogue::Case& given : cases) {
         const auto input = judge.encode(*given.function, given.values);
         if (!input) continue;
         add_words(given, words);
-        std::ofstream stream(folder / (std::to_string(++count) + "-" + std::string(given.function->name)),
-                             std::ios::binary);
-        stream << *input;
+        const auto file = folder / (std::to_string(++count) + "-" + std::string(given.function->name));
+        std::ofstream(file, std::ios::binary) << *input;
+        list.append(list.empty() ? "" : ",").append(file.string());
     }
+    std::ofstream(out / (std::string(target.name) + ".list")) << list;
     write_dictionary(out / (std::string(target.name) + ".dict"), words);
 }
 

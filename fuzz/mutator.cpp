@@ -64,13 +64,19 @@ void Mutator::change_number()
     const char* const digits = input_.data() + begin;
     const auto read = std::from_chars(digits, input_.data() + input_.size(), number);
     if (read.ec != std::errc()) return;
-    constexpr long long kEdges[] = {0,   1,   9,     10,    59,    60,         99,         100,
-                                    127, 128, 255,   256,   1000,  4096,       9999,       10000,
-                                    254, 366, 32768, 65535, 65536, 1048576,    2147483647, 2147483648};
+    constexpr long long kEdges[] = {0,   1,   9,     10,    59,    60,      99,         100,
+                                    127, 128, 255,   256,   1000,  4096,    9999,       10000,
+                                    254, 366, 32768, 65535, 65536, 1048576, 2147483647, 2147483648};
     switch (below(3)) {
-        case 0: number += 1; break;
-        case 1: number = std::max(number - 1, 0LL); break;
-        default: number = kEdges[below(std::size(kEdges))]; break;
+        case 0:
+            number += 1;
+            break;
+        case 1:
+            number = std::max(number - 1, 0LL);
+            break;
+        default:
+            number = kEdges[below(std::size(kEdges))];
+            break;
     }
     replace(begin, static_cast<std::size_t>(read.ptr - digits), std::to_string(number));
 }
@@ -82,13 +88,27 @@ void Mutator::change()
     const std::size_t begin = 1 + below(input_.size() - 1);
     const std::size_t size = 1 + below(std::min<std::size_t>(input_.size() - begin, below(8) == 0 ? 64 : 4));
     switch (below(12)) {
-        case 0: input_[0] = static_cast<char>(below(256)); break;
-        case 1: input_[begin] = static_cast<char>(below(256)); break;
-        case 2: input_[begin] = kTelling[below(sizeof kTelling - 1)]; break;
-        case 3: input_.insert(begin, 1, kTelling[below(sizeof kTelling - 1)]); break;
-        case 4: replace(begin, size, ""); break;
-        case 5: input_.insert(begin, input_.substr(begin, size)); break;
-        case 6: input_.insert(begin, fields_[below(fields_.size())]); break;
+        case 0:
+            input_[0] = static_cast<char>(below(256));
+            break;
+        case 1:
+            input_[begin] = static_cast<char>(below(256));
+            break;
+        case 2:
+            input_[begin] = kTelling[below(sizeof kTelling - 1)];
+            break;
+        case 3:
+            input_.insert(begin, 1, kTelling[below(sizeof kTelling - 1)]);
+            break;
+        case 4:
+            replace(begin, size, "");
+            break;
+        case 5:
+            input_.insert(begin, input_.substr(begin, size));
+            break;
+        case 6:
+            input_.insert(begin, fields_[below(fields_.size())]);
+            break;
         case 7: {
             const std::size_t end = std::min(input_.find('\0', begin), input_.size());
             const std::size_t field = input_.rfind('\0', begin - 1);
@@ -96,10 +116,18 @@ void Mutator::change()
             replace(first, std::max(end, first) - first, fields_[below(fields_.size())]);
             break;
         }
-        case 8: input_[begin] = static_cast<char>(input_[begin] ^ 0x20); break;
-        case 9: input_.insert(begin, {2, static_cast<char>(below(4) == 0 ? below(256) : below(40))}); break;
-        case 10: input_.push_back(kTelling[below(sizeof kTelling - 1)]); break;
-        default: change_number(); break;
+        case 8:
+            input_[begin] = static_cast<char>(input_[begin] ^ 0x20);
+            break;
+        case 9:
+            input_.insert(begin, {2, static_cast<char>(below(4) == 0 ? below(256) : below(40))});
+            break;
+        case 10:
+            input_.push_back(kTelling[below(sizeof kTelling - 1)]);
+            break;
+        default:
+            change_number();
+            break;
     }
 }
 

@@ -96,6 +96,8 @@ Answer port(const std::string& value)
 
 }  // namespace
 
+int rule::user_name_code(const std::string& value) { return user_name(value).code; }
+
 Answer rule::provisioning_code(const std::string& value)
 {
     if (value.size() != 15) return silent(402);

@@ -28,6 +28,9 @@ Answer station_address(const Value& value);
 // provisioning_code prints the first wrong position, and does not flush it.
 Answer provisioning_code(const std::string& value);
 
+// user_name_code judges the name of a PPP account.
+int user_name_code(const std::string& value);
+
 bool is_hexadecimal(const std::string& value);
 bool is_printable(const std::string& value);  // and not empty
 

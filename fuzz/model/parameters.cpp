@@ -11,9 +11,9 @@ Answer length_reported(Arguments arguments)
     const std::string& value = text(arguments[0]);
     const int length = static_cast<int>(value.size());
     const auto report = [&](int code, const char* word, int limit) {
-        return rule::refused(
-            code, "Param_check_string_len",
-            "The length of string:" + value + " shoud not be " + word + " than " + std::to_string(limit) + "\n");
+        return rule::refused(code, "Param_check_string_len",
+                             "The length of string:" + value + " shoud not be " + word + " than " +
+                                 std::to_string(limit) + "\n");
     };
     if (length < number(arguments[1])) return report(801, "less", number(arguments[1]));
     if (length > number(arguments[2])) return report(802, "more", number(arguments[2]));
@@ -96,8 +96,7 @@ template <const std::string& Set>
 Answer length_of_set(Arguments arguments)
 {
     if (is_null(arguments[0])) return undefined();
-    return silent(
-        rule::length_and_set(number(arguments[1]), number(arguments[2]), Set, text(arguments[0])));
+    return silent(rule::length_and_set(number(arguments[1]), number(arguments[2]), Set, text(arguments[0])));
 }
 
 Answer number_range(Arguments arguments)

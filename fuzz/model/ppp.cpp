@@ -1,69 +1,9 @@
 // The WAN's PPP connection.
-#include <algorithm>
-
-#include "fuzz/model/rule.h"
+#include "fuzz/model/generic.h"
 
 namespace ostrel::model {
 
 namespace {
-
-constexpr std::string_view kAccountRealm = OSTREL_ACCOUNT_REALM;
-constexpr std::string_view kSetupRealm = OSTREL_SETUP_REALM;
-constexpr std::string_view kLocalPartSet = "0123456789#";
-
-// realm_part is the local part of a name in that realm; a realm alone has none.
-std::optional<std::string> realm_part(const std::string& name, std::string_view realm)
-{
-    if (name.size() <= realm.size() || !name.ends_with(realm)) return std::nullopt;
-    return name.substr(0, name.size() - realm.size());
-}
-
-bool mark_at(const std::string& local, std::size_t index) { return local[index] == '#'; }
-
-// account_code knows the forms by the number of marks; three marks or more are let through as they are.
-int account_code(const std::string& local)
-{
-    const int code = rule::length_and_set(18, 30, kLocalPartSet, local);
-    if (code != 0) return code;
-    const std::size_t length = local.size();
-    switch (std::ranges::count(local, '#')) {
-        case 0:
-            return length == 28 ? 0 : 402;
-        case 1: {
-            const std::size_t before = local.find('#');
-            if (length < 29) return before >= 13 && before == length - 5 ? 0 : 402;
-            if (length == 29) return mark_at(local, 24) || mark_at(local, 12) ? 0 : 402;
-            return 402;
-        }
-        case 2:
-            return length >= 19 && mark_at(local, 12) && mark_at(local, length - 5) ? 0 : 402;
-        default:
-            return 0;
-    }
-}
-
-int setup_code(const std::string& local)
-{
-    const int code = rule::length_and_set(16, 17, kLocalPartSet, local);
-    if (code != 0) return code;
-    switch (std::ranges::count(local, '#')) {
-        case 0:
-            return local.size() == 16 ? 0 : 402;
-        case 1:
-            return local.size() == 17 && mark_at(local, 12) ? 0 : 402;
-        case 2:
-            return 402;
-        default:
-            return 0;
-    }
-}
-
-int user_name_code(const std::string& name)
-{
-    if (const auto local = realm_part(name, kAccountRealm)) return account_code(*local);
-    if (const auto local = realm_part(name, kSetupRealm)) return setup_code(*local);
-    return rule::length_and_set(1, 131, rule::printable_latin1(), name);
-}
 
 Answer connection_type(const std::string& value)
 {
@@ -73,7 +13,7 @@ Answer connection_type(const std::string& value)
 
 Answer user_name(const std::string& value)
 {
-    const int code = user_name_code(value);
+    const int code = rule::user_name_code(value);
     if (code == 0) return silent(0);
     return rule::refused(code, "PPP_check_user_name", "Error ppp user name:" + value + "\n\n");
 }

@@ -57,8 +57,8 @@ Answer network_name(const std::string& value)
     if (value.empty()) code = 801;
     if (value.find_first_not_of(printable_ascii()) != std::string::npos) code = 803;
     if (value.size() > 32) code = 802;
-    return printed(code, "Info in TcmValidateSSID: The lenght of SSID is " + std::to_string(value.size()) +
-                             "\n\n");
+    return printed(code,
+                   "Info in TcmValidateSSID: The lenght of SSID is " + std::to_string(value.size()) + "\n\n");
 }
 
 }  // namespace rule

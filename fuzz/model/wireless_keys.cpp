@@ -98,8 +98,8 @@ Answer wep_key(const std::string& key, const std::string& encryption)
                      "\nThe key should not contain non hexa char: " + key + "\n";
         return answer;
     }
-    const bool suits = (encryption == "WEP-64" && key.size() == 10) ||
-                       (encryption == "WEP-128" && key.size() == 26);
+    const bool suits =
+        (encryption == "WEP-64" && key.size() == 10) || (encryption == "WEP-128" && key.size() == 26);
     return traced(suits ? 0 : 1002, "The key : " + key + "\n");
 }
 

@@ -87,8 +87,8 @@ Answer service_mode(const std::string& value)
 {
     const char* const name = "WLAN_check_authentication_service_mode";
     if (value.size() > 31) {
-        return rule::refused(402, name,
-                             "Error authentication_service_mode:" + value + " length out of range. [0,31]\n\n");
+        return rule::refused(
+            402, name, "Error authentication_service_mode:" + value + " length out of range. [0,31]\n\n");
     }
     if (one_of(value, {"none", "LinkAuthentication", "RadiusClient"})) return silent(0);
     return rule::refused(402, name, "Error authentication_service_mode value invalid :" + value + "\n\n");

@@ -41,7 +41,7 @@ Answer paired(const Pairs& pairs, const std::string& primary, const std::string&
 
 Answer slow_pair(const std::string& primary, const std::string& second)
 {
-    const Pairs pairs = {{0, 0}, {1, 3}, {2, 4}, {3, 5},  {4, 6},   {5, 3},   {6, 4},
+    const Pairs pairs = {{0, 0}, {1, 3}, {2, 4}, {3, 5},  {4, 6},  {5, 3},   {6, 4},
                          {7, 9}, {8, 6}, {9, 7}, {10, 8}, {11, 9}, {12, 10}, {13, 11}};
     return paired(pairs, primary, second);
 }

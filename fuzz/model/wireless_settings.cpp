@@ -55,8 +55,10 @@ std::string converted(const std::string& value)
     std::string result;
     std::size_t i = 0;
     while (i < value.size()) {
-        const std::size_t end = value[i] == '&' ? value.find(';', i) : std::string::npos;
-        if (end != std::string::npos) {
+        const std::size_t end = value[i] == '&'
+                                    ? value.find_first_not_of("#" + rule::kLettersAndDigits, i + 1)
+                                    : std::string::npos;
+        if (end != std::string::npos && value[end] == ';') {
             if (const auto byte = meant(value.substr(i + 1, end - i - 1))) {
                 result += *byte;
                 i = end + 1;
