@@ -7,7 +7,7 @@ class Entry:
     """Entry is one reason and the changes that it holds for."""
 
     def __init__(self, text):
-        self.values = {"file": [], "in": [], "line": [], "change": [], "why": []}
+        self.values = {"file": [], "in": [], "above": [], "line": [], "change": [], "why": []}
         self.used = set()
         name = ""
         for row in text.splitlines():
@@ -27,13 +27,15 @@ class Entry:
         change = "*" if "*" in self.values["change"] else mutant.change
         if mutant.file not in self.values["file"] or mutant.line not in self.values["line"] or \
                 change not in self.values["change"] or \
-                (self.values["in"] and mutant.function not in self.values["in"]):
+                (self.values["in"] and mutant.function not in self.values["in"]) or \
+                (self.values["above"] and mutant.above not in self.values["above"]):
             return False
-        self.used |= {("file", mutant.file), ("in", mutant.function), ("line", mutant.line), ("change", change)}
+        self.used |= {("file", mutant.file), ("in", mutant.function), ("above", mutant.above),
+                      ("line", mutant.line), ("change", change)}
         return True
 
     def unused(self):
-        return [(name, value) for name in ("file", "in", "line", "change") for value in self.values[name]
+        return [(name, value) for name in ("file", "in", "above", "line", "change") for value in self.values[name]
                 if (name, value) not in self.used]
 
 
@@ -42,6 +44,7 @@ class Equivalents:
 
         file: src/support/text.cpp
         in: the function, where the line's text is not enough
+        above: the text of the line above, where that is not enough either
         line: the text of the source line
         change: what it says before -> what it says then; or "*" for every change of the line
         why: the reason, one line or several

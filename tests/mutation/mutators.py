@@ -38,10 +38,11 @@ class Mutant(NamedTuple):
     offset: int
     end: int
     replacement: str
-    line: str     # the text of the line where it begins, without its indentation
-    change: str   # what a reader sees: "27 -> 28"; "#2" behind it for the second of the kind in the line
-    number: int   # of the line, for people
-    function: str  # in which it stands, or the one before
+    line: str      # the text of the line where it begins, without its indentation
+    change: str    # what a reader sees: "27 -> 28"; "#2" behind it for the second of the kind in the line
+    number: int    # of the line, for people
+    function: str  # in which it stands
+    above: str     # the text of the line above
 
 
 def operators(found, text):
@@ -216,10 +217,11 @@ def mutants(file, text):
     for start, end, replacement in sorted(made):
         first = text.rfind("\n", 0, start) + 1
         line = text[first:text.find("\n", start)].strip()
+        above = text[:first].rstrip("\n").rpartition("\n")[2].strip()
         number = text.count("\n", 0, start) + 1
         change = "%s -> %s" % (shown(text[start:end]), shown(replacement))
         count = seen[number, change] = seen.get((number, change), 0) + 1
         if count > 1:
             change += " #%d" % count
         opened = [name for name, at in functions if at <= start]
-        yield Mutant(file, start, end, replacement, line, change, number, opened[-1] if opened else "")
+        yield Mutant(file, start, end, replacement, line, change, number, opened[-1] if opened else "", above)
