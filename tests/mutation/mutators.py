@@ -7,7 +7,7 @@ import re
 from typing import NamedTuple
 
 from literals import characters, strings
-from tokens import closing, statement_end, tokens
+from tokens import closing, statement_end, tokens, without_comments
 
 OPERATORS = {
     "<": ["<=", ">="], "<=": ["<", ">"], ">": [">=", "<="], ">=": [">", "<"],
@@ -38,11 +38,11 @@ class Mutant(NamedTuple):
     offset: int
     end: int
     replacement: str
-    line: str      # the text of the line where it begins, without its indentation
+    line: str      # the text of the line where it begins, without indentation and comments
     change: str    # what a reader sees: "27 -> 28"; "#2" behind it for the second of the kind in the line
     number: int    # of the line, for people
     function: str  # in which it stands
-    above: str     # the text of the line above
+    above: str     # the text of the line above that holds more than a comment
 
 
 def operators(found, text):
@@ -213,11 +213,12 @@ def mutants(file, text):
             if text[start:end] != replacement:
                 made.setdefault((start, end, replacement), None)
     seen = {}
+    code = without_comments(text)
     functions = [(match.group(1) or "", match.start()) for match in FUNCTION.finditer(text)]
     for start, end, replacement in sorted(made):
         first = text.rfind("\n", 0, start) + 1
-        line = text[first:text.find("\n", start)].strip()
-        above = text[:first].rstrip("\n").rpartition("\n")[2].strip()
+        line = code[first:code.find("\n", start)].strip()
+        above = code[:first].rstrip().rpartition("\n")[2].strip()
         number = text.count("\n", 0, start) + 1
         change = "%s -> %s" % (shown(text[start:end]), shown(replacement))
         count = seen[number, change] = seen.get((number, change), 0) + 1

@@ -65,7 +65,7 @@ class ListOfEquivalents(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             path = pathlib.Path(folder) / "equivalent.txt"
             path.write_text(text)
-            made = list(mutants("src/a.cpp", "bool b =\n    a <= 63;\n"))
+            made = list(mutants("src/a.cpp", "bool b =\n    // why\n    a <= 63;  // because\n"))
             return made, Equivalents(path, made)
 
     def test_entries_name_the_line_by_its_text(self):
@@ -73,6 +73,12 @@ class ListOfEquivalents(unittest.TestCase):
                                 "change: 63 -> 64\nwhy: for a\n  reason\n")
         self.assertEqual([False, False, True, True], [mutant in known for mutant in made])
         self.assertEqual([], known.stale(["*"]))
+
+    def test_entries_may_name_the_line_above(self):
+        entry = "file: src/a.cpp\nabove: %s\nline: a <= 63;\nchange: *\nwhy: so it is\n"
+        for above, expected in (("bool b =", True), ("bool c =", False)):
+            made, known = self.read(entry % above)
+            self.assertEqual([expected] * 4, [mutant in known for mutant in made])
 
     def test_an_entry_without_its_mutant_is_stale(self):
         _, known = self.read("file: src/a.cpp\nline: a <= 64;\nchange: 64 -> 63\nwhy: it was\n")

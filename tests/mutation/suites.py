@@ -11,9 +11,6 @@ import subprocess
 LIBC = ctypes.CDLL(None)
 DIE_WITH_PARENT = 1
 
-# Programs that judge what stands around the library, or that need one that was built in another way.
-LEFT_OUT = {"batch_test", "driver_test", "examples_test", "exports_test", "impostor_test", "misuse_test",
-            "model_test", "realms_test", "single_test", "trouble_test", "words_test"}
 # Files whose own program has another name.
 PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test",
             "search": "search_test", "assertion": "parameter_check_test"}
@@ -32,16 +29,25 @@ class Suites:
         self.vectors = {path.stem for path in (sources.root / "vectors").glob("*.ndjson")}
         self.checks = {check for module in self.vectors for check in re.findall(
             r'"check": "(\w+)"', (sources.root / "vectors" / (module + ".ndjson")).read_text())}
-        self.programs = {path.name for path in (build.folder / "bin").glob("*_test")} - LEFT_OUT
+        self.programs = {path.name for path in (build.folder / "bin").glob("*_test")}
+        self.programs &= {program for file in sources.files for program in self.programs_of(file)}
 
-    def own(self, file):
+    @staticmethod
+    def programs_of(file):
         path = pathlib.PurePath(file)
-        names = [path.stem, path.parent.name]
-        found = [("vectors_test", "vectors_%s.*" % name) for name in names if name in self.vectors]
-        programs = [PROGRAMS.get(path.stem), *(name + "_test" for name in names)]
+        programs = [path.stem + "_test", path.parent.name + "_test"]
+        if path.stem in PROGRAMS:
+            programs.insert(0, PROGRAMS[path.stem])
         if path.parent.name == "wlan_check":
             programs.append("host_test")
-        found.extend((name, "*") for name in programs if name in self.programs)
+        return programs
+
+    def own(self, file):
+        """own gives those that bear the name of the file or of its folder."""
+        path = pathlib.PurePath(file)
+        found = [("vectors_test", "vectors_%s.*" % name) for name in (path.stem, path.parent.name)
+                 if name in self.vectors]
+        found.extend((name, "*") for name in self.programs_of(file) if name in self.programs)
         return list(dict.fromkeys(found))
 
     def nearest(self, mutant):

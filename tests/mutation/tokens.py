@@ -31,6 +31,12 @@ def without_directives(text):
     return pattern.sub(lambda found: re.sub(r"[^\n]", " ", found.group()), text)
 
 
+def without_comments(text):
+    """without_comments blanks comments, so that offsets stay."""
+    return PATTERN.sub(lambda found: re.sub(r"[^\n]", " ", found.group()) if found.lastgroup == "comment"
+                       else found.group(), text)
+
+
 def tokens(text):
     """tokens gives all tokens but comments and white space; attributes and static assertions are left out."""
     text = without_directives(text)
