@@ -1,0 +1,28 @@
+#include <cstring>
+
+#include "bench/contender.h"
+
+namespace ostrel::bench {
+
+namespace {
+
+// read_each_byte is a function of its own, as the rules are.
+[[gnu::noinline]] unsigned read_each_byte(const char* value)
+{
+    unsigned sum = 0;
+    for (; *value != '\0'; ++value) sum += static_cast<unsigned char>(*value);
+    return sum;
+}
+
+}  // namespace
+
+void add_limits(Contenders& all)
+{
+    for (const Family& family : families()) {
+        all.push_back(
+            contender(family.name, "reading", [](const char* v) { return read_each_byte(v) != 0; }));
+        all.push_back(contender(family.name, "strlen", [](const char* v) { return std::strlen(v) != 0; }));
+    }
+}
+
+}  // namespace ostrel::bench
