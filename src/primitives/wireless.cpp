@@ -30,12 +30,15 @@ constexpr Packed pack(std::string_view text)
     return packed;
 }
 
+// packed is pack at compile time, also where a compiler optimises for size.
+consteval Packed packed(std::string_view text) { return pack(text); }
+
 // is_rate compares with all rates at once: with one after the other a list takes five times the time.
 inline bool is_rate(Packed text)
 {
-    return (text == pack("1")) | (text == pack("2")) | (text == pack("5.5")) | (text == pack("6")) |
-           (text == pack("9")) | (text == pack("11")) | (text == pack("12")) | (text == pack("18")) |
-           (text == pack("24")) | (text == pack("36")) | (text == pack("48")) | (text == pack("54"));
+    return (text == packed("1")) | (text == packed("2")) | (text == packed("5.5")) | (text == packed("6")) |
+           (text == packed("9")) | (text == packed("11")) | (text == packed("12")) | (text == packed("18")) |
+           (text == packed("24")) | (text == packed("36")) | (text == packed("48")) | (text == packed("54"));
 }
 
 }  // namespace
