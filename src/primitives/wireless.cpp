@@ -30,15 +30,26 @@ constexpr Packed pack(std::string_view text)
     return packed;
 }
 
-// packed is pack at compile time, also where a compiler optimises for size.
-consteval Packed packed(std::string_view text) { return pack(text); }
+constexpr Packed kRate1 = pack("1");
+constexpr Packed kRate2 = pack("2");
+constexpr Packed kRate5_5 = pack("5.5");
+constexpr Packed kRate6 = pack("6");
+constexpr Packed kRate9 = pack("9");
+constexpr Packed kRate11 = pack("11");
+constexpr Packed kRate12 = pack("12");
+constexpr Packed kRate18 = pack("18");
+constexpr Packed kRate24 = pack("24");
+constexpr Packed kRate36 = pack("36");
+constexpr Packed kRate48 = pack("48");
+constexpr Packed kRate54 = pack("54");
 
-// is_rate compares with all rates at once: with one after the other a list takes five times the time.
+// is_rate joins all comparisons into one answer, because which of them will hold cannot be guessed: with branches
+// a list takes a third more time, and four times as much with texts.
 inline bool is_rate(Packed text)
 {
-    return (text == packed("1")) | (text == packed("2")) | (text == packed("5.5")) | (text == packed("6")) |
-           (text == packed("9")) | (text == packed("11")) | (text == packed("12")) | (text == packed("18")) |
-           (text == packed("24")) | (text == packed("36")) | (text == packed("48")) | (text == packed("54"));
+    return (text == kRate1) | (text == kRate2) | (text == kRate5_5) | (text == kRate6) | (text == kRate9) |
+           (text == kRate11) | (text == kRate12) | (text == kRate18) | (text == kRate24) | (text == kRate36) |
+           (text == kRate48) | (text == kRate54);
 }
 
 }  // namespace
