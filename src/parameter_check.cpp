@@ -89,7 +89,7 @@ int PARAM_get_protocol_from_name(const char* value_p)
 int PARAM_check_hexa_string(const char* value_p)
 {
     require_value(value_p, kModule);
-    return kHexDigits.contains_all(value_p) ? OSTREL_VALID : OSTREL_INVALID;
+    return contains_all(kHexDigits, value_p) ? OSTREL_VALID : OSTREL_INVALID;
 }
 
 int PARAM_check_printable_ascii_string(const char* value_p)
@@ -170,7 +170,7 @@ int PARAM_check_string_prefix(const char* value_p, const char* first_chars)
 int PARAM_check_dl_test_bufsize(const char* value_p)
 {
     if (value_p == nullptr || value_p[0] == '\0') return OSTREL_OUT_OF_RANGE;
-    if (!kDigits.contains_all(value_p)) {
+    if (!contains_all(kDigits, value_p)) {
         return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: The value %s is invalid\n", __func__, value_p);
     }
     const int size = std::atoi(value_p);

@@ -1,7 +1,12 @@
 // Runs every row of vectors/*.ndjson as a test of its own, named after the check and the line.
+//
+// usage: vectors_test [MODULE]...
+//
+// With modules, only their files are read: vectors_test wlan_check.
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 #include <utility>
 
@@ -59,6 +64,7 @@ void register_row(const Row& row)
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
-    for (const ostrel::tests::Row& row : ostrel::tests::read_rows()) ostrel::tests::register_row(row);
+    const std::set<std::string> modules(argv + 1, argv + argc);
+    for (const ostrel::tests::Row& row : ostrel::tests::read_rows(modules)) ostrel::tests::register_row(row);
     return RUN_ALL_TESTS();
 }

@@ -39,7 +39,13 @@ class Reader {
         return true;
     }
 
-    bool sign() { return separator('+') || separator('-'); }
+    // sign does not branch on which of the two it is, for nobody can guess that.
+    bool sign()
+    {
+        const bool is_sign = (*at_ == '+') | (*at_ == '-');
+        at_ += is_sign;
+        return is_sign;
+    }
 
     bool at_end() const { return *at_ == '\0'; }
 
@@ -72,7 +78,7 @@ inline bool read_day_and_time(Reader& reader, Fields& fields)
 }
 
 // read_offset reads "+HH:MM" or "-HH:MM".
-bool read_offset(Reader& reader, Fields& fields)
+inline bool read_offset(Reader& reader, Fields& fields)
 {
     return reader.sign() && reader.two_digits(fields.offset_hours) && reader.separator(':') &&
            reader.two_digits(fields.offset_minutes) && reader.at_end();
@@ -83,7 +89,7 @@ bool read_date_time(Reader reader, Fields& fields)
 {
     if (!reader.four_digits(fields.year)) return false;
     const bool extended = reader.separator('-');
-    if (!reader.two_digits(fields.month) || reader.separator('-') != extended) return false;
+    if (!reader.two_digits(fields.month) || (extended && !reader.separator('-'))) return false;
     if (!read_day_and_time(reader, fields)) return false;
     return reader.at_end() || (extended && read_offset(reader, fields));
 }

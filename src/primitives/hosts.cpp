@@ -15,36 +15,38 @@ namespace ostrel {
 
 namespace {
 
-constexpr int kLongestLabel = 20;
+constexpr std::size_t kLongestLabel = 20;
 constexpr int kMostLabels = 6;
+constexpr std::size_t kLongestUrl = 256;
 
 // is_domain_name needs no test of its own for dots that lead, trail or follow each other: they leave an empty
 // label.
 bool is_domain_name(std::string_view name)
 {
-    if (kIpv4.contains_all(name)) return false;
+    if (contains_all(kIpv4, name)) return false;
     for (int labels = 1; labels <= kMostLabels; ++labels) {
-        const std::string_view label = before(name, '.');
-        if (validate_string(1, kLongestLabel, kHost, label) != OSTREL_VALID) return false;
-        if (label.size() == name.size()) return true;
-        name.remove_prefix(label.size() + 1);
+        const std::size_t length = leading(kHost, name).size();
+        if (length < 1 || length > kLongestLabel) return false;
+        if (length == name.size()) return true;
+        if (name[length] != '.') return false;
+        name.remove_prefix(length + 1);
     }
     return false;
 }
 
-// is_port judges the port of a URL; digits are all that it may hold. What follows it in memory is a "/" or
-// the URL's terminator, so that atoi reads no further.
-bool is_port(std::string_view port)
+// is_port judges the digits of a port. What follows them in memory is no digit, so that atoi reads no further.
+bool is_port(std::string_view digits)
 {
-    if (!kDigits.contains_all(port)) return false;
-    const int number = std::atoi(port.data());
+    const int number = std::atoi(digits.data());
     return number >= 0 && number <= 65535;
 }
 
+// is_url needs to judge by the characters of a URL only what its other parts leave: they allow fewer. A ":" in
+// the path would end the host if there was none before.
 bool is_url(const char* value, std::string_view scheme, std::string_view secure_scheme)
 {
     std::string_view rest = value;
-    if (validate_string(0, 256, kUrl, rest) != OSTREL_VALID) return false;
+    if (rest.size() > kLongestUrl) return false;
     if (starts_with(rest, scheme)) {
         rest.remove_prefix(scheme.size());
     } else if (starts_with(rest, secure_scheme)) {
@@ -52,10 +54,18 @@ bool is_url(const char* value, std::string_view scheme, std::string_view secure_
     } else {
         return false;
     }
-    const std::string_view host = before(rest, ':');
-    if (host.size() == rest.size()) return is_host(before(rest, '/'));
-    rest.remove_prefix(host.size() + 1);
-    return is_host(host) && is_port(before(rest, '/'));
+    const std::string_view host = leading(kName, rest);
+    if (!is_host(host)) return false;
+    rest.remove_prefix(host.size());
+    const bool has_port = !rest.empty() && rest[0] == ':';
+    if (has_port) {
+        rest.remove_prefix(1);
+        const std::string_view port = leading(kDigits, rest);
+        if (!is_port(port)) return false;
+        rest.remove_prefix(port.size());
+    }
+    return rest.empty() ||
+           (rest[0] == '/' && contains_all(kUrl, rest) && (has_port || count(rest, ':') == 0));
 }
 
 bool is_email(const char* value)

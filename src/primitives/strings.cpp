@@ -4,8 +4,34 @@
 #include <ostrel/strings.h>
 
 #include <cstdlib>
+#include <cstring>
 
 namespace ostrel {
+
+namespace {
+
+template <typename Set>
+int judge_string(int min_len, int max_len, const Set& allowed, const char* value)
+{
+    const char* end = first_outside(allowed, value);
+    const bool all_allowed = *end == '\0';
+    // A forbidden character is named only if the length is right, so the rest counts too.
+    if (!all_allowed) end += std::strlen(end);
+    if (const int code = validate_length(min_len, max_len, static_cast<std::size_t>(end - value));
+        code != OSTREL_VALID)
+        return code;
+    return all_allowed ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+}
+
+template <typename Set>
+int judge_number(int min, int max, const Set& allowed, const char* value)
+{
+    if (!contains_all(allowed, value)) return OSTREL_FORBIDDEN_CHARACTER;
+    const int number = std::atoi(value);
+    return number >= min && number <= max ? OSTREL_VALID : OSTREL_OUT_OF_RANGE;
+}
+
+}  // namespace
 
 int validate_length(int min_len, int max_len, std::size_t length)
 {
@@ -14,22 +40,25 @@ int validate_length(int min_len, int max_len, std::size_t length)
     return OSTREL_VALID;
 }
 
-int validate_string(int min_len, int max_len, const CharSet& allowed, std::string_view text)
+int validate_string(int min_len, int max_len, CharSet allowed, const char* value)
 {
-    if (const int code = validate_length(min_len, max_len, text.size()); code != OSTREL_VALID) return code;
-    return allowed.contains_all(text) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+    return judge_string(min_len, max_len, allowed, value);
 }
 
-int validate_number(int min, int max, const CharSet& allowed, const char* value)
+int validate_string(int min_len, int max_len, CharSet allowed, std::string_view text)
 {
-    if (!allowed.contains_all(value)) return OSTREL_FORBIDDEN_CHARACTER;
-    const int number = std::atoi(value);
-    return number >= min && number <= max ? OSTREL_VALID : OSTREL_OUT_OF_RANGE;
+    if (const int code = validate_length(min_len, max_len, text.size()); code != OSTREL_VALID) return code;
+    return contains_all(allowed, text) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+}
+
+int validate_number(int min, int max, CharSet allowed, const char* value)
+{
+    return judge_number(min, max, allowed, value);
 }
 
 bool is_printable(const char* value)
 {
-    return value != nullptr && value[0] != '\0' && kAsciiPrintable.contains_all(value);
+    return value != nullptr && value[0] != '\0' && contains_all(kAsciiPrintable, value);
 }
 
 int count(std::string_view text, char c)
@@ -47,12 +76,12 @@ using namespace ostrel;
 
 int ValidateString(int min_len, int max_len, const char* charset, const char* value)
 {
-    return validate_string(min_len, max_len, CharSet(charset), value);
+    return judge_string(min_len, max_len, OwnSet(charset), value);
 }
 
 int ValidateNum(int min, int max, const char* charset, const char* value)
 {
-    return validate_number(min, max, CharSet(charset), value);
+    return judge_number(min, max, OwnSet(charset), value);
 }
 
 int countChar(const char* value, int ch) { return count(value, static_cast<char>(ch)); }

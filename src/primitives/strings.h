@@ -12,11 +12,13 @@ namespace ostrel {
 // lets every length through, a negative maximum none. Exact for any length, also beyond what an int can hold.
 int validate_length(int min_len, int max_len, std::size_t length);
 
-// validate_string is ValidateString over a piece and a ready set.
-int validate_string(int min_len, int max_len, const CharSet& allowed, std::string_view text);
+// validate_string is ValidateString with a ready set, over a value or a piece of one. A value that it accepts
+// is read once: its length is known when its last character has been looked up.
+int validate_string(int min_len, int max_len, CharSet allowed, const char* value);
+int validate_string(int min_len, int max_len, CharSet allowed, std::string_view text);
 
 // validate_number is ValidateNum with a ready set.
-int validate_number(int min, int max, const CharSet& allowed, const char* value);
+int validate_number(int min, int max, CharSet allowed, const char* value);
 
 // is_printable tells whether every byte is one of 0x20 to 0x7E. Neither NULL nor the empty value is
 // printable.

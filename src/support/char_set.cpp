@@ -4,21 +4,40 @@
 
 namespace ostrel {
 
-constexpr CharSet kDigits(CHARSET_DIGITS);
-constexpr CharSet kAlnum(CHARSET_ALNUM);
-constexpr CharSet kPppDigits(CHARSET_PPP_DIGITS);
-constexpr CharSet kHexDigits(CHARSET_HEX);
-constexpr CharSet kAsciiPrintable(CHARSET_ASCII_PRINTABLE);
-constexpr CharSet kLatin1Printable(CHARSET_LATIN1_PRINTABLE);
-constexpr CharSet kIpv4(CHARSET_IPV4);
-constexpr CharSet kHost(CHARSET_HOST);
-constexpr CharSet kUrl(CHARSET_URL);
-constexpr CharSet kHostPort(CHARSET_HOSTPORT);
-constexpr CharSet kName(CHARSET_NAME);
-constexpr CharSet kMail(CHARSET_MAIL);
-constexpr CharSet kDescription(CHARSET_DESCRIPTION);
-constexpr CharSet kDeviceName(CHARSET_DEVICE_NAME);
-constexpr CharSet kRouterName(CHARSET_ROUTER_NAME);
-constexpr CharSet kCisName(CHARSET_CIS_NAME);
+namespace {
+
+constexpr void add(Memberships& all, CharSet set, const char* members)
+{
+    for (; *members != '\0'; ++members) {
+        std::uint16_t& word = all.words[static_cast<unsigned char>(*members)];
+        word = static_cast<std::uint16_t>(word | set.bit());
+    }
+}
+
+constexpr Memberships make_memberships()
+{
+    Memberships all;
+    add(all, kDigits, CHARSET_DIGITS);
+    add(all, kAlnum, CHARSET_ALNUM);
+    add(all, kPppDigits, CHARSET_PPP_DIGITS);
+    add(all, kHexDigits, CHARSET_HEX);
+    add(all, kAsciiPrintable, CHARSET_ASCII_PRINTABLE);
+    add(all, kLatin1Printable, CHARSET_LATIN1_PRINTABLE);
+    add(all, kIpv4, CHARSET_IPV4);
+    add(all, kHost, CHARSET_HOST);
+    add(all, kUrl, CHARSET_URL);
+    add(all, kHostPort, CHARSET_HOSTPORT);
+    add(all, kName, CHARSET_NAME);
+    add(all, kMail, CHARSET_MAIL);
+    add(all, kDescription, CHARSET_DESCRIPTION);
+    add(all, kDeviceName, CHARSET_DEVICE_NAME);
+    add(all, kRouterName, CHARSET_ROUTER_NAME);
+    add(all, kCisName, CHARSET_CIS_NAME);
+    return all;
+}
+
+}  // namespace
+
+constexpr Memberships kMemberships = make_memberships();
 
 }  // namespace ostrel

@@ -42,7 +42,7 @@ int trace_code(int code)
 
 int check_wep_key(const char* key, const char* encryption)
 {
-    if (!is_printable(key) && !kHexDigits.contains_all(key)) {
+    if (!is_printable(key) && !contains_all(kHexDigits, key)) {
         std::fprintf(stderr, "The key should not be empty or non printable ascii string: %s\n", key);
         std::fprintf(stderr, "The key should not contain non hexa char: %s\n", key);
         return OSTREL_FORBIDDEN_CHARACTER;
@@ -91,7 +91,7 @@ int WLAN_check_wepkeys(char* keys)
             key[0] = '\0';
             continue;
         }
-        if (!kHexDigits.contains_all(key)) {
+        if (!contains_all(kHexDigits, key)) {
             return refuse(OSTREL_FORBIDDEN_CHARACTER,
                           "Error in %s: The key should not contain non hexa char: %s\n\n", __func__, key);
         }

@@ -18,12 +18,13 @@ constexpr std::size_t kLongestMode = 31;
 constexpr int kLongestDescription = 4096;
 constexpr int kLongestDomain = 3;
 
-constexpr CharSet kEnvironments("OIoi");  // outdoor, indoor
+// is_environment takes outdoor and indoor.
+bool is_environment(char c) { return c == 'O' || c == 'I' || c == 'o' || c == 'i'; }
 
 // A missing place holds the terminator, which no set contains.
 bool is_regulatory_domain(const char* value)
 {
-    return kDigits.contains(value[0]) && kDigits.contains(value[1]) && kEnvironments.contains(value[2]);
+    return kDigits.contains(value[0]) && kDigits.contains(value[1]) && is_environment(value[2]);
 }
 
 bool is_operation_mode(const char* value, int readwrite_mode)

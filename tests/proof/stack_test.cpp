@@ -22,6 +22,7 @@
 #include <string_view>
 #include <vector>
 
+#include "catalogue/entry.h"
 #include "tests/support/hostile.h"
 #include "tests/support/vectors.h"
 
@@ -144,7 +145,7 @@ class PaintedStack {
 
     std::size_t depth_of_nothing()
     {
-        const Function nothing = catalogue::check<do_nothing>("nothing", {"value"}, "", {});
+        const Function nothing = catalogue::check<do_nothing>("nothing", {{"value", ""}}, "", {});
         Caller caller;
         caller.load(nothing, {std::string()});
         return run(caller);
@@ -233,7 +234,7 @@ int needs_a_thousand_bytes(const char* value)
 
 TEST_F(Stack, ADeepCallIsSeen)
 {
-    const Function deep = catalogue::check<needs_a_thousand_bytes>("deep", {"value"}, "", {});
+    const Function deep = catalogue::check<needs_a_thousand_bytes>("deep", {{"value", ""}}, "", {});
     measure(deep, {std::string("a")});
     EXPECT_LE(1000 - 128, deepest_["deep"]);
     EXPECT_GE(1100, deepest_["deep"]);

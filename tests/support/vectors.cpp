@@ -54,11 +54,12 @@ json after_of(const std::vector<Written>& written)
 
 }  // namespace
 
-std::vector<Row> read_rows()
+std::vector<Row> read_rows(const std::set<std::string>& modules)
 {
     std::vector<std::filesystem::path> files;
     for (const auto& entry : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/vectors")) {
-        if (entry.path().extension() == ".ndjson") files.push_back(entry.path());
+        if (entry.path().extension() != ".ndjson") continue;
+        if (modules.empty() || modules.contains(entry.path().stem().string())) files.push_back(entry.path());
     }
     std::ranges::sort(files);
     std::vector<Row> rows;

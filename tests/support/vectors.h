@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <iosfwd>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,8 @@ struct Row {
     std::string fault;
 };
 
-// read_rows gives every row of every file, in order.
-std::vector<Row> read_rows();
+// read_rows gives every row of every file, in order. Where modules are named only their files are read.
+std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 
 // applies_here tells whether the row's answer is that of the C library at hand. The C library decides what
 // atoi makes of a number that does not fit; rows that depend on it hold for glibc where long has 64 bits.

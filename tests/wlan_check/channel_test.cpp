@@ -109,6 +109,18 @@ TEST_F(Channel, RunsTheToolOnceForEachCall)
     EXPECT_EQ("-i wl0 channels\n-i wl0 channels\n", calls());
 }
 
+TEST_F(Channel, ClosesTheList)
+{
+    list("1 6 11");
+    const auto open_files = [] {
+        return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+    };
+    const auto before = open_files();
+    check("6");
+    check("7");
+    EXPECT_EQ(before, open_files());
+}
+
 TEST_F(Channel, RunsNoToolForTheAutomaticChannelAnd5GHzAndUnknownRadios)
 {
     list("1 6 11");

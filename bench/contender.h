@@ -1,0 +1,57 @@
+// Contender: something that judges the values of a family, ours, a peer or a limit.
+#ifndef OSTREL_BENCH_CONTENDER_H
+#define OSTREL_BENCH_CONTENDER_H
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "bench/corpus.h"
+
+namespace ostrel::bench {
+
+struct Contender {
+    std::string family;
+    std::string name;
+    std::function<std::size_t(const Corpus&)> pass;  // judges every value once and counts those accepted
+};
+
+// contender makes one from a function that judges one value. The loop is compiled around the call, so that all
+// pay the same for it.
+template <typename Accepts>
+Contender contender(std::string family, std::string name, Accepts accepts)
+{
+    return {std::move(family), std::move(name), [accepts](const Corpus& corpus) {
+                std::size_t accepted = 0;
+                for (const char* value : corpus.values()) {
+                    if (accepts(value)) ++accepted;
+                }
+                return accepted;
+            }};
+}
+
+using Contenders = std::vector<Contender>;
+
+// contenders gives all that the program is linked with: peers/all.cpp has the peers too, alone.cpp has not.
+Contenders contenders();
+
+// What each of these adds judges the families that it can judge.
+void add_ours(Contenders& all);
+void add_limits(Contenders& all);  // no judge: what it costs only to look at the value
+void add_libc(Contenders& all);
+void add_pcre2(Contenders& all);
+void add_re2(Contenders& all);
+void add_posix(Contenders& all);
+void add_libyang(Contenders& all);
+void add_urls(Contenders& all);  // uriparser and libcurl
+void add_cares(Contenders& all);
+
+// pattern gives the regular expression for a family's valid values, anchored at both ends and without a
+// feature that an engine lacks.
+std::string pattern(const std::string& family);
+
+}  // namespace ostrel::bench
+
+#endif

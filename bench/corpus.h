@@ -1,0 +1,91 @@
+// Corpus: the values that one benchmark judges, one pass after the other.
+#ifndef OSTREL_BENCH_CORPUS_H
+#define OSTREL_BENCH_CORPUS_H
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ostrel::bench {
+
+// Random gives the same numbers on every machine (splitmix64), so that two runs judge the same values.
+class Random {
+ public:
+    explicit Random(std::uint64_t seed) : state_(seed) {}
+
+    std::uint64_t next()
+    {
+        std::uint64_t z = (state_ += 0x9E3779B97F4A7C15);
+        z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9;
+        z = (z ^ (z >> 27)) * 0x94D049BB133111EB;
+        return z ^ (z >> 31);
+    }
+
+    // between gives a number from low to high, both included.
+    unsigned between(unsigned low, unsigned high)
+    {
+        return low + static_cast<unsigned>(next() % (high - low + 1));
+    }
+
+    bool one_in(unsigned n) { return next() % n == 0; }
+
+    char one_of(std::string_view members) { return members[next() % members.size()]; }
+
+ private:
+    std::uint64_t state_;
+};
+
+// some gives a text of so many characters, each one of the members.
+std::string some(Random& random, std::size_t length, std::string_view members);
+
+// number gives a decimal number from low to high, padded with zeros to the width.
+std::string number(Random& random, unsigned low, unsigned high, std::size_t width = 1);
+
+enum class Shape {
+    kValid,
+    kRefusedFirst,  // the first byte is one that no rule takes
+    kRefusedLast,   // the last byte is
+    kHostile,       // long, and made so that a rule has to look at as much of it as can be
+};
+
+constexpr Shape kShapes[] = {Shape::kValid, Shape::kRefusedFirst, Shape::kRefusedLast, Shape::kHostile};
+
+const char* name_of(Shape shape);
+
+// Family is a kind of value: how valid values and hostile ones of at least that length are made.
+struct Family {
+    std::string name;
+    std::string rule;  // ours, as the table names it
+    std::function<std::string(Random&)> valid;
+    std::function<std::string(Random&, std::size_t)> hostile;
+    bool distinct = true;  // false where there are too few valid values: then they are drawn at random
+};
+
+constexpr std::size_t kCorpusSize = 65536;  // fewer distinct values are learnt by the branch predictor
+constexpr std::size_t kHostileLength = 512;
+
+// Corpus holds the values one behind the other, each with its terminator.
+class Corpus {
+ public:
+    Corpus(const Family& family, Shape shape, std::size_t size = kCorpusSize);
+
+    const std::vector<const char*>& values() const { return values_; }
+
+    std::size_t bytes() const { return text_.size() - values_.size(); }
+
+ private:
+    std::string text_;
+    std::vector<const char*> values_;
+};
+
+// families lists all, in the order of the table.
+const std::vector<Family>& families();
+
+const Family& family(std::string_view name);
+
+}  // namespace ostrel::bench
+
+#endif

@@ -1,0 +1,20 @@
+// Judges a family's values a number of times: judge FAMILY CONTENDER PASSES
+//
+// The difference between two runs of so many passes more is what those passes execute.
+#include <cstdlib>
+
+#include "bench/contender.h"
+
+using namespace ostrel::bench;
+
+int main(int argc, char** argv)
+{
+    if (argc != 4) return 2;
+    const Corpus corpus(family(argv[1]), Shape::kValid, 256);
+    for (const Contender& each : contenders()) {
+        if (each.family != argv[1] || each.name != argv[2]) continue;
+        for (int passes = std::atoi(argv[3]); passes > 0; --passes) {
+            if (each.pass(corpus) != corpus.values().size()) return 1;
+        }
+    }
+}

@@ -1,0 +1,126 @@
+#!/usr/bin/env python3
+"""Prints what the benchmarks measured as tables, and draws the chart.
+
+usage: report.py TIMES.json INSTRUCTIONS.json CHART.svg
+"""
+
+import collections
+import json
+import statistics
+import sys
+
+import goals
+
+LIMITS = ("reading", "strlen")
+NOISY = 0.10  # quartiles further apart than this share of the median tell too little
+
+
+def quartiles(samples):
+    low, median, high = statistics.quantiles(samples, n=4, method="inclusive")
+    return median, (high - low) / median
+
+
+def read_times(path):
+    """Gives {family: {shape: {contender: (median ns per value, spread, bytes per second, allocations)}}}."""
+    with open(path, encoding="utf-8") as file:
+        rows = [row for row in json.load(file)["benchmarks"] if row["run_type"] == "iteration"]
+    samples = collections.defaultdict(list)
+    for row in rows:
+        samples[row["run_name"]].append(row)
+    table = {}
+    for name, repetitions in samples.items():
+        family, shape, contender = name.split("/")[:3]
+        times = [row["cpu_time"] / row["values"] for row in repetitions]
+        rate = statistics.median(row["bytes_per_second"] for row in repetitions)
+        table.setdefault(family, {}).setdefault(shape, {})[contender] = (
+            *quartiles(times), rate, repetitions[0]["allocations"])
+    return table
+
+
+def judged(family, peer, ratio):
+    """Says how a ratio, of the peer's time to ours, stands to its goal."""
+    goal = goals.GOALS.get(family, {}).get(peer)
+    if peer == "libyang":
+        goal = goals.LIBYANG
+    if peer == "reading" and family in goals.LISTS:
+        if 1 / ratio <= goals.LIMIT:
+            return f"met (at most {goals.LIMIT} times it)"
+        return f"MISSED (at most {goals.LIMIT} times it): " + goals.REASONS.get((family, peer), "no reason known")
+    if goal is None:
+        return ""
+    if ratio >= goal:
+        return f"met ({goal})"
+    return f"MISSED ({goal}): " + goals.REASONS.get((family, peer), "no reason known")
+
+
+def print_tables(table, instructions):
+    noisy = 0
+    for shape in ("valid", "refused_first", "refused_last", "hostile"):
+        print(f"\n== {shape} values\n")
+        print(f"{'family':13}{'contender':13}{'ns/value':>9}{'spread':>8}{'MB/s':>8}{'alloc':>7}{'instr':>8}"
+              f"{'x ours':>8}  goal")
+        for family, shapes in table.items():
+            if shape not in shapes:
+                continue
+            row = shapes[shape]
+            ours = row["ours"][0]
+            order = ["ours", *LIMITS, *sorted(peer for peer in row if peer != "ours" and peer not in LIMITS)]
+            for contender in order:
+                time, spread, rate, allocations = row[contender]
+                count = instructions.get(f"{family}/{shape}/{contender}")
+                mark = "~" if spread > NOISY else " "
+                noisy += spread > NOISY
+                goal = judged(family, contender, time / ours) if shape == "valid" and contender != "ours" else ""
+                print(f"{family if contender == 'ours' else '':13}{contender:13}{time:9.1f}{100 * spread:6.1f}%{mark}"
+                      f"{rate / 1e6:8.0f}{allocations:7.1f}{count if count is None else round(count)!s:>8}"
+                      f"{time / ours:8.2f}  {goal}".replace("None", "   -"))
+    if noisy:
+        print(f"\n~ in {noisy} rows the quartiles are more than {100 * NOISY:.0f} % of the median apart: the machine "
+              "was too noisy to tell anything by them.")
+
+
+def draw(table, path):
+    """Draws how many times as long each peer takes as we do, on valid values; one group of bars a family."""
+    shown = [family for family in goals.GOALS if family in table and family != "own_digits_8"]
+    bars = []
+    for family in shown:
+        row = table[family]["valid"]
+        peers = sorted((peer for peer in row if peer not in ("ours", "strlen")), key=lambda peer: row[peer][0])
+        bars.append((family, [(peer, row[peer][0] / row["ours"][0]) for peer in peers]))
+    longest = 20  # times our time; what takes longer is cut off and says so
+    left, width, step, gap = 190, 460, 15, 14
+    lines = []
+    y = 44
+    for family, peers in bars:
+        lines.append(f'<text x="8" y="{y + 11}" class="f">{family}</text>')
+        for peer, ratio in peers:
+            length = max(1, min(ratio, longest) / longest * width)
+            kind = "l" if peer == "reading" else "p"
+            lines.append(f'<text x="{left - 6}" y="{y + 11}" class="n">{peer}</text>')
+            lines.append(f'<rect x="{left}" y="{y + 2}" width="{length:.1f}" height="{step - 4}" class="{kind}"/>')
+            lines.append(f'<text x="{left + length + 4:.1f}" y="{y + 11}">{ratio:.1f}</text>')
+            y += step
+        y += gap
+    ours = left + width / longest
+    with open(path, "w", encoding="utf-8") as file:
+        file.write(
+            f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 720 {y}" font-family="sans-serif" font-size="10">\n'
+            "<style>text{fill:#333}.f{font-weight:bold}.n{text-anchor:end}.p{fill:#4a7fb5}.l{fill:#bbb}</style>\n"
+            f'<rect width="720" height="{y}" fill="#fff"/>\n'
+            '<text x="8" y="20" font-size="13">Time to accept a value, in multiples of ours (line: ours; grey: only '
+            "reading each byte)</text>\n"
+            f'<line x1="{ours:.1f}" y1="34" x2="{ours:.1f}" y2="{y - gap}" stroke="#c33"/>\n'
+            + "\n".join(lines) + "\n</svg>\n")
+
+
+def main():
+    times, counts, chart = sys.argv[1:4]
+    table = read_times(times)
+    with open(counts, encoding="utf-8") as file:
+        instructions = json.load(file)
+    print_tables(table, instructions)
+    draw(table, chart)
+
+
+if __name__ == "__main__":
+    main()

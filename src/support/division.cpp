@@ -1,0 +1,10 @@
+// Nothing here divides by zero, and the run-time support of ARM compilers would import raise for the case.
+#if defined(__ARM_EABI__)
+extern "C" {
+int __aeabi_idiv0(int quotient);
+long long __aeabi_ldiv0(long long quotient);
+
+int __aeabi_idiv0(int quotient) { return quotient; }
+long long __aeabi_ldiv0(long long quotient) { return quotient; }
+}
+#endif

@@ -1,0 +1,238 @@
+"""Changes the library one small thing at a time and lists what no test notices.
+
+See README.md beside this file.
+"""
+
+import argparse
+import ctypes
+import fnmatch
+import hashlib
+import json
+import multiprocessing
+import queue
+import os
+import pathlib
+import random
+import signal
+import sys
+import time
+
+from equivalents import Equivalents
+from library import BrokenLink, Build, Sources, Workshop
+from mutators import mutants
+from suites import Suites
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+LEAST_SCORE = 98.0
+
+
+def digest(data):
+    return hashlib.sha256(data).hexdigest()[:16]
+
+
+class Results:
+    """Results remember what became of each mutant, for as long as its file stays as it is.
+
+    What survived is tried again when the tests have changed.
+    """
+
+    def __init__(self, path, sources, suites):
+        self.path = path
+        self.sources = {file: digest(text.encode()) for file, text in sources.text.items()}
+        self.tests = self.digest_of_tests(suites)
+        self.known = json.loads(path.read_text()) if path.exists() else {}
+        self.saved = time.monotonic()
+
+    @staticmethod
+    def digest_of_tests(suites):
+        paths = sorted((suites.sources.root / "vectors").glob("*.ndjson"))
+        paths += sorted(suites.build.folder / "bin" / name for name in suites.programs)
+        return digest(b"".join(digest(path.read_bytes()).encode() for path in paths))
+
+    def key(self, mutant):
+        return "%s:%d:%d:%s:%s" % (mutant.file, mutant.offset, mutant.end, mutant.replacement,
+                                   self.sources[mutant.file])
+
+    def of(self, mutant):
+        """of gives "killed", "survived", "same", "broken", or None where it must be tried."""
+        result = self.known.get(self.key(mutant))
+        if result is None or (result["status"] == "survived" and result["tests"] != self.tests):
+            return None
+        return result["status"]
+
+    def add(self, mutant, status, by):
+        self.known[self.key(mutant)] = {"status": status, "by": by, "tests": self.tests}
+        if time.monotonic() - self.saved > 5:
+            self.save()
+
+    def save(self):
+        beside = self.path.with_suffix(".new")
+        beside.write_text(json.dumps(self.known, indent=0, sort_keys=True))
+        beside.replace(self.path)
+        self.saved = time.monotonic()
+
+
+class Judge:
+    """Judge runs in each worker process."""
+
+    def __init__(self, suites, folder):
+        self.suites = suites
+        self.workshop = Workshop(suites.build, folder)
+        self.limits = {}
+        self.hide_var()
+
+    @staticmethod
+    def hide_var():
+        """hide_var gives the process a /var of its own where it may, for the list of channels stands there."""
+        libc = ctypes.CDLL(None, use_errno=True)
+        new_mounts, private = 0x00020000, 0x44000
+        if os.geteuid() == 0 and libc.unshare(new_mounts) == 0:
+            libc.mount(b"none", b"/", None, ctypes.c_ulong(private), None)
+            libc.mount(b"none", b"/var", b"tmpfs", ctypes.c_ulong(0), None)
+
+    def judge(self, mutant):
+        text = self.suites.sources.text[mutant.file]
+        text = text[:mutant.offset] + mutant.replacement + text[mutant.end:]
+        try:
+            made = self.workshop.make(mutant.file, text)
+        except BrokenLink:
+            return "broken", ""
+        if made != "made":
+            return made, ""
+        for suite in self.suites.nearest(mutant) + self.suites.of(mutant.file):
+            if suite not in self.limits:
+                self.limits[suite] = self.suites.measure(suite, self.workshop)
+            if not self.suites.passes(suite, self.workshop, self.limits[suite]):
+                return "killed", "%s %s" % suite
+        return "survived", ""
+
+
+def work(folder, suites, tasks, answers):
+    signal.signal(signal.SIGTERM, signal.SIG_DFL)
+    judge = Judge(suites, folder)
+    for number, mutant in iter(tasks.get, None):
+        answers.put((number, *judge.judge(mutant)))
+
+
+def try_all(waiting, suites, jobs, folder, results):
+    context = multiprocessing.get_context("fork")
+    tasks, answers = context.Queue(), context.Queue()
+    tasks.cancel_join_thread()  # what nobody will take need not be written
+    for number, mutant in enumerate(waiting):
+        tasks.put((number, mutant))
+    workers = []
+    for number in range(jobs):
+        tasks.put(None)
+        workers.append(context.Process(target=work, daemon=True,
+                                       args=(folder / ("worker%d" % number), suites, tasks, answers)))
+        workers[-1].start()
+    for done in range(len(waiting)):
+        while True:
+            try:
+                number, status, by = answers.get(timeout=5)
+                break
+            except queue.Empty:
+                if any(worker.exitcode for worker in workers):
+                    raise SystemExit("a worker has ended")
+        mutant = waiting[number]
+        results.add(mutant, status, by)
+        if status == "survived":
+            print("[%d/%d] survived %s" % (done + 1, len(waiting), shown(mutant)), flush=True)
+    for worker in workers:
+        worker.join()
+
+
+def shown(mutant):
+    return "%s:%d: %s\n    %s" % (mutant.file, mutant.number, mutant.change, mutant.line)
+
+
+def arguments():
+    parser = argparse.ArgumentParser(prog="scripts/mutate", description=__doc__.splitlines()[0])
+    parser.add_argument("--build", default="build/gcc", help="build folder, up to date and with tests (default: %(default)s)")
+    parser.add_argument("--files", nargs="+", default=["*"], metavar="PATTERN",
+                        help='files of src/ to change, such as "*/hosts.cpp"')
+    parser.add_argument("--sample", type=int, metavar="N", help="try N of the mutants only")
+    parser.add_argument("--seed", type=int, default=1, help="which N (default: %(default)s)")
+    parser.add_argument("--jobs", type=int, default=1, help="mutants tried at a time (default: %(default)s)")
+    parser.add_argument("--list", action="store_true", help="list the mutants and what is known of them, try none")
+    parser.add_argument("--fresh", action="store_true", help="forget earlier results")
+    parser.add_argument("--equivalents", action="store_true",
+                        help="try those that are listed as equivalent too: none may be noticed")
+    return parser.parse_args()
+
+
+def main():
+    given = arguments()
+    signal.signal(signal.SIGTERM, lambda number, frame: sys.exit(128 + number))
+    sources = Sources(ROOT)
+    build = Build((ROOT / given.build).resolve(), sources)
+    if not build.is_current():
+        sys.exit("%s is not up to date: cmake --build it first" % given.build)
+    suites = Suites(build, sources)
+    folder = build.folder.parent / "mutate"
+    if given.sample is not None:
+        folder = build.folder / "mutate"  # so that a test and a full run can stand beside each other
+    folder.mkdir(parents=True, exist_ok=True)
+    results = Results(folder / "results.json", sources, suites)
+    if given.fresh or given.sample is not None:
+        results.known = {}
+
+    every = [mutant for file in sources.files for mutant in mutants(file, sources.text[file])]
+    equivalents = Equivalents(ROOT / "tests/mutation/equivalent.txt", every)
+    chosen = [mutant for mutant in every if any(fnmatch.fnmatch(mutant.file, pattern) for pattern in given.files)]
+    if given.equivalents:
+        chosen = [mutant for mutant in chosen if mutant in equivalents]
+    elif given.sample is not None:
+        chosen = [mutant for mutant in chosen if mutant not in equivalents]
+        chosen = sorted(random.Random(given.seed).sample(chosen, min(given.sample, len(chosen))))
+    if given.list:
+        for mutant in chosen:
+            status = "equivalent" if mutant in equivalents else results.of(mutant) or "untried"
+            print("%-10s %s" % (status, shown(mutant)))
+        return 0
+
+    waiting = [mutant for mutant in chosen if results.of(mutant) is None
+               and (given.equivalents or mutant not in equivalents)]
+    started = time.monotonic()
+    try:
+        try_all(waiting, suites, given.jobs, folder, results)
+    finally:
+        results.save()
+    if given.equivalents:
+        noticed = [mutant for mutant in chosen if results.of(mutant) == "killed"]
+        for mutant in noticed:
+            print("listed as equivalent, but noticed: " + shown(mutant))
+        print("%d listed as equivalent, %d of them noticed" % (len(chosen), len(noticed)))
+        return 1 if noticed else 0
+    return report(chosen, results, equivalents, len(waiting), time.monotonic() - started, given)
+
+
+def report(chosen, results, equivalents, tried, seconds, given):
+    counts = {}
+    survivors = []
+    for mutant in chosen:
+        status = "equivalent" if mutant in equivalents else results.of(mutant)
+        counts[status] = counts.get(status, 0) + 1
+        if status == "survived":
+            survivors.append(mutant)
+    killed = counts.get("killed", 0)
+    counted = killed + len(survivors)
+    score = 100.0 * killed / counted if counted else 100.0
+    if survivors:
+        print("Survivors:")
+    for mutant in survivors:
+        print(shown(mutant))
+    print("%d mutants (%d tried now, in %.0f s): %d do not build, %d give the same object code, %d are listed as "
+          "equivalent" % (len(chosen), tried, seconds, counts.get("broken", 0), counts.get("same", 0),
+                          counts.get("equivalent", 0)))
+    print("killed %d of %d: %.2f %%" % (killed, counted, score))
+    if given.sample is not None:
+        return 1 if survivors else 0
+    stale = equivalents.stale(given.files)
+    for entry in stale:
+        print("no such mutant any more: " + entry)
+    return 1 if score < LEAST_SCORE or stale else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,112 @@
+"""The tests that judge a changed library, the likeliest to notice first."""
+
+import ctypes
+import os
+import pathlib
+import re
+import resource
+import signal
+import subprocess
+
+LIBC = ctypes.CDLL(None)
+DIE_WITH_PARENT = 1
+
+# Files whose own program has another name.
+PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test",
+            "search": "search_test", "assertion": "parameter_check_test"}
+# A program that compares times: with a limit of processor time that time is counted in coarse ticks, and a busy
+# machine may make it fail, so that a failure counts when it repeats itself.
+TIMED = {"subnets_test"}
+EVERY_VECTOR = ("vectors_test", "*")
+
+
+class Suites:
+    """Suites are pairs of a program and a filter of its tests."""
+
+    def __init__(self, build, sources):
+        self.build = build
+        self.sources = sources
+        self.vectors = {path.stem for path in (sources.root / "vectors").glob("*.ndjson")}
+        self.checks = {check for module in self.vectors for check in re.findall(
+            r'"check": "(\w+)"', (sources.root / "vectors" / (module + ".ndjson")).read_text())}
+        self.programs = {path.name for path in (build.folder / "bin").glob("*_test")}
+        self.programs &= {program for file in sources.files for program in self.programs_of(file)}
+
+    @staticmethod
+    def programs_of(file):
+        path = pathlib.PurePath(file)
+        programs = [path.stem + "_test", path.parent.name + "_test"]
+        if path.stem in PROGRAMS:
+            programs.insert(0, PROGRAMS[path.stem])
+        if path.parent.name == "wlan_check":
+            programs.append("host_test")
+        return programs
+
+    def own(self, file):
+        """own gives those that bear the name of the file or of its folder."""
+        path = pathlib.PurePath(file)
+        found = [("vectors_test", "vectors_%s.*" % name) for name in (path.stem, path.parent.name)
+                 if name in self.vectors]
+        found.extend((name, "*") for name in self.programs_of(file) if name in self.programs)
+        return list(dict.fromkeys(found))
+
+    def nearest(self, mutant):
+        """nearest gives the vectors of the exported function in which the change stands."""
+        return [("vectors_test", suite[1].replace("*", mutant.function + "_line_*")) for suite in self.own(mutant.file)
+                if suite[0] == "vectors_test" and mutant.function in self.checks]
+
+    def of(self, file):
+        """of gives those that can notice a change of the file."""
+        found = self.own(file)
+        users = self.sources.dependent(file)
+        if len(users) > 12:
+            found.append(EVERY_VECTOR)
+            found.extend((name, "*") for name in sorted(self.programs) if (name, "*") not in found)
+        for user in users:
+            for suite in self.own(user):
+                if suite not in found and (suite[0] != "vectors_test" or EVERY_VECTOR not in found):
+                    found.append(suite)
+        return found
+
+    def passes(self, suite, workshop, seconds, library=None):
+        """passes tells whether all tests pass within that much processor time."""
+        tries = 3 if suite[0] in TIMED else 1
+        return any(self.run(suite, workshop, seconds, library) for _ in range(tries))
+
+    def run(self, suite, workshop, seconds, library):
+        program, tests = suite
+        own = workshop.folder / "bin" / program
+        path = own if own.exists() else self.build.folder / "bin" / program
+        environment = dict(os.environ, LD_LIBRARY_PATH=str(library or workshop.folder / "lib"))
+
+        def limit():
+            LIBC.prctl(DIE_WITH_PARENT, signal.SIGKILL)
+            if program not in TIMED:
+                resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds + 1))
+            resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+            resource.setrlimit(resource.RLIMIT_FSIZE, (1 << 29, 1 << 29))
+
+        module = re.match(r"vectors_(\w+)\.", tests)
+        process = subprocess.Popen(
+            [str(path), *(module.groups() if module else ()), "--gtest_fail_fast", "--gtest_brief=1", "--gtest_filter=" + tests],
+            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, env=environment,
+            cwd=workshop.folder / "cwd", start_new_session=True, preexec_fn=limit)
+        try:
+            return process.wait(timeout=20 + 10 * seconds) == 0
+        except subprocess.TimeoutExpired:
+            return False
+        finally:
+            try:
+                os.killpg(process.pid, signal.SIGKILL)
+            except ProcessLookupError:
+                pass
+            process.wait()
+
+    def measure(self, suite, workshop):
+        """measure gives the limit for a suite: five times the processor time that it takes with the library as it is."""
+        before = resource.getrusage(resource.RUSAGE_CHILDREN)
+        if not self.passes(suite, workshop, 300, self.build.folder / "lib"):
+            raise SystemExit("%s %s fails with the library as it is" % suite)
+        after = resource.getrusage(resource.RUSAGE_CHILDREN)
+        used = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+        return 2 + int(5 * used)
