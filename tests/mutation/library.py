@@ -78,17 +78,20 @@ class Build:
         linker = ["-fuse-ld=gold"] if shutil.which("ld.gold") else []
         return [word for word in words if word not in (":", "&&")] + linker
 
-    def is_current(self):
-        return "no work to do" in run(["ninja", "-C", str(self.folder), "-n"]).stdout
+    def bring_up_to_date(self, programs):
+        """bring_up_to_date builds what the tests need, as a rule nothing."""
+        done = run(["ninja", "-C", str(self.folder), "lib/" + LIBRARY, *("bin/" + name for name in programs)])
+        if done.returncode != 0:
+            raise SystemExit(done.stdout + done.stderr)
 
     def object_of(self, file):
         return self.folder / OBJECTS / (file.removeprefix("src/") + ".o")
 
     def compiled_in(self, file):
         """compiled_in gives the test programs into which a source of the library is compiled once more."""
-        suffix = "__/__/%s.o" % file
-        return [path.parts[-6 if file.count("/") == 2 else -5].removesuffix(".dir")
-                for path in self.folder.glob("tests/*/CMakeFiles/*.dir/" + suffix)]
+        objects = self.folder.glob("tests/**/CMakeFiles/*.dir/__/__/%s.o" % file)
+        names = {re.search(r"CMakeFiles/(\w+)\.dir/", str(path)).group(1) for path in objects}
+        return sorted(name for name in names if name.endswith("_test") and (self.folder / "bin" / name).exists())
 
 
 class Workshop:

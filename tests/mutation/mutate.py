@@ -148,7 +148,7 @@ def shown(mutant):
 
 def arguments():
     parser = argparse.ArgumentParser(prog="scripts/mutate", description=__doc__.splitlines()[0])
-    parser.add_argument("--build", default="build/gcc", help="build folder, up to date and with tests (default: %(default)s)")
+    parser.add_argument("--build", default="build/gcc", help="build folder, with tests (default: %(default)s)")
     parser.add_argument("--files", nargs="+", default=["*"], metavar="PATTERN",
                         help='files of src/ to change, such as "*/hosts.cpp"')
     parser.add_argument("--sample", type=int, metavar="N", help="try N of the mutants only")
@@ -166,9 +166,8 @@ def main():
     signal.signal(signal.SIGTERM, lambda number, frame: sys.exit(128 + number))
     sources = Sources(ROOT)
     build = Build((ROOT / given.build).resolve(), sources)
-    if not build.is_current():
-        sys.exit("%s is not up to date: cmake --build it first" % given.build)
     suites = Suites(build, sources)
+    build.bring_up_to_date(sorted(suites.programs))
     folder = build.folder.parent / "mutate"
     if given.sample is not None:
         folder = build.folder / "mutate"  # so that a test and a full run can stand beside each other

@@ -31,6 +31,7 @@ class Suites:
             r'"check": "(\w+)"', (sources.root / "vectors" / (module + ".ndjson")).read_text())}
         self.programs = {path.name for path in (build.folder / "bin").glob("*_test")}
         self.programs &= {program for file in sources.files for program in self.programs_of(file)}
+        self.programs.add("vectors_test")
 
     @staticmethod
     def programs_of(file):
