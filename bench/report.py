@@ -12,16 +12,18 @@ import sys
 import goals
 
 LIMITS = ("reading", "strlen")
+ORDER = ("ipv4", "mac", "host", "url", "email", "account", "date_time", "printable", "password", "number", "own_set_8",
+         "own_set_16", "own_set_32", "own_set_64", "own_digits_8", "keyword", "rates", "dns_servers", "reservations")
 NOISY = 0.10  # quartiles further apart than this share of the median tell too little
 
 
 def quartiles(samples):
     low, median, high = statistics.quantiles(samples, n=4, method="inclusive")
-    return median, (high - low) / median
+    return median, (high - low) / median, min(samples)
 
 
 def read_times(path):
-    """Gives {family: {shape: {contender: (median ns per value, spread, bytes per second, allocations)}}}."""
+    """Gives {family: {shape: {contender: (median ns per value, spread, least, bytes per second, allocations)}}}."""
     with open(path, encoding="utf-8") as file:
         rows = [row for row in json.load(file)["benchmarks"] if row["run_type"] == "iteration"]
     samples = collections.defaultdict(list)
@@ -34,7 +36,15 @@ def read_times(path):
         rate = statistics.median(row["bytes_per_second"] for row in repetitions)
         table.setdefault(family, {}).setdefault(shape, {})[contender] = (
             *quartiles(times), rate, repetitions[0]["allocations"])
-    return table
+    return {family: table[family] for family in sorted(table, key=ORDER.index)}
+
+
+def ratio_to(ours, other):
+    """Gives how many times as long the other takes: by the medians, or by the least disturbed repetitions if noise
+    makes the medians tell nothing."""
+    if max(ours[1], other[1]) <= NOISY:
+        return other[0] / ours[0]
+    return other[2] / ours[2]
 
 
 def judged(family, peer, ratio):
@@ -56,27 +66,30 @@ def judged(family, peer, ratio):
 def print_tables(table, instructions):
     noisy = 0
     for shape in ("valid", "refused_first", "refused_last", "hostile"):
+        if not any(shape in shapes for shapes in table.values()):
+            continue
         print(f"\n== {shape} values\n")
-        print(f"{'family':13}{'contender':13}{'ns/value':>9}{'spread':>8}{'MB/s':>8}{'alloc':>7}{'instr':>8}"
+        print(f"{'family':13}{'contender':13}{'ns/value':>9}{'spread':>8}{'least':>9}{'MB/s':>8}{'alloc':>7}{'instr':>8}"
               f"{'x ours':>8}  goal")
         for family, shapes in table.items():
             if shape not in shapes:
                 continue
             row = shapes[shape]
-            ours = row["ours"][0]
+            ours = row["ours"]
             order = ["ours", *LIMITS, *sorted(peer for peer in row if peer != "ours" and peer not in LIMITS)]
             for contender in order:
-                time, spread, rate, allocations = row[contender]
+                time, spread, least, rate, allocations = row[contender]
+                ratio = ratio_to(ours, row[contender])
                 count = instructions.get(f"{family}/{shape}/{contender}")
                 mark = "~" if spread > NOISY else " "
                 noisy += spread > NOISY
-                goal = judged(family, contender, time / ours) if shape == "valid" and contender != "ours" else ""
-                print(f"{family if contender == 'ours' else '':13}{contender:13}{time:9.1f}{100 * spread:6.1f}%{mark}"
+                goal = judged(family, contender, ratio) if shape == "valid" and contender != "ours" else ""
+                print(f"{family if contender == 'ours' else '':13}{contender:13}{time:9.1f}{100 * spread:6.1f}%{mark}{least:9.1f}"
                       f"{rate / 1e6:8.0f}{allocations:7.1f}{count if count is None else round(count)!s:>8}"
-                      f"{time / ours:8.2f}  {goal}".replace("None", "   -"))
+                      f"{ratio:8.2f}  {goal}".replace("None", "   -"))
     if noisy:
         print(f"\n~ in {noisy} rows the quartiles are more than {100 * NOISY:.0f} % of the median apart: the machine "
-              "was too noisy to tell anything by them.")
+              "was too noisy to tell by their medians. Their ratios are those of the least disturbed repetitions.")
 
 
 def draw(table, path):
@@ -85,8 +98,8 @@ def draw(table, path):
     bars = []
     for family in shown:
         row = table[family]["valid"]
-        peers = sorted((peer for peer in row if peer not in ("ours", "strlen")), key=lambda peer: row[peer][0])
-        bars.append((family, [(peer, row[peer][0] / row["ours"][0]) for peer in peers]))
+        peers = sorted((peer for peer in row if peer not in ("ours", "strlen")), key=lambda peer: ratio_to(row["ours"], row[peer]))
+        bars.append((family, [(peer, ratio_to(row["ours"], row[peer])) for peer in peers]))
     longest = 20  # times our time; what takes longer is cut off and says so
     left, width, step, gap = 190, 460, 15, 14
     lines = []
