@@ -4,6 +4,7 @@
 #include <ostrel/subnets.h>
 
 #include <cstdlib>
+#include <cstring>
 
 #include "primitives/addresses.h"
 #include "support/search.h"
@@ -119,7 +120,8 @@ using namespace ostrel;
 
 int isInSameSubnet(const char* reference, const char* address)
 {
-    return starts_with(address, subnet_of(reference)) ? OSTREL_VALID : OSTREL_INVALID;
+    const std::string_view subnet = subnet_of(reference);
+    return std::strncmp(address, subnet.data(), subnet.size()) == 0 ? OSTREL_VALID : OSTREL_INVALID;
 }
 
 int TcmValidateAddressRange(const char* startAddress, const char* endAddress, const char* lanAddress)

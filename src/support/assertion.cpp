@@ -6,6 +6,7 @@
 // also claims to be glibc.
 extern "C" {
 #if defined(__UCLIBC__)
+// NOLINTNEXTLINE(readability-redundant-declaration)  it is redundant where NDEBUG is not defined
 void __assert(const char* condition, const char* file, int line, const char* function);
 #elif defined(__GLIBC__)
 [[noreturn]] void __assert_fail(const char* condition, const char* file, unsigned line, const char* function);

@@ -6,7 +6,7 @@
 extern "C" {
 #endif
 
-void __assert(const char* assertion, const char* filename, int linenumber, const char* function);
+void __assert(const char* condition, const char* file, int line, const char* function);
 
 #ifdef __cplusplus
 }

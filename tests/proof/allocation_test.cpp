@@ -274,9 +274,11 @@ void report(const char* what, std::size_t calls, const Counts& allowed)
 
 TEST(Allocation, AWatchedRequestIsSeenAndNamed)
 {
+    // A call that the compiler knows could not change what is watched, in its eyes.
+    char* (*volatile duplicate)(const char*) = strdup;
     watch.count = 0;
     watch.on = true;
-    char* copy = strdup("text");
+    char* copy = duplicate("text");
     watch.on = false;
     std::free(copy);  // NOLINT(cppcoreguidelines-no-malloc)
     ASSERT_EQ(1, watch.count);

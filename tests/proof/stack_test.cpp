@@ -228,7 +228,7 @@ class Stack : public testing::Test {
 int needs_a_thousand_bytes(const char* value)
 {
     volatile char room[1000];
-    room[0] = value[0];
+    for (volatile char& byte : room) byte = value[0];
     return room[0];
 }
 
