@@ -28,4 +28,9 @@ if(OSTREL_BUILD_TOOLS)
     file(RELATIVE_PATH library_folder /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
     set_target_properties(ostrel-check PROPERTIES INSTALL_RPATH "$ORIGIN/${library_folder}")
     install(TARGETS ostrel-check RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    install(FILES docs/ostrel-check.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+    install(FILES packaging/completion/ostrel-check.bash RENAME ostrel-check
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools)
+    install(FILES packaging/completion/_ostrel-check
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT tools)
 endif()

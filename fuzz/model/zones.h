@@ -1,4 +1,4 @@
-// Zones: the time-zone table once more.
+// Zones: the time-zone table as hosts know it, for the models and for tests of the library's own.
 #ifndef OSTREL_FUZZ_MODEL_ZONES_H
 #define OSTREL_FUZZ_MODEL_ZONES_H
 

@@ -45,7 +45,9 @@ class Install(unittest.TestCase):
     def test_components_hold_what_they_say(self):
         (library,) = install(self.scratch / "runtime", "runtime")
         self.assertEqual("libostrel_check.so", os.path.basename(library))
-        self.assertEqual({"bin/ostrel-check"}, install(self.scratch / "tools", "tools"))
+        self.assertEqual({"bin/ostrel-check", "share/man/man1/ostrel-check.1",
+                          "share/bash-completion/completions/ostrel-check",
+                          "share/zsh/site-functions/_ostrel-check"}, install(self.scratch / "tools", "tools"))
         development = install(self.scratch / "development", "development")
         headers = {name for name in development if name.startswith("include/")}
         sources = CONSUMER.parents[2] / "include"

@@ -10,10 +10,13 @@
 #include <vector>
 
 #include "catalogue/capture.h"
+#include "fuzz/model/zones.h"
 #include "src/time_check/time_zone_table.h"
-#include "tests/time_check/zone_rows.h"
 
 namespace ostrel::tests {
+
+using model::kZones;
+using model::Zone;
 
 namespace {
 
@@ -80,10 +83,10 @@ int validate(const std::string& tzone, const std::string& name) { return validat
 TEST(TimeZoneTable, HoldsEachRowVerbatimAndInOrder)
 {
     const std::vector<Row> rows = built_in_rows();
-    ASSERT_EQ(std::size(kZoneRows), rows.size());
+    ASSERT_EQ(std::size(kZones), rows.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        EXPECT_EQ(kZoneRows[i].offset, rows[i].offset) << i;
-        EXPECT_EQ(kZoneRows[i].name, rows[i].name) << i;
+        EXPECT_EQ(kZones[i].offset, rows[i].offset) << i;
+        EXPECT_EQ(kZones[i].name, rows[i].name) << i;
     }
 }
 
@@ -118,7 +121,7 @@ TEST(TimeZoneTable, HasItsProperties)
 // listed.
 TEST(TimeZoneLookups, KnowEachRowVerbatim)
 {
-    for (const ZoneRow& row : kZoneRows) {
+    for (const Zone& row : kZones) {
         EXPECT_EQ(0, validate(row.offset, row.name));
         for (int byte = 1; byte < 256; ++byte) {
             const std::string more(1, static_cast<char>(byte));
@@ -131,12 +134,12 @@ TEST(TimeZoneLookups, KnowEachRowVerbatim)
 
 TEST(TimeZoneLookups, FillInTheFirstRowAndNothingBeyondTheTerminator)
 {
-    for (const ZoneRow& row : kZoneRows) {
+    for (const Zone& row : kZones) {
         const auto* first = std::ranges::find_if(
-            kZoneRows, [&](const ZoneRow& other) { return std::strcmp(other.offset, row.offset) == 0; });
+            kZones, [&](const Zone& other) { return std::strcmp(other.offset, row.offset) == 0; });
         EXPECT_EQ(0, validate(row.offset, "", row.offset, first->name));
         const auto* holder = std::ranges::find_if(
-            kZoneRows, [&](const ZoneRow& other) { return std::strstr(other.name, row.name) != nullptr; });
+            kZones, [&](const Zone& other) { return std::strstr(other.name, row.name) != nullptr; });
         EXPECT_EQ(0, validate("", row.name, holder->offset, row.name));
     }
 }
@@ -144,12 +147,12 @@ TEST(TimeZoneLookups, FillInTheFirstRowAndNothingBeyondTheTerminator)
 // Every part of every offset finds the first row that holds it.
 TEST(TimeZoneLookups, FindPartsOfOffsets)
 {
-    for (const ZoneRow& row : kZoneRows) {
+    for (const Zone& row : kZones) {
         const std::string offset = row.offset;
         for (std::size_t begin = 0; begin < offset.size(); ++begin) {
             for (std::size_t length = 1; begin + length <= offset.size(); ++length) {
                 const std::string part = offset.substr(begin, length);
-                const auto* first = std::ranges::find_if(kZoneRows, [&](const ZoneRow& other) {
+                const auto* first = std::ranges::find_if(kZones, [&](const Zone& other) {
                     return std::string(other.offset).find(part) != std::string::npos;
                 });
                 EXPECT_EQ(0, validate(part, "", part, first->name)) << part;

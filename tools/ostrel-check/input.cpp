@@ -20,6 +20,7 @@ void Input::complain(int error)
     std::string message = "ostrel-check: cannot read ";
     append_escaped(message, (*files_)[next_ - 1], kLongestLine);
     message.append(": ").append(std::generic_category().message(error)).append("\n");
+    message.append("Give the path of a file that can be read, or - for standard input.\n");
     say(message);
     ++unreadable_files_;
 }

@@ -142,7 +142,9 @@ TEST(Batch, SeveralFilesAreHeadedAndMissingOnesNamed)
                   "By family and code:\n  parameters  accepted: 3\n"
                   "3 cases: 3 accepted, 0 refused; 1 unreadable file\n",
               outcome.out);
-    EXPECT_EQ("ostrel-check: cannot read /nowhere/x: No such file or directory\n", outcome.err);
+    EXPECT_EQ("ostrel-check: cannot read /nowhere/x: No such file or directory\n"
+              "Give the path of a file that can be read, or - for standard input.\n",
+              outcome.err);
 }
 
 TEST(Batch, EmptyInputIsNoCase)
