@@ -115,6 +115,56 @@ TEST(Batch, MalformedLinesAreNamedAndTheRestGoesOn)
     EXPECT_EQ(11, rows[13]["summary"]["malformed"]);
 }
 
+// The common form is read without a document in between; what differs from it must not be judged otherwise.
+TEST(Batch, EveryFormOfACaseInJson)
+{
+    struct Form {
+        const char* line;
+        const char* verdict;
+        const char* meaning;  // or "", where others choose the words
+    };
+    const std::vector<Form> forms = {
+        {R"({"check": "PARAM_check_port", "args": ["80"]})", "accepted", "valid"},
+        {R"( { "args" : [ "80" ] , "check" : "PARAM_check_port" } )", "accepted", "valid"},
+        {R"({"check": "PARAM_check_port", "args": ["80"], "why": ["one", {"of": "these"}]})", "accepted",
+         "valid"},
+        {R"({"check": "PARAM_check_port", "args": ["65536"], "args": ["80"]})", "accepted", "valid"},
+        {R"({"check": "PARAM_check_port", "args": ["80"], "args": ["65536"]})", "refused", "out of range"},
+        {R"({"check": "nonesuch", "check": "PARAM_check_port", "args": ["80"]})", "accepted", "valid"},
+        {R"({"check": "TcmValidatePort", "check": "PARAM_check_port", "args": ["0"]})", "accepted", "valid"},
+        {R"({"check": "PARAM_check_port", "args": [{"join": ["8", "0"]}]})", "accepted", "valid"},
+        {R"({"check": "PARAM_check_port", "args": ["\u0038\u0030"]})", "accepted", "valid"},
+        {R"({"check": "TcmValidatePPPPassword", "args": ["caf\u00e9"]})", "accepted", "valid"},
+        {R"({"check": "TcmValidatePPPPassword", "args": ["\u20ac"]})", "malformed",
+         "a text holds a character above U+00FF, which is no byte"},
+        {R"({"check": "countChar", "args": ["a,b", 44]})", "answer", ""},
+        {R"({"check": "countChar", "args": ["a,b", -212]})", "answer", ""},
+        {R"({"check": "countChar", "args": ["a,b", 4294967296]})", "malformed",
+         "a number is above 4294967295"},
+        {R"({"check": "PARAM_check_port", "args": [true]})", "malformed", ""},
+        {R"({"check": "PARAM_check_port", "args": [80.0]})", "malformed", ""},
+        {R"({"check": "PARAM_check_port", "args": ["80", "1", "2", "3", "4"]})", "malformed",
+         "no check takes that many arguments"},
+        {R"({"check": "PARAM_check_port", "args": "80"})", "malformed", R"("args" must be an array)"},
+        {R"({"check": ["PARAM_check_port"], "args": ["80"]})", "malformed",
+         R"("check" must be the name of a check)"},
+        {R"({"args": ["80"]})", "malformed", R"("check" must be the name of a check)"},
+        {R"({"check": "PARAM_check_port"})", "malformed", R"("args" must be an array)"},
+        {R"({})", "malformed", R"("check" must be the name of a check)"},
+        {R"({"check": "PARAM_check_port", "args": ["80"]} x)", "malformed", ""},
+        {"{\"check\": \"PARAM_check_port\", \"args\": [\"\xFF\"]}", "malformed", ""},
+    };
+    std::string lines;
+    for (const Form& form : forms) lines.append(form.line).append("\n");
+    const std::vector<json> rows = run_batch(lines);
+    ASSERT_EQ(forms.size() + 1, rows.size());
+    for (std::size_t i = 0; i < forms.size(); ++i) {
+        EXPECT_EQ(forms[i].verdict, rows[i]["verdict"]) << forms[i].line;
+        if (*forms[i].meaning == '\0') continue;
+        EXPECT_EQ(forms[i].meaning, rows[i]["meaning"]) << forms[i].line;
+    }
+}
+
 TEST(Batch, JsonThatDescribesTooMuchIsMalformed)
 {
     std::string deep = R"({"check": "PARAM_check_port", "args": [)";
@@ -142,9 +192,10 @@ TEST(Batch, SeveralFilesAreHeadedAndMissingOnesNamed)
                   "By family and code:\n  parameters  accepted: 3\n"
                   "3 cases: 3 accepted, 0 refused; 1 unreadable file\n",
               outcome.out);
-    EXPECT_EQ("ostrel-check: cannot read /nowhere/x: No such file or directory\n"
-              "Give the path of a file that can be read, or - for standard input.\n",
-              outcome.err);
+    EXPECT_EQ(
+        "ostrel-check: cannot read /nowhere/x: No such file or directory\n"
+        "Give the path of a file that can be read, or - for standard input.\n",
+        outcome.err);
 }
 
 TEST(Batch, EmptyInputIsNoCase)
