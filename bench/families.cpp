@@ -87,7 +87,7 @@ std::string reservations(Random& random)
 }
 
 // repeated gives a hostile value: a piece made again and again.
-auto repeated(std::string head, std::string (*piece)(Random&), std::string between)
+auto repeated(const std::string& head, std::string (*piece)(Random&), const std::string& between)
 {
     return [=](Random& random, std::size_t length) {
         std::string text = head + piece(random);
