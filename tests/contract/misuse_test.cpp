@@ -26,11 +26,7 @@ using catalogue::Value;
 
 namespace {
 
-#ifdef __SANITIZE_ADDRESS__  // each byte costs many times as much, and is watched as well
-constexpr std::size_t kLong = std::size_t{64} << 10;
-#else
-constexpr std::size_t kLong = std::size_t{1} << 20;
-#endif
+constexpr std::size_t kLong = OSTREL_LONGEST_TEXT;
 constexpr std::chrono::seconds kLimit(120);
 
 std::vector<std::string> make_hostile_texts()
