@@ -11,11 +11,22 @@ using nlohmann::json;
 
 namespace {
 
+// A few bytes of JSON can describe a very long text, or nest very deeply.
+constexpr std::size_t kLongestText = std::size_t{16} << 20;
+constexpr int kDeepest = 8;
+constexpr std::size_t kMostArguments = 4;
+constexpr std::size_t kMostBlocks = 16;
+constexpr json::number_unsigned_t kLargestNumber = 0xFFFFFFFF;
+
+bool is_ascii(std::string_view text)
+{
+    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 // bytes_from_utf8 is the reverse of utf8_from_bytes. The JSON parser has already refused malformed UTF-8.
 std::string bytes_from_utf8(const std::string& text)
 {
-    const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-    if (std::ranges::all_of(text, is_ascii)) return text;
+    if (is_ascii(text)) return text;
     std::string bytes;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto lead = static_cast<unsigned char>(text[i]);
@@ -29,12 +40,6 @@ std::string bytes_from_utf8(const std::string& text)
     }
     return bytes;
 }
-
-// A few bytes of JSON can describe a very long text, or nest very deeply.
-constexpr std::size_t kLongestText = std::size_t{16} << 20;
-constexpr int kDeepest = 8;
-constexpr std::size_t kMostArguments = 4;
-constexpr std::size_t kMostBlocks = 16;
 
 void require_room(std::size_t size)
 {
@@ -80,6 +85,74 @@ void append_text(std::string& result, const json& text, int depth)
     }
 }
 
+// PlainCase hears a plain case from the parser. Whatever else it hears, an error included, it answers with false,
+// which ends the parsing.
+class PlainCase {
+ public:
+    explicit PlainCase(std::vector<Value>& values) : values_(&values) {}
+
+    [[nodiscard]] const Function* function() const { return function_; }
+
+    bool start_object(std::size_t /*size*/) { return enter(Place::kOutside, Place::kMembers); }
+    bool end_object() { return function_ != nullptr && has_args_; }
+    bool start_array(std::size_t /*size*/) { return enter(Place::kArgs, Place::kArguments); }
+    bool end_array() { return enter(Place::kArguments, Place::kMembers); }
+
+    bool key(const std::string& name)
+    {
+        if (name == "check" && function_ == nullptr) return enter(Place::kMembers, Place::kCheck);
+        if (name != "args" || has_args_) return false;
+        has_args_ = true;
+        return enter(Place::kMembers, Place::kArgs);
+    }
+
+    bool string(const std::string& text)
+    {
+        if (place_ != Place::kCheck) return is_ascii(text) && add(text);
+        function_ = find(text);
+        return function_ != nullptr && enter(Place::kCheck, Place::kMembers);
+    }
+
+    bool null() { return add(nullptr); }
+    bool number_integer(json::number_integer_t number) { return add(static_cast<long long>(number)); }
+    bool number_unsigned(json::number_unsigned_t number)
+    {
+        return number <= kLargestNumber && add(static_cast<long long>(number));
+    }
+
+    static bool boolean(bool /*value*/) { return false; }
+    static bool number_float(json::number_float_t /*number*/, const std::string& /*text*/) { return false; }
+    static bool binary(const json::binary_t& /*bytes*/) { return false; }
+    static bool parse_error(std::size_t /*position*/, const std::string& /*last*/,
+                            const json::exception& /*error*/)
+    {
+        return false;
+    }
+
+ private:
+    enum class Place { kOutside, kMembers, kCheck, kArgs, kArguments };
+
+    bool enter(Place from, Place to)
+    {
+        if (place_ != from) return false;
+        place_ = to;
+        return true;
+    }
+
+    template <typename Part>
+    bool add(const Part& part)
+    {
+        if (place_ != Place::kArguments || values_->size() == kMostArguments) return false;
+        values_->emplace_back(part);
+        return true;
+    }
+
+    Place place_ = Place::kOutside;
+    const Function* function_ = nullptr;
+    std::vector<Value>* values_;
+    bool has_args_ = false;
+};
+
 std::size_t edit_distance(std::string_view a, std::string_view b)
 {
     const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
@@ -122,7 +195,7 @@ std::string text_from_json(const json& text)
 Value value_from_json(const json& value)
 {
     if (value.is_null()) return nullptr;
-    if (value.is_number_unsigned() && value.get<unsigned long long>() > 0xFFFFFFFFULL) {
+    if (value.is_number_unsigned() && value.get<json::number_unsigned_t>() > kLargestNumber) {
         throw std::invalid_argument("a number is above 4294967295");
     }
     if (value.is_number_integer()) return value.get<long long>();
@@ -166,6 +239,15 @@ Case case_from_json(const json& row)
     if (args->size() > kMostArguments) throw std::invalid_argument("no check takes that many arguments");
     for (const json& arg : *args) result.values.push_back(value_from_json(arg));
     return result;
+}
+
+const Function* read_plain_case(std::string_view text, std::vector<Value>& values)
+{
+    values.clear();
+    PlainCase plain(values);
+    if (json::sax_parse(text, &plain)) return plain.function();
+    values.clear();
+    return nullptr;
 }
 
 std::string unknown_function(std::string_view name)

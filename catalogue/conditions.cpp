@@ -12,7 +12,8 @@ std::string_view text_of(std::span<const Value> values, std::size_t argument)
 {
     if (argument >= values.size()) return {};
     const auto* text = std::get_if<std::string>(&values[argument]);
-    return text == nullptr ? std::string_view() : std::string_view(*text);
+    if (text == nullptr) return {};
+    return *text;
 }
 
 int number_of(std::span<const Value> values, std::size_t argument)
@@ -99,7 +100,7 @@ Test outside_argument(std::size_t set, std::size_t argument)
     };
 }
 
-Test fails(Rule rule, std::size_t argument)
+Test fails(const Rule& rule, std::size_t argument)
 {
     return [=](std::span<const Value> values) -> Fault {
         const bool is_text =
@@ -115,7 +116,7 @@ Test none_of(std::initializer_list<std::string_view> keywords, std::size_t argum
     });
 }
 
-Test when(std::function<bool(std::span<const Value> values)> holds)
+Test when(const std::function<bool(std::span<const Value> values)>& holds)
 {
     return [=](std::span<const Value> values) -> Fault {
         if (!holds(values)) return std::nullopt;
@@ -123,7 +124,7 @@ Test when(std::function<bool(std::span<const Value> values)> holds)
     };
 }
 
-Test both(Test first, Test second)
+Test both(const Test& first, const Test& second)
 {
     return [=](std::span<const Value> values) -> Fault {
         if (!first(values)) return std::nullopt;

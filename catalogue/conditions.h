@@ -44,10 +44,10 @@ Test longer_than(std::size_t bytes, std::size_t argument = 0);
 Test outside(std::string_view set, std::size_t argument = 0);  // a byte that is not in the set
 Test begins_outside(std::string_view set, std::size_t argument = 0);
 Test outside_argument(std::size_t set, std::size_t argument);  // the set is an argument too
-Test fails(Rule rule, std::size_t argument = 0);
+Test fails(const Rule& rule, std::size_t argument = 0);
 Test none_of(std::initializer_list<std::string_view> keywords, std::size_t argument = 0);
-Test when(std::function<bool(std::span<const Value> values)> holds);
-Test both(Test first, Test second);
+Test when(const std::function<bool(std::span<const Value> values)>& holds);
+Test both(const Test& first, const Test& second);
 
 // The rules that texts are judged by. Each gives the first fault that decides.
 Fault outside_of(std::string_view text, std::string_view set);

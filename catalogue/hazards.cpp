@@ -64,7 +64,7 @@ class Trial {
         for (const Hazard& hazard : hazards()) {
             Places places;
             for (const char c : hazard.bytes) {
-                const unsigned char byte = static_cast<unsigned char>(c);
+                const auto byte = static_cast<unsigned char>(c);
                 places.first |= first_[byte];
                 places.inside |= inside_[byte];
                 places.last |= last_[byte];
@@ -82,7 +82,7 @@ class Trial {
                argument.kind == Kind::kIntegerOut;
     }
 
-    std::vector<std::string*> texts_of(std::vector<Value>& values)
+    std::vector<std::string*> texts_of(std::vector<Value>& values) const
     {
         return catalogue::texts_of(values[argument_]);
     }
@@ -142,7 +142,7 @@ class Trial {
     void note(const std::string& text)
     {
         for (std::size_t i = 0; i < text.size(); ++i) {
-            const unsigned char byte = static_cast<unsigned char>(text[i]);
+            const auto byte = static_cast<unsigned char>(text[i]);
             if (i == 0) first_[byte] = true;
             if (i + 1 == text.size()) last_[byte] = true;
             if (i > 0 && i + 1 < text.size()) inside_[byte] = true;
@@ -232,7 +232,7 @@ std::string describe(const Places& places)
 
 bool may_be_called(const Function& function, const std::vector<Value>& values)
 {
-    const auto* text = values.empty() ? nullptr : std::get_if<std::string>(&values[0]);
+    const auto* text = values.empty() ? nullptr : std::get_if<std::string>(values.data());
     if (function.name == "PARAM_check_ui2_value" || function.name == "PARAM_check_ui4_value") {
         return text != nullptr && (text->empty() || text->front() < '0' || text->front() > '9');
     }

@@ -30,7 +30,7 @@ bool needs_more_than_text(const Code& code)
 {
     return std::ranges::any_of(
         std::array{"driver", "2.4 GHz", "model M2840", "overflows"},
-        [&](const char* mark) { return code.condition.find(mark) != code.condition.npos; });
+        [&](const char* mark) { return code.condition.find(mark) != std::string_view::npos; });
 }
 
 class Entry : public testing::TestWithParam<const Function*> {

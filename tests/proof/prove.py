@@ -109,10 +109,6 @@ def main(names):
     row = "%-32s | %-34s | %-7s | %s"
     print(row % ("promise", "measure", "", "figure"), flush=True)
     for proof in chosen:
-        command = pathlib.Path(proof.steps[0].command[0])
-        if not proof.presets and not command.exists():
-            print(row % (proof.promise, proof.measure, "-", "scripts/%s is not there" % command.name))
-            continue
         with open(REPORTS / (proof.name + ".txt"), "a", encoding="utf-8") as report:
             figures, holds = run(proof, report)
         print(row % (proof.promise, proof.measure, "holds" if holds else "FAILS", "; ".join(figures)), flush=True)

@@ -61,12 +61,12 @@ class Host : public testing::Test {
     }
 };
 
-const Comparison kModel = {"M2840", "M2840"};
+Comparison model() { return {"M2840", "M2840"}; }
 
 TEST_F(Host, ComparesTheModel)
 {
     EXPECT_EQ(OSTREL_VALID, WLAN_check_radio_id("RADIO_5GHz"));
-    EXPECT_EQ(std::vector{kModel}, comparisons);
+    EXPECT_EQ(std::vector{model()}, comparisons);
 }
 
 TEST_F(Host, DecidesAboutTheModel)
@@ -86,7 +86,7 @@ TEST_F(Host, ComparesTheSettingsOfTheSecurityTypeAndStopsAtTheFirstThatDiffers)
     EXPECT_EQ((std::vector<Comparison>{{"0", "0"}, {"auto", "auto"}}), comparisons);
     comparisons.clear();
     EXPECT_EQ(OSTREL_VALID, WLAN_check_HNAP_SecurityType("0", "x", "WEP-OPEN", "WEP-64"));
-    EXPECT_EQ((std::vector<Comparison>{{"0", "0"}, {"x", "auto"}, kModel}), comparisons);
+    EXPECT_EQ((std::vector<Comparison>{{"0", "0"}, {"x", "auto"}, model()}), comparisons);
 }
 
 TEST_F(Host, DecidesAboutTheSettings)

@@ -55,7 +55,7 @@ std::vector<Value> widest(const Function& function)
 bool never_returns(const Function& function, const std::vector<Value>& values)
 {
     if (function.name != "PARAM_check_ui2_value" && function.name != "PARAM_check_ui4_value") return false;
-    const auto* text = std::get_if<std::string>(&values[0]);
+    const auto* text = std::get_if<std::string>(values.data());
     return text != nullptr && !text->empty() && text->front() >= '0' && text->front() <= '9';
 }
 

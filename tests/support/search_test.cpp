@@ -42,11 +42,11 @@ void expect_agreement(std::size_t longest_text, std::size_t longest_part, char l
     }
 }
 
-TEST(Search, agrees_on_every_text_of_two_letters) { expect_agreement(11, 7, 'b'); }
+TEST(Search, AgreesOnEveryTextOfTwoLetters) { expect_agreement(11, 7, 'b'); }
 
-TEST(Search, agrees_on_every_text_of_three_letters) { expect_agreement(7, 5, 'c'); }
+TEST(Search, AgreesOnEveryTextOfThreeLetters) { expect_agreement(7, 5, 'c'); }
 
-TEST(Search, compares_bytes_of_either_sign)
+TEST(Search, ComparesBytesOfEitherSign)
 {
     EXPECT_TRUE(contains("\x7F\x80\xFF\x01", "\x80\xFF"));
     EXPECT_FALSE(contains("\x7F\x80\xFF\x01", "\xFF\x80"));
@@ -67,7 +67,7 @@ std::vector<std::string> hostile_texts(std::size_t size)
     return {std::string(size, 'a'), pairs, blocks, fibonacci};
 }
 
-TEST(Search, takes_linear_time_on_hostile_texts)
+TEST(Search, TakesLinearTimeOnHostileTexts)
 {
     constexpr std::size_t kSize = 1 << 20;
     const auto start = std::chrono::steady_clock::now();

@@ -1,6 +1,7 @@
 #include "explain.h"
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 
 #include "catalogue/case.h"
@@ -149,8 +150,7 @@ void write_examples(Page& page, const Study& study)
         const bool is_accepted = example.code == 0;
         const std::string code = std::to_string(example.code);
         page.item(words, !study.function->is_verdict ? code : is_accepted ? "accepted" : "refused, " + code);
-        for (const std::string_view printed :
-             {std::string_view(example.out), std::string_view(example.err)}) {
+        for (const std::string_view printed : std::array<std::string_view, 2>{example.out, example.err}) {
             std::string line;
             for (const char c : printed) {
                 if (c == '\n') {

@@ -11,7 +11,6 @@
 
 namespace ostrel::tool {
 
-using catalogue::Argument;
 using catalogue::Function;
 using catalogue::Kind;
 using catalogue::Row;

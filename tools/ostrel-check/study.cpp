@@ -9,7 +9,6 @@
 
 namespace ostrel::tool {
 
-using catalogue::Argument;
 using catalogue::Function;
 using catalogue::Kind;
 using catalogue::Row;
