@@ -56,8 +56,7 @@ void write_dictionary(const std::filesystem::path& file, const std::set<std::str
     }
 }
 
-void make_seeds(const Target& target, const std::vector<tests::VectorCase>& cases,
-                const std::filesystem::path& out)
+void make_seeds(const Target& target, const std::vector<tests::Row>& rows, const std::filesystem::path& out)
 {
     const Judge judge(target);
     const std::filesystem::path folder = out / target.name;
@@ -65,8 +64,8 @@ void make_seeds(const Target& target, const std::vector<tests::VectorCase>& case
     std::set<std::string> words;
     std::string list;
     std::size_t count = 0;
-    for (const tests::VectorCase& one : cases) {
-        const catalogue::Case& given = one.given;
+    for (const tests::Row& row : rows) {
+        const catalogue::Case& given = row.given;
         const auto input = judge.encode(*given.function, given.values);
         if (!input) continue;
         add_words(given, words);
@@ -89,9 +88,8 @@ int main(int argc, char** argv)
         return 2;
     }
     try {
-        const auto rows = ostrel::tests::read_rows();
-        const auto cases = ostrel::tests::read_cases(rows);
-        for (const auto& target : ostrel::fuzz::targets()) ostrel::fuzz::make_seeds(target, cases, argv[1]);
+        const auto rows = ostrel::tests::read_cases();
+        for (const auto& target : ostrel::fuzz::targets()) ostrel::fuzz::make_seeds(target, rows, argv[1]);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "fuzz_seeds: %s\n", error.what());
         return 1;

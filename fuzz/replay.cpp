@@ -67,12 +67,12 @@ void run(Judge& judge, std::string_view input, Tally& tally)
     }
 }
 
-std::vector<std::string> gather(Judge& judge, const Target& target,
-                                const std::vector<tests::VectorCase>& vectors, const Options& options,
-                                Tally& tally)
+std::vector<std::string> gather(Judge& judge, const Target& target, const std::vector<tests::Row>& vectors,
+                                const Options& options, Tally& tally)
 {
     std::vector<std::string> inputs;
-    for (const auto& [row, given] : vectors) {
+    for (const tests::Row& row : vectors) {
+        const catalogue::Case& given = row.given;
         auto input = judge.encode(*given.function, given.values);
         if (!input) continue;
         if (!judge.decodes(*input, *given.function, given.values)) {
@@ -90,7 +90,7 @@ std::vector<std::string> gather(Judge& judge, const Target& target,
     return inputs;
 }
 
-Tally replay(const Target& target, const std::vector<tests::VectorCase>& vectors, const Options& options)
+Tally replay(const Target& target, const std::vector<tests::Row>& vectors, const Options& options)
 {
     Tally tally;
     Judge judge(target);
@@ -141,8 +141,7 @@ Options read_options(int argc, char** argv)
 
 bool run_all(const Options& options)
 {
-    const auto rows = tests::read_rows();
-    const auto vectors = tests::read_cases(rows);
+    const auto vectors = tests::read_cases();
     require_targets();
     bool good = true;
     for (const Target& target : targets()) {

@@ -29,7 +29,7 @@ class VectorTest : public testing::Test {
     {
         if (!row_.fault.empty()) FAIL() << row_.fault;
         if (!applies_here(row_)) GTEST_SKIP() << "depends on how atoi overflows";
-        const Case given = catalogue::case_from_json(row_.json);
+        const Case& given = row_.given;
         for (const Edge edge : {Edge::kEnd, Edge::kBegin}) {
             Caller caller(edge);
             caller.load(*given.function, given.values);
@@ -51,7 +51,7 @@ void register_row(const Row& row)
 {
     const std::string suite = "vectors_" + row.file.stem().string();
     std::string name = "line_" + std::to_string(row.line);
-    if (row.fault.empty()) name = row.json["check"].get<std::string>() + "_" + name;
+    if (row.fault.empty()) name = std::string(row.given.function->name) + "_" + name;
     testing::RegisterTest(suite.c_str(), name.c_str(), nullptr, row.text.substr(0, 200).c_str(),
                           row.file.c_str(), row.line,
                           [row]() -> testing::Test* { return new VectorTest(row); });

@@ -289,18 +289,17 @@ TEST(Allocation, AWatchedRequestIsSeenAndNamed)
 
 TEST(Allocation, NoneInAnyVector)
 {
-    const std::vector<Row> rows = read_rows();
-    const std::vector<VectorCase> cases = read_cases(rows);
+    const std::vector<Row> rows = read_cases();
     Counts allowed;
     Caller caller;
-    for (const VectorCase& one : cases) {
+    for (const Row& row : rows) {
         Counts forbidden;
-        caller.load(*one.given.function, one.given.values);
+        caller.load(*row.given.function, row.given.values);
         count_requests(caller, allowed, forbidden);
-        EXPECT_EQ(Counts(), forbidden) << one.row->text.substr(0, 200);
+        EXPECT_EQ(Counts(), forbidden) << row.text.substr(0, 200);
     }
     EXPECT_NE(0, allowed[std::string("vprintf by ") + kStreamBuffer]);
-    report("vectors", cases.size(), allowed);
+    report("vectors", rows.size(), allowed);
 }
 
 TEST(Allocation, NoneForLongValues)

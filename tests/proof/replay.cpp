@@ -22,13 +22,13 @@ using namespace ostrel;
 using namespace ostrel::tests;
 
 // is_as_promised runs the case at the edge, and says so where the outcome is another.
-bool is_as_promised(const VectorCase& one, catalogue::Caller& caller, catalogue::Capture& capture)
+bool is_as_promised(const Row& row, catalogue::Caller& caller, catalogue::Capture& capture)
 {
-    caller.load(*one.given.function, one.given.values);
-    const Outcome expected = expected_outcome(*one.row, caller.written());
+    caller.load(*row.given.function, row.given.values);
+    const Outcome expected = expected_outcome(row, caller.written());
     const Outcome actual = actual_outcome(caller, capture);
     if (actual == expected) return true;
-    std::cerr << one.row->file.filename().string() << ':' << one.row->line << ": promised";
+    std::cerr << row.file.filename().string() << ':' << row.line << ": promised";
     PrintTo(expected, &std::cerr);
     std::cerr << "but was";
     PrintTo(actual, &std::cerr);
@@ -39,10 +39,9 @@ bool is_as_promised(const VectorCase& one, catalogue::Caller& caller, catalogue:
 
 int main(int argc, char** argv)
 {
-    const std::vector<Row> rows = read_rows();
-    std::vector<VectorCase> cases = read_cases(rows);
+    std::vector<Row> rows = read_cases();
     const std::size_t longest = argc > 2 ? std::stoul(argv[2]) : std::numeric_limits<std::size_t>::max();
-    std::erase_if(cases, [longest](const VectorCase& one) { return longest_text(one.given) > longest; });
+    std::erase_if(rows, [longest](const Row& row) { return longest_text(row.given) > longest; });
     const char* locale = argc > 1 ? argv[1] : "C";
     if (std::setlocale(LC_ALL, locale) == nullptr) {
         std::cerr << "the locale " << locale << " is not known; LOCPATH holds the ones that the tests made\n";
@@ -52,13 +51,13 @@ int main(int argc, char** argv)
     catalogue::Capture capture;
     catalogue::Caller at_end(catalogue::Edge::kEnd);
     catalogue::Caller at_begin(catalogue::Edge::kBegin);
-    for (const VectorCase& one : cases) {
-        if (!is_as_promised(one, at_end, capture)) ++failures;
-        if (!is_as_promised(one, at_begin, capture)) ++failures;
+    for (const Row& row : rows) {
+        if (!is_as_promised(row, at_end, capture)) ++failures;
+        if (!is_as_promised(row, at_begin, capture)) ++failures;
     }
     // A locale that changes nothing would prove nothing.
     std::cout << "locale " << locale << ": characters of up to " << MB_CUR_MAX << " bytes, decimal "
               << std::localeconv()->decimal_point << ", lower I is " << std::tolower('I') << "\n"
-              << cases.size() << " rows, " << failures << " failures\n";
+              << rows.size() << " rows, " << failures << " failures\n";
     return failures == 0 ? 0 : 1;
 }

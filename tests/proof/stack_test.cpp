@@ -189,8 +189,7 @@ class Stack : public testing::Test {
 
     void measure_vectors()
     {
-        const std::vector<Row> rows = read_rows();
-        for (const VectorCase& one : read_cases(rows)) measure(*one.given.function, one.given.values);
+        for (const Row& row : read_cases()) measure(*row.given.function, row.given.values);
         measure(*catalogue::find("WLAN_check_channel"), {std::string("6"), std::string("RADIO_2.4GHz")});
     }
 

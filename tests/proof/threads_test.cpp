@@ -88,35 +88,27 @@ class Redirected {
     int saved_ = -1;
 };
 
-// Expected is a case with what it promises, made before any thread runs.
+// Expected is a row with what it promises, made before any thread runs.
 struct Expected {
-    const VectorCase* one;
-    int code;
-    std::string out;
-    std::string err;
-    std::vector<catalogue::Value> after;
+    const Row* row;
+    Outcome outcome;
 };
 
-Expected expected_of(const VectorCase& one)
+Expected expected_of(const Row& row)
 {
     Caller caller;
-    caller.load(*one.given.function, one.given.values);
-    Outcome outcome = expected_outcome(*one.row, caller.written());
-    Expected expected{&one, outcome.code, std::move(outcome.out), std::move(outcome.err), {}};
-    for (const nlohmann::json& value : outcome.after) {
-        expected.after.push_back(catalogue::value_from_json(value));
-    }
-    return expected;
+    caller.load(*row.given.function, row.given.values);
+    return {&row, expected_outcome(row, caller.written())};
 }
 
-bool asks_the_driver(const VectorCase& one)
+bool asks_the_driver(const Row& row)
 {
-    if (one.given.function->name != "WLAN_check_channel") return false;
-    return one.given.values[0] != catalogue::Value(std::string("0")) &&
-           one.row->text.find("2.4") != std::string::npos;
+    if (row.given.function->name != "WLAN_check_channel") return false;
+    return row.given.values[0] != catalogue::Value(std::string("0")) &&
+           row.text.find("2.4") != std::string::npos;
 }
 
-bool is_as_promised(const Expected& expected, const std::vector<catalogue::Written>& written, int code)
+bool is_as_promised(const Outcome& expected, const std::vector<catalogue::Written>& written, int code)
 {
     return code == expected.code &&
            std::ranges::equal(written, expected.after, {}, &catalogue::Written::value);
@@ -128,8 +120,8 @@ std::size_t judge_all(const std::vector<Expected>& all, std::size_t thread)
     std::size_t wrong = 0;
     Caller caller;
     for (std::size_t i = 0; i < all.size(); ++i) {
-        const Expected& expected = all[(i + thread * all.size() / kThreads) % all.size()];
-        caller.load(*expected.one->given.function, expected.one->given.values);
+        const auto& [row, expected] = all[(i + thread * all.size() / kThreads) % all.size()];
+        caller.load(*row->given.function, row->given.values);
         const int code = caller.call();
         if (!is_as_promised(expected, caller.written(), code)) ++wrong;
     }
@@ -179,17 +171,17 @@ std::size_t limit_of_texts()
 struct Vectors {
     Vectors()
     {
-        for (const VectorCase& one : cases) {
-            if (longest_text(one.given) > limit_of_texts() || asks_the_driver(one)) continue;
-            Expected expected = expected_of(one);
-            if (expected.out.empty() && expected.err.empty()) silent.push_back(expected);
-            const bool is_whole = expected.out.empty() || expected.out.back() == '\n';
+        for (const Row& row : rows) {
+            if (longest_text(row.given) > limit_of_texts() || asks_the_driver(row)) continue;
+            Expected expected = expected_of(row);
+            const auto& [code, out, err, flushed, after] = expected.outcome;
+            if (out.empty() && err.empty()) silent.push_back(expected);
+            const bool is_whole = out.empty() || out.back() == '\n';
             (is_whole ? whole : broken).push_back(std::move(expected));
         }
     }
 
-    std::vector<Row> rows = read_rows();
-    std::vector<VectorCase> cases = read_cases(rows);
+    std::vector<Row> rows = read_cases();
     std::vector<Expected> whole;   // what prints whole lines or nothing
     std::vector<Expected> broken;  // the others
     std::vector<Expected> silent;  // what prints nothing
@@ -219,8 +211,8 @@ class Threads : public testing::Test {
         Pieces expected_out;
         Pieces expected_err;
         for (const Expected& one : all) {
-            add(expected_out, one.out, kThreads);
-            add(expected_err, one.err, kThreads);
+            add(expected_out, one.outcome.out, kThreads);
+            add(expected_err, one.outcome.err, kThreads);
         }
         Pieces actual_out;
         Pieces actual_err;
@@ -243,7 +235,7 @@ TEST_F(Threads, JudgeEveryVectorThatPrintsNothing) { judge(vectors().silent, add
 
 TEST_F(Threads, JudgeEveryVectorThatPrintsACharacter)
 {
-    for (const Expected& one : vectors().broken) EXPECT_EQ(1, one.out.size()) << one.one->row->text;
+    for (const Expected& one : vectors().broken) EXPECT_EQ(1, one.outcome.out.size()) << one.row->text;
     judge(vectors().broken, add_bytes);
 }
 

@@ -2,27 +2,43 @@
 
 #include <algorithm>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <set>
 #include <stdexcept>
 
 namespace ostrel::tests {
 
+using catalogue::Value;
 using catalogue::Written;
 using nlohmann::json;
 
 namespace {
 
-std::string fault_of(const json& row)
+void require_known_members(const json& row)
 {
     static const std::set<std::string> kKnown = {"check", "args",    "code",     "out", "err",
                                                  "after", "flushed", "overflow", "why"};
     for (const auto& member : row.items()) {
-        if (!kKnown.contains(member.key())) return "unknown member " + member.key();
+        if (!kKnown.contains(member.key())) throw std::invalid_argument("unknown member " + member.key());
     }
-    if (!row.contains("code")) return "no code";
-    catalogue::case_from_json(row);
-    return "";
+    if (!row.contains("code")) throw std::invalid_argument("no code");
+}
+
+void read(const json& json_row, Row& row)
+{
+    require_known_members(json_row);
+    row.given = catalogue::case_from_json(json_row);
+    row.promised.code = json_row["code"].get<int>();
+    row.promised.out = catalogue::text_from_json(json_row.value("out", json("")));
+    row.promised.err = catalogue::text_from_json(json_row.value("err", json("")));
+    row.promised.flushed = json_row.value("flushed", true);
+    row.overflows = json_row.value("overflow", false);
+    row.is_written = json_row.contains("after");
+    if (!row.is_written) return;
+    for (const json& value : json_row["after"]) {
+        row.promised.after.push_back(catalogue::value_from_json(value));
+    }
 }
 
 void append_file(std::vector<Row>& rows, const std::filesystem::path& path)
@@ -32,24 +48,27 @@ void append_file(std::vector<Row>& rows, const std::filesystem::path& path)
     std::set<std::string> seen;
     for (int number = 1; std::getline(file, line); ++number) {
         if (line.empty()) continue;
-        Row row{path, number, line, {}, ""};
+        Row& row = rows.emplace_back();
+        row.file = path;
+        row.line = number;
+        row.text = line;
         try {
-            row.json = json::parse(line);
-            row.fault = fault_of(row.json);
-            const std::string call = row.json["check"].dump() + row.json["args"].dump();
+            const json read_row = json::parse(line);
+            read(read_row, row);
+            const std::string call = read_row["check"].dump() + read_row["args"].dump();
             if (!seen.insert(call).second) row.fault = "the same call stands in an earlier line";
         } catch (const std::exception& error) {
             row.fault = error.what();
         }
-        rows.push_back(std::move(row));
     }
 }
 
-json after_of(const std::vector<Written>& written)
+std::vector<Value> values_of(const std::vector<Written>& written)
 {
-    json after = json::array();
-    for (const Written& one : written) after.push_back(catalogue::json_from_value(one.value));
-    return after;
+    std::vector<Value> values;
+    values.reserve(written.size());
+    for (const Written& one : written) values.push_back(one.value);
+    return values;
 }
 
 }  // namespace
@@ -70,23 +89,21 @@ std::vector<Row> read_rows(const std::set<std::string>& modules)
 bool applies_here(const Row& row)
 {
 #if defined(__GLIBC__) && !defined(__UCLIBC__)
-    return !row.json.value("overflow", false) || sizeof(long) == 8;
+    return !row.overflows || sizeof(long) == 8;
 #else
-    return !row.json.value("overflow", false);
+    return !row.overflows;
 #endif
 }
 
-std::vector<VectorCase> read_cases(const std::vector<Row>& rows)
+std::vector<Row> read_cases()
 {
-    std::vector<VectorCase> cases;
+    std::vector<Row> rows = read_rows();
     for (const Row& row : rows) {
-        if (!row.fault.empty()) {
-            throw std::invalid_argument(row.file.string() + ":" + std::to_string(row.line) + ": " +
-                                        row.fault);
-        }
-        if (applies_here(row)) cases.push_back({&row, catalogue::case_from_json(row.json)});
+        if (row.fault.empty()) continue;
+        throw std::invalid_argument(row.file.string() + ":" + std::to_string(row.line) + ": " + row.fault);
     }
-    return cases;
+    std::erase_if(rows, [](const Row& row) { return !applies_here(row); });
+    return rows;
 }
 
 std::size_t longest_text(const catalogue::Case& given)
@@ -110,26 +127,17 @@ std::string shown(const std::string& text)
 
 void PrintTo(const Outcome& outcome, std::ostream* stream)
 {
+    json after = json::array();
+    for (const Value& value : outcome.after) after.push_back(catalogue::json_from_value(value));
     *stream << "\n  code    " << outcome.code << "\n  out     " << shown(outcome.out) << "\n  flushed "
             << std::boolalpha << outcome.flushed << "\n  err     " << shown(outcome.err) << "\n  after   "
-            << shown(outcome.after.dump()) << "\n";
+            << shown(after.dump()) << "\n";
 }
 
 Outcome expected_outcome(const Row& row, const std::vector<Written>& before)
 {
-    const json& given = row.json;
-    Outcome expected;
-    expected.code = given.at("code").get<int>();
-    if (given.contains("out")) expected.out = catalogue::text_from_json(given["out"]);
-    if (given.contains("err")) expected.err = catalogue::text_from_json(given["err"]);
-    expected.flushed = given.value("flushed", true);
-    expected.after = after_of(before);
-    if (given.contains("after")) {
-        expected.after = json::array();
-        for (const json& value : given["after"]) {
-            expected.after.push_back(catalogue::json_from_value(catalogue::value_from_json(value)));
-        }
-    }
+    Outcome expected = row.promised;
+    if (!row.is_written) expected.after = values_of(before);
     return expected;
 }
 
@@ -141,7 +149,7 @@ Outcome actual_outcome(catalogue::Caller& caller, catalogue::Capture& capture)
     outcome.flushed = printed.flushed == printed.out.size();
     outcome.out = std::move(printed.out);
     outcome.err = std::move(printed.err);
-    outcome.after = after_of(caller.written());
+    outcome.after = values_of(caller.written());
     return outcome;
 }
 
