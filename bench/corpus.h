@@ -32,7 +32,10 @@ class Random {
 
     bool one_in(unsigned n) { return next() % n == 0; }
 
-    char one_of(std::string_view members) { return members[static_cast<std::size_t>(next() % members.size())]; }
+    char one_of(std::string_view members)
+    {
+        return members[static_cast<std::size_t>(next() % members.size())];
+    }
 
  private:
     std::uint64_t state_;

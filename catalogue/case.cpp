@@ -1,5 +1,7 @@
 #include "catalogue/case.h"
 
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
 #include <algorithm>
 #include <nlohmann/json.hpp>
 #include <numeric>
@@ -85,49 +87,41 @@ void append_text(std::string& result, const json& text, int depth)
     }
 }
 
-// PlainCase hears a plain case from the parser. Whatever else it hears, an error included, it answers with false,
-// which ends the parsing.
-class PlainCase {
+// PlainCase hears a plain case from the parser. Whatever else it hears it answers with false, which ends the
+// parsing.
+class PlainCase : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, PlainCase> {
  public:
     explicit PlainCase(std::vector<Value>& values) : values_(&values) {}
 
     [[nodiscard]] const Function* function() const { return function_; }
 
-    bool start_object(std::size_t /*size*/) { return enter(Place::kOutside, Place::kMembers); }
-    bool end_object() { return function_ != nullptr && has_args_; }
-    bool start_array(std::size_t /*size*/) { return enter(Place::kArgs, Place::kArguments); }
-    bool end_array() { return enter(Place::kArguments, Place::kMembers); }
+    static bool Default() { return false; }
+    bool StartObject() { return enter(Place::kOutside, Place::kMembers); }
+    bool EndObject(rapidjson::SizeType /*members*/) { return function_ != nullptr && has_args_; }
+    bool StartArray() { return enter(Place::kArgs, Place::kArguments); }
+    bool EndArray(rapidjson::SizeType /*elements*/) { return enter(Place::kArguments, Place::kMembers); }
 
-    bool key(const std::string& name)
+    bool Key(const char* begin, rapidjson::SizeType size, bool /*copy*/)
     {
+        const std::string_view name(begin, size);
         if (name == "check" && function_ == nullptr) return enter(Place::kMembers, Place::kCheck);
         if (name != "args" || has_args_) return false;
         has_args_ = true;
         return enter(Place::kMembers, Place::kArgs);
     }
 
-    bool string(const std::string& text)
+    bool String(const char* begin, rapidjson::SizeType size, bool /*copy*/)
     {
-        if (place_ != Place::kCheck) return is_ascii(text) && add(text);
+        const std::string_view text(begin, size);
+        if (place_ != Place::kCheck) return is_ascii(text) && add(std::string(text));
         function_ = find(text);
         return function_ != nullptr && enter(Place::kCheck, Place::kMembers);
     }
 
-    bool null() { return add(nullptr); }
-    bool number_integer(json::number_integer_t number) { return add(static_cast<long long>(number)); }
-    bool number_unsigned(json::number_unsigned_t number)
-    {
-        return number <= kLargestNumber && add(static_cast<long long>(number));
-    }
-
-    static bool boolean(bool /*value*/) { return false; }
-    static bool number_float(json::number_float_t /*number*/, const std::string& /*text*/) { return false; }
-    static bool binary(const json::binary_t& /*bytes*/) { return false; }
-    static bool parse_error(std::size_t /*position*/, const std::string& /*last*/,
-                            const json::exception& /*error*/)
-    {
-        return false;
-    }
+    bool Null() { return add(nullptr); }
+    bool Int(int number) { return add(static_cast<long long>(number)); }
+    bool Uint(unsigned number) { return add(static_cast<long long>(number)); }
+    bool Int64(std::int64_t number) { return add(static_cast<long long>(number)); }
 
  private:
     enum class Place { kOutside, kMembers, kCheck, kArgs, kArguments };
@@ -140,10 +134,10 @@ class PlainCase {
     }
 
     template <typename Part>
-    bool add(const Part& part)
+    bool add(Part&& part)
     {
         if (place_ != Place::kArguments || values_->size() == kMostArguments) return false;
-        values_->emplace_back(part);
+        values_->emplace_back(std::forward<Part>(part));
         return true;
     }
 
@@ -245,7 +239,9 @@ const Function* read_plain_case(std::string_view text, std::vector<Value>& value
 {
     values.clear();
     PlainCase plain(values);
-    if (json::sax_parse(text, &plain)) return plain.function();
+    rapidjson::MemoryStream stream(text.data(), text.size());
+    const bool is_plain = !rapidjson::Reader().Parse(stream, plain).IsError() && stream.Tell() == text.size();
+    if (is_plain) return plain.function();
     values.clear();
     return nullptr;
 }

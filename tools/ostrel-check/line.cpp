@@ -36,10 +36,13 @@ void require_shallow(std::string_view text)
 
 void Line::read_json(std::string_view line)
 {
-    // Without a document in between, a batch takes two thirds of the time.
+    // Errors are worded by the one parser below; what is plain takes a fraction of the time without it.
     function_ = catalogue::read_plain_case(line, values_);
     if (function_ != nullptr) return;
     require_shallow(line);
+    // To the parser it would be the end.
+    if (line.find('\0') != std::string_view::npos)
+        throw std::invalid_argument("no valid JSON: it holds a NUL");
     json row;
     try {
         row = json::parse(line);

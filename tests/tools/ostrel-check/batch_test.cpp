@@ -119,7 +119,7 @@ TEST(Batch, MalformedLinesAreNamedAndTheRestGoesOn)
 TEST(Batch, EveryFormOfACaseInJson)
 {
     struct Form {
-        const char* line;
+        std::string_view line;
         const char* verdict;
         const char* meaning;  // or "", where others choose the words
     };
@@ -152,6 +152,18 @@ TEST(Batch, EveryFormOfACaseInJson)
         {R"({"check": "PARAM_check_port"})", "malformed", R"("args" must be an array)"},
         {R"({})", "malformed", R"("check" must be the name of a check)"},
         {R"({"check": "PARAM_check_port", "args": ["80"]} x)", "malformed", ""},
+        {{"{\"check\": \"PARAM_check_port\", \"args\": [\"80\"]}\0x", 47},
+         "malformed",
+         "no valid JSON: it holds a NUL"},
+        {R"({"check": "PARAM_check_port", "args": ["80)", "malformed", ""},
+        {R"({"check": "PARAM_check_port", "args": ["80",]})", "malformed", ""},
+        {R"({"check": "PARAM_check_port", "args": ["8	0"]})", "malformed", ""},
+        {R"({"check": "PARAM_check_port", "args": [["80"]]})", "malformed", ""},
+        {R"({"check": "countChar", "args": ["a,b", 044]})", "malformed", ""},
+        {R"({"check": "countChar", "args": ["a,b", 4.4e1]})", "malformed", ""},
+        {R"({"check": "countChar", "args": ["a,b", -0]})", "answer", ""},
+        {R"({"check": "countChar", "args": ["a,b", -9223372036854775808]})", "malformed", ""},
+        {R"({"check": "countChar", "args": ["a,b", 99999999999999999999]})", "malformed", ""},
         {"{\"check\": \"PARAM_check_port\", \"args\": [\"\xFF\"]}", "malformed", ""},
     };
     std::string lines;
