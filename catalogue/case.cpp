@@ -1,7 +1,7 @@
 #include "catalogue/case.h"
 
-#include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
+#include <rapidjson/stream.h>
 #include <algorithm>
 #include <nlohmann/json.hpp>
 #include <numeric>
@@ -239,9 +239,10 @@ const Function* read_plain_case(std::string_view text, std::vector<Value>& value
 {
     values.clear();
     PlainCase plain(values);
-    rapidjson::MemoryStream stream(text.data(), text.size());
-    const bool is_plain = !rapidjson::Reader().Parse(stream, plain).IsError() && stream.Tell() == text.size();
-    if (is_plain) return plain.function();
+    std::string copy(text);  // decoded in place, since the parser's stack for texts adds to a null pointer
+    rapidjson::InsituStringStream stream(copy.data());
+    const auto parsed = rapidjson::Reader().Parse<rapidjson::kParseInsituFlag>(stream, plain);
+    if (!parsed.IsError() && stream.Tell() == text.size()) return plain.function();
     values.clear();
     return nullptr;
 }
