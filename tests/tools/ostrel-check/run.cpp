@@ -7,6 +7,7 @@
 
 #include <array>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 namespace ostrel::tool {

@@ -2,7 +2,7 @@
 #ifndef OSTREL_TESTS_RUN_H
 #define OSTREL_TESTS_RUN_H
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <ostream>
 #include <string>
 #include <string_view>

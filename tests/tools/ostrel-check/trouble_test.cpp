@@ -6,6 +6,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <nlohmann/json.hpp>
 #include <string>
 
 #include "run.h"
