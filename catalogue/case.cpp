@@ -119,6 +119,7 @@ class PlainCase : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, PlainCa
     }
 
     bool Null() { return add(nullptr); }
+    // A number above 4294967295 comes as another kind, and is not plain.
     bool Int(int number) { return add(static_cast<long long>(number)); }
     bool Uint(unsigned number) { return add(static_cast<long long>(number)); }
     bool Int64(std::int64_t number) { return add(static_cast<long long>(number)); }
