@@ -31,17 +31,21 @@ std::FILE* open_stream(Prints::Text& text, int buffering)
     return stream;
 }
 
-Prints* map_prints()
+// own_prints is kept for the next capture: to map and to touch new memory takes longer than most calls.
+Prints& own_prints()
 {
-    void* memory = mmap(nullptr, sizeof(Prints), PROT_READ | PROT_WRITE,
-                        MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-    if (memory == MAP_FAILED) throw std::bad_alloc();
-    return static_cast<Prints*>(memory);
+    static Prints* const prints = [] {
+        void* memory = mmap(nullptr, sizeof(Prints), PROT_READ | PROT_WRITE,
+                            MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        if (memory == MAP_FAILED) throw std::bad_alloc();
+        return static_cast<Prints*>(memory);
+    }();
+    return *prints;
 }
 
 }  // namespace
 
-Capture::Capture() : Capture(*map_prints()) { owned_ = prints_; }
+Capture::Capture() : Capture(own_prints()) {}
 
 Capture::Capture(Prints& prints)
     : prints_(&prints),
@@ -62,7 +66,6 @@ Capture::~Capture()
     stderr = saved_err_;
     std::fclose(stream_out_);
     std::fclose(stream_err_);
-    if (owned_ != nullptr) munmap(owned_, sizeof *owned_);
 }
 
 void Capture::clear()

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <set>
 #include <string>
 #include <utility>
@@ -30,8 +31,9 @@ class VectorTest : public testing::Test {
         if (!row_.fault.empty()) FAIL() << row_.fault;
         if (!applies_here(row_)) GTEST_SKIP() << "depends on how atoi overflows";
         const Case& given = row_.given;
-        for (const Edge edge : {Edge::kEnd, Edge::kBegin}) {
-            Caller caller(edge);
+        // Their memory serves all rows.
+        static std::array<Caller, 2> callers = {Caller(Edge::kEnd), Caller(Edge::kBegin)};
+        for (Caller& caller : callers) {
             caller.load(*given.function, given.values);
             const Outcome expected = expected_outcome(row_, caller.written());
             Outcome actual;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -26,16 +27,32 @@ using catalogue::Value;
 
 namespace {
 
-constexpr std::size_t kLong = OSTREL_LONGEST_TEXT;
+constexpr std::size_t kShort = std::size_t{1} << 12;
+
+// long_size is a megabyte, or what OSTREL_LONGEST_TEXT in the environment says.
+std::size_t long_size()
+{
+    const char* limit = std::getenv("OSTREL_LONGEST_TEXT");  // NOLINT(concurrency-mt-unsafe)
+    return limit != nullptr ? std::stoul(limit) : std::size_t{1} << 20;
+}
 constexpr std::chrono::seconds kLimit(120);
 
 std::vector<std::string> make_hostile_texts()
 {
     std::vector<std::string> texts;
-    for (int byte = 0x80; byte <= 0xFF; ++byte) texts.emplace_back(kLong, static_cast<char>(byte));
+    const std::size_t size = long_size();
+    std::string high;
+    for (int byte = 0x80; byte <= 0xFF; ++byte) {
+        texts.emplace_back(kShort, static_cast<char>(byte));
+        high += static_cast<char>(byte);
+    }
+    for (const std::string_view part :
+         {std::string_view(high), std::string_view("\x80"), std::string_view("\xff")}) {
+        texts.push_back(repeated(part, size));
+    }
     for (const std::string_view part : {"%s%n", "%n", "%1000000$s", "a", "0", ",", ".", ":", "-", "@", "#",
                                         "/", "&#", "1,", "1.", "aa:", "/,", " "}) {
-        texts.push_back(repeated(part, kLong));
+        texts.push_back(repeated(part, size));
     }
     for (const char* text :
          {"%s%n", "%s%s%s%s%s%s%s%s%n", "%", "%%", "%*d", "%99999999d", "\x7f", "\x80", "\xff"}) {

@@ -58,10 +58,10 @@ def proofs():
         Step([replay, name], r"(?m)^locale (\S+):", {"LOCPATH": str(GCC / "locales")}) for name in LOCALES])
     for folder in (GCC, CLANG):
         preset = folder.name
-        yield Proof("assertions", "assertions and endless calls", preset + ", each variant", [preset], [
+        yield Proof("assertions", "assertions and endless calls", preset + ", each variant", ["gcc", preset], [
             ctest(folder, r"(^|\.)(assertions|parameter_check|lan_check|mgtserver_check|port_mapping_check|"
                           r"wlan_check)_test(\.|$)")])
-        yield Proof("file", "the finished file", preset + ", each variant", [preset],
+        yield Proof("file", "the finished file", preset + ", each variant", ["gcc", preset],
                     [ctest(folder, r"(^|\.)shared_object(\.|$)")])
     # These stand in scripts of their own.
     yield Proof("coverage", "every line and branch is tested", "coverage", [], [script("coverage")])

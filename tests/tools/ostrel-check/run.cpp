@@ -6,11 +6,18 @@
 #include <unistd.h>
 
 #include <array>
+#include <cstdlib>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
 namespace ostrel::tool {
+
+std::string program()
+{
+    const char* other = std::getenv("OSTREL_CHECK");  // NOLINT(concurrency-mt-unsafe)
+    return other != nullptr ? other : OSTREL_CHECK;
+}
 
 void PrintTo(const Outcome& outcome, std::ostream* stream)
 {
@@ -22,7 +29,7 @@ Outcome run(std::vector<std::string> arguments, std::string_view input)
     const File in(input);
     const File out("");
     const File err("");
-    arguments.insert(arguments.begin(), OSTREL_CHECK);
+    arguments.insert(arguments.begin(), program());
     std::vector<char*> argv;
     argv.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) argv.push_back(argument.data());
@@ -32,7 +39,7 @@ Outcome run(std::vector<std::string> arguments, std::string_view input)
         dup2(open(in.path().c_str(), O_RDONLY | O_CLOEXEC), STDIN_FILENO);
         dup2(open(out.path().c_str(), O_WRONLY | O_CLOEXEC), STDOUT_FILENO);
         dup2(open(err.path().c_str(), O_WRONLY | O_CLOEXEC), STDERR_FILENO);
-        execv(OSTREL_CHECK, argv.data());
+        execv(argv.front(), argv.data());
         _exit(127);
     }
     int status = 0;

@@ -20,6 +20,9 @@ struct Outcome {
 
 void PrintTo(const Outcome& outcome, std::ostream* stream);
 
+// program is the path of ostrel-check: that of the build, or what OSTREL_CHECK in the environment says.
+std::string program();
+
 // run runs ostrel-check with those arguments and that standard input.
 Outcome run(std::vector<std::string> arguments, std::string_view input = "");
 

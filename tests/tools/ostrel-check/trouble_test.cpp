@@ -77,7 +77,7 @@ TEST(Trouble, OfManyCasesIsOvercome)
 // shell runs a command line in which $CHECK is the program, and gives its status.
 int shell(const std::string& command)
 {
-    setenv("CHECK", OSTREL_CHECK, 1);
+    setenv("CHECK", program().c_str(), 1);
     // NOLINTNEXTLINE(cert-env33-c): pipelines are what is tested.
     const int status = std::system(("bash -c '" + command + "'").c_str());
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
