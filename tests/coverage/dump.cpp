@@ -1,9 +1,13 @@
 // Goes into the library that counts what is executed: a child that ends by a signal, or that never returns,
 // leaves its counts behind all the same.
 
+#ifdef __clang__
+extern "C" int __llvm_profile_write_file();
+#else
 extern "C" {
 #include <gcov.h>
 }
+#endif
 #include <pthread.h>
 #include <sys/time.h>
 
@@ -11,10 +15,19 @@ extern "C" {
 
 namespace {
 
-void dump(int signal_number)
+void write_counts()
 {
+#ifdef __clang__
+    __llvm_profile_write_file();
+#else
     __gcov_dump();
     __gcov_reset();
+#endif
+}
+
+void dump(int signal_number)
+{
+    write_counts();
     if (signal_number == SIGALRM) return;
     std::signal(signal_number, SIG_DFL);
     std::raise(signal_number);

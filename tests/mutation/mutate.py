@@ -17,9 +17,9 @@ import signal
 import sys
 import time
 
-from equivalents import Equivalents
 from library import BrokenLink, Build, Sources, Workshop
-from mutators import mutants
+from listed import Listed
+from mutators import NAMED, mutants
 from suites import Suites
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -177,7 +177,7 @@ def main():
         results.known = {}
 
     every = [mutant for file in sources.files for mutant in mutants(file, sources.text[file])]
-    equivalents = Equivalents(ROOT / "tests/mutation/equivalent.txt", every)
+    equivalents = Listed(ROOT / "tests/mutation/equivalent.txt", every, NAMED)
     chosen = [mutant for mutant in every if any(fnmatch.fnmatch(mutant.file, pattern) for pattern in given.files)]
     if given.equivalents:
         chosen = [mutant for mutant in chosen if mutant in equivalents]

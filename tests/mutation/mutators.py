@@ -45,6 +45,10 @@ class Mutant(NamedTuple):
     above: str     # the text of the line above that holds more than a comment
 
 
+# NAMED is what an entry of equivalent.txt may name, and the field that it is compared with.
+NAMED = {"file": "file", "in": "function", "above": "above", "line": "line", "change": "change"}
+
+
 def operators(found, text):
     for i, token in enumerate(found):
         if token.kind != "mark":

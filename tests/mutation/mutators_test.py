@@ -5,8 +5,8 @@ import sys
 import tempfile
 import unittest
 
-from equivalents import Equivalents
-from mutators import mutants
+from listed import Listed
+from mutators import NAMED, mutants
 
 
 def changes(text):
@@ -66,7 +66,7 @@ class ListOfEquivalents(unittest.TestCase):
             path = pathlib.Path(folder) / "equivalent.txt"
             path.write_text(text)
             made = list(mutants("src/a.cpp", "bool b =\n    // why\n    a <= 63;  // because\n"))
-            return made, Equivalents(path, made)
+            return made, Listed(path, made, NAMED)
 
     def test_entries_name_the_line_by_its_text(self):
         made, known = self.read("# why not\n\nfile: src/a.cpp\nline: a <= 63;\nchange: 63 -> 62\n"

@@ -65,6 +65,8 @@ def proofs():
                     [ctest(folder, r"(^|\.)shared_object(\.|$)")])
     # These stand in scripts of their own.
     yield Proof("coverage", "every line and branch is tested", "coverage", [], [script("coverage")])
+    yield Proof("coverage", "every condition seen to decide", "modified condition/decision", [], [
+        Step([str(ROOT / "scripts" / "coverage"), "--mcdc"], r"(\d+ of \d+ conditions seen to decide, \d+ listed)")])
     yield Proof("fuzzing", "no relation is broken", "fuzzing", [], [script("fuzz")])
     yield Proof("mutation", "tests notice every change", "mutation", [], [script("mutate")])
 
