@@ -5,12 +5,14 @@
 #include <algorithm>
 #include <limits>
 #include <set>
+#include <stdexcept>
 
 #include "rules/build.h"
 #include "rules/evaluate.h"
 #include "rules/rules.h"
 #include "rules/sentences.h"
 #include "rules/sets.h"
+#include "rules/words.h"
 
 namespace ostrel::rules {
 
@@ -115,6 +117,106 @@ TEST(ReasonTest, OfStepsThatWentOn)
     EXPECT_EQ(answer.printed[0].item, 1);
     EXPECT_EQ(answer.printed[1].id, "not_in_set");
     EXPECT_EQ(answer.printed[1].offset, 1);
+}
+
+// Words that no description needs yet, or that need a build of their own.
+Answer answer_of(std::vector<Step> steps, const std::vector<Value>& values, const Build& build = {})
+{
+    std::vector<ArgumentWords> arguments;
+    for (const char* name : {"one", "two", "three"}) {
+        if (arguments.size() < values.size()) arguments.push_back(text(name, "a text"));
+    }
+    return evaluate(registered(check("a_check", std::move(arguments), std::move(steps))), values, build);
+}
+
+TEST(WordsTest, Tables)
+{
+    static const Table kPairs = {{"primary", "second"}, {{"1", "3"}, {"36", "38"}, {"40", "38"}}};
+    const auto paired = [](const char* primary, const char* second) {
+        return answer_of({refuse(-1, not_(in_table(kPairs, {{0, Match::How::kNumber, "one"},
+                                                            {1, Match::How::kNumber, "two"}}))),
+                          print(line("<found>"))},
+                         {primary, second});
+    };
+    EXPECT_THROW(paired("1", "3"), std::logic_error);  // nothing has the name
+    const auto looked_up = [](const char* part) {
+        return answer_of({refuse(-1, not_(in_table(kPairs, {{0, Match::How::kPart, "one"}}))),
+                          remember("found", cell(1)), print(line("<found>"))},
+                         {part});
+    };
+    EXPECT_EQ(looked_up("6").out, "38");
+    EXPECT_EQ(looked_up("").out, "3");
+    EXPECT_EQ(looked_up("7").reason.id, "not_in_table");
+    EXPECT_EQ(looked_up("7").reason.allowed, Datum(std::vector<std::string>{"1", "36", "40"}));
+    const Step equal_cell = refuse(-1, not_(in_table(kPairs, {{0, Match::How::kEqual, "one"}})));
+    EXPECT_EQ(answer_of({equal_cell}, {"36"}).code, 0);
+    EXPECT_EQ(answer_of({equal_cell}, {"036"}).code, -1);
+}
+
+TEST(WordsTest, DaysOfMonths)
+{
+    const auto judge = [](const char* year, const char* month, const char* day) {
+        return answer_of({refuse(-1, above("three", days("one", "two")))}, {year, month, day}).code;
+    };
+    EXPECT_EQ(judge("2023", "2", "28"), 0);
+    EXPECT_EQ(judge("2023", "2", "29"), -1);
+    EXPECT_EQ(judge("2024", "2", "29"), 0);
+    EXPECT_EQ(judge("1900", "2", "29"), -1);
+    EXPECT_EQ(judge("2000", "2", "29"), 0);
+    EXPECT_EQ(judge("2000", "4", "31"), -1);
+    EXPECT_EQ(judge("2000", "12", "31"), 0);
+    EXPECT_EQ(judge("2000", "13", "1"), -1);
+    EXPECT_EQ(judge("2000", "0", "0"), 0);
+}
+
+TEST(WordsTest, Grammars)
+{
+    static const Grammar kEven = {"an even number of bytes",
+                                  {"too_short"},
+                                  {"", "ab"},
+                                  {"a"},
+                                  [](std::string_view text, const Build&) -> std::optional<GrammarFault> {
+                                      if (text.size() % 2 == 0) return std::nullopt;
+                                      return GrammarFault{"too_short", text.size(), "the end", "a byte"};
+                                  }};
+    EXPECT_EQ(answer_of({refuse(600, fails(kEven))}, {"ab"}).code, 0);
+    const Answer answer = answer_of({refuse(600, fails(kEven, after_first(it, ":")))}, {"x:abc"});
+    EXPECT_EQ(answer.code, 600);
+    EXPECT_EQ(answer.reason.id, "too_short");
+    EXPECT_EQ(answer.reason.offset, 5);
+}
+
+TEST(WordsTest, ConversionsAreWritten)
+{
+    static const Conversion kDoubled = {
+        "doubled", [](std::string_view text) { return std::string(text) + std::string(text); }};
+    const Check described = registered(check(
+        "a_check", {buffer("value", "a text")},
+        {write("value", converted(kDoubled, "value")), refuse(802, longer_than(3), line("<value>\n"))}));
+    const std::vector<Value> values = {"ab"};
+    const Answer answer = evaluate(described, values, Build());
+    EXPECT_EQ(answer.code, 802);
+    EXPECT_EQ(answer.out, "abab\n");
+    EXPECT_EQ(answer.after, std::vector<Value>{"abab"});
+}
+
+TEST(WordsTest, ChannelsOfTheDriver)
+{
+    const Step step = refuse(-1, not_(listed_by_driver(it)));
+    EXPECT_EQ(answer_of({step}, {"1"}).outside, Outside::kDriver);
+    Build build;
+    build.channels = {1, 6, 11};
+    EXPECT_EQ(answer_of({step}, {"6"}, build).code, 0);
+    EXPECT_EQ(answer_of({step}, {"7"}, build).reason.id, "not_listed_by_driver");
+}
+
+TEST(WordsTest, TheBuildsModel)
+{
+    const Step step = refuse(1001, equal(model(), literal("M2840")));
+    EXPECT_EQ(answer_of({step}, {""}).code, 1001);
+    Build build;
+    build.model = "M2841";
+    EXPECT_EQ(answer_of({step}, {""}, build).code, 0);
 }
 
 TEST(OutsideTest, WhatTheContractDoesNotPromise)
