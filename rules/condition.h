@@ -1,0 +1,114 @@
+// Conditions: what a text or a number is tested for.
+#ifndef OSTREL_RULES_CONDITION_H
+#define OSTREL_RULES_CONDITION_H
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rules/build.h"
+#include "rules/expression.h"
+
+namespace ostrel::rules {
+
+struct Check;
+
+// Group is a part of a shape: bytes of one set, at least and at most so many.
+struct Group {
+    Set set;
+    std::size_t least = 1;
+    std::size_t most = 1;
+    std::vector<Line> lines = {};  // printed where this group is at fault
+};
+
+// Shape is a sequence of groups. A group of variable length and the next one have no byte in common.
+using Shape = std::vector<Group>;
+
+// GrammarFault says where a text fails a grammar. found and allowed are what the sentence of the id needs.
+struct GrammarFault {
+    std::string_view id;
+    std::size_t offset = 0;
+    std::string found = {};
+    std::string allowed = {};
+};
+
+// Grammar is written by hand, for what no word fits. All that it may answer is listed.
+struct Grammar {
+    std::string_view what;                   // what a text is that obeys it: "an IPv4 address"
+    std::vector<std::string_view> ids;       // of the faults that it finds
+    std::vector<std::string_view> accepted;  // texts that obey it
+    std::vector<std::string_view> refused;   // texts that fail it, in the order of ids
+    std::optional<GrammarFault> (*judge)(std::string_view text, const Build& build);
+};
+
+// Table is a list of rows that belong together.
+struct Table {
+    std::vector<std::string_view> columns;  // what they hold, in words
+    std::vector<std::vector<std::string_view>> rows;
+};
+
+// Match is how a text or a number has to suit a column of a row.
+struct Match {
+    enum class How {
+        kEqual,   // it is the cell's text
+        kPart,    // it occurs in the cell's text
+        kNumber,  // its number is the cell's
+    };
+
+    std::size_t column;
+    How how;
+    Expression value;
+};
+
+// Condition holds or not. One that holds says why, as the reason of a refusal.
+struct Condition {
+    enum class Kind {
+        kAlways,
+        kNull,       // (argument)
+        kEmpty,      // (text)
+        kShorter,    // (text, number): it has fewer bytes
+        kLonger,     // (text, number): it has more bytes
+        kLength,     // (text): its length is one of numbers
+        kOutside,    // (text, set): it has a byte that is not in the set
+        kKeyword,    // (text): it is one of words
+        kPrefix,     // (text): it begins with one of words
+        kSuffix,     // (text, text): it ends with the second, and has something before that
+        kBelow,      // (number, number): it is lower than the second
+        kAbove,      // (number, number): it is higher than the second
+        kAmong,      // (number): it is one of numbers
+        kMultiple,   // (number, number): it is a multiple of the second
+        kEqual,      // (text, text) or, where one is a number, (number, number)
+        kContains,   // (text, text): the second occurs in it
+        kShape,      // (text): it has one of shapes
+        kGrammar,    // (text): it fails the grammar
+        kRow,        // a row of the table suits all matches; the first one is where cells are taken from
+        kRefusedBy,  // (arguments): the other check does not answer 0
+        kListed,     // (number): the wireless driver lists this channel
+        kLastItem,   // in a list: nothing follows the item
+        kAllOf,      // (parts): the reason is that of the last
+        kAnyOf,      // (parts): the reason is that of the first that holds
+    };
+
+    Kind kind = Kind::kAlways;
+    bool is_negated = false;
+    std::vector<Expression> operands = {};
+    std::vector<std::string_view> words = {};
+    bool ignores_case = false;  // of ASCII letters, in words
+    std::vector<long long> numbers = {};
+    std::vector<Shape> shapes = {};
+    const Grammar* grammar = nullptr;
+    const Table* table = nullptr;
+    std::vector<Match> matches = {};
+    std::string_view check = {};  // the other check's name
+    std::vector<Condition> parts = {};
+    std::string_view id = {};  // of the reason, in place of the one that the kind has
+
+    std::size_t number = 0;         // in its check: set when that is registered
+    const Check* target = nullptr;  // the other check: set after all are registered
+};
+
+}  // namespace ostrel::rules
+
+#endif

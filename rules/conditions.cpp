@@ -1,0 +1,233 @@
+// Whether conditions hold in a call, and why.
+
+#include <algorithm>
+
+#include "rules/run.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+using Kind = Condition::Kind;
+
+char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+}  // namespace
+
+bool Run::same(std::string_view a, std::string_view b, bool ignores_case)
+{
+    if (!ignores_case) return a == b;
+    return std::ranges::equal(a, b, {}, lower, lower);
+}
+
+void Run::tell(Reason& reason, const Place& where, std::string_view id, Datum found, Datum allowed) const
+{
+    reason = {};
+    reason.id = id;
+    reason.argument = where.argument;
+    if (where.argument) reason.name = called_.arguments[*where.argument].name;
+    reason.item = where.item;
+    reason.found = std::move(found);
+    reason.allowed = std::move(allowed);
+}
+
+bool Run::holds(const Condition& condition, Frame& frame, Reason* reason)
+{
+    const bool result = holds_at_all(condition, frame, reason) != condition.is_negated;
+    if (result && reason != nullptr && !condition.id.empty() && reason->id != "number_beyond_int") {
+        reason->id = condition.id;
+    }
+    if (counts_ != nullptr) {
+        Counts::OfCheck& of = counts_->checks[frame.check.number];
+        ++(result ? of.held : of.failed)[condition.number];
+    }
+    return result;
+}
+
+// holds_at_all does not negate; but the reason is that of the negated condition where it is negated.
+bool Run::holds_at_all(const Condition& condition, Frame& frame, Reason* reason)
+{
+    switch (condition.kind) {
+        case Kind::kEmpty:
+        case Kind::kOutside:
+        case Kind::kKeyword:
+        case Kind::kPrefix:
+        case Kind::kSuffix:
+        case Kind::kContains:
+        case Kind::kGrammar:
+            return text_holds(condition, frame, reason);
+        case Kind::kShorter:
+        case Kind::kLonger:
+        case Kind::kLength:
+            return length_holds(condition, frame, reason);
+        case Kind::kBelow:
+        case Kind::kAbove:
+        case Kind::kAmong:
+        case Kind::kMultiple:
+            return number_holds(condition, frame, reason);
+        case Kind::kShape:
+            return shape_holds(condition, frame, reason);
+        case Kind::kEqual:
+            return equality_holds(condition, frame, reason);
+        case Kind::kRow:
+            return row_holds(condition, frame, reason);
+        case Kind::kRefusedBy:
+            return is_refused_by(condition, frame, reason);
+        case Kind::kAllOf:
+            return std::ranges::all_of(condition.parts,
+                                       [&](const Condition& part) { return holds(part, frame, reason); });
+        case Kind::kAnyOf:
+            return std::ranges::any_of(condition.parts,
+                                       [&](const Condition& part) { return holds(part, frame, reason); });
+        default:
+            return others_hold(condition, frame, reason);
+    }
+}
+
+bool Run::length_holds(const Condition& condition, Frame& frame, Reason* reason)
+{
+    const Operand judged = text(condition.operands[0], frame);
+    const auto size = static_cast<long long>(judged.text.size());
+    const bool is_negated = condition.is_negated;
+    if (condition.kind == Kind::kLength) {
+        const bool result = std::ranges::find(condition.numbers, size) != condition.numbers.end();
+        if (reason != nullptr && result != is_negated)
+            tell(*reason, judged.place, is_negated ? "wrong_length" : "forbidden_length", size,
+                 condition.numbers);
+        return result;
+    }
+    const long long limit = number(condition.operands[1], frame).value;
+    const bool is_shorter = condition.kind == Kind::kShorter;
+    const bool result = is_shorter ? size < limit : size > limit;
+    if (reason != nullptr && result != is_negated)
+        tell(*reason, judged.place, is_shorter != is_negated ? "too_short" : "too_long", size, limit);
+    return result;
+}
+
+bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
+{
+    const Integer judged = number(condition.operands[0], frame);
+    const bool is_negated = condition.is_negated;
+    std::string_view id;
+    long long limit = 0;
+    bool result = false;
+    if (condition.kind == Kind::kAmong) {
+        id = is_negated ? "number_not_allowed" : "number_forbidden";
+        result = std::ranges::find(condition.numbers, judged.value) != condition.numbers.end();
+    } else {
+        limit = number(condition.operands[1], frame).value;
+        if (condition.kind == Kind::kMultiple) {
+            id = is_negated ? "not_a_multiple" : "a_multiple";
+            result = judged.value % limit == 0;
+        } else {
+            const bool is_below = condition.kind == Kind::kBelow;
+            id = is_below != is_negated ? "number_too_low" : "number_too_high";
+            result = is_below ? judged.value < limit : judged.value > limit;
+        }
+    }
+    if (reason == nullptr || result == is_negated) return result;
+    tell(*reason, judged.place, id, judged.value, limit);
+    if (condition.kind == Kind::kAmong) reason->allowed = condition.numbers;
+    reason->offset = judged.place.offset;
+    if (!judged.beyond_int.empty()) {
+        reason->id = "number_beyond_int";
+        reason->found = std::string(judged.beyond_int);
+        reason->read_as = judged.value;
+    }
+    return result;
+}
+
+bool Run::row_holds(const Condition& condition, Frame& frame, Reason* reason)
+{
+    const auto suits = [&](const std::vector<std::string_view>& row) {
+        return std::ranges::all_of(condition.matches, [&](const Match& match) {
+            const std::string_view cell = row[match.column];
+            if (match.how == Match::How::kNumber) {
+                return number(match.value, frame).value == read_number(cell, build_.atoi).value;
+            }
+            const std::string_view given = text(match.value, frame).text;
+            return match.how == Match::How::kEqual ? cell == given
+                                                   : cell.find(given) != std::string_view::npos;
+        });
+    };
+    const auto found = std::ranges::find_if(condition.table->rows, suits);
+    const bool result = found != condition.table->rows.end();
+    if (result) frame.row = &*found;
+    if (reason == nullptr || result == condition.is_negated) return result;
+    const Match& first = condition.matches.front();
+    const Operand judged = text(first.value, frame);
+    std::vector<std::string> cells;
+    for (const auto& row : condition.table->rows) cells.emplace_back(row[first.column]);
+    tell(*reason, judged.place, condition.is_negated ? "not_in_table" : "in_table", std::string(judged.text),
+         std::move(cells));
+    return result;
+}
+
+bool Run::equality_holds(const Condition& condition, Frame& frame, Reason* reason)
+{
+    const Operand one = text(condition.operands[0], frame);
+    const Operand other = text(condition.operands[1], frame);
+    const std::string_view id = condition.is_negated ? "not_equal" : "equal";
+    const bool are_texts = one.kind == Operand::Kind::kText && other.kind == Operand::Kind::kText;
+    const long long left = are_texts ? 0 : number(condition.operands[0], frame).value;
+    const long long right = are_texts ? 0 : number(condition.operands[1], frame).value;
+    const bool result = are_texts ? same(one.text, other.text, condition.ignores_case) : left == right;
+    if (reason == nullptr || result == condition.is_negated) return result;
+    if (are_texts) {
+        tell(*reason, one.place, id, std::string(one.text), std::string(other.text));
+    } else {
+        tell(*reason, one.place, id, left, right);
+    }
+    return result;
+}
+
+bool Run::others_hold(const Condition& condition, Frame& frame, Reason* reason)
+{
+    bool result = true;
+    const auto tells = [&] { return reason != nullptr && result != condition.is_negated; };
+    switch (condition.kind) {
+        case Kind::kNull: {
+            const Operand judged = operand(condition.operands[0], frame);
+            result = judged.kind == Operand::Kind::kNull;
+            if (tells()) tell(*reason, judged.place, condition.is_negated ? "not_null" : "null", {}, {});
+            return result;
+        }
+        case Kind::kListed: {
+            if (!build_.channels) throw Ended{Outside::kDriver};
+            const Integer channel = number(condition.operands[0], frame);
+            std::vector<long long> listed(build_.channels->begin(), build_.channels->end());
+            result = std::ranges::find(listed, channel.value) != listed.end();
+            if (tells())
+                tell(*reason, channel.place,
+                     condition.is_negated ? "not_listed_by_driver" : "listed_by_driver", channel.value,
+                     std::move(listed));
+            return result;
+        }
+        case Kind::kLastItem:
+            result = frame.is_last_item;
+            if (tells()) tell(*reason, frame.item.place, "last_item", {}, {});
+            return result;
+        default:
+            if (tells()) tell(*reason, {}, "always", {}, {});
+            return true;
+    }
+}
+
+bool Run::is_refused_by(const Condition& condition, Frame& frame, Reason* reason)
+{
+    Frame inner{*condition.target, {}};
+    for (const Expression& argument : condition.operands) inner.slots.push_back(operand(argument, frame));
+    inner.slots.resize(inner.check.slots);
+    for (std::size_t i = 0; i < inner.check.arguments.size(); ++i) {
+        const bool is_null = inner.slots[i].kind == Operand::Kind::kNull;
+        if (is_null && !inner.check.arguments[i].asserted.empty()) throw Ended{Outside::kAssertion};
+    }
+    run(inner.check.steps, inner);
+    fault_lines_ = nullptr;
+    its_code_ = inner.code;
+    if (reason != nullptr) *reason = std::move(inner.reason);
+    if (reason != nullptr && condition.is_negated) tell(*reason, inner.slots[0].place, "accepted", {}, {});
+    return inner.code != 0;
+}
+
+}  // namespace ostrel::rules

@@ -1,0 +1,201 @@
+// The steps of a check in a call.
+#include "rules/evaluate.h"
+
+#include <limits>
+
+#include "rules/rules.h"
+#include "rules/run.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+bool is_written(const Argument& argument)
+{
+    return argument.kind == Argument::Kind::kBuffer || argument.kind == Argument::Kind::kBlocks ||
+           argument.kind == Argument::Kind::kIntegerOut;
+}
+
+Operand slot_of(const Value& value, std::size_t argument)
+{
+    Operand slot;
+    slot.place.argument = argument;
+    if (const auto* text = std::get_if<std::string>(&value)) {
+        slot.kind = Operand::Kind::kText;
+        slot.text = *text;
+        slot.place.offset = 0;
+    } else if (const auto* number = std::get_if<long long>(&value)) {
+        slot.kind = Operand::Kind::kNumber;
+        slot.number = *number;
+    } else if (std::holds_alternative<std::vector<std::string>>(value)) {
+        slot.kind = Operand::Kind::kBlocks;
+    }
+    return slot;
+}
+
+}  // namespace
+
+Counts::Counts()
+{
+    for (const Check& check : rules::checks()) {
+        OfCheck of;
+        of.steps.resize(check.step_count);
+        of.held.resize(check.condition_count);
+        of.failed.resize(check.condition_count);
+        checks.push_back(std::move(of));
+    }
+}
+
+Answer evaluate(const Check& check, std::span<const Value> values, const Build& build, Counts* counts)
+{
+    return Run(check, build, counts).evaluate(values);
+}
+
+Answer Run::evaluate(std::span<const Value> values)
+{
+    Frame frame{called_, {}};
+    frame.is_called = true;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        frame.slots.push_back(slot_of(values[i], i));
+        if (const auto* texts = std::get_if<std::vector<std::string>>(&values[i])) {
+            blocks_.assign(texts->begin(), texts->end());
+        }
+    }
+    frame.slots.resize(called_.slots);
+    try {
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            const bool is_null = frame.slots[i].kind == Operand::Kind::kNull;
+            if (is_null && !called_.arguments[i].asserted.empty()) throw Ended{Outside::kAssertion};
+        }
+        run(called_.steps, frame);
+    } catch (const Ended& ended) {
+        answer_.outside = ended.outside;
+        return std::move(answer_);
+    }
+    answer_.code = frame.code;
+    answer_.is_refusal = frame.is_refusal;
+    answer_.reason = std::move(frame.reason);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        if (is_written(called_.arguments[i])) answer_.after.push_back(value_of(frame.slots[i]));
+    }
+    return std::move(answer_);
+}
+
+Value Run::value_of(const Operand& slot) const
+{
+    switch (slot.kind) {
+        case Operand::Kind::kText:
+            return std::string(slot.text);
+        case Operand::Kind::kNumber:
+            return slot.number;
+        case Operand::Kind::kBlocks:
+            return std::vector<std::string>(blocks_.begin(), blocks_.end());
+        default:
+            return nullptr;
+    }
+}
+
+Run::Flow Run::run(const std::vector<Step>& steps, Frame& frame)
+{
+    for (const Step& step : steps) {
+        const Flow flow = run(step, frame);
+        if (flow != Flow::kOn) return flow;
+    }
+    return Flow::kOn;
+}
+
+Run::Flow Run::run(const Step& step, Frame& frame)
+{
+    Reason reason;
+    switch (step.kind) {
+        case Step::Kind::kForEach:
+            return run_list(step, frame);
+        case Step::Kind::kWhen:
+            if (!holds(step.condition, frame, nullptr)) return run(step.otherwise, frame);
+            if (counts_ != nullptr) ++counts_->checks[frame.check.number].steps[step.number];
+            return run(step.steps, frame);
+        default:
+            break;
+    }
+    fault_lines_ = nullptr;
+    if (!holds(step.condition, frame, &reason)) return Flow::kOn;
+    if (counts_ != nullptr) ++counts_->checks[frame.check.number].steps[step.number];
+    switch (step.kind) {
+        case Step::Kind::kRefuse:
+        case Step::Kind::kAccept:
+            return decide(step, frame, std::move(reason));
+        case Step::Kind::kRemember:
+            frame.slots[step.slot] = operand(*step.value, frame);
+            return Flow::kOn;
+        case Step::Kind::kReads:
+            text(*step.value, frame);
+            return Flow::kOn;
+        case Step::Kind::kNeverReturns:
+            throw Ended{Outside::kNeverReturns};
+        default:
+            act(step, frame, reason);
+            if (step.kind != Step::Kind::kWrite) answer_.printed.push_back(std::move(reason));
+            return step.kind == Step::Kind::kSkip ? Flow::kNextItem : Flow::kOn;
+    }
+}
+
+Run::Flow Run::decide(const Step& step, Frame& frame, Reason reason)
+{
+    if (step.code.is_its) {
+        frame.code = its_code_;
+        for (const auto& [from, to] : step.code.exchanges) {
+            if (its_code_ == from) frame.code = to;
+        }
+    } else {
+        frame.code = static_cast<int>(number(step.code.number, frame).value);
+    }
+    act(step, frame, reason);
+    frame.is_refusal = step.kind == Step::Kind::kRefuse;
+    if (frame.is_refusal) frame.reason = std::move(reason);
+    return Flow::kEnd;
+}
+
+void Run::act(const Step& step, Frame& frame, const Reason& reason)
+{
+    if (fault_lines_ != nullptr) print(*fault_lines_, frame, reason);
+    print(step.lines, frame, reason);
+    for (const Write& one : step.writes) write(one, frame);
+}
+
+void Run::print(const std::vector<Line>& lines, Frame& frame, const Reason& reason)
+{
+    fault_ = &reason;
+    for (const Line& line : lines) {
+        std::string& stream = line.stream == Line::Stream::kOut ? answer_.out : answer_.err;
+        for (const Line::Part& part : line.parts) {
+            if (!part.value) {
+                stream += part.text;
+                continue;
+            }
+            const Operand value = text(*part.value, frame);
+            if (value.kind == Operand::Kind::kNumber) {
+                stream += std::to_string(value.number);
+            } else {
+                stream += value.text;
+            }
+        }
+        if (line.is_flushed) answer_.flushed = answer_.out.size();
+    }
+    fault_ = nullptr;
+}
+
+void Run::write(const Write& write, Frame& frame)
+{
+    const bool is_item = write.target.kind == Expression::Kind::kItem;
+    Operand& target = is_item ? frame.item : frame.slots[write.target.slot];
+    if (target.kind == Operand::Kind::kNull) throw Ended{Outside::kNull};
+    const Operand value = operand(write.value, frame);
+    if (!frame.is_called) return;
+    target.kind = value.kind;
+    target.number = value.number;
+    target.text = keep(std::string(value.text));
+    if (value.kind == Operand::Kind::kText) target.place.offset = 0;
+    if (is_item) blocks_[*target.place.item] = target.text;
+}
+
+}  // namespace ostrel::rules

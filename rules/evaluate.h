@@ -1,0 +1,61 @@
+// Evaluation: what a check does, by its description.
+#ifndef OSTREL_RULES_EVALUATE_H
+#define OSTREL_RULES_EVALUATE_H
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "rules/reason.h"
+#include "rules/vocabulary.h"
+
+namespace ostrel::rules {
+
+// Value is NULL, a text, a number, or the texts of several blocks.
+using Value = std::variant<std::nullptr_t, std::string, long long, std::vector<std::string>>;
+
+// Outside says why the contract promises nothing of a call, so that it must not be made.
+enum class Outside {
+    kNo,
+    kAssertion,     // a NULL is asserted against: the process ends
+    kNull,          // a NULL is read
+    kNeverReturns,  // the call does not come back
+    kDriver,        // the wireless driver is asked, and the build does not say what it lists
+};
+
+struct Answer {
+    int code = 0;
+    bool is_refusal = false;  // a refusing step decided
+    std::string out;
+    std::string err;
+    std::size_t flushed = 0;   // bytes of out
+    std::vector<Value> after;  // what each argument that can be written to holds, in order
+    Outside outside = Outside::kNo;
+    bool beyond_int = false;      // a number beyond an int was read: other builds may answer otherwise
+    Reason reason;                // of the step that refused
+    std::vector<Reason> printed;  // of the steps that printed, or skipped, and went on
+
+    [[nodiscard]] bool is_flushed() const { return flushed == out.size(); }
+};
+
+// Counts says how often each step of each check acted and how often each condition held and did not.
+struct Counts {
+    struct OfCheck {
+        std::vector<std::uint64_t> steps;
+        std::vector<std::uint64_t> held;
+        std::vector<std::uint64_t> failed;
+    };
+    Counts();
+    std::vector<OfCheck> checks;  // by Check::number
+};
+
+// evaluate takes a value for every argument, in order, those that are only written included.
+Answer evaluate(const Check& check, std::span<const Value> values, const Build& build,
+                Counts* counts = nullptr);
+
+}  // namespace ostrel::rules
+
+#endif

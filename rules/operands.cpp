@@ -1,0 +1,193 @@
+// What expressions are in a call.
+
+#include <algorithm>
+
+#include "rules/run.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+using Kind = Expression::Kind;
+
+Operand of_text(std::string_view text)
+{
+    Operand operand;
+    operand.kind = Operand::Kind::kText;
+    operand.text = text;
+    return operand;
+}
+
+Operand of_number(long long number, const Place& place = {})
+{
+    Operand operand;
+    operand.kind = Operand::Kind::kNumber;
+    operand.number = number;
+    operand.place = place;
+    operand.place.offset.reset();
+    return operand;
+}
+
+Operand part(Operand text, std::size_t begin, std::size_t size = std::string_view::npos)
+{
+    begin = std::min(begin, text.text.size());
+    text.text = text.text.substr(begin, size);
+    if (text.place.offset) *text.place.offset += begin;
+    return text;
+}
+
+long long days_of(long long year, long long month)
+{
+    constexpr int kDays[] = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    if (month < 1 || month > 12) return 0;
+    const bool is_leap_year = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+    return kDays[month] + (month == 2 && is_leap_year ? 1 : 0);
+}
+
+}  // namespace
+
+Operand Run::operand(const Expression& expression, Frame& frame)
+{
+    switch (expression.kind) {
+        case Kind::kName:
+            return frame.slots[expression.slot];
+        case Kind::kText:
+            return of_text(expression.text);
+        case Kind::kNumber:
+            return of_number(expression.number);
+        case Kind::kSet: {
+            Operand result;
+            result.kind = Operand::Kind::kSet;
+            result.set = expression.set;
+            return result;
+        }
+        case Kind::kModel:
+            return of_text(build_.model);
+        case Kind::kAccountRealm:
+            return of_text(build_.account_realm);
+        case Kind::kSetupRealm:
+            return of_text(build_.setup_realm);
+        case Kind::kNowhere: {
+            Operand result;
+            result.kind = Operand::Kind::kNowhere;
+            return result;
+        }
+        case Kind::kItem:
+            return frame.item;
+        case Kind::kIndex:
+            return of_number(frame.index);
+        case Kind::kRest:
+            return frame.rest;
+        case Kind::kByte: {
+            const auto* byte = fault_ == nullptr ? nullptr : std::get_if<std::string>(&fault_->found);
+            return of_text(byte == nullptr ? std::string_view() : *byte);
+        }
+        case Kind::kOffset:
+            return of_number(fault_ == nullptr ? 0 : static_cast<long long>(fault_->offset.value_or(0)));
+        case Kind::kBeforeFirst:
+        case Kind::kBeforeLast:
+        case Kind::kAfterFirst:
+        case Kind::kAfterLast:
+        case Kind::kThroughLast:
+            return cut(expression, frame);
+        case Kind::kCell: {
+            const auto column = static_cast<std::size_t>(expression.of[0].number);
+            return of_text(frame.row == nullptr ? std::string_view() : frame.row->at(column));
+        }
+        case Kind::kSlice:
+        case Kind::kJoined:
+        case Kind::kConverted:
+        case Kind::kLength:
+        case Kind::kCount:
+        case Kind::kSum:
+        case Kind::kLarger:
+        case Kind::kDays:
+            return computed(expression, frame);
+    }
+    return {};
+}
+
+Operand Run::cut(const Expression& expression, Frame& frame)
+{
+    constexpr auto kMissing = std::string_view::npos;
+    const Operand whole = text(expression.of[0], frame);
+    const std::string_view separator = expression.of[1].text;
+    const std::size_t first = whole.text.find(separator);
+    const std::size_t last = whole.text.rfind(separator);
+    switch (expression.kind) {
+        case Kind::kBeforeFirst:
+            return part(whole, 0, first);
+        case Kind::kBeforeLast:
+            return part(whole, 0, last);
+        case Kind::kAfterFirst:
+            return part(whole, first == kMissing ? kMissing : first + separator.size());
+        case Kind::kAfterLast:
+            return part(whole, last == kMissing ? 0 : last + separator.size());
+        default:
+            return part(whole, 0, last == kMissing ? 0 : last + separator.size());
+    }
+}
+
+Operand Run::computed(const Expression& expression, Frame& frame)
+{
+    if (expression.kind == Kind::kDays) {
+        const Integer year = number(expression.of[0], frame);
+        const Integer month = number(expression.of[1], frame);
+        return of_number(days_of(year.value, month.value), month.place);
+    }
+    if (expression.kind == Kind::kSum || expression.kind == Kind::kLarger) {
+        Integer result = number(expression.of[0], frame);
+        for (std::size_t i = 1; i < expression.of.size(); ++i) {
+            const Integer next = number(expression.of[i], frame);
+            result.value = expression.kind == Kind::kSum ? result.value + next.value
+                                                         : std::max(result.value, next.value);
+            if (!result.place.argument) result.place = next.place;
+        }
+        return of_number(result.value, result.place);
+    }
+    if (expression.kind == Kind::kJoined) {
+        std::string joined;
+        for (const Expression& one : expression.of) joined += text(one, frame).text;
+        return of_text(keep(std::move(joined)));
+    }
+    const Operand whole = text(expression.of[0], frame);
+    if (expression.kind == Kind::kConverted) {
+        Operand result = of_text(keep(expression.conversion->convert(whole.text)));
+        result.place = whole.place;
+        return result;
+    }
+    if (expression.kind == Kind::kLength)
+        return of_number(static_cast<long long>(whole.text.size()), whole.place);
+    if (expression.kind == Kind::kSlice) {
+        const auto begin = static_cast<std::size_t>(number(expression.of[1], frame).value);
+        if (expression.of.size() < 3) return part(whole, begin);
+        return part(whole, begin, static_cast<std::size_t>(number(expression.of[2], frame).value));
+    }
+    const Operand byte = operand(expression.of[1], frame);
+    const char wanted = byte.kind == Operand::Kind::kNumber
+                            ? static_cast<char>(static_cast<unsigned char>(byte.number & 0xFF))
+                            : byte.text.front();
+    return of_number(std::ranges::count(whole.text, wanted), whole.place);
+}
+
+Operand Run::text(const Expression& expression, Frame& frame)
+{
+    Operand result = operand(expression, frame);
+    if (result.kind == Operand::Kind::kNull) throw Ended{Outside::kNull};
+    return result;
+}
+
+Integer Run::number(const Expression& expression, Frame& frame)
+{
+    const Operand given = text(expression, frame);
+    if (given.kind == Operand::Kind::kNumber) return {given.number, {}, given.place};
+    const Number read = read_number(given.text, build_.atoi);
+    Integer result{read.value, {}, given.place};
+    if (!read.beyond_int) return result;
+    answer_.beyond_int = true;
+    result.beyond_int = given.text.substr(read.begin, read.end - read.begin);
+    if (result.place.offset) *result.place.offset += read.begin;
+    return result;
+}
+
+}  // namespace ostrel::rules

@@ -1,0 +1,34 @@
+// Reason: why a step decided, as data. sentences.h makes a sentence of it.
+#ifndef OSTREL_RULES_REASON_H
+#define OSTREL_RULES_REASON_H
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "rules/set.h"
+
+namespace ostrel::rules {
+
+// Datum is a number, a text, a set of bytes, or a list of texts or numbers; or nothing.
+using Datum = std::variant<std::monostate, long long, std::string, Set, std::vector<std::string>,
+                           std::vector<long long>>;
+
+struct Reason {
+    std::string_view id;                  // empty: no condition, the step always decides
+    std::optional<std::size_t> argument;  // which one, from 0; nothing: none alone
+    std::string_view name;                // of the argument
+    std::optional<std::size_t> item;      // of a list, or the key of a block, from 0
+    std::optional<std::size_t> offset;    // from 0, in the argument's text or, of a block, in the key's
+    Datum found;
+    Datum allowed;
+    std::optional<long long> read_as;  // what this build's atoi makes of a number beyond an int
+};
+
+}  // namespace ostrel::rules
+
+#endif

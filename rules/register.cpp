@@ -1,0 +1,213 @@
+// Registration: gives every name its place, every step and condition its number, and every line its parts.
+
+#include <algorithm>
+#include <map>
+#include <stdexcept>
+
+#include "rules/rules.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+class Registration {
+ public:
+    explicit Registration(Check& check) : check_(check)
+    {
+        for (const Argument& argument : check.arguments) slots_.emplace(argument.name, slots_.size());
+        for (Argument& argument : check.arguments) {
+            if (argument.room) resolve(*argument.room);
+        }
+        collect_names(check.steps);
+        resolve(check.steps, false);
+        check.slots = slots_.size();
+    }
+
+ private:
+    [[noreturn]] void fail(std::string_view what, std::string_view name) const
+    {
+        throw std::logic_error(std::string(check_.name) + ": " + std::string(what) + " " + std::string(name));
+    }
+
+    void collect_names(std::vector<Step>& steps)
+    {
+        for (Step& step : steps) {
+            if (step.kind == Step::Kind::kRemember) {
+                step.slot = slots_.emplace(step.name, slots_.size()).first->second;
+                if (step.slot < check_.arguments.size()) fail("an argument has the name", step.name);
+            }
+            collect_names(step.steps);
+            collect_names(step.otherwise);
+        }
+    }
+
+    void resolve(Expression& expression)
+    {
+        for (Expression& operand : expression.of) resolve(operand);
+        if (expression.kind != Expression::Kind::kName) return;
+        using Kind = Expression::Kind;
+        static const std::map<std::string_view, Kind> kItems = {
+            {"item", Kind::kItem}, {"index", Kind::kIndex}, {"rest", Kind::kRest}};
+        static const std::map<std::string_view, Kind> kFaults = {{"byte", Kind::kByte},
+                                                                 {"offset", Kind::kOffset}};
+        if (expression.text.empty() && in_list_) {
+            expression.kind = Kind::kItem;
+        } else if (expression.text.empty()) {
+            if (check_.arguments.empty()) fail("no argument", "");
+        } else if (const auto slot = slots_.find(expression.text); slot != slots_.end()) {
+            expression.slot = slot->second;
+        } else if (const auto item = kItems.find(expression.text); in_list_ && item != kItems.end()) {
+            expression.kind = item->second;
+        } else if (const auto fault = kFaults.find(expression.text); fault != kFaults.end()) {
+            expression.kind = fault->second;
+        } else {
+            fail("nothing has the name", expression.text);
+        }
+    }
+
+    void resolve(Condition& condition)
+    {
+        condition.number = check_.condition_count++;
+        for (Expression& operand : condition.operands) resolve(operand);
+        for (Match& match : condition.matches) resolve(match.value);
+        for (Condition& part : condition.parts) resolve(part);
+        for (Shape& shape : condition.shapes) {
+            for (Group& group : shape) resolve(group.lines);
+        }
+    }
+
+    void resolve(std::vector<Line>& lines)
+    {
+        for (Line& line : lines) {
+            std::string_view rest = line.text;
+            while (!rest.empty()) {
+                const std::size_t begin = std::min(rest.find('<'), rest.size());
+                if (begin > 0) line.parts.push_back({rest.substr(0, begin), std::nullopt});
+                rest.remove_prefix(begin);
+                if (rest.empty()) break;
+                const std::size_t end = rest.find('>');
+                if (end == std::string_view::npos) fail("no end of", rest);
+                Expression value = "";
+                value.text = rest.substr(1, end - 1);
+                if (value.text.empty()) fail("no name in", line.text);
+                resolve(value);
+                line.parts.push_back({{}, std::move(value)});
+                rest.remove_prefix(end + 1);
+            }
+        }
+    }
+
+    void resolve(std::vector<Step>& steps, bool in_list)
+    {
+        for (Step& step : steps) {
+            in_list_ = in_list;
+            step.number = check_.step_count++;
+            resolve(step.condition);
+            resolve(step.lines);
+            resolve(step.code.number);
+            for (Write& write : step.writes) {
+                resolve(write.target);
+                resolve(write.value);
+            }
+            if (step.value) resolve(*step.value);
+            if (step.list) resolve(step.list->of);
+            resolve(step.steps, in_list || step.kind == Step::Kind::kForEach);
+            resolve(step.otherwise, in_list);
+        }
+        in_list_ = in_list;
+    }
+
+    Check& check_;
+    std::map<std::string_view, std::size_t> slots_;
+    bool in_list_ = false;
+};
+
+const Check* target_of(const std::vector<Check>& all, std::string_view name)
+{
+    const auto found = std::ranges::find(all, name, &Check::name);
+    return found == all.end() ? nullptr : &*found;
+}
+
+void link(Condition& condition, const std::vector<Check>& all)
+{
+    for (Condition& part : condition.parts) link(part, all);
+    if (condition.kind != Condition::Kind::kRefusedBy) return;
+    condition.target = target_of(all, condition.check);
+    if (condition.target == nullptr)
+        throw std::logic_error("no description of " + std::string(condition.check));
+    if (condition.target->arguments.size() != condition.operands.size()) {
+        throw std::logic_error("another number of arguments for " + std::string(condition.check));
+    }
+}
+
+void link(std::vector<Step>& steps, const std::vector<Check>& all)
+{
+    for (Step& step : steps) {
+        link(step.condition, all);
+        link(step.steps, all);
+        link(step.otherwise, all);
+    }
+}
+
+void add(std::vector<Check>& all, std::string_view module, std::vector<Check> checks)
+{
+    for (Check& check : checks) {
+        check.module = module;
+        check.number = all.size();
+        Registration{check};
+        all.push_back(std::move(check));
+    }
+}
+
+std::vector<Check> make_checks()
+{
+    std::vector<Check> all;
+    add(all, "strings", strings());
+    add(all, "addresses", addresses());
+    add(all, "accounts", accounts());
+    add(all, "subnets", subnets());
+    add(all, "wireless", wireless());
+    add(all, "parameter_check", parameter_checks());
+    add(all, "ppp_check", ppp_checks());
+    add(all, "lan_check", lan_checks());
+    add(all, "wlan_check", wlan_checks());
+    add(all, "hosts", hosts());
+    add(all, "date_time", date_time());
+    add(all, "names", names());
+    add(all, "port_mapping_check", port_mapping_checks());
+    add(all, "l3forwarding_check", forwarding_checks());
+    add(all, "mgtserver_check", management_checks());
+    add(all, "time_check", time_checks());
+    add(all, "branding_check", branding_checks());
+    for (Check& check : all) link(check.steps, all);
+    return all;
+}
+
+}  // namespace
+
+const std::vector<Check>& checks()
+{
+    // Linking is by address, so the list is not moved once it is linked.
+    static const std::vector<Check> all = make_checks();
+    return all;
+}
+
+Check registered(Check check)
+{
+    Registration{check};
+    link(check.steps, checks());
+    return check;
+}
+
+const Check* find(std::string_view name)
+{
+    static const auto index = [] {
+        std::map<std::string_view, const Check*> result;
+        for (const Check& check : checks()) result.emplace(check.name, &check);
+        return result;
+    }();
+    const auto found = index.find(name);
+    return found == index.end() ? nullptr : found->second;
+}
+
+}  // namespace ostrel::rules

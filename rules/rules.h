@@ -1,0 +1,46 @@
+// All descriptions, by the modules of the library.
+#ifndef OSTREL_RULES_RULES_H
+#define OSTREL_RULES_RULES_H
+
+#include <string_view>
+#include <vector>
+
+#include "rules/vocabulary.h"
+
+namespace ostrel::rules {
+
+// checks lists every description. Throws std::logic_error for one that names what is not there.
+const std::vector<Check>& checks();
+
+// find gives the description of that name, or NULL.
+const Check* find(std::string_view name);
+
+// registered makes a description ready to be evaluated that is not among checks(). Throws as checks() does.
+Check registered(Check check);
+
+// The descriptions of each module.
+std::vector<Check> strings();
+std::vector<Check> addresses();
+std::vector<Check> accounts();
+std::vector<Check> subnets();
+std::vector<Check> wireless();
+std::vector<Check> parameter_checks();
+std::vector<Check> ppp_checks();
+std::vector<Check> lan_checks();
+std::vector<Check> wlan_checks();
+std::vector<Check> wlan_modes();  // the four that wlan_checks is made of
+std::vector<Check> wlan_keys();
+std::vector<Check> wlan_radio();
+std::vector<Check> wlan_settings();
+std::vector<Check> hosts();
+std::vector<Check> date_time();
+std::vector<Check> names();
+std::vector<Check> port_mapping_checks();
+std::vector<Check> forwarding_checks();
+std::vector<Check> management_checks();
+std::vector<Check> time_checks();
+std::vector<Check> branding_checks();
+
+}  // namespace ostrel::rules
+
+#endif

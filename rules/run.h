@@ -1,0 +1,117 @@
+// Run: one evaluation. It is for evaluate.cpp, operands.cpp and conditions.cpp alone.
+#ifndef OSTREL_RULES_RUN_H
+#define OSTREL_RULES_RUN_H
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rules/evaluate.h"
+
+namespace ostrel::rules {
+
+// Place says which argument of the call a text or number comes from, and which part of it.
+struct Place {
+    std::optional<std::size_t> argument;
+    std::optional<std::size_t> item;
+    std::optional<std::size_t> offset;  // where a text begins in the argument's
+};
+
+// Operand is what an expression is in a call.
+struct Operand {
+    enum class Kind { kNull, kText, kNumber, kSet, kBlocks, kNowhere };
+
+    Kind kind = Kind::kNull;
+    std::string_view text;
+    long long number = 0;
+    Set set;
+    Place place;
+};
+
+// Integer is an operand as a number.
+struct Integer {
+    long long value = 0;
+    std::string_view beyond_int;  // what stands in the text, when an int does not hold it
+    Place place;
+};
+
+// Frame is a check that is being evaluated: the one that was called, or one that another uses.
+struct Frame {
+    const Check& check;
+    std::vector<Operand> slots;
+    Operand item = {};
+    Operand rest = {};
+    long long index = 0;
+    bool is_last_item = false;
+    const std::vector<std::string_view>* row = nullptr;  // of a table, found last
+    bool is_called = false;  // it is the check that was called, so that what it writes stays
+    int code = 0;
+    bool is_refusal = false;
+    Reason reason = {};
+};
+
+// Ended is thrown where the contract promises nothing of a call.
+struct Ended {
+    Outside outside;
+};
+
+class Run {
+ public:
+    Run(const Check& check, const Build& build, Counts* counts)
+        : called_(check), build_(build), counts_(counts)
+    {
+    }
+
+    Answer evaluate(std::span<const Value> values);
+
+ private:
+    enum class Flow { kOn, kNextItem, kEnd };
+
+    // Operands.
+    Operand operand(const Expression& expression, Frame& frame);
+    Operand cut(const Expression& expression, Frame& frame);
+    Operand text(const Expression& expression, Frame& frame);  // and no NULL
+    Integer number(const Expression& expression, Frame& frame);
+    Operand computed(const Expression& expression, Frame& frame);
+    std::string_view keep(std::string text) { return kept_.emplace_back(std::move(text)); }
+
+    // Conditions. A reason is made where one is wanted.
+    static bool same(std::string_view a, std::string_view b, bool ignores_case);
+    bool holds(const Condition& condition, Frame& frame, Reason* reason);
+    bool holds_at_all(const Condition& condition, Frame& frame, Reason* reason);
+    bool text_holds(const Condition& condition, Frame& frame, Reason* reason);
+    bool length_holds(const Condition& condition, Frame& frame, Reason* reason);
+    bool number_holds(const Condition& condition, Frame& frame, Reason* reason);
+    bool shape_holds(const Condition& condition, Frame& frame, Reason* reason);
+    bool row_holds(const Condition& condition, Frame& frame, Reason* reason);
+    bool equality_holds(const Condition& condition, Frame& frame, Reason* reason);
+    bool others_hold(const Condition& condition, Frame& frame, Reason* reason);
+    bool is_refused_by(const Condition& condition, Frame& frame, Reason* reason);
+    void tell(Reason& reason, const Place& where, std::string_view id, Datum found, Datum allowed) const;
+
+    // Steps.
+    Flow run(const std::vector<Step>& steps, Frame& frame);
+    Flow run(const Step& step, Frame& frame);
+    Flow run_list(const Step& step, Frame& frame);
+    Flow decide(const Step& step, Frame& frame, Reason reason);
+    void act(const Step& step, Frame& frame, const Reason& reason);
+    void print(const std::vector<Line>& lines, Frame& frame, const Reason& reason);
+    void write(const Write& write, Frame& frame);
+    [[nodiscard]] Value value_of(const Operand& slot) const;
+
+    const Check& called_;
+    const Build& build_;
+    Counts* counts_;
+    Answer answer_;
+    std::vector<std::string_view> blocks_;  // of the argument that has several
+    std::deque<std::string> kept_;
+    const Reason* fault_ = nullptr;                   // while lines are printed
+    const std::vector<Line>* fault_lines_ = nullptr;  // of the group of a shape that is at fault
+    int its_code_ = 0;                                // of the check that was last used
+};
+
+}  // namespace ostrel::rules
+
+#endif

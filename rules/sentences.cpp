@@ -1,0 +1,167 @@
+#include "rules/sentences.h"
+
+#include <algorithm>
+
+namespace ostrel::rules {
+
+namespace {
+
+constexpr Sentence kSentences[] = {
+    {"a_multiple", "is {found}; a multiple of {allowed} is not allowed"},
+    {"accepted", "is of a form that is not allowed here"},
+    {"already_listed", "has {found}, which is in the list already"},
+    {"another_length", "has {found} {found:byte|bytes}; earlier ones have {allowed}"},
+    {"another_subnet", "begins with {found}; the subnet is {allowed}"},
+    {"contains", "byte {position} is where {found} begins, which is not allowed"},
+    {"empty", "is empty"},
+    {"end_before_start", "ends in {found}; the number may not be below {allowed}, the last one of the start"},
+    {"equal", "is {found}, which is not allowed"},
+    {"forbidden_form", "is {allowed}, which is not allowed here"},
+    {"forbidden_keyword", "is {found}; none of {allowed} is allowed"},
+    {"forbidden_length", "has {found} {found:byte|bytes}, which is not allowed"},
+    {"forbidden_prefix", "begins with {allowed}, which is not allowed"},
+    {"forbidden_shape", "is of a form that is not allowed here"},
+    {"forbidden_suffix", "ends with {allowed}, which is not allowed"},
+    {"group_address",
+     "byte {position} is {byte}, which makes it the address of a group; {allowed} are allowed there"},
+    {"in_table", "is {found}, which is not allowed"},
+    {"incomplete", "ends where {allowed} {allowed:is|are} expected as byte {position}"},
+    {"lacks", "has no {allowed}"},
+    {"last_item", "is the last one"},
+    {"list_full", "would make the list {found} {found:byte|bytes} long; at most {allowed} are allowed"},
+    {"listed_by_driver", "is {found}, which the wireless driver lists"},
+    {"no_key_left", "has no key that is printable and not empty"},
+    {"not_a_keyword", "is none of {allowed}"},
+    {"not_a_multiple", "is {found}; a multiple of {allowed} is needed"},
+    {"not_empty", "is not empty"},
+    {"not_equal", "is {found}; {allowed} is allowed"},
+    {"not_in_set", "byte {position} is {byte}; {allowed} {allowed:is|are} allowed"},
+    {"not_in_table", "{found} goes with none of the known rows"},
+    {"not_listed", "is {found}, which is not in the list"},
+    {"not_listed_by_driver", "is {found}; the wireless driver lists {allowed}"},
+    {"not_mac_addresses_in_length",
+     "has a length that makes it no list of MAC addresses: with one separator it is {found}, "
+     "and a multiple of {allowed} is needed"},
+    {"not_null", "is not NULL"},
+    {"null", "is NULL"},
+    {"number_beyond_int", "is {found}, which an int does not hold; this gateway reads it as {read_as}"},
+    {"number_forbidden", "is {found}; none of {allowed} is allowed"},
+    {"number_not_allowed", "is {found}; only {allowed} {allowed:is|are} allowed"},
+    {"number_too_high", "is {found}; at most {allowed} is allowed"},
+    {"number_too_low", "is {found}; at least {allowed} is needed"},
+    {"only_of_set", "is made of {allowed} alone"},
+    {"repeated_item", "has {found} again"},
+    {"too_long", "has {found} {found:byte|bytes}; at most {allowed} {allowed:is|are} allowed"},
+    {"too_many_items", "has {found} items; at most {allowed} {allowed:is|are} allowed"},
+    {"too_much", "byte {position} should be the end"},
+    {"too_short", "has {found} {found:byte|bytes}; at least {allowed} {allowed:is|are} needed"},
+    {"wrong_item_count", "has {found} {found:part|parts}; {allowed} are needed"},
+    {"wrong_length", "has {found} {found:byte|bytes}; {allowed} are needed"},
+    {"wrong_prefix", "does not begin with {allowed}"},
+    {"wrong_shape", "byte {position} is {byte}; {allowed} {allowed:is|are} expected there"},
+    {"wrong_suffix", "does not end with {allowed}"},
+};
+
+template <typename T, typename F>
+std::string joined(const std::vector<T>& values, F shown)
+{
+    std::string result;
+    for (const T& value : values) result += (result.empty() ? "" : ", ") + shown(value);
+    return result;
+}
+
+// A keyword stands without quotation marks where it cannot be taken for something else.
+std::string keyword(const std::string& word)
+{
+    const bool is_plain = !word.empty() && std::ranges::all_of(word, [](char c) {
+        return c > ' ' && c <= '~' && c != ',' && c != '"';
+    });
+    return is_plain ? word : quoted(word);
+}
+
+std::string shown(const Datum& datum)
+{
+    if (const auto* number = std::get_if<long long>(&datum)) return std::to_string(*number);
+    if (const auto* text = std::get_if<std::string>(&datum)) return quoted(*text);
+    if (const auto* set = std::get_if<Set>(&datum)) return in_words(*set);
+    if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) return joined(*words, keyword);
+    if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) {
+        return joined(*numbers, [](long long number) { return std::to_string(number); });
+    }
+    return "";
+}
+
+bool is_one(const Datum& datum)
+{
+    if (const auto* number = std::get_if<long long>(&datum)) return *number == 1;
+    if (const auto* set = std::get_if<Set>(&datum)) return set->size() == 1;
+    if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) return words->size() == 1;
+    if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) return numbers->size() == 1;
+    return true;
+}
+
+std::string counted(const std::optional<std::size_t>& from_zero)
+{
+    return from_zero ? std::to_string(*from_zero + 1) : "";
+}
+
+std::string value_of(std::string_view name, const Reason& reason)
+{
+    const std::size_t colon = name.find(':');
+    if (colon != std::string_view::npos) {
+        const std::string_view forms = name.substr(colon + 1);
+        const std::size_t bar = forms.find('|');
+        const bool is_found = name.substr(0, colon) == "found";
+        return std::string(is_one(is_found ? reason.found : reason.allowed) ? forms.substr(0, bar)
+                                                                            : forms.substr(bar + 1));
+    }
+    if (name == "found")
+        return reason.id == "number_beyond_int" ? std::get<std::string>(reason.found) : shown(reason.found);
+    if (name == "allowed") return shown(reason.allowed);
+    if (name == "position") return counted(reason.offset);
+    if (name == "item") return counted(reason.item);
+    if (name == "read_as") return reason.read_as ? std::to_string(*reason.read_as) : "";
+    const auto* byte = std::get_if<std::string>(&reason.found);
+    return byte == nullptr || byte->empty() ? "" : byte_in_words(byte->front());
+}
+
+}  // namespace
+
+std::span<const Sentence> sentences() { return kSentences; }
+
+std::string sentence(const Reason& reason)
+{
+    const auto* known = std::ranges::lower_bound(kSentences, reason.id, {}, &Sentence::id);
+    if (known == std::end(kSentences) || known->id != reason.id) return "";
+    std::string result;
+    std::string_view rest = known->text;
+    while (!rest.empty()) {
+        const std::size_t begin = std::min(rest.find('{'), rest.size());
+        result += rest.substr(0, begin);
+        rest.remove_prefix(begin);
+        if (rest.empty()) break;
+        const std::size_t end = rest.find('}');
+        result += value_of(rest.substr(1, end - 1), reason);
+        rest.remove_prefix(end + 1);
+    }
+    return result;
+}
+
+std::string quoted(std::string_view text)
+{
+    constexpr std::size_t kLongest = 64;
+    constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+    std::string result = "\"";
+    for (const char c : text.substr(0, kLongest)) {
+        if (c == '"' || c == '\\') result += '\\';
+        if (c >= ' ' && c <= '~') {
+            result += c;
+        } else {
+            const auto code = static_cast<unsigned char>(c);
+            result += {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
+        }
+    }
+    return result + (text.size() > kLongest ? "...\"" : "\"");
+}
+
+}  // namespace ostrel::rules

@@ -1,0 +1,119 @@
+#include "rules/set.h"
+
+#include <bit>
+#include <vector>
+
+#include "rules/sets.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+struct Group {
+    Set set;
+    std::string_view words;
+};
+
+// In the order in which they are said. What a group takes is not said again.
+constexpr Group kGroups[] = {
+    {kLatin1, "printable Latin-1 characters"},
+    {kPrintable, "printable ASCII characters"},
+    {kLetters, "letters"},
+    {kUpper, "upper-case letters"},
+    {kLower, "lower-case letters"},
+    {kHex, "hexadecimal digits"},
+    {kDigits, "digits"},
+    {Set::range('A', 'F'), "A to F"},
+    {Set::range('a', 'f'), "a to f"},
+    {kBlank, "blanks"},
+};
+
+std::string bare(char byte)
+{
+    if (byte > ' ' && byte <= '~') return std::string(1, byte);
+    constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+    const auto code = static_cast<unsigned char>(byte);
+    return {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
+}
+
+std::string join(const std::vector<std::string>& parts)
+{
+    std::string result;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        if (i > 0) result += i + 1 == parts.size() ? " and " : ", ";
+        result += parts[i];
+    }
+    return result;
+}
+
+// add_runs names single bytes, and runs of at least four by their ends. A run is said as a part of its own.
+void add_runs(const std::string& members, std::vector<std::string>& parts)
+{
+    std::string single;
+    for (std::size_t begin = 0; begin < members.size();) {
+        std::size_t end = begin + 1;
+        while (end < members.size() &&
+               static_cast<unsigned char>(members[end]) == static_cast<unsigned char>(members[end - 1]) + 1) {
+            ++end;
+        }
+        const bool is_mark = members[begin] > ' ' && members[begin] < '0';
+        if (end - begin >= 4 && !is_mark) {
+            parts.push_back(bare(members[begin]) + " to " + bare(members[end - 1]));
+        } else {
+            for (std::size_t i = begin; i < end; ++i)
+                single += (single.empty() ? "" : " ") + bare(members[i]);
+        }
+        begin = end;
+    }
+    if (!single.empty()) parts.push_back(single);
+}
+
+}  // namespace
+
+std::size_t Set::size() const
+{
+    std::size_t count = 0;
+    for (const std::uint64_t word : bits_) count += static_cast<std::size_t>(std::popcount(word));
+    return count;
+}
+
+std::string Set::members() const
+{
+    std::string result;
+    for (unsigned byte = 0; byte < 256; ++byte) {
+        if (contains(static_cast<unsigned char>(byte))) result += static_cast<char>(byte);
+    }
+    return result;
+}
+
+std::size_t Set::find_outside(std::string_view text) const
+{
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (!contains(text[i])) return i;
+    }
+    return std::string_view::npos;
+}
+
+std::string in_words(const Set& set)
+{
+    if (set.empty()) return "no bytes";
+    if (set.size() == 1) return byte_in_words(set.members().front());
+    std::vector<std::string> parts;
+    Set rest = set;
+    for (const Group& group : kGroups) {
+        if (!rest.contains(group.set)) continue;
+        parts.emplace_back(group.words);
+        rest = rest - group.set;
+    }
+    add_runs(rest.members(), parts);
+    return join(parts);
+}
+
+std::string byte_in_words(char byte)
+{
+    if (byte == ' ') return "a blank";
+    if (byte > ' ' && byte <= '~') return "\"" + std::string(1, byte) + "\"";
+    return bare(byte);
+}
+
+}  // namespace ostrel::rules

@@ -1,0 +1,72 @@
+// Set: which bytes are allowed somewhere, and how that is said.
+#ifndef OSTREL_RULES_SET_H
+#define OSTREL_RULES_SET_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ostrel::rules {
+
+class Set {
+ public:
+    constexpr Set() = default;
+    constexpr explicit Set(std::string_view members)
+    {
+        for (const char c : members) add(static_cast<unsigned char>(c));
+    }
+
+    // range holds the bytes from first to last.
+    static constexpr Set range(unsigned first, unsigned last)
+    {
+        Set set;
+        for (unsigned byte = first; byte <= last; ++byte) set.add(byte);
+        return set;
+    }
+
+    constexpr Set operator|(const Set& other) const
+    {
+        Set set = *this;
+        for (std::size_t i = 0; i < bits_.size(); ++i) set.bits_[i] |= other.bits_[i];
+        return set;
+    }
+    constexpr Set operator-(const Set& other) const
+    {
+        Set set = *this;
+        for (std::size_t i = 0; i < bits_.size(); ++i) set.bits_[i] &= ~other.bits_[i];
+        return set;
+    }
+    constexpr bool operator==(const Set&) const = default;
+
+    [[nodiscard]] constexpr bool contains(char c) const { return contains(static_cast<unsigned char>(c)); }
+    [[nodiscard]] constexpr bool contains(unsigned char c) const
+    {
+        return (bits_[c / 64] >> c % 64 & 1) != 0;
+    }
+    [[nodiscard]] constexpr bool contains(const Set& other) const { return (*this | other) == *this; }
+    [[nodiscard]] std::size_t size() const;
+    [[nodiscard]] bool empty() const { return *this == Set(); }
+
+    // members lists the bytes in their order.
+    [[nodiscard]] std::string members() const;
+
+    // find_outside gives the offset of the first byte of text that is no member, or npos.
+    [[nodiscard]] std::size_t find_outside(std::string_view text) const;
+
+ private:
+    constexpr void add(unsigned byte) { bits_[byte / 64] |= std::uint64_t{1} << byte % 64; }
+
+    std::array<std::uint64_t, 4> bits_{};
+};
+
+// in_words names the members: "letters, digits and - . _".
+std::string in_words(const Set& set);
+
+// byte_in_words shows a byte so that it can stand in a sentence: "x", a blank, \x9F.
+std::string byte_in_words(char byte);
+
+}  // namespace ostrel::rules
+
+#endif

@@ -1,0 +1,66 @@
+#include "rules/rules.h"
+#include "rules/words.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+std::vector<Step> judge_last_number(const char* address)
+{
+    return {refuse(-1, below(after_last(address, "."), 1)), refuse(-1, above(after_last(address, "."), 254))};
+}
+
+Step judge_subnet(const char* address)
+{
+    return refuse(-1, refused_by("isInSameSubnet", {"lanAddress", address}));
+}
+
+// A repetition is looked for anywhere in the rest, but its end only where an item next to this one would end.
+Condition repeats_item()
+{
+    return all_of({not_(last_item()),
+                   any_of({equal(length("rest"), length("item")),
+                           equal(slice("rest", length("item"), 1), literal(","))}),
+                   because("repeated_item", contains("rest", "item"))});
+}
+
+}  // namespace
+
+std::vector<Check> subnets()
+{
+    return {
+        check("isInSameSubnet",
+              {text("reference", "an address of the subnet"),
+               text("address", "the address that should be in it")},
+              {refuse(-1, because("another_subnet",
+                                  not_equal(slice("address", 0, length(through_last("reference", "."))),
+                                            through_last("reference", "."))))}),
+        check("TcmValidateAddressRange",
+              {text("startAddress", "the first address of the pool"),
+               text("endAddress", "the last address of the pool"),
+               text("lanAddress", "the gateway's own address on the LAN")},
+              joined_steps(
+                  {{refuse(-1, refused_by("TcmValidateIPAddress", {"startAddress"})),
+                    refuse(-1, refused_by("TcmValidateIPAddress", {"endAddress"})),
+                    refuse(-1, not_(contains("lanAddress", literal(".")))), judge_subnet("startAddress"),
+                    judge_subnet("endAddress")},
+                   judge_last_number("startAddress"),
+                   judge_last_number("endAddress"),
+                   {refuse(-1, because("end_before_start", below(after_last("endAddress", "."),
+                                                                 after_last("startAddress", "."))))}})),
+        check("TcmValidateReservedAddress",
+              {text("reservedList", "the reserved addresses"),
+               text("lanAddress", "the gateway's own address on the LAN")},
+              {for_each(list_of("reservedList", ',', kBlank),
+                        {judge_subnet("item"), refuse(701, repeats_item())})}),
+        check("TcmValidateIPRouter", {text("address", "the gateway's own address on the LAN")},
+              joined_steps({{refuse(-1, refused_by("TcmValidateIPAddress")),
+                             refuse(-1, not_(begins_with({"192.168."})))},
+                            judge_last_number(it)})),
+        check("TcmValidateofferDNS", {text("dnsList", "the DNS servers that are offered")},
+              {refuse(-1, because("too_many_items", above(items(it, ","), 2))),
+               for_each(list_of(it, ',', kBlank), {refuse(-1, refused_by("TcmValidateIPAddress"))})}),
+    };
+}
+
+}  // namespace ostrel::rules

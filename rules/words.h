@@ -1,0 +1,179 @@
+// The words that descriptions are written with. README.md has them in a table.
+#ifndef OSTREL_RULES_WORDS_H
+#define OSTREL_RULES_WORDS_H
+
+#include <initializer_list>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "rules/sets.h"
+#include "rules/vocabulary.h"
+
+namespace ostrel::rules {
+
+// Words and Numbers are the members of a condition.
+using Words = std::vector<std::string_view>;
+using Numbers = std::vector<long long>;
+
+// it is what is judged where nothing is named: the item of a list, or else the first argument.
+inline constexpr char it[] = "";
+
+// Texts and numbers.
+inline Expression make(Expression::Kind kind, std::vector<Expression> of) { return {kind, std::move(of)}; }
+Expression literal(std::string_view text);
+Expression converted(const Conversion& conversion, Expression text);
+inline Expression model() { return make(Expression::Kind::kModel, {}); }
+inline Expression account_realm() { return make(Expression::Kind::kAccountRealm, {}); }
+inline Expression setup_realm() { return make(Expression::Kind::kSetupRealm, {}); }
+inline Expression nowhere() { return make(Expression::Kind::kNowhere, {}); }
+inline Expression index() { return make(Expression::Kind::kIndex, {}); }
+Expression before_first(Expression text, std::string_view separator);
+Expression before_last(Expression text, std::string_view separator);
+Expression after_first(Expression text, std::string_view separator);
+Expression after_last(Expression text, std::string_view separator);
+Expression through_last(Expression text, std::string_view separator);
+Expression slice(Expression text, Expression offset);
+Expression slice(Expression text, Expression offset, Expression count);
+Expression joined(std::initializer_list<Expression> texts);
+Expression length(Expression text = it);
+Expression count(Expression text, Expression byte);
+Expression items(Expression text, std::string_view separator);  // how many a list has
+Expression sum(std::initializer_list<Expression> numbers);
+Expression larger(std::initializer_list<Expression> numbers);
+Expression days(Expression year, Expression month);  // of a month; 0 for none
+Expression cell(int column);                         // of the row that was found last
+
+// Conditions. Those without a text judge it.
+Condition always();
+Condition null(Expression argument);
+Condition empty(Expression text = it);
+Condition shorter_than(Expression text, Expression bytes);
+inline Condition shorter_than(Expression bytes) { return shorter_than(it, std::move(bytes)); }
+Condition longer_than(Expression text, Expression bytes);
+inline Condition longer_than(Expression bytes) { return longer_than(it, std::move(bytes)); }
+Condition length_is(Expression text, Numbers lengths);
+inline Condition length_is(Numbers lengths) { return length_is(it, std::move(lengths)); }
+Condition outside(Expression text, Expression set);
+inline Condition outside(Expression set) { return outside(it, std::move(set)); }
+Condition one_of(Expression text, Words words);
+inline Condition one_of(Words words) { return one_of(it, std::move(words)); }
+Condition begins_with(Expression text, Words words);
+inline Condition begins_with(Words words) { return begins_with(it, std::move(words)); }
+Condition ends_with(Expression text, Expression suffix);
+Condition below(Expression number, Expression limit);
+inline Condition below(Expression limit) { return below(it, std::move(limit)); }
+Condition above(Expression number, Expression limit);
+inline Condition above(Expression limit) { return above(it, std::move(limit)); }
+Condition among(Expression number, Numbers numbers);
+inline Condition among(Numbers numbers) { return among(it, std::move(numbers)); }
+Condition multiple(Expression number, Expression of);
+Condition equal(Expression one, Expression other);
+Condition contains(Expression text, Expression part);
+Condition has_shape(Expression text, std::vector<Shape> shapes);
+inline Condition has_shape(std::vector<Shape> shapes) { return has_shape(it, std::move(shapes)); }
+Condition fails(const Grammar& grammar, Expression text = it);
+Condition in_table(const Table& table, std::vector<Match> matches);
+Condition refused_by(std::string_view check, std::vector<Expression> arguments = {it});
+Condition listed_by_driver(Expression number);
+Condition last_item();
+Condition all_of(std::vector<Condition> parts);
+Condition any_of(std::vector<Condition> parts);
+Condition not_(Condition condition);
+Condition ignoring_case(Condition condition);
+Condition because(std::string_view id, Condition condition);
+
+// Their opposites.
+inline Condition none_of(Expression text, Words words)
+{
+    return not_(one_of(std::move(text), std::move(words)));
+}
+inline Condition none_of(Words words) { return none_of(it, std::move(words)); }
+inline Condition not_empty(Expression text = it) { return not_(empty(std::move(text))); }
+inline Condition length_not(Expression text, Numbers n)
+{
+    return not_(length_is(std::move(text), std::move(n)));
+}
+inline Condition length_not(Numbers n) { return length_not(it, std::move(n)); }
+inline Condition not_among(Expression number, Numbers n)
+{
+    return not_(among(std::move(number), std::move(n)));
+}
+inline Condition not_equal(Expression one, Expression other)
+{
+    return not_(equal(std::move(one), std::move(other)));
+}
+inline Condition lacks_shape(Expression text, std::vector<Shape> s)
+{
+    return not_(has_shape(std::move(text), std::move(s)));
+}
+inline Condition lacks_shape(std::vector<Shape> s) { return lacks_shape(it, std::move(s)); }
+
+// Groups of a shape.
+Group one(std::string_view bytes);
+Group some(const Set& set, std::size_t exactly);
+Group some(const Set& set, std::size_t least, std::size_t most);
+Group printing(Group group, Line line);
+
+// Lines.
+inline Line line(std::string_view text) { return {text}; }  // and all streams are flushed
+inline Line unflushed(std::string_view text) { return {text, Line::Stream::kOut, false}; }
+inline Line to_stderr(std::string_view text) { return {text, Line::Stream::kErr, false}; }
+
+// Effects is what a step prints and writes besides, in order.
+struct Effects {
+    Effects() = default;
+    Effects(Line one) : lines{std::move(one)} {}
+    Effects(Write one) : writes{std::move(one)} {}
+    Effects(std::vector<Line> all) : lines(std::move(all)) {}
+    Effects(std::vector<Line> all, std::vector<Write> also) : lines(std::move(all)), writes(std::move(also))
+    {
+    }
+
+    std::vector<Line> lines;
+    std::vector<Write> writes;
+};
+
+// Steps.
+Code its_code();                                                      // what the other check answered
+Code its_code(std::initializer_list<std::pair<int, int>> exchanges);  // but one as another
+Step refuse(Code code, Condition condition, Effects effects = {});
+Step accept(Condition condition = always(), Effects effects = {});
+Step answer(Code code, Condition condition = always(), Effects effects = {});
+Step print(Effects effects, Condition condition = always());
+Step skip(Condition condition, Effects effects = {});
+Step write(Expression target, Expression value);
+Step remember(std::string_view name, Expression value);
+Step when(Condition condition, std::vector<Step> steps, std::vector<Step> otherwise = {});
+Step for_each(List list, std::vector<Step> steps);
+Step reads(Expression argument);
+Step never_returns(Condition condition);
+List list_of(Expression text, char separator, const Set& trimmed = {});
+List keys_of(Expression blocks);
+
+// steps joins several lists of steps that checks share.
+std::vector<Step> joined_steps(std::initializer_list<std::vector<Step>> lists);
+
+// Arguments. What is said of one is added to it: text("value", "a password").secret().
+struct ArgumentWords : Argument {
+    ArgumentWords&& in(std::string_view text) &&;  // its unit
+    ArgumentWords&& secret() &&;
+    ArgumentWords&& asserts(std::string_view text) &&;  // the condition that is printed for NULL
+    ArgumentWords&& needs(Expression bytes) &&;         // the room of a buffer
+    ArgumentWords&& output() &&;                        // nothing of the buffer is read
+};
+ArgumentWords text(std::string_view name, std::string_view what);
+ArgumentWords buffer(std::string_view name, std::string_view what);
+ArgumentWords blocks(std::string_view name, std::string_view what, std::size_t count, std::size_t distance);
+ArgumentWords integer(std::string_view name, std::string_view what);
+ArgumentWords natural(std::string_view name, std::string_view what);
+ArgumentWords integer_out(std::string_view name, std::string_view what);
+
+// The whole.
+Check check(std::string_view name, std::vector<ArgumentWords> arguments, std::vector<Step> steps);
+Check number(std::string_view name, std::vector<ArgumentWords> arguments, std::vector<Step> steps);
+std::vector<Check> joined_checks(std::initializer_list<std::vector<Check>> lists);
+
+}  // namespace ostrel::rules
+
+#endif

@@ -1,0 +1,104 @@
+// Agreement test: what the descriptions say of every row of vectors/*.ndjson, and of many calls that are made from
+// them and from the descriptions themselves, compared with what the library does.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <map>
+#include <string>
+
+#include "rules/evaluate.h"
+#include "rules/rules.h"
+#include "tests/rules/trials.h"
+#include "tests/support/vectors.h"
+
+namespace ostrel::tests {
+
+using catalogue::Caller;
+using catalogue::Capture;
+using catalogue::Function;
+using rules::Answer;
+using rules::Build;
+using rules::Check;
+
+namespace {
+
+TEST(AgreementTest, VectorsAndDescriptions)
+{
+    std::size_t count = 0;
+    for (const Row& row : read_cases()) {
+        const Function& function = *row.given.function;
+        const Check* check = rules::find(function.name);
+        if (check == nullptr) continue;
+        SCOPED_TRACE(row.text.substr(0, 300));
+        Build build = library_build();
+        if (row.overflows) build.atoi = Build::Atoi::kLong64;
+        const Answer answer = rules::evaluate(*check, complete(function, row.given.values), build);
+        EXPECT_EQ(answer.outside, rules::Outside::kNo);
+        Caller caller;
+        caller.load(function, row.given.values);
+        EXPECT_EQ(expected_outcome(row, caller.written()), outcome_of(answer));
+        EXPECT_EQ(reason_fault(answer), "");
+        if (check->is_verdict) {
+            EXPECT_EQ(answer.is_refusal, answer.code != 0);
+        }
+        ++count;
+    }
+    EXPECT_GT(count, 0);
+}
+
+TEST(AgreementTest, LibraryAndDescriptions)
+{
+    const char* given = std::getenv("OSTREL_TEST_RUNS");
+    const std::size_t runs = given == nullptr ? 2000 : std::strtoul(given, nullptr, 10);
+    for (const Check& check : rules::checks()) {
+        const Function* function = catalogue::find(check.name);
+        ASSERT_NE(function, nullptr) << check.name;
+        Trials trials(*function, check);
+        {
+            Capture capture;
+            trials.run(runs, capture);
+        }
+        EXPECT_EQ(trials.difference, "");
+        const rules::Counts::OfCheck& of = trials.counts.checks[check.number];
+        const auto never = [](const std::vector<std::uint64_t>& counts) {
+            return std::ranges::count(counts, 0U);
+        };
+        std::printf("%-40s %8zu calls, %8zu refused; never: %td of %zu steps, %td of %zu conditions\n",
+                    std::string(check.name).c_str(), trials.calls, trials.refusals, never(of.steps),
+                    of.steps.size(), never(of.held), of.held.size());
+    }
+}
+
+TEST(AgreementTest, ArgumentsAreThoseOfTheHeaders)
+{
+    for (const Check& check : rules::checks()) {
+        const Function* function = catalogue::find(check.name);
+        ASSERT_NE(function, nullptr) << check.name;
+        ASSERT_EQ(check.arguments.size(), function->arguments.size()) << check.name;
+        for (std::size_t i = 0; i < check.arguments.size(); ++i) {
+            EXPECT_EQ(check.arguments[i].name, function->arguments[i].name) << check.name;
+            EXPECT_EQ(static_cast<int>(check.arguments[i].kind),
+                      static_cast<int>(function->arguments[i].kind))
+                << check.name;
+        }
+    }
+}
+
+// What is not described yet is listed.
+TEST(AgreementTest, DescribedFunctions)
+{
+    std::map<std::string, std::string> missing;
+    for (const Function& function : catalogue::functions()) {
+        if (rules::find(function.name) == nullptr)
+            missing[std::string(function.family)] += " " + std::string(function.name);
+    }
+    for (const auto& [family, names] : missing)
+        std::printf("not described, %s:%s\n", family.c_str(), names.c_str());
+}
+
+}  // namespace
+
+}  // namespace ostrel::tests
