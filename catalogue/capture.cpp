@@ -31,17 +31,25 @@ std::FILE* open_stream(Prints::Text& text, int buffering)
     return stream;
 }
 
-Prints* map_prints()
+Prints& map_prints()
 {
     void* memory = mmap(nullptr, sizeof(Prints), PROT_READ | PROT_WRITE,
                         MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (memory == MAP_FAILED) throw std::bad_alloc();
-    return static_cast<Prints*>(memory);
+    return *static_cast<Prints*>(memory);
+}
+
+// own_prints is the memory of those captures that are given none: mapping it anew would take longer than most
+// calls.
+Prints& own_prints()
+{
+    static Prints& prints = map_prints();
+    return prints;
 }
 
 }  // namespace
 
-Capture::Capture() : Capture(*map_prints()) { owned_ = prints_; }
+Capture::Capture() : Capture(own_prints()) {}
 
 Capture::Capture(Prints& prints)
     : prints_(&prints),
@@ -62,7 +70,6 @@ Capture::~Capture()
     stderr = saved_err_;
     std::fclose(stream_out_);
     std::fclose(stream_err_);
-    if (owned_ != nullptr) munmap(owned_, sizeof *owned_);
 }
 
 void Capture::clear()

@@ -62,7 +62,6 @@ class Capture {
 
  private:
     Prints* prints_;
-    Prints* owned_ = nullptr;
     std::FILE* saved_out_;
     std::FILE* saved_err_;
     std::FILE* stream_out_;
