@@ -31,16 +31,20 @@ std::FILE* open_stream(Prints::Text& text, int buffering)
     return stream;
 }
 
-// own_prints is kept for the next capture: to map and to touch new memory takes longer than most calls.
+Prints& map_prints()
+{
+    void* memory = mmap(nullptr, sizeof(Prints), PROT_READ | PROT_WRITE,
+                        MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (memory == MAP_FAILED) throw std::bad_alloc();
+    return *static_cast<Prints*>(memory);
+}
+
+// own_prints is the memory of those captures that are given none: mapping it anew would take longer than most
+// calls.
 Prints& own_prints()
 {
-    static Prints* const prints = [] {
-        void* memory = mmap(nullptr, sizeof(Prints), PROT_READ | PROT_WRITE,
-                            MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-        if (memory == MAP_FAILED) throw std::bad_alloc();
-        return static_cast<Prints*>(memory);
-    }();
-    return *prints;
+    static Prints& prints = map_prints();
+    return prints;
 }
 
 }  // namespace

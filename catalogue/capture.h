@@ -39,7 +39,9 @@ struct Printed {
     std::string err;
 };
 
-// Capture takes the place of standard output and standard error for as long as it lives. One at a time.
+// Capture takes the place of standard output and standard error for as long as it lives. One at a time. It
+// replaces this process's streams and not its descriptors: what a process prints that the library starts goes to
+// those as ever.
 class Capture {
  public:
     Capture();

@@ -1,12 +1,11 @@
-// What the vectors cannot say of the generic checks: calls that end the process, and calls that never return.
+// What the vectors cannot say of the generic checks: calls that never return.
 
 #include <gtest/gtest.h>
 #include <ostrel/parameter_check.h>
 
 #include <array>
-#include <csignal>
+#include <cstdio>
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "tests/support/child.h"
@@ -16,59 +15,6 @@ namespace ostrel::tests {
 namespace {
 
 using std::chrono::milliseconds;
-
-struct AssertingCheck {
-    const char* name;
-    const char* condition;
-    int (*call)(const char* value_p);
-};
-
-constexpr char kCondition[] = "value_p != ((void *)0)";
-
-constexpr std::array<AssertingCheck, 8> kAssertingChecks = {{
-    {"Param_check_string_len", "((void *)0) != value_p",
-     [](const char* value_p) { return Param_check_string_len(value_p, 0, 9); }},
-    {"PARAM_check_port", kCondition, PARAM_check_port},
-    {"PARAM_check_hexa_string", kCondition, PARAM_check_hexa_string},
-    {"PARAM_check_ui2_value", kCondition, PARAM_check_ui2_value},
-    {"PARAM_check_ui4_value", kCondition, PARAM_check_ui4_value},
-    {"PARAM_check_bool_value", kCondition, PARAM_check_bool_value},
-    {"PARAM_check_bool_value_use_str", kCondition, PARAM_check_bool_value_use_str},
-    {"PARAM_check_string_prefix", kCondition,
-     [](const char* value_p) { return PARAM_check_string_prefix(value_p, "ab"); }},
-}};
-
-TEST(ParameterCheckAssertion, NullEndsTheProcessAndNamesModuleFunctionAndCondition)
-{
-    for (const AssertingCheck& check : kAssertingChecks) {
-        const ChildEnd end = run_in_child(milliseconds(10000), [&] { return check.call(nullptr); });
-        EXPECT_EQ(SIGABRT, end.signal) << check.name << testing::PrintToString(end);
-        EXPECT_EQ("", end.out) << check.name;
-        EXPECT_NE(std::string::npos, end.err.find(check.condition)) << check.name << ": " << end.err;
-#if defined(__GLIBC__) && !defined(__UCLIBC__)
-        // PROGRAM: parameter_check:LINE: FUNCTION: Assertion `CONDITION' failed.
-        const std::string module = ": parameter_check:";
-        const std::size_t line = end.err.find(module) + module.size();
-        const std::size_t rest = end.err.find_first_not_of("0123456789", line);
-        ASSERT_LT(line, rest) << check.name << ": " << end.err;
-        EXPECT_EQ(": " + std::string(check.name) + ": Assertion `" + check.condition + "' failed.\n",
-                  end.err.substr(rest));
-#endif
-    }
-}
-
-// The line of the report is that of the check, so no two checks name the same one.
-TEST(ParameterCheckAssertion, EachCheckReportsALineOfItsOwn)
-{
-    std::vector<std::string> reports;
-    for (const AssertingCheck& check : kAssertingChecks) {
-        std::string report = run_in_child(milliseconds(10000), [&] { return check.call(nullptr); }).err;
-        // The function's name would tell two reports apart in any case.
-        if (const auto place = report.find(check.name); place != std::string::npos) report.resize(place);
-        for (const std::string& earlier : reports) EXPECT_NE(earlier, report);
-        reports.push_back(std::move(report));
-    }
-}
 
 // The digit scan of these two looks at the first character for ever, and prints nothing meanwhile.
 TEST(ParameterCheckDigitScan, NeverReturnsForAValueThatBeginsWithADigit)
@@ -92,33 +38,6 @@ TEST(ParameterCheckDigitScan, NeverReturnsForAValueThatBeginsWithADigit)
             EXPECT_EQ("", end.err) << values[i];
         }
     }
-}
-
-// The child's own proof: without it the tests above could pass for the wrong reason.
-TEST(Child, TellsReturnSignalAndTimeOutApart)
-{
-    const ChildEnd returned = run_in_child(milliseconds(10000), [] {
-        std::fputs("out", stdout);
-        std::fputs("err", stderr);
-        return 7;
-    });
-    EXPECT_EQ(7, returned.status);
-    EXPECT_EQ(0, returned.signal);
-    EXPECT_FALSE(returned.timed_out);
-    EXPECT_EQ("out", returned.out);
-    EXPECT_EQ("err", returned.err);
-
-    const ChildEnd killed = run_in_child(milliseconds(10000), [] { return std::raise(SIGKILL); });
-    EXPECT_EQ(SIGKILL, killed.signal);
-    EXPECT_EQ(-1, killed.status);
-    EXPECT_FALSE(killed.timed_out);
-
-    const ChildEnd endless = run_in_child(milliseconds(50), [] {
-        for (;;) std::fflush(stdout);
-        return 0;
-    });
-    EXPECT_TRUE(endless.timed_out);
-    EXPECT_EQ(0, endless.signal);
 }
 
 }  // namespace

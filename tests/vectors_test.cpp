@@ -7,10 +7,13 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdio>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
+#include "tests/support/run_tests.h"
 #include "tests/support/vectors.h"
 
 namespace ostrel::tests {
@@ -29,9 +32,8 @@ class VectorTest : public testing::Test {
     void TestBody() override
     {
         if (!row_.fault.empty()) FAIL() << row_.fault;
-        if (!applies_here(row_)) GTEST_SKIP() << "depends on how atoi overflows";
         const Case& given = row_.given;
-        // Their memory serves all rows.
+        // The rows share them, for most of a row's time would go into mapping their memory.
         static std::array<Caller, 2> callers = {Caller(Edge::kEnd), Caller(Edge::kBegin)};
         for (Caller& caller : callers) {
             caller.load(*given.function, given.values);
@@ -65,8 +67,24 @@ void register_row(const Row& row)
 
 int main(int argc, char** argv)
 {
+    using namespace ostrel::tests;
     testing::InitGoogleTest(&argc, argv);
     const std::set<std::string> modules(argv + 1, argv + argc);
-    for (const ostrel::tests::Row& row : ostrel::tests::read_rows(modules)) ostrel::tests::register_row(row);
-    return RUN_ALL_TESTS();
+    int elsewhere = 0;
+    try {
+        for (const Row& row : read_rows(modules)) {
+            // One with a fault is registered, so that it fails.
+            if (row.fault.empty() && !applies_here(row)) {
+                ++elsewhere;
+            } else {
+                register_row(row);
+            }
+        }
+    } catch (const std::invalid_argument& error) {
+        std::fprintf(stderr, "vectors_test: %s\n", error.what());
+        return 1;
+    }
+    const int status = run_tests();
+    if (elsewhere > 0) std::printf("%d rows hold for C libraries with another atoi\n", elsewhere);
+    return status;
 }

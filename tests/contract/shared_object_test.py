@@ -179,7 +179,7 @@ class SharedObject(unittest.TestCase):
     def test_no_floating_point(self):
         """On MIPS each floating-point instruction shows itself by its name; one processor speaks for all."""
         if "MIPS" not in self.header:
-            self.skipTest("no MIPS")
+            return
         code = subprocess.run([READELF.replace("readelf", "objdump"), "--disassemble", "--no-show-raw-insn", LIBRARY],
                               check=True, capture_output=True, text=True).stdout
         instructions = {match[1] for match in re.finditer(r"^ *[0-9a-f]+:\t(\S+)", code, re.MULTILINE)}

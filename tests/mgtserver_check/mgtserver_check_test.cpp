@@ -1,4 +1,4 @@
-// Assertions, checks that have none, and what is written into the caller's buffer.
+// Checks that do not test for NULL, and what is written into the caller's buffer.
 
 #include <gtest/gtest.h>
 #include <ostrel/mgtserver_check.h>
@@ -14,24 +14,6 @@
 namespace ostrel::tests {
 
 namespace {
-
-struct Check {
-    int (*function)(const char* value_p);
-    const char* name;
-    int line;
-};
-
-// The line of an assertion is contract, and so is the name: those that forward fail in the check behind them.
-constexpr Check kAsserting[] = {
-    {MGTSERVER_check_server_url, "MGTSERVER_check_server_url", 41},
-    {MGTSERVER_check_firmware_url, "MGTSERVER_check_firmware_url", 75},
-    {MGTSERVER_check_server_password, "MGTSERVER_check_server_password", 105},
-    {MGTSERVER_check_conn_request_username, "MGTSERVER_check_server_password", 105},
-    {MGTSERVER_check_conn_request_password, "MGTSERVER_check_server_password", 105},
-    {MGTSERVER_check_periodic_inform, "MGTSERVER_check_periodic_inform", 135},
-    {MGTSERVER_check_periodic_inform_time, "MGTSERVER_check_periodic_inform_time", 210},
-    {MGTSERVER_check_periodic_inform_interval, "MGTSERVER_check_periodic_inform_interval", 240},
-};
 
 // died_without_assertion holds for a memory fault, also for one that a sanitizer reports.
 bool died_without_assertion(int status)
@@ -62,15 +44,6 @@ std::string written(const std::string& text)
 }
 
 }  // namespace
-
-TEST(MgtserverAssertions, NameModuleLineFunctionAndCondition)
-{
-    for (const Check& check : kAsserting) {
-        EXPECT_EXIT(check.function(nullptr), testing::KilledBySignal(SIGABRT),
-                    "mgtserver_check:" + std::to_string(check.line) + ": " + check.name +
-                        ": Assertion `value_p != \\(\\(void \\*\\)0\\)' failed");
-    }
-}
 
 TEST(GuestAccessAndHnap, DoNotTestForNull)
 {

@@ -13,7 +13,7 @@ DIE_WITH_PARENT = 1
 
 # Files whose own program has another name.
 PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test",
-            "search": "search_test", "assertion": "parameter_check_test"}
+            "search": "search_test"}
 # A program that compares times: with a limit of processor time that time is counted in coarse ticks, and a busy
 # machine may make it fail, so that a failure counts when it repeats itself.
 TIMED = {"subnets_test"}
@@ -33,14 +33,15 @@ class Suites:
         self.programs &= {program for file in sources.files for program in self.programs_of(file)}
         self.programs.add("vectors_test")
 
-    @staticmethod
-    def programs_of(file):
+    def programs_of(self, file):
         path = pathlib.PurePath(file)
         programs = [path.stem + "_test", path.parent.name + "_test"]
         if path.stem in PROGRAMS:
             programs.insert(0, PROGRAMS[path.stem])
         if path.parent.name == "wlan_check":
             programs.append("host_test")
+        if re.search("require_value|fail_assertion", self.sources.text[file]):
+            programs.append("assertions_test")
         return programs
 
     def own(self, file):

@@ -66,7 +66,7 @@ double cpu_seconds(const std::string& list, const char* lan_address, int code)
     std::clock_t least = std::numeric_limits<std::clock_t>::max();
     for (int run = 0; run < 7; ++run) {
         const std::clock_t start = std::clock();
-        EXPECT_EQ(TcmValidateReservedAddress(list.c_str(), lan_address), code);
+        EXPECT_EQ(code, TcmValidateReservedAddress(list.c_str(), lan_address));
         least = std::min(least, std::clock() - start);
     }
     return static_cast<double>(least) / CLOCKS_PER_SEC;
@@ -76,7 +76,7 @@ double cpu_seconds(const std::string& list, const char* lan_address, int code)
 // with the square would be 4096 times as long.
 void expect_linear(const std::string& small, const std::string& large, const char* lan_address, int code)
 {
-    ASSERT_EQ(large.size() / small.size(), 64U);
+    ASSERT_EQ(64U, large.size() / small.size());
     const double small_time = cpu_seconds(small, lan_address, code);
     const double large_time = cpu_seconds(large, lan_address, code);
     EXPECT_LT(large_time, 640 * small_time + 1e-3) << small_time << " s, then " << large_time << " s";
@@ -93,8 +93,8 @@ TEST(SameSubnet, AgreesWithASlowVersionOnEveryPairOfShortTexts)
             for (std::size_t other_length = 0; other_length <= 5; ++other_length) {
                 std::string address(other_length, alphabet[0]);
                 for_each_text(address, alphabet, [&] {
-                    ASSERT_EQ(isInSameSubnet(reference.c_str(), address.c_str()),
-                              slow_is_in_subnet(reference, address) ? 0 : -1)
+                    ASSERT_EQ(slow_is_in_subnet(reference, address) ? 0 : -1,
+                              isInSameSubnet(reference.c_str(), address.c_str()))
                         << '"' << reference << "\" \"" << address << '"';
                 });
             }
@@ -112,7 +112,7 @@ TEST(ReservedAddresses, AgreeWithASlowVersionOnEveryShortList)
             for (const char* lan_address : {"", "1", ".", "1.", "1.2"}) {
                 const int expected = slow_reserved(list, lan_address);
                 repeated += expected == 701 ? 1 : 0;
-                ASSERT_EQ(TcmValidateReservedAddress(list.c_str(), lan_address), expected)
+                ASSERT_EQ(expected, TcmValidateReservedAddress(list.c_str(), lan_address))
                     << '"' << list << "\" \"" << lan_address << '"';
             }
         });
@@ -129,7 +129,7 @@ TEST(ReservedAddresses, AgreeWithASlowVersionOnRandomLists)
         const std::string list = random_text(random, parts, 12);
         const char* lan_address = round % 2 == 0 ? "1.9" : "9";
         const int expected = slow_reserved(list, lan_address);
-        ASSERT_EQ(TcmValidateReservedAddress(list.c_str(), lan_address), expected) << '"' << list << '"';
+        ASSERT_EQ(expected, TcmValidateReservedAddress(list.c_str(), lan_address)) << '"' << list << '"';
         ++codes.at(static_cast<std::size_t>(std::max(expected, 0)));
     }
     EXPECT_GT(codes[0], 1000);
@@ -167,7 +167,7 @@ TEST(OfferedDns, AgreeWithASlowVersion)
         const std::string list = random_text(random, parts, 7);
         const int expected = slow_offered_dns(list);
         accepted += expected == 0 ? 1 : 0;
-        ASSERT_EQ(TcmValidateofferDNS(list.c_str()), expected) << '"' << list << '"';
+        ASSERT_EQ(expected, TcmValidateofferDNS(list.c_str())) << '"' << list << '"';
     }
     EXPECT_GT(accepted, 1000);
 }
@@ -177,8 +177,8 @@ TEST(AddressRange, EveryPairOfLastNumbers)
     for (int start = 0; start <= 256; ++start) {
         for (int end = 0; end <= 256; ++end) {
             const bool valid = start >= 1 && end <= 254 && start <= end;
-            ASSERT_EQ(TcmValidateAddressRange(lan(start).c_str(), lan(end).c_str(), "192.168.1.1"),
-                      valid ? 0 : -1)
+            ASSERT_EQ(valid ? 0 : -1,
+                      TcmValidateAddressRange(lan(start).c_str(), lan(end).c_str(), "192.168.1.1"))
                 << start << " to " << end;
         }
     }
@@ -189,7 +189,7 @@ TEST(RouterAddress, EveryThirdAndLastNumber)
     for (int third = 0; third <= 256; ++third) {
         for (int last = 0; last <= 256; ++last) {
             const std::string address = "192.168." + std::to_string(third) + '.' + std::to_string(last);
-            ASSERT_EQ(TcmValidateIPRouter(address.c_str()), third <= 255 && last >= 1 && last <= 254 ? 0 : -1)
+            ASSERT_EQ(third <= 255 && last >= 1 && last <= 254 ? 0 : -1, TcmValidateIPRouter(address.c_str()))
                 << address;
         }
     }
@@ -200,7 +200,7 @@ TEST(RouterAddress, EveryFirstAndSecondNumber)
     for (int first = 0; first <= 255; ++first) {
         for (int second = 0; second <= 255; ++second) {
             const std::string address = std::to_string(first) + '.' + std::to_string(second) + ".1.1";
-            ASSERT_EQ(TcmValidateIPRouter(address.c_str()), first == 192 && second == 168 ? 0 : -1)
+            ASSERT_EQ(first == 192 && second == 168 ? 0 : -1, TcmValidateIPRouter(address.c_str()))
                 << address;
         }
     }

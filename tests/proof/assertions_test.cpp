@@ -1,10 +1,11 @@
-// NULL for each pointer of each function: exactly the checks of the list fail an assertion, and each report
-// names the condition, the module, the function, and the line where it is fixed. The others return or end by
-// the memory fault.
+// NULL for each pointer of each function: exactly the checks of the list fail an assertion and print nothing else.
+// Each report names the condition, the module, the function and its line, which is one number where it is fixed,
+// and elsewhere another one for each function. The others return or end by the memory fault.
 
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <map>
 #include <regex>
 #include <set>
 #include <string>
@@ -78,6 +79,9 @@ std::vector<Asserting> asserting_checks()
 // Reports are what is asserted, without the program's name and with the line where it is fixed, or else "*".
 using Reports = std::multiset<std::string>;
 
+// Places are the functions that reports of a module and a line name.
+using Places = std::map<std::string, std::set<std::string>>;
+
 Reports promised()
 {
     Reports reports;
@@ -90,7 +94,7 @@ Reports promised()
 }
 
 // asserted calls the function and gives the report of the assertion; the empty text where there is none.
-std::string asserted(const Function& function, const std::vector<Value>& values)
+std::string asserted(const Function& function, const std::vector<Value>& values, Places& places)
 {
     const ChildEnd end = run_in_child(std::chrono::seconds(60), [&] {
         Caller caller;
@@ -100,9 +104,11 @@ std::string asserted(const Function& function, const std::vector<Value>& values)
     });
     EXPECT_FALSE(end.timed_out) << function.name;
     // A sanitizer that sees a memory fault may end the process by SIGABRT too.
-    static const std::regex form(": ([a-z_]+):([0-9]+): (.*: Assertion `.*\n)$");
+    static const std::regex form(": ([a-z_]+):([0-9]+): ((.*): Assertion `.*\n)$");
     std::smatch parts;
     if (end.signal != SIGABRT || !std::regex_search(end.err, parts, form)) return "";
+    EXPECT_EQ("", end.out) << function.name;
+    places[parts[1].str() + ":" + parts[2].str()].insert(parts[4]);
     const bool fixed = parts[1] == "mgtserver_check" || parts[1] == "wlan_check";
     return parts[1].str() + ":" + (fixed ? parts[2].str() : "*") + ": " + parts[3].str();
 }
@@ -116,7 +122,7 @@ std::vector<long long> numbers_of(const Function& function)
     return {0};
 }
 
-void add_reports(const Function& function, Reports& reports)
+void add_reports(const Function& function, Reports& reports, Places& places)
 {
     std::set<std::string> seen;
     for (std::size_t i = 0; i < function.arguments.size(); ++i) {
@@ -128,7 +134,7 @@ void add_reports(const Function& function, Reports& reports)
                 values.push_back(neutral(argument, number));
             }
             values[i] = nullptr;
-            seen.insert(asserted(function, values));
+            seen.insert(asserted(function, values, places));
         }
     }
     for (const std::string& report : seen) {
@@ -142,8 +148,12 @@ TEST(Assertions, ExactlyTheseChecksAssertAndSaySo)
     GTEST_SKIP() << "the report has another form";
 #endif
     Reports reports;
-    for (const Function& function : catalogue::functions()) add_reports(function, reports);
+    Places places;
+    for (const Function& function : catalogue::functions()) add_reports(function, reports, places);
     EXPECT_EQ(promised(), reports);
+    for (const auto& [place, functions] : places) {
+        EXPECT_EQ(1, functions.size()) << place << " is reported by " << testing::PrintToString(functions);
+    }
 }
 
 }  // namespace

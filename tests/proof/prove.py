@@ -59,8 +59,7 @@ def proofs():
     for folder in (GCC, CLANG):
         preset = folder.name
         yield Proof("assertions", "assertions and endless calls", preset + ", each variant", ["gcc", preset], [
-            ctest(folder, r"(^|\.)(assertions|parameter_check|lan_check|mgtserver_check|port_mapping_check|"
-                          r"wlan_check)_test(\.|$)")])
+            ctest(folder, r"(^|\.)(assertions|parameter_check)_test(\.|$)")])
         yield Proof("file", "the finished file", preset + ", each variant", ["gcc", preset],
                     [ctest(folder, r"(^|\.)shared_object(\.|$)")])
     # These stand in scripts of their own.
@@ -88,7 +87,8 @@ def run(proof, report):
     """run gives the figures, and whether every step succeeded."""
     figures = []
     for step in proof.steps:
-        environment = dict(os.environ, **step.environment)
+        # A skipped test proves nothing; with CI set it fails.
+        environment = dict(os.environ, CI="1", **step.environment)
         result = subprocess.run(step.command, cwd=ROOT, env=environment, check=False, text=True, errors="replace",
                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         report.write("$ " + " ".join(step.command) + "\n" + result.stdout + "\n")

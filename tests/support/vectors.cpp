@@ -46,6 +46,7 @@ void append_file(std::vector<Row>& rows, const std::filesystem::path& path)
     std::ifstream file(path);
     std::string line;
     std::set<std::string> seen;
+    const std::size_t before = rows.size();
     for (int number = 1; std::getline(file, line); ++number) {
         if (line.empty()) continue;
         Row& row = rows.emplace_back();
@@ -61,6 +62,7 @@ void append_file(std::vector<Row>& rows, const std::filesystem::path& path)
             row.fault = error.what();
         }
     }
+    if (rows.size() == before) throw std::invalid_argument("no row in " + path.string());
 }
 
 std::vector<Value> values_of(const std::vector<Written>& written)
@@ -75,12 +77,12 @@ std::vector<Value> values_of(const std::vector<Written>& written)
 
 std::vector<Row> read_rows(const std::set<std::string>& modules)
 {
-    std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/vectors")) {
-        if (entry.path().extension() != ".ndjson") continue;
-        if (modules.empty() || modules.contains(entry.path().stem().string())) files.push_back(entry.path());
+    const std::filesystem::path folder = OSTREL_SOURCE_DIR "/vectors";
+    std::set<std::filesystem::path> files;
+    for (const std::string& module : modules) files.insert(folder / (module + ".ndjson"));
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        if (modules.empty() && entry.path().extension() == ".ndjson") files.insert(entry.path());
     }
-    std::ranges::sort(files);
     std::vector<Row> rows;
     for (const auto& file : files) append_file(rows, file);
     return rows;

@@ -40,7 +40,8 @@ struct Row {
     bool overflows = false;   // the answer depends on what atoi makes of a number that does not fit
 };
 
-// read_rows gives every row of every file, in order. Where modules are named only their files are read.
+// read_rows gives every row of every file, in order. Where modules are named only their files are read. Throws
+// std::invalid_argument where a file has no row or is not there.
 std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 
 // applies_here tells whether the row's answer is that of the C library at hand. Rows that depend on how atoi

@@ -20,7 +20,8 @@ OSTREL_API int WLAN_check_radio_id(const char* radio);
  * "0" is the automatic channel and valid on any radio, also on one that does not exist. On 2.4 GHz a channel
  * is valid if it is below 14 and among the first 15 numbers that the driver lists: the command
  * "wlctl -i wl0 channels > /var/hnapwl0chlist" is run through the shell, and the file is read and deleted.
- * Where the file cannot be opened, every channel is refused and nothing is deleted. On 5 GHz the channels 36,
+ * Where the file cannot be opened, every channel is refused and nothing is deleted. What the shell and the
+ * command print on standard error, such as that there is no wlctl, appears there. On 5 GHz the channels 36,
  * 40, 44, 48, 149, 153, 157 and 161 are valid, and 0: also "00", text without a number and the empty value.
  *
  * THE FILE'S NAME IS FIXED, so two calls must not run at once. Only the 2.4 GHz radio runs the command.

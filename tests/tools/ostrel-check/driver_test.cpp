@@ -8,26 +8,29 @@
 #include <string>
 
 #include "run.h"
+#include "tests/support/own_var.h"
 
 namespace ostrel::tool {
 
-namespace {
+using tests::kChannelList;
 
-constexpr char kListFile[] = "/var/hnapwl0chlist";
+namespace {
 
 class Driver : public testing::Test {
  public:
     // Each test has a folder for temporary files of its own, so that it can see that none is left.
     void SetUp() override
     {
+        if (!tests::can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
         ASSERT_NE(nullptr, mkdtemp(folder_.data()));
         setenv("TMPDIR", folder_.c_str(), 1);
     }
 
     void TearDown() override
     {
+        if (IsSkipped()) return;
         EXPECT_TRUE(std::filesystem::is_empty(folder_));
-        EXPECT_FALSE(std::filesystem::exists(kListFile));
+        EXPECT_FALSE(std::filesystem::exists(kChannelList));
         std::filesystem::remove_all(folder_);
         unsetenv("TMPDIR");
     }
@@ -77,7 +80,7 @@ TEST_F(Driver, MayHang)
     const std::string saved = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
     setenv("PATH", (folder.string() + ":" + saved).c_str(), 1);
     EXPECT_EQ(3, run({"--limit-time", "0.3", "WLAN_check_channel", "6", "RADIO_2.4GHz"}).status);
-    EXPECT_FALSE(std::filesystem::exists(kListFile));
+    EXPECT_FALSE(std::filesystem::exists(kChannelList));
     EXPECT_EQ(3, run({"batch", "--limit-time", "0.3"}, "WLAN_check_channel 6 RADIO_2.4GHz\n").status);
     setenv("PATH", saved.c_str(), 1);
     std::filesystem::remove_all(folder);

@@ -7,11 +7,12 @@ import json
 import os
 import pathlib
 import re
-import shutil
 import subprocess
 import sys
 import tempfile
 import unittest
+
+import jsonschema
 
 
 def output_of(*command, text="", status=(0,)):
@@ -27,10 +28,6 @@ class Catalogue(unittest.TestCase):
         cls.checks = {check["name"]: check for check in cls.catalogue["checks"]}
 
     def test_suits_its_schema(self):
-        try:
-            import jsonschema
-        except ImportError:
-            self.skipTest("python3-jsonschema is missing")
         schema = json.loads(output_of(PROGRAM, "list", "--schema"))
         self.assertEqual(schema, json.loads((SOURCE / "catalogue" / "catalogue.schema.json").read_text()))
         jsonschema.Draft202012Validator.check_schema(schema)
@@ -80,12 +77,7 @@ class Catalogue(unittest.TestCase):
 
 
 class Surroundings(unittest.TestCase):
-    def need(self, program):
-        if shutil.which(program) is None:
-            self.skipTest(program + " is missing")
-
     def test_manual_page_is_clean(self):
-        self.need("mandoc")
         page = str(SOURCE / "docs" / "ostrel-check.1")
         self.assertEqual("", output_of("mandoc", "-T", "lint", "-W", "style", page))
         text = re.sub(".\b", "", output_of("mandoc", "-T", "ascii", page))
@@ -99,7 +91,6 @@ class Surroundings(unittest.TestCase):
         return output_of("bash", "-c", script, "bash", os.path.dirname(PROGRAM), completion, *words).split()
 
     def test_bash_completes_names_and_keywords(self):
-        self.need("bash")
         self.assertEqual(["PARAM_check_port"], self.complete_in_bash("PARAM_check_po"))
         self.assertEqual(["explain"], self.complete_in_bash("ex"))
         self.assertEqual(["WLAN_check_wepkeys"], self.complete_in_bash("explain", "WLAN_check_we"))
@@ -108,7 +99,6 @@ class Surroundings(unittest.TestCase):
         self.assertEqual(["--jobs", "--json"], sorted(self.complete_in_bash("batch", "--j")))
 
     def test_zsh_takes_the_completion(self):
-        self.need("zsh")
         output_of("zsh", "-n", str(SOURCE / "packaging" / "completion" / "_ostrel-check"))
         script = ('words=(ostrel-check WLAN_check_beacon_type W); CURRENT=3; compadd() { shift; print -l -- "$@"; }; '
                   'path=($1 $path); . $2')
@@ -117,7 +107,6 @@ class Surroundings(unittest.TestCase):
         self.assertEqual(["WPA", "WPAand11i"], shown.split())
 
     def test_doxygen_has_no_warning(self):
-        self.need("doxygen")
         with tempfile.TemporaryDirectory() as folder:
             text = (SOURCE / "docs" / "Doxyfile").read_text() + f"\nOUTPUT_DIRECTORY = {folder}\n"
             result = subprocess.run(["doxygen", "-"], input=text, capture_output=True, text=True, cwd=SOURCE,
@@ -128,8 +117,6 @@ class Surroundings(unittest.TestCase):
 
 class Pieces(unittest.TestCase):
     def test_parallel_gives_what_one_run_gives(self):
-        if shutil.which("parallel") is None:
-            self.skipTest("parallel is missing")
         lines = []
         for number in range(20000):
             lines.append(f"PARAM_check_port {number * 7}\n" if number % 5 else "\n")

@@ -1,0 +1,11 @@
+// The main of test programs that have none of their own.
+
+#include <gtest/gtest.h>
+
+#include "tests/support/run_tests.h"
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    return ostrel::tests::run_tests();
+}
