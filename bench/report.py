@@ -1,19 +1,31 @@
 #!/usr/bin/env python3
-"""Prints what the benchmarks measured as tables, and draws the chart.
+"""Prints what the benchmarks measured as tables, draws the chart, and writes the page's table.
 
-usage: report.py TIMES.json INSTRUCTIONS.json CHART.svg
+usage: report.py TIMES.json INSTRUCTIONS.json CHART.svg PAGE.md
+
+Chart and page show every family that was timed. Those in which a peer is faster come first.
 """
 
 import collections
 import json
+import pathlib
 import statistics
 import sys
 
 import goals
 
 LIMITS = ("reading", "strlen")
-ORDER = ("ipv4", "mac", "host", "url", "email", "account", "date_time", "printable", "password", "number", "own_set_8",
-         "own_set_16", "own_set_32", "own_set_64", "own_digits_8", "keyword", "rates", "dns_servers", "reservations")
+# All families, and what the page calls them.
+NAMES = {
+    "ipv4": "IPv4 address", "mac": "MAC address", "host": "host name", "url": "URL", "email": "e-mail address",
+    "account": "account", "date_time": "date-time", "printable": "printable string", "password": "password",
+    "number": "number", "own_set_8": "caller's own set of 62, 8 bytes", "own_set_16": "the same, 16 bytes",
+    "own_set_32": "the same, 32 bytes", "own_set_64": "the same, 64 bytes",
+    "own_digits_8": "caller's own set of 10, 8 bytes", "keyword": "keyword", "rates": "rate list",
+    "dns_servers": "DNS servers", "reservations": "DHCP reservations"}
+LIBRARIES = ("libcurl", "libyang", "uriparser")  # the other contenders with names of small letters are functions
+BEGIN = "<!-- scripts/bench writes this -->\n"
+END = "<!-- to here -->\n"
 NOISY = 0.10  # quartiles further apart than this share of the median tell too little
 
 
@@ -36,7 +48,7 @@ def read_times(path):
         rate = statistics.median(row["bytes_per_second"] for row in repetitions)
         table.setdefault(family, {}).setdefault(shape, {})[contender] = (
             *quartiles(times), rate, repetitions[0]["allocations"])
-    return {family: table[family] for family in sorted(table, key=ORDER.index)}
+    return {family: table[family] for family in sorted(table, key=list(NAMES).index)}
 
 
 def ratio_to(ours, other):
@@ -92,47 +104,104 @@ def print_tables(table, instructions):
               "was too noisy to tell by their medians. Their ratios are those of the least disturbed repetitions.")
 
 
+def multiples(row):
+    """multiples gives how many times as long as we each peer takes on valid values, and the plain reading of each byte
+    among them, by the least disturbed repetitions; the fastest first."""
+    least = {contender: figures[2] for contender, figures in row["valid"].items() if contender != "strlen"}
+    ours = least.pop("ours")
+    return sorted(((contender, time / ours) for contender, time in least.items()), key=lambda pair: pair[1])
+
+
+def faster(row):
+    """faster gives the peers that take less time than we do."""
+    return [contender for contender, multiple in multiples(row) if multiple < 1 and contender not in LIMITS]
+
+
+def lost_first(table):
+    """lost_first gives all families, those first in which a peer is faster, the worst of them at the top."""
+    def rank(family):
+        peers = faster(table[family])
+        return dict(multiples(table[family]))[peers[0]] if peers else 1
+    return sorted(table, key=rank)
+
+
 def draw(table, path):
     """Draws how many times as long each peer takes as we do, on valid values; one group of bars a family."""
-    shown = [family for family in goals.GOALS if family in table and family != "own_digits_8"]
-    bars = []
-    for family in shown:
-        row = table[family]["valid"]
-        peers = sorted((peer for peer in row if peer not in ("ours", "strlen")), key=lambda peer: ratio_to(row["ours"], row[peer]))
-        bars.append((family, [(peer, ratio_to(row["ours"], row[peer])) for peer in peers]))
     longest = 20  # times our time; what takes longer is cut off and says so
     left, width, step, gap = 190, 460, 15, 14
     lines = []
-    y = 44
-    for family, peers in bars:
+    y = 62
+    for family in lost_first(table):
         lines.append(f'<text x="8" y="{y + 11}" class="f">{family}</text>')
-        for peer, ratio in peers:
-            length = max(1, min(ratio, longest) / longest * width)
-            kind = "l" if peer == "reading" else "p"
+        for peer, multiple in multiples(table[family]):
+            length = max(1, min(multiple, longest) / longest * width)
+            kind = "l" if peer in LIMITS else "w" if multiple < 1 else "p"
             lines.append(f'<text x="{left - 6}" y="{y + 11}" class="n">{peer}</text>')
             lines.append(f'<rect x="{left}" y="{y + 2}" width="{length:.1f}" height="{step - 4}" class="{kind}"/>')
-            lines.append(f'<text x="{left + length + 4:.1f}" y="{y + 11}">{ratio:.1f}</text>')
+            lines.append(f'<text x="{left + length + 4:.1f}" y="{y + 11}">{multiple:.1f}</text>')
             y += step
         y += gap
     ours = left + width / longest
     with open(path, "w", encoding="utf-8") as file:
         file.write(
             f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 720 {y}" font-family="sans-serif" font-size="10">\n'
-            "<style>text{fill:#333}.f{font-weight:bold}.n{text-anchor:end}.p{fill:#4a7fb5}.l{fill:#bbb}</style>\n"
+            "<style>text{fill:#333}.f{font-weight:bold}.n{text-anchor:end}.p{fill:#4a7fb5}.w{fill:#c33}.l{fill:#bbb}"
+            "</style>\n"
             f'<rect width="720" height="{y}" fill="#fff"/>\n'
             '<text x="8" y="20" font-size="13">Time to accept a value, in multiples of ours (line: ours; grey: only '
             "reading each byte)</text>\n"
-            f'<line x1="{ours:.1f}" y1="34" x2="{ours:.1f}" y2="{y - gap}" stroke="#c33"/>\n'
+            '<text x="8" y="38" font-size="13">Families in which a peer is faster (red) come first</text>\n'
+            f'<line x1="{ours:.1f}" y1="52" x2="{ours:.1f}" y2="{y - gap}" stroke="#c33"/>\n'
             + "\n".join(lines) + "\n</svg>\n")
 
 
+def nanoseconds(time):
+    return f"{time:.1f}" if time < 10 else f"{time:.0f}"
+
+
+def shown(peer):
+    return f"`{peer}`" if peer.isidentifier() and peer.islower() and peer not in LIBRARIES else peer
+
+
+def page_table(table):
+    """page_table gives the page's table of all families."""
+    lost = [family for family in table if faster(table[family])]
+    lines = [f"In {len(lost)} of {len(table)} families a peer is faster. They come first, with those peers in bold.", "",
+             "| family | ours | peers | reading each byte |", "|---|---:|---|---:|"]
+    for family in lost_first(table):
+        row = table[family]["valid"]
+        ahead = faster(table[family])
+        peers = []
+        for peer, _ in multiples(table[family]):
+            if peer not in LIMITS:
+                figure = f"{shown(peer)} {nanoseconds(row[peer][2])}"
+                peers.append(f"**{figure}**" if peer in ahead else figure)
+        lines.append(f"| {NAMES[family]} | {nanoseconds(row['ours'][2])} | {', '.join(peers)} | "
+                     f"{nanoseconds(row['reading'][2])} |")
+    return "\n".join(lines) + "\n"
+
+
+def write_page(path, text):
+    """write_page puts the text where the page has its place for it; a page that is not there becomes the text."""
+    if path.exists():
+        before, begin, rest = path.read_text(encoding="utf-8").partition(BEGIN)
+        _, end, after = rest.partition(END)
+        if not end:
+            sys.exit(f"{path} has no place for the table")
+        text = before + begin + text + end + after
+    path.write_text(text, encoding="utf-8")
+
+
 def main():
-    times, counts, chart = sys.argv[1:4]
+    times, counts, chart, page = sys.argv[1:5]
     table = read_times(times)
     with open(counts, encoding="utf-8") as file:
         instructions = json.load(file)
     print_tables(table, instructions)
-    draw(table, chart)
+    accepted = {family: shapes for family, shapes in table.items() if "valid" in shapes}
+    if accepted:
+        draw(accepted, chart)
+        write_page(pathlib.Path(page), page_table(accepted))
 
 
 if __name__ == "__main__":
