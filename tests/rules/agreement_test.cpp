@@ -36,13 +36,13 @@ TEST(AgreementTest, VectorsAndDescriptions)
         Build build = library_build();
         if (row.overflows) build.atoi = Build::Atoi::kLong64;
         const Answer answer = rules::evaluate(*check, complete(function, row.given.values), build);
-        EXPECT_EQ(answer.outside, rules::Outside::kNo);
+        EXPECT_EQ(rules::Outside::kNo, answer.outside);
         Caller caller;
         caller.load(function, row.given.values);
         EXPECT_EQ(expected_outcome(row, caller.written()), outcome_of(answer));
-        EXPECT_EQ(reason_fault(answer), "");
+        EXPECT_EQ("", reason_fault(answer));
         if (check->is_verdict) {
-            EXPECT_EQ(answer.is_refusal, answer.code != 0);
+            EXPECT_EQ(answer.code != 0, answer.is_refusal);
         }
         ++count;
     }
@@ -55,13 +55,13 @@ TEST(AgreementTest, LibraryAndDescriptions)
     const std::size_t runs = given == nullptr ? 2000 : std::strtoul(given, nullptr, 10);
     for (const Check& check : rules::checks()) {
         const Function* function = catalogue::find(check.name);
-        ASSERT_NE(function, nullptr) << check.name;
+        ASSERT_NE(nullptr, function) << check.name;
         Trials trials(*function, check);
         {
             Capture capture;
             trials.run(runs, capture);
         }
-        EXPECT_EQ(trials.difference, "");
+        EXPECT_EQ("", trials.difference);
         const rules::Counts::OfCheck& of = trials.counts.checks[check.number];
         const auto never = [](const std::vector<std::uint64_t>& counts) {
             return std::ranges::count(counts, 0U);
@@ -76,12 +76,12 @@ TEST(AgreementTest, ArgumentsAreThoseOfTheHeaders)
 {
     for (const Check& check : rules::checks()) {
         const Function* function = catalogue::find(check.name);
-        ASSERT_NE(function, nullptr) << check.name;
-        ASSERT_EQ(check.arguments.size(), function->arguments.size()) << check.name;
+        ASSERT_NE(nullptr, function) << check.name;
+        ASSERT_EQ(function->arguments.size(), check.arguments.size()) << check.name;
         for (std::size_t i = 0; i < check.arguments.size(); ++i) {
-            EXPECT_EQ(check.arguments[i].name, function->arguments[i].name) << check.name;
-            EXPECT_EQ(static_cast<int>(check.arguments[i].kind),
-                      static_cast<int>(function->arguments[i].kind))
+            EXPECT_EQ(function->arguments[i].name, check.arguments[i].name) << check.name;
+            EXPECT_EQ(static_cast<int>(function->arguments[i].kind),
+                      static_cast<int>(check.arguments[i].kind))
                 << check.name;
         }
     }

@@ -32,13 +32,13 @@ std::string told(std::string_view name, const std::vector<Value>& values)
 TEST(BuildTest, NumbersBeyondAnInt)
 {
     using Atoi = Build::Atoi;
-    EXPECT_EQ(read_number("99999999999999999999", Atoi::kLong64).value, -1);
-    EXPECT_EQ(read_number("99999999999999999999", Atoi::kLong32).value, 2147483647);
-    EXPECT_EQ(read_number("99999999999999999999", Atoi::kWrapping).value, 1661992959);
-    EXPECT_EQ(read_number("-99999999999999999999", Atoi::kLong64).value, 0);
-    EXPECT_EQ(read_number("-99999999999", Atoi::kLong32).value, std::numeric_limits<int>::min());
-    EXPECT_EQ(read_number("4294967297", Atoi::kLong64).value, 1);
-    EXPECT_EQ(read_number("-4294967297", Atoi::kWrapping).value, -1);
+    EXPECT_EQ(-1, read_number("99999999999999999999", Atoi::kLong64).value);
+    EXPECT_EQ(2147483647, read_number("99999999999999999999", Atoi::kLong32).value);
+    EXPECT_EQ(1661992959, read_number("99999999999999999999", Atoi::kWrapping).value);
+    EXPECT_EQ(0, read_number("-99999999999999999999", Atoi::kLong64).value);
+    EXPECT_EQ(std::numeric_limits<int>::min(), read_number("-99999999999", Atoi::kLong32).value);
+    EXPECT_EQ(1, read_number("4294967297", Atoi::kLong64).value);
+    EXPECT_EQ(-1, read_number("-4294967297", Atoi::kWrapping).value);
     EXPECT_TRUE(read_number("2147483648", Atoi::kLong64).beyond_int);
     EXPECT_FALSE(read_number("2147483647", Atoi::kLong64).beyond_int);
     EXPECT_FALSE(read_number("-2147483648", Atoi::kLong64).beyond_int);
@@ -48,75 +48,75 @@ TEST(BuildTest, NumbersBeyondAnInt)
 TEST(BuildTest, NumbersAmongOtherBytes)
 {
     const Number number = read_number("\v +12x3", Build::Atoi::kLong64);
-    EXPECT_EQ(number.value, 12);
-    EXPECT_EQ(number.begin, 2);
-    EXPECT_EQ(number.end, 5);
-    EXPECT_EQ(read_number("", Build::Atoi::kLong64).value, 0);
-    EXPECT_EQ(read_number("x1", Build::Atoi::kLong64).value, 0);
-    EXPECT_EQ(read_number("- 1", Build::Atoi::kLong64).value, 0);
+    EXPECT_EQ(12, number.value);
+    EXPECT_EQ(2, number.begin);
+    EXPECT_EQ(5, number.end);
+    EXPECT_EQ(0, read_number("", Build::Atoi::kLong64).value);
+    EXPECT_EQ(0, read_number("x1", Build::Atoi::kLong64).value);
+    EXPECT_EQ(0, read_number("- 1", Build::Atoi::kLong64).value);
 }
 
 TEST(SetTest, InWords)
 {
-    EXPECT_EQ(in_words(kNameSet), "letters, digits and - . _");
-    EXPECT_EQ(in_words(kHex), "hexadecimal digits");
-    EXPECT_EQ(in_words(kLatin1), "printable Latin-1 characters");
-    EXPECT_EQ(in_words(kDeviceName), "letters, digits, blanks and -");
-    EXPECT_EQ(in_words(Set("01234")), "0 to 4");
-    EXPECT_EQ(in_words(Set(":")), "\":\"");
-    EXPECT_EQ(in_words(Set("ab")), "a b");
-    EXPECT_EQ(in_words(Set()), "no bytes");
-    EXPECT_EQ(in_words(Set("\x01\xFF")), "\\x01 \\xFF");
+    EXPECT_EQ("letters, digits and - . _", in_words(kNameSet));
+    EXPECT_EQ("hexadecimal digits", in_words(kHex));
+    EXPECT_EQ("printable Latin-1 characters", in_words(kLatin1));
+    EXPECT_EQ("letters, digits, blanks and -", in_words(kDeviceName));
+    EXPECT_EQ("0 to 4", in_words(Set("01234")));
+    EXPECT_EQ("\":\"", in_words(Set(":")));
+    EXPECT_EQ("a b", in_words(Set("ab")));
+    EXPECT_EQ("no bytes", in_words(Set()));
+    EXPECT_EQ("\\x01 \\xFF", in_words(Set("\x01\xFF")));
 }
 
 TEST(SentencesTest, StandInOrder) { EXPECT_TRUE(std::ranges::is_sorted(sentences(), {}, &Sentence::id)); }
 
 TEST(SentencesTest, AreWhatAUserReads)
 {
-    EXPECT_EQ(told("ValidateString", {1LL, 32LL, "abc", std::string(34, 'a')}),
-              "has 34 bytes; at most 32 are allowed");
-    EXPECT_EQ(told("ValidateString", {1LL, 1LL, "abc", "aa"}), "has 2 bytes; at most 1 is allowed");
-    EXPECT_EQ(told("ValidateString", {2LL, 5LL, "abc", "a"}), "has 1 byte; at least 2 are needed");
-    EXPECT_EQ(told("TcmValidateEmailPassword", {"abcde\x9F"}),
-              "byte 6 is \\x9F; letters, digits and - . _ are allowed");
-    EXPECT_EQ(told("TcmValidateBeaconType", {"wpa"}), "is none of None, Basic, WPA, 11i, WPAand11i");
-    EXPECT_EQ(told("TcmValidatePort", {"0"}), "is 0; at least 1 is needed");
-    EXPECT_EQ(told("TcmValidatePort", {"99999999999999999999"}),
-              "is 99999999999999999999, which an int does not hold; this gateway reads it as -1");
-    EXPECT_EQ(told("TcmValidateMACaddress", {"00:11:22:33:44-55"}),
-              "byte 15 is \"-\"; \":\" is expected there");
+    EXPECT_EQ("has 34 bytes; at most 32 are allowed",
+              told("ValidateString", {1LL, 32LL, "abc", std::string(34, 'a')}));
+    EXPECT_EQ("has 2 bytes; at most 1 is allowed", told("ValidateString", {1LL, 1LL, "abc", "aa"}));
+    EXPECT_EQ("has 1 byte; at least 2 are needed", told("ValidateString", {2LL, 5LL, "abc", "a"}));
+    EXPECT_EQ("byte 6 is \\x9F; letters, digits and - . _ are allowed",
+              told("TcmValidateEmailPassword", {"abcde\x9F"}));
+    EXPECT_EQ("is none of None, Basic, WPA, 11i, WPAand11i", told("TcmValidateBeaconType", {"wpa"}));
+    EXPECT_EQ("is 0; at least 1 is needed", told("TcmValidatePort", {"0"}));
+    EXPECT_EQ("is 99999999999999999999, which an int does not hold; this gateway reads it as -1",
+              told("TcmValidatePort", {"99999999999999999999"}));
+    EXPECT_EQ("byte 15 is \"-\"; \":\" is expected there",
+              told("TcmValidateMACaddress", {"00:11:22:33:44-55"}));
     EXPECT_EQ(
-        told("isValidOrdinaryMACAddress", {"01:11:22:33:44:55"}),
-        "byte 2 is \"1\", which makes it the address of a group; 0 2 4 6 8 A C E a c e are allowed there");
-    EXPECT_EQ(told("TcmValidateofferDNS", {"1.1.1.1, 1.1.1.300"}), "is 300; at most 255 is allowed");
-    EXPECT_EQ(told("TcmValidatePPPUsername", {std::string(27, '1') + "@example.net", 0LL}),
-              "ends where digits are expected as byte 28");
+        "byte 2 is \"1\", which makes it the address of a group; 0 2 4 6 8 A C E a c e are allowed there",
+        told("isValidOrdinaryMACAddress", {"01:11:22:33:44:55"}));
+    EXPECT_EQ("is 300; at most 255 is allowed", told("TcmValidateofferDNS", {"1.1.1.1, 1.1.1.300"}));
+    EXPECT_EQ("ends where digits are expected as byte 28",
+              told("TcmValidatePPPUsername", {std::string(27, '1') + "@example.net", 0LL}));
 }
 
 TEST(ReasonTest, SaysWhere)
 {
     const Answer answer = answer_of("TcmValidateofferDNS", {"1.1.1.1, 1.1.1.300"});
-    EXPECT_EQ(answer.reason.id, "number_too_high");
-    EXPECT_EQ(answer.reason.name, "dnsList");
-    EXPECT_EQ(answer.reason.argument, 0);
-    EXPECT_EQ(answer.reason.item, 1);
-    EXPECT_EQ(answer.reason.offset, 15);
-    EXPECT_EQ(answer.reason.found, Datum(300LL));
-    EXPECT_EQ(answer.reason.allowed, Datum(255LL));
+    EXPECT_EQ("number_too_high", answer.reason.id);
+    EXPECT_EQ("dnsList", answer.reason.name);
+    EXPECT_EQ(0, answer.reason.argument);
+    EXPECT_EQ(1, answer.reason.item);
+    EXPECT_EQ(15, answer.reason.offset);
+    EXPECT_EQ(Datum(300LL), answer.reason.found);
+    EXPECT_EQ(Datum(255LL), answer.reason.allowed);
 }
 
 TEST(ReasonTest, OfStepsThatWentOn)
 {
     const Answer answer =
         answer_of("WLAN_check_wepkeys", {std::vector<std::string>{"0123456789", "", "a\tb", "012345678g"}});
-    EXPECT_EQ(answer.code, 803);
-    EXPECT_EQ(answer.reason.item, 3);
-    EXPECT_EQ(answer.reason.offset, 9);
-    ASSERT_EQ(answer.printed.size(), 2);
-    EXPECT_EQ(answer.printed[0].id, "empty");
-    EXPECT_EQ(answer.printed[0].item, 1);
-    EXPECT_EQ(answer.printed[1].id, "not_in_set");
-    EXPECT_EQ(answer.printed[1].offset, 1);
+    EXPECT_EQ(803, answer.code);
+    EXPECT_EQ(3, answer.reason.item);
+    EXPECT_EQ(9, answer.reason.offset);
+    ASSERT_EQ(2, answer.printed.size());
+    EXPECT_EQ("empty", answer.printed[0].id);
+    EXPECT_EQ(1, answer.printed[0].item);
+    EXPECT_EQ("not_in_set", answer.printed[1].id);
+    EXPECT_EQ(1, answer.printed[1].offset);
 }
 
 // Words that no description needs yet, or that need a build of their own.
@@ -144,13 +144,13 @@ TEST(WordsTest, Tables)
                           remember("found", cell(1)), print(line("<found>"))},
                          {part});
     };
-    EXPECT_EQ(looked_up("6").out, "38");
-    EXPECT_EQ(looked_up("").out, "3");
-    EXPECT_EQ(looked_up("7").reason.id, "not_in_table");
-    EXPECT_EQ(looked_up("7").reason.allowed, Datum(std::vector<std::string>{"1", "36", "40"}));
+    EXPECT_EQ("38", looked_up("6").out);
+    EXPECT_EQ("3", looked_up("").out);
+    EXPECT_EQ("not_in_table", looked_up("7").reason.id);
+    EXPECT_EQ(Datum(std::vector<std::string>{"1", "36", "40"}), looked_up("7").reason.allowed);
     const Step equal_cell = refuse(-1, not_(in_table(kPairs, {{0, Match::How::kEqual, "one"}})));
-    EXPECT_EQ(answer_of({equal_cell}, {"36"}).code, 0);
-    EXPECT_EQ(answer_of({equal_cell}, {"036"}).code, -1);
+    EXPECT_EQ(0, answer_of({equal_cell}, {"36"}).code);
+    EXPECT_EQ(-1, answer_of({equal_cell}, {"036"}).code);
 }
 
 TEST(WordsTest, DaysOfMonths)
@@ -158,15 +158,15 @@ TEST(WordsTest, DaysOfMonths)
     const auto judge = [](const char* year, const char* month, const char* day) {
         return answer_of({refuse(-1, above("three", days("one", "two")))}, {year, month, day}).code;
     };
-    EXPECT_EQ(judge("2023", "2", "28"), 0);
-    EXPECT_EQ(judge("2023", "2", "29"), -1);
-    EXPECT_EQ(judge("2024", "2", "29"), 0);
-    EXPECT_EQ(judge("1900", "2", "29"), -1);
-    EXPECT_EQ(judge("2000", "2", "29"), 0);
-    EXPECT_EQ(judge("2000", "4", "31"), -1);
-    EXPECT_EQ(judge("2000", "12", "31"), 0);
-    EXPECT_EQ(judge("2000", "13", "1"), -1);
-    EXPECT_EQ(judge("2000", "0", "0"), 0);
+    EXPECT_EQ(0, judge("2023", "2", "28"));
+    EXPECT_EQ(-1, judge("2023", "2", "29"));
+    EXPECT_EQ(0, judge("2024", "2", "29"));
+    EXPECT_EQ(-1, judge("1900", "2", "29"));
+    EXPECT_EQ(0, judge("2000", "2", "29"));
+    EXPECT_EQ(-1, judge("2000", "4", "31"));
+    EXPECT_EQ(0, judge("2000", "12", "31"));
+    EXPECT_EQ(-1, judge("2000", "13", "1"));
+    EXPECT_EQ(0, judge("2000", "0", "0"));
 }
 
 TEST(WordsTest, Grammars)
@@ -179,11 +179,11 @@ TEST(WordsTest, Grammars)
                                       if (text.size() % 2 == 0) return std::nullopt;
                                       return GrammarFault{"too_short", text.size(), "the end", "a byte"};
                                   }};
-    EXPECT_EQ(answer_of({refuse(600, fails(kEven))}, {"ab"}).code, 0);
+    EXPECT_EQ(0, answer_of({refuse(600, fails(kEven))}, {"ab"}).code);
     const Answer answer = answer_of({refuse(600, fails(kEven, after_first(it, ":")))}, {"x:abc"});
-    EXPECT_EQ(answer.code, 600);
-    EXPECT_EQ(answer.reason.id, "too_short");
-    EXPECT_EQ(answer.reason.offset, 5);
+    EXPECT_EQ(600, answer.code);
+    EXPECT_EQ("too_short", answer.reason.id);
+    EXPECT_EQ(5, answer.reason.offset);
 }
 
 TEST(WordsTest, ConversionsAreWritten)
@@ -195,36 +195,36 @@ TEST(WordsTest, ConversionsAreWritten)
         {write("value", converted(kDoubled, "value")), refuse(802, longer_than(3), line("<value>\n"))}));
     const std::vector<Value> values = {"ab"};
     const Answer answer = evaluate(described, values, Build());
-    EXPECT_EQ(answer.code, 802);
-    EXPECT_EQ(answer.out, "abab\n");
-    EXPECT_EQ(answer.after, std::vector<Value>{"abab"});
+    EXPECT_EQ(802, answer.code);
+    EXPECT_EQ("abab\n", answer.out);
+    EXPECT_EQ(std::vector<Value>{"abab"}, answer.after);
 }
 
 TEST(WordsTest, ChannelsOfTheDriver)
 {
     const Step step = refuse(-1, not_(listed_by_driver(it)));
-    EXPECT_EQ(answer_of({step}, {"1"}).outside, Outside::kDriver);
+    EXPECT_EQ(Outside::kDriver, answer_of({step}, {"1"}).outside);
     Build build;
     build.channels = {1, 6, 11};
-    EXPECT_EQ(answer_of({step}, {"6"}, build).code, 0);
-    EXPECT_EQ(answer_of({step}, {"7"}, build).reason.id, "not_listed_by_driver");
+    EXPECT_EQ(0, answer_of({step}, {"6"}, build).code);
+    EXPECT_EQ("not_listed_by_driver", answer_of({step}, {"7"}, build).reason.id);
 }
 
 TEST(WordsTest, TheBuildsModel)
 {
     const Step step = refuse(1001, equal(model(), literal("M2840")));
-    EXPECT_EQ(answer_of({step}, {""}).code, 1001);
+    EXPECT_EQ(1001, answer_of({step}, {""}).code);
     Build build;
     build.model = "M2841";
-    EXPECT_EQ(answer_of({step}, {""}, build).code, 0);
+    EXPECT_EQ(0, answer_of({step}, {""}, build).code);
 }
 
 TEST(OutsideTest, WhatTheContractDoesNotPromise)
 {
-    EXPECT_EQ(answer_of("PARAM_check_port", {nullptr}).outside, Outside::kAssertion);
-    EXPECT_EQ(answer_of("PARAM_check_ip_addr", {nullptr}).outside, Outside::kNull);
-    EXPECT_EQ(answer_of("PARAM_check_ui2_value", {"1"}).outside, Outside::kNeverReturns);
-    EXPECT_EQ(answer_of("PARAM_check_MACAddress", {nullptr}).outside, Outside::kNo);
+    EXPECT_EQ(Outside::kAssertion, answer_of("PARAM_check_port", {nullptr}).outside);
+    EXPECT_EQ(Outside::kNull, answer_of("PARAM_check_ip_addr", {nullptr}).outside);
+    EXPECT_EQ(Outside::kNeverReturns, answer_of("PARAM_check_ui2_value", {"1"}).outside);
+    EXPECT_EQ(Outside::kNo, answer_of("PARAM_check_MACAddress", {nullptr}).outside);
 }
 
 }  // namespace
