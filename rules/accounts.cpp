@@ -22,9 +22,9 @@ Step accept_form(int type, const Shape& shape)
 
 std::vector<Step> local_part(int least, int most, const std::vector<std::pair<int, Shape>>& forms)
 {
-    std::vector<Step> steps = {remember("local", before_last("value", "@")),
-                               judge_string(least, most, kAccountDigits, "local"),
-                               accept(above(count("local", literal("#")), 2))};
+    std::vector<Step> steps = {
+        remember("local", called("the part before the last \"@\"", before_last("value", "@"))),
+        judge_string(least, most, kAccountDigits, "local"), accept(above(count("local", literal("#")), 2))};
     std::vector<Shape> shapes;
     for (const auto& [type, shape] : forms) {
         steps.push_back(accept_form(type, shape));

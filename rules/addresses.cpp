@@ -23,9 +23,10 @@ std::vector<Check> addresses()
 {
     return {
         check("TcmValidateIPAddress", {text("value", "an IPv4 address")},
-              {refuse(-1, shorter_than(7)), refuse(-1, longer_than(15)), refuse(-1, outside(kIpv4)),
+              {refuse(-1, empty()), refuse(-1, outside(kIpv4)),
                refuse(-1, because("wrong_item_count", not_among(items(it, "."), {4}))),
-               for_each(list_of(it, '.'), {refuse(-1, empty()), refuse(-1, above(255))})}),
+               refuse(-1, shorter_than(7)), refuse(-1, longer_than(15)),
+               for_each(list_of(it, '.', {}, "octet"), {refuse(-1, empty()), refuse(-1, above(255))})}),
         check("TcmValidateMACaddress", {text("value", "a MAC address")}, mac_address({})),
         check("isValidOrdinaryMACAddress", {text("value", "the MAC address of one station")},
               mac_address({refuse(-1, outside(slice(it, 0, 2), kHex)),

@@ -27,6 +27,9 @@ void Run::tell(Reason& reason, const Place& where, std::string_view id, Datum fo
     reason.argument = where.argument;
     if (where.argument) reason.name = called_.arguments[*where.argument].name;
     reason.item = where.item;
+    reason.part = where.part;
+    if (where.part_number > 0) reason.part += " " + std::to_string(where.part_number);
+    if (!where.part.empty()) reason.offset = where.offset;
     reason.found = std::move(found);
     reason.allowed = std::move(allowed);
 }
@@ -139,8 +142,8 @@ bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
 
 bool Run::row_holds(const Condition& condition, Frame& frame, Reason* reason)
 {
-    const auto suits = [&](const std::vector<std::string_view>& row) {
-        return std::ranges::all_of(condition.matches, [&](const Match& match) {
+    const auto suits = [&](const std::vector<std::string_view>& row, std::span<const Match> matches) {
+        return std::ranges::all_of(matches, [&](const Match& match) {
             const std::string_view cell = row[match.column];
             if (match.how == Match::How::kNumber) {
                 return number(match.value, frame).value == read_number(cell, build_.atoi).value;
@@ -150,14 +153,20 @@ bool Run::row_holds(const Condition& condition, Frame& frame, Reason* reason)
                                                    : cell.find(given) != std::string_view::npos;
         });
     };
-    const auto found = std::ranges::find_if(condition.table->rows, suits);
+    const std::span<const Match> all = condition.matches;
+    const auto found =
+        std::ranges::find_if(condition.table->rows, [&](const auto& row) { return suits(row, all); });
     const bool result = found != condition.table->rows.end();
     if (result) frame.row = &*found;
     if (reason == nullptr || result == condition.is_negated) return result;
-    const Match& first = condition.matches.front();
+    const Match& first = all.front();
     const Operand judged = text(first.value, frame);
     std::vector<std::string> cells;
-    for (const auto& row : condition.table->rows) cells.emplace_back(row[first.column]);
+    for (const auto& row : condition.table->rows) {
+        const std::string_view cell = row[first.column];
+        const bool is_new = std::ranges::find(cells, cell) == cells.end();
+        if (is_new && suits(row, all.subspan(1))) cells.emplace_back(cell);
+    }
     tell(*reason, judged.place, condition.is_negated ? "not_in_table" : "in_table", std::string(judged.text),
          std::move(cells));
     return result;

@@ -62,7 +62,8 @@ struct Expression {
     Set set = {};
     const Conversion* conversion = nullptr;
     std::vector<Expression> of = {};
-    std::size_t slot = 0;  // of a name: set when the check is registered
+    std::string_view part = {};  // of a piece of an argument: what sentences call it
+    std::size_t slot = 0;        // of a name: set when the check is registered
 };
 
 // Line is printed as it stands, with what <name> names in place of it: an argument, what was remembered, <item>,

@@ -62,6 +62,12 @@ Expression slice(Expression text, Expression offset, Expression count)
 
 Expression joined(std::initializer_list<Expression> texts) { return make(Expression::Kind::kJoined, texts); }
 
+Expression called(std::string_view part, Expression piece)
+{
+    piece.part = part;
+    return piece;
+}
+
 Expression length(Expression text) { return make(Expression::Kind::kLength, {std::move(text)}); }
 
 Expression count(Expression text, Expression byte)

@@ -24,6 +24,7 @@ Operand part_of(const Operand& whole, std::string_view piece)
 {
     Operand part = whole;
     part.text = piece;
+    part.place.call({});
     if (part.place.offset) *part.place.offset += static_cast<std::size_t>(piece.data() - whole.text.data());
     return part;
 }
@@ -58,7 +59,11 @@ Run::Flow Run::run_list(const Step& step, Frame& frame)
                                       : trim_front(rest.substr(end + 1), list.trimmed);
             frame.rest = part_of(whole, rest);
         }
-        if (!frame.item.place.item) frame.item.place.item = index;
+        if (!list.part.empty()) {
+            frame.item.place.call(list.part, index + 1);
+        } else if (!frame.item.place.item) {
+            frame.item.place.item = index;
+        }
         goes_on = !frame.is_last_item;
         if (counts_ != nullptr) {
             Counts::OfCheck& of = counts_->checks[frame.check.number];

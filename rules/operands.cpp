@@ -31,6 +31,7 @@ Operand of_number(long long number, const Place& place = {})
 Operand part(Operand text, std::size_t begin, std::size_t size = std::string_view::npos)
 {
     begin = std::min(begin, text.text.size());
+    if (begin > 0 || size < text.text.size()) text.place.call({});
     text.text = text.text.substr(begin, size);
     if (text.place.offset) *text.place.offset += begin;
     return text;
@@ -47,6 +48,13 @@ long long days_of(long long year, long long month)
 }  // namespace
 
 Operand Run::operand(const Expression& expression, Frame& frame)
+{
+    Operand result = uncalled(expression, frame);
+    if (!expression.part.empty()) result.place.call(expression.part);
+    return result;
+}
+
+Operand Run::uncalled(const Expression& expression, Frame& frame)
 {
     switch (expression.kind) {
         case Kind::kName:

@@ -22,8 +22,9 @@ struct Reason {
     std::string_view id;                  // empty: no condition, the step always decides
     std::optional<std::size_t> argument;  // which one, from 0; nothing: none alone
     std::string_view name;                // of the argument
-    std::optional<std::size_t> item;      // of a list, or the key of a block, from 0
-    std::optional<std::size_t> offset;    // from 0, in the argument's text or, of a block, in the key's
+    std::string part;  // of it, as in "the host" or "label 2"; empty: all of it, or of the item
+    std::optional<std::size_t> item;    // of a list, or the key of a block, from 0
+    std::optional<std::size_t> offset;  // from 0, in the argument's text or, of a block, in the key's
     Datum found;
     Datum allowed;
     std::optional<long long> read_as;  // what this build's atoi makes of a number beyond an int

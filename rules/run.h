@@ -17,6 +17,14 @@ struct Place {
     std::optional<std::size_t> argument;
     std::optional<std::size_t> item;
     std::optional<std::size_t> offset;  // where a text begins in the argument's
+    std::string_view part = {};         // what that part of the argument is called
+    std::size_t part_number = 0;        // of several that are called the same, from 1
+
+    void call(std::string_view name, std::size_t number = 0)
+    {
+        part = name;
+        part_number = number;
+    }
 };
 
 // Operand is what an expression is in a call.
@@ -71,6 +79,7 @@ class Run {
 
     // Operands.
     Operand operand(const Expression& expression, Frame& frame);
+    Operand uncalled(const Expression& expression, Frame& frame);  // by no name of its own
     Operand cut(const Expression& expression, Frame& frame);
     Operand text(const Expression& expression, Frame& frame);  // and no NULL
     Integer number(const Expression& expression, Frame& frame);

@@ -12,7 +12,7 @@ constexpr Sentence kSentences[] = {
     {"already_listed", "has {found}, which is in the list already"},
     {"another_length", "has {found} {found:byte|bytes}; earlier ones have {allowed}"},
     {"another_subnet", "begins with {found}; the subnet is {allowed}"},
-    {"contains", "byte {position} is where {found} begins, which is not allowed"},
+    {"contains", "byte {position} is where {found} begins, which is not allowed", true},
     {"empty", "is empty"},
     {"end_before_start", "ends in {found}; the number may not be below {allowed}, the last one of the start"},
     {"equal", "is {found}, which is not allowed"},
@@ -23,7 +23,7 @@ constexpr Sentence kSentences[] = {
     {"forbidden_shape", "is of a form that is not allowed here"},
     {"forbidden_suffix", "ends with {allowed}, which is not allowed"},
     {"group_address",
-     "byte {position} is {byte}, which makes it the address of a group; {allowed} are allowed there"},
+     "byte {position} is {byte}, which makes it the address of a group; {allowed} are allowed there", true},
     {"in_table", "is {found}, which is not allowed"},
     {"incomplete", "ends where {allowed} {allowed:is|are} expected as byte {position}"},
     {"lacks", "has no {allowed}"},
@@ -35,8 +35,8 @@ constexpr Sentence kSentences[] = {
     {"not_a_multiple", "is {found}; a multiple of {allowed} is needed"},
     {"not_empty", "is not empty"},
     {"not_equal", "is {found}; {allowed} is allowed"},
-    {"not_in_set", "byte {position} is {byte}; {allowed} {allowed:is|are} allowed"},
-    {"not_in_table", "{found} goes with none of the known rows"},
+    {"not_in_set", "byte {position} is {byte}; {allowed} {allowed:is|are} allowed", true},
+    {"not_in_table", "{found} goes with none of the known rows", true},
     {"not_listed", "is {found}, which is not in the list"},
     {"not_listed_by_driver", "is {found}; the wireless driver lists {allowed}"},
     {"not_mac_addresses_in_length",
@@ -53,12 +53,13 @@ constexpr Sentence kSentences[] = {
     {"repeated_item", "has {found} again"},
     {"too_long", "has {found} {found:byte|bytes}; at most {allowed} {allowed:is|are} allowed"},
     {"too_many_items", "has {found} items; at most {allowed} {allowed:is|are} allowed"},
-    {"too_much", "byte {position} should be the end"},
+    {"too_much", "should end before byte {position}"},
     {"too_short", "has {found} {found:byte|bytes}; at least {allowed} {allowed:is|are} needed"},
     {"wrong_item_count", "has {found} {found:part|parts}; {allowed} are needed"},
     {"wrong_length", "has {found} {found:byte|bytes}; {allowed} are needed"},
     {"wrong_prefix", "does not begin with {allowed}"},
-    {"wrong_shape", "byte {position} is {byte}; {allowed} {allowed:is|are} expected there"},
+    {"wrong_shape", "byte {position} is {byte}; {allowed} {allowed:is|are} expected there", true},
+    {"wrong_shape_or_end", "byte {position} is {byte}; {allowed} or the end is expected there", true},
     {"wrong_suffix", "does not end with {allowed}"},
 };
 
@@ -134,6 +135,7 @@ std::string sentence(const Reason& reason)
     const auto* known = std::ranges::lower_bound(kSentences, reason.id, {}, &Sentence::id);
     if (known == std::end(kSentences) || known->id != reason.id) return "";
     std::string result;
+    if (!reason.part.empty()) result = known->has_subject ? "in " + reason.part + ", " : reason.part + " ";
     std::string_view rest = known->text;
     while (!rest.empty()) {
         const std::size_t begin = std::min(rest.find('{'), rest.size());

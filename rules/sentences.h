@@ -17,10 +17,12 @@ namespace ostrel::rules {
 //   {read_as}            the number that was made of one beyond an int
 //   {found:one|many} {allowed:one|many}
 //                        the first text where the number or the count of what is allowed is 1, else the second
-// The subject is the argument, unless the sentence has one.
+// The subject is the part that the reason names, or else the argument, unless the sentence has one. Then the part is
+// where it holds: "in the host, byte 9 is ...".
 struct Sentence {
     std::string_view id;
     std::string_view text;
+    bool has_subject = false;
 };
 
 // sentences lists all, in the order of ids.

@@ -101,9 +101,9 @@ Step reads(Expression argument)
 
 Step never_returns(Condition condition) { return step(Step::Kind::kNeverReturns, std::move(condition), {}); }
 
-List list_of(Expression text, char separator, const Set& trimmed)
+List list_of(Expression text, char separator, const Set& trimmed, std::string_view called)
 {
-    return {std::move(text), separator, trimmed};
+    return {std::move(text), separator, trimmed, called};
 }
 List keys_of(Expression blocks) { return {std::move(blocks)}; }
 

@@ -7,7 +7,8 @@ namespace {
 
 std::vector<Step> judge_last_number(const char* address)
 {
-    return {refuse(-1, below(after_last(address, "."), 1)), refuse(-1, above(after_last(address, "."), 254))};
+    const Expression last = called("the last octet", after_last(address, "."));
+    return {refuse(-1, below(last, 1)), refuse(-1, above(last, 254))};
 }
 
 Step judge_subnet(const char* address)

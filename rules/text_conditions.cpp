@@ -36,6 +36,7 @@ std::size_t common(std::string_view text, const std::vector<std::string_view>& w
 // Progress is how far a text has a shape.
 struct Progress {
     bool is_whole = false;
+    bool may_end = false;  // at the offset
     std::size_t offset = 0;
     Set expected;
     const Group* group = nullptr;  // the one at fault
@@ -59,6 +60,7 @@ Progress match(std::string_view text, const Shape& shape)
         optional = count < group.most ? group.set : Set();
     }
     result.expected = optional;
+    result.may_end = true;
     result.is_whole = result.offset == text.size();
     return result;
 }
@@ -157,6 +159,7 @@ bool Run::shape_holds(const Condition& condition, Frame& frame, Reason* reason)
         }
         if (one.offset == furthest.offset) {
             furthest.expected = furthest.expected | one.expected;
+            furthest.may_end = furthest.may_end || one.may_end;
             if (furthest.group == nullptr) furthest.group = one.group;
         }
         if (one.offset > furthest.offset) furthest = one;
@@ -166,6 +169,7 @@ bool Run::shape_holds(const Condition& condition, Frame& frame, Reason* reason)
     tell(*reason, judged.place,
          ends                        ? "incomplete"
          : furthest.expected.empty() ? "too_much"
+         : furthest.may_end          ? "wrong_shape_or_end"
                                      : "wrong_shape",
          one_byte(judged.text, furthest.offset), furthest.expected);
     if (judged.place.offset) reason->offset = *judged.place.offset + furthest.offset;

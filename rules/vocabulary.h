@@ -38,6 +38,7 @@ struct List {
     Expression of;
     char separator = '\0';  // none: the keys of a block
     Set trimmed = {};  // bytes that are taken off both ends of each item, and off the beginning of the rest
+    std::string_view part = {};  // what sentences call an item; empty: it is the item of a list
 };
 
 struct Step {

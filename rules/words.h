@@ -36,6 +36,7 @@ Expression through_last(Expression text, std::string_view separator);
 Expression slice(Expression text, Expression offset);
 Expression slice(Expression text, Expression offset, Expression count);
 Expression joined(std::initializer_list<Expression> texts);
+Expression called(std::string_view part, Expression piece);  // the subject of what is said of the piece
 Expression length(Expression text = it);
 Expression count(Expression text, Expression byte);
 Expression items(Expression text, std::string_view separator);  // how many a list has
@@ -148,7 +149,7 @@ Step when(Condition condition, std::vector<Step> steps, std::vector<Step> otherw
 Step for_each(List list, std::vector<Step> steps);
 Step reads(Expression argument);
 Step never_returns(Condition condition);
-List list_of(Expression text, char separator, const Set& trimmed = {});
+List list_of(Expression text, char separator, const Set& trimmed = {}, std::string_view called = {});
 List keys_of(Expression blocks);
 
 // steps joins several lists of steps that checks share.

@@ -13,21 +13,11 @@
 #include "rules/sentences.h"
 #include "rules/sets.h"
 #include "rules/words.h"
+#include "tests/rules/told.h"
 
 namespace ostrel::rules {
 
 namespace {
-
-Answer answer_of(std::string_view name, const std::vector<Value>& values)
-{
-    return evaluate(*find(name), values, Build());
-}
-
-std::string told(std::string_view name, const std::vector<Value>& values)
-{
-    const Answer answer = answer_of(name, values);
-    return answer.is_refusal ? sentence(answer.reason) : "accepted";
-}
 
 TEST(BuildTest, NumbersBeyondAnInt)
 {
@@ -88,8 +78,8 @@ TEST(SentencesTest, AreWhatAUserReads)
     EXPECT_EQ(
         "byte 2 is \"1\", which makes it the address of a group; 0 2 4 6 8 A C E a c e are allowed there",
         told("isValidOrdinaryMACAddress", {"01:11:22:33:44:55"}));
-    EXPECT_EQ("is 300; at most 255 is allowed", told("TcmValidateofferDNS", {"1.1.1.1, 1.1.1.300"}));
-    EXPECT_EQ("ends where digits are expected as byte 28",
+    EXPECT_EQ("octet 4 is 300; at most 255 is allowed", told("TcmValidateofferDNS", {"1.1.1.1, 1.1.1.300"}));
+    EXPECT_EQ("the part before the last \"@\" ends where digits are expected as byte 28",
               told("TcmValidatePPPUsername", {std::string(27, '1') + "@example.net", 0LL}));
 }
 
@@ -119,16 +109,6 @@ TEST(ReasonTest, OfStepsThatWentOn)
     EXPECT_EQ(1, answer.printed[1].offset);
 }
 
-// Words that no description needs yet, or that need a build of their own.
-Answer answer_of(std::vector<Step> steps, const std::vector<Value>& values, const Build& build = {})
-{
-    std::vector<ArgumentWords> arguments;
-    for (const char* name : {"one", "two", "three"}) {
-        if (arguments.size() < values.size()) arguments.push_back(text(name, "a text"));
-    }
-    return evaluate(registered(check("a_check", std::move(arguments), std::move(steps))), values, build);
-}
-
 TEST(WordsTest, Tables)
 {
     static const Table kPairs = {{"primary", "second"}, {{"1", "3"}, {"36", "38"}, {"40", "38"}}};
@@ -148,6 +128,11 @@ TEST(WordsTest, Tables)
     EXPECT_EQ("3", looked_up("").out);
     EXPECT_EQ("not_in_table", looked_up("7").reason.id);
     EXPECT_EQ(Datum(std::vector<std::string>{"1", "36", "40"}), looked_up("7").reason.allowed);
+    const Answer unpaired = answer_of(
+        {refuse(-1,
+                not_(in_table(kPairs, {{0, Match::How::kNumber, "one"}, {1, Match::How::kNumber, "two"}})))},
+        {"1", "38"});
+    EXPECT_EQ(Datum(std::vector<std::string>{"36", "40"}), unpaired.reason.allowed);
     const Step equal_cell = refuse(-1, not_(in_table(kPairs, {{0, Match::How::kEqual, "one"}})));
     EXPECT_EQ(0, answer_of({equal_cell}, {"36"}).code);
     EXPECT_EQ(-1, answer_of({equal_cell}, {"036"}).code);
