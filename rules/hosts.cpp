@@ -3,6 +3,83 @@
 
 namespace ostrel::rules {
 
-std::vector<Check> hosts() { return {}; }
+namespace {
+
+constexpr Set kHost = kHostLabel | Set(".");
+
+Check domain_name()
+{
+    return check(
+        "TcmValidateDomainName", {text("value", "a host name")},
+        {refuse(-1, empty()), refuse(-1, outside(kHost)),
+         refuse(-1, because("numeric_name", not_(outside(kIpv4)))),
+         refuse(-1, because("too_many_labels", above(items(it, "."), 6))),
+         for_each(list_of(it, '.', {}, "label"), {refuse(-1, empty()), refuse(-1, longer_than(20))})});
+}
+
+// Only what is made of digits and dots can be an address, and no name is made of them alone.
+Check host()
+{
+    return check("ValidateURL", {text("value", "a host name or an IPv4 address")},
+                 {refuse(-1, empty()), refuse(-1, outside(kHost)),
+                  when(outside(kIpv4), {refuse(-1, refused_by("TcmValidateDomainName"))},
+                       {refuse(-1, refused_by("TcmValidateIPAddress", {called("the IPv4 address", it)}))})});
+}
+
+// The first ":" after the scheme ends the host, even if it is in the path.
+Check url(std::string_view name, std::string_view what, int code, Words schemes)
+{
+    const Expression port = called("the port", before_first(after_first("rest", ":"), "/"));
+    return check(
+        name, {text("value", what)},
+        {refuse(code, longer_than(256)), refuse(code, outside(kUrl)),
+         refuse(code, not_(begins_with(std::move(schemes)))), remember("rest", after_first(it, "://")),
+         when(contains("rest", literal(":")),
+              {refuse(code, because("colon_in_path", contains(before_first("rest", ":"), literal("/")))),
+               refuse(code, refused_by("ValidateURL", {called("the host", before_first("rest", ":"))})),
+               refuse(code, outside(port, kDigits)), refuse(code, below(port, 0)),
+               refuse(code, above(port, 65535))},
+              {refuse(code, refused_by("ValidateURL", {called("the host", before_first("rest", "/"))}))})});
+}
+
+// What is between the first "@" and the last "." may hold either of them again.
+Check mail_outline()
+{
+    const Expression before = called("the part before the \"@\"", before_first(it, "@"));
+    const Expression after = called("the part after the first \"@\"", after_first(it, "@"));
+    return check("isEmail", {text("value", "an e-mail address")},
+                 {refuse(-1, shorter_than(5)), refuse(-1, not_(contains(it, literal("@")))),
+                  refuse(-1, empty(before)), refuse(-1, not_(contains(after, literal(".")))),
+                  refuse(-1, empty(called("the part between the first \"@\" and the last \".\"",
+                                          before_last(after, ".")))),
+                  refuse(-1, empty(called("the part after the last \".\"", after_last(after, "."))))});
+}
+
+// The set is wider than that of a host. Where a byte is in neither, the reason has the narrower one, so that the byte
+// that is put in its place is not refused in turn.
+Step refuse_outside(const Set& set) { return refuse(803, all_of({outside(set), outside(kHost)})); }
+
+}  // namespace
+
+std::vector<Check> hosts()
+{
+    return {
+        domain_name(),
+        host(),
+        url("TcmValidateServerURL", "the URL of a management server", -1,
+            {"x-dslf_cwmp://", "x-dslf_cwmps://"}),
+        url("TcmValidatefirmwareURL", "the URL of a firmware image", 600, {"http://", "https://"}),
+        mail_outline(),
+        check("TcmValidateEmailAddress", {text("value", "an e-mail address")},
+              {refuse(its_code(), refused_by("ValidateString", {5, 64, kMail, it})),
+               refuse(600, refused_by("isEmail"))}),
+        check("TcmValidateVoIPRegistrar", {text("value", "the host of a telephony registrar")},
+              {refuse(801, shorter_than(3)), refuse(802, longer_than(64)), refuse_outside(kNameSet),
+               refuse(600, refused_by("ValidateURL"))}),
+        check("TcmValidateVoIPSTUNServer", {text("value", "the host of a STUN server")},
+              {refuse(802, longer_than(64)), refuse_outside(kHostPort), accept(empty()),
+               refuse(600, refused_by("ValidateURL"))}),
+    };
+}
 
 }  // namespace ostrel::rules
