@@ -45,6 +45,8 @@ constexpr Sentence kSentences[] = {
      "has a length that makes it no list of MAC addresses: with one separator it is {found}, "
      "and a multiple of {allowed} is needed"},
     {"not_null", "is not NULL"},
+    {"not_of_offset", "is not part of any name that goes with the offset: {allowed}"},
+    {"not_part_of_any", "is not part of any of {allowed}"},
     {"null", "is NULL"},
     {"number_beyond_int", "is {found}, which an int does not hold; this gateway reads it as {read_as}"},
     {"number_forbidden", "is {found}; none of {allowed} is allowed"},
@@ -53,6 +55,7 @@ constexpr Sentence kSentences[] = {
     {"number_too_low", "is {found}; at least {allowed} is needed"},
     {"numeric_name", "is made of digits and dots alone; a letter or \"-\" is needed"},
     {"only_of_set", "is made of {allowed} alone"},
+    {"only_other_set", "is empty, but the other one is not"},
     {"repeated_item", "has {found} again"},
     {"too_long", "has {found} {found:byte|bytes}; at most {allowed} {allowed:is|are} allowed"},
     {"too_many_items", "has {found} items; at most {allowed} {allowed:is|are} allowed"},
