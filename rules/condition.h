@@ -78,6 +78,7 @@ struct Condition {
         kBelow,      // (number, number): it is lower than the second
         kAbove,      // (number, number): it is higher than the second
         kAmong,      // (number): it is one of numbers
+        kBetween,    // (number): it is not lower than the first of numbers, nor higher than the second
         kMultiple,   // (number, number): it is a multiple of the second
         kEqual,      // (text, text) or, where one is a number, (number, number)
         kContains,   // (text, text): the second occurs in it

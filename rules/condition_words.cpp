@@ -78,6 +78,13 @@ Condition among(Expression number, Numbers numbers)
     return result;
 }
 
+Condition between(Expression number, long long lowest, long long highest)
+{
+    Condition result = condition(Kind::kBetween, {std::move(number)});
+    result.numbers = {lowest, highest};
+    return result;
+}
+
 Condition multiple(Expression number, Expression of)
 {
     return condition(Kind::kMultiple, {std::move(number), std::move(of)});

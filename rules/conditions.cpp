@@ -66,6 +66,7 @@ bool Run::holds_at_all(const Condition& condition, Frame& frame, Reason* reason)
         case Kind::kBelow:
         case Kind::kAbove:
         case Kind::kAmong:
+        case Kind::kBetween:
         case Kind::kMultiple:
             return number_holds(condition, frame, reason);
         case Kind::kShape:
@@ -117,6 +118,9 @@ bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
     if (condition.kind == Kind::kAmong) {
         id = is_negated ? "number_not_allowed" : "number_forbidden";
         result = std::ranges::find(condition.numbers, judged.value) != condition.numbers.end();
+    } else if (condition.kind == Kind::kBetween) {
+        id = is_negated ? "number_out_of_range" : "number_in_range";
+        result = judged.value >= condition.numbers[0] && judged.value <= condition.numbers[1];
     } else {
         limit = number(condition.operands[1], frame).value;
         if (condition.kind == Kind::kMultiple) {
@@ -130,12 +134,12 @@ bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
     }
     if (reason == nullptr || result == is_negated) return result;
     tell(*reason, judged.place, id, judged.value, limit);
-    if (condition.kind == Kind::kAmong) reason->allowed = condition.numbers;
+    if (!condition.numbers.empty()) reason->allowed = condition.numbers;
     reason->offset = judged.place.offset;
+    if (judged.is_read) reason->read_as = judged.value;
     if (!judged.beyond_int.empty()) {
         reason->id = "number_beyond_int";
         reason->found = std::string(judged.beyond_int);
-        reason->read_as = judged.value;
     }
     return result;
 }

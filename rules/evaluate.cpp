@@ -51,7 +51,15 @@ Answer evaluate(const Check& check, std::span<const Value> values, const Build& 
     return Run(check, build, counts).evaluate(values);
 }
 
-Answer Run::evaluate(std::span<const Value> values)
+std::optional<std::size_t> room(const Check& check, std::size_t argument, std::span<const Value> values)
+{
+    const std::optional<Expression>& formula = check.arguments.at(argument).room;
+    if (!formula) return std::nullopt;
+    const Build build;
+    return Run(check, build, nullptr).size(*formula, values);
+}
+
+Frame Run::called_with(std::span<const Value> values)
 {
     Frame frame{called_, {}};
     frame.is_called = true;
@@ -62,6 +70,22 @@ Answer Run::evaluate(std::span<const Value> values)
         }
     }
     frame.slots.resize(called_.slots);
+    return frame;
+}
+
+std::optional<std::size_t> Run::size(const Expression& formula, std::span<const Value> values)
+{
+    Frame frame = called_with(values);
+    try {
+        return static_cast<std::size_t>(number(formula, frame).value);
+    } catch (const Ended&) {
+        return std::nullopt;
+    }
+}
+
+Answer Run::evaluate(std::span<const Value> values)
+{
+    Frame frame = called_with(values);
     try {
         for (std::size_t i = 0; i < values.size(); ++i) {
             const bool is_null = frame.slots[i].kind == Operand::Kind::kNull;
@@ -128,8 +152,8 @@ Run::Flow Run::run(const Step& step, Frame& frame)
             frame.slots[step.slot] = operand(*step.value, frame);
             return Flow::kOn;
         case Step::Kind::kReads:
-            text(*step.value, frame);
-            return Flow::kOn;
+            if (operand(*step.value, frame).kind != Operand::Kind::kNull) return Flow::kOn;
+            throw Ended{step.name.empty() ? Outside::kNull : Outside::kAssertion};
         case Step::Kind::kNeverReturns:
             throw Ended{Outside::kNeverReturns};
         default:

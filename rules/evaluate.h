@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <variant>
@@ -55,6 +56,10 @@ struct Counts {
 // evaluate takes a value for every argument, in order, those that are only written included.
 Answer evaluate(const Check& check, std::span<const Value> values, const Build& build,
                 Counts* counts = nullptr);
+
+// room says how many bytes a buffer must have in a call. Nothing: those of the text in it, or what the room depends on
+// is NULL.
+std::optional<std::size_t> room(const Check& check, std::size_t argument, std::span<const Value> values);
 
 }  // namespace ostrel::rules
 

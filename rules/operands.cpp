@@ -188,9 +188,9 @@ Operand Run::text(const Expression& expression, Frame& frame)
 Integer Run::number(const Expression& expression, Frame& frame)
 {
     const Operand given = text(expression, frame);
-    if (given.kind == Operand::Kind::kNumber) return {given.number, {}, given.place};
+    if (given.kind == Operand::Kind::kNumber) return {given.number, {}, false, given.place};
     const Number read = read_number(given.text, build_.atoi);
-    Integer result{read.value, {}, given.place};
+    Integer result{read.value, {}, given.text != std::to_string(read.value), given.place};
     if (!read.beyond_int) return result;
     answer_.beyond_int = true;
     result.beyond_int = given.text.substr(read.begin, read.end - read.begin);

@@ -42,6 +42,7 @@ struct Operand {
 struct Integer {
     long long value = 0;
     std::string_view beyond_int;  // what stands in the text, when an int does not hold it
+    bool is_read = false;         // from a text that is not just the number
     Place place;
 };
 
@@ -73,9 +74,12 @@ class Run {
     }
 
     Answer evaluate(std::span<const Value> values);
+    std::optional<std::size_t> size(const Expression& formula, std::span<const Value> values);
 
  private:
     enum class Flow { kOn, kNextItem, kEnd };
+
+    Frame called_with(std::span<const Value> values);
 
     // Operands.
     Operand operand(const Expression& expression, Frame& frame);
@@ -88,6 +92,7 @@ class Run {
 
     // Conditions. A reason is made where one is wanted.
     static bool same(std::string_view a, std::string_view b, bool ignores_case);
+    static std::size_t common(std::string_view text, const Condition& prefixes);  // bytes, of the best one
     bool holds(const Condition& condition, Frame& frame, Reason* reason);
     bool holds_at_all(const Condition& condition, Frame& frame, Reason* reason);
     bool text_holds(const Condition& condition, Frame& frame, Reason* reason);

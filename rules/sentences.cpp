@@ -7,17 +7,19 @@ namespace ostrel::rules {
 namespace {
 
 constexpr Sentence kSentences[] = {
-    {"a_multiple", "is {found}; a multiple of {allowed} is not allowed"},
+    {"a_multiple", "is {read}{found}; a multiple of {allowed} is not allowed"},
     {"accepted", "is of a form that is not allowed here"},
-    {"already_listed", "has {found}, which is in the list already"},
+    {"already_listed", "is {found}, which occurs in the list already"},
     {"another_length", "has {found} {found:byte|bytes}; earlier ones have {allowed}"},
-    {"another_subnet", "begins with {found}; the subnet is {allowed}"},
+    {"another_subnet", "does not begin with {allowed}, the subnet"},
     {"colon_in_path",
      "has a \":\" in the path that begins at byte {position}; that is allowed only after a port"},
     {"contains", "byte {position} is where {found} begins, which is not allowed", true},
     {"empty", "is empty"},
-    {"end_before_start", "ends in {found}; the number may not be below {allowed}, the last one of the start"},
+    {"empty_as_listed", "is empty, and so is one in the list"},
+    {"end_before_start", "is {found}; at least {allowed}, the last number of the start, is needed"},
     {"equal", "is {found}, which is not allowed"},
+    {"first_server", "is the first server, which cannot be deleted"},
     {"forbidden_form", "is {allowed}, which is not allowed here"},
     {"forbidden_keyword", "is {found}; none of {allowed} is allowed"},
     {"forbidden_length", "has {found} {found:byte|bytes}, which is not allowed"},
@@ -30,12 +32,13 @@ constexpr Sentence kSentences[] = {
     {"incomplete", "ends where {allowed} {allowed:is|are} expected as byte {position}"},
     {"lacks", "has no {allowed}"},
     {"last_item", "is the last one"},
-    {"list_full", "would make the list {found} {found:byte|bytes} long; at most {allowed} are allowed"},
+    {"list_full", "has {found} bytes together with the list; at most {allowed} are allowed"},
     {"listed_by_driver", "is {found}, which the wireless driver lists"},
+    {"neither_server", "is neither the first nor the second server"},
     {"no_key_left", "has no key that is printable and not empty"},
-    {"not_a_keyword", "is none of {allowed}"},
-    {"not_a_multiple", "is {found}; a multiple of {allowed} is needed"},
-    {"not_empty", "is not empty"},
+    {"not_a_keyword", "is {allowed:not|none of} {allowed}"},
+    {"not_a_multiple", "is {read}{found}; a multiple of {allowed} is needed"},
+    {"not_empty", "is not empty; only the empty value is allowed"},
     {"not_equal", "is {found}; {allowed} is allowed"},
     {"not_in_set", "byte {position} is {byte}; {allowed} {allowed:is|are} allowed", true},
     {"not_in_table", "{found} goes with none of the known rows", true},
@@ -48,22 +51,25 @@ constexpr Sentence kSentences[] = {
     {"not_of_offset", "is not part of any name that goes with the offset: {allowed}"},
     {"not_part_of_any", "is not part of any of {allowed}"},
     {"null", "is NULL"},
-    {"number_beyond_int", "is {found}, which an int does not hold; this gateway reads it as {read_as}"},
-    {"number_forbidden", "is {found}; none of {allowed} is allowed"},
-    {"number_not_allowed", "is {found}; only {allowed} {allowed:is|are} allowed"},
-    {"number_too_high", "is {found}; at most {allowed} is allowed"},
-    {"number_too_low", "is {found}; at least {allowed} is needed"},
+    {"number_beyond_int",
+     "has the number {found}, which an int does not hold; this gateway reads it as {read_as}"},
+    {"number_forbidden", "is {read}{found}; none of {allowed} is allowed"},
+    {"number_in_range", "is {read}{found}; {range} are not allowed"},
+    {"number_not_allowed", "is {read}{found}; only {allowed} {allowed:is|are} allowed"},
+    {"number_out_of_range", "is {read}{found}; {range} are allowed"},
+    {"number_too_high", "is {read}{found}; at most {allowed} is allowed"},
+    {"number_too_low", "is {read}{found}; at least {allowed} is needed"},
     {"numeric_name", "is made of digits and dots alone; a letter or \"-\" is needed"},
     {"only_of_set", "is made of {allowed} alone"},
     {"only_other_set", "is empty, but the other one is not"},
-    {"repeated_item", "has {found} again"},
+    {"repeated_item", "is {found}, which occurs again later in the list"},
     {"too_long", "has {found} {found:byte|bytes}; at most {allowed} {allowed:is|are} allowed"},
     {"too_many_items", "has {found} items; at most {allowed} {allowed:is|are} allowed"},
     {"too_many_labels", "has {found} labels; at most {allowed} are allowed"},
     {"too_much", "should end before byte {position}"},
     {"too_short", "has {found} {found:byte|bytes}; at least {allowed} {allowed:is|are} needed"},
     {"wrong_item_count", "has {found} {found:part|parts}; {allowed} are needed"},
-    {"wrong_length", "has {found} {found:byte|bytes}; {allowed} are needed"},
+    {"wrong_length", "has {found} {found:byte|bytes}; {allowed:|one of }{allowed} {allowed:are|is} needed"},
     {"wrong_prefix", "does not begin with {allowed}"},
     {"wrong_shape", "byte {position} is {byte}; {allowed} {allowed:is|are} expected there", true},
     {"wrong_shape_or_end", "byte {position} is {byte}; {allowed} or the end is expected there", true},
@@ -113,6 +119,12 @@ std::string counted(const std::optional<std::size_t>& from_zero)
     return from_zero ? std::to_string(*from_zero + 1) : "";
 }
 
+std::string range(const Datum& datum)
+{
+    const auto* limits = std::get_if<std::vector<long long>>(&datum);
+    return limits == nullptr ? "" : std::to_string(limits->front()) + " to " + std::to_string(limits->back());
+}
+
 std::string value_of(std::string_view name, const Reason& reason)
 {
     const std::size_t colon = name.find(':');
@@ -128,6 +140,8 @@ std::string value_of(std::string_view name, const Reason& reason)
     if (name == "allowed") return shown(reason.allowed);
     if (name == "position") return counted(reason.offset);
     if (name == "item") return counted(reason.item);
+    if (name == "range") return range(reason.allowed);
+    if (name == "read") return reason.read_as ? "read as " : "";
     if (name == "read_as") return reason.read_as ? std::to_string(*reason.read_as) : "";
     const auto* byte = std::get_if<std::string>(&reason.found);
     return byte == nullptr || byte->empty() ? "" : byte_in_words(byte->front());

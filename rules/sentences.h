@@ -14,6 +14,8 @@ namespace ostrel::rules {
 //   {found} {allowed}    what the reason has; of a list of words the words, of a set its members in words
 //   {byte}               the byte that was found, shown so that it can be printed
 //   {position} {item}    the offset and the item, counted from 1
+//   {range}              the two limits that are allowed
+//   {read}               "read as " where the text is not just the number that is found
 //   {read_as}            the number that was made of one beyond an int
 //   {found:one|many} {allowed:one|many}
 //                        the first text where the number or the count of what is allowed is 1, else the second

@@ -99,6 +99,13 @@ Step reads(Expression argument)
     return result;
 }
 
+Step asserts(Expression argument, std::string_view condition)
+{
+    Step result = reads(std::move(argument));
+    result.name = condition;
+    return result;
+}
+
 Step never_returns(Condition condition) { return step(Step::Kind::kNeverReturns, std::move(condition), {}); }
 
 List list_of(Expression text, char separator, const Set& trimmed, std::string_view called)

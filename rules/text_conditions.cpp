@@ -22,17 +22,6 @@ std::string one_byte(std::string_view text, std::size_t offset)
     return std::string(text.substr(offset, 1));
 }
 
-// common gives how many bytes a text has in common with the beginning of one of the words, at most.
-std::size_t common(std::string_view text, const std::vector<std::string_view>& words)
-{
-    std::size_t longest = 0;
-    for (const std::string_view word : words) {
-        const auto [end, other] = std::ranges::mismatch(text, word);
-        longest = std::max(longest, static_cast<std::size_t>(end - text.begin()));
-    }
-    return longest;
-}
-
 // Progress is how far a text has a shape.
 struct Progress {
     bool is_whole = false;
@@ -66,6 +55,17 @@ Progress match(std::string_view text, const Shape& shape)
 }
 
 }  // namespace
+
+std::size_t Run::common(std::string_view text, const Condition& prefixes)
+{
+    std::size_t longest = 0;
+    for (const std::string_view word : prefixes.words) {
+        std::size_t size = std::min(text.size(), word.size());
+        while (!same(text.substr(0, size), word.substr(0, size), prefixes.ignores_case)) --size;
+        longest = std::max(longest, size);
+    }
+    return longest;
+}
 
 bool Run::text_holds(const Condition& condition, Frame& frame, Reason* reason)
 {
@@ -110,7 +110,7 @@ bool Run::text_holds(const Condition& condition, Frame& frame, Reason* reason)
             });
             if (tells())
                 say(is_negated ? "wrong_prefix" : "forbidden_prefix", std::string(whole),
-                    all(condition.words), is_negated ? common(whole, condition.words) : 0);
+                    all(condition.words), is_negated ? common(whole, condition) : 0);
             return result;
         case Kind::kSuffix: {
             const std::string_view suffix = text(condition.operands[1], frame).text;

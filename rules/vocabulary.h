@@ -51,7 +51,7 @@ struct Step {
         kRemember,      // keeps a text or a number under a name
         kWhen,          // steps where the condition holds, otherwise the other steps
         kForEach,       // steps for each item
-        kReads,         // an argument is read, so that NULL is a memory fault from here on
+        kReads,         // NULL is a memory fault from here on; with a name, a failed assertion that prints it
         kNeverReturns,  // where the condition holds the call does not come back
     };
 

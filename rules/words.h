@@ -68,6 +68,7 @@ Condition above(Expression number, Expression limit);
 inline Condition above(Expression limit) { return above(it, std::move(limit)); }
 Condition among(Expression number, Numbers numbers);
 inline Condition among(Numbers numbers) { return among(it, std::move(numbers)); }
+Condition between(Expression number, long long lowest, long long highest);
 Condition multiple(Expression number, Expression of);
 Condition equal(Expression one, Expression other);
 Condition contains(Expression text, Expression part);
@@ -148,6 +149,7 @@ Step remember(std::string_view name, Expression value);
 Step when(Condition condition, std::vector<Step> steps, std::vector<Step> otherwise = {});
 Step for_each(List list, std::vector<Step> steps);
 Step reads(Expression argument);
+Step asserts(Expression argument, std::string_view condition);  // what is printed for NULL
 Step never_returns(Condition condition);
 List list_of(Expression text, char separator, const Set& trimmed = {}, std::string_view called = {});
 List keys_of(Expression blocks);

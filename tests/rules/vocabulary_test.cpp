@@ -71,7 +71,7 @@ TEST(SentencesTest, AreWhatAUserReads)
               told("TcmValidateEmailPassword", {"abcde\x9F"}));
     EXPECT_EQ("is none of None, Basic, WPA, 11i, WPAand11i", told("TcmValidateBeaconType", {"wpa"}));
     EXPECT_EQ("is 0; at least 1 is needed", told("TcmValidatePort", {"0"}));
-    EXPECT_EQ("is 99999999999999999999, which an int does not hold; this gateway reads it as -1",
+    EXPECT_EQ("has the number 99999999999999999999, which an int does not hold; this gateway reads it as -1",
               told("TcmValidatePort", {"99999999999999999999"}));
     EXPECT_EQ("byte 15 is \"-\"; \":\" is expected there",
               told("TcmValidateMACaddress", {"00:11:22:33:44-55"}));
@@ -154,6 +154,19 @@ TEST(WordsTest, DaysOfMonths)
     EXPECT_EQ(0, judge("2000", "0", "0"));
 }
 
+TEST(WordsTest, NumbersBetweenTwo)
+{
+    for (const char* number : {"5", "7", " 6x"}) {
+        EXPECT_EQ("number_in_range", answer_of({refuse(402, between(it, 5, 7))}, {number}).reason.id);
+        EXPECT_EQ(0, answer_of({refuse(402, not_(between(it, 5, 7)))}, {number}).code);
+    }
+    for (const char* number : {"4", "8", "", "-6"}) {
+        EXPECT_EQ(0, answer_of({refuse(402, between(it, 5, 7))}, {number}).code);
+        EXPECT_EQ("number_out_of_range",
+                  answer_of({refuse(402, not_(between(it, 5, 7)))}, {number}).reason.id);
+    }
+}
+
 TEST(WordsTest, Grammars)
 {
     static const Grammar kEven = {"an even number of bytes",
@@ -206,6 +219,9 @@ TEST(WordsTest, TheBuildsModel)
 
 TEST(OutsideTest, WhatTheContractDoesNotPromise)
 {
+    EXPECT_EQ(Outside::kAssertion, answer_of({asserts("one", "one != 0")}, {nullptr}).outside);
+    EXPECT_EQ(Outside::kNo, answer_of({asserts("one", "one != 0")}, {""}).outside);
+    EXPECT_EQ(Outside::kNull, answer_of({reads("one")}, {nullptr}).outside);
     EXPECT_EQ(Outside::kAssertion, answer_of("PARAM_check_port", {nullptr}).outside);
     EXPECT_EQ(Outside::kNull, answer_of("PARAM_check_ip_addr", {nullptr}).outside);
     EXPECT_EQ(Outside::kNeverReturns, answer_of("PARAM_check_ui2_value", {"1"}).outside);
