@@ -44,9 +44,6 @@ constexpr Sentence kSentences[] = {
     {"not_in_table", "{found} goes with none of the known rows", true},
     {"not_listed", "is {found}, which is not in the list"},
     {"not_listed_by_driver", "is {found}; the wireless driver lists {allowed}"},
-    {"not_mac_addresses_in_length",
-     "has a length that makes it no list of MAC addresses: with one separator it is {found}, "
-     "and a multiple of {allowed} is needed"},
     {"not_null", "is not NULL"},
     {"not_of_offset", "is not part of any name that goes with the offset: {allowed}"},
     {"not_part_of_any", "is not part of any of {allowed}"},

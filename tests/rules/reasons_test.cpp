@@ -1,0 +1,144 @@
+// Reasons test: what is said of values that the checks of the services refuse.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rules/evaluate.h"
+#include "rules/rules.h"
+#include "rules/sentences.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+Answer answer_of(std::string_view name, const std::vector<Value>& values)
+{
+    return evaluate(*find(name), values, Build());
+}
+
+// told is the argument and what is said of it.
+std::string told(std::string_view name, const std::vector<Value>& values)
+{
+    const Answer answer = answer_of(name, values);
+    return answer.is_refusal ? std::string(answer.reason.name) + " " + sentence(answer.reason) : "accepted";
+}
+
+TEST(KeywordTest, NamesAll)
+{
+    EXPECT_EQ("value is none of en-us, fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th",
+              told("HNAPCORE_check_locale", {"de"}));
+    EXPECT_EQ("value_p is not Static", told("LAN_check_interface_addr_type", {"static"}));
+    EXPECT_EQ("value_p is \"Normal\"; none of Normal, UseAllocatedSubnet, Passthrough is allowed",
+              told("LAN_check_use_allocated_wan", {"Normal"}));
+}
+
+TEST(KeywordTest, PrefixInAnyCaseSaysHowFarItGoes)
+{
+    const Answer answer = answer_of("HNAPCORE_check_timezone", {"uTD+1", ""});
+    EXPECT_EQ("wrong_prefix", answer.reason.id);
+    EXPECT_EQ(2U, answer.reason.offset);
+    EXPECT_EQ("value does not begin with UTC", told("HNAPCORE_check_timezone", {"UT", ""}));
+}
+
+TEST(NumberTest, TextIsReadAsANumber)
+{
+    EXPECT_EQ("value is 0; at least 1 is needed", told("L3FORWARDING_check_MTU", {"0"}));
+    EXPECT_EQ("value is read as 0; at least 1 is needed", told("L3FORWARDING_check_MTU", {"abc"}));
+    EXPECT_EQ("value is read as 1541; at most 1540 is allowed", told("L3FORWARDING_check_MTU", {" 1541x"}));
+    EXPECT_EQ("value has the number 4294967295, which an int does not hold; this gateway reads it as -1",
+              told("L3FORWARDING_check_MTU", {"4294967295 bytes"}));
+    EXPECT_EQ(1541, answer_of("L3FORWARDING_check_MTU", {"01541"}).reason.read_as);
+    EXPECT_EQ(std::nullopt, answer_of("L3FORWARDING_check_MTU", {"1541"}).reason.read_as);
+}
+
+TEST(NumberTest, ReasonIsOfTheStepThatDecided)
+{
+    const Answer answer = answer_of("GUESTACCESS_check_max_allowed_number", {"abc"});
+    EXPECT_EQ(402, answer.code);
+    EXPECT_EQ("is read as 0; at least 1 is needed", sentence(answer.reason));
+    ASSERT_EQ(1U, answer.printed.size());
+    EXPECT_EQ("has 3 bytes; at most 2 are allowed", sentence(answer.printed[0]));
+    EXPECT_EQ("value has 3 bytes; at most 2 are allowed",
+              told("GUESTACCESS_check_max_allowed_number", {"100"}));
+    EXPECT_EQ("value byte 2 is \"a\"; digits are allowed",
+              told("GUESTACCESS_check_max_allowed_number", {"5a"}));
+    EXPECT_TRUE(answer_of("GUESTACCESS_check_max_allowed_number", {"0"}).printed.empty());
+}
+
+TEST(NumberTest, ReservedPorts)
+{
+    EXPECT_EQ("port is 443; none of 80, 161, 443, 1723, 1728, 6667, 7547 is allowed",
+              told("PORTMAPPING_check_port_available", {"443", 0LL}));
+    EXPECT_EQ("port is 54000; 54000 to 54999 are not allowed",
+              told("PORTMAPPING_check_port_available", {"54000", 1LL}));
+    EXPECT_EQ("accepted", told("PORTMAPPING_check_port_available", {"53999", 1LL}));
+    EXPECT_EQ("accepted", told("PORTMAPPING_check_port_available", {"55000", 1LL}));
+    const Answer answer = answer_of("PORTMAPPING_check_port_available", {"54999", 1LL});
+    EXPECT_EQ("number_in_range", answer.reason.id);
+    EXPECT_EQ(Datum(std::vector<long long>{54000, 54999}), answer.reason.allowed);
+}
+
+TEST(NullTest, IsAssertedAgainstWhereItIsRead)
+{
+    EXPECT_EQ(Outside::kAssertion, answer_of("PORTMAPPING_check_port_available", {nullptr, 0LL}).outside);
+    EXPECT_EQ(Outside::kAssertion, answer_of("PORTMAPPING_check_port_available", {nullptr, 1LL}).outside);
+    EXPECT_EQ(Outside::kNo, answer_of("PORTMAPPING_check_port_available", {nullptr, 2LL}).outside);
+    EXPECT_EQ(Outside::kAssertion, answer_of("MGTSERVER_check_conn_request_username", {nullptr}).outside);
+    EXPECT_EQ(Outside::kNull, answer_of("LAN_check_dhcp_reserved_addr", {"", nullptr}).outside);
+    EXPECT_EQ(Outside::kNull, answer_of("HNAPCORE_check_timezone", {"UTC", nullptr}).outside);
+    EXPECT_EQ(Outside::kNo, answer_of("HNAPCORE_check_timezone", {"GMT", nullptr}).outside);
+}
+
+TEST(NameTest, FirstByteIsALetter)
+{
+    EXPECT_EQ("value_p byte 1 is \"1\"; letters are allowed", told("LAN_check_cis_dev_name", {"1Router"}));
+    EXPECT_EQ("value_p byte 1 is \"_\"; letters are allowed", told("LAN_check_cis_dev_name", {"_Router"}));
+    EXPECT_EQ("value_p byte 7 is \"_\"; letters, digits, blanks and - are allowed",
+              told("LAN_check_cis_dev_name", {"Router_1"}));
+}
+
+TEST(ListTest, AddedAddresses)
+{
+    const std::string longest(143, 'l');
+    const auto told_of = [](const char* address, std::string list) {
+        return told("LAN_check_add_allowedMACAddress", {address, std::move(list)});
+    };
+    EXPECT_EQ("macAddress is empty", told_of("", "l"));
+    EXPECT_EQ("macAddress \"l\" occurs in the list already", told_of("l", "l"));
+    EXPECT_EQ("macAddress has 1 byte; one of 17, 35, 53, 71, 89, 107, 125, 143 is needed", told_of("a", "l"));
+    EXPECT_EQ("macAddress has 160 bytes together with the list; at most 159 are allowed",
+              told_of("00:11:22:33:44:55", longest));
+}
+
+TEST(ListTest, AddedAndDeletedServers)
+{
+    const auto added = [](const char* servers, const char* list) {
+        return told("LAN_check_add_dns_servers", {servers, list});
+    };
+    EXPECT_EQ("newServers \"1.1.1.1\" occurs in the list already",
+              added("8.8.8.8,1.1.1.1", "1.1.1.1,9.9.9.9"));
+    EXPECT_EQ("newServers \"8.8.8.8\" occurs in the list already", added("8.8.8.8", "8.8.8.8"));
+    EXPECT_EQ("newServers is empty, and so is one in the list", added("8.8.8.8,", "1.1.1.1,"));
+    const auto deleted = [](const char* server, const char* list) {
+        return told("LAN_check_delete_dns_server", {server, list});
+    };
+    EXPECT_EQ("serverAddress is the first server, which cannot be deleted",
+              deleted("8.8.8.8", "8.8.8.8,1.1.1.1"));
+    EXPECT_EQ("serverAddress is neither the first nor the second server", deleted("10.0.0.1", "8.8.8.8"));
+    EXPECT_EQ("serverAddress is neither the first nor the second server", deleted("1.1.1.1", ""));
+}
+
+TEST(AddressTest, OtherSubnets)
+{
+    EXPECT_EQ("endAddress does not begin with \"192.168.1.\", the subnet",
+              told("LAN_check_dhcp_addr_range", {"192.168.1.100", "192.168.2.200", "192.168.1.1"}));
+    EXPECT_EQ("value begins with 0.0, which is not allowed",
+              told("L3FORWARDING_check_IP_address_and_mask", {"0.0.0.0"}));
+}
+
+}  // namespace
+
+}  // namespace ostrel::rules
