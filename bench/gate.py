@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Fails when one of the hottest rules executes more instructions than it did.
 
 usage: gate.py PROGRAM BASELINE [--accept]

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Writes the instructions per value of every contender: instructions.py PROGRAM OUT.json [FAMILY...]"""
 
 import json

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Prints what the benchmarks measured as tables, draws the chart, and writes the page's table.
 
 usage: report.py TIMES.json INSTRUCTIONS.json CHART.svg PAGE.md

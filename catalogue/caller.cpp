@@ -185,6 +185,7 @@ std::vector<Written> Caller::written() const
             value = text_at(begin, capacity_.at(i));
         } else {
             std::vector<std::string> texts;
+            texts.reserve(argument.blocks);
             for (std::size_t block = 0; block < argument.blocks; ++block) {
                 texts.push_back(text_at(begin + block * argument.capacity, argument.capacity));
             }

@@ -95,6 +95,8 @@ class PlainCase : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, PlainCa
 
     [[nodiscard]] const Function* function() const { return function_; }
 
+    // The base calls these of the class that it is told, and has its own for the rest.
+    // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
     static bool Default() { return false; }
     bool StartObject() { return enter(Place::kOutside, Place::kMembers); }
     bool EndObject(rapidjson::SizeType /*members*/) { return function_ != nullptr && has_args_; }
@@ -123,6 +125,7 @@ class PlainCase : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, PlainCa
     bool Int(int number) { return add(static_cast<long long>(number)); }
     bool Uint(unsigned number) { return add(static_cast<long long>(number)); }
     bool Int64(std::int64_t number) { return add(static_cast<long long>(number)); }
+    // NOLINTEND(bugprone-derived-method-shadowing-base-method)
 
  private:
     enum class Place { kOutside, kMembers, kCheck, kArgs, kArguments };

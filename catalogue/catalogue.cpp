@@ -12,7 +12,7 @@ namespace {
 void append(std::vector<Function>& all, std::string_view family, std::vector<Function> functions)
 {
     for (Function& function : functions) function.family = family;
-    std::move(functions.begin(), functions.end(), std::back_inserter(all));
+    std::ranges::move(functions, std::back_inserter(all));
 }
 
 std::vector<Function> collect()

@@ -118,7 +118,7 @@ Test range_fault()
         }
         if (host_number(start) > host_number(end)) return "the start is above the end";
         const std::string fault = host_fault_of("start", host_number(start));
-        const std::string other = fault.empty() ? host_fault_of("end", host_number(end)) : fault;
+        std::string other = fault.empty() ? host_fault_of("end", host_number(end)) : fault;
         if (other.empty()) return std::nullopt;
         return other;
     };
@@ -160,7 +160,7 @@ Fault router_fault(std::string_view text)
 {
     if (Fault fault = ipv4_fault(text)) return "no IPv4 address: " + *fault;
     if (!text.starts_with("192.168.")) return "it does not begin with 192.168.";
-    const std::string fault = host_fault_of("address", host_number(text));
+    std::string fault = host_fault_of("address", host_number(text));
     if (fault.empty()) return std::nullopt;
     return fault;
 }
@@ -174,7 +174,7 @@ Fault offered_dns_fault(std::string_view text)
     });
     if (!item) return std::nullopt;
     if (item->number > 2) return fault;
-    return "item " + std::to_string(item->number) + " is no IPv4 address: " + *fault;
+    return "item " + std::to_string(item->number) + " is no IPv4 address: " + fault.value_or("");
 }
 
 Test user_name_fault(int code)

@@ -1,6 +1,5 @@
 // Faults of date-times and time-zone offsets.
 
-#include <algorithm>
 #include <array>
 
 #include "catalogue/conditions.h"

@@ -190,6 +190,7 @@ std::vector<Row> seeds_of(const Function& function, const std::vector<Row>& rows
     std::ranges::stable_sort(accepted, {}, size_of);
     if (accepted.size() <= kMostSeeds) return accepted;
     std::vector<Row> seeds;
+    seeds.reserve(kMostSeeds);
     for (std::size_t i = 0; i < kMostSeeds; ++i) {
         seeds.push_back(accepted[i * (accepted.size() - 1) / (kMostSeeds - 1)]);
     }

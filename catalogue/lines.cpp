@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <optional>
 
-#include "catalogue/conditions.h"
 #include "catalogue/rows.h"
 #include "catalogue/texts.h"
 

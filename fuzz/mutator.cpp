@@ -28,7 +28,8 @@ Mutator::Mutator(std::vector<std::string> seeds, std::uint64_t seed)
         }
     }
     std::ranges::sort(fields_);
-    fields_.erase(std::unique(fields_.begin(), fields_.end()), fields_.end());
+    const auto repeated = std::ranges::unique(fields_);
+    fields_.erase(repeated.begin(), repeated.end());
 }
 
 std::size_t Mutator::below(std::size_t bound)

@@ -29,6 +29,7 @@ class VectorTest : public testing::Test {
  public:
     explicit VectorTest(Row row) : row_(std::move(row)) {}
 
+ private:
     void TestBody() override
     {
         if (!row_.fault.empty()) FAIL() << row_.fault;
@@ -47,7 +48,6 @@ class VectorTest : public testing::Test {
         }
     }
 
- private:
     Row row_;
 };
 

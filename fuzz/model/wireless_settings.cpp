@@ -1,5 +1,4 @@
 // The other settings of the wireless LAN.
-#include <algorithm>
 #include <optional>
 #include <sstream>
 

@@ -65,7 +65,7 @@ bool is_5_ghz_channel(int channel)
 bool is_listed_by_driver(int channel)
 {
     // The tool's exit status says nothing that the list does not.
-    // NOLINTNEXTLINE(cert-env33-c,concurrency-mt-unsafe)
+    // NOLINTNEXTLINE(bugprone-command-processor)
     [[maybe_unused]] const int status = std::system(kListCommand);
     std::FILE* list = std::fopen(kListFile, "r");
     if (list == nullptr) return false;

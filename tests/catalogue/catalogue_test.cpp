@@ -111,7 +111,7 @@ TEST_P(Entry, KeywordsAreThoseOfTheCheck)
     for (std::size_t i = 0; i < function_.arguments.size(); ++i) {
         for (const std::string_view keyword : function_.arguments[i].keywords) {
             if (function_.arguments.size() == 1 && function_.is_verdict) {
-                Capture capture;
+                const Capture capture;
                 Caller caller;
                 caller.load(function_, {std::string(keyword)});
                 EXPECT_EQ(0, caller.call()) << keyword;

@@ -128,7 +128,7 @@ TEST(Exports, CheckHeaderIncludesEveryOther)
     const std::string include = OSTREL_SOURCE_DIR "/include/";
     for (const std::string& header : public_headers()) {
         if (header == "ostrel/check.h") continue;
-        std::filesystem::path folder = std::filesystem::path(header).parent_path();
+        const std::filesystem::path folder = std::filesystem::path(header).parent_path();
         const std::string collector = folder == "ostrel" ? "ostrel/check.h" : folder.string() + ".h";
         EXPECT_NE(std::string::npos, contents(include + collector).find("#include <" + header + ">"))
             << header;

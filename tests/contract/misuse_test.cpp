@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -114,6 +113,7 @@ TEST_P(Misuse, EmptyValuesWithEveryExtremeNumber)
              {0LL, 1LL, -1LL, static_cast<long long>(std::numeric_limits<int>::max()),
               static_cast<long long>(std::numeric_limits<int>::min())}) {
             std::vector<Value> values;
+            values.reserve(function.arguments.size());
             for (const Argument& argument : function.arguments) values.push_back(neutral(argument, number));
             for (const Edge edge : {Edge::kEnd, Edge::kBegin}) {
                 Caller caller(edge);

@@ -95,7 +95,7 @@ using Edit = int (*)(const char*, const char*);
 
 void expect_agreement(Edit edit, Answer (*slow)(const std::string&, const std::string&), int code)
 {
-    std::mt19937 random(3);  // NOLINT(cert-msc32-c,cert-msc51-cpp): every run tries the same lists
+    std::mt19937 random(3);  // NOLINT(bugprone-random-generator-seed): every run tries the same lists
     int with_code = 0;
     std::string one;
     std::string other;
@@ -153,7 +153,7 @@ TEST(AllowedMacAddresses, ARefusalLeavesEveryByte)
     };
     for (const auto& [address, list] : refused) {
         std::string buffer = unfilled(list);
-        catalogue::Capture capture;
+        const catalogue::Capture capture;
         EXPECT_EQ(-1, LAN_check_add_allowedMACAddress(address.c_str(), buffer.data()));
         EXPECT_EQ(unfilled(list), buffer) << address;
     }

@@ -130,7 +130,7 @@ class MacAddress : public testing::Test {
     Verdict verdict(int (*check)(const char*), const std::string& text)
     {
         const int code = check(text.c_str());
-        catalogue::Printed printed = capture_.take();
+        const catalogue::Printed printed = capture_.take();
         EXPECT_EQ(0U, printed.flushed) << "nothing is flushed";
         return {code, printed.out};
     }

@@ -79,7 +79,6 @@ bool slow_offset(const std::string& value)
     if (value.size() != 6 || !has_separators(value, {0, 3}, "+:")) return false;
     int hours = 0;
     int minutes = 0;
-    // NOLINTNEXTLINE(cert-err34-c): only digits are left
     std::sscanf(value.c_str(), value[0] == '+' ? "+%d:%d" : "-%d:%d", &hours, &minutes);
     return hours < 13 && minutes < 60;
 }

@@ -120,7 +120,7 @@ class Texts {
     std::size_t pick(std::size_t size) { return random_() % size; }
 
  private:
-    std::mt19937 random_{1};  // NOLINT(cert-msc51-cpp): the same texts in every run
+    std::mt19937 random_{1};  // NOLINT(bugprone-random-generator-seed): the same texts in every run
 };
 
 void expect_host(const std::string& text)

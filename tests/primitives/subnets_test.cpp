@@ -122,7 +122,7 @@ TEST(ReservedAddresses, AgreeWithASlowVersionOnEveryShortList)
 
 TEST(ReservedAddresses, AgreeWithASlowVersionOnRandomLists)
 {
-    std::mt19937 random(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp): every run tries the same lists
+    std::mt19937 random(1);  // NOLINT(bugprone-random-generator-seed): every run tries the same lists
     const std::vector<std::string> parts = {"1.1", "1.2", "1.12", "1.1 2", "2.1", "1.", ",", ",", " ", "\t"};
     std::vector<int> codes(702);
     for (int round = 0; round < 200000; ++round) {
@@ -159,7 +159,7 @@ TEST(ReservedAddresses, TakeLinearTimeForLongItems)
 
 TEST(OfferedDns, AgreeWithASlowVersion)
 {
-    std::mt19937 random(2);  // NOLINT(cert-msc32-c,cert-msc51-cpp): every run tries the same lists
+    std::mt19937 random(2);  // NOLINT(bugprone-random-generator-seed): every run tries the same lists
     const std::vector<std::string> parts = {"1.1.1.1", "1.1.1.1", "255.8.8.8", "1.1.1.256", ",", ",",
                                             ",",       " ",       "\t",        "1",         "."};
     int accepted = 0;

@@ -130,6 +130,7 @@ void add_reports(const Function& function, Reports& reports, Places& places)
         if (kind == Kind::kInteger || kind == Kind::kUnsigned) continue;
         for (const long long number : numbers_of(function)) {
             std::vector<Value> values;
+            values.reserve(function.arguments.size());
             for (const catalogue::Argument& argument : function.arguments) {
                 values.push_back(neutral(argument, number));
             }

@@ -5,7 +5,6 @@
 //
 // LOCALE must be known; the default is C. Rows with a text of more BYTES are left out, if that is given.
 
-#include <algorithm>
 #include <cctype>
 #include <clocale>
 #include <cstdio>

@@ -101,7 +101,6 @@ void write_exposures(Page& page, const Study& study)
     page.heading("What an accepted value may contain");
     for (const catalogue::Exposure& exposure : study.exposures) {
         std::string never;
-        std::string some;
         for (std::size_t i = 0; i < exposure.places.size(); ++i) {
             const catalogue::Hazard& hazard = catalogue::hazards()[i];
             if (!exposure.places[i].any()) {

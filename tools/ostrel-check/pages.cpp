@@ -1,9 +1,6 @@
 // Pages: the files of docs/ that are made from the catalogue.
 
-#include <algorithm>
-
 #include "explain.h"
-#include "show.h"
 
 namespace ostrel::tool {
 

@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <set>
 
+#include "catalogue/caller.h"
 #include "catalogue/capture.h"
-#include "catalogue/conditions.h"
-#include "verdict.h"
 
 namespace ostrel::tool {
 

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <stdexcept>
 
 #include "driver.h"
 #include "line.h"

@@ -232,7 +232,8 @@ TEST(Batch, ValueOfAMebibyteIsJudgedAndShownWhole)
     const std::string value(std::size_t{1} << 20, '7');
     const std::vector<json> rows = run_batch("PARAM_check_bool_value " + value + "\nPARAM_check_port 1\n");
     ASSERT_EQ(3U, rows.size());
-    EXPECT_EQ("Error in PARAM_check_bool_value: The value " + value + " out of range[0,1]\n", rows[0]["out"]);
+    EXPECT_EQ("Error in PARAM_check_bool_value: The value " + value + " out of range[0,1]\n",
+              rows[0]["out"].get<std::string>());
     EXPECT_EQ("accepted", rows[1]["verdict"]);
     EXPECT_LT(run({"batch"}, "PARAM_check_bool_value " + value).out.size(), 2000U);
 }

@@ -17,7 +17,7 @@ using tests::kChannelList;
 namespace {
 
 class Driver : public testing::Test {
- public:
+ protected:
     // Each test has a folder for temporary files of its own, so that it can see that none is left.
     void SetUp() override
     {
