@@ -136,7 +136,7 @@ bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
     tell(*reason, judged.place, id, judged.value, limit);
     if (!condition.numbers.empty()) reason->allowed = condition.numbers;
     reason->offset = judged.place.offset;
-    if (judged.is_read) reason->read_as = judged.value;
+    if (judged.is_read || !judged.beyond_int.empty()) reason->read_as = judged.value;
     if (!judged.beyond_int.empty()) {
         reason->id = "number_beyond_int";
         reason->found = std::string(judged.beyond_int);

@@ -53,8 +53,8 @@ Check add_dns_servers()
 {
     const auto has_two = [](const char* list) { return contains(list, literal(",")); };
     const auto split = [](const char* list, const char* first, const char* second) {
-        return std::vector<Step>{remember(first, before_first(list, ",")),
-                                 remember(second, after_first(list, ","))};
+        return std::vector<Step>{remember(first, called("the first server", before_first(list, ","))),
+                                 remember(second, called("the second server", after_first(list, ",")))};
     };
     return check(
         "LAN_check_add_dns_servers",

@@ -190,7 +190,9 @@ Integer Run::number(const Expression& expression, Frame& frame)
     const Operand given = text(expression, frame);
     if (given.kind == Operand::Kind::kNumber) return {given.number, {}, false, given.place};
     const Number read = read_number(given.text, build_.atoi);
-    Integer result{read.value, {}, given.text != std::to_string(read.value), given.place};
+    const bool is_whole =
+        read.end > 0 && read.end - read.begin == given.text.size() && given.text.back() >= '0';
+    Integer result{read.value, {}, !is_whole, given.place};
     if (!read.beyond_int) return result;
     answer_.beyond_int = true;
     result.beyond_int = given.text.substr(read.begin, read.end - read.begin);

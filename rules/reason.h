@@ -27,7 +27,7 @@ struct Reason {
     std::optional<std::size_t> offset;  // from 0, in the argument's text or, of a block, in the key's
     Datum found;
     Datum allowed;
-    std::optional<long long> read_as;  // what this build's atoi makes of a text that is not just that number
+    std::optional<long long> read_as;  // what this build's atoi makes of a text that is not just an int
 };
 
 }  // namespace ostrel::rules

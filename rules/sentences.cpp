@@ -17,7 +17,7 @@ constexpr Sentence kSentences[] = {
     {"contains", "byte {position} is where {found} begins, which is not allowed", true},
     {"empty", "is empty"},
     {"empty_as_listed", "is empty, and so is one in the list"},
-    {"end_before_start", "is {found}; at least {allowed}, the last number of the start, is needed"},
+    {"end_before_start", "is {found}; at least {allowed}, the last octet of the start, is needed"},
     {"equal", "is {found}, which is not allowed"},
     {"first_server", "is the first server, which cannot be deleted"},
     {"forbidden_form", "is {allowed}, which is not allowed here"},

@@ -5,10 +5,11 @@ namespace ostrel::rules {
 
 namespace {
 
-std::vector<Step> judge_last_number(const char* address)
+Expression last_octet(const char* address) { return called("the last octet", after_last(address, ".")); }
+
+std::vector<Step> judge_last_octet(const char* address)
 {
-    const Expression last = called("the last octet", after_last(address, "."));
-    return {refuse(-1, below(last, 1)), refuse(-1, above(last, 254))};
+    return {refuse(-1, below(last_octet(address), 1)), refuse(-1, above(last_octet(address), 254))};
 }
 
 Step judge_subnet(const char* address)
@@ -40,15 +41,14 @@ std::vector<Check> subnets()
               {text("startAddress", "the first address of the pool"),
                text("endAddress", "the last address of the pool"),
                text("lanAddress", "the gateway's own address on the LAN")},
-              joined_steps(
-                  {{refuse(-1, refused_by("TcmValidateIPAddress", {"startAddress"})),
-                    refuse(-1, refused_by("TcmValidateIPAddress", {"endAddress"})),
-                    refuse(-1, not_(contains("lanAddress", literal(".")))), judge_subnet("startAddress"),
-                    judge_subnet("endAddress")},
-                   judge_last_number("startAddress"),
-                   judge_last_number("endAddress"),
-                   {refuse(-1, because("end_before_start", below(after_last("endAddress", "."),
-                                                                 after_last("startAddress", "."))))}})),
+              joined_steps({{refuse(-1, refused_by("TcmValidateIPAddress", {"startAddress"})),
+                             refuse(-1, refused_by("TcmValidateIPAddress", {"endAddress"})),
+                             refuse(-1, not_(contains("lanAddress", literal(".")))),
+                             judge_subnet("startAddress"), judge_subnet("endAddress")},
+                            judge_last_octet("startAddress"),
+                            judge_last_octet("endAddress"),
+                            {refuse(-1, because("end_before_start", below(last_octet("endAddress"),
+                                                                          last_octet("startAddress"))))}})),
         check("TcmValidateReservedAddress",
               {text("reservedList", "the reserved addresses"),
                text("lanAddress", "the gateway's own address on the LAN")},
@@ -57,7 +57,7 @@ std::vector<Check> subnets()
         check("TcmValidateIPRouter", {text("address", "the gateway's own address on the LAN")},
               joined_steps({{refuse(-1, refused_by("TcmValidateIPAddress")),
                              refuse(-1, not_(begins_with({"192.168."})))},
-                            judge_last_number(it)})),
+                            judge_last_octet(it)})),
         check("TcmValidateofferDNS", {text("dnsList", "the DNS servers that are offered")},
               {refuse(-1, because("too_many_items", above(items(it, ","), 2))),
                for_each(list_of(it, ',', kBlank), {refuse(-1, refused_by("TcmValidateIPAddress"))})}),

@@ -14,11 +14,11 @@ TEST(PartsTest, AreTheSubject)
     const auto said = [&](const Condition& condition) {
         return told(answer_of({refuse(-1, condition)}, {"a:7x"}));
     };
-    EXPECT_EQ("the port is 7; at most 6 is allowed", said(above(port, 6)));
+    EXPECT_EQ("the port is read as 7; at most 6 is allowed", said(above(port, 6)));
     EXPECT_EQ("the port has 2 bytes; at most 1 is allowed", said(longer_than(port, 1)));
     EXPECT_EQ("in the port, byte 4 is \"x\"; digits are allowed", said(outside(port, kDigits)));
     EXPECT_EQ("the port has no \"y\"", said(not_(contains(port, literal("y")))));
-    EXPECT_EQ("is 7; at most 6 is allowed", said(above(after_first(it, ":"), 6)));
+    EXPECT_EQ("is read as 7; at most 6 is allowed", said(above(after_first(it, ":"), 6)));
 }
 
 TEST(PartsTest, BeginWhereTheOffsetIs)

@@ -2,37 +2,26 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <string_view>
-#include <vector>
-
-#include "rules/evaluate.h"
-#include "rules/rules.h"
-#include "rules/sentences.h"
+#include "tests/rules/told.h"
 
 namespace ostrel::rules {
 
 namespace {
 
-Answer answer_of(std::string_view name, const std::vector<Value>& values)
-{
-    return evaluate(*find(name), values, Build());
-}
-
-// told is the argument and what is said of it.
-std::string told(std::string_view name, const std::vector<Value>& values)
+// said is the argument and what is said of it.
+std::string said(std::string_view name, const std::vector<Value>& values)
 {
     const Answer answer = answer_of(name, values);
-    return answer.is_refusal ? std::string(answer.reason.name) + " " + sentence(answer.reason) : "accepted";
+    return std::string(answer.reason.name) + " " + told(answer);
 }
 
 TEST(KeywordTest, NamesAll)
 {
     EXPECT_EQ("value is none of en-us, fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th",
-              told("HNAPCORE_check_locale", {"de"}));
-    EXPECT_EQ("value_p is not Static", told("LAN_check_interface_addr_type", {"static"}));
+              said("HNAPCORE_check_locale", {"de"}));
+    EXPECT_EQ("value_p is not Static", said("LAN_check_interface_addr_type", {"static"}));
     EXPECT_EQ("value_p is \"Normal\"; none of Normal, UseAllocatedSubnet, Passthrough is allowed",
-              told("LAN_check_use_allocated_wan", {"Normal"}));
+              said("LAN_check_use_allocated_wan", {"Normal"}));
 }
 
 TEST(KeywordTest, PrefixInAnyCaseSaysHowFarItGoes)
@@ -40,18 +29,23 @@ TEST(KeywordTest, PrefixInAnyCaseSaysHowFarItGoes)
     const Answer answer = answer_of("HNAPCORE_check_timezone", {"uTD+1", ""});
     EXPECT_EQ("wrong_prefix", answer.reason.id);
     EXPECT_EQ(2U, answer.reason.offset);
-    EXPECT_EQ("value does not begin with UTC", told("HNAPCORE_check_timezone", {"UT", ""}));
+    EXPECT_EQ("value does not begin with UTC", said("HNAPCORE_check_timezone", {"UT", ""}));
 }
 
 TEST(NumberTest, TextIsReadAsANumber)
 {
-    EXPECT_EQ("value is 0; at least 1 is needed", told("L3FORWARDING_check_MTU", {"0"}));
-    EXPECT_EQ("value is read as 0; at least 1 is needed", told("L3FORWARDING_check_MTU", {"abc"}));
-    EXPECT_EQ("value is read as 1541; at most 1540 is allowed", told("L3FORWARDING_check_MTU", {" 1541x"}));
+    EXPECT_EQ("value is 0; at least 1 is needed", said("L3FORWARDING_check_MTU", {"0"}));
+    EXPECT_EQ("value is read as 0; at least 1 is needed", said("L3FORWARDING_check_MTU", {"abc"}));
+    EXPECT_EQ("value is read as 1541; at most 1540 is allowed", said("L3FORWARDING_check_MTU", {" 1541x"}));
     EXPECT_EQ("value has the number 4294967295, which an int does not hold; this gateway reads it as -1",
-              told("L3FORWARDING_check_MTU", {"4294967295 bytes"}));
-    EXPECT_EQ(1541, answer_of("L3FORWARDING_check_MTU", {"01541"}).reason.read_as);
-    EXPECT_EQ(std::nullopt, answer_of("L3FORWARDING_check_MTU", {"1541"}).reason.read_as);
+              said("L3FORWARDING_check_MTU", {"4294967295 bytes"}));
+    EXPECT_EQ(1541, answer_of("L3FORWARDING_check_MTU", {"1541 bytes"}).reason.read_as);
+    for (const char* number : {"1541", "01541", "+1541", "-1"}) {
+        EXPECT_EQ(std::nullopt, answer_of("L3FORWARDING_check_MTU", {number}).reason.read_as) << number;
+    }
+    for (const char* text : {"", "-", " 1541", "1541 "}) {
+        EXPECT_NE(std::nullopt, answer_of("L3FORWARDING_check_MTU", {text}).reason.read_as) << text;
+    }
 }
 
 TEST(NumberTest, ReasonIsOfTheStepThatDecided)
@@ -62,20 +56,20 @@ TEST(NumberTest, ReasonIsOfTheStepThatDecided)
     ASSERT_EQ(1U, answer.printed.size());
     EXPECT_EQ("has 3 bytes; at most 2 are allowed", sentence(answer.printed[0]));
     EXPECT_EQ("value has 3 bytes; at most 2 are allowed",
-              told("GUESTACCESS_check_max_allowed_number", {"100"}));
+              said("GUESTACCESS_check_max_allowed_number", {"100"}));
     EXPECT_EQ("value byte 2 is \"a\"; digits are allowed",
-              told("GUESTACCESS_check_max_allowed_number", {"5a"}));
+              said("GUESTACCESS_check_max_allowed_number", {"5a"}));
     EXPECT_TRUE(answer_of("GUESTACCESS_check_max_allowed_number", {"0"}).printed.empty());
 }
 
 TEST(NumberTest, ReservedPorts)
 {
     EXPECT_EQ("port is 443; none of 80, 161, 443, 1723, 1728, 6667, 7547 is allowed",
-              told("PORTMAPPING_check_port_available", {"443", 0LL}));
+              said("PORTMAPPING_check_port_available", {"443", 0LL}));
     EXPECT_EQ("port is 54000; 54000 to 54999 are not allowed",
-              told("PORTMAPPING_check_port_available", {"54000", 1LL}));
-    EXPECT_EQ("accepted", told("PORTMAPPING_check_port_available", {"53999", 1LL}));
-    EXPECT_EQ("accepted", told("PORTMAPPING_check_port_available", {"55000", 1LL}));
+              said("PORTMAPPING_check_port_available", {"54000", 1LL}));
+    EXPECT_EQ(" accepted", said("PORTMAPPING_check_port_available", {"53999", 1LL}));
+    EXPECT_EQ(" accepted", said("PORTMAPPING_check_port_available", {"55000", 1LL}));
     const Answer answer = answer_of("PORTMAPPING_check_port_available", {"54999", 1LL});
     EXPECT_EQ("number_in_range", answer.reason.id);
     EXPECT_EQ(Datum(std::vector<long long>{54000, 54999}), answer.reason.allowed);
@@ -94,20 +88,20 @@ TEST(NullTest, IsAssertedAgainstWhereItIsRead)
 
 TEST(NameTest, FirstByteIsALetter)
 {
-    EXPECT_EQ("value_p byte 1 is \"1\"; letters are allowed", told("LAN_check_cis_dev_name", {"1Router"}));
-    EXPECT_EQ("value_p byte 1 is \"_\"; letters are allowed", told("LAN_check_cis_dev_name", {"_Router"}));
+    EXPECT_EQ("value_p byte 1 is \"1\"; letters are allowed", said("LAN_check_cis_dev_name", {"1Router"}));
+    EXPECT_EQ("value_p byte 1 is \"_\"; letters are allowed", said("LAN_check_cis_dev_name", {"_Router"}));
     EXPECT_EQ("value_p byte 7 is \"_\"; letters, digits, blanks and - are allowed",
-              told("LAN_check_cis_dev_name", {"Router_1"}));
+              said("LAN_check_cis_dev_name", {"Router_1"}));
 }
 
 TEST(ListTest, AddedAddresses)
 {
     const std::string longest(143, 'l');
     const auto told_of = [](const char* address, std::string list) {
-        return told("LAN_check_add_allowedMACAddress", {address, std::move(list)});
+        return said("LAN_check_add_allowedMACAddress", {address, std::move(list)});
     };
     EXPECT_EQ("macAddress is empty", told_of("", "l"));
-    EXPECT_EQ("macAddress \"l\" occurs in the list already", told_of("l", "l"));
+    EXPECT_EQ("macAddress is \"l\", which occurs in the list already", told_of("l", "l"));
     EXPECT_EQ("macAddress has 1 byte; one of 17, 35, 53, 71, 89, 107, 125, 143 is needed", told_of("a", "l"));
     EXPECT_EQ("macAddress has 160 bytes together with the list; at most 159 are allowed",
               told_of("00:11:22:33:44:55", longest));
@@ -116,14 +110,15 @@ TEST(ListTest, AddedAddresses)
 TEST(ListTest, AddedAndDeletedServers)
 {
     const auto added = [](const char* servers, const char* list) {
-        return told("LAN_check_add_dns_servers", {servers, list});
+        return said("LAN_check_add_dns_servers", {servers, list});
     };
-    EXPECT_EQ("newServers \"1.1.1.1\" occurs in the list already",
+    EXPECT_EQ("newServers the second server is \"1.1.1.1\", which occurs in the list already",
               added("8.8.8.8,1.1.1.1", "1.1.1.1,9.9.9.9"));
-    EXPECT_EQ("newServers \"8.8.8.8\" occurs in the list already", added("8.8.8.8", "8.8.8.8"));
-    EXPECT_EQ("newServers is empty, and so is one in the list", added("8.8.8.8,", "1.1.1.1,"));
+    EXPECT_EQ("newServers is \"8.8.8.8\", which occurs in the list already", added("8.8.8.8", "8.8.8.8"));
+    EXPECT_EQ("newServers the second server is empty, and so is one in the list",
+              added("8.8.8.8,", "1.1.1.1,"));
     const auto deleted = [](const char* server, const char* list) {
-        return told("LAN_check_delete_dns_server", {server, list});
+        return said("LAN_check_delete_dns_server", {server, list});
     };
     EXPECT_EQ("serverAddress is the first server, which cannot be deleted",
               deleted("8.8.8.8", "8.8.8.8,1.1.1.1"));
@@ -131,12 +126,23 @@ TEST(ListTest, AddedAndDeletedServers)
     EXPECT_EQ("serverAddress is neither the first nor the second server", deleted("1.1.1.1", ""));
 }
 
+TEST(AddressTest, Pools)
+{
+    const auto pool = [](const char* start, const char* end) {
+        return said("LAN_check_dhcp_addr_range", {start, end, "192.168.1.1"});
+    };
+    EXPECT_EQ("startAddress the last octet is 0; at least 1 is needed", pool("192.168.1.0", "192.168.1.9"));
+    EXPECT_EQ("endAddress the last octet is 8; at least 9, the last octet of the start, is needed",
+              pool("192.168.1.9", "192.168.1.8"));
+    EXPECT_EQ("endAddress octet 4 is 256; at most 255 is allowed", pool("192.168.1.9", "192.168.1.256"));
+}
+
 TEST(AddressTest, OtherSubnets)
 {
     EXPECT_EQ("endAddress does not begin with \"192.168.1.\", the subnet",
-              told("LAN_check_dhcp_addr_range", {"192.168.1.100", "192.168.2.200", "192.168.1.1"}));
+              said("LAN_check_dhcp_addr_range", {"192.168.1.100", "192.168.2.200", "192.168.1.1"}));
     EXPECT_EQ("value begins with 0.0, which is not allowed",
-              told("L3FORWARDING_check_IP_address_and_mask", {"0.0.0.0"}));
+              said("L3FORWARDING_check_IP_address_and_mask", {"0.0.0.0"}));
 }
 
 }  // namespace
