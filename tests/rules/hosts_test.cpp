@@ -46,8 +46,8 @@ TEST(HostsTest, Urls)
     EXPECT_EQ("accepted", said("http://a.lan:/"));
     EXPECT_EQ("has 257 bytes; at most 256 are allowed", said("http://" + std::string(250, 'a')));
     EXPECT_EQ("byte 9 is \"@\"; letters, digits and - . / : ? _ are allowed", said("http://u@a"));
-    EXPECT_EQ("does not begin with http://, https://", said("ftp://a.lan"));
-    EXPECT_EQ("does not begin with x-dslf_cwmp://, x-dslf_cwmps://",
+    EXPECT_EQ("does not begin with any of http://, https://", said("ftp://a.lan"));
+    EXPECT_EQ("does not begin with any of x-dslf_cwmp://, x-dslf_cwmps://",
               told("TcmValidateServerURL", {"http://a.lan"}));
     EXPECT_EQ("the host is empty", said("http:///x"));
     EXPECT_EQ("the host is empty", said("http://:80"));
