@@ -25,7 +25,6 @@ enum class Kind {
     kIntegerOut,  // int*: only written
 };
 
-// NOLINTBEGIN(readability-redundant-member-init): g++ warns where a member without one is left out.
 struct Argument {
     std::string_view name;
     Kind kind = Kind::kText;
@@ -37,7 +36,6 @@ struct Argument {
     std::string_view written = {};  // what the function writes to it, and when
     std::vector<std::string_view> keywords = {};
 };
-// NOLINTEND(readability-redundant-member-init)
 
 // Test tells whether a condition is what brought a code about: nothing if not; else what there is to say
 // about it, such as the byte at fault, or the empty text.

@@ -93,7 +93,7 @@ Outcome outcome_of(const Answer& answer)
 std::string reason_fault(const Answer& answer)
 {
     if (!answer.is_refusal) return "";
-    const std::string sentence = rules::sentence(answer.reason);
+    std::string sentence = rules::sentence(answer.reason);
     if (sentence.empty()) return "no sentence for \"" + std::string(answer.reason.id) + "\"";
     for (const char* place : {"{found", "{allowed", "{byte", "{position", "{item", "{read_as"}) {
         if (sentence.find(place) != std::string::npos) return sentence;

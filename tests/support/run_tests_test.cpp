@@ -1,7 +1,5 @@
 // run_tests in a process of its own: what a program with such tests ends with, by whether CI is set.
 
-#include "tests/support/run_tests.h"
-
 #include <gtest/gtest.h>
 #include <unistd.h>
 
