@@ -7,8 +7,8 @@ namespace {
 
 constexpr std::string_view kAssertion = "value_p != ((void *)0)";
 
-// An empty list takes whatever is added, of any length and without a terminator. To another one a comma and a terminator
-// are written as well, so that 159 bytes need 161.
+// An empty list takes whatever is added, of any length and without a terminator. In another one a comma and a
+// terminator are written as well, so that 159 bytes need 161.
 Check add_allowed_address()
 {
     const Line existed = line(

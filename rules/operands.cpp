@@ -190,6 +190,7 @@ Integer Run::number(const Expression& expression, Frame& frame)
     const Operand given = text(expression, frame);
     if (given.kind == Operand::Kind::kNumber) return {given.number, {}, false, given.place};
     const Number read = read_number(given.text, build_.atoi);
+    // A sign alone is no number.
     const bool is_whole =
         read.end > 0 && read.end - read.begin == given.text.size() && given.text.back() >= '0';
     Integer result{read.value, {}, !is_whole, given.place};

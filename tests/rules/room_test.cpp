@@ -52,7 +52,7 @@ class Buffer {
 
 std::size_t room_of(const char* name, std::size_t argument, const std::vector<rules::Value>& values)
 {
-    return rules::room(*rules::find(name), argument, values).value();
+    return rules::room(*rules::find(name), argument, values).value_or(0);
 }
 
 int add(const std::string& address, const std::string& list, Buffer& buffer)
