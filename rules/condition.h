@@ -86,10 +86,10 @@ struct Condition {
         kGrammar,    // (text): it fails the grammar
         kRow,        // a row of the table suits all matches; the first one is where cells are taken from
         kRefusedBy,  // (arguments): the other check does not answer 0
-        kListed,     // (number): the wireless driver lists this channel
-        kLastItem,   // in a list: nothing follows the item
-        kAllOf,      // (parts): the reason is that of the last
-        kAnyOf,      // (parts): the reason is that of the first that holds
+        kListed,  // (number): among the first numbers[0] that the wireless driver lists, none above numbers[1]
+        kLastItem,  // in a list: nothing follows the item
+        kAllOf,     // (parts): the reason is that of the last
+        kAnyOf,     // (parts): the reason is that of the first that holds
     };
 
     Kind kind = Kind::kAlways;

@@ -129,7 +129,13 @@ Condition refused_by(std::string_view check, std::vector<Expression> arguments)
     return result;
 }
 
-Condition listed_by_driver(Expression number) { return condition(Kind::kListed, {std::move(number)}); }
+Condition listed_by_driver(Expression number, int first, int highest)
+{
+    Condition result = condition(Kind::kListed, {std::move(number)});
+    result.numbers = {first, highest};
+    return result;
+}
+
 Condition last_item() { return condition(Kind::kLastItem, {}); }
 
 Condition all_of(std::vector<Condition> parts)

@@ -25,8 +25,10 @@ void Run::tell(Reason& reason, const Place& where, std::string_view id, Datum fo
     reason = {};
     reason.id = id;
     reason.argument = where.argument;
-    if (where.argument) reason.name = called_.arguments[*where.argument].name;
+    if (called_.arguments.size() == 1) reason.argument = 0;
+    if (reason.argument) reason.name = called_.arguments[*reason.argument].name;
     reason.item = where.item;
+    reason.conversion = where.conversion;
     reason.part = where.part;
     if (where.part_number > 0) reason.part += " " + std::to_string(where.part_number);
     if (!where.part.empty()) reason.offset = where.offset;
@@ -69,6 +71,8 @@ bool Run::holds_at_all(const Condition& condition, Frame& frame, Reason* reason)
         case Kind::kBetween:
         case Kind::kMultiple:
             return number_holds(condition, frame, reason);
+        case Kind::kListed:
+            return driver_lists(condition, frame, reason);
         case Kind::kShape:
             return shape_holds(condition, frame, reason);
         case Kind::kEqual:
@@ -108,42 +112,6 @@ bool Run::length_holds(const Condition& condition, Frame& frame, Reason* reason)
     return result;
 }
 
-bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
-{
-    const Integer judged = number(condition.operands[0], frame);
-    const bool is_negated = condition.is_negated;
-    std::string_view id;
-    long long limit = 0;
-    bool result = false;
-    if (condition.kind == Kind::kAmong) {
-        id = is_negated ? "number_not_allowed" : "number_forbidden";
-        result = std::ranges::find(condition.numbers, judged.value) != condition.numbers.end();
-    } else if (condition.kind == Kind::kBetween) {
-        id = is_negated ? "number_out_of_range" : "number_in_range";
-        result = judged.value >= condition.numbers[0] && judged.value <= condition.numbers[1];
-    } else {
-        limit = number(condition.operands[1], frame).value;
-        if (condition.kind == Kind::kMultiple) {
-            id = is_negated ? "not_a_multiple" : "a_multiple";
-            result = judged.value % limit == 0;
-        } else {
-            const bool is_below = condition.kind == Kind::kBelow;
-            id = is_below != is_negated ? "number_too_low" : "number_too_high";
-            result = is_below ? judged.value < limit : judged.value > limit;
-        }
-    }
-    if (reason == nullptr || result == is_negated) return result;
-    tell(*reason, judged.place, id, judged.value, limit);
-    if (!condition.numbers.empty()) reason->allowed = condition.numbers;
-    reason->offset = judged.place.offset;
-    if (judged.is_read || !judged.beyond_int.empty()) reason->read_as = judged.value;
-    if (!judged.beyond_int.empty()) {
-        reason->id = "number_beyond_int";
-        reason->found = std::string(judged.beyond_int);
-    }
-    return result;
-}
-
 bool Run::row_holds(const Condition& condition, Frame& frame, Reason* reason)
 {
     const auto suits = [&](const std::vector<std::string_view>& row, std::span<const Match> matches) {
@@ -176,24 +144,6 @@ bool Run::row_holds(const Condition& condition, Frame& frame, Reason* reason)
     return result;
 }
 
-bool Run::equality_holds(const Condition& condition, Frame& frame, Reason* reason)
-{
-    const Operand one = text(condition.operands[0], frame);
-    const Operand other = text(condition.operands[1], frame);
-    const std::string_view id = condition.is_negated ? "not_equal" : "equal";
-    const bool are_texts = one.kind == Operand::Kind::kText && other.kind == Operand::Kind::kText;
-    const long long left = are_texts ? 0 : number(condition.operands[0], frame).value;
-    const long long right = are_texts ? 0 : number(condition.operands[1], frame).value;
-    const bool result = are_texts ? same(one.text, other.text, condition.ignores_case) : left == right;
-    if (reason == nullptr || result == condition.is_negated) return result;
-    if (are_texts) {
-        tell(*reason, one.place, id, std::string(one.text), std::string(other.text));
-    } else {
-        tell(*reason, one.place, id, left, right);
-    }
-    return result;
-}
-
 bool Run::others_hold(const Condition& condition, Frame& frame, Reason* reason)
 {
     bool result = true;
@@ -203,17 +153,6 @@ bool Run::others_hold(const Condition& condition, Frame& frame, Reason* reason)
             const Operand judged = operand(condition.operands[0], frame);
             result = judged.kind == Operand::Kind::kNull;
             if (tells()) tell(*reason, judged.place, condition.is_negated ? "not_null" : "null", {}, {});
-            return result;
-        }
-        case Kind::kListed: {
-            if (!build_.channels) throw Ended{Outside::kDriver};
-            const Integer channel = number(condition.operands[0], frame);
-            std::vector<long long> listed(build_.channels->begin(), build_.channels->end());
-            result = std::ranges::find(listed, channel.value) != listed.end();
-            if (tells())
-                tell(*reason, channel.place,
-                     condition.is_negated ? "not_listed_by_driver" : "listed_by_driver", channel.value,
-                     std::move(listed));
             return result;
         }
         case Kind::kLastItem:

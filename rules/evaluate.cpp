@@ -219,6 +219,7 @@ void Run::write(const Write& write, Frame& frame)
     target.number = value.number;
     target.text = keep(std::string(value.text));
     if (value.kind == Operand::Kind::kText) target.place.offset = 0;
+    target.place.conversion = value.place.conversion;
     if (is_item) blocks_[*target.place.item] = target.text;
 }
 

@@ -17,6 +17,7 @@ namespace ostrel::rules {
 struct Conversion {
     std::string_view what;  // "with character references replaced"
     std::string (*convert)(std::string_view text);
+    std::vector<std::string> changed = {};  // texts that it changes, one for each way
 };
 
 // Expression is a text, a number or a set. A text that stands where a number is needed is read as atoi reads it.

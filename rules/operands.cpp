@@ -162,6 +162,7 @@ Operand Run::computed(const Expression& expression, Frame& frame)
     if (expression.kind == Kind::kConverted) {
         Operand result = of_text(keep(expression.conversion->convert(whole.text)));
         result.place = whole.place;
+        if (result.text != whole.text) result.place.conversion = expression.conversion->what;
         return result;
     }
     if (expression.kind == Kind::kLength)

@@ -19,6 +19,7 @@ struct Place {
     std::optional<std::size_t> offset;  // where a text begins in the argument's
     std::string_view part = {};         // what that part of the argument is called
     std::size_t part_number = 0;        // of several that are called the same, from 1
+    std::string_view conversion = {};   // what was done to the argument's text; empty: it is as given
 
     void call(std::string_view name, std::size_t number = 0)
     {
@@ -97,6 +98,7 @@ class Run {
     bool holds_at_all(const Condition& condition, Frame& frame, Reason* reason);
     bool text_holds(const Condition& condition, Frame& frame, Reason* reason);
     bool length_holds(const Condition& condition, Frame& frame, Reason* reason);
+    bool driver_lists(const Condition& condition, Frame& frame, Reason* reason);
     bool number_holds(const Condition& condition, Frame& frame, Reason* reason);
     bool shape_holds(const Condition& condition, Frame& frame, Reason* reason);
     bool row_holds(const Condition& condition, Frame& frame, Reason* reason);
@@ -104,6 +106,7 @@ class Run {
     bool others_hold(const Condition& condition, Frame& frame, Reason* reason);
     bool is_refused_by(const Condition& condition, Frame& frame, Reason* reason);
     void tell(Reason& reason, const Place& where, std::string_view id, Datum found, Datum allowed) const;
+    void tell(Reason& reason, const Integer& judged, std::string_view id, Datum allowed) const;
 
     // Steps.
     Flow run(const std::vector<Step>& steps, Frame& frame);

@@ -18,7 +18,7 @@ constexpr Sentence kSentences[] = {
     {"empty", "is empty"},
     {"empty_as_listed", "is empty, and so is one in the list"},
     {"end_before_start", "is {found}; at least {allowed}, the last octet of the start, is needed"},
-    {"equal", "is {found}, which is not allowed"},
+    {"equal", "is {read}{found}, which is not allowed"},
     {"first_server", "is the first server, which cannot be deleted"},
     {"forbidden_form", "is {allowed}, which is not allowed here"},
     {"forbidden_keyword", "is {found}; none of {allowed} is allowed"},
@@ -33,17 +33,19 @@ constexpr Sentence kSentences[] = {
     {"lacks", "has no {allowed}"},
     {"last_item", "is the last one"},
     {"list_full", "has {found} bytes together with the list; at most {allowed} are allowed"},
-    {"listed_by_driver", "is {found}, which the wireless driver lists"},
+    {"listed_by_driver", "is {read}{found}, which the wireless driver lists"},
     {"neither_server", "is neither the first nor the second server"},
+    {"no_channel_listed", "is {read}{found}; the wireless driver lists no channel that is allowed"},
     {"no_key_left", "has no key that is printable and not empty"},
     {"not_a_keyword", "is {allowed:not|none of} {allowed}"},
     {"not_a_multiple", "is {read}{found}; a multiple of {allowed} is needed"},
     {"not_empty", "is not empty; only the empty value is allowed"},
-    {"not_equal", "is {found}; {allowed} is allowed"},
+    {"not_equal", "is {read}{found}; {allowed} is allowed"},
     {"not_in_set", "byte {position} is {byte}; {allowed} {allowed:is|are} allowed", true},
     {"not_in_table", "{found} goes with none of the known rows", true},
     {"not_listed", "is {found}, which is not in the list"},
-    {"not_listed_by_driver", "is {found}; the wireless driver lists {allowed}"},
+    {"not_listed_by_driver",
+     "is {read}{found}; of the channels that the wireless driver lists, {allowed} {allowed:is|are} allowed"},
     {"not_null", "is not NULL"},
     {"not_of_offset", "is not part of any name that goes with the offset: {allowed}"},
     {"not_part_of_any", "is not part of any of {allowed}"},
@@ -59,6 +61,7 @@ constexpr Sentence kSentences[] = {
     {"numeric_name", "is made of digits and dots alone; a letter or \"-\" is needed"},
     {"only_of_set", "is made of {allowed} alone"},
     {"only_other_set", "is empty, but the other one is not"},
+    {"pass_phrase_alone", "is given without a pre-shared key; a pass phrase alone is not accepted"},
     {"repeated_item", "is {found}, which occurs again later in the list"},
     {"too_long", "has {found} {found:byte|bytes}; at most {allowed} {allowed:is|are} allowed"},
     {"too_many_items", "has {found} items; at most {allowed} {allowed:is|are} allowed"},
@@ -164,6 +167,7 @@ std::string sentence(const Reason& reason)
         result += value_of(rest.substr(1, end - 1), reason);
         rest.remove_prefix(end + 1);
     }
+    if (!reason.conversion.empty()) result += " (" + std::string(reason.conversion) + ")";
     return result;
 }
 

@@ -1,9 +1,24 @@
 #include "rules/rules.h"
-#include "rules/words.h"
+#include "rules/wlan_check.h"
 
 namespace ostrel::rules {
 
 namespace {
+
+// The pass phrase is never judged: it is not looked at or not accepted.
+Check key_or_pass_phrase()
+{
+    const Line of_key = line("Error in WLAN_check_preshared_key2: Error PreSharedKey:<psk>\n\n");
+    const Line of_pass_phrase =
+        line("Error in WLAN_check_preshared_key2: Error KeyPassphrase:<passphrase>\n\n");
+    return check("WLAN_check_preshared_key2",
+                 {text("psk", "a pre-shared key").secret(),
+                  text("passphrase", "a pass phrase, given besides the key").secret()},
+                 {when(empty("psk"),
+                       {refuse(801, because("pass_phrase_alone", not_empty("passphrase")), of_pass_phrase),
+                        refuse(402, length_not("psk", {64}), std::vector<Line>{of_key, of_pass_phrase})}),
+                  refuse(its_code(), refused_by("TcmValidatePSK", {"psk"}), of_key)});
+}
 
 Check wep_keys()
 {
@@ -65,15 +80,32 @@ Check keys()
     return check("WLAN_check_keys",
                  {text("key", "a key or a pass phrase").secret(), text("type", "a security type"),
                   text("encryption", "an encryption")},
-                 {when(one_of("type", {"WPA-PSK", "WPA-AUTO-PSK", "WPA2-PSK"}), pass_phrase_or_key(),
-                       {when(one_of("type", {"WEP-OPEN", "WEP-SHARED", "WEP-RADIUS"}), wep_key(),
-                             {refuse(-1, none_of("type", {"WPA-RADIUS", "WPA-AUTO-RADIUS", "WPA2-RADIUS"}),
-                                     to_stderr("The code : -1\n"))})}),
-                  print(to_stderr("The code : 0\n"))});
+                 {refuse(-1, none_of("type", kSecurityTypes), to_stderr("The code : -1\n")),
+                  when(one_of("type", {"WPA-PSK", "WPA-AUTO-PSK", "WPA2-PSK"}), pass_phrase_or_key()),
+                  when(one_of("type", kWepTypes), wep_key()), print(to_stderr("The code : 0\n"))});
 }
 
 }  // namespace
 
-std::vector<Check> wlan_keys() { return {wep_keys(), keys()}; }
+std::vector<Check> wlan_keys()
+{
+    return {
+        check("WLAN_check_preshared_key", {text("value", "a pre-shared key").secret()},
+              {refuse(its_code(), refused_by("TcmValidatePSK"),
+                      line("Error in WLAN_check_preshared_key: Error key pass phrase:<value>\n\n"))}),
+        key_or_pass_phrase(),
+        wep_keys(),
+        keys(),
+        check(
+            "WLAN_check_default_wep_key_index", {text("value", "the number of a WEP key, from 0")},
+            {refuse(
+                 402, below(0),
+                 line("Error in WLAN_check_default_wep_key_index: Error default wep key index:<value>\n\n")),
+             refuse(
+                 402, above(3),
+                 line(
+                     "Error in WLAN_check_default_wep_key_index: Error default wep key index:<value>\n\n"))}),
+    };
+}
 
 }  // namespace ostrel::rules

@@ -77,7 +77,7 @@ inline Condition has_shape(std::vector<Shape> shapes) { return has_shape(it, std
 Condition fails(const Grammar& grammar, Expression text = it);
 Condition in_table(const Table& table, std::vector<Match> matches);
 Condition refused_by(std::string_view check, std::vector<Expression> arguments = {it});
-Condition listed_by_driver(Expression number);
+Condition listed_by_driver(Expression number, int first, int highest);
 Condition last_item();
 Condition all_of(std::vector<Condition> parts);
 Condition any_of(std::vector<Condition> parts);

@@ -18,6 +18,7 @@ class Harvest {
         for (const Step& step : steps) {
             condition(step.condition);
             if (step.value) expression(*step.value);
+            for (const rules::Write& write : step.writes) expression(write.value);
             this->steps(step.steps);
             this->steps(step.otherwise);
         }
@@ -40,6 +41,8 @@ class Harvest {
     {
         if (expression.kind == Expression::Kind::kNumber) number(expression.number);
         if (expression.kind == Expression::Kind::kText) texts_.insert(std::string(expression.text));
+        if (expression.conversion != nullptr)
+            texts_.insert(expression.conversion->changed.begin(), expression.conversion->changed.end());
         if (expression.kind == Expression::Kind::kModel) texts_.insert(std::string(build_.model));
         if (expression.kind == Expression::Kind::kAccountRealm) suffix(build_.account_realm);
         if (expression.kind == Expression::Kind::kSetupRealm) suffix(build_.setup_realm);

@@ -13,9 +13,9 @@
 
 namespace ostrel::rules {
 
-inline Answer answer_of(std::string_view name, const std::vector<Value>& values)
+inline Answer answer_of(std::string_view name, const std::vector<Value>& values, const Build& build = {})
 {
-    return evaluate(*find(name), values, Build());
+    return evaluate(*find(name), values, build);
 }
 
 // This one is for words by themselves, and for those that need a build of their own.

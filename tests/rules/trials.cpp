@@ -8,6 +8,7 @@
 #include "fuzz/input.h"
 #include "fuzz/mutator.h"
 #include "rules/sentences.h"
+#include "tests/rules/driver.h"
 #include "tests/rules/harvest.h"
 
 namespace ostrel::tests {
@@ -43,6 +44,27 @@ std::string shown_call(const Function& function, const std::vector<Value>& value
         }
     }
     return result;
+}
+
+// builds are those of trials: the library's, with another list of channels in each.
+const std::vector<Build>& builds()
+{
+    static const std::vector<Build> all = [] {
+        std::vector<Build> result;
+        for (const std::vector<int>& channels :
+             std::vector<std::vector<int>>{{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14},
+                                           {},
+                                           {1, 6, 11},
+                                           {0, 9, 14, -3, 36},
+                                           {36, 14},
+                                           {1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 13, 14, 36, 6},
+                                           {1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 13, 14, 36, 40, 6}}) {
+            result.push_back(library_build());
+            result.back().channels = channels;
+        }
+        return result;
+    }();
+    return all;
 }
 
 const std::vector<Row>& rows()
@@ -147,16 +169,20 @@ void Trials::add_others(const std::vector<Value>& values, const std::set<std::st
 bool Trials::agrees(std::string_view input, Capture& capture)
 {
     fuzz::decode_arguments(function_, input.substr(1), values_);
-    const Answer answer = rules::evaluate(check_, values_, library_build(), &counts);
+    const Build& build = builds()[inputs_run_++ % builds().size()];
+    const Answer answer = rules::evaluate(check_, values_, build, &counts);
     if (answer.outside != rules::Outside::kNo) return true;
     caller_.load(function_, values_);
+    const Driver driver(*build.channels);
     const Outcome actual = actual_outcome(caller_, capture);
     ++calls;
     refusals += answer.is_refusal ? 1 : 0;
-    const std::string fault = reason_fault(answer);
+    const std::string fault =
+        driver.has_left_its_list() ? "the list of channels is left" : reason_fault(answer);
     if (actual == outcome_of(answer) && fault.empty()) return true;
-    difference = shown_call(function_, values_) + "\nlibrary" + testing::PrintToString(actual) +
-                 "\ndescription" + testing::PrintToString(outcome_of(answer)) + "\n" + fault;
+    difference = shown_call(function_, values_) + "\nchannels " + testing::PrintToString(*build.channels) +
+                 "\nlibrary" + testing::PrintToString(actual) + "\ndescription" +
+                 testing::PrintToString(outcome_of(answer)) + "\n" + fault;
     return false;
 }
 

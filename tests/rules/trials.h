@@ -44,6 +44,7 @@ class Trials {
     const catalogue::Function& function_;
     const rules::Check& check_;
     std::vector<std::string> inputs_;
+    std::size_t inputs_run_ = 0;
     std::vector<catalogue::Value> values_;
     catalogue::Caller caller_;
 };

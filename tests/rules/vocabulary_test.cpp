@@ -186,7 +186,7 @@ TEST(WordsTest, Grammars)
 TEST(WordsTest, ConversionsAreWritten)
 {
     static const Conversion kDoubled = {
-        "doubled", [](std::string_view text) { return std::string(text) + std::string(text); }};
+        "doubled", [](std::string_view text) { return std::string(text) + std::string(text); }, {"a"}};
     const Check described = registered(check(
         "a_check", {buffer("value", "a text")},
         {write("value", converted(kDoubled, "value")), refuse(802, longer_than(3), line("<value>\n"))}));
@@ -195,16 +195,15 @@ TEST(WordsTest, ConversionsAreWritten)
     EXPECT_EQ(802, answer.code);
     EXPECT_EQ("abab\n", answer.out);
     EXPECT_EQ(std::vector<Value>{"abab"}, answer.after);
+    EXPECT_EQ("doubled", answer.reason.conversion);
+    EXPECT_EQ("has 4 bytes; at most 3 are allowed (doubled)", told(answer));
 }
 
-TEST(WordsTest, ChannelsOfTheDriver)
+TEST(WordsTest, ConversionsThatChangeNothingAreNotTold)
 {
-    const Step step = refuse(-1, not_(listed_by_driver(it)));
-    EXPECT_EQ(Outside::kDriver, answer_of({step}, {"1"}).outside);
-    Build build;
-    build.channels = {1, 6, 11};
-    EXPECT_EQ(0, answer_of({step}, {"6"}, build).code);
-    EXPECT_EQ("not_listed_by_driver", answer_of({step}, {"7"}, build).reason.id);
+    static const Conversion kSame = {"unchanged", [](std::string_view text) { return std::string(text); }};
+    const Step step = refuse(802, longer_than(converted(kSame, it), 3));
+    EXPECT_EQ("", answer_of({step}, {"abcd"}).reason.conversion);
 }
 
 TEST(WordsTest, TheBuildsModel)
