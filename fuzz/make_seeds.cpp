@@ -1,6 +1,5 @@
-// fuzz_seeds OUT: writes each call of vectors/*.ndjson as an input into OUT/TARGET/, the names of these
-// files into OUT/TARGET.list, with commas between, and the texts that stand in the calls into OUT/TARGET.dict, a
-// dictionary as libFuzzer and AFL++ read it.
+// fuzz_seeds OUT: writes each call of vectors/*.ndjson as an input into OUT/TARGET/, and the texts that stand in
+// the calls into OUT/TARGET.dict, a dictionary as libFuzzer and AFL++ read it.
 
 #include <cstdio>
 #include <exception>
@@ -62,7 +61,6 @@ void make_seeds(const Target& target, const std::vector<tests::Row>& rows, const
     const std::filesystem::path folder = out / target.name;
     std::filesystem::create_directories(folder);
     std::set<std::string> words;
-    std::string list;
     std::size_t count = 0;
     for (const tests::Row& row : rows) {
         const catalogue::Case& given = row.given;
@@ -71,9 +69,7 @@ void make_seeds(const Target& target, const std::vector<tests::Row>& rows, const
         add_words(given, words);
         const auto file = folder / (std::to_string(++count) + "-" + std::string(given.function->name));
         std::ofstream(file, std::ios::binary) << *input;
-        list.append(list.empty() ? "" : ",").append(file.string());
     }
-    std::ofstream(out / (std::string(target.name) + ".list")) << list;
     write_dictionary(out / (std::string(target.name) + ".dict"), words);
 }
 
