@@ -4,8 +4,9 @@
 #include <cstring>
 
 #include "support/char_set.h"
+#include "support/keywords.h"
 #include "support/report.h"
-#include "support/text.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
@@ -55,7 +56,7 @@ int Param_check_color_value(const char* value)
 
 int Param_check_bool_value(const char* value)
 {
-    if (equals(value, "0") || equals(value, "1")) return OSTREL_VALID;
+    if (is_one_of(value, "0|1")) return OSTREL_VALID;
     return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: bool value :%s out of range\n", __func__, value);
 }
 

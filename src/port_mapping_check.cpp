@@ -7,12 +7,15 @@
 #include "primitives/names.h"
 #include "support/assertion.h"
 #include "support/report.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
 namespace {
 
 constexpr char kModule[] = "port_mapping_check";
+
+constexpr Limits kPermanentLease{0, 0, OSTREL_LEASE_NOT_PERMANENT};
 
 constexpr int kTcp = 0;
 constexpr int kUdp = 1;
@@ -82,14 +85,13 @@ int PORTMAPPING_check_port_available(const char* port, int protocol)
 
 int PORTMAPPING_check_description(const char* value_p)
 {
-    if (validate_port_mapping_description(value_p) == OSTREL_VALID) return OSTREL_VALID;
+    if (validate_string(value_p, kPortMappingDescription) == OSTREL_VALID) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error port mapping description:%s\n\n", __func__,
                   value_p);
 }
 
 int PORTMAPPING_check_lease_duration(const char* value_p)
 {
-    if (std::atoi(value_p) == 0) return OSTREL_VALID;
-    return refuse(OSTREL_LEASE_NOT_PERMANENT, "Error in %s: The port mapping lease should be zero\n",
-                  __func__);
+    return number_or_refuse(value_p, kPermanentLease,
+                            line("Error in %s: The port mapping lease should be zero\n", __func__));
 }

@@ -31,6 +31,11 @@ constexpr bool is_realm(std::string_view text, std::size_t size)
 static_assert(is_realm(kAccountRealm, 12), "\"@\" and a domain of 11 characters");
 static_assert(is_realm(kSetupRealm, 18), "\"@\" and a domain of 17 characters");
 
+// What stands before either realm, and what is neither's.
+constexpr Text kAccountPart{18, 30, kPppDigits};
+constexpr Text kSetupPart{16, 17, kPppDigits};
+constexpr Text kOtherUserName{1, 131, kLatin1Printable};
+
 constexpr int kNoType = 0;
 
 // account_type gives the type of a part of 18 to 30 characters before the account realm, with at most two
@@ -90,17 +95,16 @@ int validate_ppp_user_name(const char* value, int* type_out)
     int type = kNoType;
     if (cut_realm(name, kAccountRealm)) {
         const int separators = count(name, '#');
-        if (const int code = validate_string(18, 30, kPppDigits, name); code != OSTREL_VALID) return code;
+        if (const int code = validate_string(name, kAccountPart); code != OSTREL_VALID) return code;
         if (separators >= 3) return OSTREL_VALID;
         type = account_type(name, separators);
     } else if (cut_realm(name, kSetupRealm)) {
         const int separators = count(name, '#');
-        if (const int code = validate_string(16, 17, kPppDigits, name); code != OSTREL_VALID) return code;
+        if (const int code = validate_string(name, kSetupPart); code != OSTREL_VALID) return code;
         if (separators >= 3) return OSTREL_VALID;
         type = setup_type(name, separators);
     } else {
-        if (const int code = validate_string(1, 131, kLatin1Printable, name); code != OSTREL_VALID)
-            return code;
+        if (const int code = validate_string(name, kOtherUserName); code != OSTREL_VALID) return code;
         *type_out = 0;
         return OSTREL_VALID;
     }
@@ -108,10 +112,6 @@ int validate_ppp_user_name(const char* value, int* type_out)
     *type_out = type;
     return OSTREL_VALID;
 }
-
-int validate_ppp_password(std::string_view value) { return validate_string(1, 67, kLatin1Printable, value); }
-
-int validate_lan_config_password(std::string_view value) { return validate_string(4, 12, kName, value); }
 
 }  // namespace ostrel
 
@@ -124,21 +124,21 @@ int TcmValidatePPPUsername(const char* value, int* account_type)
     return validate_ppp_user_name(value, account_type);
 }
 
-int TcmValidatePPPPassword(const char* value) { return validate_ppp_password(value); }
+int TcmValidatePPPPassword(const char* value) { return validate_string(value, kPppPassword); }
 
-int TcmValidateLANConfigPassword(const char* value) { return validate_lan_config_password(value); }
+int TcmValidateLANConfigPassword(const char* value) { return validate_string(value, kLanConfigPassword); }
 
-int TcmValidateEmailPassword(const char* value) { return validate_string(0, 255, kName, value); }
+int TcmValidateEmailPassword(const char* value) { return validate_string(value, {0, 255, kName}); }
 
-int TcmValidateVoIPAnbietername(const char* value) { return validate_string(1, 32, kName, value); }
+int TcmValidateVoIPAnbietername(const char* value) { return validate_string(value, {1, 32, kName}); }
 
-int TcmValidateVoIPNumber(const char* value) { return validate_string(1, 32, kDigits, value); }
+int TcmValidateVoIPNumber(const char* value) { return validate_string(value, {1, 32, kDigits}); }
 
-int TcmValidateVoIPUsername(const char* value) { return validate_string(1, 64, kMail, value); }
+int TcmValidateVoIPUsername(const char* value) { return validate_string(value, {1, 64, kMail}); }
 
-int TcmValidateVoIPPassword(const char* value) { return validate_string(0, 255, kName, value); }
+int TcmValidateVoIPPassword(const char* value) { return validate_string(value, {0, 255, kName}); }
 
-int TcmValidateVoIPAreaCode(const char* value) { return validate_string(1, 6, kDigits, value); }
+int TcmValidateVoIPAreaCode(const char* value) { return validate_string(value, {1, 6, kDigits}); }
 
 int TcmValidatePort(const char* value)
 {

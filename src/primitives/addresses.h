@@ -6,7 +6,11 @@
 
 namespace ostrel {
 
-bool is_ipv4_address(std::string_view text);
+// skip_ipv4_address returns where an IPv4 address at the start of the text ends, NULL where there is none. The digits
+// of its last number are all of the digits that stand there.
+const char* skip_ipv4_address(const char* text);
+
+bool is_ipv4_address(const char* value);
 
 // is_mac_address writes a wrong separator to standard output, see TcmValidateMACaddress.
 bool is_mac_address(const char* value);

@@ -1,7 +1,8 @@
 #include "primitives/date_time.h"
 
 #include <ostrel/date_time.h>
-#include <ostrel/result_code.h>
+
+#include "support/judge.h"
 
 namespace ostrel {
 
@@ -124,43 +125,34 @@ inline bool is_possible(const Fields& fields)
 
 }  // namespace
 
-bool is_date_time(const char* value)
+int validate_date_time(const char* value)
 {
     Fields fields;
-    return read_date_time(Reader(value), fields) && fields.year >= 1970 && is_possible(fields);
+    return judge(read_date_time(Reader(value), fields) && fields.year >= 1970 && is_possible(fields));
 }
 
-bool is_switch_over(const char* value)
+int validate_switch_over(const char* value)
 {
-    if (is_date_time(value)) return true;
+    if (validate_date_time(value) == OSTREL_VALID) return OSTREL_VALID;
     Fields fields;  // year 0 is a leap year: 29 February is a day of every form without a year
-    return read_yearless(Reader(value), fields) && is_possible(fields);
+    return judge(read_yearless(Reader(value), fields) && is_possible(fields));
 }
 
-bool is_zone_offset(const char* value)
+int validate_zone_offset(const char* value)
 {
     Reader reader(value);
     Fields fields;
-    return read_offset(reader, fields) && fields.offset_hours <= 12 && fields.offset_minutes <= 59;
+    return judge(read_offset(reader, fields) && fields.offset_hours <= 12 && fields.offset_minutes <= 59);
 }
 
 }  // namespace ostrel
 
 using namespace ostrel;
 
-int ValidateDay(int year, unsigned month, int day)
-{
-    return is_day(year, month, day) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int ValidateDay(int year, unsigned month, int day) { return judge(is_day(year, month, day)); }
 
-int TcmValidateTime(const char* value) { return is_date_time(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int TcmValidateTime(const char* value) { return validate_date_time(value); }
 
-int TcmValidateDaylightSavingsTime(const char* value)
-{
-    return is_switch_over(value) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int TcmValidateDaylightSavingsTime(const char* value) { return validate_switch_over(value); }
 
-int TcmValidateTimeZoneFormate(const char* value)
-{
-    return is_zone_offset(value) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int TcmValidateTimeZoneFormate(const char* value) { return validate_zone_offset(value); }

@@ -8,7 +8,7 @@
 
 #include "primitives/addresses.h"
 #include "primitives/strings.h"
-#include "support/char_set.h"
+#include "support/judge.h"
 #include "support/text.h"
 
 namespace ostrel {
@@ -32,6 +32,11 @@ bool is_domain_name(std::string_view name)
         name.remove_prefix(length + 1);
     }
     return false;
+}
+
+bool is_host(std::string_view text)
+{
+    return is_domain_name(text) || skip_ipv4_address(text.data()) == text.data() + text.size();
 }
 
 // is_port judges the digits of a port. What follows them in memory is no digit, so that atoi reads no further.
@@ -79,43 +84,46 @@ bool is_email(const char* value)
 
 }  // namespace
 
-bool is_host(std::string_view text) { return is_domain_name(text) || is_ipv4_address(text); }
+int validate_host(const char* value) { return judge(is_host(value)); }
 
-bool is_server_url(const char* value) { return is_url(value, "x-dslf_cwmp://", "x-dslf_cwmps://"); }
+int validate_server_url(const char* value)
+{
+    return judge(is_url(value, "x-dslf_cwmp://", "x-dslf_cwmps://"));
+}
 
-bool is_firmware_url(const char* value) { return is_url(value, "http://", "https://"); }
+int validate_firmware_url(const char* value) { return judge(is_url(value, "http://", "https://")); }
 
 }  // namespace ostrel
 
 using namespace ostrel;
 
-int TcmValidateDomainName(const char* value) { return is_domain_name(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int TcmValidateDomainName(const char* value) { return judge(is_domain_name(value)); }
 
-int ValidateURL(const char* value) { return is_host(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int ValidateURL(const char* value) { return validate_host(value); }
 
-int TcmValidateServerURL(const char* value) { return is_server_url(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int TcmValidateServerURL(const char* value) { return validate_server_url(value); }
 
 int TcmValidatefirmwareURL(const char* value)
 {
-    return is_firmware_url(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
+    return validate_firmware_url(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
-int isEmail(const char* value) { return is_email(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int isEmail(const char* value) { return judge(is_email(value)); }
 
 int TcmValidateEmailAddress(const char* value)
 {
-    if (const int code = validate_string(5, 64, kMail, value); code != OSTREL_VALID) return code;
+    if (const int code = validate_string(value, {5, 64, kMail}); code != OSTREL_VALID) return code;
     return is_email(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
 int TcmValidateVoIPRegistrar(const char* value)
 {
-    if (const int code = validate_string(3, 64, kName, value); code != OSTREL_VALID) return code;
+    if (const int code = validate_string(value, {3, 64, kName}); code != OSTREL_VALID) return code;
     return is_host(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
 int TcmValidateVoIPSTUNServer(const char* value)
 {
-    if (const int code = validate_string(0, 64, kHostPort, value); code != OSTREL_VALID) return code;
+    if (const int code = validate_string(value, {0, 64, kHostPort}); code != OSTREL_VALID) return code;
     return value[0] == '\0' || is_host(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }

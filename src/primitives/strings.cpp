@@ -11,7 +11,7 @@ namespace ostrel {
 namespace {
 
 template <typename Set>
-int judge_string(int min_len, int max_len, const Set& allowed, const char* value)
+int judge_string(const char* value, int min_len, int max_len, const Set& allowed)
 {
     const char* end = first_outside(allowed, value);
     const bool all_allowed = *end == '\0';
@@ -24,7 +24,7 @@ int judge_string(int min_len, int max_len, const Set& allowed, const char* value
 }
 
 template <typename Set>
-int judge_number(int min, int max, const Set& allowed, const char* value)
+int judge_number(const char* value, int min, int max, const Set& allowed)
 {
     if (!contains_all(allowed, value)) return OSTREL_FORBIDDEN_CHARACTER;
     const int number = std::atoi(value);
@@ -40,20 +40,26 @@ int validate_length(int min_len, int max_len, std::size_t length)
     return OSTREL_VALID;
 }
 
-int validate_string(int min_len, int max_len, CharSet allowed, const char* value)
+int validate_string(const char* value, int min_len, int max_len, CharSet allowed)
 {
-    return judge_string(min_len, max_len, allowed, value);
+    return judge_string(value, min_len, max_len, allowed);
 }
 
-int validate_string(int min_len, int max_len, CharSet allowed, std::string_view text)
+int validate_string(const char* value, Text text)
 {
-    if (const int code = validate_length(min_len, max_len, text.size()); code != OSTREL_VALID) return code;
-    return contains_all(allowed, text) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+    return validate_string(value, text.min_len, text.max_len, text.allowed);
 }
 
-int validate_number(int min, int max, CharSet allowed, const char* value)
+int validate_string(std::string_view piece, Text text)
 {
-    return judge_number(min, max, allowed, value);
+    const int code = validate_length(text.min_len, text.max_len, piece.size());
+    if (code != OSTREL_VALID) return code;
+    return contains_all(text.allowed, piece) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+}
+
+int validate_number(const char* value, int min, int max, CharSet allowed)
+{
+    return judge_number(value, min, max, allowed);
 }
 
 bool is_printable(const char* value)
@@ -76,12 +82,12 @@ using namespace ostrel;
 
 int ValidateString(int min_len, int max_len, const char* charset, const char* value)
 {
-    return judge_string(min_len, max_len, OwnSet(charset), value);
+    return judge_string(value, min_len, max_len, OwnSet(charset));
 }
 
 int ValidateNum(int min, int max, const char* charset, const char* value)
 {
-    return judge_number(min, max, OwnSet(charset), value);
+    return judge_number(value, min, max, OwnSet(charset));
 }
 
 int countChar(const char* value, int ch) { return count(value, static_cast<char>(ch)); }

@@ -2,6 +2,7 @@
 #ifndef OSTREL_PRIMITIVES_STRINGS_H
 #define OSTREL_PRIMITIVES_STRINGS_H
 
+#include <cstdint>
 #include <string_view>
 
 #include "support/char_set.h"
@@ -12,13 +13,21 @@ namespace ostrel {
 // lets every length through, a negative maximum none. Exact for any length, also beyond what an int can hold.
 int validate_length(int min_len, int max_len, std::size_t length);
 
+// Text is how long a text may be and what it may consist of. It fits into a register.
+struct Text {
+    std::uint8_t min_len;
+    std::uint8_t max_len;
+    CharSet allowed;
+};
+
 // validate_string is ValidateString with a ready set, over a value or a piece of one. A value that it accepts
 // is read once: its length is known when its last character has been looked up.
-int validate_string(int min_len, int max_len, CharSet allowed, const char* value);
-int validate_string(int min_len, int max_len, CharSet allowed, std::string_view text);
+int validate_string(const char* value, int min_len, int max_len, CharSet allowed);
+int validate_string(const char* value, Text text);
+int validate_string(std::string_view piece, Text text);
 
 // validate_number is ValidateNum with a ready set.
-int validate_number(int min, int max, CharSet allowed, const char* value);
+int validate_number(const char* value, int min, int max, CharSet allowed);
 
 // is_printable tells whether every byte is one of 0x20 to 0x7E. Neither NULL nor the empty value is
 // printable.

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <span>
 
+#include "support/keywords.h"
 #include "support/text.h"
 #include "wlan_check/rules.h"
 
@@ -40,9 +41,9 @@ bool is_one_of(std::span<const ChannelPair> pairs, const char* primary, const ch
     return false;
 }
 
-bool is_2_4_ghz(const char* radio) { return equals_ignoring_case(radio, "RADIO_2.4GHz"); }
+bool is_2_4_ghz(const char* radio) { return is_one_of_ignoring_case(radio, "radio_2.4ghz"); }
 
-bool is_5_ghz(const char* radio) { return equals_ignoring_case(radio, "RADIO_5GHz"); }
+bool is_5_ghz(const char* radio) { return is_one_of_ignoring_case(radio, "radio_5ghz"); }
 
 bool is_5_ghz_channel(int channel)
 {
@@ -110,22 +111,16 @@ int WLAN_check_5g_second_channel(const char* primary, const char* second)
 
 int WLAN_check_wide_channel(const char* width, const char* radio)
 {
-    const bool is_narrow = equals(width, "0") || equals(width, "20");
-    if (is_2_4_ghz(radio)) return require(is_narrow);
-    return require(is_5_ghz(radio) && (is_narrow || equals(width, "40")));
+    if (is_2_4_ghz(radio)) return require(is_one_of(width, "0|20"));
+    return require(is_5_ghz(radio) && is_one_of(width, "0|20|40"));
 }
 
 int WLAN_check_IEEE11_mode(const char* mode, const char* radio)
 {
     if (is_2_4_ghz(radio)) {
-        return require(equals(mode, "802.11b") || equals(mode, "802.11g") || equals(mode, "802.11n") ||
-                       equals(mode, "802.11bg") || equals(mode, "802.11bgn"));
+        return require(is_one_of(mode, "802.11b|802.11g|802.11n|802.11bg|802.11bgn"));
     }
-    return require(is_5_ghz(radio) &&
-                   (equals(mode, "802.11n") || equals(mode, "802.11a") || equals(mode, "802.11an")));
+    return require(is_5_ghz(radio) && is_one_of(mode, "802.11n|802.11a|802.11an"));
 }
 
-int WLAN_check_IEEE11_standard(const char* value)
-{
-    return require(equals(value, "a") || equals(value, "b") || equals(value, "g") || equals(value, "n"));
-}
+int WLAN_check_IEEE11_standard(const char* value) { return require(is_one_of(value, "a|b|g|n")); }
