@@ -56,7 +56,7 @@ int Param_check_color_value(const char* value)
 
 int Param_check_bool_value(const char* value)
 {
-    if (is_one_of(value, "0|1")) return OSTREL_VALID;
+    if (is_one_of(value, "0 1")) return OSTREL_VALID;
     return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: bool value :%s out of range\n", __func__, value);
 }
 

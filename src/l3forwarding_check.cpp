@@ -37,7 +37,7 @@ int L3FORWARDING_check_IP_address_and_mask(const char* value)
 
 int L3FORWARDING_check_ForwardingType(const char* value)
 {
-    if (is_one_of_ignoring_case(value, "default|network|host")) return OSTREL_VALID;
+    if (is_one_of_ignoring_case(value, "default network host")) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalid type:%s\n", __func__, value);
 }
 

@@ -55,7 +55,7 @@ int PPP_check_pppoe_service_name(const char* value)
 
 int PPP_check_connection_trigger(const char* value)
 {
-    if (is_one_of(value, "OnDemand|AlwaysOn")) return OSTREL_VALID;
+    if (is_one_of(value, "OnDemand AlwaysOn")) return OSTREL_VALID;
     const int code = value[0] == '\0' ? OSTREL_EMPTY : OSTREL_INVALID_VALUE;
     return refuse(code, "Error in %s: Error connection trigger:%s\n\n", __func__, value);
 }

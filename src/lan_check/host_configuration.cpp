@@ -101,7 +101,7 @@ int LAN_check_use_allocated_wan(const char* value_p)
 {
     require_value(value_p, kModule);
     // The sense is inverted: the three keywords are what is refused.
-    if (!is_one_of(value_p, "Normal|UseAllocatedSubnet|Passthrough")) return OSTREL_VALID;
+    if (!is_one_of(value_p, "Normal UseAllocatedSubnet Passthrough")) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: Error use allocated wan:%s\n\n", __func__, value_p);
 }
 
@@ -123,8 +123,8 @@ int LAN_check_passthrough_MAC_address(const char* /*value*/) { return OSTREL_VAL
 int LAN_check_subnet_mask(const char* value_p)
 {
     return keyword_or_refuse(require_value(value_p, kModule),
-                             "255.255.255.0|255.255.255.128|255.255.255.192|255.255.255.224|255.255.255.240|"
-                             "255.255.255.248|255.255.255.252",
+                             "255.255.255.0 255.255.255.128 255.255.255.192 255.255.255.224 255.255.255.240 "
+                             "255.255.255.248 255.255.255.252",
                              line("Error in %s: Error ip interface subnet mask:%s\n\n", __func__, value_p));
 }
 

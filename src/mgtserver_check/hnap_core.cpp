@@ -37,6 +37,6 @@ int HNAPCORE_check_timezone(const char* value, char* offset_out)
 int HNAPCORE_check_locale(const char* value)
 {
     const bool is_locale =
-        is_one_of_ignoring_case(value, "en-us|fr-ca|fr-fr|de-de|es-es|it-it|nl-nl|sv-se|ar-sa|pl-pl|th-th");
+        is_one_of_ignoring_case(value, "en-us fr-ca fr-fr de-de es-es it-it nl-nl sv-se ar-sa pl-pl th-th");
     return is_locale ? OSTREL_VALID : OSTREL_INVALID;
 }

@@ -9,7 +9,7 @@ using namespace ostrel;
 
 int TcmValidatePortMappingProtocol(const char* value)
 {
-    return is_one_of(value, "TCP|UDP") ? OSTREL_VALID : OSTREL_INVALID;
+    return is_one_of(value, "TCP UDP") ? OSTREL_VALID : OSTREL_INVALID;
 }
 
 int TcmValidatePortMappingDescription(const char* value)

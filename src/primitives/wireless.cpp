@@ -67,7 +67,7 @@ int validate_rate(const char* value)
 
 int validate_beacon_type(const char* value)
 {
-    return is_one_of(value, "None|Basic|WPA|11i|WPAand11i") ? OSTREL_VALID : OSTREL_INVALID;
+    return is_one_of(value, "None Basic WPA 11i WPAand11i") ? OSTREL_VALID : OSTREL_INVALID;
 }
 
 int validate_ssid(const char* ssid)
@@ -79,7 +79,7 @@ int validate_ssid(const char* ssid)
 
 int validate_rate_set(const char* value)
 {
-    if (is_one_of(value, "all|default")) return OSTREL_VALID;
+    if (is_one_of(value, "all default")) return OSTREL_VALID;
     // An empty item is no rate, which refuses the empty value and a comma that leads, ends or follows
     // another.
     Packed item = 0;

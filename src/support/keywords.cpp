@@ -6,26 +6,34 @@ namespace ostrel {
 
 namespace {
 
-bool is_end(char c) { return c == '|' || c == '\0'; }
+// is_end asks about a character of the list.
+bool is_end(char c) { return c <= ' '; }
 
-bool is_any(const char* value, const char* keyword, bool ignores_case)
+template <typename Fold>
+inline bool is_any(const char* value, const char* keyword, Fold fold)
 {
-    for (;; ++keyword) {
+    for (;;) {
         const char* c = value;
-        for (; !is_end(*keyword) && *keyword == (ignores_case ? to_lower(*c) : *c); ++keyword) ++c;
+        for (; *keyword == fold(*c) && !is_end(*keyword); ++keyword) ++c;
         if (*c == '\0' && is_end(*keyword)) return true;
-        while (!is_end(*keyword)) ++keyword;
-        if (*keyword == '\0') return false;
+        char passed = '\0';
+        do {
+            passed = *keyword++;
+        } while (!is_end(passed));
+        if (passed == '\0') return false;
     }
 }
 
 }  // namespace
 
-bool is_one_of(const char* value, const char* keywords) { return is_any(value, keywords, false); }
+bool is_one_of(const char* value, const char* keywords)
+{
+    return is_any(value, keywords, [](char c) { return c; });
+}
 
 bool is_one_of_ignoring_case(const char* value, const char* keywords)
 {
-    return is_any(value, keywords, true);
+    return is_any(value, keywords, to_lower);
 }
 
 }  // namespace ostrel

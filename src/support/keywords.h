@@ -4,7 +4,7 @@
 
 namespace ostrel {
 
-// is_one_of tells whether the value is one of the keywords, between which a "|" stands: "TCP|UDP". They are one text,
+// is_one_of tells whether the value is one of the keywords, between which a blank stands: "TCP UDP". They are one text,
 // so that a list of them holds no pointers.
 bool is_one_of(const char* value, const char* keywords);
 

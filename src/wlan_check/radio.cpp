@@ -111,16 +111,16 @@ int WLAN_check_5g_second_channel(const char* primary, const char* second)
 
 int WLAN_check_wide_channel(const char* width, const char* radio)
 {
-    if (is_2_4_ghz(radio)) return require(is_one_of(width, "0|20"));
-    return require(is_5_ghz(radio) && is_one_of(width, "0|20|40"));
+    if (is_2_4_ghz(radio)) return require(is_one_of(width, "0 20"));
+    return require(is_5_ghz(radio) && is_one_of(width, "0 20 40"));
 }
 
 int WLAN_check_IEEE11_mode(const char* mode, const char* radio)
 {
     if (is_2_4_ghz(radio)) {
-        return require(is_one_of(mode, "802.11b|802.11g|802.11n|802.11bg|802.11bgn"));
+        return require(is_one_of(mode, "802.11b 802.11g 802.11n 802.11bg 802.11bgn"));
     }
-    return require(is_5_ghz(radio) && is_one_of(mode, "802.11n|802.11a|802.11an"));
+    return require(is_5_ghz(radio) && is_one_of(mode, "802.11n 802.11a 802.11an"));
 }
 
-int WLAN_check_IEEE11_standard(const char* value) { return require(is_one_of(value, "a|b|g|n")); }
+int WLAN_check_IEEE11_standard(const char* value) { return require(is_one_of(value, "a b g n")); }

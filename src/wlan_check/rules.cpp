@@ -4,6 +4,6 @@
 
 namespace ostrel {
 
-bool is_wep_type(const char* type) { return is_one_of(type, "WEP-OPEN|WEP-SHARED|WEP-RADIUS"); }
+bool is_wep_type(const char* type) { return is_one_of(type, "WEP-OPEN WEP-SHARED WEP-RADIUS"); }
 
 }  // namespace ostrel

@@ -29,15 +29,15 @@ bool is_11i_encryption_mode(const char* value, int readwrite_mode)
 {
     if (readwrite_mode == 0) {
         return is_one_of(value,
-                         "AESEncryption|WEPandAESEncryption|TKIPandAESEncryption|WEPandTKIPandAESEncryption");
+                         "AESEncryption WEPandAESEncryption TKIPandAESEncryption WEPandTKIPandAESEncryption");
     }
-    return is_one_of(value, "WEPEncryption|TKIPEncryption|WEPandTKIPEncryption");
+    return is_one_of(value, "WEPEncryption TKIPEncryption WEPandTKIPEncryption");
 }
 
 bool is_11i_authentication_mode(const char* value, int readwrite_mode)
 {
     if (readwrite_mode == 0) {
-        return is_one_of(value, "EAPAuthentication|EAPandPSKAuthentication");
+        return is_one_of(value, "EAPAuthentication EAPandPSKAuthentication");
     }
     return equals(value, "PSKAuthentication");
 }
@@ -75,27 +75,27 @@ int WLAN_check_beacon_type(const char* value)
 
 int WLAN_check_basic_encryption_modes(const char* value)
 {
-    return keyword_or_refuse(value, "WEPEncryption|None",
+    return keyword_or_refuse(value, "WEPEncryption None",
                              line("Error in %s: Error basic encryption modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_basic_authentication_modes(const char* value)
 {
-    return keyword_or_refuse(value, "None|EAPAuthentication",
+    return keyword_or_refuse(value, "None EAPAuthentication",
                              line("Error in %s: Error basic authentication modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_wpa_encryption_modes(const char* value)
 {
     return keyword_or_refuse(value,
-                             "WEPEncryption|TKIPEncryption|WEPandTKIPEncryption|AESEncryption|"
-                             "WEPandAESEncryption|TKIPandAESEncryption|WEPandTKIPandAESEncryption",
+                             "WEPEncryption TKIPEncryption WEPandTKIPEncryption AESEncryption "
+                             "WEPandAESEncryption TKIPandAESEncryption WEPandTKIPandAESEncryption",
                              line("Error in %s: Error wpa encryption modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_wpa_authentication_modes(const char* value)
 {
-    return keyword_or_refuse(value, "PSKAuthentication|EAPAuthentication",
+    return keyword_or_refuse(value, "PSKAuthentication EAPAuthentication",
                              line("Error in %s: Error wpa authentication modes:%s\n\n", __func__, value));
 }
 
@@ -117,24 +117,24 @@ int WLAN_check_authentication_service_mode(const char* value)
              value));
     if (code != OSTREL_VALID) return code;
     return keyword_or_refuse(
-        value, "none|LinkAuthentication|RadiusClient",
+        value, "none LinkAuthentication RadiusClient",
         line("Error in %s: Error authentication_service_mode value invalid :%s\n\n", __func__, value));
 }
 
 int WLAN_check_HNAP_SecurityType(const char* setting1, const char* setting2, const char* type,
                                  const char* encryption)
 {
-    const bool is_wpa2 = is_one_of(type, "WPA2-PSK|WPA2-RADIUS");
+    const bool is_wpa2 = is_one_of(type, "WPA2-PSK WPA2-RADIUS");
     if (host_equals(setting1, "0") && host_equals(setting2, "auto") && !is_wpa2) {
         return OSTREL_SECURITY_TYPE_NOT_ALLOWED;
     }
     if (is_wpa2) return require_encryption(equals(encryption, "AES"));
     if (is_wep_type(type)) {
         if (is_model_m2840() && equals(type, "WEP-RADIUS")) return OSTREL_SECURITY_TYPE_NOT_ALLOWED;
-        return require_encryption(is_one_of(encryption, "WEP-64|WEP-128"));
+        return require_encryption(is_one_of(encryption, "WEP-64 WEP-128"));
     }
-    if (is_one_of(type, "WPA-PSK|WPA-RADIUS")) return require_encryption(equals(encryption, "TKIP"));
-    if (is_one_of(type, "WPA-AUTO-RADIUS|WPA-AUTO-PSK")) {
+    if (is_one_of(type, "WPA-PSK WPA-RADIUS")) return require_encryption(equals(encryption, "TKIP"));
+    if (is_one_of(type, "WPA-AUTO-RADIUS WPA-AUTO-PSK")) {
         return require_encryption(equals(encryption, "TKIPORAES"));
     }
     return OSTREL_SECURITY_TYPE_NOT_ALLOWED;
