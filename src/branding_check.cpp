@@ -12,6 +12,8 @@ using namespace ostrel;
 
 namespace {
 
+constexpr auto kBooleans = keywords("0|1");
+
 // check_length accepts the lengths below the limit.
 int check_length(const char* value, int limit, const char* function)
 {
@@ -56,7 +58,7 @@ int Param_check_color_value(const char* value)
 
 int Param_check_bool_value(const char* value)
 {
-    if (is_one_of(value, "0 1")) return OSTREL_VALID;
+    if (is_one_of(value, kBooleans)) return OSTREL_VALID;
     return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: bool value :%s out of range\n", __func__, value);
 }
 

@@ -14,6 +14,8 @@ using namespace ostrel;
 
 namespace {
 
+constexpr auto kForwardingTypes = keywords("default|network|host");
+
 constexpr Limits kInterfaceLength{1, 256};
 constexpr int kLeastMetric = -1;
 constexpr Limits kPolicies{-1, INT_MAX};
@@ -37,7 +39,7 @@ int L3FORWARDING_check_IP_address_and_mask(const char* value)
 
 int L3FORWARDING_check_ForwardingType(const char* value)
 {
-    if (is_one_of_ignoring_case(value, "default network host")) return OSTREL_VALID;
+    if (is_one_of_ignoring_case(value, kForwardingTypes)) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalid type:%s\n", __func__, value);
 }
 

@@ -18,6 +18,10 @@ using namespace ostrel;
 
 namespace {
 
+constexpr auto kProtocols = keywords("tcp|udp");
+constexpr auto kBooleans = keywords("0|1");
+constexpr auto kWrittenBooleans = keywords("true|false");
+
 constexpr char kModule[] = "parameter_check";
 
 constexpr int kLargestTestBuffer = 0x100000;
@@ -78,7 +82,7 @@ int PARAM_check_MACAddress(const char* value_p)
 
 int PARAM_check_transport_protocol(const char* value_p)
 {
-    if (is_one_of_ignoring_case(value_p, "tcp udp")) return OSTREL_VALID;
+    if (is_one_of_ignoring_case(value_p, kProtocols)) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: The transport protocol:%s is error\n", __func__, value_p);
 }
 
@@ -127,14 +131,14 @@ int PARAM_check_ui4_value(const char* value_p)
 
 int PARAM_check_bool_value(const char* value_p)
 {
-    return keyword_or_refuse(require_value(value_p, kModule), "0 1",
+    return keyword_or_refuse(require_value(value_p, kModule), kBooleans,
                              line("Error in %s: The value %s out of range[0,1]\n", __func__, value_p));
 }
 
 int PARAM_check_bool_value_use_str(const char* value_p)
 {
     return keyword_or_refuse(
-        require_value(value_p, kModule), "true false",
+        require_value(value_p, kModule), kWrittenBooleans,
         line("Error in %s: The value %s out of range[true, false]\n", __func__, value_p));
 }
 

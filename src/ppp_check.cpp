@@ -15,7 +15,11 @@ using namespace ostrel;
 
 namespace {
 
-constexpr Text kTonlinePassword{1, 8, kLatin1Printable};
+constexpr auto kConnectionTypes = keywords("IP_Routed");
+constexpr auto kConnectionTriggers = keywords("OnDemand|AlwaysOn");
+constexpr auto kReceiveProtocols = keywords("Off");
+
+constexpr Text kTonlinePassword = text(1, 8, kLatin1Printable);
 
 constexpr Limits kShapingRates{-1, INT_MAX};
 constexpr Limits kBurstSizes{0, INT_MAX};
@@ -24,7 +28,7 @@ constexpr Limits kBurstSizes{0, INT_MAX};
 
 int PPP_check_connection_type(const char* value)
 {
-    return keyword_or_refuse(value, "IP_Routed",
+    return keyword_or_refuse(value, kConnectionTypes,
                              line("Error in %s: Error wan connection type:%s\n\n", __func__, value));
 }
 
@@ -55,7 +59,7 @@ int PPP_check_pppoe_service_name(const char* value)
 
 int PPP_check_connection_trigger(const char* value)
 {
-    if (is_one_of(value, "OnDemand AlwaysOn")) return OSTREL_VALID;
+    if (is_one_of(value, kConnectionTriggers)) return OSTREL_VALID;
     const int code = value[0] == '\0' ? OSTREL_EMPTY : OSTREL_INVALID_VALUE;
     return refuse(code, "Error in %s: Error connection trigger:%s\n\n", __func__, value);
 }
@@ -68,7 +72,7 @@ int PPP_check_idle_disconnect_time(const char* value)
 
 int PPP_check_route_protocol_rx(const char* value)
 {
-    return keyword_or_refuse(value, "Off",
+    return keyword_or_refuse(value, kReceiveProtocols,
                              line("Error in %s: Error Rx route protocol:%s\n\n", __func__, value));
 }
 

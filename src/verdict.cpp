@@ -43,9 +43,9 @@ int keyword_or_refuse(const char* value, const char* keywords, const char* line,
                           check);
 }
 
-int text_or_refuse(const char* value, Text text, const char* line, const char* check)
+int text_or_refuse(const char* value, Text rule, const char* line, const char* check)
 {
-    return code_or_refuse(validate_string(value, text), value, line, check);
+    return code_or_refuse(validate_string(value, rule), value, line, check);
 }
 
 int rule_or_refuse(const char* value, int (*rule)(const char*), const char* line, const char* check)

@@ -40,7 +40,7 @@ int keyword_or_refuse(const char* value, const char* keywords, const char* line,
                       const char* check = __builtin_FUNCTION());
 
 // text_or_refuse refuses with the code of validate_string.
-int text_or_refuse(const char* value, Text text, const char* line, const char* check = __builtin_FUNCTION());
+int text_or_refuse(const char* value, Text rule, const char* line, const char* check = __builtin_FUNCTION());
 
 // rule_or_refuse refuses with the code of the rule, or with OSTREL_INVALID_VALUE where that is OSTREL_INVALID.
 int rule_or_refuse(const char* value, int (*rule)(const char*), const char* line,

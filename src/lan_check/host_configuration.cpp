@@ -20,17 +20,25 @@ using namespace ostrel;
 
 namespace {
 
+constexpr auto kEnabled = keywords("1");
+constexpr auto kInterfaceMasks = keywords("255.255.255.0");
+constexpr auto kAddressTypes = keywords("Static");
+constexpr auto kRefusedUses = keywords("Normal|UseAllocatedSubnet|Passthrough");
+constexpr auto kSubnetMasks = keywords(
+    "255.255.255.0|255.255.255.128|255.255.255.192|255.255.255.224|255.255.255.240|255.255.255.248|255.255."
+    "255.252");
+
 constexpr char kModule[] = "lan_check";
 
 constexpr Limits kConnectionLength{0, 255, OSTREL_INVALID};
 constexpr Limits kPassthroughLease{0, 65535, OSTREL_INVALID};
-constexpr Text kDeviceNameText{1, 15, kCisName};
+constexpr Text kDeviceNameText = text(1, 15, kCisName);
 
 }  // namespace
 
 int LAN_check_ipinterface_enabled(const char* value_p)
 {
-    return keyword_or_refuse(require_value(value_p, kModule), "1",
+    return keyword_or_refuse(require_value(value_p, kModule), kEnabled,
                              line("Error in %s: Error ip interface enabled:%s\n\n", __func__, value_p));
 }
 
@@ -42,14 +50,14 @@ int LAN_check_ip_router(const char* value_p)
 
 int LAN_check_interface_subnet_mask(const char* value_p)
 {
-    return keyword_or_refuse(require_value(value_p, kModule), "255.255.255.0",
+    return keyword_or_refuse(require_value(value_p, kModule), kInterfaceMasks,
                              line("Error in %s: Error ip interface subnet mask:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_interface_addr_type(const char* value_p)
 {
     return keyword_or_refuse(
-        require_value(value_p, kModule), "Static",
+        require_value(value_p, kModule), kAddressTypes,
         line("Error in %s: Error ip interface addressing type:%s\n\n", __func__, value_p));
 }
 
@@ -101,7 +109,7 @@ int LAN_check_use_allocated_wan(const char* value_p)
 {
     require_value(value_p, kModule);
     // The sense is inverted: the three keywords are what is refused.
-    if (!is_one_of(value_p, "Normal UseAllocatedSubnet Passthrough")) return OSTREL_VALID;
+    if (!is_one_of(value_p, kRefusedUses)) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: Error use allocated wan:%s\n\n", __func__, value_p);
 }
 
@@ -122,9 +130,7 @@ int LAN_check_passthrough_MAC_address(const char* /*value*/) { return OSTREL_VAL
 
 int LAN_check_subnet_mask(const char* value_p)
 {
-    return keyword_or_refuse(require_value(value_p, kModule),
-                             "255.255.255.0 255.255.255.128 255.255.255.192 255.255.255.224 255.255.255.240 "
-                             "255.255.255.248 255.255.255.252",
+    return keyword_or_refuse(require_value(value_p, kModule), kSubnetMasks,
                              line("Error in %s: Error ip interface subnet mask:%s\n\n", __func__, value_p));
 }
 

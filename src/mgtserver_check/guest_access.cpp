@@ -12,8 +12,8 @@ using namespace ostrel;
 
 namespace {
 
-constexpr Text kGuestNumber{1, 2, kDigits};
-constexpr Text kGuestPassword{4, 32, kAlnum};
+constexpr Text kGuestNumber = text(1, 2, kDigits);
+constexpr Text kGuestPassword = text(4, 32, kAlnum);
 
 }  // namespace
 

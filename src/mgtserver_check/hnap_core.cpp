@@ -13,7 +13,9 @@ using namespace ostrel;
 
 namespace {
 
-constexpr Text kUserName{1, 16, kLatin1Printable};
+constexpr auto kLocales = keywords("en-us|fr-ca|fr-fr|de-de|es-es|it-it|nl-nl|sv-se|ar-sa|pl-pl|th-th");
+
+constexpr Text kUserName = text(1, 16, kLatin1Printable);
 
 constexpr char kUtc[] = "UTC";
 
@@ -36,7 +38,6 @@ int HNAPCORE_check_timezone(const char* value, char* offset_out)
 
 int HNAPCORE_check_locale(const char* value)
 {
-    const bool is_locale =
-        is_one_of_ignoring_case(value, "en-us fr-ca fr-fr de-de es-es it-it nl-nl sv-se ar-sa pl-pl th-th");
+    const bool is_locale = is_one_of_ignoring_case(value, kLocales);
     return is_locale ? OSTREL_VALID : OSTREL_INVALID;
 }

@@ -32,9 +32,9 @@ static_assert(is_realm(kAccountRealm, 12), "\"@\" and a domain of 11 characters"
 static_assert(is_realm(kSetupRealm, 18), "\"@\" and a domain of 17 characters");
 
 // What stands before either realm, and what is neither's.
-constexpr Text kAccountPart{18, 30, kPppDigits};
-constexpr Text kSetupPart{16, 17, kPppDigits};
-constexpr Text kOtherUserName{1, 131, kLatin1Printable};
+constexpr Text kAccountPart = text(18, 30, kPppDigits);
+constexpr Text kSetupPart = text(16, 17, kPppDigits);
+constexpr Text kOtherUserName = text(1, 131, kLatin1Printable);
 
 constexpr int kNoType = 0;
 
@@ -128,17 +128,17 @@ int TcmValidatePPPPassword(const char* value) { return validate_string(value, kP
 
 int TcmValidateLANConfigPassword(const char* value) { return validate_string(value, kLanConfigPassword); }
 
-int TcmValidateEmailPassword(const char* value) { return validate_string(value, {0, 255, kName}); }
+int TcmValidateEmailPassword(const char* value) { return validate_string(value, text(0, 255, kName)); }
 
-int TcmValidateVoIPAnbietername(const char* value) { return validate_string(value, {1, 32, kName}); }
+int TcmValidateVoIPAnbietername(const char* value) { return validate_string(value, text(1, 32, kName)); }
 
-int TcmValidateVoIPNumber(const char* value) { return validate_string(value, {1, 32, kDigits}); }
+int TcmValidateVoIPNumber(const char* value) { return validate_string(value, text(1, 32, kDigits)); }
 
-int TcmValidateVoIPUsername(const char* value) { return validate_string(value, {1, 64, kMail}); }
+int TcmValidateVoIPUsername(const char* value) { return validate_string(value, text(1, 64, kMail)); }
 
-int TcmValidateVoIPPassword(const char* value) { return validate_string(value, {0, 255, kName}); }
+int TcmValidateVoIPPassword(const char* value) { return validate_string(value, text(0, 255, kName)); }
 
-int TcmValidateVoIPAreaCode(const char* value) { return validate_string(value, {1, 6, kDigits}); }
+int TcmValidateVoIPAreaCode(const char* value) { return validate_string(value, text(1, 6, kDigits)); }
 
 int TcmValidatePort(const char* value)
 {

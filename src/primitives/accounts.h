@@ -10,8 +10,8 @@ int validate_provisioning_code(const char* value);
 
 int validate_ppp_user_name(const char* value, int* type_out);
 
-constexpr Text kPppPassword{1, 67, kLatin1Printable};
-constexpr Text kLanConfigPassword{4, 12, kName};
+constexpr Text kPppPassword = text(1, 67, kLatin1Printable);
+constexpr Text kLanConfigPassword = text(4, 12, kName);
 
 }  // namespace ostrel
 

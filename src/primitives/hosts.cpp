@@ -112,18 +112,18 @@ int isEmail(const char* value) { return judge(is_email(value)); }
 
 int TcmValidateEmailAddress(const char* value)
 {
-    if (const int code = validate_string(value, {5, 64, kMail}); code != OSTREL_VALID) return code;
+    if (const int code = validate_string(value, text(5, 64, kMail)); code != OSTREL_VALID) return code;
     return is_email(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
 int TcmValidateVoIPRegistrar(const char* value)
 {
-    if (const int code = validate_string(value, {3, 64, kName}); code != OSTREL_VALID) return code;
+    if (const int code = validate_string(value, text(3, 64, kName)); code != OSTREL_VALID) return code;
     return is_host(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
 int TcmValidateVoIPSTUNServer(const char* value)
 {
-    if (const int code = validate_string(value, {0, 64, kHostPort}); code != OSTREL_VALID) return code;
+    if (const int code = validate_string(value, text(0, 64, kHostPort)); code != OSTREL_VALID) return code;
     return value[0] == '\0' || is_host(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }

@@ -7,9 +7,15 @@
 
 using namespace ostrel;
 
+namespace {
+
+constexpr auto kProtocols = keywords("TCP|UDP");
+
+}  // namespace
+
 int TcmValidatePortMappingProtocol(const char* value)
 {
-    return is_one_of(value, "TCP UDP") ? OSTREL_VALID : OSTREL_INVALID;
+    return is_one_of(value, kProtocols) ? OSTREL_VALID : OSTREL_INVALID;
 }
 
 int TcmValidatePortMappingDescription(const char* value)

@@ -6,8 +6,8 @@
 
 namespace ostrel {
 
-constexpr Text kPortMappingDescription{1, 32, kDescription};
-constexpr Text kRouterNameText{1, 22, kRouterName};
+constexpr Text kPortMappingDescription = text(1, 32, kDescription);
+constexpr Text kRouterNameText = text(1, 22, kRouterName);
 
 }  // namespace ostrel
 

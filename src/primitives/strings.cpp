@@ -10,6 +10,12 @@ namespace ostrel {
 
 namespace {
 
+int min_len(Text rule) { return static_cast<int>(static_cast<unsigned>(rule) & 0xFFU); }
+
+int max_len(Text rule) { return static_cast<int>(static_cast<unsigned>(rule) >> 8U & 0xFFU); }
+
+CharSet allowed(Text rule) { return CharSet::of_bit(static_cast<unsigned>(rule) >> 16U); }
+
 template <typename Set>
 int judge_string(const char* value, int min_len, int max_len, const Set& allowed)
 {
@@ -45,16 +51,16 @@ int validate_string(const char* value, int min_len, int max_len, CharSet allowed
     return judge_string(value, min_len, max_len, allowed);
 }
 
-int validate_string(const char* value, Text text)
+int validate_string(const char* value, Text rule)
 {
-    return validate_string(value, text.min_len, text.max_len, text.allowed);
+    return validate_string(value, min_len(rule), max_len(rule), allowed(rule));
 }
 
-int validate_string(std::string_view piece, Text text)
+int validate_string(std::string_view piece, Text rule)
 {
-    const int code = validate_length(text.min_len, text.max_len, piece.size());
+    const int code = validate_length(min_len(rule), max_len(rule), piece.size());
     if (code != OSTREL_VALID) return code;
-    return contains_all(text.allowed, piece) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+    return contains_all(allowed(rule), piece) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
 }
 
 int validate_number(const char* value, int min, int max, CharSet allowed)

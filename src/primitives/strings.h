@@ -13,18 +13,20 @@ namespace ostrel {
 // lets every length through, a negative maximum none. Exact for any length, also beyond what an int can hold.
 int validate_length(int min_len, int max_len, std::size_t length);
 
-// Text is how long a text may be and what it may consist of. It fits into a register.
-struct Text {
-    std::uint8_t min_len;
-    std::uint8_t max_len;
-    CharSet allowed;
-};
+// Text is how long a text may be and what it may consist of, packed into a number: compilers read a structure from
+// memory where a number is part of an instruction.
+enum class Text : std::uint32_t {};
+
+constexpr Text text(std::uint8_t min_len, std::uint8_t max_len, CharSet allowed)
+{
+    return static_cast<Text>(allowed.bit() << 16U | unsigned{max_len} << 8U | min_len);
+}
 
 // validate_string is ValidateString with a ready set, over a value or a piece of one. A value that it accepts
 // is read once: its length is known when its last character has been looked up.
 int validate_string(const char* value, int min_len, int max_len, CharSet allowed);
-int validate_string(const char* value, Text text);
-int validate_string(std::string_view piece, Text text);
+int validate_string(const char* value, Text rule);
+int validate_string(std::string_view piece, Text rule);
 
 // validate_number is ValidateNum with a ready set.
 int validate_number(const char* value, int min, int max, CharSet allowed);

@@ -14,8 +14,11 @@ namespace ostrel {
 
 namespace {
 
-constexpr Text kPreSharedKey{64, 64, kHexDigits};
-constexpr Text kSsid{1, 32, kAsciiPrintable};
+constexpr auto kBeaconTypes = keywords("None|Basic|WPA|11i|WPAand11i");
+constexpr auto kNamedRateSets = keywords("all|default");
+
+constexpr Text kPreSharedKey = text(64, 64, kHexDigits);
+constexpr Text kSsid = text(1, 32, kAsciiPrintable);
 
 // Packed is a text of up to three bytes as one number. Longer texts give numbers that no shorter one gives,
 // because the last four bytes are in them.
@@ -67,7 +70,7 @@ int validate_rate(const char* value)
 
 int validate_beacon_type(const char* value)
 {
-    return is_one_of(value, "None Basic WPA 11i WPAand11i") ? OSTREL_VALID : OSTREL_INVALID;
+    return is_one_of(value, kBeaconTypes) ? OSTREL_VALID : OSTREL_INVALID;
 }
 
 int validate_ssid(const char* ssid)
@@ -79,7 +82,7 @@ int validate_ssid(const char* ssid)
 
 int validate_rate_set(const char* value)
 {
-    if (is_one_of(value, "all default")) return OSTREL_VALID;
+    if (is_one_of(value, kNamedRateSets)) return OSTREL_VALID;
     // An empty item is no rate, which refuses the empty value and a comma that leads, ends or follows
     // another.
     Packed item = 0;

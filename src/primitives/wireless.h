@@ -11,7 +11,7 @@ namespace [[gnu::visibility("hidden")]] ostrel {
 int validate_pre_shared_key(const char* key);
 
 // kPassPhrase is the rule of TcmValidateKPP.
-constexpr Text kPassPhrase{8, 63, kAsciiPrintable};
+constexpr Text kPassPhrase = text(8, 63, kAsciiPrintable);
 
 // validate_rate is TcmValidateRate.
 int validate_rate(const char* value);

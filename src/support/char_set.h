@@ -21,14 +21,21 @@ struct Memberships {
 // CharSet is one of the sets of <ostrel/character_sets.h>, by its bit.
 class CharSet {
  public:
-    constexpr explicit CharSet(unsigned position) : bit_(static_cast<std::uint16_t>(1U << position)) {}
+    constexpr explicit CharSet(unsigned position) : bit_(1U << position) {}
+
+    static constexpr CharSet of_bit(unsigned bit)
+    {
+        CharSet set(0);
+        set.bit_ = bit;
+        return set;
+    }
 
     constexpr unsigned bit() const { return bit_; }
 
     bool contains(char c) const { return (kMemberships.words[static_cast<unsigned char>(c)] & bit_) != 0; }
 
  private:
-    std::uint16_t bit_;
+    unsigned bit_;
 };
 
 constexpr CharSet kDigits(0);

@@ -6,22 +6,17 @@ namespace ostrel {
 
 namespace {
 
-// is_end asks about a character of the list.
-bool is_end(char c) { return c <= ' '; }
-
 template <typename Fold>
 inline bool is_any(const char* value, const char* keyword, Fold fold)
 {
-    for (;;) {
+    while (*keyword != '\0') {
+        const char* next = keyword + *keyword;
         const char* c = value;
-        for (; *keyword == fold(*c) && !is_end(*keyword); ++keyword) ++c;
-        if (*c == '\0' && is_end(*keyword)) return true;
-        char passed = '\0';
-        do {
-            passed = *keyword++;
-        } while (!is_end(passed));
-        if (passed == '\0') return false;
+        while (++keyword != next && *keyword == fold(*c)) ++c;
+        if (keyword == next && *c == '\0') return true;
+        keyword = next;
     }
+    return false;
 }
 
 }  // namespace

@@ -18,6 +18,9 @@ using namespace ostrel;
 
 namespace {
 
+constexpr auto kPassPhraseTypes = keywords("WPA-PSK|WPA-AUTO-PSK|WPA2-PSK");
+constexpr auto kRadiusTypes = keywords("WPA-RADIUS|WPA-AUTO-RADIUS|WPA2-RADIUS");
+
 constexpr unsigned kWepKeysLine = 500;  // the line that the assertion names is part of its text
 
 constexpr std::size_t kWepKeys = 4;
@@ -26,9 +29,9 @@ constexpr std::size_t kWepKeyDistance = 257;  // from one key of the block to th
 constexpr std::size_t kWep64Length = 10;      // hexadecimal digits
 constexpr std::size_t kWep128Length = 26;
 
-bool is_pass_phrase_type(const char* type) { return is_one_of(type, "WPA-PSK WPA-AUTO-PSK WPA2-PSK"); }
+bool is_pass_phrase_type(const char* type) { return is_one_of(type, kPassPhraseTypes); }
 
-bool is_radius_type(const char* type) { return is_one_of(type, "WPA-RADIUS WPA-AUTO-RADIUS WPA2-RADIUS"); }
+bool is_radius_type(const char* type) { return is_one_of(type, kRadiusTypes); }
 
 int trace_code(int code)
 {

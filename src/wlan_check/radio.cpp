@@ -14,6 +14,14 @@ using namespace ostrel;
 
 namespace {
 
+constexpr auto k2_4GHzRadio = keywords("radio_2.4ghz");
+constexpr auto k5GHzRadio = keywords("radio_5ghz");
+constexpr auto kWidths = keywords("0|20");
+constexpr auto k5GHzWidths = keywords("0|20|40");
+constexpr auto kModes = keywords("802.11b|802.11g|802.11n|802.11bg|802.11bgn");
+constexpr auto k5GHzModes = keywords("802.11n|802.11a|802.11an");
+constexpr auto kStandards = keywords("a|b|g|n");
+
 constexpr char kListFile[] = "/var/hnapwl0chlist";
 constexpr char kListCommand[] = "wlctl -i wl0 channels > /var/hnapwl0chlist";
 constexpr int kMostListed = 15;
@@ -41,9 +49,9 @@ bool is_one_of(std::span<const ChannelPair> pairs, const char* primary, const ch
     return false;
 }
 
-bool is_2_4_ghz(const char* radio) { return is_one_of_ignoring_case(radio, "radio_2.4ghz"); }
+bool is_2_4_ghz(const char* radio) { return is_one_of_ignoring_case(radio, k2_4GHzRadio); }
 
-bool is_5_ghz(const char* radio) { return is_one_of_ignoring_case(radio, "radio_5ghz"); }
+bool is_5_ghz(const char* radio) { return is_one_of_ignoring_case(radio, k5GHzRadio); }
 
 bool is_5_ghz_channel(int channel)
 {
@@ -111,16 +119,16 @@ int WLAN_check_5g_second_channel(const char* primary, const char* second)
 
 int WLAN_check_wide_channel(const char* width, const char* radio)
 {
-    if (is_2_4_ghz(radio)) return require(is_one_of(width, "0 20"));
-    return require(is_5_ghz(radio) && is_one_of(width, "0 20 40"));
+    if (is_2_4_ghz(radio)) return require(is_one_of(width, kWidths));
+    return require(is_5_ghz(radio) && is_one_of(width, k5GHzWidths));
 }
 
 int WLAN_check_IEEE11_mode(const char* mode, const char* radio)
 {
     if (is_2_4_ghz(radio)) {
-        return require(is_one_of(mode, "802.11b 802.11g 802.11n 802.11bg 802.11bgn"));
+        return require(is_one_of(mode, kModes));
     }
-    return require(is_5_ghz(radio) && is_one_of(mode, "802.11n 802.11a 802.11an"));
+    return require(is_5_ghz(radio) && is_one_of(mode, k5GHzModes));
 }
 
-int WLAN_check_IEEE11_standard(const char* value) { return require(is_one_of(value, "a b g n")); }
+int WLAN_check_IEEE11_standard(const char* value) { return require(is_one_of(value, kStandards)); }

@@ -4,6 +4,12 @@
 
 namespace ostrel {
 
-bool is_wep_type(const char* type) { return is_one_of(type, "WEP-OPEN WEP-SHARED WEP-RADIUS"); }
+namespace {
+
+constexpr auto kWepTypes = keywords("WEP-OPEN|WEP-SHARED|WEP-RADIUS");
+
+}  // namespace
+
+bool is_wep_type(const char* type) { return is_one_of(type, kWepTypes); }
 
 }  // namespace ostrel

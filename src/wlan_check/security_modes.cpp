@@ -18,9 +18,26 @@ using namespace ostrel;
 
 namespace {
 
+constexpr auto kBasicEncryptionModes = keywords("WEPEncryption|None");
+constexpr auto kBasicAuthenticationModes = keywords("None|EAPAuthentication");
+constexpr auto kWpaEncryptionModes = keywords(
+    "WEPEncryption|TKIPEncryption|WEPandTKIPEncryption|AESEncryption|WEPandAESEncryption|"
+    "TKIPandAESEncryption|"
+    "WEPandTKIPandAESEncryption");
+constexpr auto kWpaAuthenticationModes = keywords("PSKAuthentication|EAPAuthentication");
+constexpr auto k11iEncryptionModes0 =
+    keywords("AESEncryption|WEPandAESEncryption|TKIPandAESEncryption|WEPandTKIPandAESEncryption");
+constexpr auto k11iEncryptionModes1 = keywords("WEPEncryption|TKIPEncryption|WEPandTKIPEncryption");
+constexpr auto k11iAuthenticationModes0 = keywords("EAPAuthentication|EAPandPSKAuthentication");
+constexpr auto kServiceModes = keywords("none|LinkAuthentication|RadiusClient");
+constexpr auto kWpa2Types = keywords("WPA2-PSK|WPA2-RADIUS");
+constexpr auto kWepEncryptions = keywords("WEP-64|WEP-128");
+constexpr auto kWpaTypes = keywords("WPA-PSK|WPA-RADIUS");
+constexpr auto kWpaAutoTypes = keywords("WPA-AUTO-RADIUS|WPA-AUTO-PSK");
+
 constexpr Limits kModeLength{0, 31};
 constexpr std::size_t kLongestRadiusSecret = 80;
-constexpr Text kRenewal{3, 4, kDigits};
+constexpr Text kRenewal = text(3, 4, kDigits);
 constexpr int kShortestRenewal = 600;  // seconds
 constexpr int kLongestRenewal = 7200;
 
@@ -28,16 +45,15 @@ constexpr int kLongestRenewal = 7200;
 bool is_11i_encryption_mode(const char* value, int readwrite_mode)
 {
     if (readwrite_mode == 0) {
-        return is_one_of(value,
-                         "AESEncryption WEPandAESEncryption TKIPandAESEncryption WEPandTKIPandAESEncryption");
+        return is_one_of(value, k11iEncryptionModes0);
     }
-    return is_one_of(value, "WEPEncryption TKIPEncryption WEPandTKIPEncryption");
+    return is_one_of(value, k11iEncryptionModes1);
 }
 
 bool is_11i_authentication_mode(const char* value, int readwrite_mode)
 {
     if (readwrite_mode == 0) {
-        return is_one_of(value, "EAPAuthentication EAPandPSKAuthentication");
+        return is_one_of(value, k11iAuthenticationModes0);
     }
     return equals(value, "PSKAuthentication");
 }
@@ -75,27 +91,25 @@ int WLAN_check_beacon_type(const char* value)
 
 int WLAN_check_basic_encryption_modes(const char* value)
 {
-    return keyword_or_refuse(value, "WEPEncryption None",
+    return keyword_or_refuse(value, kBasicEncryptionModes,
                              line("Error in %s: Error basic encryption modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_basic_authentication_modes(const char* value)
 {
-    return keyword_or_refuse(value, "None EAPAuthentication",
+    return keyword_or_refuse(value, kBasicAuthenticationModes,
                              line("Error in %s: Error basic authentication modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_wpa_encryption_modes(const char* value)
 {
-    return keyword_or_refuse(value,
-                             "WEPEncryption TKIPEncryption WEPandTKIPEncryption AESEncryption "
-                             "WEPandAESEncryption TKIPandAESEncryption WEPandTKIPandAESEncryption",
+    return keyword_or_refuse(value, kWpaEncryptionModes,
                              line("Error in %s: Error wpa encryption modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_wpa_authentication_modes(const char* value)
 {
-    return keyword_or_refuse(value, "PSKAuthentication EAPAuthentication",
+    return keyword_or_refuse(value, kWpaAuthenticationModes,
                              line("Error in %s: Error wpa authentication modes:%s\n\n", __func__, value));
 }
 
@@ -117,24 +131,24 @@ int WLAN_check_authentication_service_mode(const char* value)
              value));
     if (code != OSTREL_VALID) return code;
     return keyword_or_refuse(
-        value, "none LinkAuthentication RadiusClient",
+        value, kServiceModes,
         line("Error in %s: Error authentication_service_mode value invalid :%s\n\n", __func__, value));
 }
 
 int WLAN_check_HNAP_SecurityType(const char* setting1, const char* setting2, const char* type,
                                  const char* encryption)
 {
-    const bool is_wpa2 = is_one_of(type, "WPA2-PSK WPA2-RADIUS");
+    const bool is_wpa2 = is_one_of(type, kWpa2Types);
     if (host_equals(setting1, "0") && host_equals(setting2, "auto") && !is_wpa2) {
         return OSTREL_SECURITY_TYPE_NOT_ALLOWED;
     }
     if (is_wpa2) return require_encryption(equals(encryption, "AES"));
     if (is_wep_type(type)) {
         if (is_model_m2840() && equals(type, "WEP-RADIUS")) return OSTREL_SECURITY_TYPE_NOT_ALLOWED;
-        return require_encryption(is_one_of(encryption, "WEP-64 WEP-128"));
+        return require_encryption(is_one_of(encryption, kWepEncryptions));
     }
-    if (is_one_of(type, "WPA-PSK WPA-RADIUS")) return require_encryption(equals(encryption, "TKIP"));
-    if (is_one_of(type, "WPA-AUTO-RADIUS WPA-AUTO-PSK")) {
+    if (is_one_of(type, kWpaTypes)) return require_encryption(equals(encryption, "TKIP"));
+    if (is_one_of(type, kWpaAutoTypes)) {
         return require_encryption(equals(encryption, "TKIPORAES"));
     }
     return OSTREL_SECURITY_TYPE_NOT_ALLOWED;

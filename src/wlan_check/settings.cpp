@@ -15,6 +15,10 @@ using namespace ostrel;
 
 namespace {
 
+constexpr auto kAccessPointModes = keywords("InfrastructureAccessPoint");
+constexpr auto kOtherModes = keywords("WirelessBridge|WirelessRepeater|WirelessStation");
+constexpr auto kOperationalRateSets = keywords("|1,2,5.5,6,9,11,12,18,24,36,48,54");
+
 constexpr Limits kModeLength{0, 31};
 constexpr Limits kDistances{INT_MIN, -1, OSTREL_INVALID_DISTANCE};
 constexpr int kLongestDescription = 4096;
@@ -31,8 +35,8 @@ bool is_regulatory_domain(const char* value)
 
 bool is_operation_mode(const char* value, int readwrite_mode)
 {
-    if (readwrite_mode == 1) return is_one_of(value, "InfrastructureAccessPoint");
-    return is_one_of(value, "WirelessBridge WirelessRepeater WirelessStation");
+    if (readwrite_mode == 1) return is_one_of(value, kAccessPointModes);
+    return is_one_of(value, kOtherModes);
 }
 
 }  // namespace
@@ -57,7 +61,7 @@ int WLAN_check_basic_data_transmit_rate(const char* value)
 
 int WLAN_check_op_data_transmit_rate(const char* value)
 {
-    return keyword_or_refuse(value, " 1,2,5.5,6,9,11,12,18,24,36,48,54",
+    return keyword_or_refuse(value, kOperationalRateSets,
                              line("Error in %s: Error operation data transmit rate:%s\n\n", __func__, value));
 }
 
