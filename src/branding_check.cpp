@@ -49,7 +49,7 @@ int Param_check_color_value(const char* value)
                       __func__, value, kColorLength);
     }
     for (const char* c = value; *c != '\0'; ++c) {
-        if (kHexDigits.contains(*c)) continue;
+        if (contains(kHexDigits, *c)) continue;
         return refuse(OSTREL_WRONG_FORM, "Error in %s: color :%s contain invalid char %c\n", __func__, value,
                       *c);
     }

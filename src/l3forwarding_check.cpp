@@ -3,9 +3,9 @@
 #include <ostrel/result_code.h>
 
 #include <climits>
-#include <cstdlib>
 
 #include "support/keywords.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "support/text.h"
 #include "verdict.h"
@@ -45,14 +45,14 @@ int L3FORWARDING_check_ForwardingType(const char* value)
 
 int L3FORWARDING_check_ForwardingMetric(const char* value)
 {
-    if (std::atoi(value) >= kLeastMetric) return OSTREL_VALID;
+    if (leading_number(value) >= kLeastMetric) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalid metric:%s, RANGE >=%d\n", __func__, value,
                   kLeastMetric);
 }
 
 int L3FORWARDING_check_MTU(const char* value)
 {
-    const int mtu = std::atoi(value);
+    const int mtu = leading_number(value);
     if (mtu >= kLeastMtu && mtu <= kLargestMtu) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalid MTU:%s, RANGE[%d, %d]\n", __func__, value,
                   kLeastMtu, kLargestMtu);

@@ -1,7 +1,6 @@
 #include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
 #include <cstring>
 
 #include "primitives/accounts.h"
@@ -10,6 +9,7 @@
 #include "support/assertion.h"
 #include "support/char_set.h"
 #include "support/keywords.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "support/text.h"
 #include "verdict.h"
@@ -33,7 +33,7 @@ constexpr Limits kPorts{0, 65535, OSTREL_OUT_OF_RANGE};
 int require_digits(const char* value_p, const char* function)
 {
     while (value_p[0] != '\0') {
-        if (!kDigits.contains(value_p[0])) {
+        if (!contains(kDigits, value_p[0])) {
             return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s is invalid\n", function, value_p);
         }
         // C++ lets a compiler assume that a loop without effects ends; this is an effect.
@@ -108,7 +108,7 @@ int PARAM_check_ui2_value(const char* value_p)
 {
     require_value(value_p, kModule);
     if (const int code = require_digits(value_p, __func__); code != OSTREL_VALID) return code;
-    const int number = std::atoi(value_p);
+    const int number = leading_number(value_p);
     // Only the empty value comes this far, and reads as 0.
     if (number >= 0 && number < 65536) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
     // GCOVR_EXCL_START
@@ -122,7 +122,7 @@ int PARAM_check_ui4_value(const char* value_p)
     require_value(value_p, kModule);
     if (const int code = require_digits(value_p, __func__); code != OSTREL_VALID) return code;
     // Here too.
-    if (std::atoi(value_p) >= 0) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
+    if (leading_number(value_p) >= 0) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
     // GCOVR_EXCL_START
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s should be between [0,4296967296)\n",
                   __func__, value_p);
@@ -149,7 +149,7 @@ int PARAM_check_number(const char* value_p, int min_len, int max_len)
 
 int PARAM_check_num_range(const char* value_p, int min, int max)
 {
-    return validate_number(value_p, min, max, kDigits);
+    return validate_number(value_p, min, max);
 }
 
 int PARAM_check_password(const char* value_p, int min_len, int max_len)
@@ -176,7 +176,7 @@ int PARAM_check_dl_test_bufsize(const char* value_p)
     if (!contains_all(kDigits, value_p)) {
         return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: The value %s is invalid\n", __func__, value_p);
     }
-    const int size = std::atoi(value_p);
+    const int size = leading_number(value_p);
     if (size < 0) return OSTREL_OUT_OF_RANGE;
     if (size == 0) return OSTREL_WRONG_FORM;
     if (size <= kLargestTestBuffer) return OSTREL_VALID;

@@ -2,10 +2,9 @@
 #include <ostrel/port_mapping_check.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
-
 #include "primitives/names.h"
 #include "support/assertion.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "verdict.h"
 
@@ -33,7 +32,7 @@ constexpr int kLastMediaPort = 54999;
 bool is_port_reserved(const char* value_p, const int* reserved)
 {
     require_value(value_p, kModule);
-    const int port = std::atoi(value_p);
+    const int port = leading_number(value_p);
     for (; *reserved != -1; ++reserved) {
         if (*reserved != port) continue;
         inform("Error in %s: The port:%s is reserved\n", __func__, value_p);
@@ -48,7 +47,7 @@ bool is_wan_udp_port_available(const char* value_p)
 {
     require_value(value_p, kModule);
     if (is_port_reserved(value_p, kReservedUdpPorts)) return false;
-    const int port = std::atoi(value_p);
+    const int port = leading_number(value_p);
     if (port < kFirstMediaPort || port > kLastMediaPort) return true;
     inform("Error in %s: The udp port:%s is reserved sip rtp ports\n", __func__, value_p);
     return false;

@@ -1,9 +1,9 @@
 #include "verdict.h"
 
-#include <cstdlib>
 #include <cstring>
 
 #include "support/keywords.h"
+#include "support/number.h"
 #include "support/report.h"
 
 namespace ostrel {
@@ -29,7 +29,7 @@ int code_or_refuse(int code, const char* value, const char* line, const char* ch
 
 int number_or_refuse(const char* value, const Limits& limits, const char* line, const char* check)
 {
-    return code_or_refuse(judge_limits(std::atoi(value), limits), value, line, check);
+    return code_or_refuse(judge_limits(leading_number(value), limits), value, line, check);
 }
 
 int length_or_refuse(const char* value, const Limits& limits, const char* line, const char* check)

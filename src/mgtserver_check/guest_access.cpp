@@ -1,10 +1,9 @@
 #include <ostrel/mgtserver_check.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
-
 #include "primitives/strings.h"
 #include "support/char_set.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "verdict.h"
 
@@ -21,7 +20,7 @@ int GUESTACCESS_check_max_allowed_number(const char* value)
 {
     const int code = validate_string(value, kGuestNumber);
     if (code != OSTREL_VALID) inform("Error in %s: Error max allowed number:%s\n\n", __func__, value);
-    if (std::atoi(value) > 0) return code;
+    if (leading_number(value) > 0) return code;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error min allowed number:%s\n\n", __func__, value);
 }
 

@@ -3,11 +3,11 @@
 #include <ostrel/accounts.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
 #include <string_view>
 
 #include "primitives/strings.h"
 #include "support/char_set.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "support/text.h"
 
@@ -31,9 +31,6 @@ constexpr bool is_realm(std::string_view text, std::size_t size)
 static_assert(is_realm(kAccountRealm, 12), "\"@\" and a domain of 11 characters");
 static_assert(is_realm(kSetupRealm, 18), "\"@\" and a domain of 17 characters");
 
-// What stands before either realm, and what is neither's.
-constexpr Text kAccountPart = text(18, 30, kPppDigits);
-constexpr Text kSetupPart = text(16, 17, kPppDigits);
 constexpr Text kOtherUserName = text(1, 131, kLatin1Printable);
 
 constexpr int kNoType = 0;
@@ -91,23 +88,22 @@ int validate_provisioning_code(const char* value)
 
 int validate_ppp_user_name(const char* value, int* type_out)
 {
-    std::string_view name = value;
-    int type = kNoType;
-    if (cut_realm(name, kAccountRealm)) {
-        const int separators = count(name, '#');
-        if (const int code = validate_string(name, kAccountPart); code != OSTREL_VALID) return code;
-        if (separators >= 3) return OSTREL_VALID;
-        type = account_type(name, separators);
-    } else if (cut_realm(name, kSetupRealm)) {
-        const int separators = count(name, '#');
-        if (const int code = validate_string(name, kSetupPart); code != OSTREL_VALID) return code;
-        if (separators >= 3) return OSTREL_VALID;
-        type = setup_type(name, separators);
-    } else {
-        if (const int code = validate_string(name, kOtherUserName); code != OSTREL_VALID) return code;
-        *type_out = 0;
-        return OSTREL_VALID;
+    std::string_view part = value;
+    const bool is_account = cut_realm(part, kAccountRealm);
+    if (!is_account && !cut_realm(part, kSetupRealm)) {
+        const int code = validate_string(value, kOtherUserName);
+        if (code == OSTREL_VALID) *type_out = 0;
+        return code;
     }
+    const int code = is_account ? validate_length(18, 30, part.size()) : validate_length(16, 17, part.size());
+    if (code != OSTREL_VALID) return code;
+    int separators = 0;
+    for (const char c : part) {
+        if (!contains(kPppDigits, c)) return OSTREL_FORBIDDEN_CHARACTER;
+        separators += c == '#' ? 1 : 0;
+    }
+    if (separators >= 3) return OSTREL_VALID;
+    const int type = is_account ? account_type(part, separators) : setup_type(part, separators);
     if (type == kNoType) return OSTREL_INVALID_VALUE;
     *type_out = type;
     return OSTREL_VALID;
@@ -142,7 +138,7 @@ int TcmValidateVoIPAreaCode(const char* value) { return validate_string(value, t
 
 int TcmValidatePort(const char* value)
 {
-    const int port = std::atoi(value);
+    const int port = leading_number(value);
     return port > 0 && port < 65536 ? OSTREL_VALID : OSTREL_INVALID;
 }
 

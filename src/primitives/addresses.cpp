@@ -8,6 +8,7 @@
 
 #include "support/char_set.h"
 #include "support/judge.h"
+#include "support/number.h"
 
 namespace ostrel {
 
@@ -16,7 +17,10 @@ namespace {
 constexpr std::ptrdiff_t kLongestIpv4Address = 15;
 constexpr std::size_t kMacAddressLength = 17;  // six octets of two digits and five separators
 
-bool is_octet(const char* digits) { return kHexDigits.contains(digits[0]) && kHexDigits.contains(digits[1]); }
+[[gnu::always_inline]] inline bool is_octet(const char* digits)
+{
+    return contains(kHexDigits, digits[0]) && contains(kHexDigits, digits[1]);
+}
 
 // is_group_digit tells whether the second hexadecimal digit of an address carries the group bit. The codes of
 // 'A' and 'a' are odd where the digits' values are even.
@@ -54,8 +58,6 @@ bool judge_mac_address(const char* value, bool station_only)
     return goes_on(value, 2) && goes_on(value, 5) && goes_on(value, 8) && goes_on(value, 11) &&
            goes_on(value, 14) && value[kMacAddressLength] == '\0';
 }
-
-unsigned digit(char c) { return static_cast<unsigned char>(c) - unsigned{'0'}; }
 
 // skip_octet returns where a number of up to 255 at the start of the text ends, NULL where there is none.
 inline const char* skip_octet(const char* text)

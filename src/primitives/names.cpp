@@ -3,6 +3,7 @@
 #include <ostrel/names.h>
 #include <ostrel/result_code.h>
 
+#include "support/judge.h"
 #include "support/keywords.h"
 
 using namespace ostrel;
@@ -13,10 +14,7 @@ constexpr auto kProtocols = keywords("TCP|UDP");
 
 }  // namespace
 
-int TcmValidatePortMappingProtocol(const char* value)
-{
-    return is_one_of(value, kProtocols) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int TcmValidatePortMappingProtocol(const char* value) { return judge(is_one_of(value, kProtocols)); }
 
 int TcmValidatePortMappingDescription(const char* value)
 {

@@ -2,8 +2,8 @@
 #ifndef OSTREL_PRIMITIVES_STRINGS_H
 #define OSTREL_PRIMITIVES_STRINGS_H
 
+#include <cstddef>
 #include <cstdint>
-#include <string_view>
 
 #include "support/char_set.h"
 
@@ -19,24 +19,20 @@ enum class Text : std::uint32_t {};
 
 constexpr Text text(std::uint8_t min_len, std::uint8_t max_len, CharSet allowed)
 {
-    return static_cast<Text>(allowed.bit() << 16U | unsigned{max_len} << 8U | min_len);
+    return static_cast<Text>(static_cast<std::uint32_t>(allowed) << 16U | unsigned{max_len} << 8U | min_len);
 }
 
-// validate_string is ValidateString with a ready set, over a value or a piece of one. A value that it accepts
-// is read once: its length is known when its last character has been looked up.
+// validate_string is ValidateString with a ready set. A value that it accepts is read once: its length is known when
+// its last character has been looked up.
 int validate_string(const char* value, int min_len, int max_len, CharSet allowed);
 int validate_string(const char* value, Text rule);
-int validate_string(std::string_view piece, Text rule);
 
-// validate_number is ValidateNum with a ready set.
-int validate_number(const char* value, int min, int max, CharSet allowed);
+// validate_number is ValidateNum with the set of digits.
+int validate_number(const char* value, int min, int max);
 
 // is_printable tells whether every byte is one of 0x20 to 0x7E. Neither NULL nor the empty value is
 // printable.
 bool is_printable(const char* value);
-
-// count gives how many bytes of the text equal c.
-int count(std::string_view text, char c);
 
 }  // namespace ostrel
 

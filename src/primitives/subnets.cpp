@@ -2,12 +2,12 @@
 
 #include <ostrel/subnets.h>
 
-#include <cstdlib>
 #include <cstring>
 #include <string_view>
 
 #include "primitives/addresses.h"
 #include "support/judge.h"
+#include "support/number.h"
 #include "support/text.h"
 
 namespace ostrel {
@@ -35,7 +35,7 @@ bool is_in(const char* address, std::string_view subnet)
 }
 
 // host_number reads what follows the last "."; the address has been found valid.
-int host_number(const char* address) { return std::atoi(after_last_dot(address)); }
+int host_number(const char* address) { return leading_number(after_last_dot(address)); }
 
 bool is_host_number(int number) { return number >= 1 && number <= 254; }
 

@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "primitives/strings.h"
+#include "support/judge.h"
 #include "support/keywords.h"
 #include "support/report.h"
 #include "support/text.h"
@@ -63,15 +64,9 @@ int validate_pre_shared_key(const char* key)
     return code == OSTREL_VALID || code == OSTREL_FORBIDDEN_CHARACTER ? code : OSTREL_WRONG_FORM;
 }
 
-int validate_rate(const char* value)
-{
-    return equals(value, "Auto") || is_rate(pack(value)) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int validate_rate(const char* value) { return judge(equals(value, "Auto") || is_rate(pack(value))); }
 
-int validate_beacon_type(const char* value)
-{
-    return is_one_of(value, kBeaconTypes) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int validate_beacon_type(const char* value) { return judge(is_one_of(value, kBeaconTypes)); }
 
 int validate_ssid(const char* ssid)
 {
@@ -82,19 +77,18 @@ int validate_ssid(const char* ssid)
 
 int validate_rate_set(const char* value)
 {
-    if (is_one_of(value, kNamedRateSets)) return OSTREL_VALID;
     // An empty item is no rate, which refuses the empty value and a comma that leads, ends or follows
     // another.
     Packed item = 0;
-    for (; *value != '\0'; ++value) {
-        if (*value != ',') {
-            item = append(item, *value);
+    for (const char* c = value; *c != '\0'; ++c) {
+        if (*c != ',') {
+            item = append(item, *c);
             continue;
         }
         if (!is_rate(item)) return OSTREL_INVALID;
         item = 0;
     }
-    return is_rate(item) ? OSTREL_VALID : OSTREL_INVALID;
+    return judge(is_rate(item) || is_one_of(value, kNamedRateSets));
 }
 
 }  // namespace ostrel

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "support/keywords.h"
+#include "support/number.h"
 #include "support/text.h"
 #include "wlan_check/rules.h"
 
@@ -41,8 +42,8 @@ constexpr ChannelPair k5GHzPairs[] = {{36, 38},   {40, 38},   {44, 46},   {48, 4
 
 bool is_one_of(std::span<const ChannelPair> pairs, const char* primary, const char* second)
 {
-    const int primary_number = std::atoi(primary);
-    const int second_number = std::atoi(second);
+    const int primary_number = leading_number(primary);
+    const int second_number = leading_number(second);
     for (const ChannelPair& pair : pairs) {
         if (pair.primary == primary_number && pair.second == second_number) return true;
     }
@@ -101,7 +102,7 @@ int WLAN_check_radio_id(const char* radio)
 int WLAN_check_channel(const char* channel, const char* radio)
 {
     if (equals(channel, "0")) return OSTREL_VALID;
-    const int number = std::atoi(channel);
+    const int number = leading_number(channel);
     if (is_2_4_ghz(radio)) return require(is_listed_by_driver(number));
     // Text without a number reads as 0 and passes for the automatic channel on this band.
     return require(is_5_ghz(radio) && (number == 0 || is_5_ghz_channel(number)));

@@ -1,7 +1,6 @@
 #include <ostrel/result_code.h>
 #include <ostrel/wlan_check/security_modes.h>
 
-#include <cstdlib>
 #include <cstring>
 
 #include "primitives/strings.h"
@@ -9,6 +8,7 @@
 #include "support/char_set.h"
 #include "support/host.h"
 #include "support/keywords.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "support/text.h"
 #include "verdict.h"
@@ -158,7 +158,7 @@ int WLAN_check_HNAP_KeyRenewal(const char* renewal, const char* interval, const 
 {
     if (equals(renewal, "false") || is_wep_type(type)) return OSTREL_VALID;
     if (validate_string(interval, kRenewal) != OSTREL_VALID) return OSTREL_INVALID;
-    const int seconds = std::atoi(interval);
+    const int seconds = leading_number(interval);
     return seconds >= kShortestRenewal && seconds <= kLongestRenewal ? OSTREL_VALID : OSTREL_INVALID;
 }
 

@@ -30,7 +30,7 @@ bool is_environment(char c) { return c == 'O' || c == 'I' || c == 'o' || c == 'i
 // A missing place holds the terminator, which no set contains.
 bool is_regulatory_domain(const char* value)
 {
-    return kDigits.contains(value[0]) && kDigits.contains(value[1]) && is_environment(value[2]);
+    return contains(kDigits, value[0]) && contains(kDigits, value[1]) && is_environment(value[2]);
 }
 
 bool is_operation_mode(const char* value, int readwrite_mode)
