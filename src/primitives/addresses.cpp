@@ -59,16 +59,22 @@ bool judge_mac_address(const char* value, bool station_only)
            goes_on(value, 14) && value[kMacAddressLength] == '\0';
 }
 
-// skip_octet returns where a number of up to 255 at the start of the text ends, NULL where there is none.
+// skip_octet returns where a number of up to 255 at the start of the text ends, NULL where there is none. It looks at
+// three characters whether or not they are digits, because a processor that has to guess how many digits there are is
+// often wrong: an address takes half the time. For the same reason, a product takes the place of a second condition.
 inline const char* skip_octet(const char* text)
 {
-    unsigned number = digit(*text);
-    if (number > 9) return nullptr;
-    while (digit(*++text) <= 9) {
-        number = number * 10 + digit(*text);
-        if (number > 255) return nullptr;
-    }
-    return text;
+    while (text[0] == '0' && digit(text[1]) <= kLargestDigit) ++text;
+    const unsigned first = digit(text[0]);
+    if (first > kLargestDigit) return nullptr;
+    const unsigned second = digit(text[1]);
+    const bool has_second = second <= kLargestDigit;
+    const unsigned third =
+        digit(text[1 + has_second]);  // the second again, which is no digit, where there is none
+    const bool has_third = third <= kLargestDigit;
+    const unsigned number = first * 100 + second * 10 + third;
+    if (number * has_third > 255) return nullptr;
+    return text + 1 + has_second + has_third;
 }
 
 }  // namespace

@@ -1,13 +1,11 @@
-// The address rules over pieces of values; the exported ones are <ostrel/addresses.h>.
+// The address rules that other rules call; the exported ones are <ostrel/addresses.h>.
 #ifndef OSTREL_PRIMITIVES_ADDRESSES_H
 #define OSTREL_PRIMITIVES_ADDRESSES_H
 
-#include <string_view>
-
 namespace ostrel {
 
-// skip_ipv4_address returns where an IPv4 address at the start of the text ends, NULL where there is none. The digits
-// of its last number are all of the digits that stand there.
+// skip_ipv4_address returns where an IPv4 address at the start of the text ends, NULL where there is none. Whoever calls
+// it judges the character that follows, which may be one more digit.
 const char* skip_ipv4_address(const char* text);
 
 bool is_ipv4_address(const char* value);

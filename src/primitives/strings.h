@@ -1,4 +1,4 @@
-// The string rules over pieces of values; the exported ones are <ostrel/strings.h>.
+// The string rules that other rules call; the exported ones are <ostrel/strings.h>.
 #ifndef OSTREL_PRIMITIVES_STRINGS_H
 #define OSTREL_PRIMITIVES_STRINGS_H
 

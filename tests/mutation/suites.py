@@ -13,7 +13,7 @@ DIE_WITH_PARENT = 1
 
 # Files whose own program has another name.
 PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test",
-            "search": "search_test", "assertion": "parameter_check_test"}
+            "assertion": "parameter_check_test"}
 # A program that compares times: with a limit of processor time that time is counted in coarse ticks, and a busy
 # machine may make it fail, so that a failure counts when it repeats itself.
 TIMED = {"subnets_test"}
