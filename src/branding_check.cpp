@@ -4,12 +4,15 @@
 #include <cstring>
 
 #include "support/char_set.h"
+#include "support/keywords.h"
 #include "support/report.h"
-#include "support/text.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
 namespace {
+
+constexpr auto kBooleans = keywords("0|1");
 
 // check_length accepts the lengths below the limit.
 int check_length(const char* value, int limit, const char* function)
@@ -46,7 +49,7 @@ int Param_check_color_value(const char* value)
                       __func__, value, kColorLength);
     }
     for (const char* c = value; *c != '\0'; ++c) {
-        if (kHexDigits.contains(*c)) continue;
+        if (contains(kHexDigits, *c)) continue;
         return refuse(OSTREL_WRONG_FORM, "Error in %s: color :%s contain invalid char %c\n", __func__, value,
                       *c);
     }
@@ -55,7 +58,7 @@ int Param_check_color_value(const char* value)
 
 int Param_check_bool_value(const char* value)
 {
-    if (equals(value, "0") || equals(value, "1")) return OSTREL_VALID;
+    if (is_one_of(value, kBooleans)) return OSTREL_VALID;
     return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: bool value :%s out of range\n", __func__, value);
 }
 

@@ -2,18 +2,23 @@
 #include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
-#include <cstring>
+#include <climits>
 
+#include "support/keywords.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "support/text.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
 namespace {
 
-constexpr std::size_t kLongestInterface = 256;
+constexpr auto kForwardingTypes = keywords("default|network|host");
+
+constexpr Limits kInterfaceLength{1, 256};
 constexpr int kLeastMetric = -1;
+constexpr Limits kPolicies{-1, INT_MAX};
 constexpr int kLeastMtu = 1;
 constexpr int kLargestMtu = 1540;
 
@@ -21,8 +26,8 @@ constexpr int kLargestMtu = 1540;
 
 int L3FORWARDING_check_interface(const char* value)
 {
-    if (value[0] != '\0' && std::strlen(value) <= kLongestInterface) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalid interface value\n\n", __func__);
+    return length_or_refuse(value, kInterfaceLength,
+                            line("Error in %s: Invalid interface value\n\n", __func__));
 }
 
 int L3FORWARDING_check_IP_address_and_mask(const char* value)
@@ -34,23 +39,20 @@ int L3FORWARDING_check_IP_address_and_mask(const char* value)
 
 int L3FORWARDING_check_ForwardingType(const char* value)
 {
-    if (equals_ignoring_case(value, "Default") || equals_ignoring_case(value, "Network") ||
-        equals_ignoring_case(value, "Host")) {
-        return OSTREL_VALID;
-    }
+    if (is_one_of_ignoring_case(value, kForwardingTypes)) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalid type:%s\n", __func__, value);
 }
 
 int L3FORWARDING_check_ForwardingMetric(const char* value)
 {
-    if (std::atoi(value) >= kLeastMetric) return OSTREL_VALID;
+    if (leading_number(value) >= kLeastMetric) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalid metric:%s, RANGE >=%d\n", __func__, value,
                   kLeastMetric);
 }
 
 int L3FORWARDING_check_MTU(const char* value)
 {
-    const int mtu = std::atoi(value);
+    const int mtu = leading_number(value);
     if (mtu >= kLeastMtu && mtu <= kLargestMtu) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalid MTU:%s, RANGE[%d, %d]\n", __func__, value,
                   kLeastMtu, kLargestMtu);
@@ -58,7 +60,6 @@ int L3FORWARDING_check_MTU(const char* value)
 
 int L3FORWARDING_check_forwarding_policy(const char* value)
 {
-    if (std::atoi(value) >= -1) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalid forwarding policy:%s, RANGE >= -1\n", __func__,
-                  value);
+    return number_or_refuse(
+        value, kPolicies, line("Error in %s: Invalid forwarding policy:%s, RANGE >= -1\n", __func__, value));
 }

@@ -1,7 +1,6 @@
 #include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
 #include <cstring>
 
 #include "primitives/accounts.h"
@@ -9,23 +8,32 @@
 #include "primitives/strings.h"
 #include "support/assertion.h"
 #include "support/char_set.h"
+#include "support/keywords.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "support/text.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
 namespace {
 
+constexpr auto kProtocols = keywords("tcp|udp");
+constexpr auto kBooleans = keywords("0|1");
+constexpr auto kWrittenBooleans = keywords("true|false");
+
 constexpr char kModule[] = "parameter_check";
 
 constexpr int kLargestTestBuffer = 0x100000;
+
+constexpr Limits kPorts{0, 65535, OSTREL_OUT_OF_RANGE};
 
 // require_digits gives OSTREL_VALID for the empty value and a refusal for one that begins with a non-digit.
 // It looks at the first character for as long as that is a digit, which is for ever: the scan never moves on.
 int require_digits(const char* value_p, const char* function)
 {
     while (value_p[0] != '\0') {
-        if (!kDigits.contains(value_p[0])) {
+        if (!contains(kDigits, value_p[0])) {
             return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s is invalid\n", function, value_p);
         }
         // C++ lets a compiler assume that a loop without effects ends; this is an effect.
@@ -53,10 +61,8 @@ int Param_check_string_len(const char* value_p, int min_len, int max_len)
 
 int PARAM_check_port(const char* value_p)
 {
-    require_value(value_p, kModule);
-    const int port = std::atoi(value_p);
-    if (port >= 0 && port < 65536) return OSTREL_VALID;
-    return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: The port shoud be between 0~65535\n", __func__);
+    return number_or_refuse(require_value(value_p, kModule), kPorts,
+                            line("Error in %s: The port shoud be between 0~65535\n", __func__));
 }
 
 int PARAM_check_ip_addr(const char* value_p)
@@ -76,7 +82,7 @@ int PARAM_check_MACAddress(const char* value_p)
 
 int PARAM_check_transport_protocol(const char* value_p)
 {
-    if (equals_ignoring_case(value_p, "TCP") || equals_ignoring_case(value_p, "UDP")) return OSTREL_VALID;
+    if (is_one_of_ignoring_case(value_p, kProtocols)) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: The transport protocol:%s is error\n", __func__, value_p);
 }
 
@@ -88,8 +94,7 @@ int PARAM_get_protocol_from_name(const char* value_p)
 
 int PARAM_check_hexa_string(const char* value_p)
 {
-    require_value(value_p, kModule);
-    return contains_all(kHexDigits, value_p) ? OSTREL_VALID : OSTREL_INVALID;
+    return contains_all(kHexDigits, require_value(value_p, kModule)) ? OSTREL_VALID : OSTREL_INVALID;
 }
 
 int PARAM_check_printable_ascii_string(const char* value_p)
@@ -103,7 +108,7 @@ int PARAM_check_ui2_value(const char* value_p)
 {
     require_value(value_p, kModule);
     if (const int code = require_digits(value_p, __func__); code != OSTREL_VALID) return code;
-    const int number = std::atoi(value_p);
+    const int number = leading_number(value_p);
     // Only the empty value comes this far, and reads as 0.
     if (number >= 0 && number < 65536) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
     // GCOVR_EXCL_START
@@ -117,7 +122,7 @@ int PARAM_check_ui4_value(const char* value_p)
     require_value(value_p, kModule);
     if (const int code = require_digits(value_p, __func__); code != OSTREL_VALID) return code;
     // Here too.
-    if (std::atoi(value_p) >= 0) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
+    if (leading_number(value_p) >= 0) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
     // GCOVR_EXCL_START
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s should be between [0,4296967296)\n",
                   __func__, value_p);
@@ -126,32 +131,30 @@ int PARAM_check_ui4_value(const char* value_p)
 
 int PARAM_check_bool_value(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (equals(value_p, "0") || equals(value_p, "1")) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s out of range[0,1]\n", __func__, value_p);
+    return keyword_or_refuse(require_value(value_p, kModule), kBooleans,
+                             line("Error in %s: The value %s out of range[0,1]\n", __func__, value_p));
 }
 
 int PARAM_check_bool_value_use_str(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (equals(value_p, "true") || equals(value_p, "false")) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s out of range[true, false]\n", __func__,
-                  value_p);
+    return keyword_or_refuse(
+        require_value(value_p, kModule), kWrittenBooleans,
+        line("Error in %s: The value %s out of range[true, false]\n", __func__, value_p));
 }
 
 int PARAM_check_number(const char* value_p, int min_len, int max_len)
 {
-    return validate_string(min_len, max_len, kDigits, value_p);
+    return validate_string(value_p, min_len, max_len, kDigits);
 }
 
 int PARAM_check_num_range(const char* value_p, int min, int max)
 {
-    return validate_number(min, max, kDigits, value_p);
+    return validate_number(value_p, min, max);
 }
 
 int PARAM_check_password(const char* value_p, int min_len, int max_len)
 {
-    return validate_string(min_len, max_len, kAlnum, value_p);
+    return validate_string(value_p, min_len, max_len, kAlnum);
 }
 
 int PARAM_check_string_len(const char* value_p, unsigned min_len, unsigned max_len)
@@ -173,7 +176,7 @@ int PARAM_check_dl_test_bufsize(const char* value_p)
     if (!contains_all(kDigits, value_p)) {
         return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: The value %s is invalid\n", __func__, value_p);
     }
-    const int size = std::atoi(value_p);
+    const int size = leading_number(value_p);
     if (size < 0) return OSTREL_OUT_OF_RANGE;
     if (size == 0) return OSTREL_WRONG_FORM;
     if (size <= kLargestTestBuffer) return OSTREL_VALID;

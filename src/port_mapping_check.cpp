@@ -2,17 +2,19 @@
 #include <ostrel/port_mapping_check.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
-
 #include "primitives/names.h"
 #include "support/assertion.h"
+#include "support/number.h"
 #include "support/report.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
 namespace {
 
 constexpr char kModule[] = "port_mapping_check";
+
+constexpr Limits kPermanentLease{0, 0, OSTREL_LEASE_NOT_PERMANENT};
 
 constexpr int kTcp = 0;
 constexpr int kUdp = 1;
@@ -30,7 +32,7 @@ constexpr int kLastMediaPort = 54999;
 bool is_port_reserved(const char* value_p, const int* reserved)
 {
     require_value(value_p, kModule);
-    const int port = std::atoi(value_p);
+    const int port = leading_number(value_p);
     for (; *reserved != -1; ++reserved) {
         if (*reserved != port) continue;
         inform("Error in %s: The port:%s is reserved\n", __func__, value_p);
@@ -45,7 +47,7 @@ bool is_wan_udp_port_available(const char* value_p)
 {
     require_value(value_p, kModule);
     if (is_port_reserved(value_p, kReservedUdpPorts)) return false;
-    const int port = std::atoi(value_p);
+    const int port = leading_number(value_p);
     if (port < kFirstMediaPort || port > kLastMediaPort) return true;
     inform("Error in %s: The udp port:%s is reserved sip rtp ports\n", __func__, value_p);
     return false;
@@ -82,14 +84,13 @@ int PORTMAPPING_check_port_available(const char* port, int protocol)
 
 int PORTMAPPING_check_description(const char* value_p)
 {
-    if (validate_port_mapping_description(value_p) == OSTREL_VALID) return OSTREL_VALID;
+    if (validate_string(value_p, kPortMappingDescription) == OSTREL_VALID) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error port mapping description:%s\n\n", __func__,
                   value_p);
 }
 
 int PORTMAPPING_check_lease_duration(const char* value_p)
 {
-    if (std::atoi(value_p) == 0) return OSTREL_VALID;
-    return refuse(OSTREL_LEASE_NOT_PERMANENT, "Error in %s: The port mapping lease should be zero\n",
-                  __func__);
+    return number_or_refuse(value_p, kPermanentLease,
+                            line("Error in %s: The port mapping lease should be zero\n", __func__));
 }

@@ -52,7 +52,7 @@ OSTREL_API int TcmValidateAddressRange(const char* startAddress, const char* end
  * item's subnet before its repetition.
  *
  * The time grows with the length of the list; each item that has a "," in the place said adds the time to
- * search what follows it.
+ * search what follows it, so that a list of many such items takes time that grows with the square of its length.
  */
 OSTREL_API int TcmValidateReservedAddress(const char* reservedList, const char* lanAddress);
 

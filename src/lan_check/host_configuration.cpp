@@ -4,8 +4,6 @@
 #include <ostrel/result_code.h>
 
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
 
 #include "primitives/accounts.h"
 #include "primitives/names.h"
@@ -13,71 +11,75 @@
 #include "primitives/subnets.h"
 #include "support/assertion.h"
 #include "support/char_set.h"
+#include "support/keywords.h"
 #include "support/report.h"
 #include "support/text.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
 namespace {
 
+constexpr auto kEnabled = keywords("1");
+constexpr auto kInterfaceMasks = keywords("255.255.255.0");
+constexpr auto kAddressTypes = keywords("Static");
+constexpr auto kRefusedUses = keywords("Normal|UseAllocatedSubnet|Passthrough");
+constexpr auto kSubnetMasks = keywords(
+    "255.255.255.0|255.255.255.128|255.255.255.192|255.255.255.224|255.255.255.240|255.255.255.248|255.255."
+    "255.252");
+
 constexpr char kModule[] = "lan_check";
 
-constexpr std::size_t kLongestConnection = 255;
+constexpr Limits kConnectionLength{0, 255, OSTREL_INVALID};
+constexpr Limits kPassthroughLease{0, 65535, OSTREL_INVALID};
+constexpr Text kDeviceNameText = text(1, 15, kCisName);
 
 }  // namespace
 
 int LAN_check_ipinterface_enabled(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (equals(value_p, "1")) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface enabled:%s\n\n", __func__, value_p);
+    return keyword_or_refuse(require_value(value_p, kModule), kEnabled,
+                             line("Error in %s: Error ip interface enabled:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_ip_router(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (is_router_address(value_p)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface IP:%s\n\n", __func__, value_p);
+    return rule_or_refuse(require_value(value_p, kModule), validate_router_address,
+                          line("Error in %s: Error ip interface IP:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_interface_subnet_mask(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (equals(value_p, "255.255.255.0")) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface subnet mask:%s\n\n", __func__,
-                  value_p);
+    return keyword_or_refuse(require_value(value_p, kModule), kInterfaceMasks,
+                             line("Error in %s: Error ip interface subnet mask:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_interface_addr_type(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (equals(value_p, "Static")) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface addressing type:%s\n\n", __func__,
-                  value_p);
+    return keyword_or_refuse(
+        require_value(value_p, kModule), kAddressTypes,
+        line("Error in %s: Error ip interface addressing type:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_domain_name(const char* value_p)
 {
-    require_value(value_p, kModule);
-    const int code = validate_router_name(value_p);
-    if (code == OSTREL_VALID) return OSTREL_VALID;
-    return refuse(code, "Error in %s: Error domain name:%s\n\n", __func__, value_p);
+    return text_or_refuse(require_value(value_p, kModule), kRouterNameText,
+                          line("Error in %s: Error domain name:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_dhcp_addr_range(const char* startAddress, const char* endAddress, const char* lanAddress)
 {
     inform("Info in %s: Check dhcp addr range: start ip%s, end ip:%s, lan ip:%s\n\n", __func__, startAddress,
            endAddress, lanAddress);
-    if (is_address_range(startAddress, endAddress, lanAddress)) return OSTREL_VALID;
+    if (validate_address_range(startAddress, endAddress, lanAddress) == OSTREL_VALID) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error dhcp addr range: start ip%s, end ip:%s\n\n",
                   __func__, startAddress, endAddress);
 }
 
 int LAN_check_dns_servers(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (is_offered_dns(value_p)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error dns server:%s\n\n", __func__, value_p);
+    return rule_or_refuse(require_value(value_p, kModule), validate_offered_dns,
+                          line("Error in %s: Error dns server:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_dhcp_reserved_addr(const char* reservedList, const char* lanAddress)
@@ -91,10 +93,8 @@ int LAN_check_dhcp_reserved_addr(const char* reservedList, const char* lanAddres
 
 int LAN_check_config_password(const char* value_p)
 {
-    require_value(value_p, kModule);
-    const int code = validate_lan_config_password(value_p);
-    if (code == OSTREL_VALID) return OSTREL_VALID;
-    return refuse(code, "Error in %s: Error config password:%s\n\n", __func__, value_p);
+    return text_or_refuse(require_value(value_p, kModule), kLanConfigPassword,
+                          line("Error in %s: Error config password:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_dhcp_lease_time(const char* value_p)
@@ -109,50 +109,36 @@ int LAN_check_use_allocated_wan(const char* value_p)
 {
     require_value(value_p, kModule);
     // The sense is inverted: the three keywords are what is refused.
-    if (!equals(value_p, "Normal") && !equals(value_p, "UseAllocatedSubnet") &&
-        !equals(value_p, "Passthrough")) {
-        return OSTREL_VALID;
-    }
+    if (!is_one_of(value_p, kRefusedUses)) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: Error use allocated wan:%s\n\n", __func__, value_p);
 }
 
 int LAN_check_associated_connection(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (std::strlen(value_p) <= kLongestConnection) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID, "Error in %s: Error associated_connection length:%s\n\n", __func__,
-                  value_p);
+    return length_or_refuse(
+        require_value(value_p, kModule), kConnectionLength,
+        line("Error in %s: Error associated_connection length:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_passthrough_lease(const char* value_p)
 {
-    require_value(value_p, kModule);
-    const int lease = std::atoi(value_p);
-    if (lease >= 0 && lease <= 65535) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID, "Error in %s: Error passthrough lease:%s\n\n", __func__, value_p);
+    return number_or_refuse(require_value(value_p, kModule), kPassthroughLease,
+                            line("Error in %s: Error passthrough lease:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_passthrough_MAC_address(const char* /*value*/) { return OSTREL_VALID; }
 
 int LAN_check_subnet_mask(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (equals(value_p, "255.255.255.0") || equals(value_p, "255.255.255.128") ||
-        equals(value_p, "255.255.255.192") || equals(value_p, "255.255.255.224") ||
-        equals(value_p, "255.255.255.240") || equals(value_p, "255.255.255.248") ||
-        equals(value_p, "255.255.255.252")) {
-        return OSTREL_VALID;
-    }
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error ip interface subnet mask:%s\n\n", __func__,
-                  value_p);
+    return keyword_or_refuse(require_value(value_p, kModule), kSubnetMasks,
+                             line("Error in %s: Error ip interface subnet mask:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_cis_dev_name(const char* value_p)
 {
-    require_value(value_p, kModule);
-    if (const int code = validate_string(1, 15, kCisName, value_p); code != OSTREL_VALID) {
-        return refuse(code, "Error in %s: Error dev name:%s\n\n", __func__, value_p);
-    }
+    const int code = text_or_refuse(require_value(value_p, kModule), kDeviceNameText,
+                                    line("Error in %s: Error dev name:%s\n\n", __func__, value_p));
+    if (code != OSTREL_VALID) return code;
     if (PARAM_check_string_prefix(value_p, CHARSET_IDENT_LETTERS) == OSTREL_VALID) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: Error domain name prefix:%s\n\n", __func__, value_p);
 }

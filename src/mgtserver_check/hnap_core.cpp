@@ -5,25 +5,26 @@
 
 #include "primitives/strings.h"
 #include "support/char_set.h"
-#include "support/report.h"
+#include "support/keywords.h"
 #include "support/text.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
 namespace {
 
-constexpr char kUtc[] = "UTC";
+constexpr auto kLocales = keywords("en-us|fr-ca|fr-fr|de-de|es-es|it-it|nl-nl|sv-se|ar-sa|pl-pl|th-th");
 
-constexpr char kLocales[][6] = {"en-us", "fr-ca", "fr-fr", "de-de", "es-es", "it-it",
-                                "nl-nl", "sv-se", "ar-sa", "pl-pl", "th-th"};
+constexpr Text kUserName = text(1, 16, kLatin1Printable);
+
+constexpr char kUtc[] = "UTC";
 
 }  // namespace
 
 int HNAPCORE_check_username(const char* value)
 {
-    const int code = validate_string(1, 16, kLatin1Printable, value);
-    if (code == OSTREL_VALID) return OSTREL_VALID;
-    return refuse(code, "Error in %s: Error max allowed number:%s\n\n", __func__, value);
+    return text_or_refuse(value, kUserName,
+                          line("Error in %s: Error max allowed number:%s\n\n", __func__, value));
 }
 
 int HNAPCORE_check_timezone(const char* value, char* offset_out)
@@ -37,8 +38,6 @@ int HNAPCORE_check_timezone(const char* value, char* offset_out)
 
 int HNAPCORE_check_locale(const char* value)
 {
-    for (const auto& locale : kLocales) {
-        if (equals_ignoring_case(value, locale)) return OSTREL_VALID;
-    }
-    return OSTREL_INVALID;
+    const bool is_locale = is_one_of_ignoring_case(value, kLocales);
+    return is_locale ? OSTREL_VALID : OSTREL_INVALID;
 }

@@ -1,13 +1,13 @@
 #include <ostrel/mgtserver_check.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
-#include <cstring>
+#include <climits>
 
 #include "primitives/date_time.h"
 #include "primitives/hosts.h"
 #include "support/assertion.h"
 #include "support/report.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
@@ -15,7 +15,8 @@ namespace {
 
 constexpr char kModule[] = "mgtserver_check";
 
-constexpr std::size_t kLongestPassword = 256;
+constexpr Limits kPasswordLength{0, 256};
+constexpr Limits kIntervals{1, INT_MAX};
 
 }  // namespace
 
@@ -23,23 +24,20 @@ constexpr std::size_t kLongestPassword = 256;
 
 int MGTSERVER_check_server_url(const char* value_p)
 {
-    require_value(value_p, kModule, 41);
-    if (is_server_url(value_p)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error server url:%s\n\n", __func__, value_p);
+    return rule_or_refuse(require_value(value_p, kModule, 41), validate_server_url,
+                          line("Error in %s: Error server url:%s\n\n", __func__, value_p));
 }
 
 int MGTSERVER_check_firmware_url(const char* value_p)
 {
-    require_value(value_p, kModule, 75);
-    if (is_firmware_url(value_p)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error server url:%s\n\n", __func__, value_p);
+    return rule_or_refuse(require_value(value_p, kModule, 75), validate_firmware_url,
+                          line("Error in %s: Error server url:%s\n\n", __func__, value_p));
 }
 
 int MGTSERVER_check_server_password(const char* value_p)
 {
-    require_value(value_p, kModule, 105);
-    if (std::strlen(value_p) <= kLongestPassword) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error password:%s\n\n", __func__, value_p);
+    return length_or_refuse(require_value(value_p, kModule, 105), kPasswordLength,
+                            line("Error in %s: Error password:%s\n\n", __func__, value_p));
 }
 
 int MGTSERVER_check_conn_request_username(const char* value_p)
@@ -61,14 +59,12 @@ int MGTSERVER_check_periodic_inform(const char* value_p)
 
 int MGTSERVER_check_periodic_inform_time(const char* value_p)
 {
-    require_value(value_p, kModule, 210);
-    if (is_date_time(value_p)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error periodic inform time:%s\n\n", __func__, value_p);
+    return rule_or_refuse(require_value(value_p, kModule, 210), validate_date_time,
+                          line("Error in %s: Error periodic inform time:%s\n\n", __func__, value_p));
 }
 
 int MGTSERVER_check_periodic_inform_interval(const char* value_p)
 {
-    require_value(value_p, kModule, 240);
-    if (std::atoi(value_p) > 0) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Invalite periodic inform interval\n\n", __func__);
+    return number_or_refuse(require_value(value_p, kModule, 240), kIntervals,
+                            line("Error in %s: Invalite periodic inform interval\n\n", __func__));
 }

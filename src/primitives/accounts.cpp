@@ -3,11 +3,11 @@
 #include <ostrel/accounts.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
 #include <string_view>
 
 #include "primitives/strings.h"
 #include "support/char_set.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "support/text.h"
 
@@ -30,6 +30,8 @@ constexpr bool is_realm(std::string_view text, std::size_t size)
 
 static_assert(is_realm(kAccountRealm, 12), "\"@\" and a domain of 11 characters");
 static_assert(is_realm(kSetupRealm, 18), "\"@\" and a domain of 17 characters");
+
+constexpr Text kOtherUserName = text(1, 131, kLatin1Printable);
 
 constexpr int kNoType = 0;
 
@@ -86,32 +88,26 @@ int validate_provisioning_code(const char* value)
 
 int validate_ppp_user_name(const char* value, int* type_out)
 {
-    std::string_view name = value;
-    int type = kNoType;
-    if (cut_realm(name, kAccountRealm)) {
-        const int separators = count(name, '#');
-        if (const int code = validate_string(18, 30, kPppDigits, name); code != OSTREL_VALID) return code;
-        if (separators >= 3) return OSTREL_VALID;
-        type = account_type(name, separators);
-    } else if (cut_realm(name, kSetupRealm)) {
-        const int separators = count(name, '#');
-        if (const int code = validate_string(16, 17, kPppDigits, name); code != OSTREL_VALID) return code;
-        if (separators >= 3) return OSTREL_VALID;
-        type = setup_type(name, separators);
-    } else {
-        if (const int code = validate_string(1, 131, kLatin1Printable, name); code != OSTREL_VALID)
-            return code;
-        *type_out = 0;
-        return OSTREL_VALID;
+    std::string_view part = value;
+    const bool is_account = cut_realm(part, kAccountRealm);
+    if (!is_account && !cut_realm(part, kSetupRealm)) {
+        const int code = validate_string(value, kOtherUserName);
+        if (code == OSTREL_VALID) *type_out = 0;
+        return code;
     }
+    const int code = is_account ? validate_length(18, 30, part.size()) : validate_length(16, 17, part.size());
+    if (code != OSTREL_VALID) return code;
+    int separators = 0;
+    for (const char c : part) {
+        if (!contains(kPppDigits, c)) return OSTREL_FORBIDDEN_CHARACTER;
+        separators += c == '#' ? 1 : 0;
+    }
+    if (separators >= 3) return OSTREL_VALID;
+    const int type = is_account ? account_type(part, separators) : setup_type(part, separators);
     if (type == kNoType) return OSTREL_INVALID_VALUE;
     *type_out = type;
     return OSTREL_VALID;
 }
-
-int validate_ppp_password(std::string_view value) { return validate_string(1, 67, kLatin1Printable, value); }
-
-int validate_lan_config_password(std::string_view value) { return validate_string(4, 12, kName, value); }
 
 }  // namespace ostrel
 
@@ -124,25 +120,25 @@ int TcmValidatePPPUsername(const char* value, int* account_type)
     return validate_ppp_user_name(value, account_type);
 }
 
-int TcmValidatePPPPassword(const char* value) { return validate_ppp_password(value); }
+int TcmValidatePPPPassword(const char* value) { return validate_string(value, kPppPassword); }
 
-int TcmValidateLANConfigPassword(const char* value) { return validate_lan_config_password(value); }
+int TcmValidateLANConfigPassword(const char* value) { return validate_string(value, kLanConfigPassword); }
 
-int TcmValidateEmailPassword(const char* value) { return validate_string(0, 255, kName, value); }
+int TcmValidateEmailPassword(const char* value) { return validate_string(value, text(0, 255, kName)); }
 
-int TcmValidateVoIPAnbietername(const char* value) { return validate_string(1, 32, kName, value); }
+int TcmValidateVoIPAnbietername(const char* value) { return validate_string(value, text(1, 32, kName)); }
 
-int TcmValidateVoIPNumber(const char* value) { return validate_string(1, 32, kDigits, value); }
+int TcmValidateVoIPNumber(const char* value) { return validate_string(value, text(1, 32, kDigits)); }
 
-int TcmValidateVoIPUsername(const char* value) { return validate_string(1, 64, kMail, value); }
+int TcmValidateVoIPUsername(const char* value) { return validate_string(value, text(1, 64, kMail)); }
 
-int TcmValidateVoIPPassword(const char* value) { return validate_string(0, 255, kName, value); }
+int TcmValidateVoIPPassword(const char* value) { return validate_string(value, text(0, 255, kName)); }
 
-int TcmValidateVoIPAreaCode(const char* value) { return validate_string(1, 6, kDigits, value); }
+int TcmValidateVoIPAreaCode(const char* value) { return validate_string(value, text(1, 6, kDigits)); }
 
 int TcmValidatePort(const char* value)
 {
-    const int port = std::atoi(value);
+    const int port = leading_number(value);
     return port > 0 && port < 65536 ? OSTREL_VALID : OSTREL_INVALID;
 }
 

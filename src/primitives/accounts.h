@@ -2,7 +2,7 @@
 #ifndef OSTREL_PRIMITIVES_ACCOUNTS_H
 #define OSTREL_PRIMITIVES_ACCOUNTS_H
 
-#include <string_view>
+#include "primitives/strings.h"
 
 namespace ostrel {
 
@@ -10,9 +10,8 @@ int validate_provisioning_code(const char* value);
 
 int validate_ppp_user_name(const char* value, int* type_out);
 
-int validate_ppp_password(std::string_view value);
-
-int validate_lan_config_password(std::string_view value);
+constexpr Text kPppPassword = text(1, 67, kLatin1Printable);
+constexpr Text kLanConfigPassword = text(4, 12, kName);
 
 }  // namespace ostrel
 

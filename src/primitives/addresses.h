@@ -1,12 +1,14 @@
-// The address rules over pieces of values; the exported ones are <ostrel/addresses.h>.
+// The address rules that other rules call; the exported ones are <ostrel/addresses.h>.
 #ifndef OSTREL_PRIMITIVES_ADDRESSES_H
 #define OSTREL_PRIMITIVES_ADDRESSES_H
 
-#include <string_view>
-
 namespace ostrel {
 
-bool is_ipv4_address(std::string_view text);
+// skip_ipv4_address returns where an IPv4 address at the start of the text ends, NULL where there is none. Whoever calls
+// it judges the character that follows, which may be one more digit.
+const char* skip_ipv4_address(const char* text);
+
+bool is_ipv4_address(const char* value);
 
 // is_mac_address writes a wrong separator to standard output, see TcmValidateMACaddress.
 bool is_mac_address(const char* value);

@@ -1,11 +1,21 @@
 #include "primitives/date_time.h"
 
 #include <ostrel/date_time.h>
-#include <ostrel/result_code.h>
+
+#include "support/judge.h"
+#include "support/number.h"
 
 namespace ostrel {
 
 namespace {
+
+constexpr unsigned kLargestNumber = 99;
+constexpr unsigned kNoNumber = kLargestNumber + 1;
+constexpr unsigned kLastHour = 24;
+constexpr unsigned kLastMinute = 59;
+constexpr unsigned kLastSecond = 59;
+constexpr unsigned kLastOffsetHour = 59;  // the hours of an offset go as far as its minutes
+constexpr unsigned kLastZoneHour = 12;
 
 // Reader walks through a value. Each step tells whether the value goes on as asked; none goes beyond the
 // terminator, which is neither a digit nor a separator.
@@ -13,23 +23,15 @@ class Reader {
  public:
     explicit Reader(const char* value) : at_(value) {}
 
-    bool two_digits(int& number)
+    // two_digits gives a number above kLargestNumber where two digits are not what follows.
+    unsigned two_digits()
     {
         const unsigned tens = digit(at_[0]);
-        if (tens > 9) return false;
+        if (tens > kLargestDigit) return kNoNumber;
         const unsigned ones = digit(at_[1]);
-        if (ones > 9) return false;
-        number = static_cast<int>(tens * 10 + ones);
+        if (ones > kLargestDigit) return kNoNumber;
         at_ += 2;
-        return true;
-    }
-
-    bool four_digits(int& number)
-    {
-        int last_two = 0;
-        if (!two_digits(number) || !two_digits(last_two)) return false;
-        number = number * 100 + last_two;
-        return true;
+        return tens * 10 + ones;
     }
 
     bool separator(char c)
@@ -50,56 +52,54 @@ class Reader {
     bool at_end() const { return *at_ == '\0'; }
 
  private:
-    // digit is above 9 for a character that is none.
-    static unsigned digit(char c) { return static_cast<unsigned char>(c) - unsigned{'0'}; }
-
     const char* at_;
 };
 
-// Fields are the numbers of a date-time; those that its form lacks are 0.
-struct Fields {
-    int year = 0;
-    int month = 0;
-    int day = 0;
-    int hour = 0;
-    int minute = 0;
-    int second = 0;
-    int offset_hours = 0;
-    int offset_minutes = 0;
+// Date is what a date-time must be known of to judge its day.
+struct Date {
+    unsigned year = 0;
+    unsigned month = 0;
+    unsigned day = 0;
 };
 
 // read_day_and_time reads "DDThh:mm:ss", which all forms share. Here and below, inline saves a fifth of the
 // time of a date-time.
-inline bool read_day_and_time(Reader& reader, Fields& fields)
+inline bool read_day_and_time(Reader& reader, Date& date)
 {
-    return reader.two_digits(fields.day) && reader.separator('T') && reader.two_digits(fields.hour) &&
-           reader.separator(':') && reader.two_digits(fields.minute) && reader.separator(':') &&
-           reader.two_digits(fields.second);
+    date.day = reader.two_digits();
+    return date.day <= kLargestNumber && reader.separator('T') && reader.two_digits() <= kLastHour &&
+           reader.separator(':') && reader.two_digits() <= kLastMinute && reader.separator(':') &&
+           reader.two_digits() <= kLastSecond;
 }
 
 // read_offset reads "+HH:MM" or "-HH:MM".
-inline bool read_offset(Reader& reader, Fields& fields)
+inline bool read_offset(Reader& reader, unsigned last_hour)
 {
-    return reader.sign() && reader.two_digits(fields.offset_hours) && reader.separator(':') &&
-           reader.two_digits(fields.offset_minutes) && reader.at_end();
+    return reader.sign() && reader.two_digits() <= last_hour && reader.separator(':') &&
+           reader.two_digits() <= kLastMinute && reader.at_end();
 }
 
 // read_date_time reads "YYYYMMDDThh:mm:ss", "YYYY-MM-DDThh:mm:ss" or the latter with an offset.
-bool read_date_time(Reader reader, Fields& fields)
+bool read_date_time(Reader reader, Date& date)
 {
-    if (!reader.four_digits(fields.year)) return false;
+    const unsigned century = reader.two_digits();
+    if (century > kLargestNumber) return false;
+    const unsigned year = reader.two_digits();
+    if (year > kLargestNumber) return false;
+    date.year = century * 100 + year;
     const bool extended = reader.separator('-');
-    if (!reader.two_digits(fields.month) || (extended && !reader.separator('-'))) return false;
-    if (!read_day_and_time(reader, fields)) return false;
-    return reader.at_end() || (extended && read_offset(reader, fields));
+    date.month = reader.two_digits();  // no month is above kLargestNumber
+    if (extended && !reader.separator('-')) return false;
+    if (!read_day_and_time(reader, date)) return false;
+    return reader.at_end() || (extended && read_offset(reader, kLastOffsetHour));
 }
 
 // read_yearless reads "MMDDThh:mm:ss" or "MM-DDThh:mm:ss".
-bool read_yearless(Reader reader, Fields& fields)
+bool read_yearless(Reader reader, Date& date)
 {
-    if (!reader.two_digits(fields.month)) return false;
+    date.month = reader.two_digits();
     reader.separator('-');
-    return read_day_and_time(reader, fields) && reader.at_end();
+    return read_day_and_time(reader, date) && reader.at_end();
 }
 
 constexpr int kDaysOfMonth[] = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
@@ -113,54 +113,40 @@ bool is_day(int year, unsigned month, int day)
     return day <= kDaysOfMonth[month] || (month == 2 && day == 29 && is_leap_year(year));
 }
 
-// is_possible judges the fields together. Hour 24 is possible at any minute, and the hours of an offset go as
-// far as its minutes.
-inline bool is_possible(const Fields& fields)
+bool is_date(const Date& date)
 {
-    return fields.hour <= 24 && fields.minute <= 59 && fields.second <= 59 && fields.offset_hours <= 59 &&
-           fields.offset_minutes <= 59 &&
-           is_day(fields.year, static_cast<unsigned>(fields.month), fields.day);
+    return is_day(static_cast<int>(date.year), date.month, static_cast<int>(date.day));
 }
 
 }  // namespace
 
-bool is_date_time(const char* value)
+int validate_date_time(const char* value)
 {
-    Fields fields;
-    return read_date_time(Reader(value), fields) && fields.year >= 1970 && is_possible(fields);
+    Date date;
+    return judge(read_date_time(Reader(value), date) && date.year >= 1970 && is_date(date));
 }
 
-bool is_switch_over(const char* value)
+int validate_switch_over(const char* value)
 {
-    if (is_date_time(value)) return true;
-    Fields fields;  // year 0 is a leap year: 29 February is a day of every form without a year
-    return read_yearless(Reader(value), fields) && is_possible(fields);
+    if (validate_date_time(value) == OSTREL_VALID) return OSTREL_VALID;
+    Date date;  // year 0 is a leap year: 29 February is a day of every form without a year
+    return judge(read_yearless(Reader(value), date) && is_date(date));
 }
 
-bool is_zone_offset(const char* value)
+int validate_zone_offset(const char* value)
 {
     Reader reader(value);
-    Fields fields;
-    return read_offset(reader, fields) && fields.offset_hours <= 12 && fields.offset_minutes <= 59;
+    return judge(read_offset(reader, kLastZoneHour));
 }
 
 }  // namespace ostrel
 
 using namespace ostrel;
 
-int ValidateDay(int year, unsigned month, int day)
-{
-    return is_day(year, month, day) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int ValidateDay(int year, unsigned month, int day) { return judge(is_day(year, month, day)); }
 
-int TcmValidateTime(const char* value) { return is_date_time(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int TcmValidateTime(const char* value) { return validate_date_time(value); }
 
-int TcmValidateDaylightSavingsTime(const char* value)
-{
-    return is_switch_over(value) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int TcmValidateDaylightSavingsTime(const char* value) { return validate_switch_over(value); }
 
-int TcmValidateTimeZoneFormate(const char* value)
-{
-    return is_zone_offset(value) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int TcmValidateTimeZoneFormate(const char* value) { return validate_zone_offset(value); }

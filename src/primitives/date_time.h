@@ -2,15 +2,16 @@
 #ifndef OSTREL_PRIMITIVES_DATE_TIME_H
 #define OSTREL_PRIMITIVES_DATE_TIME_H
 
-namespace ostrel {
+// The checks pass these rules on, and the address of a hidden function needs no relocation.
+namespace [[gnu::visibility("hidden")]] ostrel {
 
-bool is_date_time(const char* value);
+int validate_date_time(const char* value);
 
-// is_switch_over takes when daylight saving starts or ends: a date-time, or one without its year.
-bool is_switch_over(const char* value);
+// validate_switch_over takes when daylight saving starts or ends: a date-time, or one without its year.
+int validate_switch_over(const char* value);
 
-bool is_zone_offset(const char* value);
+int validate_zone_offset(const char* value);
 
-}  // namespace ostrel
+}  // namespace gnu::visibility("hidden")]]ostrel
 
 #endif

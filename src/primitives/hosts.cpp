@@ -3,74 +3,80 @@
 #include <ostrel/hosts.h>
 #include <ostrel/result_code.h>
 
-#include <cstdlib>
+#include <cstddef>
 #include <cstring>
 
 #include "primitives/addresses.h"
 #include "primitives/strings.h"
-#include "support/char_set.h"
-#include "support/text.h"
+#include "support/judge.h"
+#include "support/number.h"
 
 namespace ostrel {
 
 namespace {
 
-constexpr std::size_t kLongestLabel = 20;
+constexpr std::ptrdiff_t kLongestLabel = 20;
 constexpr int kMostLabels = 6;
-constexpr std::size_t kLongestUrl = 256;
+constexpr std::ptrdiff_t kLongestUrl = 256;
+constexpr int kLargestPort = 65535;
 
-// is_domain_name needs no test of its own for dots that lead, trail or follow each other: they leave an empty
-// label.
-bool is_domain_name(std::string_view name)
+// skip_domain_name returns where a domain name at the start of the text ends, NULL where there is none. It needs no
+// test of its own for dots that lead, trail or follow each other: they leave an empty label.
+const char* skip_domain_name(const char* text)
 {
-    if (contains_all(kIpv4, name)) return false;
+    const char* const name = text;
     for (int labels = 1; labels <= kMostLabels; ++labels) {
-        const std::size_t length = leading(kHost, name).size();
-        if (length < 1 || length > kLongestLabel) return false;
-        if (length == name.size()) return true;
-        if (name[length] != '.') return false;
-        name.remove_prefix(length + 1);
+        const char* const label = text;
+        text = first_outside(kHost, text);
+        if (text == label || text - label > kLongestLabel) return nullptr;
+        if (*text != '.') return first_outside(kIpv4, name) == text ? nullptr : text;
+        ++text;
     }
-    return false;
+    return nullptr;
 }
 
-// is_port judges the digits of a port. What follows them in memory is no digit, so that atoi reads no further.
-bool is_port(std::string_view digits)
+const char* skip_host(const char* text)
 {
-    const int number = std::atoi(digits.data());
-    return number >= 0 && number <= 65535;
+    const char* end = skip_domain_name(text);
+    return end != nullptr ? end : skip_ipv4_address(text);
+}
+
+bool is_whole(const char* end) { return end != nullptr && *end == '\0'; }
+
+// skip_scheme takes "scheme://" and "schemes://".
+const char* skip_scheme(const char* text, const char* scheme)
+{
+    for (; *scheme != '\0'; ++scheme) {
+        if (*text++ != *scheme) return nullptr;
+    }
+    if (*text == 's') ++text;
+    return std::strncmp(text, "://", 3) == 0 ? text + 3 : nullptr;
 }
 
 // is_url needs to judge by the characters of a URL only what its other parts leave: they allow fewer. A ":" in
 // the path would end the host if there was none before.
-bool is_url(const char* value, std::string_view scheme, std::string_view secure_scheme)
+bool is_url(const char* value, const char* scheme)
 {
-    std::string_view rest = value;
-    if (rest.size() > kLongestUrl) return false;
-    if (starts_with(rest, scheme)) {
-        rest.remove_prefix(scheme.size());
-    } else if (starts_with(rest, secure_scheme)) {
-        rest.remove_prefix(secure_scheme.size());
-    } else {
-        return false;
-    }
-    const std::string_view host = leading(kName, rest);
-    if (!is_host(host)) return false;
-    rest.remove_prefix(host.size());
-    const bool has_port = !rest.empty() && rest[0] == ':';
+    const char* rest = skip_scheme(value, scheme);
+    if (rest == nullptr) return false;
+    rest = skip_host(rest);
+    if (rest == nullptr) return false;
+    const bool has_port = *rest == ':';
     if (has_port) {
-        rest.remove_prefix(1);
-        const std::string_view port = leading(kDigits, rest);
-        if (!is_port(port)) return false;
-        rest.remove_prefix(port.size());
+        // Of what begins with no digit, nothing is skipped, and it is refused unless it is a path.
+        const int port = read_number(++rest);
+        if (port < 0 || port > kLargestPort) return false;
     }
-    return rest.empty() ||
-           (rest[0] == '/' && contains_all(kUrl, rest) && (has_port || count(rest, ':') == 0));
+    if (*rest != '\0') {
+        const char* const path = rest;
+        rest = first_outside(kUrl, path);
+        if (*path != '/' || *rest != '\0' || (!has_port && std::strchr(path, ':') != nullptr)) return false;
+    }
+    return rest - value <= kLongestUrl;
 }
 
 bool is_email(const char* value)
 {
-    if (std::strlen(value) < 5) return false;
     const char* at = std::strchr(value, '@');
     const char* dot = std::strrchr(value, '.');
     if (at == nullptr || dot == nullptr) return false;
@@ -79,43 +85,43 @@ bool is_email(const char* value)
 
 }  // namespace
 
-bool is_host(std::string_view text) { return is_domain_name(text) || is_ipv4_address(text); }
+int validate_host(const char* value) { return judge(is_whole(skip_host(value))); }
 
-bool is_server_url(const char* value) { return is_url(value, "x-dslf_cwmp://", "x-dslf_cwmps://"); }
+int validate_server_url(const char* value) { return judge(is_url(value, "x-dslf_cwmp")); }
 
-bool is_firmware_url(const char* value) { return is_url(value, "http://", "https://"); }
+int validate_firmware_url(const char* value) { return judge(is_url(value, "http")); }
 
 }  // namespace ostrel
 
 using namespace ostrel;
 
-int TcmValidateDomainName(const char* value) { return is_domain_name(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int TcmValidateDomainName(const char* value) { return judge(is_whole(skip_domain_name(value))); }
 
-int ValidateURL(const char* value) { return is_host(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int ValidateURL(const char* value) { return validate_host(value); }
 
-int TcmValidateServerURL(const char* value) { return is_server_url(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int TcmValidateServerURL(const char* value) { return validate_server_url(value); }
 
 int TcmValidatefirmwareURL(const char* value)
 {
-    return is_firmware_url(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
+    return validate_firmware_url(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
-int isEmail(const char* value) { return is_email(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int isEmail(const char* value) { return judge(is_email(value)); }
 
 int TcmValidateEmailAddress(const char* value)
 {
-    if (const int code = validate_string(5, 64, kMail, value); code != OSTREL_VALID) return code;
+    if (const int code = validate_string(value, text(5, 64, kMail)); code != OSTREL_VALID) return code;
     return is_email(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
 int TcmValidateVoIPRegistrar(const char* value)
 {
-    if (const int code = validate_string(3, 64, kName, value); code != OSTREL_VALID) return code;
-    return is_host(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
+    if (const int code = validate_string(value, text(3, 64, kName)); code != OSTREL_VALID) return code;
+    return validate_host(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
 int TcmValidateVoIPSTUNServer(const char* value)
 {
-    if (const int code = validate_string(0, 64, kHostPort, value); code != OSTREL_VALID) return code;
-    return value[0] == '\0' || is_host(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
+    if (const int code = validate_string(value, text(0, 64, kHostPort)); code != OSTREL_VALID) return code;
+    return value[0] == '\0' || validate_host(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }

@@ -2,17 +2,17 @@
 #ifndef OSTREL_PRIMITIVES_HOSTS_H
 #define OSTREL_PRIMITIVES_HOSTS_H
 
-#include <string_view>
+// The checks pass these rules on, and the address of a hidden function needs no relocation.
+namespace [[gnu::visibility("hidden")]] ostrel {
 
-namespace ostrel {
+// validate_host takes a domain name or an IPv4 address.
+int validate_host(const char* value);
 
-// is_host takes a domain name or an IPv4 address.
-bool is_host(std::string_view text);
+int validate_server_url(const char* value);
 
-bool is_server_url(const char* value);
+// validate_firmware_url gives OSTREL_INVALID where TcmValidatefirmwareURL has a code of its own.
+int validate_firmware_url(const char* value);
 
-bool is_firmware_url(const char* value);
-
-}  // namespace ostrel
+}  // namespace gnu::visibility("hidden")]]ostrel
 
 #endif

@@ -2,13 +2,12 @@
 #ifndef OSTREL_PRIMITIVES_NAMES_H
 #define OSTREL_PRIMITIVES_NAMES_H
 
-#include <string_view>
+#include "primitives/strings.h"
 
 namespace ostrel {
 
-int validate_port_mapping_description(std::string_view value);
-
-int validate_router_name(std::string_view value);
+constexpr Text kPortMappingDescription = text(1, 32, kDescription);
+constexpr Text kRouterNameText = text(1, 22, kRouterName);
 
 }  // namespace ostrel
 

@@ -3,31 +3,33 @@
 #include <ostrel/result_code.h>
 #include <ostrel/strings.h>
 
-#include <cstdlib>
 #include <cstring>
+
+#include "support/number.h"
 
 namespace ostrel {
 
 namespace {
 
-template <typename Set>
-int judge_string(int min_len, int max_len, const Set& allowed, const char* value)
-{
-    const char* end = first_outside(allowed, value);
-    const bool all_allowed = *end == '\0';
-    // A forbidden character is named only if the length is right, so the rest counts too.
-    if (!all_allowed) end += std::strlen(end);
-    if (const int code = validate_length(min_len, max_len, static_cast<std::size_t>(end - value));
-        code != OSTREL_VALID)
-        return code;
-    return all_allowed ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
-}
+int min_len(Text rule) { return static_cast<int>(static_cast<unsigned>(rule) & 0xFFU); }
+
+int max_len(Text rule) { return static_cast<int>(static_cast<unsigned>(rule) >> 8U & 0xFFU); }
+
+CharSet allowed(Text rule) { return CharSet{static_cast<std::uint16_t>(static_cast<unsigned>(rule) >> 16U)}; }
 
 template <typename Set>
-int judge_number(int min, int max, const Set& allowed, const char* value)
+int judge_string(const char* value, int min_len, int max_len, Set allowed)
 {
-    if (!contains_all(allowed, value)) return OSTREL_FORBIDDEN_CHARACTER;
-    const int number = std::atoi(value);
+    const char* end = first_outside<Set>(allowed, value);
+    // A forbidden character is named only if the length is right, so the rest counts too.
+    const std::size_t rest = *end == '\0' ? 0 : std::strlen(end);
+    const int code = validate_length(min_len, max_len, static_cast<std::size_t>(end - value) + rest);
+    if (code != OSTREL_VALID) return code;
+    return rest == 0 ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+}
+
+int judge_number(int number, int min, int max)
+{
     return number >= min && number <= max ? OSTREL_VALID : OSTREL_OUT_OF_RANGE;
 }
 
@@ -40,34 +42,25 @@ int validate_length(int min_len, int max_len, std::size_t length)
     return OSTREL_VALID;
 }
 
-int validate_string(int min_len, int max_len, CharSet allowed, const char* value)
+int validate_string(const char* value, int min_len, int max_len, CharSet allowed)
 {
-    return judge_string(min_len, max_len, allowed, value);
+    return judge_string(value, min_len, max_len, allowed);
 }
 
-int validate_string(int min_len, int max_len, CharSet allowed, std::string_view text)
+int validate_string(const char* value, Text rule)
 {
-    if (const int code = validate_length(min_len, max_len, text.size()); code != OSTREL_VALID) return code;
-    return contains_all(allowed, text) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+    return validate_string(value, min_len(rule), max_len(rule), allowed(rule));
 }
 
-int validate_number(int min, int max, CharSet allowed, const char* value)
+int validate_number(const char* value, int min, int max)
 {
-    return judge_number(min, max, allowed, value);
+    const int number = read_number(value);
+    return *value == '\0' ? judge_number(number, min, max) : OSTREL_FORBIDDEN_CHARACTER;
 }
 
 bool is_printable(const char* value)
 {
     return value != nullptr && value[0] != '\0' && contains_all(kAsciiPrintable, value);
-}
-
-int count(std::string_view text, char c)
-{
-    int occurrences = 0;
-    for (const char byte : text) {
-        if (byte == c) ++occurrences;
-    }
-    return occurrences;
 }
 
 }  // namespace ostrel
@@ -76,12 +69,20 @@ using namespace ostrel;
 
 int ValidateString(int min_len, int max_len, const char* charset, const char* value)
 {
-    return judge_string(min_len, max_len, OwnSet(charset), value);
+    return judge_string<const OwnSet&>(value, min_len, max_len, OwnSet(charset));
 }
 
 int ValidateNum(int min, int max, const char* charset, const char* value)
 {
-    return judge_number(min, max, OwnSet(charset), value);
+    if (!contains_all(OwnSet(charset), value)) return OSTREL_FORBIDDEN_CHARACTER;
+    return judge_number(leading_number(value), min, max);
 }
 
-int countChar(const char* value, int ch) { return count(value, static_cast<char>(ch)); }
+int countChar(const char* value, int ch)
+{
+    int occurrences = 0;
+    for (; *value != '\0'; ++value) {
+        if (*value == static_cast<char>(ch)) ++occurrences;
+    }
+    return occurrences;
+}

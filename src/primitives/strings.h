@@ -1,8 +1,9 @@
-// The string rules over pieces of values; the exported ones are <ostrel/strings.h>.
+// The string rules that other rules call; the exported ones are <ostrel/strings.h>.
 #ifndef OSTREL_PRIMITIVES_STRINGS_H
 #define OSTREL_PRIMITIVES_STRINGS_H
 
-#include <string_view>
+#include <cstddef>
+#include <cstdint>
 
 #include "support/char_set.h"
 
@@ -12,20 +13,26 @@ namespace ostrel {
 // lets every length through, a negative maximum none. Exact for any length, also beyond what an int can hold.
 int validate_length(int min_len, int max_len, std::size_t length);
 
-// validate_string is ValidateString with a ready set, over a value or a piece of one. A value that it accepts
-// is read once: its length is known when its last character has been looked up.
-int validate_string(int min_len, int max_len, CharSet allowed, const char* value);
-int validate_string(int min_len, int max_len, CharSet allowed, std::string_view text);
+// Text is how long a text may be and what it may consist of, packed into a number: compilers read a structure from
+// memory where a number is part of an instruction.
+enum class Text : std::uint32_t {};
 
-// validate_number is ValidateNum with a ready set.
-int validate_number(int min, int max, CharSet allowed, const char* value);
+constexpr Text text(std::uint8_t min_len, std::uint8_t max_len, CharSet allowed)
+{
+    return static_cast<Text>(static_cast<std::uint32_t>(allowed) << 16U | unsigned{max_len} << 8U | min_len);
+}
+
+// validate_string is ValidateString with a ready set. A value that it accepts is read once: its length is known when
+// its last character has been looked up.
+int validate_string(const char* value, int min_len, int max_len, CharSet allowed);
+int validate_string(const char* value, Text rule);
+
+// validate_number is ValidateNum with the set of digits.
+int validate_number(const char* value, int min, int max);
 
 // is_printable tells whether every byte is one of 0x20 to 0x7E. Neither NULL nor the empty value is
 // printable.
 bool is_printable(const char* value);
-
-// count gives how many bytes of the text equal c.
-int count(std::string_view text, char c);
 
 }  // namespace ostrel
 

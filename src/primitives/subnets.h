@@ -2,19 +2,18 @@
 #ifndef OSTREL_PRIMITIVES_SUBNETS_H
 #define OSTREL_PRIMITIVES_SUBNETS_H
 
-#include <string_view>
+// The checks pass these rules on, and the address of a hidden function needs no relocation.
+namespace [[gnu::visibility("hidden")]] ostrel {
 
-namespace ostrel {
-
-bool is_address_range(const char* start_address, const char* end_address, const char* lan_address);
+int validate_address_range(const char* start_address, const char* end_address, const char* lan_address);
 
 // validate_reserved_addresses gives 0, OSTREL_INVALID or OSTREL_REPEATED.
-int validate_reserved_addresses(std::string_view list, std::string_view lan_address);
+int validate_reserved_addresses(const char* list, const char* lan_address);
 
-bool is_router_address(const char* address);
+int validate_router_address(const char* address);
 
-bool is_offered_dns(std::string_view list);
+int validate_offered_dns(const char* list);
 
-}  // namespace ostrel
+}  // namespace gnu::visibility("hidden")]]ostrel
 
 #endif

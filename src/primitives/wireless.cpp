@@ -6,7 +6,8 @@
 #include <cstdint>
 
 #include "primitives/strings.h"
-#include "support/char_set.h"
+#include "support/judge.h"
+#include "support/keywords.h"
 #include "support/report.h"
 #include "support/text.h"
 
@@ -14,8 +15,11 @@ namespace ostrel {
 
 namespace {
 
-constexpr std::size_t kPreSharedKeyLength = 64;
-constexpr std::size_t kLongestSsid = 32;
+constexpr auto kBeaconTypes = keywords("None|Basic|WPA|11i|WPAand11i");
+constexpr auto kNamedRateSets = keywords("all|default");
+
+constexpr Text kPreSharedKey = text(64, 64, kHexDigits);
+constexpr Text kSsid = text(1, 32, kAsciiPrintable);
 
 // Packed is a text of up to three bytes as one number. Longer texts give numbers that no shorter one gives,
 // because the last four bytes are in them.
@@ -54,45 +58,37 @@ inline bool is_rate(Packed text)
 
 }  // namespace
 
-int validate_pre_shared_key(std::string_view key)
+int validate_pre_shared_key(const char* key)
 {
-    if (key.size() != kPreSharedKeyLength) return OSTREL_WRONG_FORM;
-    return contains_all(kHexDigits, key) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+    const int code = validate_string(key, kPreSharedKey);
+    return code == OSTREL_VALID || code == OSTREL_FORBIDDEN_CHARACTER ? code : OSTREL_WRONG_FORM;
 }
 
-int validate_pass_phrase(std::string_view phrase) { return validate_string(8, 63, kAsciiPrintable, phrase); }
+int validate_rate(const char* value) { return judge(equals(value, "Auto") || is_rate(pack(value))); }
 
-bool is_rate_or_auto(std::string_view text) { return equals(text, "Auto") || is_rate(pack(text)); }
+int validate_beacon_type(const char* value) { return judge(is_one_of(value, kBeaconTypes)); }
 
-bool is_beacon_type(const char* value)
+int validate_ssid(const char* ssid)
 {
-    return equals(value, "None") || equals(value, "Basic") || equals(value, "WPA") || equals(value, "11i") ||
-           equals(value, "WPAand11i");
+    inform("Info in %s: The lenght of SSID is %d\n\n", "TcmValidateSSID",
+           static_cast<int>(std::strlen(ssid)));
+    return validate_string(ssid, kSsid);
 }
 
-int validate_ssid(std::string_view ssid)
+int validate_rate_set(const char* value)
 {
-    inform("Info in %s: The lenght of SSID is %d\n\n", "TcmValidateSSID", static_cast<int>(ssid.size()));
-    if (ssid.size() > kLongestSsid) return OSTREL_TOO_LONG;
-    if (!contains_all(kAsciiPrintable, ssid)) return OSTREL_FORBIDDEN_CHARACTER;
-    return ssid.empty() ? OSTREL_TOO_SHORT : OSTREL_VALID;
-}
-
-bool is_rate_set(std::string_view text)
-{
-    if (equals(text, "all") || equals(text, "default")) return true;
     // An empty item is no rate, which refuses the empty value and a comma that leads, ends or follows
     // another.
     Packed item = 0;
-    for (const char c : text) {
-        if (c != ',') {
-            item = append(item, c);
+    for (const char* c = value; *c != '\0'; ++c) {
+        if (*c != ',') {
+            item = append(item, *c);
             continue;
         }
-        if (!is_rate(item)) return false;
+        if (!is_rate(item)) return OSTREL_INVALID;
         item = 0;
     }
-    return is_rate(item);
+    return judge(is_rate(item) || is_one_of(value, kNamedRateSets));
 }
 
 }  // namespace ostrel
@@ -106,15 +102,12 @@ int TcmValueisValid(const char* value, const char* allowed)
 
 int TcmValidatePSK(const char* value) { return validate_pre_shared_key(value); }
 
-int TcmValidateKPP(const char* value) { return validate_pass_phrase(value); }
+int TcmValidateKPP(const char* value) { return validate_string(value, kPassPhrase); }
 
-int TcmValidateRate(const char* value) { return is_rate_or_auto(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int TcmValidateRate(const char* value) { return validate_rate(value); }
 
-int TcmValidateBeaconType(const char* value) { return is_beacon_type(value) ? OSTREL_VALID : OSTREL_INVALID; }
+int TcmValidateBeaconType(const char* value) { return validate_beacon_type(value); }
 
 int TcmValidateSSID(const char* value) { return validate_ssid(value); }
 
-int TcmValidateDataTransmitRates(const char* value)
-{
-    return is_rate_set(value) ? OSTREL_VALID : OSTREL_INVALID;
-}
+int TcmValidateDataTransmitRates(const char* value) { return validate_rate_set(value); }

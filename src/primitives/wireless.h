@@ -2,27 +2,28 @@
 #ifndef OSTREL_PRIMITIVES_WIRELESS_H
 #define OSTREL_PRIMITIVES_WIRELESS_H
 
-#include <string_view>
+#include "primitives/strings.h"
 
-namespace ostrel {
+// The checks pass these rules on, and the address of a hidden function needs no relocation.
+namespace [[gnu::visibility("hidden")]] ostrel {
 
 // validate_pre_shared_key is TcmValidatePSK.
-int validate_pre_shared_key(std::string_view key);
+int validate_pre_shared_key(const char* key);
 
-// validate_pass_phrase is TcmValidateKPP.
-int validate_pass_phrase(std::string_view phrase);
+// kPassPhrase is the rule of TcmValidateKPP.
+constexpr Text kPassPhrase = text(8, 63, kAsciiPrintable);
 
-// is_rate_or_auto is TcmValidateRate.
-bool is_rate_or_auto(std::string_view text);
+// validate_rate is TcmValidateRate.
+int validate_rate(const char* value);
 
-bool is_beacon_type(const char* value);
+int validate_beacon_type(const char* value);
 
 // validate_ssid prints the length, see TcmValidateSSID.
-int validate_ssid(std::string_view ssid);
+int validate_ssid(const char* ssid);
 
-// is_rate_set is TcmValidateDataTransmitRates.
-bool is_rate_set(std::string_view text);
+// validate_rate_set is TcmValidateDataTransmitRates.
+int validate_rate_set(const char* value);
 
-}  // namespace ostrel
+}  // namespace gnu::visibility("hidden")]]ostrel
 
 #endif

@@ -8,11 +8,13 @@ namespace ostrel {
 [[noreturn]] void fail_assertion(const char* condition, const char* module, const char* function,
                                  unsigned line);
 
-// require_value asserts on a NULL value_p; function and line are those of the calling check unless stated.
-inline void require_value(const char* value_p, const char* module, unsigned line = __builtin_LINE(),
-                          const char* function = __builtin_FUNCTION())
+// require_value asserts on a NULL value_p and returns any other as it is; function and line are those of the
+// calling check unless stated.
+inline const char* require_value(const char* value_p, const char* module, unsigned line = __builtin_LINE(),
+                                 const char* function = __builtin_FUNCTION())
 {
     if (value_p == nullptr) fail_assertion("value_p != ((void *)0)", module, function, line);
+    return value_p;
 }
 
 }  // namespace ostrel

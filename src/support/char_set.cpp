@@ -10,7 +10,7 @@ constexpr void add(Memberships& all, CharSet set, const char* members)
 {
     for (; *members != '\0'; ++members) {
         std::uint16_t& word = all.words[static_cast<unsigned char>(*members)];
-        word = static_cast<std::uint16_t>(word | set.bit());
+        word = static_cast<std::uint16_t>(word | static_cast<unsigned>(set));
     }
 }
 

@@ -34,8 +34,8 @@ inline std::string_view before(std::string_view text, char c)
     return {text.data(), length};
 }
 
-// equals_ignoring_case folds the letters A to Z only; strcasecmp would fold as the host's locale does.
-bool equals_ignoring_case(const char* a, const char* b);
+// to_lower folds the letters A to Z only; tolower would fold as the host's locale does.
+constexpr char to_lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
 // starts_with_ignoring_case reads the text no further than the first difference.
 bool starts_with_ignoring_case(const char* text, const char* prefix);

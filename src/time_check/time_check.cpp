@@ -2,32 +2,31 @@
 #include <ostrel/result_code.h>
 #include <ostrel/time_check.h>
 
-#include <cstring>
-
 #include "primitives/date_time.h"
 #include "primitives/hosts.h"
 #include "support/report.h"
 #include "time_check/time_zones.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
 namespace {
 
-constexpr std::size_t kLongestZoneName = 63;
-constexpr std::size_t kLongestServer = 64;
+constexpr Limits kZoneNameLength{0, 63};
+constexpr Limits kServerLength{1, 64, OSTREL_OUT_OF_RANGE};
 
 bool is_empty(const char* value) { return value[0] == '\0'; }
 
 int check_timezone_formate(const char* value)
 {
-    if (is_zone_offset(value)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID, "Error in %s: %s is not validate timezone formate\n", __func__, value);
+    return rule_or_refuse(value, validate_zone_offset,
+                          line("Error in %s: %s is not validate timezone formate\n", __func__, value));
 }
 
 int check_daylight_saving_time(const char* value)
 {
-    if (is_switch_over(value)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID, "Error in %s: %s is not validate daylight saving time\n", __func__, value);
+    return rule_or_refuse(value, validate_switch_over,
+                          line("Error in %s: %s is not validate daylight saving time\n", __func__, value));
 }
 
 }  // namespace
@@ -71,8 +70,8 @@ int TIME_check_local_time_zone(const char* value)
 int TIME_check_local_time_zone_name(const char* value)
 {
     if (TIME_check_ascii_string(value) != OSTREL_VALID) return OSTREL_VALID;
-    if (std::strlen(value) <= kLongestZoneName) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Failed check local timezone name.\n\n", __func__);
+    return length_or_refuse(value, kZoneNameLength,
+                            line("Error in %s: Failed check local timezone name.\n\n", __func__));
 }
 
 int TIME_check_daylight_saving_start_or_end(const char* value)
@@ -84,15 +83,15 @@ int TIME_check_daylight_saving_start_or_end(const char* value)
 
 int TIME_check_ntpserver_length(const char* value)
 {
-    if (!is_empty(value) && std::strlen(value) <= kLongestServer) return OSTREL_VALID;
-    return refuse(OSTREL_OUT_OF_RANGE, "Error in %s: %s is out of range for the value of NTPServer\n",
-                  __func__, value);
+    return length_or_refuse(
+        value, kServerLength,
+        line("Error in %s: %s is out of range for the value of NTPServer\n", __func__, value));
 }
 
 int TIME_check_url(const char* value)
 {
-    if (is_host(value)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: %s is not validate URL\n", __func__, value);
+    return rule_or_refuse(value, validate_host,
+                          line("Error in %s: %s is not validate URL\n", __func__, value));
 }
 
 int TIME_check_ascii_string(const char* value)

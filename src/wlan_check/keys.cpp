@@ -2,37 +2,36 @@
 #include <ostrel/wlan_check/keys.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 #include "primitives/strings.h"
 #include "primitives/wireless.h"
 #include "support/assertion.h"
 #include "support/char_set.h"
+#include "support/keywords.h"
 #include "support/report.h"
 #include "support/text.h"
+#include "verdict.h"
 #include "wlan_check/rules.h"
 
 using namespace ostrel;
 
 namespace {
 
+constexpr auto kPassPhraseTypes = keywords("WPA-PSK|WPA-AUTO-PSK|WPA2-PSK");
+constexpr auto kRadiusTypes = keywords("WPA-RADIUS|WPA-AUTO-RADIUS|WPA2-RADIUS");
+
 constexpr unsigned kWepKeysLine = 500;  // the line that the assertion names is part of its text
 
 constexpr std::size_t kWepKeys = 4;
+constexpr Limits kKeyIndices{0, kWepKeys - 1};
 constexpr std::size_t kWepKeyDistance = 257;  // from one key of the block to the next
 constexpr std::size_t kWep64Length = 10;      // hexadecimal digits
 constexpr std::size_t kWep128Length = 26;
 
-bool is_pass_phrase_type(const char* type)
-{
-    return equals(type, "WPA-PSK") || equals(type, "WPA-AUTO-PSK") || equals(type, "WPA2-PSK");
-}
+bool is_pass_phrase_type(const char* type) { return is_one_of(type, kPassPhraseTypes); }
 
-bool is_radius_type(const char* type)
-{
-    return equals(type, "WPA-RADIUS") || equals(type, "WPA-AUTO-RADIUS") || equals(type, "WPA2-RADIUS");
-}
+bool is_radius_type(const char* type) { return is_one_of(type, kRadiusTypes); }
 
 int trace_code(int code)
 {
@@ -58,21 +57,19 @@ int check_wep_key(const char* key, const char* encryption)
 
 int WLAN_check_preshared_key(const char* value)
 {
-    const int code = validate_pre_shared_key(value);
-    if (code == OSTREL_VALID) return OSTREL_VALID;
-    return refuse(code, "Error in %s: Error key pass phrase:%s\n\n", __func__, value);
+    return rule_or_refuse(value, validate_pre_shared_key,
+                          line("Error in %s: Error key pass phrase:%s\n\n", __func__, value));
 }
 
 int WLAN_check_preshared_key2(const char* psk, const char* passphrase)
 {
     if (psk[0] != '\0') {
-        const int code = validate_pre_shared_key(psk);
-        if (code == OSTREL_VALID) return OSTREL_VALID;
-        return refuse(code, "Error in %s: Error PreSharedKey:%s\n\n", __func__, psk);
+        return rule_or_refuse(psk, validate_pre_shared_key,
+                              line("Error in %s: Error PreSharedKey:%s\n\n", __func__, psk));
     }
     if (passphrase[0] != '\0') {
         // What is judged as a pass phrase is the key, which is empty: a pass phrase alone is always refused.
-        return refuse(validate_pass_phrase(psk), "Error in %s: Error KeyPassphrase:%s\n\n", __func__,
+        return refuse(validate_string(psk, kPassPhrase), "Error in %s: Error KeyPassphrase:%s\n\n", __func__,
                       passphrase);
     }
     inform("Error in %s: Error PreSharedKey:%s\n\n", __func__, psk);
@@ -128,7 +125,7 @@ int WLAN_check_keys(const char* key, const char* type, const char* encryption)
 {
     if (is_pass_phrase_type(type)) {
         const bool is_key =
-            validate_pre_shared_key(key) == OSTREL_VALID || validate_pass_phrase(key) == OSTREL_VALID;
+            validate_pre_shared_key(key) == OSTREL_VALID || validate_string(key, kPassPhrase) == OSTREL_VALID;
         return trace_code(is_key ? OSTREL_VALID : OSTREL_INVALID);
     }
     if (is_wep_type(type)) return check_wep_key(key, encryption);
@@ -137,7 +134,6 @@ int WLAN_check_keys(const char* key, const char* type, const char* encryption)
 
 int WLAN_check_default_wep_key_index(const char* value)
 {
-    const int index = std::atoi(value);
-    if (index >= 0 && index < static_cast<int>(kWepKeys)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error default wep key index:%s\n\n", __func__, value);
+    return number_or_refuse(value, kKeyIndices,
+                            line("Error in %s: Error default wep key index:%s\n\n", __func__, value));
 }

@@ -6,12 +6,22 @@
 #include <cstdlib>
 #include <span>
 
+#include "support/keywords.h"
+#include "support/number.h"
 #include "support/text.h"
 #include "wlan_check/rules.h"
 
 using namespace ostrel;
 
 namespace {
+
+constexpr auto k2_4GHzRadio = keywords("radio_2.4ghz");
+constexpr auto k5GHzRadio = keywords("radio_5ghz");
+constexpr auto kWidths = keywords("0|20");
+constexpr auto k5GHzWidths = keywords("0|20|40");
+constexpr auto kModes = keywords("802.11b|802.11g|802.11n|802.11bg|802.11bgn");
+constexpr auto k5GHzModes = keywords("802.11n|802.11a|802.11an");
+constexpr auto kStandards = keywords("a|b|g|n");
 
 constexpr char kListFile[] = "/var/hnapwl0chlist";
 constexpr char kListCommand[] = "wlctl -i wl0 channels > /var/hnapwl0chlist";
@@ -32,17 +42,17 @@ constexpr ChannelPair k5GHzPairs[] = {{36, 38},   {40, 38},   {44, 46},   {48, 4
 
 bool is_one_of(std::span<const ChannelPair> pairs, const char* primary, const char* second)
 {
-    const int primary_number = std::atoi(primary);
-    const int second_number = std::atoi(second);
+    const int primary_number = leading_number(primary);
+    const int second_number = leading_number(second);
     for (const ChannelPair& pair : pairs) {
         if (pair.primary == primary_number && pair.second == second_number) return true;
     }
     return false;
 }
 
-bool is_2_4_ghz(const char* radio) { return equals_ignoring_case(radio, "RADIO_2.4GHz"); }
+bool is_2_4_ghz(const char* radio) { return is_one_of_ignoring_case(radio, k2_4GHzRadio); }
 
-bool is_5_ghz(const char* radio) { return equals_ignoring_case(radio, "RADIO_5GHz"); }
+bool is_5_ghz(const char* radio) { return is_one_of_ignoring_case(radio, k5GHzRadio); }
 
 bool is_5_ghz_channel(int channel)
 {
@@ -92,7 +102,7 @@ int WLAN_check_radio_id(const char* radio)
 int WLAN_check_channel(const char* channel, const char* radio)
 {
     if (equals(channel, "0")) return OSTREL_VALID;
-    const int number = std::atoi(channel);
+    const int number = leading_number(channel);
     if (is_2_4_ghz(radio)) return require(is_listed_by_driver(number));
     // Text without a number reads as 0 and passes for the automatic channel on this band.
     return require(is_5_ghz(radio) && (number == 0 || is_5_ghz_channel(number)));
@@ -110,22 +120,16 @@ int WLAN_check_5g_second_channel(const char* primary, const char* second)
 
 int WLAN_check_wide_channel(const char* width, const char* radio)
 {
-    const bool is_narrow = equals(width, "0") || equals(width, "20");
-    if (is_2_4_ghz(radio)) return require(is_narrow);
-    return require(is_5_ghz(radio) && (is_narrow || equals(width, "40")));
+    if (is_2_4_ghz(radio)) return require(is_one_of(width, kWidths));
+    return require(is_5_ghz(radio) && is_one_of(width, k5GHzWidths));
 }
 
 int WLAN_check_IEEE11_mode(const char* mode, const char* radio)
 {
     if (is_2_4_ghz(radio)) {
-        return require(equals(mode, "802.11b") || equals(mode, "802.11g") || equals(mode, "802.11n") ||
-                       equals(mode, "802.11bg") || equals(mode, "802.11bgn"));
+        return require(is_one_of(mode, kModes));
     }
-    return require(is_5_ghz(radio) &&
-                   (equals(mode, "802.11n") || equals(mode, "802.11a") || equals(mode, "802.11an")));
+    return require(is_5_ghz(radio) && is_one_of(mode, k5GHzModes));
 }
 
-int WLAN_check_IEEE11_standard(const char* value)
-{
-    return require(equals(value, "a") || equals(value, "b") || equals(value, "g") || equals(value, "n"));
-}
+int WLAN_check_IEEE11_standard(const char* value) { return require(is_one_of(value, kStandards)); }

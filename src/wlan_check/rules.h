@@ -3,7 +3,6 @@
 #define OSTREL_WLAN_CHECK_RULES_H
 
 #include "support/host.h"
-#include "support/text.h"
 
 namespace ostrel {
 
@@ -12,10 +11,7 @@ namespace ostrel {
 inline bool is_model_m2840() { return host_equals(OSTREL_MODEL, "M2840"); }
 
 // is_wep_type tells whether an HNAP security type is one of WEP.
-inline bool is_wep_type(const char* type)
-{
-    return equals(type, "WEP-OPEN") || equals(type, "WEP-SHARED") || equals(type, "WEP-RADIUS");
-}
+bool is_wep_type(const char* type);
 
 }  // namespace ostrel
 

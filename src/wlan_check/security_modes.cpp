@@ -1,54 +1,59 @@
 #include <ostrel/result_code.h>
 #include <ostrel/wlan_check/security_modes.h>
 
-#include <cstdlib>
 #include <cstring>
 
 #include "primitives/strings.h"
 #include "primitives/wireless.h"
 #include "support/char_set.h"
 #include "support/host.h"
+#include "support/keywords.h"
+#include "support/number.h"
 #include "support/report.h"
 #include "support/text.h"
+#include "verdict.h"
 #include "wlan_check/rules.h"
 
 using namespace ostrel;
 
 namespace {
 
-constexpr std::size_t kLongestMode = 31;
+constexpr auto kBasicEncryptionModes = keywords("WEPEncryption|None");
+constexpr auto kBasicAuthenticationModes = keywords("None|EAPAuthentication");
+constexpr auto kWpaEncryptionModes = keywords(
+    "WEPEncryption|TKIPEncryption|WEPandTKIPEncryption|AESEncryption|WEPandAESEncryption|"
+    "TKIPandAESEncryption|"
+    "WEPandTKIPandAESEncryption");
+constexpr auto kWpaAuthenticationModes = keywords("PSKAuthentication|EAPAuthentication");
+constexpr auto k11iEncryptionModes0 =
+    keywords("AESEncryption|WEPandAESEncryption|TKIPandAESEncryption|WEPandTKIPandAESEncryption");
+constexpr auto k11iEncryptionModes1 = keywords("WEPEncryption|TKIPEncryption|WEPandTKIPEncryption");
+constexpr auto k11iAuthenticationModes0 = keywords("EAPAuthentication|EAPandPSKAuthentication");
+constexpr auto kServiceModes = keywords("none|LinkAuthentication|RadiusClient");
+constexpr auto kWpa2Types = keywords("WPA2-PSK|WPA2-RADIUS");
+constexpr auto kWepEncryptions = keywords("WEP-64|WEP-128");
+constexpr auto kWpaTypes = keywords("WPA-PSK|WPA-RADIUS");
+constexpr auto kWpaAutoTypes = keywords("WPA-AUTO-RADIUS|WPA-AUTO-PSK");
+
+constexpr Limits kModeLength{0, 31};
 constexpr std::size_t kLongestRadiusSecret = 80;
+constexpr Text kRenewal = text(3, 4, kDigits);
 constexpr int kShortestRenewal = 600;  // seconds
 constexpr int kLongestRenewal = 7200;
-
-constexpr char kWpaEncryptionModes[][27] = {
-    "WEPEncryption",       "TKIPEncryption",       "WEPandTKIPEncryption",       "AESEncryption",
-    "WEPandAESEncryption", "TKIPandAESEncryption", "WEPandTKIPandAESEncryption",
-};
-
-bool is_wpa_encryption_mode(const char* value)
-{
-    for (const auto& mode : kWpaEncryptionModes) {
-        if (equals(value, mode)) return true;
-    }
-    return false;
-}
 
 // The 802.11i lists of the two read-write modes have no entry in common.
 bool is_11i_encryption_mode(const char* value, int readwrite_mode)
 {
     if (readwrite_mode == 0) {
-        return equals(value, "AESEncryption") || equals(value, "WEPandAESEncryption") ||
-               equals(value, "TKIPandAESEncryption") || equals(value, "WEPandTKIPandAESEncryption");
+        return is_one_of(value, k11iEncryptionModes0);
     }
-    return equals(value, "WEPEncryption") || equals(value, "TKIPEncryption") ||
-           equals(value, "WEPandTKIPEncryption");
+    return is_one_of(value, k11iEncryptionModes1);
 }
 
 bool is_11i_authentication_mode(const char* value, int readwrite_mode)
 {
     if (readwrite_mode == 0) {
-        return equals(value, "EAPAuthentication") || equals(value, "EAPandPSKAuthentication");
+        return is_one_of(value, k11iAuthenticationModes0);
     }
     return equals(value, "PSKAuthentication");
 }
@@ -60,11 +65,12 @@ int require_encryption(bool suits) { return suits ? OSTREL_VALID : OSTREL_ENCRYP
 int check_11i_mode(const char* value, int readwrite_mode, bool is_listed(const char*, int),
                    const char* function)
 {
-    if (std::strlen(value) > kLongestMode) {
-        return refuse(OSTREL_INVALID_VALUE,
-                      "Error in %s: Error IEEE11i encryption modes:%s length out of range. [0,31]\n\n",
-                      function, value);
-    }
+    const int code = length_or_refuse(
+        value, kModeLength,
+        line("Error in %s: Error IEEE11i encryption modes:%s length out of range. [0,31]\n\n", function,
+             value),
+        function);
+    if (code != OSTREL_VALID) return code;
     if (readwrite_mode != 0 && readwrite_mode != 1) {
         return refuse(OSTREL_INVALID_VALUE,
                       "Error in %s: Error IEEE11i encryption modes:readwrite mode %d invalid \n\n", function,
@@ -79,34 +85,32 @@ int check_11i_mode(const char* value, int readwrite_mode, bool is_listed(const c
 
 int WLAN_check_beacon_type(const char* value)
 {
-    if (is_beacon_type(value)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error beacon type:%s\n\n", __func__, value);
+    return rule_or_refuse(value, validate_beacon_type,
+                          line("Error in %s: Error beacon type:%s\n\n", __func__, value));
 }
 
 int WLAN_check_basic_encryption_modes(const char* value)
 {
-    if (equals(value, "WEPEncryption") || equals(value, "None")) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error basic encryption modes:%s\n\n", __func__, value);
+    return keyword_or_refuse(value, kBasicEncryptionModes,
+                             line("Error in %s: Error basic encryption modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_basic_authentication_modes(const char* value)
 {
-    if (equals(value, "None") || equals(value, "EAPAuthentication")) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error basic authentication modes:%s\n\n", __func__,
-                  value);
+    return keyword_or_refuse(value, kBasicAuthenticationModes,
+                             line("Error in %s: Error basic authentication modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_wpa_encryption_modes(const char* value)
 {
-    if (is_wpa_encryption_mode(value)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error wpa encryption modes:%s\n\n", __func__, value);
+    return keyword_or_refuse(value, kWpaEncryptionModes,
+                             line("Error in %s: Error wpa encryption modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_wpa_authentication_modes(const char* value)
 {
-    if (equals(value, "PSKAuthentication") || equals(value, "EAPAuthentication")) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error wpa authentication modes:%s\n\n", __func__,
-                  value);
+    return keyword_or_refuse(value, kWpaAuthenticationModes,
+                             line("Error in %s: Error wpa authentication modes:%s\n\n", __func__, value));
 }
 
 int WLAN_check_IEEE11i_encryption_modes(const char* value, int readwrite_mode)
@@ -121,34 +125,30 @@ int WLAN_check_IEEE11i_authentication_modes(const char* value, int readwrite_mod
 
 int WLAN_check_authentication_service_mode(const char* value)
 {
-    if (std::strlen(value) > kLongestMode) {
-        return refuse(OSTREL_INVALID_VALUE,
-                      "Error in %s: Error authentication_service_mode:%s length out of range. [0,31]\n\n",
-                      __func__, value);
-    }
-    if (equals(value, "none") || equals(value, "LinkAuthentication") || equals(value, "RadiusClient")) {
-        return OSTREL_VALID;
-    }
-    return refuse(OSTREL_INVALID_VALUE,
-                  "Error in %s: Error authentication_service_mode value invalid :%s\n\n", __func__, value);
+    const int code = length_or_refuse(
+        value, kModeLength,
+        line("Error in %s: Error authentication_service_mode:%s length out of range. [0,31]\n\n", __func__,
+             value));
+    if (code != OSTREL_VALID) return code;
+    return keyword_or_refuse(
+        value, kServiceModes,
+        line("Error in %s: Error authentication_service_mode value invalid :%s\n\n", __func__, value));
 }
 
 int WLAN_check_HNAP_SecurityType(const char* setting1, const char* setting2, const char* type,
                                  const char* encryption)
 {
-    const bool is_wpa2 = equals(type, "WPA2-PSK") || equals(type, "WPA2-RADIUS");
+    const bool is_wpa2 = is_one_of(type, kWpa2Types);
     if (host_equals(setting1, "0") && host_equals(setting2, "auto") && !is_wpa2) {
         return OSTREL_SECURITY_TYPE_NOT_ALLOWED;
     }
     if (is_wpa2) return require_encryption(equals(encryption, "AES"));
     if (is_wep_type(type)) {
         if (is_model_m2840() && equals(type, "WEP-RADIUS")) return OSTREL_SECURITY_TYPE_NOT_ALLOWED;
-        return require_encryption(equals(encryption, "WEP-64") || equals(encryption, "WEP-128"));
+        return require_encryption(is_one_of(encryption, kWepEncryptions));
     }
-    if (equals(type, "WPA-PSK") || equals(type, "WPA-RADIUS")) {
-        return require_encryption(equals(encryption, "TKIP"));
-    }
-    if (equals(type, "WPA-AUTO-RADIUS") || equals(type, "WPA-AUTO-PSK")) {
+    if (is_one_of(type, kWpaTypes)) return require_encryption(equals(encryption, "TKIP"));
+    if (is_one_of(type, kWpaAutoTypes)) {
         return require_encryption(equals(encryption, "TKIPORAES"));
     }
     return OSTREL_SECURITY_TYPE_NOT_ALLOWED;
@@ -157,8 +157,8 @@ int WLAN_check_HNAP_SecurityType(const char* setting1, const char* setting2, con
 int WLAN_check_HNAP_KeyRenewal(const char* renewal, const char* interval, const char* type)
 {
     if (equals(renewal, "false") || is_wep_type(type)) return OSTREL_VALID;
-    if (validate_string(3, 4, kDigits, interval) != OSTREL_VALID) return OSTREL_INVALID;
-    const int seconds = std::atoi(interval);
+    if (validate_string(interval, kRenewal) != OSTREL_VALID) return OSTREL_INVALID;
+    const int seconds = leading_number(interval);
     return seconds >= kShortestRenewal && seconds <= kLongestRenewal ? OSTREL_VALID : OSTREL_INVALID;
 }
 

@@ -1,20 +1,26 @@
 #include <ostrel/result_code.h>
 #include <ostrel/wlan_check/settings.h>
 
-#include <cstdlib>
+#include <climits>
 #include <cstring>
 
 #include "primitives/wireless.h"
 #include "support/char_set.h"
 #include "support/host.h"
+#include "support/keywords.h"
 #include "support/report.h"
-#include "support/text.h"
+#include "verdict.h"
 
 using namespace ostrel;
 
 namespace {
 
-constexpr std::size_t kLongestMode = 31;
+constexpr auto kAccessPointModes = keywords("InfrastructureAccessPoint");
+constexpr auto kOtherModes = keywords("WirelessBridge|WirelessRepeater|WirelessStation");
+constexpr auto kOperationalRateSets = keywords("|1,2,5.5,6,9,11,12,18,24,36,48,54");
+
+constexpr Limits kModeLength{0, 31};
+constexpr Limits kDistances{INT_MIN, -1, OSTREL_INVALID_DISTANCE};
 constexpr int kLongestDescription = 4096;
 constexpr int kLongestDomain = 3;
 
@@ -24,14 +30,13 @@ bool is_environment(char c) { return c == 'O' || c == 'I' || c == 'o' || c == 'i
 // A missing place holds the terminator, which no set contains.
 bool is_regulatory_domain(const char* value)
 {
-    return kDigits.contains(value[0]) && kDigits.contains(value[1]) && is_environment(value[2]);
+    return contains(kDigits, value[0]) && contains(kDigits, value[1]) && is_environment(value[2]);
 }
 
 bool is_operation_mode(const char* value, int readwrite_mode)
 {
-    if (readwrite_mode == 1) return equals(value, "InfrastructureAccessPoint");
-    return equals(value, "WirelessBridge") || equals(value, "WirelessRepeater") ||
-           equals(value, "WirelessStation");
+    if (readwrite_mode == 1) return is_one_of(value, kAccessPointModes);
+    return is_one_of(value, kOtherModes);
 }
 
 }  // namespace
@@ -39,29 +44,25 @@ bool is_operation_mode(const char* value, int readwrite_mode)
 int WLAN_check_ssid(char* value)
 {
     resolve_references(value);
-    const int code = validate_ssid(value);
-    if (code == OSTREL_VALID) return OSTREL_VALID;
-    return refuse(code, "Error in %s: Error SSID:%s\n", __func__, value);
+    return rule_or_refuse(value, validate_ssid, line("Error in %s: Error SSID:%s\n", __func__, value));
 }
 
 int WLAN_check_max_bit_rate(const char* value)
 {
-    if (is_rate_or_auto(value)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error max bit rate:%s\n\n", __func__, value);
+    return rule_or_refuse(value, validate_rate,
+                          line("Error in %s: Error max bit rate:%s\n\n", __func__, value));
 }
 
 int WLAN_check_basic_data_transmit_rate(const char* value)
 {
-    if (is_rate_set(value)) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error basic data transmit rate:%s\n\n", __func__,
-                  value);
+    return rule_or_refuse(value, validate_rate_set,
+                          line("Error in %s: Error basic data transmit rate:%s\n\n", __func__, value));
 }
 
 int WLAN_check_op_data_transmit_rate(const char* value)
 {
-    if (equals(value, "1,2,5.5,6,9,11,12,18,24,36,48,54") || equals(value, "")) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error operation data transmit rate:%s\n\n", __func__,
-                  value);
+    return keyword_or_refuse(value, kOperationalRateSets,
+                             line("Error in %s: Error operation data transmit rate:%s\n\n", __func__, value));
 }
 
 int WLAN_check_location_description(const char* value)
@@ -86,11 +87,10 @@ int WLAN_check_regulatory_domain(const char* value)
 
 int WLAN_check_device_opration_mode(const char* value, int readwrite_mode)
 {
-    if (std::strlen(value) > kLongestMode) {
-        return refuse(OSTREL_INVALID_VALUE,
-                      "Error in %s: Error operating mode:%s length out of range. [0,31]\n\n", __func__,
-                      value);
-    }
+    const int code = length_or_refuse(
+        value, kModeLength,
+        line("Error in %s: Error operating mode:%s length out of range. [0,31]\n\n", __func__, value));
+    if (code != OSTREL_VALID) return code;
     if (readwrite_mode != 0 && readwrite_mode != 1) {
         return refuse(OSTREL_INVALID_VALUE,
                       "Error in %s: Error operating mode:readwrite mode %d invalid \n\n", __func__,
@@ -102,6 +102,6 @@ int WLAN_check_device_opration_mode(const char* value, int readwrite_mode)
 
 int WLAN_check_DistanceFromRoot(const char* value)
 {
-    if (std::atoi(value) < 0) return OSTREL_VALID;
-    return refuse(OSTREL_INVALID_DISTANCE, "Error in %s: Error DistanceFromRoot:%s\n\n", __func__, value);
+    return number_or_refuse(value, kDistances,
+                            line("Error in %s: Error DistanceFromRoot:%s\n\n", __func__, value));
 }

@@ -14,7 +14,7 @@ LITERAL = r'"((?:[^"\\]|\\.)*)"'
 def printed_by(text):
     """printed_by gives the literals that a source file passes on to be printed."""
     text = re.sub(r'"\s*\n\s*"', "", text)
-    for match in re.finditer(r"\b(?:refuse|inform|remark|fprintf)\([^;]*?" + LITERAL, text):
+    for match in re.finditer(r"\b(?:refuse|inform|line|remark|fprintf)\([^;]*?" + LITERAL, text):
         yield match.group(1)
     for match in re.finditer(r"\bputs\(" + LITERAL, text):
         yield match.group(1) + "\\n"

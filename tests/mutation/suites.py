@@ -12,8 +12,7 @@ LIBC = ctypes.CDLL(None)
 DIE_WITH_PARENT = 1
 
 # Files whose own program has another name.
-PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test",
-            "search": "search_test"}
+PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test"}
 # A program that compares times: with a limit of processor time that time is counted in coarse ticks, and a busy
 # machine may make it fail, so that a failure counts when it repeats itself.
 TIMED = {"subnets_test"}

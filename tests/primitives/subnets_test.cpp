@@ -146,10 +146,10 @@ TEST(ReservedAddresses, TakeLinearTimeWithoutEquallyLongNeighbours)
     expect_linear(list(1024), list(1024 * 64), "192.168.1.1", 0);
 }
 
-TEST(ReservedAddresses, TakeLinearTimeForLongItems)
+TEST(ReservedAddresses, TakeLinearTimeForItemsThatEndDifferently)
 {
-    // The search for the first item compares nearly all of it at each place of the third, were it a plain
-    // one.
+    // A search that compared from the first byte on would compare nearly all of the first item at each place of the
+    // third.
     const auto list = [](std::size_t length) {
         const std::string same(length / 4 - 2, 'a');
         return same + "b," + same + "c," + same + same + "d,d";

@@ -74,6 +74,12 @@ constexpr LongCase kCases[] = {
          return {list_of_distinct_items(size), "nodot"};
      },
      true},
+    {"TcmValidateReservedAddress", "alike-items",
+     [](std::size_t size) -> std::vector<Value> {
+         const std::string half(size / 8, 'a');
+         return {half + "b" + half + "," + half + "c" + half + "," + half + half + half + half + ",d", "nodot"};
+     },
+     true},
     {"LAN_check_dhcp_reserved_addr", "equal-neighbours",
      [](std::size_t size) -> std::vector<Value> {
          return {list_of_distinct_items(size), "nodot"};

@@ -1,0 +1,13 @@
+// What a rule without codes of its own returns.
+#ifndef OSTREL_SUPPORT_JUDGE_H
+#define OSTREL_SUPPORT_JUDGE_H
+
+#include <ostrel/result_code.h>
+
+namespace ostrel {
+
+constexpr int judge(bool is_valid) { return is_valid ? OSTREL_VALID : OSTREL_INVALID; }
+
+}  // namespace ostrel
+
+#endif

@@ -1,0 +1,40 @@
+// Lists of keywords.
+//
+// A list is written as people read it, with a "|" between the keywords, and becomes one text without pointers when it
+// is compiled: before each keyword stands how far it is to the next one, and behind the last a 0.
+#ifndef OSTREL_SUPPORT_KEYWORDS_H
+#define OSTREL_SUPPORT_KEYWORDS_H
+
+#include <cstddef>
+
+namespace ostrel {
+
+template <std::size_t size>
+struct Keywords {
+    constexpr operator const char*() const { return text; }  // NOLINT(google-explicit-constructor)
+
+    char text[size];
+};
+
+template <std::size_t size>
+consteval Keywords<size + 1> keywords(const char (&list)[size])
+{
+    Keywords<size + 1> made = {};
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        made.text[i + 1] = list[i];
+        if (list[i] != '|' && list[i] != '\0') continue;
+        made.text[start] = static_cast<char>(i + 1 - start);
+        start = i + 1;
+    }
+    return made;
+}
+
+bool is_one_of(const char* value, const char* keywords);
+
+// is_one_of_ignoring_case folds the letters A to Z of the value only; the keywords are in small letters.
+bool is_one_of_ignoring_case(const char* value, const char* keywords);
+
+}  // namespace ostrel
+
+#endif

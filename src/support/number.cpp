@@ -1,0 +1,26 @@
+#include "support/number.h"
+
+#include <cstddef>
+#include <cstdlib>
+
+namespace ostrel {
+
+namespace {
+
+constexpr std::ptrdiff_t kMostDigits = 9;  // that an int holds, whichever they are
+
+}  // namespace
+
+int read_number(const char*& text)
+{
+    const char* const start = text;
+    unsigned number = 0;
+    for (; digit(*text) <= kLargestDigit; ++text) number = number * 10 + digit(*text);
+    // What a sign, white space and too large a number give is the C library's answer.
+    if (text == start || text - start > kMostDigits) return std::atoi(start);
+    return static_cast<int>(number);
+}
+
+int leading_number(const char* text) { return read_number(text); }
+
+}  // namespace ostrel

@@ -1,0 +1,19 @@
+// The number that a text begins with, as atoi reads it.
+#ifndef OSTREL_SUPPORT_NUMBER_H
+#define OSTREL_SUPPORT_NUMBER_H
+
+namespace ostrel {
+
+constexpr unsigned kLargestDigit = 9;
+
+// digit is above kLargestDigit for a character that is none.
+constexpr unsigned digit(char c) { return static_cast<unsigned char>(c) - unsigned{'0'}; }
+
+// read_number moves the text to the first character that is no digit.
+int read_number(const char*& text);
+
+int leading_number(const char* text);
+
+}  // namespace ostrel
+
+#endif

@@ -1,0 +1,51 @@
+// Verdicts: a rule and its refusal in one call, for the rules that many checks have in common.
+//
+// Each returns OSTREL_VALID for a value that the rule accepts. For any other it prints the line, in which the name of
+// the check and the value stand, flushes every output stream and returns the code of the refusal.
+#ifndef OSTREL_VERDICT_H
+#define OSTREL_VERDICT_H
+
+#include <ostrel/result_code.h>
+
+#include "primitives/strings.h"
+
+namespace ostrel {
+
+// line returns the format as it is. The compiler checks it here against the arguments that a verdict prints it with:
+// the name of the check and the value, which a format may leave out.
+[[gnu::format(printf, 1, 2), gnu::always_inline]] inline const char* line(const char* format, ...)
+{
+    return format;
+}
+
+// Limits of a number or a length, both included, and the code of a refusal.
+struct Limits {
+    int min;
+    int max;
+    int otherwise = OSTREL_INVALID_VALUE;
+};
+
+// code_or_refuse passes on what a rule has found.
+int code_or_refuse(int code, const char* value, const char* line, const char* check = __builtin_FUNCTION());
+
+// number_or_refuse judges the number that atoi reads.
+int number_or_refuse(const char* value, const Limits& limits, const char* line,
+                     const char* check = __builtin_FUNCTION());
+
+int length_or_refuse(const char* value, const Limits& limits, const char* line,
+                     const char* check = __builtin_FUNCTION());
+
+// keyword_or_refuse refuses with OSTREL_INVALID_VALUE.
+int keyword_or_refuse(const char* value, const char* keywords, const char* line,
+                      const char* check = __builtin_FUNCTION());
+
+// text_or_refuse refuses with the code of validate_string.
+int text_or_refuse(const char* value, Text rule, const char* line, const char* check = __builtin_FUNCTION());
+
+// rule_or_refuse refuses with the code of the rule, or with OSTREL_INVALID_VALUE where that is OSTREL_INVALID.
+int rule_or_refuse(const char* value, int (*rule)(const char*), const char* line,
+                   const char* check = __builtin_FUNCTION());
+
+}  // namespace ostrel
+
+#endif

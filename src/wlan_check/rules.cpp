@@ -1,0 +1,15 @@
+#include "wlan_check/rules.h"
+
+#include "support/keywords.h"
+
+namespace ostrel {
+
+namespace {
+
+constexpr auto kWepTypes = keywords("WEP-OPEN|WEP-SHARED|WEP-RADIUS");
+
+}  // namespace
+
+bool is_wep_type(const char* type) { return is_one_of(type, kWepTypes); }
+
+}  // namespace ostrel
