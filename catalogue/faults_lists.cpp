@@ -174,7 +174,7 @@ Fault offered_dns_fault(std::string_view text)
     });
     if (!item) return std::nullopt;
     if (item->number > 2) return fault;
-    return "item " + std::to_string(item->number) + " is no IPv4 address: " + fault.value_or("");
+    return "item " + std::to_string(item->number) + " is no IPv4 address: " + fault.value();
 }
 
 Test user_name_fault(int code)
