@@ -9,8 +9,7 @@ namespace ostrel {
 
 namespace {
 
-constexpr unsigned kLargestNumber = 99;
-constexpr unsigned kNoNumber = kLargestNumber + 1;
+constexpr unsigned kNoNumber = 100;  // above every limit
 constexpr unsigned kLastHour = 24;
 constexpr unsigned kLastMinute = 59;
 constexpr unsigned kLastSecond = 59;
@@ -23,7 +22,7 @@ class Reader {
  public:
     explicit Reader(const char* value) : at_(value) {}
 
-    // two_digits gives a number above kLargestNumber where two digits are not what follows.
+    // two_digits gives kNoNumber where two digits are not what follows, and does not move on.
     unsigned two_digits()
     {
         const unsigned tens = digit(at_[0]);
@@ -67,9 +66,8 @@ struct Date {
 inline bool read_day_and_time(Reader& reader, Date& date)
 {
     date.day = reader.two_digits();
-    return date.day <= kLargestNumber && reader.separator('T') && reader.two_digits() <= kLastHour &&
-           reader.separator(':') && reader.two_digits() <= kLastMinute && reader.separator(':') &&
-           reader.two_digits() <= kLastSecond;
+    return reader.separator('T') && reader.two_digits() <= kLastHour && reader.separator(':') &&
+           reader.two_digits() <= kLastMinute && reader.separator(':') && reader.two_digits() <= kLastSecond;
 }
 
 // read_offset reads "+HH:MM" or "-HH:MM".
@@ -83,12 +81,11 @@ inline bool read_offset(Reader& reader, unsigned last_hour)
 bool read_date_time(Reader reader, Date& date)
 {
     const unsigned century = reader.two_digits();
-    if (century > kLargestNumber) return false;
-    const unsigned year = reader.two_digits();
-    if (year > kLargestNumber) return false;
+    const unsigned year = reader.two_digits();  // is none where the century is none
+    if (year == kNoNumber) return false;
     date.year = century * 100 + year;
     const bool extended = reader.separator('-');
-    date.month = reader.two_digits();  // no month is above kLargestNumber
+    date.month = reader.two_digits();
     if (extended && !reader.separator('-')) return false;
     if (!read_day_and_time(reader, date)) return false;
     return reader.at_end() || (extended && read_offset(reader, kLastOffsetHour));

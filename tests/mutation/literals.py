@@ -56,8 +56,9 @@ def strings(found, text):
         has_case = "%" not in literal and not callee(found, i).endswith("_ignoring_case")
         every = units(literal)
         pieces = [[]]
+        separators = {"\\0", "|"} if callee(found, i) == "keywords" else {"\\0"}
         for unit in every:
-            if unit[1] == "\\0":
+            if unit[1] in separators:
                 pieces.append([])
             else:
                 pieces[-1].append(unit)
