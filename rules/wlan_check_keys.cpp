@@ -96,15 +96,10 @@ std::vector<Check> wlan_keys()
         key_or_pass_phrase(),
         wep_keys(),
         keys(),
-        check(
-            "WLAN_check_default_wep_key_index", {text("value", "the number of a WEP key, from 0")},
-            {refuse(
-                 402, below(0),
-                 line("Error in WLAN_check_default_wep_key_index: Error default wep key index:<value>\n\n")),
-             refuse(
-                 402, above(3),
-                 line(
-                     "Error in WLAN_check_default_wep_key_index: Error default wep key index:<value>\n\n"))}),
+        check("WLAN_check_default_wep_key_index", {text("value", "the number of a WEP key, from 0")},
+              {refuse(402, not_(between(it, 0, 3)),
+                      line("Error in WLAN_check_default_wep_key_index: Error default wep key "
+                           "index:<value>\n\n"))}),
     };
 }
 

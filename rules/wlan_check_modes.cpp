@@ -100,8 +100,7 @@ Check key_renewal()
                   text("type", "a security type")},
                  {accept(one_of("renewal", {"false"})), accept(one_of("type", kWepTypes)),
                   refuse(-1, empty("interval")), refuse(-1, outside("interval", kDigits)),
-                  refuse(-1, longer_than("interval", 4)), refuse(-1, below("interval", 600)),
-                  refuse(-1, above("interval", 7200))});
+                  refuse(-1, longer_than("interval", 4)), refuse(-1, not_(between("interval", 600, 7200)))});
 }
 
 Check radius_secret()

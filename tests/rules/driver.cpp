@@ -5,49 +5,42 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
-#include <string>
 #include <string_view>
+#include <utility>
 
 namespace {
 
 constexpr std::string_view kList = "/var/hnapwl0chlist";
 constexpr std::string_view kCommand = "wlctl -i wl0 channels > /var/hnapwl0chlist";
 
-const std::vector<int>* listed = nullptr;
-std::string content;
-bool is_there = false;
+ostrel::tests::Driver* driver = nullptr;
+
+bool is_list(const char* filename) { return driver != nullptr && filename == kList; }
 
 }  // namespace
 
-// These functions of the C library are called in the program rather than there, by the library under test too.
+// A program's own functions take the place of the C library's, for the library under test too.
 extern "C" {
 
 int system(const char* command)
 {
-    if (listed == nullptr || command == nullptr || command != kCommand) std::abort();
-    content.clear();
-    for (const int channel : *listed) content += std::to_string(channel) + " ";
-    content += '\n';
-    is_there = true;
+    if (driver == nullptr || command == nullptr || command != kCommand) std::abort();
+    driver->write_list();
     return 0;
 }
 
-FILE* fopen(const char* path, const char* mode)
+FILE* fopen(const char* filename, const char* modes)
 {
     using Open = FILE* (*)(const char*, const char*);
     static const auto real = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "fopen"));
-    if (path != kList) return real(path, mode);
-    if (is_there) return fmemopen(content.data(), content.size(), mode);
-    errno = ENOENT;
-    return nullptr;
+    return is_list(filename) ? driver->open_list(modes) : real(filename, modes);
 }
 
-int unlink(const char* path) noexcept
+int unlink(const char* name) noexcept
 {
-    if (path != kList) return unlinkat(AT_FDCWD, path, 0);
-    is_there = false;
+    if (!is_list(name)) return unlinkat(AT_FDCWD, name, 0);
+    driver->delete_list();
     return 0;
 }
 
@@ -55,14 +48,22 @@ int unlink(const char* path) noexcept
 
 namespace ostrel::tests {
 
-Driver::Driver(const std::vector<int>& channels) { listed = &channels; }
+Driver::Driver(std::vector<int> channels) : channels_(std::move(channels)) { driver = this; }
 
-Driver::~Driver()
+Driver::~Driver() { driver = nullptr; }
+
+void Driver::write_list()
 {
-    listed = nullptr;
-    is_there = false;
+    for (const int channel : channels_) content_ += std::to_string(channel) + " ";
+    content_ += '\n';
+    has_left_its_list_ = true;
 }
 
-bool Driver::has_left_its_list() const { return is_there; }
+std::FILE* Driver::open_list(const char* modes)
+{
+    if (has_left_its_list_) return fmemopen(content_.data(), content_.size(), modes);
+    errno = ENOENT;
+    return nullptr;
+}
 
 }  // namespace ostrel::tests

@@ -46,27 +46,6 @@ std::string shown_call(const Function& function, const std::vector<Value>& value
     return result;
 }
 
-// builds are those of trials: the library's, with another list of channels in each.
-const std::vector<Build>& builds()
-{
-    static const std::vector<Build> all = [] {
-        std::vector<Build> result;
-        for (const std::vector<int>& channels :
-             std::vector<std::vector<int>>{{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14},
-                                           {},
-                                           {1, 6, 11},
-                                           {0, 9, 14, -3, 36},
-                                           {36, 14},
-                                           {1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 13, 14, 36, 6},
-                                           {1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 13, 14, 36, 40, 6}}) {
-            result.push_back(library_build());
-            result.back().channels = channels;
-        }
-        return result;
-    }();
-    return all;
-}
-
 const std::vector<Row>& rows()
 {
     static const std::vector<Row> all = read_cases();
@@ -84,6 +63,26 @@ const Build& library_build()
                                 sizeof(long) == 8 ? Build::Atoi::kLong64 : Build::Atoi::kLong32,
                                 std::nullopt};
     return build;
+}
+
+const std::vector<Build>& trial_builds()
+{
+    static const std::vector<Build> all = [] {
+        std::vector<Build> result;
+        for (const std::vector<int>& channels :
+             std::vector<std::vector<int>>{{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14},
+                                           {},
+                                           {1, 6, 11},
+                                           {0, 9, 14, -3, 36},
+                                           {36, 14},
+                                           {1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 13, 14, 36, 6},
+                                           {1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 13, 14, 36, 40, 6}}) {
+            result.push_back(library_build());
+            result.back().channels = channels;
+        }
+        return result;
+    }();
+    return all;
 }
 
 std::vector<Value> complete(const Function& function, const std::vector<Value>& given)
@@ -169,7 +168,7 @@ void Trials::add_others(const std::vector<Value>& values, const std::set<std::st
 bool Trials::agrees(std::string_view input, Capture& capture)
 {
     fuzz::decode_arguments(function_, input.substr(1), values_);
-    const Build& build = builds()[inputs_run_++ % builds().size()];
+    const Build& build = trial_builds()[inputs_run_++ % trial_builds().size()];
     const Answer answer = rules::evaluate(check_, values_, build, &counts);
     if (answer.outside != rules::Outside::kNo) return true;
     caller_.load(function_, values_);

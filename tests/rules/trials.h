@@ -15,6 +15,9 @@ namespace ostrel::tests {
 // library_build is the build of the library that is loaded: a variant says what it chooses in the environment.
 const rules::Build& library_build();
 
+// trial_builds are those of trials: the library's, with another list of channels in each.
+const std::vector<rules::Build>& trial_builds();
+
 // complete adds what a row leaves out: arguments that are only written.
 std::vector<catalogue::Value> complete(const catalogue::Function& function,
                                        const std::vector<catalogue::Value>& given);

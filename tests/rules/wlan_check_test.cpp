@@ -1,8 +1,11 @@
 // Wireless LAN test: what is said of values that its checks refuse, and the words that they alone need.
 
 #include <gtest/gtest.h>
+#include <ostrel/wlan_check.h>
 
+#include "tests/rules/driver.h"
 #include "tests/rules/told.h"
+#include "tests/rules/trials.h"
 
 namespace ostrel::rules {
 
@@ -67,6 +70,22 @@ TEST(WlanReasonTest, OfKeys)
               said("WLAN_check_wepkeys", {std::vector<std::string>{"", "", "\t", ""}}));
 }
 
+TEST(WlanReasonTest, OfNumbers)
+{
+    EXPECT_EQ("value is 4; 0 to 3 are allowed", said("WLAN_check_default_wep_key_index", {"4"}));
+    EXPECT_EQ("value is -1; 0 to 3 are allowed", said("WLAN_check_default_wep_key_index", {"-1"}));
+    EXPECT_EQ("accepted", said("WLAN_check_default_wep_key_index", {"abc"}));
+    EXPECT_EQ("value is read as 0; at most -1 is allowed", said("WLAN_check_DistanceFromRoot", {"far"}));
+    const auto of_interval = [](const char* interval) {
+        return said("WLAN_check_HNAP_KeyRenewal", {"true", interval, "WPA2-PSK"});
+    };
+    EXPECT_EQ("interval is 599; 600 to 7200 are allowed", of_interval("599"));
+    EXPECT_EQ("interval is 7201; 600 to 7200 are allowed", of_interval("7201"));
+    EXPECT_EQ("interval has 5 bytes; at most 4 are allowed", of_interval("03600"));
+    EXPECT_EQ("interval byte 1 is \"-\"; digits are allowed", of_interval("-600"));
+    EXPECT_EQ("interval is empty", of_interval(""));
+}
+
 TEST(WlanReasonTest, OfRates)
 {
     EXPECT_EQ("value is none of all, default, 1, 2, 5.5, 6, 9, 11, 12, 18, 24, 36, 48, 54",
@@ -108,6 +127,18 @@ TEST(WlanReasonTest, NamesWhatTheDriverLists)
     EXPECT_EQ("accepted", said("WLAN_check_channel", {"abc", "RADIO_5GHz"}, build));
     EXPECT_EQ("channel is 52; only 0, 36, 40, 44, 48, 149, 153, 157, 161 are allowed",
               said("WLAN_check_channel", {"52", "RADIO_5GHz"}, build));
+}
+
+TEST(WlanChannelTest, EveryChannelOfEveryList)
+{
+    for (const Build& build : tests::trial_builds()) {
+        const tests::Driver driver(*build.channels);
+        for (int number = -4; number < 41; ++number) {
+            const std::string channel = std::to_string(number);
+            const int code = answer_of("WLAN_check_channel", {channel, "RADIO_2.4GHz"}, build).code;
+            EXPECT_EQ(WLAN_check_channel(channel.c_str(), "RADIO_2.4GHz"), code) << channel;
+        }
+    }
 }
 
 TEST(WlanWordsTest, ChannelsOfTheDriver)
