@@ -77,7 +77,8 @@ constexpr LongCase kCases[] = {
     {"TcmValidateReservedAddress", "alike-items",
      [](std::size_t size) -> std::vector<Value> {
          const std::string half(size / 8, 'a');
-         return {half + "b" + half + "," + half + "c" + half + "," + half + half + half + half + ",d", "nodot"};
+         return {half + "b" + half + "," + half + "c" + half + "," + half + half + half + half + ",d",
+                 "nodot"};
      },
      true},
     {"LAN_check_dhcp_reserved_addr", "equal-neighbours",
@@ -153,9 +154,11 @@ constexpr LongCase kCases[] = {
     {"HNAPCORE_check_timezone", "accepted",
      [](std::size_t size) -> std::vector<Value> { return {"UTC" + std::string(size, '7')}; }},
     {"TcmValidateAddressRange", "lan",
-     [](std::size_t size) -> std::vector<Value> {
-         return {"192.168.1.2", "192.168.1.9", "192.168.1." + std::string(size, '1')};
-     }},
+     [](std::size_t
+            size) -> std::
+                      vector<Value> {
+                          return {"192.168.1.2", "192.168.1.9", "192.168.1." + std::string(size, '1')};
+                      }},
     {"MGTSERVER_check_server_url", "host",
      [](std::size_t size) -> std::vector<Value> { return {"x-dslf_cwmp://" + std::string(size, 'a')}; }},
     {"TcmValidatePPPUsername", "account",
