@@ -3,7 +3,8 @@
 #define OSTREL_PRIMITIVES_DATE_TIME_H
 
 // The checks pass these rules on, and the address of a hidden function needs no relocation.
-namespace [[gnu::visibility("hidden")]] ostrel {
+#pragma GCC visibility push(hidden)
+namespace ostrel {
 
 int validate_date_time(const char* value);
 
@@ -12,6 +13,7 @@ int validate_switch_over(const char* value);
 
 int validate_zone_offset(const char* value);
 
-}  // namespace gnu::visibility("hidden")]]ostrel
+}  // namespace ostrel
+#pragma GCC visibility pop
 
 #endif

@@ -3,7 +3,8 @@
 #define OSTREL_PRIMITIVES_HOSTS_H
 
 // The checks pass these rules on, and the address of a hidden function needs no relocation.
-namespace [[gnu::visibility("hidden")]] ostrel {
+#pragma GCC visibility push(hidden)
+namespace ostrel {
 
 // validate_host takes a domain name or an IPv4 address.
 int validate_host(const char* value);
@@ -13,6 +14,7 @@ int validate_server_url(const char* value);
 // validate_firmware_url gives OSTREL_INVALID where TcmValidatefirmwareURL has a code of its own.
 int validate_firmware_url(const char* value);
 
-}  // namespace gnu::visibility("hidden")]]ostrel
+}  // namespace ostrel
+#pragma GCC visibility pop
 
 #endif

@@ -3,7 +3,8 @@
 #define OSTREL_PRIMITIVES_SUBNETS_H
 
 // The checks pass these rules on, and the address of a hidden function needs no relocation.
-namespace [[gnu::visibility("hidden")]] ostrel {
+#pragma GCC visibility push(hidden)
+namespace ostrel {
 
 int validate_address_range(const char* start_address, const char* end_address, const char* lan_address);
 
@@ -14,6 +15,7 @@ int validate_router_address(const char* address);
 
 int validate_offered_dns(const char* list);
 
-}  // namespace gnu::visibility("hidden")]]ostrel
+}  // namespace ostrel
+#pragma GCC visibility pop
 
 #endif

@@ -5,7 +5,8 @@
 #include "primitives/strings.h"
 
 // The checks pass these rules on, and the address of a hidden function needs no relocation.
-namespace [[gnu::visibility("hidden")]] ostrel {
+#pragma GCC visibility push(hidden)
+namespace ostrel {
 
 // validate_pre_shared_key is TcmValidatePSK.
 int validate_pre_shared_key(const char* key);
@@ -24,6 +25,7 @@ int validate_ssid(const char* ssid);
 // validate_rate_set is TcmValidateDataTransmitRates.
 int validate_rate_set(const char* value);
 
-}  // namespace gnu::visibility("hidden")]]ostrel
+}  // namespace ostrel
+#pragma GCC visibility pop
 
 #endif
