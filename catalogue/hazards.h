@@ -1,14 +1,10 @@
-// Hazards: what an accepted value may contain, found by trying.
+// Hazards: what an accepted value may contain, as hazards.ndjson has it.
 #ifndef OSTREL_CATALOGUE_HAZARDS_H
 #define OSTREL_CATALOGUE_HAZARDS_H
 
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "catalogue/catalogue.h"
-#include "catalogue/rows.h"
 
 namespace ostrel::catalogue {
 
@@ -22,7 +18,7 @@ struct Hazard {
 // hazards lists the kinds; a byte may be of several.
 const std::vector<Hazard>& hazards();
 
-// Finding is where the bytes of a kind can stand in an accepted value of an argument.
+// Places is where the bytes of a kind can be in an accepted value of an argument.
 struct Places {
     bool first = false;
     bool inside = false;
@@ -30,23 +26,19 @@ struct Places {
     std::string bytes;  // those of the kind that were accepted somewhere
 
     [[nodiscard]] bool any() const { return first || inside || last; }
+    [[nodiscard]] bool everywhere() const { return first && inside && last; }
 };
 
-// describe says it in words: anywhere, first, inside, last, or never.
-std::string describe(const Places& places);
-
 struct Exposure {
-    const Argument* argument;
+    std::string argument;
     std::vector<Places> places;  // one for each of hazards()
 };
 
-// exposures_of tries every byte that is no letter or digit in many places of accepted values, inserted and in
-// the place of another, for each argument that is a text. A set of bytes that is an argument holds them all. What counts is what
-// the argument holds after the call.
-std::vector<Exposure> exposures_of(const Function& function, const std::vector<Row>& rows);
+// exposures_of gives what is known of the arguments of a check.
+const std::vector<Exposure>& exposures_of(std::string_view check);
 
-// may_be_called tells that a call with these values neither asks the wireless driver nor goes on for ever.
-bool may_be_called(const Function& function, const std::vector<Value>& values);
+// line_of writes an exposure as a line of hazards.ndjson.
+std::string line_of(std::string_view check, const Exposure& exposure);
 
 }  // namespace ostrel::catalogue
 

@@ -172,7 +172,8 @@ bool Run::is_refused_by(const Condition& condition, Frame& frame, Reason* reason
     inner.slots.resize(inner.check.slots);
     for (std::size_t i = 0; i < inner.check.arguments.size(); ++i) {
         const bool is_null = inner.slots[i].kind == Operand::Kind::kNull;
-        if (is_null && !inner.check.arguments[i].asserted.empty()) throw Ended{Outside::kAssertion};
+        if (is_null && !inner.check.arguments[i].asserted.empty())
+            throw Ended{Outside::kAssertion, inner.slots[i].place};
     }
     run(inner.check.steps, inner);
     fault_lines_ = nullptr;

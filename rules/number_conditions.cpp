@@ -62,7 +62,7 @@ bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
 bool Run::driver_lists(const Condition& condition, Frame& frame, Reason* reason)
 {
     const Integer judged = number(condition.operands[0], frame);
-    if (!build_.channels) throw Ended{Outside::kDriver};
+    if (!build_.channels) throw Ended{Outside::kDriver, judged.place};
     const auto first = static_cast<std::size_t>(condition.numbers[0]);
     std::vector<long long> listed;
     for (const int channel : *build_.channels | std::views::take(first)) {

@@ -15,6 +15,7 @@ constexpr Sentence kSentences[] = {
     {"colon_in_path",
      "has a \":\" in the path that begins at byte {position}; that is allowed only after a port"},
     {"contains", "byte {position} is where {found} begins, which is not allowed", true},
+    {"driver_asked", "is looked up with the wireless driver, whose answer is not known here"},
     {"empty", "is empty"},
     {"empty_as_listed", "is empty, and so is one in the list"},
     {"end_before_start", "is {found}; at least {allowed}, the last octet of the start, is needed"},
@@ -35,6 +36,7 @@ constexpr Sentence kSentences[] = {
     {"list_full", "has {found} bytes together with the list; at most {allowed} are allowed"},
     {"listed_by_driver", "is {read}{found}, which the wireless driver lists"},
     {"neither_server", "is neither the first nor the second server"},
+    {"never_returns", "is a value for which the check does not return"},
     {"no_channel_listed", "is {read}{found}; the wireless driver lists no channel that is allowed"},
     {"no_key_left", "has no key that is printable and not empty"},
     {"not_a_keyword", "is {allowed:not|none of} {allowed}"},
@@ -50,6 +52,8 @@ constexpr Sentence kSentences[] = {
     {"not_of_offset", "is not part of any name that goes with the offset: {allowed}"},
     {"not_part_of_any", "is not part of any of {allowed}"},
     {"null", "is NULL"},
+    {"null_asserted", "is NULL, which fails an assertion of the check"},
+    {"null_read", "is NULL, and the check reads it"},
     {"number_beyond_int",
      "has the number {found}, which an int does not hold; this gateway reads it as {read_as}"},
     {"number_forbidden", "is {read}{found}; none of {allowed} is allowed"},
@@ -67,6 +71,7 @@ constexpr Sentence kSentences[] = {
     {"too_many_items", "has {found} items; at most {allowed} {allowed:is|are} allowed"},
     {"too_many_labels", "has {found} labels; at most {allowed} are allowed"},
     {"too_much", "should end before byte {position}"},
+    {"too_much_work", "the values are too long for a reason to be worked out", true},
     {"too_short", "has {found} {found:byte|bytes}; at least {allowed} {allowed:is|are} needed"},
     {"wrong_item_count", "has {found} {found:part|parts}; {allowed} are needed"},
     {"wrong_length", "has {found} {found:byte|bytes}; {allowed:|one of }{allowed} {allowed:are|is} needed"},
@@ -84,21 +89,14 @@ std::string joined(const std::vector<T>& values, F shown)
     return result;
 }
 
-// A keyword stands without quotation marks where it cannot be taken for something else.
-std::string keyword(const std::string& word)
-{
-    const bool is_plain = !word.empty() && std::ranges::all_of(word, [](char c) {
-        return c > ' ' && c <= '~' && c != ',' && c != '"';
-    });
-    return is_plain ? word : quoted(word);
-}
-
 std::string shown(const Datum& datum)
 {
+    if (std::holds_alternative<std::monostate>(datum)) return "a value that is not shown";
     if (const auto* number = std::get_if<long long>(&datum)) return std::to_string(*number);
     if (const auto* text = std::get_if<std::string>(&datum)) return quoted(*text);
     if (const auto* set = std::get_if<Set>(&datum)) return in_words(*set);
-    if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) return joined(*words, keyword);
+    if (const auto* words = std::get_if<std::vector<std::string>>(&datum))
+        return joined(*words, keyword_in_words);
     if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) {
         return joined(*numbers, [](long long number) { return std::to_string(number); });
     }
@@ -135,8 +133,10 @@ std::string value_of(std::string_view name, const Reason& reason)
         return std::string(is_one(is_found ? reason.found : reason.allowed) ? forms.substr(0, bar)
                                                                             : forms.substr(bar + 1));
     }
-    if (name == "found")
-        return reason.id == "number_beyond_int" ? std::get<std::string>(reason.found) : shown(reason.found);
+    if (name == "found") {
+        const auto* digits = std::get_if<std::string>(&reason.found);
+        return reason.id == "number_beyond_int" && digits != nullptr ? *digits : shown(reason.found);
+    }
     if (name == "allowed") return shown(reason.allowed);
     if (name == "position") return counted(reason.offset);
     if (name == "item") return counted(reason.item);
@@ -147,14 +147,20 @@ std::string value_of(std::string_view name, const Reason& reason)
     return byte == nullptr || byte->empty() ? "" : byte_in_words(byte->front());
 }
 
+const Sentence* find(std::string_view id)
+{
+    const auto* known = std::ranges::lower_bound(kSentences, id, {}, &Sentence::id);
+    return known != std::end(kSentences) && known->id == id ? known : nullptr;
+}
+
 }  // namespace
 
 std::span<const Sentence> sentences() { return kSentences; }
 
 std::string sentence(const Reason& reason)
 {
-    const auto* known = std::ranges::lower_bound(kSentences, reason.id, {}, &Sentence::id);
-    if (known == std::end(kSentences) || known->id != reason.id) return "";
+    const Sentence* known = find(reason.id);
+    if (known == nullptr) return "";
     std::string result;
     if (!reason.part.empty()) result = known->has_subject ? "in " + reason.part + ", " : reason.part + " ";
     std::string_view rest = known->text;
@@ -169,6 +175,36 @@ std::string sentence(const Reason& reason)
     }
     if (!reason.conversion.empty()) result += " (" + std::string(reason.conversion) + ")";
     return result;
+}
+
+std::string full_sentence(const Reason& reason, bool names_argument)
+{
+    const std::string said = sentence(reason);
+    std::string subject;
+    if (reason.item) subject = "item " + counted(reason.item);
+    if (names_argument && reason.argument) {
+        subject.append(subject.empty() ? "" : " of ").append(reason.name);
+    }
+    if (said.empty() || subject.empty()) return said;
+    const bool has_subject = find(reason.id)->has_subject || !reason.part.empty();
+    return subject + (has_subject ? ": " : " ") + said;
+}
+
+Reason without_secret(Reason reason, const Check& check)
+{
+    const auto* found = std::get_if<std::string>(&reason.found);
+    const bool is_secret = reason.argument && check.arguments[*reason.argument].is_secret;
+    if (is_secret && found != nullptr && found->size() > 1) reason.found = std::monostate();
+    return reason;
+}
+
+// A keyword stands without quotation marks where it cannot be taken for something else.
+std::string keyword_in_words(std::string_view word)
+{
+    const bool is_plain = !word.empty() && std::ranges::all_of(word, [](char c) {
+        return c > ' ' && c <= '~' && c != ',' && c != '"';
+    });
+    return is_plain ? std::string(word) : quoted(word);
 }
 
 std::string quoted(std::string_view text)

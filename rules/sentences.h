@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "rules/reason.h"
+#include "rules/vocabulary.h"
 
 namespace ostrel::rules {
 
@@ -33,6 +34,15 @@ std::span<const Sentence> sentences();
 // sentence says why, without the argument's name: "has 34 bytes; at most 32 are allowed". It is empty for an id that
 // has no sentence.
 std::string sentence(const Reason& reason);
+
+// full_sentence begins with what it speaks of: the item of a list, and the argument where that is to be named.
+std::string full_sentence(const Reason& reason, bool names_argument);
+
+// without_secret takes the value out that was found, where that is of an argument not to be shown; single bytes stay.
+Reason without_secret(Reason reason, const Check& check);
+
+// keyword_in_words shows a keyword, quoted where it could be taken for something else.
+std::string keyword_in_words(std::string_view word);
 
 // quoted shows a text so that it can be printed: between quotation marks, cut, with \x9F for what is not printable.
 std::string quoted(std::string_view text);

@@ -19,25 +19,6 @@ using tests::Outcome;
 
 namespace {
 
-// arguments_of adds what a row leaves out: arguments that are only written.
-std::vector<Value> arguments_of(const Case& given)
-{
-    const auto& arguments = given.function->arguments;
-    if (given.values.size() == arguments.size()) return given.values;
-    std::vector<Value> result;
-    auto next = given.values.begin();
-    for (const Argument& argument : arguments) {
-        if (!argument.output_only) {
-            result.push_back(*next++);
-        } else if (argument.kind == Kind::kIntegerOut) {
-            result.emplace_back(static_cast<long long>(std::numeric_limits<int>::min()));
-        } else {
-            result.emplace_back(std::string());
-        }
-    }
-    return result;
-}
-
 Outcome outcome_of(const Answer& answer)
 {
     return {answer.code, answer.out, answer.err, answer.flushed, answer.after};
@@ -53,7 +34,7 @@ TEST(ModelsTest, AgreeWithEveryVector)
         SCOPED_TRACE(row.text.substr(0, 300));
         const auto model = models().find(row.given.function->name);
         ASSERT_NE(models().end(), model);
-        const Answer answer = model->second(arguments_of(row.given));
+        const Answer answer = model->second(catalogue::completed(*row.given.function, row.given.values));
         EXPECT_FALSE(answer.undefined);
         caller.load(*row.given.function, row.given.values);
         EXPECT_EQ(tests::expected_outcome(row, caller.written()), outcome_of(answer));

@@ -35,7 +35,8 @@ TEST(AgreementTest, VectorsAndDescriptions)
         SCOPED_TRACE(row.text.substr(0, 300));
         Build build = library_build();
         if (row.overflows) build.atoi = Build::Atoi::kLong64;
-        const Answer answer = rules::evaluate(*check, complete(function, row.given.values), build);
+        const Answer answer =
+            rules::evaluate(*check, catalogue::completed(function, row.given.values), build);
         EXPECT_EQ(rules::Outside::kNo, answer.outside);
         Caller caller;
         caller.load(function, row.given.values);

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <limits>
 
 #include "fuzz/input.h"
 #include "fuzz/mutator.h"
@@ -22,8 +21,6 @@ using rules::Build;
 using rules::Check;
 
 namespace {
-
-constexpr long long kUnwritten = std::numeric_limits<int>::min();
 
 std::string chosen(const char* variable, const char* built)
 {
@@ -86,28 +83,11 @@ const Build& library_build()
     return build;
 }
 
-std::vector<Value> complete(const Function& function, const std::vector<Value>& given)
-{
-    if (given.size() == function.arguments.size()) return given;
-    std::vector<Value> result;
-    auto next = given.begin();
-    for (const auto& argument : function.arguments) {
-        if (!argument.output_only) {
-            result.push_back(*next++);
-        } else if (argument.kind == Kind::kIntegerOut) {
-            result.emplace_back(kUnwritten);
-        } else {
-            result.emplace_back(std::string());
-        }
-    }
-    return result;
-}
-
 Outcome outcome_of(const Answer& answer)
 {
     Outcome outcome{answer.code, answer.out, answer.err, answer.is_flushed(), answer.after};
     for (Value& value : outcome.after) {
-        if (value == Value(kUnwritten)) value = nullptr;
+        if (value == Value(catalogue::kUnwritten)) value = nullptr;
     }
     return outcome;
 }
@@ -128,7 +108,7 @@ Trials::Trials(const Function& function, const Check& check) : function_(functio
     const auto texts = harvest(check, library_build());
     for (const Row& row : rows()) {
         if (row.given.function != &function) continue;
-        const std::vector<Value> values = complete(function, row.given.values);
+        const std::vector<Value> values = catalogue::completed(function, row.given.values);
         add(values);
         if (inputs_.size() < 20) add_others(values, texts);
     }
@@ -158,7 +138,7 @@ void Trials::add_others(const std::vector<Value>& values, const std::set<std::st
             std::vector<Value> others = values;
             if (std::holds_alternative<std::string>(others[i])) others[i] = text;
             if (auto* several = std::get_if<std::vector<std::string>>(&others[i])) {
-                if (text.size() >= function_.arguments[i].capacity) continue;
+                if (text.size() >= function_.arguments[i].block_size) continue;
                 several->at(inputs_.size() % several->size()) = text;
             }
             add(others);

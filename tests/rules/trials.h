@@ -15,10 +15,6 @@ namespace ostrel::tests {
 // library_build is the build of the library that is loaded: a variant says what it chooses in the environment.
 const rules::Build& library_build();
 
-// complete adds what a row leaves out: arguments that are only written.
-std::vector<catalogue::Value> complete(const catalogue::Function& function,
-                                       const std::vector<catalogue::Value>& given);
-
 Outcome outcome_of(const rules::Answer& answer);
 
 // reason_fault says what is wrong with the reason of a refusal; nothing where it can be told.
