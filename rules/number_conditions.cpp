@@ -1,7 +1,7 @@
 // Conditions of numbers, and of texts that may be numbers.
 
 #include <algorithm>
-#include <ranges>
+#include <span>
 
 #include "rules/run.h"
 
@@ -63,9 +63,10 @@ bool Run::driver_lists(const Condition& condition, Frame& frame, Reason* reason)
 {
     const Integer judged = number(condition.operands[0], frame);
     if (!build_.channels) throw Ended{Outside::kDriver};
+    const std::span<const int> all = *build_.channels;
     const auto first = static_cast<std::size_t>(condition.numbers[0]);
     std::vector<long long> listed;
-    for (const int channel : *build_.channels | std::views::take(first)) {
+    for (const int channel : all.first(std::min(first, all.size()))) {
         if (channel <= condition.numbers[1]) listed.push_back(channel);
     }
     const bool result = contains(listed, judged.value);
