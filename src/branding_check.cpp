@@ -6,7 +6,6 @@
 #include "support/char_set.h"
 #include "support/keywords.h"
 #include "support/report.h"
-#include "verdict.h"
 
 using namespace ostrel;
 

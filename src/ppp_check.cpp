@@ -8,7 +8,6 @@
 #include "support/char_set.h"
 #include "support/keywords.h"
 #include "support/report.h"
-#include "support/text.h"
 #include "verdict.h"
 
 using namespace ostrel;

@@ -12,6 +12,8 @@ inline bool is_any(const char* value, const char* keyword, Fold fold)
     while (*keyword != '\0') {
         const char* next = keyword + *keyword;
         const char* c = value;
+        // The keyword moves on first, whatever the comparison says.
+        // NOLINTNEXTLINE(bugprone-inc-dec-in-conditions)
         while (++keyword != next && *keyword == fold(*c)) ++c;
         if (keyword == next && *c == '\0') return true;
         keyword = next;
