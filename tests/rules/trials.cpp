@@ -172,14 +172,15 @@ bool Trials::agrees(std::string_view input, Capture& capture)
     const Answer answer = rules::evaluate(check_, values_, build, &counts);
     if (answer.outside != rules::Outside::kNo) return true;
     caller_.load(function_, values_);
-    const Driver driver(*build.channels);
+    const auto& channels = build.channels.value();
+    const Driver driver(channels);
     const Outcome actual = actual_outcome(caller_, capture);
     ++calls;
     refusals += answer.is_refusal ? 1 : 0;
     const std::string fault =
         driver.has_left_its_list() ? "the list of channels is left" : reason_fault(answer);
     if (actual == outcome_of(answer) && fault.empty()) return true;
-    difference = shown_call(function_, values_) + "\nchannels " + testing::PrintToString(*build.channels) +
+    difference = shown_call(function_, values_) + "\nchannels " + testing::PrintToString(channels) +
                  "\nlibrary" + testing::PrintToString(actual) + "\ndescription" +
                  testing::PrintToString(outcome_of(answer)) + "\n" + fault;
     return false;

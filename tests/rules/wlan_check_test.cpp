@@ -132,7 +132,7 @@ TEST(WlanReasonTest, NamesWhatTheDriverLists)
 TEST(WlanChannelTest, EveryChannelOfEveryList)
 {
     for (const Build& build : tests::trial_builds()) {
-        const tests::Driver driver(*build.channels);
+        const tests::Driver driver(build.channels.value());
         for (int number = -4; number < 41; ++number) {
             const std::string channel = std::to_string(number);
             const int code = answer_of("WLAN_check_channel", {channel, "RADIO_2.4GHz"}, build).code;
