@@ -1,8 +1,6 @@
 // The steps of a check in a call.
 #include "rules/evaluate.h"
 
-#include <limits>
-
 #include "rules/rules.h"
 #include "rules/run.h"
 

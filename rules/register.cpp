@@ -154,7 +154,7 @@ void add(std::vector<Check>& all, std::string_view module, std::vector<Check> ch
     for (Check& check : checks) {
         check.module = module;
         check.number = all.size();
-        Registration{check};
+        const Registration registration(check);
         all.push_back(std::move(check));
     }
 }
@@ -194,7 +194,7 @@ const std::vector<Check>& checks()
 
 Check registered(Check check)
 {
-    Registration{check};
+    const Registration registration(check);
     link(check.steps, checks());
     return check;
 }

@@ -30,7 +30,7 @@ constexpr Group kGroups[] = {
 
 std::string bare(char byte)
 {
-    if (byte > ' ' && byte <= '~') return std::string(1, byte);
+    if (byte > ' ' && byte <= '~') return {byte};
     constexpr std::string_view kHexDigits = "0123456789ABCDEF";
     const auto code = static_cast<unsigned char>(byte);
     return {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
