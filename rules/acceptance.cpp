@@ -111,17 +111,20 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
     const Outcome first = follow(step.steps, scope);
     const Outcome second = follow(step.otherwise, other);
     const auto chosen = [&](const Claim& a, const Claim& b) {
-        return a == b ? a : claims_.either(claims_.both(holds, a), claims_.both(fails, b));
+        return a == b && a.is_decided ? a : claims_.either(claims_.both(holds, a), claims_.both(fails, b));
     };
-    // What only one of the cases remembers is read in that case alone.
+    // What only one of the cases remembers is read in that case alone. What is unknown in both need not be the same.
+    const auto is_same = [](const Term& a, const Term& b) {
+        return a == b && a.kind != Term::Kind::kUnknown && a.kind != Term::Kind::kDays;
+    };
     for (std::size_t i = 0; i < scope.slots.size(); ++i) {
         if (scope.slots[i].kind == Term::Kind::kUnset) {
             scope.slots[i] = other.slots[i];
-        } else if (other.slots[i].kind != Term::Kind::kUnset && scope.slots[i] != other.slots[i]) {
+        } else if (other.slots[i].kind != Term::Kind::kUnset && !is_same(scope.slots[i], other.slots[i])) {
             scope.slots[i] = anything();
         }
     }
-    if (scope.item != other.item) scope.item = anything();
+    if (!is_same(scope.item, other.item)) scope.item = anything();
     return {chosen(first.accepts, second.accepts), chosen(first.skips, second.skips),
             chosen(first.goes_on, second.goes_on)};
 }
@@ -158,6 +161,8 @@ Acceptance::Outcome Acceptance::repeat(const Step& step, Scope& scope)
 
 std::optional<Claim> Acceptance::for_items(const Term& list, const Step& step, Scope scope)
 {
+    // Where separators are taken off, too, empty items are passed over.
+    if (step.list->trimmed.contains(step.list->separator)) return std::nullopt;
     const bool is_of_target = list.kind == Term::Kind::kPart && list.variable == target_ && !list.is_integer;
     const std::size_t whole = target_;
     if (is_of_target) {

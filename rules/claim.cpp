@@ -13,7 +13,7 @@ Claim Claims::decided(Language holds)
 Claim Claims::unknown(Variables variables, std::size_t target)
 {
     Claim claim{languages_.any(), languages_.any(), false};
-    claim.is_about_target = variables.erase(target) > 0;
+    claim.is_about_target = variables.erase(target) > 0 || variables.empty();
     claim.others = std::move(variables);
     claim.factors.own = languages_.any();
     claim.factors.is_entangled = claim.is_about_target;

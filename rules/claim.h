@@ -54,7 +54,8 @@ class Claims {
     Claim always() { return decided(languages_.any()); }
     Claim never() { return decided(languages_.nothing()); }
 
-    // unknown depends on these arguments in a way that is not looked into.
+    // unknown depends on these arguments in a way that is not looked into. Where these are none, no other argument
+    // can make it right.
     Claim unknown(Variables variables, std::size_t target);
 
     // beyond says that the other argument's limit is not kept.

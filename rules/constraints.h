@@ -46,8 +46,10 @@ struct Constraints {
     Form form = {};
     std::vector<Limit> limits = {};            // set by other arguments
     std::vector<std::size_t> depends_on = {};  // other arguments that decide which values are right
-    bool is_necessary = false;                 // every value that is accepted obeys
+    bool is_necessary = false;                 // something is said, and every value that is accepted obeys
     bool is_sufficient = false;  // every value that obeys is accepted, the other arguments being right
+    bool is_schema_sufficient =
+        false;  // and so it is by lengths, keywords in their case and the pattern alone
     bool is_secret = false;
     std::optional<NullOutcome> null = {};  // of a text
 };

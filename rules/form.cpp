@@ -36,6 +36,12 @@ bool is_length(const Languages& languages, Language part)
     return leaf != nullptr && leaf->kind == Leaf::Kind::kLength && leaf->numbers.parts().size() == 1;
 }
 
+void take_number(const Intervals& numbers, Form& form)
+{
+    if (numbers.low() != Intervals::kLowest) form.minimum = numbers.low();
+    if (numbers.high() != Intervals::kHighest) form.maximum = numbers.high();
+}
+
 bool is_plain(const Form& form)
 {
     Form plain;
@@ -55,29 +61,36 @@ class Writer {
     {
     }
 
-    Form write(bool& says_all)
+    Said write()
     {
+        Said said;
+        if (summary_ && summary_->is_empty) {
+            said.form.keywords.emplace();
+            said.is_all = said.is_all_in_schema = true;
+            return said;
+        }
         Form keywords;
         for (const Language part : parts_) take_keywords(part, keywords);
-        says_all = keywords.keywords && includes_all(languages_, parts_, keywords);
-        if (!says_all) {
+        said.is_all = keywords.keywords && includes_all(languages_, parts_, keywords);
+        if (!said.is_all) {
             measure();
             for (const Language part : parts_) take(part);
             count_items();
-            says_all = includes_all(languages_, parts_, form_);
-            if (!says_all && summary_ && summary_->texts) {
+            said.is_all = includes_all(languages_, parts_, form_);
+            if (!said.is_all && summary_ && summary_->texts) {
                 keywords = {};
                 keywords.keywords = summary_->texts;
-                says_all = true;
+                said.is_all = true;
             }
         }
-        if (says_all && keywords.keywords) form_ = std::move(keywords);
-        const bool are_words_enough =
-            says_all && (is_plain(form_) || (form_.keywords && !form_.ignores_case));
-        if (!are_words_enough) says_all = write_pattern() || says_all;
+        if (said.is_all && keywords.keywords) form_ = std::move(keywords);
+        said.is_all_in_schema = said.is_all && (is_plain(form_) || (form_.keywords && !form_.ignores_case));
+        if (!said.is_all_in_schema) said.is_all_in_schema = write_pattern();
+        said.is_all = said.is_all || said.is_all_in_schema;
         form_.reads_number = reads_number(languages_, one_);
         if (const auto offer = offer_of(languages_, one_, form_)) form_.recommended = {offer->form};
-        return std::move(form_);
+        said.form = std::move(form_);
+        return said;
     }
 
  private:
@@ -94,7 +107,7 @@ class Writer {
 
     void measure()
     {
-        if (!summary_ || summary_->is_empty) return;
+        if (!summary_) return;
         if (summary_->shortest > 0) form_.min_length = summary_->shortest;
         form_.max_length = summary_->longest;
         if (summary_->bytes != kEveryByte && form_.max_length != 0) form_.characters = summary_->bytes;
@@ -112,8 +125,7 @@ class Writer {
                 if (!summary_) take_length(leaf->numbers);
                 break;
             case Leaf::Kind::kNumber:
-                if (leaf->numbers.low() != Intervals::kLowest) form_.minimum = leaf->numbers.low();
-                if (leaf->numbers.high() != Intervals::kHighest) form_.maximum = leaf->numbers.high();
+                take_number(leaf->numbers, form_);
                 break;
             case Leaf::Kind::kPrefix:
                 if (!form_.prefixes.empty()) break;
@@ -143,8 +155,7 @@ class Writer {
     {
         form_.separator = leaf.byte;
         form_.trimmed = leaf.trimmed;
-        bool says_all = false;
-        form_.item = {form_of_text(languages_, item_of(languages_, leaf, form_), says_all)};
+        form_.item = {form_of_text(languages_, item_of(languages_, leaf, form_)).form};
     }
 
     // count_items makes the number of items of that of separators.
@@ -160,7 +171,7 @@ class Writer {
         }
     }
 
-    // write_pattern leaves out what has no pattern, and tells whether that was nothing.
+    // write_pattern leaves out what has no pattern, and tells whether that was nothing. Lengths are said in words.
     bool write_pattern()
     {
         bool is_whole = true;
@@ -173,8 +184,10 @@ class Writer {
                 is_whole = false;
             }
         }
-        if (!written.empty()) form_.pattern = *pattern_of(languages_, languages_.both(written));
-        return is_whole;
+        if (written.empty()) return is_whole;
+        const std::optional<std::string> pattern = pattern_of(languages_, languages_.both(written));
+        form_.pattern = pattern.value_or("");
+        return is_whole && pattern;
     }
 
     Languages& languages_;
@@ -193,28 +206,16 @@ std::vector<Language> parts_of(const Languages& languages, Language one)
     return node.kind == Node::Kind::kBoth ? node.of : std::vector<Language>{one};
 }
 
-Language item_of(Languages& languages, const Leaf& list, const Form& form)
-{
-    const Set separator(std::string_view(&list.byte, 1));
-    const Set bytes = form.characters.value_or(kEveryByte) - separator;
-    return languages.both({list.inner, languages.repeated(bytes)});
-}
+Said form_of_text(Languages& languages, Language one) { return Writer(languages, one).write(); }
 
-Form form_of_text(Languages& languages, Language one, bool& says_all)
+Said form_of_number(const Languages& languages, Language one)
 {
-    return Writer(languages, one).write(says_all);
-}
-
-Form form_of_number(const Languages& languages, Language one, bool& says_all)
-{
-    Form form;
+    Said said{{}, one == languages.any()};
     const Leaf* leaf = languages.leaf(one);
-    says_all = one == languages.any();
-    if (leaf == nullptr || leaf->kind != Leaf::Kind::kNumber) return form;
-    if (leaf->numbers.low() != Intervals::kLowest) form.minimum = leaf->numbers.low();
-    if (leaf->numbers.high() != Intervals::kHighest) form.maximum = leaf->numbers.high();
-    says_all = leaf->numbers.parts().size() == 1;
-    return form;
+    if (leaf == nullptr || leaf->kind != Leaf::Kind::kNumber) return said;
+    take_number(leaf->numbers, said.form);
+    said.is_all = leaf->numbers.parts().size() == 1;
+    return said;
 }
 
 Language language_of(Languages& languages, const Form& form)

@@ -7,11 +7,18 @@
 
 namespace ostrel::rules {
 
-// form_of_text says what all texts of a language have in common. says_all: no other text has that.
-Form form_of_text(Languages& languages, Language one, bool& says_all);
+// Said is a form, and whether no other text has all that it says.
+struct Said {
+    Form form = {};
+    bool is_all = false;
+    bool is_all_in_schema = false;  // without what JSON Schema has no words for
+};
+
+// form_of_text says what all texts of a language have in common.
+Said form_of_text(Languages& languages, Language one);
 
 // form_of_number is for an int, of which no more than the lowest and the highest number is said.
-Form form_of_number(const Languages& languages, Language one, bool& says_all);
+Said form_of_number(const Languages& languages, Language one);
 
 // language_of holds the texts that have what a form says in words, its pattern aside.
 Language language_of(Languages& languages, const Form& form);

@@ -100,6 +100,13 @@ std::optional<Offer> list_of(Languages& languages, Language one, const Form& for
 
 }  // namespace
 
+Language item_of(Languages& languages, const Leaf& list, const Form& form)
+{
+    const Set separator(std::string_view(&list.byte, 1));
+    const Set bytes = form.characters.value_or(kEveryByte) - separator;
+    return languages.both({list.inner, languages.repeated(bytes)});
+}
+
 std::optional<Offer> offer_of(Languages& languages, Language one, const Form& form)
 {
     if (form.keywords) {

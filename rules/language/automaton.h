@@ -12,11 +12,15 @@
 namespace ostrel::rules {
 
 struct Automaton {
-    std::vector<Set> classes;  // bytes that every state treats alike
+    struct Arrow {
+        Set bytes;
+        std::size_t next;
+    };
     struct State {
         bool accepts = false;
-        std::vector<std::size_t> next = {};  // by class
+        std::vector<Arrow> arrows = {};  // one for each byte
     };
+
     std::vector<State> states;  // the first one is where a text begins
 };
 

@@ -131,13 +131,13 @@ std::optional<Language> Languages::within(const Cut& cut, Language inner)
     leaf.inner = inner;
     const Language one = byte(kEveryByte);
     if (cut.kind == Expression::Kind::kSlice) {
-        const std::size_t begin = cut.offset;
-        const Language whole =
-            joined({repeated(one, begin, begin), both({inner, repeated(one, cut.count, cut.count)}), any_});
-        const Language end = both({inner, cut.count == 0 ? nothing_ : repeated(one, 0, cut.count - 1)});
-        const bool takes_empty = node(inner).takes_empty && begin > 0;
-        const Language before = takes_empty ? repeated(one, 0, begin - 1) : nothing_;
-        return keep_leaf(std::move(leaf), either({whole, joined(repeated(one, begin, begin), end), before}));
+        const Language before = repeated(one, cut.offset, cut.offset);
+        const bool takes_empty = node(inner).takes_empty && cut.offset > 0;
+        const Language too_short = takes_empty ? repeated(one, 0, cut.offset - 1) : nothing_;
+        if (cut.count == kMany) return keep_leaf(std::move(leaf), either({joined(before, inner), too_short}));
+        const Language whole = joined(both({inner, repeated(one, cut.count, cut.count)}), any_);
+        const Language end = cut.count == 0 ? nothing_ : both({inner, repeated(one, 0, cut.count - 1)});
+        return keep_leaf(std::move(leaf), either({joined(before, either({whole, end})), too_short}));
     }
     if (cut.separator.empty() || overlaps(cut.separator)) return std::nullopt;
     const Language separator = text(cut.separator);

@@ -131,14 +131,7 @@ class Writer {
         if (!pattern) return std::nullopt;
         if (pattern == kNever) return std::string(node.least == 0 ? "" : kNever);
         const bool is_byte = languages_.node(node.of[0]).kind == Kind::kByte;
-        const std::string one = is_byte ? *pattern : "(?:" + *pattern + ")";
-        const bool has_end = node.most != Languages::kMany;
-        if (node.least == 0 && !has_end) return one + "*";
-        if (node.least == 1 && !has_end) return one + "+";
-        if (node.least == 0 && node.most == 1) return one + "?";
-        std::string count = std::to_string(node.least);
-        if (node.least != node.most) count += has_end ? "," + std::to_string(node.most) : ",";
-        return one + "{" + count + "}";
+        return times_of(is_byte ? *pattern : "(?:" + *pattern + ")", node.least, node.most);
     }
 
     Pattern any_of(const std::vector<Language>& parts, const Context& context)

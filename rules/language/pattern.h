@@ -16,6 +16,9 @@ std::optional<std::string> pattern_of(Languages& languages, Language one);
 // class_of gives an expression for one byte of the set.
 std::string class_of(const Set& set);
 
+// times_of gives an expression for that one so many times.
+std::string times_of(const std::string& one, std::size_t least, std::size_t most);
+
 }  // namespace ostrel::rules
 
 #endif

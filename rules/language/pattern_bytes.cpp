@@ -1,4 +1,4 @@
-// Bytes and sets of them in a pattern.
+// What patterns are made of: bytes, sets of them, and repetitions.
 #include "rules/language/language.h"
 #include "rules/language/pattern.h"
 
@@ -44,6 +44,17 @@ std::string class_of(const Set& set)
     const Set others = kEveryByte - set;
     if (others.size() < 32) return "[^" + ranges_of(others) + "]";
     return "[" + ranges_of(set) + "]";
+}
+
+std::string times_of(const std::string& one, std::size_t least, std::size_t most)
+{
+    const bool has_end = most != Languages::kMany;
+    if (least == 0 && !has_end) return one + "*";
+    if (least == 1 && !has_end) return one + "+";
+    if (least == 0 && most == 1) return one + "?";
+    std::string count = std::to_string(least);
+    if (least != most) count += has_end ? "," + std::to_string(most) : ",";
+    return one + "{" + count + "}";
 }
 
 }  // namespace ostrel::rules

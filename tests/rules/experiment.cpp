@@ -47,6 +47,7 @@ Experiment::Experiment(const Function& function, const Check& check) : function_
         constraints_.emplace_back();
         if (rules::has_constraints(check, i))
             constraints_.back() = rules::constraints_of(check, i, library_build());
+        reads_number_ = reads_number_ || (constraints_.back() && constraints_.back()->form.reads_number);
     }
     for (const Row& row : all_rows()) {
         if (row.given.function == &function) rows_.push_back(complete(function, row.given.values));
@@ -56,7 +57,7 @@ Experiment::Experiment(const Function& function, const Check& check) : function_
 std::optional<bool> Experiment::call(const Values& values, Capture& capture)
 {
     const rules::Answer answer = rules::evaluate(check_, values, build());
-    if (answer.outside != Outside::kNo || answer.beyond_int) return std::nullopt;
+    if (answer.outside != Outside::kNo || (answer.beyond_int && reads_number_)) return std::nullopt;
     caller_.load(function_, values);
     const Driver driver(*build().channels);
     const bool is_accepted = caller_.call() == 0;

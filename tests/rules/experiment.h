@@ -48,6 +48,7 @@ class Experiment {
     const catalogue::Function& function_;
     const rules::Check& check_;
     std::vector<std::optional<rules::Constraints>> constraints_;
+    bool reads_number_ = false;  // of any argument
     std::vector<Values> rows_;
     Obedience obedience_;
     catalogue::Caller caller_;

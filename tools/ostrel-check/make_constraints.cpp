@@ -2,12 +2,13 @@
 //
 // It takes longer than a command may, so it is run by the build.
 
+#include <algorithm>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
 #include "catalogue/case.h"
 #include "rules/constraints.h"
-#include "rules/json_schema.h"
+#include "rules/language/pattern.h"
 #include "rules/rules.h"
 
 namespace ostrel::tool {
@@ -116,9 +117,8 @@ ordered_json json_of(const Form& form)
     return result;
 }
 
-ordered_json json_of(const rules::Check& check, std::size_t argument)
+ordered_json json_of(const Constraints& constraints, const rules::Check& check)
 {
-    const Constraints constraints = rules::constraints_of(check, argument, this_build());
     ordered_json result = {{"necessary", constraints.is_necessary},
                            {"sufficient", constraints.is_sufficient},
                            {"exact", constraints.is_necessary && constraints.is_sufficient}};
@@ -132,49 +132,76 @@ ordered_json json_of(const rules::Check& check, std::size_t argument)
     return result;
 }
 
-ordered_json all_constraints()
+// definition_of says in the words of JSON Schema what a text must be.
+ordered_json definition_of(const Constraints& constraints, const rules::Argument& argument)
 {
-    ordered_json result = ordered_json::object();
-    for (const rules::Check& check : rules::checks()) {
-        ordered_json& arguments = result[std::string(check.name)] = ordered_json::array();
-        for (std::size_t i = 0; i < check.arguments.size(); ++i)
-            arguments.push_back(rules::has_constraints(check, i) ? json_of(check, i) : ordered_json());
-    }
-    return result;
-}
-
-ordered_json json_of(const rules::SchemaDefinition& definition)
-{
-    ordered_json result = {{"description", definition.argument->what}, {"type", "string"}};
-    if (definition.min_length > 0) result["minLength"] = definition.min_length;
-    add(result, "maxLength", definition.max_length);
-    if (definition.texts && definition.texts->empty()) {
+    const Form& form = constraints.form;
+    ordered_json result = {{"description", argument.what}, {"type", "string"}};
+    if (form.min_length) result["minLength"] = *form.min_length;
+    add(result, "maxLength", form.max_length);
+    if (form.keywords && form.keywords->empty()) {
         result["not"] = ordered_json::object();
-    } else if (definition.texts) {
-        result["enum"] = json_of(*definition.texts);
+    } else if (form.keywords && !form.ignores_case) {
+        result["enum"] = json_of(*form.keywords);
     }
-    if (!definition.pattern.empty()) result["pattern"] = definition.pattern;
-    if (definition.argument->is_secret) result["writeOnly"] = true;
-    if (definition.is_exact) result["x-ostrel-exact"] = true;
-    if (definition.reads_number) result["x-ostrel-reads-number"] = true;
+    if (!form.pattern.empty()) {
+        result["pattern"] = form.pattern;
+    } else if (form.characters) {
+        rules::Languages languages;
+        add(result, "pattern", rules::pattern_of(languages, languages.repeated(*form.characters)));
+    }
+    if (argument.is_secret) result["writeOnly"] = true;
+    if (constraints.is_schema_sufficient) result["x-ostrel-exact"] = true;
+    if (form.reads_number) result["x-ostrel-reads-number"] = true;
     return result;
 }
 
-ordered_json whole_schema()
+// judges_text tells whether an argument is a text, and all that the check is given.
+bool judges_text(const rules::Check& check, std::size_t argument)
 {
-    ordered_json result = {{"$schema", "https://json-schema.org/draft/2020-12/schema"},
-                           {"title", "What the checks of libostrel_check.so accept"},
-                           {"description",
-                            "A definition for each check of a single text, in which each character is the "
-                            "byte of the same number. With "
-                            "x-ostrel-exact it agrees with the check on every text of U+0001 to U+007E; "
-                            "without, it lets pass what the "
-                            "check accepts, and more. With x-ostrel-reads-number a number that an int does "
-                            "not hold is outside of that."}};
-    ordered_json& definitions = result["$defs"] = ordered_json::object();
-    for (const rules::SchemaDefinition& one : rules::schema_definitions(this_build()))
-        definitions[std::string(one.check->name)] = json_of(one);
+    using Kind = rules::Argument::Kind;
+    const auto is_given = [](const rules::Argument& one) {
+        return one.kind != Kind::kIntegerOut && !one.is_output;
+    };
+    const Kind kind = check.arguments[argument].kind;
+    return (kind == Kind::kText || kind == Kind::kBuffer) &&
+           std::ranges::count_if(check.arguments, is_given) == 1;
+}
+
+struct Derived {
+    ordered_json constraints = ordered_json::object();
+    ordered_json definitions = ordered_json::object();
+};
+
+Derived derive()
+{
+    Derived result;
+    for (const rules::Check& check : rules::checks()) {
+        const std::string name(check.name);
+        ordered_json& arguments = result.constraints[name] = ordered_json::array();
+        for (std::size_t i = 0; i < check.arguments.size(); ++i) {
+            ordered_json& argument = arguments.emplace_back(nullptr);
+            if (!rules::has_constraints(check, i)) continue;
+            const Constraints constraints = rules::constraints_of(check, i, this_build());
+            argument = json_of(constraints, check);
+            if (judges_text(check, i))
+                result.definitions[name] = definition_of(constraints, check.arguments[i]);
+        }
+    }
     return result;
+}
+
+ordered_json schema_of(ordered_json definitions)
+{
+    return {
+        {"$schema", "https://json-schema.org/draft/2020-12/schema"},
+        {"title", "What the checks of libostrel_check.so accept"},
+        {"description",
+         "A definition for each check of a single text. Each character of a string is the byte of the same "
+         "number. A definition with x-ostrel-exact agrees with its check on every string of U+0001 to "
+         "U+007E. One without it accepts every string that the check accepts, and others. With "
+         "x-ostrel-reads-number, strings with a number that an int does not hold are left out of that."},
+        {"$defs", std::move(definitions)}};
 }
 
 std::string function(std::string_view name, const ordered_json& json, int indent)
@@ -185,11 +212,12 @@ std::string function(std::string_view name, const ordered_json& json, int indent
 
 bool write(const char* path)
 {
+    const Derived derived = derive();
     std::ofstream file(path);
     file << "// Made by the build from the descriptions of rules/.\n#include \"constraints.h\"\n\n"
          << "namespace ostrel::tool {\n\n"
-         << function("constraints", all_constraints(), -1) << function("json_schema", whole_schema(), 1)
-         << "}  // namespace ostrel::tool\n";
+         << function("constraints", derived.constraints, -1)
+         << function("json_schema", schema_of(derived.definitions), 1) << "}  // namespace ostrel::tool\n";
     file.close();
     return file.good();
 }
