@@ -1,7 +1,4 @@
 // What expressions are where the arguments are not known.
-
-#include <algorithm>
-
 #include "rules/acceptance.h"
 
 namespace ostrel::rules {

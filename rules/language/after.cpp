@@ -34,6 +34,7 @@ Language Languages::after(Language one, char byte)
         case Kind::kEither:
         case Kind::kBoth: {
             std::vector<Language> parts;
+            parts.reserve(node.of.size());
             for (const Language part : node.of) parts.push_back(after(part, byte));
             result = combined(node.kind, std::move(parts));
             break;

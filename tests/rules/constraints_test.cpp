@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
@@ -158,7 +159,7 @@ TEST(ConstraintsTest, KeywordsInAnyCaseAreOfferedAsTheyAreWritten)
     EXPECT_FALSE(protocol.form.recommended.front().ignores_case);
 }
 
-// How much is said is shown.
+// What is said of which argument is shown.
 TEST(ConstraintsTest, HowMuchIsSaid)
 {
     std::map<std::string, std::string> names;
@@ -176,6 +177,7 @@ TEST(ConstraintsTest, HowMuchIsSaid)
         }
     }
     for (const auto& [how, which] : names) std::printf("%s:%s\n", how.c_str(), which.c_str());
+    EXPECT_GE(std::ranges::count(names["exact"], ' '), 130);
 }
 
 }  // namespace

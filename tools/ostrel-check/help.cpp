@@ -69,8 +69,8 @@ std::string_view list_help()
 what an accepted value may contain, and the constraints of each argument for
 programs and forms. --schema prints the JSON Schema of that.
 --json-schema prints a schema for values: a definition for each check of a single
-text, marked x-ostrel-exact where a validator of JSON Schema judges as the check
-does. --reference and --hazards print pages in Markdown, as they stand in docs/.
+text, marked x-ostrel-exact where a validator accepts the same values as the
+check. --reference and --hazards print pages in Markdown, as they stand in docs/.
 
 Examples:
   ostrel-check list
