@@ -33,9 +33,8 @@ Language Languages::after(Language one, char byte)
             break;
         case Kind::kEither:
         case Kind::kBoth: {
-            std::vector<Language> parts;
-            parts.reserve(node.of.size());
-            for (const Language part : node.of) parts.push_back(after(part, byte));
+            std::vector<Language> parts = node.of;
+            for (Language& part : parts) part = after(part, byte);
             result = combined(node.kind, std::move(parts));
             break;
         }

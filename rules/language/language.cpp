@@ -2,6 +2,7 @@
 #include "rules/language/language.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ostrel::rules {
 
@@ -145,8 +146,8 @@ Language Languages::opposite_of(Language one)
     const Node& node = nodes_[one.id];
     if (node.kind == Kind::kNot) return node.of[0];
     if (node.kind == Kind::kEither || node.kind == Kind::kBoth) {
-        std::vector<Language> parts;
-        for (const Language part : node.of) parts.push_back(negated(part));
+        std::vector<Language> parts = node.of;
+        for (Language& part : parts) part = negated(part);
         return combined(node.kind == Kind::kEither ? Kind::kBoth : Kind::kEither, std::move(parts));
     }
     if (const Leaf* given = leaf(one)) {
@@ -170,7 +171,8 @@ void Languages::flatten(Kind kind, std::vector<Language>& parts) const
         parts.erase(parts.begin() + static_cast<std::ptrdiff_t>(i));
     }
     std::ranges::sort(parts, {}, &Language::id);
-    parts.erase(std::unique(parts.begin(), parts.end()), parts.end());
+    std::optional<Language> last;
+    std::erase_if(parts, [&](Language part) { return std::exchange(last, part) == part; });
 }
 
 Language Languages::combined(Kind kind, std::vector<Language> parts)

@@ -99,6 +99,7 @@ Language Languages::words(const std::vector<std::string>& words, bool ignores_ca
 Language Languages::with_prefix(const std::vector<std::string>& words, bool ignores_case)
 {
     std::vector<Language> parts;
+    parts.reserve(words.size());
     for (const std::string& word : words) parts.push_back(joined(text(word, ignores_case), any_));
     return parts.empty() ? nothing_ : keep_leaf(leaf_of(Kind::kPrefix, words, ignores_case), either(parts));
 }

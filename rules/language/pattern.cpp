@@ -1,7 +1,5 @@
 #include "rules/language/pattern.h"
 
-#include <algorithm>
-
 #include "rules/language/automaton.h"
 
 namespace ostrel::rules {
@@ -168,7 +166,7 @@ class Writer {
         for (const Language part : parts) {
             const Node& one = languages_.node(same(part));
             const bool is_opposite = one.kind == Kind::kNot;
-            const Pattern pattern = whole(is_opposite ? one.of[0] : part, run_of(part) ? context : narrow);
+            Pattern pattern = whole(is_opposite ? one.of[0] : part, run_of(part) ? context : narrow);
             if (!pattern) return std::nullopt;
             if (pattern == kNever && !is_opposite) return pattern;
             if (is_opposite) {
@@ -206,7 +204,7 @@ class Writer {
             case Expression::Kind::kAfterFirst: {
                 const Pattern rest = whole(leaf.inner, context);
                 if (!rest) return std::nullopt;
-                const std::string found = without + separator + *rest;
+                std::string found = without + separator + *rest;
                 if (!languages_.node(leaf.inner).takes_empty) return found;
                 return "(?:" + found + "|" + without + context.end + ")";
             }

@@ -34,7 +34,7 @@ class Maker {
         words(form_.prefixes);
         for (const rules::Runs& shape : form_.shapes) groups(shape);
         if (form_.minimum || form_.maximum || form_.reads_number) limits();
-        if (form_.separator) lists();
+        if (form_.separator) lists(*form_.separator);
         std::size_t changed = 0;
         for (const std::string& text : some_of(result_, kMostChanged)) bytes(text, changed++ % 16 == 0);
         return std::move(result_);
@@ -43,7 +43,7 @@ class Maker {
  private:
     static std::string ends_of(const Set& set)
     {
-        const std::string members = set.members();
+        std::string members = set.members();
         if (members.size() < 3) return members;
         return {members.front(), members[members.size() / 2], members.back()};
     }
@@ -127,9 +127,9 @@ class Maker {
         }
     }
 
-    void lists()
+    void lists(char between)
     {
-        const std::string separator(1, *form_.separator);
+        const std::string separator(1, between);
         const std::size_t least = form_.min_items.value_or(1);
         const std::size_t most = form_.max_items.value_or(least + 2);
         const std::vector<std::string> paddings = {"", " ", form_.trimmed.members().substr(0, 1)};

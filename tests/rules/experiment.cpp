@@ -44,10 +44,10 @@ bool is_in_range(Kind kind, long long number)
 Experiment::Experiment(const Function& function, const Check& check) : function_(function), check_(check)
 {
     for (std::size_t i = 0; i < check.arguments.size(); ++i) {
-        constraints_.emplace_back();
-        if (rules::has_constraints(check, i))
-            constraints_.back() = rules::constraints_of(check, i, library_build());
-        reads_number_ = reads_number_ || (constraints_.back() && constraints_.back()->form.reads_number);
+        if (!rules::has_constraints(check, i)) continue;
+        const Constraints& said =
+            constraints_.emplace(i, rules::constraints_of(check, i, library_build())).first->second;
+        reads_number_ = reads_number_ || said.form.reads_number;
     }
     for (const Row& row : all_rows()) {
         if (row.given.function == &function) rows_.push_back(complete(function, row.given.values));
@@ -59,7 +59,7 @@ std::optional<bool> Experiment::call(const Values& values, Capture& capture)
     const rules::Answer answer = rules::evaluate(check_, values, build());
     if (answer.outside != Outside::kNo || (answer.beyond_int && reads_number_)) return std::nullopt;
     caller_.load(function_, values);
-    const Driver driver(*build().channels);
+    const Driver driver(build().channels.value_or(std::vector<int>()));
     const bool is_accepted = caller_.call() == 0;
     capture.clear();
     ++(is_accepted ? accepted : refused);
@@ -79,7 +79,7 @@ void Experiment::tell(std::string_view what, const Values& values, std::size_t a
 
 void Experiment::compare(const Values& values, std::size_t argument, bool is_accepted)
 {
-    const Constraints& constraints = *constraints_[argument];
+    const Constraints& constraints = constraints_.at(argument);
     const bool must_obey = is_accepted && constraints.is_necessary;
     const bool must_not = !is_accepted && constraints.is_sufficient;
     if (!must_obey && !must_not) return;
@@ -101,14 +101,14 @@ void Experiment::change(std::size_t times, Capture& capture)
         fuzz::decode_arguments(function_, std::string_view(mutator.next()).substr(1), values);
         if (!call(values, capture).value_or(false)) continue;
         for (std::size_t argument = 0; argument < values.size(); ++argument) {
-            if (constraints_[argument]) compare(values, argument, true);
+            if (constraints(argument) != nullptr) compare(values, argument, true);
         }
     }
 }
 
 Experiment::Values Experiment::candidates_for(std::size_t argument) const
 {
-    const Constraints& constraints = *constraints_[argument];
+    const Constraints& constraints = constraints_.at(argument);
     const Kind kind = function_.arguments[argument].kind;
     Values result;
     if (kind == Kind::kInteger || kind == Kind::kUnsigned) {
@@ -129,7 +129,7 @@ Experiment::Values Experiment::candidates_for(std::size_t argument) const
 
 void Experiment::vary(std::size_t argument, Capture& capture)
 {
-    const Constraints& constraints = *constraints_[argument];
+    const Constraints& constraints = constraints_.at(argument);
     const Values tried = candidates_for(argument);
     std::size_t rows = 0;
     for (const Values& row : rows_) {

@@ -3,7 +3,9 @@
 #define OSTREL_TESTS_RULES_EXPERIMENT_H
 
 #include <cstddef>
+#include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -27,9 +29,11 @@ class Experiment {
     // pass_null tells what NULL does there, by the description and, where the call can be made, by the library.
     std::set<rules::NullOutcome> pass_null(std::size_t argument, catalogue::Capture& capture);
 
-    [[nodiscard]] const std::optional<rules::Constraints>& constraints(std::size_t argument) const
+    // constraints gives what is said of an argument, or NULL.
+    [[nodiscard]] const rules::Constraints* constraints(std::size_t argument) const
     {
-        return constraints_[argument];
+        const auto found = constraints_.find(argument);
+        return found == constraints_.end() ? nullptr : &found->second;
     }
 
     std::string difference;  // of the first value that is not as was said
@@ -47,8 +51,8 @@ class Experiment {
 
     const catalogue::Function& function_;
     const rules::Check& check_;
-    std::vector<std::optional<rules::Constraints>> constraints_;
-    bool reads_number_ = false;  // of any argument
+    std::map<std::size_t, rules::Constraints> constraints_;  // by argument
+    bool reads_number_ = false;                              // of any argument
     std::vector<Values> rows_;
     Obedience obedience_;
     catalogue::Caller caller_;

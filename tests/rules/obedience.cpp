@@ -93,9 +93,9 @@ bool Obedience::matches(const std::string& pattern, const std::string& text)
     return std::regex_search(wide(text), known->second);
 }
 
-std::string Obedience::list_fault(const Form& form, const std::string& text)
+std::string Obedience::list_fault(const Form& form, char separator, const std::string& text)
 {
-    const std::vector<std::string> items = split(text, *form.separator);
+    const std::vector<std::string> items = split(text, separator);
     if (items.size() < form.min_items.value_or(0)) return "min_items";
     if (form.max_items && items.size() > *form.max_items) return "max_items";
     for (const std::string& item : items) {
@@ -125,7 +125,7 @@ std::string Obedience::fault(const Form& form, const std::string& text)
     if (form.minimum && number_in(text) < *form.minimum) return "minimum";
     if (form.maximum && number_in(text) > *form.maximum) return "maximum";
     if (form.separator) {
-        const std::string problem = list_fault(form, text);
+        const std::string problem = list_fault(form, *form.separator, text);
         if (!problem.empty()) return problem;
     }
     return form.pattern.empty() || matches(form.pattern, text) ? "" : "pattern";

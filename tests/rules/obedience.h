@@ -23,7 +23,7 @@ class Obedience {
 
  private:
     bool matches(const std::string& pattern, const std::string& text);
-    std::string list_fault(const rules::Form& form, const std::string& text);
+    std::string list_fault(const rules::Form& form, char separator, const std::string& text);
 
     std::map<std::string, std::wregex> patterns_;
 };

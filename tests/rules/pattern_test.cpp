@@ -25,7 +25,7 @@ TEST(PatternTest, MatchesTheSameTexts)
     for (const Language one : inner) {
         all.push_back(languages.items(',', {}, one));
         all.push_back(languages.items(',', Set(" "), languages.both({one, languages.repeated(Set("1a@"))})));
-        for (const Cut& cut : cuts()) all.push_back(*languages.within(cut, one));
+        for (const Cut& cut : cuts()) all.push_back(languages.within(cut, one).value());
     }
     all.push_back(languages.both({languages.items('@', {}, inner[4]), languages.repeated(Set("1@"))}));
     all.push_back(languages.both({languages.of_number({0, 5}), languages.repeated(Set("@"))}));
