@@ -23,7 +23,7 @@ namespace {
 class OfEachCheck : public testing::TestWithParam<const Check*> {
  protected:
     static const Check& check() { return *GetParam(); }
-    Experiment experiment() { return {*catalogue::find(check().name), check()}; }
+    static Experiment experiment() { return {*catalogue::find(check().name), check()}; }
 };
 
 TEST_P(OfEachCheck, AcceptedValuesObey)
