@@ -32,6 +32,7 @@ class Set {
         for (std::size_t i = 0; i < bits_.size(); ++i) set.bits_[i] |= other.bits_[i];
         return set;
     }
+    constexpr Set operator&(const Set& other) const { return *this - (*this - other); }
     constexpr Set operator-(const Set& other) const
     {
         Set set = *this;

@@ -1,6 +1,7 @@
 #include <nlohmann/json.hpp>
 
 #include "catalogue/case.h"
+#include "constraints.h"
 #include "explain.h"
 
 namespace ostrel::tool {
@@ -46,7 +47,8 @@ ordered_json json_of(const catalogue::Exposure& exposure)
     return result;
 }
 
-ordered_json json_of(const Argument& argument, const Study& study, std::size_t index)
+ordered_json json_of(const Argument& argument, const ordered_json& constraints, const Study& study,
+                     std::size_t index)
 {
     ordered_json result = {{"name", argument.name},
                            {"kind", name_of(argument.kind)},
@@ -60,10 +62,11 @@ ordered_json json_of(const Argument& argument, const Study& study, std::size_t i
     for (const catalogue::Exposure& exposure : study.exposures) {
         if (exposure.argument == &argument) result["may_contain"] = json_of(exposure);
     }
+    if (!constraints.is_null()) result["constraints"] = constraints;
     return result;
 }
 
-ordered_json json_of(const Study& study)
+ordered_json json_of(const Study& study, const ordered_json& constraints)
 {
     const Function& function = *study.function;
     ordered_json result = {{"name", function.name},
@@ -73,7 +76,8 @@ ordered_json json_of(const Study& study)
                            {"answers", function.is_verdict ? "code" : "number"}};
     result["arguments"] = ordered_json::array();
     for (std::size_t i = 0; i < function.arguments.size(); ++i) {
-        result["arguments"].push_back(json_of(function.arguments[i], study, i));
+        const ordered_json& given = constraints.is_null() ? constraints : constraints[i];
+        result["arguments"].push_back(json_of(function.arguments[i], given, study, i));
     }
     result["codes"] = ordered_json::array();
     const auto add = [&](int code, std::string_view condition, const std::vector<std::string>& lines) {
@@ -98,8 +102,11 @@ std::string list_json()
 {
     ordered_json result = {{"version", OSTREL_VERSION}};
     result["checks"] = ordered_json::array();
-    for (const Function& function : catalogue::functions())
-        result["checks"].push_back(json_of(study(function)));
+    const ordered_json all = ordered_json::parse(constraints());
+    for (const Function& function : catalogue::functions()) {
+        const auto found = all.find(function.name);
+        result["checks"].push_back(json_of(study(function), found == all.end() ? ordered_json() : *found));
+    }
     return result.dump(1) + "\n";
 }
 

@@ -20,7 +20,8 @@ void add_names(Words& candidates)
 
 Words options_of(std::string_view command)
 {
-    if (command == "list") return {"--json", "--schema", "--reference", "--hazards", "--help"};
+    if (command == "list")
+        return {"--json", "--schema", "--json-schema", "--reference", "--hazards", "--help"};
     if (command == "batch") {
         return {"--json", "--stream", "--only-refused", "--jobs", "--limit-time", "--channels", "--help"};
     }

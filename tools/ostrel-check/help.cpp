@@ -66,13 +66,17 @@ process or did not return.)";
 std::string_view list_help()
 {
     return R"(With --json the whole catalogue: arguments, rules, codes with what is printed,
-what an accepted value may contain. --schema prints the JSON Schema of that.
---reference and --hazards print pages in Markdown, as they stand in docs/.
+what an accepted value may contain, and the constraints of each argument for
+programs and forms. --schema prints the JSON Schema of that.
+--json-schema prints a schema for values: a definition for each check of a single
+text, marked x-ostrel-exact where a validator accepts the same values as the
+check. --reference and --hazards print pages in Markdown, as they stand in docs/.
 
 Examples:
   ostrel-check list
   ostrel-check list --json >catalogue.json
-  ostrel-check list --schema >catalogue.schema.json)";
+  ostrel-check list --schema >catalogue.schema.json
+  ostrel-check list --json-schema >values.schema.json)";
 }
 
 std::string_view explain_help()

@@ -15,6 +15,7 @@
 #include "catalogue/case.h"
 #include "catalogue/texts.h"
 #include "complete.h"
+#include "constraints.h"
 #include "driver.h"
 #include "explain.h"
 #include "help.h"
@@ -79,6 +80,7 @@ struct Options {
     std::string name;
     bool json = false;
     bool schema = false;
+    bool json_schema = false;
     bool reference = false;
     bool hazards = false;
     bool stream = false;
@@ -111,6 +113,7 @@ CLI::App* add_list(CLI::App& app, Options& options)
     CLI::Option_group* forms = list->add_option_group("Forms");
     forms->add_flag("--json", options.json, "The catalogue in JSON");
     forms->add_flag("--schema", options.schema, "The JSON Schema of that");
+    forms->add_flag("--json-schema", options.json_schema, "A JSON Schema for what the checks accept");
     forms->add_flag("--reference", options.reference, "The reference in Markdown");
     forms->add_flag("--hazards", options.hazards, "What accepted values may hold, in Markdown");
     forms->require_option(0, 1);
@@ -143,6 +146,8 @@ int show_list(const Options& options)
         text = list_json();
     } else if (options.schema) {
         text = catalogue::schema();
+    } else if (options.json_schema) {
+        text = json_schema();
     } else if (options.reference) {
         text = reference();
     } else {

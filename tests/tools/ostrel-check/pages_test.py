@@ -81,7 +81,7 @@ class Surroundings(unittest.TestCase):
         page = str(SOURCE / "docs" / "ostrel-check.1")
         self.assertEqual("", output_of("mandoc", "-T", "lint", "-W", "style", page))
         text = re.sub(".\b", "", output_of("mandoc", "-T", "ascii", page))
-        for option in ("json", "schema", "stream", "only-refused", "jobs", "limit-time", "channels"):
+        for option in ("json", "schema", "json-schema", "stream", "only-refused", "jobs", "limit-time", "channels"):
             self.assertIn("--" + option, text)
 
     def complete_in_bash(self, *words):

@@ -1,0 +1,95 @@
+// Acceptance: for which texts of one argument a check answers 0, read from its steps without a call.
+//
+// It is for constraints.cpp. What no word says exactly is bounded from above, so that a claim may be too weak and is
+// never false; numbers beyond an int are read as the numbers that they are.
+#ifndef OSTREL_RULES_ACCEPTANCE_H
+#define OSTREL_RULES_ACCEPTANCE_H
+
+#include <optional>
+#include <vector>
+
+#include "rules/build.h"
+#include "rules/claim.h"
+#include "rules/term.h"
+#include "rules/vocabulary.h"
+
+namespace ostrel::rules {
+
+class Acceptance {
+ public:
+    Acceptance(Languages& languages, const Build& build, const Check& check, std::size_t target)
+        : languages_(languages),
+          claims_(languages),
+          build_(build),
+          check_(check),
+          target_(target),
+          variables_(check.arguments.size())
+    {
+    }
+
+    // claim says when the check answers 0. The target is neither NULL nor only written.
+    Claim claim();
+
+ private:
+    // Scope is a check whose steps are followed: the one that was called, or one that it uses.
+    struct Scope {
+        std::vector<Term> slots;
+        Term item = {};
+        bool is_called = false;
+    };
+
+    // Outcome says when steps answer 0, go on with the next item, or come to their end.
+    struct Outcome {
+        Claim accepts;
+        Claim skips;
+        Claim goes_on;
+    };
+
+    Outcome follow(const std::vector<Step>& steps, Scope& scope);
+    Outcome follow(const Step& step, Scope& scope);
+    Outcome choose(const Step& step, Scope& scope);
+    Outcome repeat(const Step& step, Scope& scope);
+    std::optional<Claim> for_items(const Term& list, const Step& step, Scope scope);
+    Claim accepted_by(const Check& check, Scope& scope);
+    Outcome going_on(Claim claim) { return {claims_.never(), claims_.never(), std::move(claim)}; }
+    void write(const Step& step, Scope& scope);
+    void forget(const std::vector<Write>& writes, Scope& scope);
+    void forget(const std::vector<Step>& steps, Scope& scope);
+
+    Claim condition(const Condition& condition, const Scope& scope);
+    Claim unnegated(const Condition& condition, const Scope& scope);
+    Claim outside(const Condition& condition, const Scope& scope);
+    Claim length(const Condition& condition, const Scope& scope);
+    Claim number(const Condition& condition, const Scope& scope);
+    Claim above_days(const Term& judged, const Term& days);
+    Claim in_leap_year(const Term& year);
+    Claim equality(const Condition& condition, const Scope& scope);
+    Claim row(const Condition& condition, const Scope& scope);
+    Claim refused_by(const Condition& condition, const Scope& scope);
+    Claim all_of(const std::vector<Condition>& parts, const Scope& scope);
+
+    // A text is of a language, a number is one of those.
+    Claim text_in(const Term& term, Language language);
+    Claim number_in(const Term& term, const Intervals& numbers);
+    Claim unknown(const Term& a, const Term& b = {});
+    bool is_limit(const Term& judged, const Term& limit) const;
+
+    Term term(const Expression& expression, const Scope& scope);
+    Term cut(const Expression& expression, const Scope& scope);
+    Term slice(const Expression& expression, const Scope& scope);
+    Term sum(const Expression& expression, const Scope& scope);
+    Term measure(const Expression& expression, const Scope& scope);
+    Term unknown_of(const Expression& expression, const Scope& scope);
+    [[nodiscard]] Term anything() const;
+
+    Languages& languages_;
+    Claims claims_;
+    const Build& build_;
+    const Check& check_;
+    std::size_t target_;
+    std::size_t variables_;  // so many there are: arguments, and items of lists
+};
+
+}  // namespace ostrel::rules
+
+#endif

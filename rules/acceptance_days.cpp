@@ -1,0 +1,37 @@
+// What is said of a day that has to be one of a month.
+
+#include "rules/acceptance.h"
+
+namespace ostrel::rules {
+
+Claim Acceptance::in_leap_year(const Term& year)
+{
+    if (year.kind == Term::Kind::kNumber) {
+        const long long number = year.number;
+        const bool is_leap_year = number % 4 == 0 && (number % 100 != 0 || number % 400 == 0);
+        return is_leap_year ? claims_.always() : claims_.never();
+    }
+    return text_in(year, languages_.leap_years());
+}
+
+// above_days tells whether a day is beyond the end of its month. A month that there is none such has no day.
+Claim Acceptance::above_days(const Term& judged, const Term& days)
+{
+    const Term& month = days.of[1];
+    const auto above = [&](long long limit) { return number_in(judged, {limit + 1, Intervals::kHighest}); };
+    const auto is_month = [&](const Intervals& numbers) { return number_in(month, numbers); };
+    const Intervals february(2, 2);
+    const Intervals short_months = Intervals(4, 4) | Intervals(6, 6) | Intervals(9, 9) | Intervals(11, 11);
+    const Intervals long_months = Intervals(1, 12) & ~(february | short_months);
+    const Claim leap = in_leap_year(days.of[0]);
+    const Claim in_february =
+        claims_.either(claims_.both(leap, above(29)), claims_.both(claims_.negated(leap), above(28)));
+    Claim claim = claims_.both(is_month(february), in_february);
+    claim = claims_.either(claim, claims_.both(is_month(short_months), above(30)));
+    claim = claims_.either(claim, claims_.both(is_month(long_months), above(31)));
+    claim = claims_.either(claim, claims_.both(is_month(~Intervals(1, 12)), above(0)));
+    // Whatever the month is, it has none that is 0 or below, and all that are above 31.
+    return claims_.both(claims_.either(claim, above(31)), above(0));
+}
+
+}  // namespace ostrel::rules

@@ -1,0 +1,170 @@
+// Languages: sets of texts, made of bytes, sequences, choices and repetitions, of which all, any or none must hold.
+//
+// Each is kept once, so that two that are made alike are one. What was made of a condition stays known as that, a
+// leaf: a length, a number, keywords. A number is read as atoi reads it, whatever it needs to be held.
+#ifndef OSTREL_RULES_LANGUAGE_LANGUAGE_H
+#define OSTREL_RULES_LANGUAGE_LANGUAGE_H
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <limits>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "rules/expression.h"
+#include "rules/language/intervals.h"
+#include "rules/set.h"
+
+namespace ostrel::rules {
+
+struct Language {
+    std::uint32_t id = 0;
+
+    bool operator==(const Language&) const = default;
+};
+
+// kEveryByte holds the bytes that a text can have.
+inline constexpr Set kEveryByte = Set::range(1, 255);
+
+// Cut takes a part of a text, as the expression of that name does.
+struct Cut {
+    Expression::Kind kind;
+    std::string separator;
+    std::size_t offset = 0;  // of a slice
+    std::size_t count = 0;
+
+    bool operator==(const Cut&) const = default;
+};
+
+// Run is so many bytes of one set, as a group of a shape.
+struct Run {
+    Set characters;
+    std::size_t least = 1;
+    std::size_t most = 1;
+
+    bool operator==(const Run&) const = default;
+};
+using Runs = std::vector<Run>;
+
+struct Leaf {
+    enum class Kind {
+        kLength,  // the number of bytes is one of numbers
+        kNumber,  // the number that atoi reads is one of numbers
+        kCount,   // the byte occurs so often
+        kWords,   // it is one of words
+        kPrefix,  // it begins with one of words
+        kShape,   // it has one of shapes
+        kWithin,  // its part is of the inner language
+        kItems,   // each item is of the inner language
+    };
+
+    Kind kind;
+    Intervals numbers = {};
+    char byte = '\0';  // or the separator of items
+    std::vector<std::string> words = {};
+    bool ignores_case = false;
+    std::vector<Runs> shapes = {};
+    Cut cut = {};
+    Set trimmed = {};
+    Language inner = {};
+};
+
+struct Node {
+    enum class Kind {
+        kNothing,  // no text
+        kNoByte,   // the empty text
+        kByte,     // one byte of the set
+        kJoined,   // the first of two, then the second
+        kEither,
+        kBoth,
+        kNot,
+        kRepeated,  // at least and at most so often
+        kLeaf,      // the same as its only part
+    };
+
+    Kind kind;
+    Set set = {};
+    std::vector<Language> of = {};
+    std::size_t least = 0;
+    std::size_t most = 0;
+    std::size_t leaf = 0;
+    bool takes_empty = false;  // the empty text is of it
+};
+
+class Languages {
+ public:
+    static constexpr std::size_t kMany = std::numeric_limits<std::size_t>::max();
+
+    Languages();
+
+    [[nodiscard]] Language nothing() const { return nothing_; }
+    [[nodiscard]] Language any() const { return any_; }
+    [[nodiscard]] Language no_byte() const { return no_byte_; }
+    Language byte(const Set& set);
+    Language text(std::string_view text, bool ignores_case = false);
+    Language joined(Language first, Language second);
+    Language joined(const std::vector<Language>& parts);
+    Language either(const std::vector<Language>& parts);
+    Language both(const std::vector<Language>& parts);
+    Language negated(Language one);
+    Language repeated(Language one, std::size_t least, std::size_t most = kMany);
+    Language repeated(const Set& set) { return repeated(byte(set), 0); }
+
+    // Leaves.
+    Language of_length(const Intervals& lengths);
+    Language of_number(const Intervals& numbers);
+    Language with_count(char byte, const Intervals& times);
+    Language words(const std::vector<std::string>& words, bool ignores_case);
+    Language with_prefix(const std::vector<std::string>& words, bool ignores_case);
+    // Of shapes that a match from left to right would judge otherwise there is none.
+    std::optional<Language> of_shape(const std::vector<Runs>& shapes);
+    // Of a separator that can overlap with itself there is none.
+    std::optional<Language> within(const Cut& cut, Language inner);
+    Language items(char separator, const Set& trimmed, Language inner);
+
+    // leap_years holds texts of which atoi reads such a year.
+    Language leap_years();
+
+    // decimals holds the numbers from 0 on as they are written without leading zeros.
+    Language decimals(long long low, long long high);
+
+    // after gives what may follow that byte.
+    Language after(Language one, char byte);
+    [[nodiscard]] bool contains(Language one, std::string_view text);
+
+    [[nodiscard]] const Node& node(Language one) const { return nodes_[one.id]; }
+    [[nodiscard]] const Leaf* leaf(Language one) const;
+
+ private:
+    Language keep(Node node);
+    Language keep_leaf(Leaf leaf, Language same);
+    void flatten(Node::Kind kind, std::vector<Language>& parts) const;
+    void merge_leaves(Node::Kind kind, std::vector<Language>& parts);
+    Language merged(Node::Kind kind, const Leaf& a, const Leaf& b);
+    void choose_words(std::vector<Language>& parts);
+    [[nodiscard]] bool is_byte_run(const Node& node) const;
+    void merge_sets(Node::Kind kind, std::vector<Language>& parts);
+    void drop_opposites(Node::Kind kind, std::vector<Language>& parts);
+    Language opposite_of(Language one);
+    Language combined(Node::Kind kind, std::vector<Language> parts);
+    Language direct_number(const Intervals& numbers);
+    Language decimals_of_length(std::string low, const std::string& high);
+    Language not_having(std::string_view part);
+
+    std::deque<Node> nodes_;
+    std::deque<Leaf> leaves_;
+    std::unordered_map<std::string, Language> known_;
+    std::unordered_map<std::uint32_t, Language> negated_;
+    std::unordered_map<std::uint64_t, Language> after_;
+    Language nothing_;
+    Language no_byte_;
+    Language any_;
+};
+
+}  // namespace ostrel::rules
+
+#endif

@@ -1,0 +1,69 @@
+// Term: what an expression is where the arguments are not known: a part of one of them, or what is not looked into.
+#ifndef OSTREL_RULES_TERM_H
+#define OSTREL_RULES_TERM_H
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "rules/claim.h"
+
+namespace ostrel::rules {
+
+struct Term {
+    enum class Kind {
+        kUnset,    // not remembered yet
+        kUnknown,  // depends on the variables
+        kPart,     // of the variable, by cuts from the first to the last
+        kLength,   // the bytes of such a part, and number more
+        kCount,    // how often the byte occurs in such a part, and number more
+        kText,     // as it stands
+        kNumber,   // as it stands
+        kDays,     // how many days the month has; of has the year and the month
+        kSet,      // as it stands
+    };
+
+    Kind kind = Kind::kUnset;
+    Variables variables = {};  // that it depends on
+    std::size_t variable = 0;
+    bool is_integer = false;  // the variable is an int
+    std::vector<Cut> cuts = {};
+    char byte = '\0';
+    long long number = 0;
+    std::string text = {};
+    Set set = {};
+    std::vector<Term> of = {};
+
+    bool operator==(const Term&) const = default;
+};
+
+inline Term unknown_term(Variables variables)
+{
+    Term term{Term::Kind::kUnknown};
+    term.variables = std::move(variables);
+    return term;
+}
+
+inline Term part_of(std::size_t variable, bool is_integer = false)
+{
+    Term term{Term::Kind::kPart, {variable}, variable, is_integer};
+    return term;
+}
+
+inline Term term_of(std::string_view text)
+{
+    Term term{Term::Kind::kText};
+    term.text = text;
+    return term;
+}
+
+inline Term term_of(long long number)
+{
+    Term term{Term::Kind::kNumber};
+    term.number = number;
+    return term;
+}
+
+}  // namespace ostrel::rules
+
+#endif

@@ -1,0 +1,21 @@
+// Candidates: values that lie on both sides of what constraints say.
+#ifndef OSTREL_TESTS_RULES_CANDIDATES_H
+#define OSTREL_TESTS_RULES_CANDIDATES_H
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "rules/constraints.h"
+
+namespace ostrel::tests {
+
+// candidates gives texts for a form, made of it and of texts that are known.
+std::set<std::string> candidates(const rules::Form& form, const std::set<std::string>& known);
+
+// numbers gives ints for a form.
+std::vector<long long> numbers(const rules::Form& form);
+
+}  // namespace ostrel::tests
+
+#endif

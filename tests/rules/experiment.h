@@ -1,0 +1,63 @@
+// Experiment: calls of one function that test what is said of its arguments.
+#ifndef OSTREL_TESTS_RULES_EXPERIMENT_H
+#define OSTREL_TESTS_RULES_EXPERIMENT_H
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "rules/constraints.h"
+#include "tests/rules/obedience.h"
+#include "tests/rules/trials.h"
+
+namespace ostrel::tests {
+
+class Experiment {
+ public:
+    Experiment(const catalogue::Function& function, const rules::Check& check);
+
+    // change makes so many calls of changed rows: what is accepted must obey.
+    void change(std::size_t times, catalogue::Capture& capture);
+
+    // vary puts candidates for an argument in accepted rows: what is accepted must obey and, where that is said to
+    // be enough, the reverse. Recommended values must be accepted, too.
+    void vary(std::size_t argument, catalogue::Capture& capture);
+
+    // pass_null tells what NULL does there, by the description and, where the call can be made, by the library.
+    std::set<rules::NullOutcome> pass_null(std::size_t argument, catalogue::Capture& capture);
+
+    // constraints gives what is said of an argument, or NULL.
+    [[nodiscard]] const rules::Constraints* constraints(std::size_t argument) const
+    {
+        const auto found = constraints_.find(argument);
+        return found == constraints_.end() ? nullptr : &found->second;
+    }
+
+    std::string difference;  // of the first value that is not as was said
+    std::size_t accepted = 0;
+    std::size_t refused = 0;
+
+ private:
+    using Values = std::vector<catalogue::Value>;
+
+    // call tells whether the library accepts the values. Nothing: the call must not be made, or builds differ.
+    std::optional<bool> call(const Values& values, catalogue::Capture& capture);
+    void tell(std::string_view what, const Values& values, std::size_t argument);
+    void compare(const Values& values, std::size_t argument, bool is_accepted);
+    [[nodiscard]] Values candidates_for(std::size_t argument) const;
+
+    const catalogue::Function& function_;
+    const rules::Check& check_;
+    std::map<std::size_t, rules::Constraints> constraints_;  // by argument
+    bool reads_number_ = false;                              // of any argument
+    std::vector<Values> rows_;
+    Obedience obedience_;
+    catalogue::Caller caller_;
+};
+
+}  // namespace ostrel::tests
+
+#endif
