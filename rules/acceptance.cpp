@@ -111,7 +111,9 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
     const Outcome first = follow(step.steps, scope);
     const Outcome second = follow(step.otherwise, other);
     const auto chosen = [&](const Claim& a, const Claim& b) {
-        return a == b && a.is_decided ? a : claims_.either(claims_.both(holds, a), claims_.both(fails, b));
+        if (a == b && a.is_decided) return a;
+        const Claim where_it_holds = claims_.both(holds, a);
+        return claims_.either(where_it_holds, claims_.both(fails, b));
     };
     // What only one of the cases remembers is read in that case alone. What is unknown in both need not be the same.
     const auto is_same = [](const Term& a, const Term& b) {

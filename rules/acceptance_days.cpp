@@ -23,15 +23,20 @@ Claim Acceptance::above_days(const Term& judged, const Term& days)
     const Intervals february(2, 2);
     const Intervals short_months = Intervals(4, 4) | Intervals(6, 6) | Intervals(9, 9) | Intervals(11, 11);
     const Intervals long_months = Intervals(1, 12) & ~(february | short_months);
+    const auto beyond_where = [&](const Claim& month_or_year, long long limit) {
+        const Claim is_above = above(limit);
+        return claims_.both(month_or_year, is_above);
+    };
     const Claim leap = in_leap_year(days.of[0]);
-    const Claim in_february =
-        claims_.either(claims_.both(leap, above(29)), claims_.both(claims_.negated(leap), above(28)));
+    const Claim beyond_29 = beyond_where(leap, 29);
+    const Claim in_february = claims_.either(beyond_29, beyond_where(claims_.negated(leap), 28));
     Claim claim = claims_.both(is_month(february), in_february);
-    claim = claims_.either(claim, claims_.both(is_month(short_months), above(30)));
-    claim = claims_.either(claim, claims_.both(is_month(long_months), above(31)));
-    claim = claims_.either(claim, claims_.both(is_month(~Intervals(1, 12)), above(0)));
+    claim = claims_.either(claim, beyond_where(is_month(short_months), 30));
+    claim = claims_.either(claim, beyond_where(is_month(long_months), 31));
+    claim = claims_.either(claim, beyond_where(is_month(~Intervals(1, 12)), 0));
     // Whatever the month is, it has none that is 0 or below, and all that are above 31.
-    return claims_.both(claims_.either(claim, above(31)), above(0));
+    claim = claims_.either(claim, above(31));
+    return claims_.both(claim, above(0));
 }
 
 }  // namespace ostrel::rules

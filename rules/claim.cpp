@@ -64,6 +64,11 @@ Claim Claims::both(const Claim& a, const Claim& b)
     return claim;
 }
 
-Claim Claims::either(const Claim& a, const Claim& b) { return negated(both(negated(a), negated(b))); }
+Claim Claims::either(const Claim& a, const Claim& b)
+{
+    const Claim not_a = negated(a);
+    const Claim not_b = negated(b);
+    return negated(both(not_a, not_b));
+}
 
 }  // namespace ostrel::rules

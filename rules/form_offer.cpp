@@ -28,7 +28,7 @@ Language written(Languages& languages, const Intervals& numbers)
     const Intervals negative = numbers & Intervals(Intervals::kLowest, -1);
     const Intervals others = numbers & Intervals(0, Intervals::kHighest);
     for (const Interval& one : negative.parts())
-        parts.push_back(languages.joined(languages.text("-"), languages.decimals(-one.high, -one.low)));
+        parts.push_back(languages.joined({languages.text("-"), languages.decimals(-one.high, -one.low)}));
     for (const Interval& one : others.parts()) parts.push_back(languages.decimals(one.low, one.high));
     return languages.either(parts);
 }

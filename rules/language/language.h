@@ -107,6 +107,8 @@ class Languages {
     Language byte(const Set& set);
     Language text(std::string_view text, bool ignores_case = false);
     Language joined(Language first, Language second);
+    // Where parts are made by calls, this one is for them: a list is made in its order by every compiler, and so what is
+    // derived does not depend on who compiled.
     Language joined(const std::vector<Language>& parts);
     Language either(const std::vector<Language>& parts);
     Language both(const std::vector<Language>& parts);

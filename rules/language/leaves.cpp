@@ -74,7 +74,8 @@ Language Languages::with_count(char byte, const Intervals& times)
     const Language one = joined(others, this->byte(Set(std::string_view(&byte, 1))));
     std::vector<Language> parts;
     for (const Interval& part : possible.parts()) {
-        parts.push_back(joined(repeated(one, static_cast<std::size_t>(part.low), limit(part.high)), others));
+        parts.push_back(
+            joined({repeated(one, static_cast<std::size_t>(part.low), limit(part.high)), others}));
     }
     if (possible == Intervals(0, Intervals::kHighest)) return any_;
     if (parts.empty()) return nothing_;

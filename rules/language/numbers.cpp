@@ -47,10 +47,12 @@ Language Languages::leap_years()
     const Set even("02468");
     const Language zero = text("0");
     // The last two digits of a number that 4 divides, other than 00.
-    const Language last = either({joined(byte(even - Set("0")), zero), joined(byte(even), byte(Set("48"))),
-                                  joined(byte(kDigits - even), byte(Set("26")))});
+    const Language last =
+        either({joined({byte(even - Set("0")), zero}), joined({byte(even), byte(Set("48"))}),
+                joined({byte(kDigits - even), byte(Set("26"))})});
     const Language divisible = either({byte(Set("048")), joined(digits, last)});
-    const Language century = joined(either({no_byte_, divisible, joined({digits, text("00")})}), text("00"));
+    const Language century =
+        joined({either({no_byte_, divisible, joined({digits, text("00")})}), text("00")});
     const Language sign = either({no_byte_, byte(Set("+-"))});
     const Language rest = either({no_byte_, joined(byte(kEveryByte - kDigits), any_)});
     return either({of_number({0, 0}), joined({repeated(kWhite), sign, either({divisible, century}), rest})});
@@ -65,22 +67,22 @@ Language Languages::decimals_of_length(std::string low, const std::string& high)
         return Set::range(static_cast<unsigned char>(first), static_cast<unsigned char>(last));
     };
     if (low.front() == high.front())
-        return joined(text(low.substr(0, 1)), decimals_of_length(low.substr(1), high.substr(1)));
+        return joined({text(low.substr(0, 1)), decimals_of_length(low.substr(1), high.substr(1))});
     std::vector<Language> parts;
     char first = low.front();
     char last = high.front();
     if (low.substr(1) != std::string(rest, '0')) {
         parts.push_back(
-            joined(text(low.substr(0, 1)), decimals_of_length(low.substr(1), std::string(rest, '9'))));
+            joined({text(low.substr(0, 1)), decimals_of_length(low.substr(1), std::string(rest, '9'))}));
         ++first;
     }
     if (high.substr(1) != std::string(rest, '9')) {
         parts.push_back(
-            joined(text(high.substr(0, 1)), decimals_of_length(std::string(rest, '0'), high.substr(1))));
+            joined({text(high.substr(0, 1)), decimals_of_length(std::string(rest, '0'), high.substr(1))}));
         --last;
     }
     if (first <= last)
-        parts.push_back(joined(byte(digits(first, last)), repeated(byte(kDigits), rest, rest)));
+        parts.push_back(joined({byte(digits(first, last)), repeated(byte(kDigits), rest, rest)}));
     return either(parts);
 }
 
@@ -94,7 +96,7 @@ Language Languages::decimals(long long low, long long high)
         if (first == "1" + std::string(rest, '0')) {
             // All numbers of some lengths.
             const std::size_t most = last.empty() ? kMany : last.size() - 2;
-            parts.push_back(joined(byte(kDigits - Set("0")), repeated(byte(kDigits), rest, most)));
+            parts.push_back(joined({byte(kDigits - Set("0")), repeated(byte(kDigits), rest, most)}));
             if (last.empty()) return either(parts);
             first = "1" + std::string(last.size() - 1, '0');
         } else {
