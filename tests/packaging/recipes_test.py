@@ -86,5 +86,6 @@ class Recipes(unittest.TestCase):
 
 if __name__ == "__main__":
     BUILD, SOURCE, CMAKE = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]), sys.argv[3]
-    VERSION = re.search(r"VERSION (\S+)", (SOURCE / "CMakeLists.txt").read_text().split("project(")[1])[1]
+    VERSION = ".".join(re.findall(r"(?m)^#define OSTREL_CHECK_VERSION_(?:MAJOR|MINOR|PATCH) (\d+)$",
+                                  (SOURCE / "include/ostrel/version.h").read_text()))
     unittest.main(argv=sys.argv[:1])
