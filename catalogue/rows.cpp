@@ -125,7 +125,7 @@ std::vector<Row> rows_of(const Function& function)
     if (lines == index.end()) return rows;
     for (const std::string_view line : lines->second) {
         const json row = json::parse(line);
-        if (!row.value("overflow", false)) rows.push_back(row_from_json(row));
+        if (!row.contains("long32") && !row.contains("wrapping")) rows.push_back(row_from_json(row));
     }
     return rows;
 }

@@ -19,7 +19,7 @@ struct Row {
     std::vector<Value> after;  // empty: as before
 };
 
-// rows_of gives the function's rows. Those that depend on how atoi overflows are left out.
+// rows_of gives the function's rows. Those whose answer depends on the C library are left out.
 std::vector<Row> rows_of(const Function& function);
 
 // Oddity is a behaviour that is kept on purpose.

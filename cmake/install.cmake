@@ -2,9 +2,6 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# The headers are found where they are installed, not in this tree.
-set_target_properties(ostrel_check PROPERTIES
-    INTERFACE_INCLUDE_DIRECTORIES $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
 install(TARGETS ostrel_check EXPORT ostrel_check
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})

@@ -33,12 +33,17 @@ constexpr std::string_view kLatin1Names[] = {
     "uacute", "ucirc",  "uuml",   "yacute", "thorn",  "yuml"};
 static_assert(std::size(kLatin1Names) == 0x100 - 0xA0);
 
+// kSubstitute stands for a character that no byte of ISO 8859-1 stands for.
+constexpr char kSubstitute = '\x1A';
+
 std::optional<char> numbered(std::string_view digits, int base)
 {
     unsigned number = 0;
     const char* const end = digits.data() + digits.size();
     const auto read = std::from_chars(digits.data(), end, number, base);
-    if (read.ec != std::errc() || read.ptr != end || number < 1 || number > 0xFF) return std::nullopt;
+    if (read.ec == std::errc::invalid_argument || read.ptr != end) return std::nullopt;
+    if (read.ec == std::errc::result_out_of_range || number > 0xFF) return kSubstitute;
+    if (number == 0) return std::nullopt;
     return static_cast<char>(static_cast<unsigned char>(number));
 }
 
@@ -80,7 +85,8 @@ std::string replaced(std::string_view text)
 const Conversion& character_references()
 {
     static const Conversion kReplaced = [] {
-        Conversion result = {"with character references replaced", replaced, {"&#65;", "&#x41;", "&#X41;"}};
+        Conversion result = {
+            "with character references replaced", replaced, {"&#65;", "&#x41;", "&#X41;", "&#8364;"}};
         for (const Name& name : kXmlNames) result.changed.push_back(reference(name.text));
         for (const std::string_view name : kLatin1Names) result.changed.push_back(reference(name));
         return result;

@@ -7,8 +7,9 @@
 namespace ostrel::rules {
 
 // character_references replaces each reference that stands for one byte of ISO 8859-1: the names of HTML 4 for these
-// characters, XML's five names, and the numbers 1 to 255, decimal and hexadecimal. Anything else stays as it is, a
-// reference without its ";" included. What a reference becomes is not read again.
+// characters, XML's five names, and the numbers 1 to 255, decimal and hexadecimal. A higher number becomes the control
+// character SUB. Anything else stays as it is, a reference without its ";" included. What a reference becomes is not
+// read again.
 const Conversion& character_references();
 
 }  // namespace ostrel::rules

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -38,6 +40,16 @@ std::vector<Value> arguments_of(const Case& given)
     return result;
 }
 
+// holds_a_long_number tells whether a number may be beyond an int, of which the models say nothing.
+bool holds_a_long_number(const Case& given)
+{
+    static const std::regex kLongNumber("[0-9]{10}");
+    return std::ranges::any_of(given.values, [](const Value& value) {
+        const auto* text = std::get_if<std::string>(&value);
+        return text != nullptr && std::regex_search(text->substr(0, 300), kLongNumber);
+    });
+}
+
 Outcome outcome_of(const Answer& answer)
 {
     return {answer.code, answer.out, answer.err, answer.flushed, answer.after};
@@ -49,12 +61,12 @@ TEST(ModelsTest, AgreeWithEveryVector)
     ASSERT_FALSE(rows.empty());
     Caller caller;
     for (const tests::Row& row : rows) {
-        if (row.overflows) continue;  // what atoi makes of it is no rule
         SCOPED_TRACE(row.text.substr(0, 300));
         const auto model = models().find(row.given.function->name);
         ASSERT_NE(models().end(), model);
         const Answer answer = model->second(arguments_of(row.given));
-        EXPECT_FALSE(answer.undefined);
+        EXPECT_TRUE(!answer.undefined || holds_a_long_number(row.given));
+        if (answer.undefined) continue;
         caller.load(*row.given.function, row.given.values);
         EXPECT_EQ(tests::expected_outcome(row, caller.written()), outcome_of(answer));
     }

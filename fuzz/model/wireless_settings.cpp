@@ -27,16 +27,15 @@ std::map<std::string, char> name_table()
     return names;
 }
 
-// number_in reads leading zeros too, however many, and nothing that is no digit.
+// number_in reads leading zeros too, however many, and nothing that is no digit. SUB is what no byte stands for.
 std::optional<char> number_in(std::string digits, int base)
 {
     const std::string_view set = base == 16 ? "0123456789abcdefABCDEF" : rule::kDigits;
     if (digits.find_first_not_of(set) != std::string::npos) return std::nullopt;
     digits.erase(0, digits.find_first_not_of('0'));
-    if (digits.empty() || digits.size() > 3) return std::nullopt;
-    const int code = std::stoi(digits, nullptr, base);
-    if (code > 255) return std::nullopt;
-    return static_cast<char>(code);
+    if (digits.empty()) return std::nullopt;
+    const int code = std::stoi(digits.substr(0, 4), nullptr, base);
+    return static_cast<char>(code > 255 ? 26 : code);
 }
 
 // meant is the byte that stands for what is between "&" and ";".

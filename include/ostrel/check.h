@@ -20,6 +20,7 @@
 #include <ostrel/strings.h>
 #include <ostrel/subnets.h>
 #include <ostrel/time_check.h>
+#include <ostrel/version.h>
 #include <ostrel/wireless.h>
 #include <ostrel/wlan_check.h>
 

@@ -9,6 +9,8 @@ namespace ostrel {
 namespace {
 
 constexpr int kHighestNumber = 255;
+// kBeyond is what a higher number becomes; as a byte it is the control character SUB.
+constexpr int kBeyond = 0x100 + 0x1A;
 constexpr std::size_t kLongestName = 6;
 
 // kLatin1Names holds the names of the characters from 0xA0 up, in code order (HTML 4, entity set Latin-1).
@@ -55,7 +57,7 @@ Reference numeric_reference(std::string_view text, std::size_t prefix, int base)
         const int digit = digit_value(text[i], base);
         if (digit >= base) return kNone;
         number = number * base + digit;
-        if (number > kHighestNumber) return kNone;
+        if (number > kHighestNumber) number = kBeyond;
     }
     return kNone;
 }

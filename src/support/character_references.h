@@ -10,9 +10,10 @@ namespace ostrel {
 // that they stand for and ends the text behind the last one; text[length] must be writable.
 //
 // It knows the names of HTML 4 for Latin-1 characters ("&nbsp;" to "&yuml;", "&quot;", "&amp;", "&lt;",
-// "&gt;"), XML's "&apos;", and the numbers 1 to 255 in decimal ("&#65;") and hexadecimal ("&#x41;",
-// "&#X41;"). Anything else stands as it is: an unknown name, a missing ";", another number. The text is read
-// once, so what a reference gives is not read again: "&amp;lt;" becomes "&lt;". The text never grows.
+// "&gt;"), XML's "&apos;", and numbers from 1 in decimal ("&#65;") and hexadecimal ("&#x41;", "&#X41;"), of which
+// those above 255 give the control character SUB. Anything else stays as it is: an unknown name, a missing ";", the
+// number 0. The text is read once, so what a reference gives is not read again: "&amp;lt;" becomes "&lt;". The text
+// never grows.
 void convert_references(char* text, std::size_t length);
 
 }  // namespace ostrel

@@ -3,14 +3,16 @@
 //
 // usage: pack_vectors OUTPUT VECTORS...
 //
-// The file begins with "ostrel vectors 1\n" and the number of rows. Numbers are 32 bits, least significant byte
+// The file begins with "ostrel vectors 2\n" and the number of rows. Numbers are 32 bits, least significant byte
 // first; a string is its length and its bytes; a text is the number of its parts, and for each how often it is
-// repeated and a string; NULL is 0xFFFFFFFF parts. A row is: label, function, kinds of the arguments (strings),
-// flags (1: overflow, 2: flushed), code, out, err (texts), and for each argument by its kind
+// repeated and a string; NULL is 0xFFFFFFFF parts. A row is: label, function, kinds of the arguments (strings), the C
+// libraries with which it holds (1: long of 64 bits, 2: bounds of an int, 4: wrapping), whether all is flushed, code,
+// out, err (texts), and for each argument by its kind
 //   i, u  the number
 //   t     a text that is only read
 //   n     1, the number before and the number after the call, or 0 for NULL
 //   b     the number of buffers, the bytes of each, their texts before and after the call
+// A row of the vectors with several answers is as many rows here.
 
 #include <algorithm>
 #include <cstdint>
@@ -27,10 +29,13 @@
 
 #include "catalogue/caller.h"
 #include "catalogue/case.h"
+#include "tests/support/answers.h"
 
 namespace ostrel::catalogue {
 
 using nlohmann::json;
+using tests::Atoi;
+using tests::kAtois;
 
 namespace {
 
@@ -122,7 +127,7 @@ void put_buffers(std::string& packed, std::size_t size, const json& before, cons
     for (const json& text : texts_after) put_text(packed, text);
 }
 
-std::string packed_row(const json& row, const std::string& label)
+std::string packed_row(const json& row, const std::string& label, std::uint32_t atois)
 {
     const Case given = case_from_json(row);
     Caller().load(*given.function, given.values);  // refuses what does not suit the function
@@ -135,7 +140,8 @@ std::string packed_row(const json& row, const std::string& label)
     std::string kinds;
     for (const Argument& argument : arguments) kinds += kind_letter(argument);
     put_string(packed, kinds);
-    put(packed, (row.value("overflow", false) ? 1U : 0U) | (row.value("flushed", true) ? 2U : 0U));
+    put(packed, atois);
+    put(packed, row.value("flushed", true) ? 1 : 0);
     put_number(packed, row.at("code"));
     put_text(packed, row.value("out", json("")));
     put_text(packed, row.value("err", json("")));
@@ -170,6 +176,24 @@ std::string packed_row(const json& row, const std::string& label)
     return packed;
 }
 
+// append_row packs the row once for each of its answers, and gives their number.
+std::uint32_t append_row(std::string& rows, const json& row, const std::string& label)
+{
+    std::uint32_t count = 1;
+    std::uint32_t others = 0;
+    for (const Atoi atoi : kAtois) {
+        const auto bit = static_cast<std::uint32_t>(atoi);
+        if (!tests::has_answer_for(row, atoi)) {
+            others |= bit;
+            continue;
+        }
+        rows += packed_row(tests::answered(row, atoi), label, bit);
+        ++count;
+    }
+    rows += packed_row(tests::answered(row, Atoi::kLong64), label, others);
+    return count;
+}
+
 int pack(const std::vector<std::filesystem::path>& paths, const char* output)
 {
     std::string rows;
@@ -182,14 +206,13 @@ int pack(const std::vector<std::filesystem::path>& paths, const char* output)
             if (line.empty()) continue;
             const std::string label = path.stem().string() + ":" + std::to_string(number);
             try {
-                rows += packed_row(json::parse(line), label);
+                count += append_row(rows, json::parse(line), label);
             } catch (const std::exception& error) {
                 throw std::runtime_error(label + ": " + error.what());
             }
-            ++count;
         }
     }
-    std::string head = "ostrel vectors 1\n";
+    std::string head = "ostrel vectors 2\n";
     put(head, count);
     std::ofstream file(output, std::ios::binary);
     file << head << rows << std::flush;

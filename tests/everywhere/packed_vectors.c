@@ -101,7 +101,7 @@ char* write_text(const struct text* text, char* to)
 
 unsigned long open_rows(const char* path)
 {
-    static const char kMagic[] = "ostrel vectors 1\n";
+    static const char kMagic[] = "ostrel vectors 2\n";
     unsigned char* contents;
     size_t size;
     FILE* file = fopen(path, "rb");
@@ -153,14 +153,12 @@ static void read_argument(struct argument* argument, char kind)
 
 void next_row(struct row* row)
 {
-    unsigned long flags;
     size_t i;
     read_string(row->label, sizeof row->label);
     read_string(row->function, sizeof row->function);
     read_string(row->kinds, sizeof row->kinds);
-    flags = number_from(&at);
-    row->depends_on_overflow = (flags & 1) != 0;
-    row->flushed = (flags & 2) != 0;
+    row->atois = number_from(&at);
+    row->flushed = number_from(&at) != 0;
     row->code = signed_number(number_from(&at));
     row->out = text_from(&at);
     row->err = text_from(&at);

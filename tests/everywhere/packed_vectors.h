@@ -28,7 +28,7 @@ struct row {
     char label[128];
     char function[64];
     char kinds[MOST_ARGUMENTS + 1];
-    int depends_on_overflow;
+    unsigned long atois; /* a bit for each kind of C library with which it holds */
     int flushed;
     long code;
     struct text out;

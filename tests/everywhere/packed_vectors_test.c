@@ -3,7 +3,7 @@
    usage: packed_vectors_test LIBRARY VECTORS
 
    Each row is run twice, with each argument ending, and with each argument beginning, at an unreadable page. The
-   last line is "N rows, N failed, N skipped". */
+   last line is "N rows, N failed". */
 #define _GNU_SOURCE
 #include <dlfcn.h>
 #include <signal.h>
@@ -179,14 +179,21 @@ static int run(void* function, enum edge edge)
     return failed;
 }
 
-/* The C library decides what atoi makes of a number that does not fit; rows that depend on it hold for glibc
-   where long has 64 bits. */
-static int applies_here(void)
+/* atoi_at_hand asks the C library what it makes of a number that does not fit: of a long of 64 bits the low 32, the
+   highest int, or the low 32 bits of the number. */
+static unsigned long atoi_at_hand(void)
 {
-#if defined(__GLIBC__) && !defined(__UCLIBC__)
-    if (sizeof(long) == 8) return 1;
-#endif
-    return !row.depends_on_overflow;
+    switch (atoi("99999999999999999999")) {
+        case -1:
+            return 1;
+        case 2147483647:
+            return 2;
+        case 1661992959:
+            return 4;
+        default:
+            give_up("the vectors know no C library with such an atoi");
+            return 0;
+    }
 }
 
 static void print_to_file(FILE* stream, int mode, size_t size)
@@ -200,8 +207,9 @@ int main(int argc, char** argv)
 {
     unsigned long rows;
     unsigned long failed = 0;
-    unsigned long skipped = 0;
+    unsigned long run_rows = 0;
     unsigned long i;
+    const unsigned long atoi_here = atoi_at_hand();
     void* library;
     if (argc != 3) give_up("usage: packed_vectors_test LIBRARY VECTORS");
     rows = open_rows(argv[2]);
@@ -221,17 +229,17 @@ int main(int argc, char** argv)
     for (i = 0; i < rows; ++i) {
         void* function;
         next_row(&row);
+        if ((row.atois & atoi_here) == 0) continue;
+        ++run_rows;
         function = dlsym(library, row.function);
         if (function == NULL) {
             fprintf(report, "%s: is not exported\n", row.label);
             ++failed;
-        } else if (!applies_here()) {
-            ++skipped;
         } else {
             failed += (unsigned long)(run(function, AT_END) | run(function, AT_BEGIN));
         }
     }
-    fprintf(report, "%lu rows, %lu failed, %lu skipped\n", rows, failed, skipped);
+    fprintf(report, "%lu rows, %lu failed\n", run_rows, failed);
     /* No row at all proves nothing. */
-    return failed > 0 || skipped == rows || fclose(report) != 0;
+    return failed > 0 || run_rows == 0 || fclose(report) != 0;
 }

@@ -12,6 +12,8 @@ import tempfile
 import unittest
 
 CONSUMER = pathlib.Path(__file__).parent / "consumer"
+SUBPROJECT = pathlib.Path(__file__).parent / "subproject"
+SOURCE = pathlib.Path(__file__).parents[2]
 COMPONENTS = ["runtime", "development", "tools"]
 ENVIRONMENT = {name: value for name, value in os.environ.items() if not name.startswith("CMAKE_")}
 
@@ -50,7 +52,7 @@ class Install(unittest.TestCase):
                           "share/zsh/site-functions/_ostrel-check"}, install(self.scratch / "tools", "tools"))
         development = install(self.scratch / "development", "development")
         headers = {name for name in development if name.startswith("include/")}
-        sources = CONSUMER.parents[2] / "include"
+        sources = SOURCE / "include"
         self.assertEqual({"include/" + str(path.relative_to(sources)) for path in sources.rglob("*.h")}, headers)
         for name in development - headers:
             self.assertRegex(name, r"/cmake/ostrel_check/.*\.cmake$|/pkgconfig/ostrel_check\.pc$")
@@ -72,9 +74,31 @@ class Install(unittest.TestCase):
                 run(CMAKE, "--build", build)
                 run(build / "consumer")
 
+    def test_cmake_subproject(self):
+        """A project adds the tree to its build, and gets the library and nothing else."""
+        build = self.scratch / "subproject"
+        run(CMAKE, "-S", SUBPROJECT, "-B", build, "-DOSTREL_SOURCE=%s" % SOURCE, "-DCMAKE_C_COMPILER=%s" % CC,
+            "-DCMAKE_CXX_COMPILER=%s" % CXX)
+        self.assertRegex((build / "CMakeCache.txt").read_text(), "(?m)^CMAKE_BUILD_TYPE:STRING=$")
+        run(CMAKE, "--build", build, "--parallel", "2")
+        run(build / "programs/consumer")
+        self.assertEqual([], [path.name for path in build.rglob("ostrel-check")])
+        self.assertEqual([], list(build.rglob("CTestTestfile.cmake")))
+        run(CMAKE, "--install", build, "--prefix", self.scratch / "nothing")
+        self.assertEqual([], [path for path in (self.scratch / "nothing").rglob("*") if path.is_file()])
+
+        # It is installed where the project asks for it.
+        run(CMAKE, "-DOSTREL_INSTALL=ON", build)
+        run(CMAKE, "--install", build, "--prefix", self.scratch / "library")
+        installed = {path.name for path in (self.scratch / "library").rglob("*")}
+        self.assertLessEqual({"libostrel_check.so", "check.h", "ostrel_check-config.cmake", "ostrel_check.pc"},
+                             installed)
+
     def test_pkg_config_consumers(self):
-        flags = run("pkg-config", "--cflags", "--libs", "ostrel_check",
-                    PKG_CONFIG_PATH=self.library.parent / "pkgconfig").split()
+        folder = self.library.parent / "pkgconfig"
+        flags = run("pkg-config", "--cflags", "--libs", "ostrel_check", PKG_CONFIG_PATH=folder).split()
+        version = run("pkg-config", "--modversion", "ostrel_check", PKG_CONFIG_PATH=folder).strip().split(".")
+        flags += ["-DFOUND_%s=%s" % found for found in zip(("MAJOR", "MINOR", "PATCH"), version)]
         for compiler, standard, source in ((CC, "c90", "consumer.c"), (CXX, "c++98", "consumer.cpp")):
             with self.subTest(compiler=compiler):
                 program = self.scratch / ("pkg_config_" + standard)

@@ -5,6 +5,7 @@ usage: debian_test.py BUILD_DIR SOURCE_DIR
 
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -64,6 +65,37 @@ class Debian(unittest.TestCase):
             for file in self.files:
                 run("dpkg-deb", "--extract", file, self.scratch / "extracted")
             self.assertNotIn("RUNPATH", run("readelf", "--dynamic", self.scratch / "extracted" / name))
+
+    def test_what_an_integrator_reads_is_there(self):
+        contents = {package: run("dpkg-deb", "--contents", file)
+                    for file in self.files for package in PACKAGES if file.name.startswith(package + "_")}
+        for package, names in {"libostrel-check": ["SECURITY.md", "hazards.md"],
+                               "libostrel-check-dev": ["compatibility.md", "reference.md", "examples/configd.c"],
+                               "ostrel-check": ["examples/home-gateway.txt", "examples/trouble/trouble.txt"]}.items():
+            for name in [*names, "changelog", "changelog.Debian", "copyright"]:
+                self.assertRegex(contents[package], r"(?m)/usr/share/doc/%s/%s(\.gz)?$" % (package, re.escape(name)))
+        for file in self.files:
+            run("dpkg-deb", "--extract", file, self.scratch / "documents")
+        changes = run("zcat", self.scratch / "documents/usr/share/doc/libostrel-check/changelog.gz")
+        self.assertEqual((SOURCE / "CHANGELOG.md").read_text(), changes)
+
+    def test_lintian_has_no_complaint(self):
+        """What is overridden is so with a reason, in packaging/debian."""
+        result = subprocess.run(["lintian", "--allow-root", "--fail-on", "error,warning", "--tag-display-limit", "0",
+                                 *map(str, self.files)], capture_output=True, text=True, check=False)
+        print(result.stdout + result.stderr)
+        self.assertEqual((0, ""), (result.returncode, result.stdout))
+
+    def test_lintian_sees_a_fault(self):
+        """Otherwise the test above would pass with any package."""
+        tree = self.scratch / "faulty"
+        run("dpkg-deb", "--raw-extract", self.files[0], tree)
+        for copyright_file in tree.rglob("copyright"):
+            copyright_file.unlink()
+        run("dpkg-deb", "--root-owner-group", "--build", tree, self.scratch / "faulty.deb")
+        result = subprocess.run(["lintian", "--allow-root", str(self.scratch / "faulty.deb")], capture_output=True,
+                                text=True, check=False)
+        self.assertIn("E: libostrel-check-dev: no-copyright-file", result.stdout)
 
     def test_the_same_bytes_each_time(self):
         run(SOURCE / "packaging/debian/build", BUILD, self.scratch / "again")

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <limits>
+#include <stdexcept>
 
 #include "fuzz/input.h"
 #include "fuzz/mutator.h"
@@ -54,14 +55,25 @@ const std::vector<Row>& rows()
 
 }  // namespace
 
+Build::Atoi build_atoi(Atoi atoi)
+{
+    switch (atoi) {
+        case Atoi::kLong64:
+            return Build::Atoi::kLong64;
+        case Atoi::kLong32:
+            return Build::Atoi::kLong32;
+        case Atoi::kWrapping:
+            return Build::Atoi::kWrapping;
+    }
+    throw std::logic_error("an atoi without a name");
+}
+
 const Build& library_build()
 {
     static const std::string model = chosen("OSTREL_TEST_MODEL", OSTREL_MODEL);
     static const std::string account_realm = chosen("OSTREL_TEST_ACCOUNT_REALM", OSTREL_ACCOUNT_REALM);
     static const std::string setup_realm = chosen("OSTREL_TEST_SETUP_REALM", OSTREL_SETUP_REALM);
-    static const Build build = {model, account_realm, setup_realm,
-                                sizeof(long) == 8 ? Build::Atoi::kLong64 : Build::Atoi::kLong32,
-                                std::nullopt};
+    static const Build build = {model, account_realm, setup_realm, build_atoi(atoi_at_hand()), std::nullopt};
     return build;
 }
 

@@ -12,6 +12,9 @@
 
 namespace ostrel::tests {
 
+// build_atoi names the same for a build.
+rules::Build::Atoi build_atoi(Atoi atoi);
+
 // library_build is the build of the library that is loaded: a variant says what it chooses in the environment.
 const rules::Build& library_build();
 

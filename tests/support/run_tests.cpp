@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+#include <utility>
 
 namespace ostrel::tests {
 
@@ -37,12 +38,38 @@ class Counts : public testing::EmptyTestEventListener {
     int status_ = 0;
 };
 
+// Swap puts another stream in the place of standard output when a failure is told.
+class Swap : public testing::EmptyTestEventListener {
+ public:
+    explicit Swap(std::FILE*& other) : other_(other) {}
+
+    void OnTestPartResult(const testing::TestPartResult& /*result*/) override { std::swap(stdout, other_); }
+
+ private:
+    std::FILE*& other_;
+};
+
+// print_failures_where_they_are_seen has a failure printed to the standard output that the program was given, also
+// while a capture has taken its place: printed into the capture it would be lost, and be part of what is judged.
+void print_failures_where_they_are_seen(testing::TestEventListeners& listeners)
+{
+    static std::FILE* other = stdout;
+    testing::TestEventListener* const printer = listeners.Release(listeners.default_result_printer());
+    if (printer == nullptr) return;
+    // Listeners hear of a failure in this order; the last one undoes what the first one does.
+    listeners.Append(new Swap(other));
+    listeners.Append(printer);
+    listeners.Append(new Swap(other));
+}
+
 }  // namespace
 
 int run_tests()
 {
     auto* const counts = new Counts;  // the listeners own it
-    testing::UnitTest::GetInstance()->listeners().Append(counts);
+    testing::TestEventListeners& listeners = testing::UnitTest::GetInstance()->listeners();
+    print_failures_where_they_are_seen(listeners);
+    listeners.Append(counts);
     const int failed = RUN_ALL_TESTS();
     return failed != 0 ? failed : counts->status();
 }

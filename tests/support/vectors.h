@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <iosfwd>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "catalogue/caller.h"
 #include "catalogue/capture.h"
 #include "catalogue/case.h"
+#include "tests/support/answers.h"
 
 namespace ostrel::tests {
 
@@ -27,6 +29,12 @@ struct Outcome {
 
 void PrintTo(const Outcome& outcome, std::ostream* stream);
 
+// Promise is what a row says of the call.
+struct Promise {
+    Outcome outcome;          // what the row leaves out is the silent default
+    bool is_written = false;  // or else what the caller holds stays as it was
+};
+
 // Row is one line of a file: what is passed, and what it promises. One that cannot be run has a fault that says
 // why.
 struct Row {
@@ -35,20 +43,15 @@ struct Row {
     std::string text;
     std::string fault;
     catalogue::Case given;
-    Outcome promised;         // what the row leaves out is the silent default
-    bool is_written = false;  // or else what the caller holds stays as it was
-    bool overflows = false;   // the answer depends on what atoi makes of a number that does not fit
+    Promise promise;
+    std::map<Atoi, Promise> elsewhere;  // with such a C library it is this one
 };
 
 // read_rows gives every row of every file, in order. Where modules are named only their files are read. Throws
 // std::invalid_argument where a file has no row or is not there.
 std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 
-// applies_here tells whether the row's answer is that of the C library at hand. Rows that depend on how atoi
-// overflows hold for glibc where long has 64 bits.
-bool applies_here(const Row& row);
-
-// read_cases gives every row that applies here. Throws std::invalid_argument for one with a fault.
+// read_cases gives every row of every file. Throws std::invalid_argument for one with a fault.
 std::vector<Row> read_cases();
 
 // longest_text gives the length of the longest text that is passed.
@@ -57,8 +60,9 @@ std::size_t longest_text(const catalogue::Case& given);
 // shown quotes a text as JSON does; of a long one only the ends are shown.
 std::string shown(const std::string& text);
 
-// expected_outcome is what a row promises where the caller holds before.
-Outcome expected_outcome(const Row& row, const std::vector<catalogue::Written>& before);
+// expected_outcome is what a row promises where the caller holds before, with the C library at hand or another one.
+Outcome expected_outcome(const Row& row, const std::vector<catalogue::Written>& before,
+                         Atoi atoi = atoi_at_hand());
 
 // actual_outcome calls what is loaded.
 Outcome actual_outcome(catalogue::Caller& caller, catalogue::Capture& capture);

@@ -15,8 +15,9 @@
  *        rewritten whatever the answer. "a&amp;b" is an SSID of 3 bytes.
  *
  * The host's htmlToText does this. Without one the library knows the names of HTML 4 for Latin-1 characters,
- * XML's five, and the numbers 1 to 255, decimal ("&#65;") and hexadecimal ("&#x41;"); each gives one byte of
- * ISO 8859-1, anything else stands as it is, and the text never grows.
+ * XML's five, and numbers from 1, decimal ("&#65;") and hexadecimal ("&#x41;"). Each gives one byte of
+ * ISO 8859-1; a number above 255, for which there is no such byte, gives 0x1A, so that the SSID is refused.
+ * Anything else stays as it is, other names ("&euro;") included, and the text never grows.
  *
  * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with "Error in %s: Error SSID:%s\n" (the
  * rewritten value).
