@@ -15,25 +15,38 @@ using nlohmann::json;
 
 namespace {
 
-void require_known_members(const json& row)
+void require_known_members(const json& object, const std::set<std::string>& known)
 {
-    static const std::set<std::string> kKnown = {"check", "args",    "code",     "out", "err",
-                                                 "after", "flushed", "overflow", "why"};
-    for (const auto& member : row.items()) {
-        if (!kKnown.contains(member.key())) throw std::invalid_argument("unknown member " + member.key());
+    for (const auto& member : object.items()) {
+        if (!known.contains(member.key())) throw std::invalid_argument("unknown member " + member.key());
     }
-    if (!row.contains("code")) throw std::invalid_argument("no code");
+}
+
+RowReason reason_from_json(const json& reason)
+{
+    require_known_members(reason, {"id", "argument", "part", "item", "offset"});
+    RowReason result;
+    result.id = reason.at("id").get<std::string>();
+    result.argument = reason.value("argument", "");
+    result.part = reason.value("part", "");
+    if (reason.contains("item")) result.item = reason["item"].get<std::size_t>();
+    if (reason.contains("offset")) result.offset = reason["offset"].get<std::size_t>();
+    return result;
 }
 
 void read(const json& json_row, Row& row)
 {
-    require_known_members(json_row);
+    require_known_members(
+        json_row, {"check", "args", "code", "reason", "out", "err", "after", "flushed", "overflow", "why"});
+    if (!json_row.contains("code")) throw std::invalid_argument("no code");
     row.given = catalogue::case_from_json(json_row);
     row.promised.code = json_row["code"].get<int>();
     row.promised.out = catalogue::text_from_json(json_row.value("out", json("")));
     row.promised.err = catalogue::text_from_json(json_row.value("err", json("")));
     row.promised.flushed = json_row.value("flushed", true);
     row.overflows = json_row.value("overflow", false);
+    if (json_row.contains("reason")) row.reason = reason_from_json(json_row["reason"]);
+    if (row.reason && row.promised.code == 0) throw std::invalid_argument("a reason, and nothing is refused");
     row.is_written = json_row.contains("after");
     if (!row.is_written) return;
     for (const json& value : json_row["after"]) {
@@ -134,6 +147,14 @@ void PrintTo(const Outcome& outcome, std::ostream* stream)
     *stream << "\n  code    " << outcome.code << "\n  out     " << shown(outcome.out) << "\n  flushed "
             << std::boolalpha << outcome.flushed << "\n  err     " << shown(outcome.err) << "\n  after   "
             << shown(after.dump()) << "\n";
+}
+
+void PrintTo(const RowReason& reason, std::ostream* stream)
+{
+    *stream << reason.id << " " << reason.argument;
+    if (!reason.part.empty()) *stream << ", " << reason.part;
+    if (reason.item) *stream << ", item " << *reason.item;
+    if (reason.offset) *stream << ", offset " << *reason.offset;
 }
 
 Outcome expected_outcome(const Row& row, const std::vector<Written>& before)

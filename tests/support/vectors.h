@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <iosfwd>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -27,6 +28,19 @@ struct Outcome {
 
 void PrintTo(const Outcome& outcome, std::ostream* stream);
 
+// RowReason is what a user is to be told of a refusal, as the row says it. What does not apply is empty.
+struct RowReason {
+    std::string id;
+    std::string argument;
+    std::string part;
+    std::optional<std::size_t> item;
+    std::optional<std::size_t> offset;
+
+    bool operator==(const RowReason&) const = default;
+};
+
+void PrintTo(const RowReason& reason, std::ostream* stream);
+
 // Row is one line of a file: what is passed, and what it promises. One that cannot be run has a fault that says
 // why.
 struct Row {
@@ -38,6 +52,7 @@ struct Row {
     Outcome promised;         // what the row leaves out is the silent default
     bool is_written = false;  // or else what the caller holds stays as it was
     bool overflows = false;   // the answer depends on what atoi makes of a number that does not fit
+    std::optional<RowReason> reason;
 };
 
 // read_rows gives every row of every file, in order. Where modules are named only their files are read. Throws
