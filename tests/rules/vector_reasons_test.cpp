@@ -95,15 +95,15 @@ const std::vector<Judged>& judged_rows()
     static const std::vector<Judged> all = [] {
         std::vector<Judged> result;
         for (const Row& row : rows) {
-            if (!row.reason) continue;
+            const Check* check = rules::find(row.given.function->name);
+            if (!row.reason || check == nullptr) continue;
             rules::Build build = library_build();
             if (row.overflows) build.atoi = rules::Build::Atoi::kLong64;
-            const Check& check = *rules::find(row.given.function->name);
             Counts counts;
             Answer answer =
-                rules::evaluate(check, complete(*row.given.function, row.given.values), build, &counts);
-            std::string path = path_of(check, counts);
-            result.push_back({&row, &check, std::move(answer), std::move(path)});
+                rules::evaluate(*check, complete(*row.given.function, row.given.values), build, &counts);
+            std::string path = path_of(*check, counts);
+            result.push_back({&row, check, std::move(answer), std::move(path)});
         }
         return result;
     }();
