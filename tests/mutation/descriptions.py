@@ -38,6 +38,8 @@ PHRASES = [("at least", "at most"), ("needed", "allowed"), ("first", "last"), ("
            ("one of", "none of"), ("byte", "bytes"), ("is", "is not")]
 # What an argument is in the user's words is not said of a refusal.
 SAID_ELSEWHERE = {"text", "buffer", "blocks", "integer", "natural", "integer_out", "in"}
+# These tell the same, so that their order is not told.
+ALIKE = {"refuse_repeated"}
 # Two that are never both at fault may stand in either order.
 LIMIT = re.compile(r'(?:below|above|shorter_than|longer_than)\((?:.*, )?-?\d+\)')
 
@@ -82,7 +84,8 @@ def orders(found, text):
     every = list(steps(found))
     for (first, end), (second, last) in zip(every, every[1:]):
         one, other = (text[found[a].offset:found[b].end] for a, b in ((first, end), (second, last)))
-        if second == end + 2 and not (LIMIT.search(one) and LIMIT.search(other)):
+        are_alike = found[first].text in ALIKE and found[second].text in ALIKE
+        if second == end + 2 and not are_alike and not (LIMIT.search(one) and LIMIT.search(other)):
             yield found[first].offset, found[last].end, other + text[found[end].end:found[second].offset] + one
     for first, last in every:
         if found[last + 1].text == ",":

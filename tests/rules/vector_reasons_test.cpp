@@ -113,7 +113,7 @@ const std::vector<Judged>& judged_rows()
 TEST(VectorReasonsTest, AreTold)
 {
     for (const Judged& judged : judged_rows()) {
-        EXPECT_EQ(*judged.row->reason, told(judged.answer))
+        EXPECT_EQ(judged.row->reason, told(judged.answer))
             << judged.row->file.filename().string() << ":" << judged.row->line << ": "
             << judged.row->text.substr(0, 300);
     }
@@ -171,7 +171,7 @@ TEST(VectorReasonsTest, EveryRefusingConditionHasARow)
     for (const Check& check : rules::checks()) {
         for (const std::string& path : paths_of(check)) {
             ++all;
-            const auto known = std::ranges::find_if(
+            const auto* const known = std::ranges::find_if(
                 kUnshown, [&](const Unshown& one) { return ends_with_path(path, one.path); });
             const bool is_unshown = known != std::end(kUnshown);
             if (is_unshown) ++unshown[known->path];
