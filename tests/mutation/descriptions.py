@@ -40,8 +40,9 @@ PHRASES = [("at least", "at most"), ("needed", "allowed"), ("first", "last"), ("
 SAID_ELSEWHERE = {"text", "buffer", "blocks", "integer", "natural", "integer_out", "in"}
 # These tell the same, so that their order is not told.
 ALIKE = {"refuse_repeated"}
-# Two that are never both at fault may stand in either order.
-LIMIT = re.compile(r'(?:below|above|shorter_than|longer_than)\((?:.*, )?-?\d+\)')
+# Two of which a value meets at most one may stand in either order.
+TOO_LITTLE = re.compile(r'(?:below|shorter_than)\((?:.*, )?-?\d+\)|empty\(\)')
+TOO_MUCH = re.compile(r'(?:above|longer_than)\((?:.*, )?-?\d+\)|refuse_above|outside\(k\w+\)')
 
 
 def words(found, text):
@@ -85,7 +86,8 @@ def orders(found, text):
     for (first, end), (second, last) in zip(every, every[1:]):
         one, other = (text[found[a].offset:found[b].end] for a, b in ((first, end), (second, last)))
         are_alike = found[first].text in ALIKE and found[second].text in ALIKE
-        if second == end + 2 and not are_alike and not (LIMIT.search(one) and LIMIT.search(other)):
+        exclude = any(TOO_LITTLE.search(a) and TOO_MUCH.search(b) for a, b in ((one, other), (other, one)))
+        if second == end + 2 and not are_alike and not exclude:
             yield found[first].offset, found[last].end, other + text[found[end].end:found[second].offset] + one
     for first, last in every:
         if found[last + 1].text == ",":
