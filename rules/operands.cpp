@@ -24,7 +24,7 @@ Operand of_number(long long number, const Place& place = {})
     operand.kind = Operand::Kind::kNumber;
     operand.number = number;
     operand.place = place;
-    operand.place.offset.reset();
+    if (place.part.empty()) operand.place.offset.reset();
     return operand;
 }
 

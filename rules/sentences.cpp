@@ -20,7 +20,7 @@ constexpr Sentence kSentences[] = {
     {"end_before_start", "is {found}; at least {allowed}, the last octet of the start, is needed"},
     {"equal", "is {read}{found}, which is not allowed"},
     {"first_server", "is the first server, which cannot be deleted"},
-    {"forbidden_form", "is {allowed}, which is not allowed here"},
+    {"forbidden_form", "is {form}, which is not allowed here"},
     {"forbidden_keyword", "is {found}; none of {allowed} is allowed"},
     {"forbidden_length", "has {found} {found:byte|bytes}, which is not allowed"},
     {"forbidden_prefix", "begins with {allowed:|one of }{allowed}, which is not allowed"},
@@ -138,6 +138,7 @@ std::string value_of(std::string_view name, const Reason& reason)
     if (name == "found")
         return reason.id == "number_beyond_int" ? std::get<std::string>(reason.found) : shown(reason.found);
     if (name == "allowed") return shown(reason.allowed);
+    if (name == "form") return std::get<std::string>(reason.allowed);
     if (name == "position") return counted(reason.offset);
     if (name == "item") return counted(reason.item);
     if (name == "range") return range(reason.allowed);

@@ -12,6 +12,7 @@ namespace ostrel::rules {
 
 // Sentence is what is said for an id. In it stand
 //   {found} {allowed}    what the reason has; of a list of words the words, of a set its members in words
+//   {form}               what the text is, which stands in what is allowed
 //   {byte}               the byte that was found, shown so that it can be printed
 //   {position} {item}    the offset and the item, counted from 1
 //   {range}              the two limits that are allowed

@@ -15,19 +15,29 @@ using nlohmann::json;
 
 namespace {
 
-void require_known_members(const json& row)
+void require_known_members(const json& object, const std::set<std::string>& known)
 {
-    static const std::set<std::string> kKnown = {"check", "args",  "code",    "out",
-                                                 "err",   "after", "flushed", "why"};
-    for (const auto& member : row.items()) {
-        if (!kKnown.contains(member.key())) throw std::invalid_argument("unknown member " + member.key());
+    for (const auto& member : object.items()) {
+        if (!known.contains(member.key())) throw std::invalid_argument("unknown member " + member.key());
     }
-    if (!row.contains("code")) throw std::invalid_argument("no code");
+}
+
+RowReason reason_from_json(const json& reason)
+{
+    require_known_members(reason, {"id", "argument", "part", "item", "offset"});
+    RowReason result;
+    result.id = reason.at("id").get<std::string>();
+    result.argument = reason.value("argument", "");
+    result.part = reason.value("part", "");
+    if (reason.contains("item")) result.item = reason["item"].get<std::size_t>();
+    if (reason.contains("offset")) result.offset = reason["offset"].get<std::size_t>();
+    return result;
 }
 
 Promise promise_from(const json& row)
 {
-    require_known_members(row);
+    require_known_members(row, {"check", "args", "code", "reason", "out", "err", "after", "flushed", "why"});
+    if (!row.contains("code")) throw std::invalid_argument("no code");
     Promise promise;
     promise.outcome.code = row["code"].get<int>();
     promise.outcome.out = catalogue::text_from_json(row.value("out", json("")));
@@ -45,6 +55,9 @@ void read(const json& json_row, Row& row)
 {
     row.given = catalogue::case_from_json(json_row);
     row.promise = promise_from(answered(json_row, Atoi::kLong64));
+    if (json_row.contains("reason")) row.reason = reason_from_json(json_row["reason"]);
+    if (row.reason && row.promise.outcome.code == 0)
+        throw std::invalid_argument("a reason, and nothing is refused");
     for (const Atoi atoi : kAtois) {
         if (has_answer_for(json_row, atoi)) row.elsewhere[atoi] = promise_from(answered(json_row, atoi));
     }
@@ -133,6 +146,14 @@ void PrintTo(const Outcome& outcome, std::ostream* stream)
     *stream << "\n  code    " << outcome.code << "\n  out     " << shown(outcome.out) << "\n  flushed "
             << std::boolalpha << outcome.flushed << "\n  err     " << shown(outcome.err) << "\n  after   "
             << shown(after.dump()) << "\n";
+}
+
+void PrintTo(const RowReason& reason, std::ostream* stream)
+{
+    *stream << reason.id << " " << reason.argument;
+    if (!reason.part.empty()) *stream << ", " << reason.part;
+    if (reason.item) *stream << ", item " << *reason.item;
+    if (reason.offset) *stream << ", offset " << *reason.offset;
 }
 
 Outcome expected_outcome(const Row& row, const std::vector<Written>& before, Atoi atoi)

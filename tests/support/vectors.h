@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <iosfwd>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -35,6 +36,19 @@ struct Promise {
     bool is_written = false;  // or else what the caller holds stays as it was
 };
 
+// RowReason is what a user is to be told of a refusal, as the row says it. What does not apply is empty.
+struct RowReason {
+    std::string id;
+    std::string argument;
+    std::string part;
+    std::optional<std::size_t> item;
+    std::optional<std::size_t> offset;
+
+    bool operator==(const RowReason&) const = default;
+};
+
+void PrintTo(const RowReason& reason, std::ostream* stream);
+
 // Row is one line of a file: what is passed, and what it promises. One that cannot be run has a fault that says
 // why.
 struct Row {
@@ -45,6 +59,7 @@ struct Row {
     catalogue::Case given;
     Promise promise;
     std::map<Atoi, Promise> elsewhere;  // with such a C library it is this one
+    std::optional<RowReason> reason;
 };
 
 // read_rows gives every row of every file, in order. Where modules are named only their files are read. Throws

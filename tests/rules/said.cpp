@@ -1,0 +1,224 @@
+#include "tests/rules/said.h"
+
+#include <string_view>
+#include <utility>
+
+#include "rules/sets.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+using Texts = std::vector<std::string>;
+using Numbers = std::vector<long long>;
+
+Reason reason(std::string_view id, Datum found = {}, Datum allowed = {})
+{
+    Reason result;
+    result.id = id;
+    result.found = std::move(found);
+    result.allowed = std::move(allowed);
+    return result;
+}
+
+Reason at(std::size_t offset, Reason result)
+{
+    result.offset = offset;
+    return result;
+}
+
+Reason read_as(long long number, Reason result)
+{
+    result.read_as = number;
+    return result;
+}
+
+Reason of(std::string_view part, Reason result)
+{
+    result.part = part;
+    return result;
+}
+
+Reason item(std::size_t number, Reason result)
+{
+    result.item = number;
+    return result;
+}
+
+Reason converted(std::string_view how, Reason result)
+{
+    result.conversion = how;
+    return result;
+}
+
+std::vector<Said> of_numbers()
+{
+    return {
+        {reason("a_multiple", 36, 18), "is 36; a multiple of 18 is not allowed"},
+        {read_as(36, reason("a_multiple", 36, 18)), "is read as 36; a multiple of 18 is not allowed"},
+        {reason("end_before_start", 8, 9), "is 8; at least 9, the last octet of the start, is needed"},
+        {reason("equal", 7, 7), "is 7, which is not allowed"},
+        {read_as(0, reason("equal", 0, 0)), "is read as 0, which is not allowed"},
+        {reason("listed_by_driver", 6), "is 6, which the wireless driver lists"},
+        {read_as(6, reason("listed_by_driver", 6)), "is read as 6, which the wireless driver lists"},
+        {reason("no_channel_listed", 6), "is 6; the wireless driver lists no channel that is allowed"},
+        {read_as(6, reason("no_channel_listed", 6)),
+         "is read as 6; the wireless driver lists no channel that is allowed"},
+        {reason("not_a_multiple", 17, 18), "is 17; a multiple of 18 is needed"},
+        {read_as(0, reason("not_a_multiple", 0, 18)), "is read as 0; a multiple of 18 is needed"},
+        {reason("not_equal", 7, 8), "is 7; 8 is allowed"},
+        {read_as(7, reason("not_equal", 7, 8)), "is read as 7; 8 is allowed"},
+        {reason("not_listed_by_driver", 7, Numbers{6}),
+         "is 7; of the channels that the wireless driver lists, 6 is allowed"},
+        {read_as(7, reason("not_listed_by_driver", 7, Numbers{1, 6})),
+         "is read as 7; of the channels that the wireless driver lists, 1, 6 are allowed"},
+        {read_as(-1, reason("number_beyond_int", "4294967295", 1)),
+         "has the number 4294967295, which an int does not hold; this gateway reads it as -1"},
+        {reason("number_forbidden", 80, Numbers{80, 161}), "is 80; none of 80, 161 is allowed"},
+        {read_as(80, reason("number_forbidden", 80, Numbers{80, 161})),
+         "is read as 80; none of 80, 161 is allowed"},
+        {reason("number_in_range", 54001, Numbers{54000, 54999}), "is 54001; 54000 to 54999 are not allowed"},
+        {read_as(54001, reason("number_in_range", 54001, Numbers{54000, 54999})),
+         "is read as 54001; 54000 to 54999 are not allowed"},
+        {reason("number_not_allowed", 3, Numbers{0}), "is 3; only 0 is allowed"},
+        {read_as(3, reason("number_not_allowed", 3, Numbers{0, 1})), "is read as 3; only 0, 1 are allowed"},
+        {reason("number_out_of_range", 4, Numbers{0, 3}), "is 4; 0 to 3 are allowed"},
+        {read_as(4, reason("number_out_of_range", 4, Numbers{0, 3})), "is read as 4; 0 to 3 are allowed"},
+        {reason("number_too_high", 256, 255), "is 256; at most 255 is allowed"},
+        {read_as(256, reason("number_too_high", 256, 255)), "is read as 256; at most 255 is allowed"},
+        {reason("number_too_low", -2, -1), "is -2; at least -1 is needed"},
+        {read_as(0, reason("number_too_low", 0, 1)), "is read as 0; at least 1 is needed"},
+    };
+}
+
+std::vector<Said> of_lengths_and_counts()
+{
+    return {
+        {reason("another_length", 1, 10), "has 1 byte; earlier ones have 10"},
+        {reason("another_length", 26, 10), "has 26 bytes; earlier ones have 10"},
+        {reason("empty", 0), "is empty"},
+        {reason("empty_as_listed"), "is empty, and so is one in the list"},
+        {reason("forbidden_length", 1, Numbers{1}), "has 1 byte, which is not allowed"},
+        {reason("forbidden_length", 5, Numbers{5}), "has 5 bytes, which is not allowed"},
+        {reason("list_full", 160, 159), "has 160 bytes together with the list; at most 159 are allowed"},
+        {reason("not_empty", 3), "is not empty; only the empty value is allowed"},
+        {reason("only_other_set", 0), "is empty, but the other one is not"},
+        {reason("too_long", 1, 0), "has 1 byte; at most 0 are allowed"},
+        {reason("too_long", 2, 1), "has 2 bytes; at most 1 is allowed"},
+        {reason("too_long", 34, 32), "has 34 bytes; at most 32 are allowed"},
+        {reason("too_many_items", 2, 1), "has 2 items; at most 1 is allowed"},
+        {reason("too_many_items", 3, 2), "has 3 items; at most 2 are allowed"},
+        {reason("too_many_labels", 7, 6), "has 7 labels; at most 6 are allowed"},
+        {reason("too_short", 0, 1), "has 0 bytes; at least 1 is needed"},
+        {reason("too_short", 1, 4), "has 1 byte; at least 4 are needed"},
+        {reason("wrong_item_count", 1, Numbers{4}), "has 1 part; 4 are needed"},
+        {reason("wrong_item_count", 3, Numbers{4}), "has 3 parts; 4 are needed"},
+        {reason("wrong_length", 1, Numbers{64}), "has 1 byte; 64 are needed"},
+        {reason("wrong_length", 12, Numbers{10, 26}), "has 12 bytes; one of 10, 26 is needed"},
+    };
+}
+
+std::vector<Said> of_bytes()
+{
+    return {
+        {at(21, reason("colon_in_path")),
+         "has a \":\" in the path that begins at byte 22; that is allowed only after a port"},
+        {at(3, reason("contains", "ab", "ab")), "byte 4 is where \"ab\" begins, which is not allowed"},
+        {at(1, reason("group_address", "1", Set("02"))),
+         "byte 2 is \"1\", which makes it the address of a group; 0 2 are allowed there"},
+        {at(2, reason("incomplete", "", kDigits)), "ends where digits are expected as byte 3"},
+        {at(10, reason("incomplete", "", Set("T"))), "ends where \"T\" is expected as byte 11"},
+        {at(0, reason("not_in_set", "#", kDigits)), "byte 1 is \"#\"; digits are allowed"},
+        {at(5, reason("not_in_set", "\x9F", kBlank)), "byte 6 is \\x9F; a blank is allowed"},
+        {at(5, reason("not_in_set", " ", kNameSet)),
+         "byte 6 is a blank; letters, digits and - . _ are allowed"},
+        {reason("numeric_name"), "is made of digits and dots alone; a letter or \"-\" is needed"},
+        {reason("only_of_set", "12", kDigits), "is made of digits alone"},
+        {at(19, reason("too_much", "x", Set())), "should end before byte 20"},
+        {at(4, reason("wrong_shape", "/", Set("-"))), "byte 5 is \"/\"; \"-\" is expected there"},
+        {at(0, reason("wrong_shape", "x", kDigits)), "byte 1 is \"x\"; digits are expected there"},
+        {at(19, reason("wrong_shape_or_end", "Z", Set("+-"))),
+         "byte 20 is \"Z\"; + - or the end is expected there"},
+    };
+}
+
+std::vector<Said> of_words()
+{
+    return {
+        {reason("equal", "a", "a"), "is \"a\", which is not allowed"},
+        {reason("forbidden_keyword", "Normal", Texts{"Normal", "Other"}),
+         "is \"Normal\"; none of Normal, Other is allowed"},
+        {reason("forbidden_prefix", "0.0.0.0", Texts{"0.0"}), "begins with 0.0, which is not allowed"},
+        {reason("forbidden_prefix", "abc", Texts{"a", "b"}), "begins with one of a, b, which is not allowed"},
+        {reason("forbidden_suffix", "ab", "b"), "ends with \"b\", which is not allowed"},
+        {reason("in_table", "1"), "is \"1\", which is not allowed"},
+        {reason("lacks", "@", "@"), "has no \"@\""},
+        {reason("not_a_keyword", "x", Texts{"Static"}), "is not Static"},
+        {reason("not_a_keyword", "x", Texts{"None", "1,2", ""}), "is none of None, \"1,2\", \"\""},
+        {reason("not_equal", "a", "b"), "is \"a\"; \"b\" is allowed"},
+        {reason("not_in_table", "x", Texts{"1"}), "\"x\" goes with none of the known rows"},
+        {reason("not_of_offset", "Lima", Texts{"Alaska"}),
+         "is not part of any name that goes with the offset: Alaska"},
+        {reason("not_part_of_any", "x", Texts{"La Paz", "Lima"}), "is not part of any of \"La Paz\", Lima"},
+        {reason("wrong_prefix", "x", Texts{"UTC"}), "does not begin with UTC"},
+        {reason("wrong_prefix", "x", Texts{"http://", "https://"}),
+         "does not begin with any of http://, https://"},
+        {reason("wrong_suffix", "x", "b"), "does not end with \"b\""},
+    };
+}
+
+std::vector<Said> of_forms_and_lists()
+{
+    return {
+        {reason("accepted"), "is of a form that is not allowed here"},
+        {reason("already_listed", "1.1.1.1"), "is \"1.1.1.1\", which occurs in the list already"},
+        {reason("another_subnet", "10.0.0.", "192.168.1."), "does not begin with \"192.168.1.\", the subnet"},
+        {reason("first_server"), "is the first server, which cannot be deleted"},
+        {reason("forbidden_form", "1.2.3.4", "an IPv4 address"),
+         "is an IPv4 address, which is not allowed here"},
+        {reason("forbidden_shape"), "is of a form that is not allowed here"},
+        {reason("last_item"), "is the last one"},
+        {reason("neither_server"), "is neither the first nor the second server"},
+        {reason("no_key_left"), "has no key that is printable and not empty"},
+        {reason("not_listed", "1.1.1.1"), "is \"1.1.1.1\", which is not in the list"},
+        {reason("not_null"), "is not NULL"},
+        {reason("null"), "is NULL"},
+        {reason("pass_phrase_alone"),
+         "is given without a pre-shared key; a pass phrase alone is not accepted"},
+        {reason("repeated_item", "1.1.1.1"), "is \"1.1.1.1\", which occurs again later in the list"},
+    };
+}
+
+// What is said of a part, of an item, and of a text that was rewritten.
+std::vector<Said> of_places()
+{
+    return {
+        {of("octet 3", reason("number_too_high", 256, 255)), "octet 3 is 256; at most 255 is allowed"},
+        {at(8, of("the host", reason("not_in_set", "_", kDigits))),
+         "in the host, byte 9 is \"_\"; digits are allowed"},
+        {item(1, reason("too_short", 2, 7)), "has 2 bytes; at least 7 are needed"},
+        {item(1, at(8, reason("not_in_set", "x", kDigits))), "byte 9 is \"x\"; digits are allowed"},
+        {item(1, of("octet 2", reason("empty", 0))), "octet 2 is empty"},
+        {converted("rewritten", reason("too_long", 33, 32)),
+         "has 33 bytes; at most 32 are allowed (rewritten)"},
+        {reason("unknown"), ""},
+    };
+}
+
+}  // namespace
+
+const std::vector<Said>& all_said()
+{
+    static const std::vector<Said> all = [] {
+        std::vector<Said> result;
+        for (auto* const part :
+             {of_numbers, of_lengths_and_counts, of_bytes, of_words, of_forms_and_lists, of_places}) {
+            const std::vector<Said> said = part();
+            result.insert(result.end(), said.begin(), said.end());
+        }
+        return result;
+    }();
+    return all;
+}
+
+}  // namespace ostrel::rules
