@@ -28,6 +28,7 @@ void Run::tell(Reason& reason, const Place& where, std::string_view id, Datum fo
     if (called_.arguments.size() == 1) reason.argument = 0;
     if (reason.argument) reason.name = called_.arguments[*reason.argument].name;
     reason.item = where.item;
+    reason.judged = where.judged;
     reason.conversion = where.conversion;
     reason.part = where.part;
     if (where.part_number > 0) reason.part += " " + std::to_string(where.part_number);

@@ -22,6 +22,7 @@ Operand slot_of(const Value& value, std::size_t argument)
         slot.kind = Operand::Kind::kText;
         slot.text = *text;
         slot.place.offset = 0;
+        slot.place.judged = Span{0, slot.text.size()};
     } else if (const auto* number = std::get_if<long long>(&value)) {
         slot.kind = Operand::Kind::kNumber;
         slot.number = *number;
@@ -216,7 +217,10 @@ void Run::write(const Write& write, Frame& frame)
     target.kind = value.kind;
     target.number = value.number;
     target.text = keep(std::string(value.text));
-    if (value.kind == Operand::Kind::kText) target.place.offset = 0;
+    if (value.kind == Operand::Kind::kText) {
+        target.place.offset = 0;
+        target.place.judged = Span{0, target.text.size()};
+    }
     target.place.conversion = value.place.conversion;
     if (is_item) blocks_[*target.place.item] = target.text;
 }

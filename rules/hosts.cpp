@@ -26,20 +26,22 @@ Check host()
                        {refuse(-1, refused_by("TcmValidateIPAddress", {called("the IPv4 address", it)}))})});
 }
 
-// The first ":" after the scheme ends the host, even if it is in the path.
+// The first ":" after the scheme ends the host, even if it is in the path. The set of the whole is wider than those of
+// host and port, and is tested after them, so that no byte is said to be allowed that is refused in turn.
 Check url(std::string_view name, std::string_view what, int code, Words schemes)
 {
     const Expression port = called("the port", before_first(after_first("rest", ":"), "/"));
     return check(
         name, {text("value", what)},
-        {refuse(code, longer_than(256)), refuse(code, outside(kUrl)),
-         refuse(code, not_(begins_with(std::move(schemes)))), remember("rest", after_first(it, "://")),
+        {refuse(code, longer_than(256)), refuse(code, not_(begins_with(std::move(schemes)))),
+         remember("rest", after_first(it, "://")),
          when(contains("rest", literal(":")),
               {refuse(code, because("colon_in_path", contains(before_first("rest", ":"), literal("/")))),
                refuse(code, refused_by("ValidateURL", {called("the host", before_first("rest", ":"))})),
-               refuse(code, outside(port, kDigits)), refuse(code, below(port, 0)),
-               refuse(code, above(port, 65535))},
-              {refuse(code, refused_by("ValidateURL", {called("the host", before_first("rest", "/"))}))})});
+               refuse(code, outside(port, kDigits)), refuse(code, outside(kUrl)),
+               refuse(code, below(port, 0)), refuse(code, above(port, 65535))},
+              {refuse(code, refused_by("ValidateURL", {called("the host", before_first("rest", "/"))})),
+               refuse(code, outside(kUrl))})});
 }
 
 // What is between the first "@" and the last "." may hold either of them again.

@@ -25,7 +25,9 @@ Operand part_of(const Operand& whole, std::string_view piece)
     Operand part = whole;
     part.text = piece;
     part.place.call({});
-    if (part.place.offset) *part.place.offset += static_cast<std::size_t>(piece.data() - whole.text.data());
+    const auto begin = static_cast<std::size_t>(piece.data() - whole.text.data());
+    if (part.place.offset) *part.place.offset += begin;
+    if (part.place.judged) part.place.judged = Span{part.place.judged->begin + begin, piece.size()};
     return part;
 }
 
@@ -50,6 +52,7 @@ Run::Flow Run::run_list(const Step& step, Frame& frame)
             frame.item.kind = Operand::Kind::kText;
             frame.item.text = blocks_[index];
             frame.item.place.offset = 0;
+            frame.item.place.judged = Span{0, frame.item.text.size()};
             frame.is_last_item = index + 1 == blocks_.size();
         } else {
             const std::size_t end = rest.find(list.separator);

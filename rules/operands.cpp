@@ -34,6 +34,7 @@ Operand part(Operand text, std::size_t begin, std::size_t size = std::string_vie
     if (begin > 0 || size < text.text.size()) text.place.call({});
     text.text = text.text.substr(begin, size);
     if (text.place.offset) *text.place.offset += begin;
+    if (text.place.judged) text.place.judged = Span{text.place.judged->begin + begin, text.text.size()};
     return text;
 }
 
@@ -162,6 +163,7 @@ Operand Run::computed(const Expression& expression, Frame& frame)
     if (expression.kind == Kind::kConverted) {
         Operand result = of_text(keep(expression.conversion->convert(whole.text)));
         result.place = whole.place;
+        if (result.place.judged) result.place.judged->size = result.text.size();
         if (result.text != whole.text) result.place.conversion = expression.conversion->what;
         return result;
     }

@@ -18,6 +18,12 @@ namespace ostrel::rules {
 using Datum = std::variant<std::monostate, long long, std::string, Set, std::vector<std::string>,
                            std::vector<long long>>;
 
+// Span is a piece of a text.
+struct Span {
+    std::size_t begin = 0;
+    std::size_t size = 0;
+};
+
 struct Reason {
     std::string_view id;                  // empty: no condition, the step always decides
     std::optional<std::size_t> argument;  // which one, from 0; nothing: none alone
@@ -25,6 +31,7 @@ struct Reason {
     std::string part;  // of it, as in "the host" or "label 2"; empty: all of it, or of the item
     std::optional<std::size_t> item;    // of a list, or the key of a block, from 0
     std::optional<std::size_t> offset;  // from 0, in the argument's text or, of a block, in the key's
+    std::optional<Span> judged;         // what was judged, in the text that offset counts in
     std::string_view conversion;        // what was done first to the text that offset counts in; or empty
     Datum found;
     Datum allowed;

@@ -17,6 +17,7 @@ struct Place {
     std::optional<std::size_t> argument;
     std::optional<std::size_t> item;
     std::optional<std::size_t> offset;  // where a text begins in the argument's
+    std::optional<Span> judged = {};    // the text, in the argument's, also where a number was made of it
     std::string_view part = {};         // what that part of the argument is called
     std::size_t part_number = 0;        // of several that are called the same, from 1
     std::string_view conversion = {};   // what was done to the argument's text; empty: it is as given

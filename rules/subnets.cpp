@@ -12,6 +12,14 @@ std::vector<Step> judge_last_octet(const char* address)
     return {refuse(-1, below(last_octet(address), 1)), refuse(-1, above(last_octet(address), 254))};
 }
 
+// What would be an address but for its last octet is told the limit of that, which is lower than that of the others.
+Step refuse_highest_octet(const char* address)
+{
+    return when(all_of({not_(outside(address, kIpv4)), among(items(address, "."), {4}),
+                        not_(longer_than(address, 15)), above(last_octet(address), 255)}),
+                {refuse(-1, above(last_octet(address), 254))});
+}
+
 Step judge_subnet(const char* address)
 {
     return refuse(-1, refused_by("isInSameSubnet", {"lanAddress", address}));
@@ -41,7 +49,9 @@ std::vector<Check> subnets()
               {text("startAddress", "the first address of the pool"),
                text("endAddress", "the last address of the pool"),
                text("lanAddress", "the gateway's own address on the LAN")},
-              joined_steps({{refuse(-1, refused_by("TcmValidateIPAddress", {"startAddress"})),
+              joined_steps({{refuse_highest_octet("startAddress"),
+                             refuse(-1, refused_by("TcmValidateIPAddress", {"startAddress"})),
+                             refuse_highest_octet("endAddress"),
                              refuse(-1, refused_by("TcmValidateIPAddress", {"endAddress"})),
                              refuse(-1, not_(contains("lanAddress", literal(".")))),
                              judge_subnet("startAddress"), judge_subnet("endAddress")},
@@ -55,7 +65,7 @@ std::vector<Check> subnets()
               {for_each(list_of("reservedList", ',', kBlank),
                         {judge_subnet("item"), refuse(701, repeats_item())})}),
         check("TcmValidateIPRouter", {text("address", "the gateway's own address on the LAN")},
-              joined_steps({{refuse(-1, refused_by("TcmValidateIPAddress")),
+              joined_steps({{refuse_highest_octet(it), refuse(-1, refused_by("TcmValidateIPAddress")),
                              refuse(-1, not_(begins_with({"192.168."})))},
                             judge_last_octet(it)})),
         check("TcmValidateofferDNS", {text("dnsList", "the DNS servers that are offered")},

@@ -45,7 +45,8 @@ TEST(HostsTest, Urls)
     EXPECT_EQ("accepted", said("https://a.lan:80/a:b"));
     EXPECT_EQ("accepted", said("http://a.lan:/"));
     EXPECT_EQ("has 257 bytes; at most 256 are allowed", said("http://" + std::string(250, 'a')));
-    EXPECT_EQ("byte 9 is \"@\"; letters, digits and - . / : ? _ are allowed", said("http://u@a"));
+    EXPECT_EQ("in the host, byte 9 is \"@\"; letters, digits and - . are allowed", said("http://u@a"));
+    EXPECT_EQ("byte 10 is \"@\"; letters, digits and - . / : ? _ are allowed", said("http://a/@"));
     EXPECT_EQ("does not begin with any of http://, https://", said("ftp://a.lan"));
     EXPECT_EQ("does not begin with any of x-dslf_cwmp://, x-dslf_cwmps://",
               told("TcmValidateServerURL", {"http://a.lan"}));

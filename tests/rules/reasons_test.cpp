@@ -134,7 +134,8 @@ TEST(AddressTest, Pools)
     EXPECT_EQ("startAddress the last octet is 0; at least 1 is needed", pool("192.168.1.0", "192.168.1.9"));
     EXPECT_EQ("endAddress the last octet is 8; at least 9, the last octet of the start, is needed",
               pool("192.168.1.9", "192.168.1.8"));
-    EXPECT_EQ("endAddress octet 4 is 256; at most 255 is allowed", pool("192.168.1.9", "192.168.1.256"));
+    EXPECT_EQ("endAddress the last octet is 256; at most 254 is allowed",
+              pool("192.168.1.9", "192.168.1.256"));
 }
 
 TEST(AddressTest, OtherSubnets)
