@@ -4,15 +4,14 @@
 #include <stdexcept>
 
 #include "fuzz/input.h"
-#include "fuzz/report.h"
+#include "oracle/library.h"
+#include "rules/rules.h"
 
 namespace ostrel::fuzz {
 
-using catalogue::Argument;
-using catalogue::Caller;
 using catalogue::Function;
-using catalogue::Kind;
-using catalogue::Value;
+using rules::Answer;
+using rules::Value;
 
 namespace {
 
@@ -30,12 +29,6 @@ constexpr Target kTargets[] = {
     {"time", {"time"}},
     {"branding", {"branding"}},
 };
-
-bool is_written(const Argument& argument)
-{
-    return argument.kind == Kind::kBuffer || argument.kind == Kind::kBlocks ||
-           argument.kind == Kind::kIntegerOut;
-}
 
 }  // namespace
 
@@ -56,20 +49,25 @@ Judge::Judge(const Target& target)
 {
     for (const Function& function : catalogue::functions()) {
         if (!target.has(function)) continue;
-        const auto found = model::models().find(function.name);
-        if (found == model::models().end()) {
-            throw std::logic_error("no model of " + std::string(function.name));
-        }
-        entries_.push_back({&function, found->second, std::ranges::any_of(function.arguments, is_written)});
+        const rules::Check* check = rules::find(function.name);
+        if (check == nullptr) throw std::logic_error("no description of " + std::string(function.name));
+        entries_.push_back({&function, check});
     }
 }
 
-const Judge::Entry& Judge::decode(std::string_view input)
+const Judge::Entry& Judge::entry(std::string_view input) const
 {
     const std::size_t choice = input.empty() ? 0 : static_cast<unsigned char>(input.front());
-    const Entry& entry = entries_[choice % entries_.size()];
-    decode_arguments(*entry.function, input.substr(std::min<std::size_t>(1, input.size())), values_);
-    return entry;
+    return entries_[choice % entries_.size()];
+}
+
+const Function& Judge::function(std::string_view input) const { return *entry(input).function; }
+
+const Judge::Entry& Judge::decode(std::string_view input)
+{
+    const Entry& chosen = entry(input);
+    decode_arguments(*chosen.function, input.substr(std::min<std::size_t>(1, input.size())), values_);
+    return chosen;
 }
 
 std::optional<std::string> Judge::encode(const Function& function, const std::vector<Value>& values) const
@@ -85,41 +83,27 @@ bool Judge::decodes(std::string_view input, const Function& function, const std:
 {
     const Entry& entry = decode(input);
     if (entry.function != &function) return false;
-    if (values.size() == values_.size()) return values == values_;
-    std::vector<Value> given;
-    for (std::size_t i = 0; i < values_.size(); ++i) {
-        if (!function.arguments[i].output_only) given.push_back(values_[i]);
-    }
-    return values == given;
+    return oracle::completed(function, values) == values_;
 }
 
-Verdict Judge::run(std::string_view input)
+Verdict Judge::run(std::string_view input, const rules::Build& build, rules::Counts* counts)
 {
     const Entry& entry = decode(input);
-    const model::Answer expected = entry.model(values_);
-    if (expected.undefined) return Verdict::kOutside;
-    const bool agreed = agrees(entry, expected, at_end_) && agrees(entry, expected, at_begin_);
-    return agreed ? Verdict::kAgreed : Verdict::kDiffered;
-}
-
-bool Judge::agrees(const Entry& entry, const model::Answer& expected, Caller& caller)
-{
-    caller.load(*entry.function, values_);
-    capture_.clear();
-    const int code = caller.call();
-    const catalogue::PrintedView printed = capture_.look();
-    const bool flushed = printed.flushed == printed.out.size();
-    std::vector<catalogue::Written> written;
-    if (entry.writes) written = caller.written();
-    if (code == expected.code && printed.out == expected.out && printed.err == expected.err &&
-        flushed == expected.flushed &&
-        std::ranges::equal(written, expected.after, {}, &catalogue::Written::value)) {
-        return true;
+    const Answer answer = rules::evaluate(*entry.check, values_, build, counts);
+    if (answer.outside != rules::Outside::kNo) return Verdict::kOutside;
+    fault_.clear();
+    const auto compare = [&](const std::vector<Value>& values, const Answer& expected) {
+        if (!trial_.agrees(*entry.function, values, expected)) fault_ = trial_.difference();
+    };
+    compare(values_, answer);
+    if (answer.is_refusal && fault_.empty()) {
+        const std::string wrong = follower_.follow(*entry.check, values_, build, answer, compare);
+        if (!wrong.empty() && fault_.empty()) {
+            fault_ = "advice:  " + wrong + "\nrefused: " + oracle::shown_call(*entry.function, values_) +
+                     "\nthen:    " + oracle::shown_call(*entry.function, follower_.fault_call()) + "\n";
+        }
     }
-    model::Answer actual{code, std::string(printed.out), std::string(printed.err), flushed, {}, false};
-    for (catalogue::Written& one : written) actual.after.push_back(std::move(one.value));
-    difference_ = tell_difference(*entry.function, values_, expected, actual);
-    return false;
+    return fault_.empty() ? Verdict::kAgreed : Verdict::kDiffered;
 }
 
 }  // namespace ostrel::fuzz

@@ -1,5 +1,5 @@
-// Judge calls the library with what an input says and compares all that the call leaves behind with what the
-// model says.
+// Judge calls the library with what an input says, compares all that the call leaves behind with what the description
+// says, and follows the reason of a refusal as advice.
 #ifndef OSTREL_FUZZ_JUDGE_H
 #define OSTREL_FUZZ_JUDGE_H
 
@@ -10,10 +10,10 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/caller.h"
-#include "catalogue/capture.h"
 #include "catalogue/catalogue.h"
-#include "fuzz/model/model.h"
+#include "oracle/advice.h"
+#include "oracle/trial.h"
+#include "rules/evaluate.h"
 
 namespace ostrel::fuzz {
 
@@ -42,37 +42,42 @@ class Judge {
  public:
     explicit Judge(const Target& target);
 
-    // run decodes an input and makes its call, once with each edge of the arguments at an unreadable page.
-    Verdict run(std::string_view input);
+    // run decodes an input, makes its call, and follows what is said of it where it is refused. Where the build does
+    // not say what the wireless driver lists, the driver is not asked.
+    Verdict run(std::string_view input, const rules::Build& build, rules::Counts* counts = nullptr);
 
-    // difference tells of the last input that differed: the row that the model would have, as in vectors/, and
-    // what the library did.
-    [[nodiscard]] const std::string& difference() const { return difference_; }
+    // fault tells of the last input that differed: the row that the description would have, as in vectors/, and what
+    // the library did; or what is wrong with the reason.
+    [[nodiscard]] const std::string& fault() const { return fault_; }
 
     // encode makes the input for a call. Nothing: the function is another target's, or a text is too long.
     [[nodiscard]] std::optional<std::string> encode(const catalogue::Function& function,
-                                                    const std::vector<catalogue::Value>& values) const;
+                                                    const std::vector<rules::Value>& values) const;
 
     // decodes tells whether the input stands for just that call.
     [[nodiscard]] bool decodes(std::string_view input, const catalogue::Function& function,
-                               const std::vector<catalogue::Value>& values);
+                               const std::vector<rules::Value>& values);
+
+    // function is the one that an input calls.
+    [[nodiscard]] const catalogue::Function& function(std::string_view input) const;
+
+    [[nodiscard]] const oracle::Follower& follower() const { return follower_; }
+    [[nodiscard]] std::size_t calls() const { return trial_.calls(); }
 
  private:
     struct Entry {
         const catalogue::Function* function;
-        model::Model model;
-        bool writes;  // into its arguments
+        const rules::Check* check;
     };
 
+    [[nodiscard]] const Entry& entry(std::string_view input) const;
     const Entry& decode(std::string_view input);
-    bool agrees(const Entry& entry, const model::Answer& expected, catalogue::Caller& caller);
 
     std::vector<Entry> entries_;
-    std::vector<catalogue::Value> values_;
-    catalogue::Caller at_end_{catalogue::Edge::kEnd};
-    catalogue::Caller at_begin_{catalogue::Edge::kBegin};
-    catalogue::Capture capture_;
-    std::string difference_;
+    std::vector<rules::Value> values_;
+    oracle::Trial trial_;
+    oracle::Follower follower_;
+    std::string fault_;
 };
 
 }  // namespace ostrel::fuzz

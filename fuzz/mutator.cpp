@@ -47,6 +47,13 @@ const std::string& Mutator::next()
     return input_;
 }
 
+const std::string& Mutator::next(const std::string& from)
+{
+    input_ = from;
+    for (std::size_t changes = below(3); changes > 0; --changes) change();
+    return input_;
+}
+
 void Mutator::replace(std::size_t begin, std::size_t size, const std::string& with)
 {
     input_.replace(begin, std::min(size, input_.size() - begin), with);
@@ -83,48 +90,45 @@ void Mutator::change_number()
     replace(begin, static_cast<std::size_t>(read.ptr - digits), std::to_string(number));
 }
 
-// change leaves the first byte, which chooses the function, mostly alone.
+// change leaves the first byte, which chooses the function, alone.
 void Mutator::change()
 {
     if (input_.size() < 2) input_.resize(2, ' ');
     const std::size_t begin = 1 + below(input_.size() - 1);
     const std::size_t size = 1 + below(std::min<std::size_t>(input_.size() - begin, below(8) == 0 ? 64 : 4));
-    switch (below(12)) {
+    switch (below(11)) {
         case 0:
-            input_[0] = static_cast<char>(below(256));
-            break;
-        case 1:
             input_[begin] = static_cast<char>(below(256));
             break;
-        case 2:
+        case 1:
             input_[begin] = kTelling[below(sizeof kTelling - 1)];
             break;
-        case 3:
+        case 2:
             input_.insert(begin, 1, kTelling[below(sizeof kTelling - 1)]);
             break;
-        case 4:
+        case 3:
             replace(begin, size, "");
             break;
-        case 5:
+        case 4:
             input_.insert(begin, input_.substr(begin, size));
             break;
-        case 6:
+        case 5:
             input_.insert(begin, fields_[below(fields_.size())]);
             break;
-        case 7: {
+        case 6: {
             const std::size_t end = std::min(input_.find('\0', begin), input_.size());
             const std::size_t field = input_.rfind('\0', begin - 1);
             const std::size_t first = field == std::string::npos || field == 0 ? 1 : field + 1;
             replace(first, std::max(end, first) - first, fields_[below(fields_.size())]);
             break;
         }
-        case 8:
+        case 7:
             input_[begin] = static_cast<char>(input_[begin] ^ 0x20);
             break;
-        case 9:
+        case 8:
             input_.insert(begin, {2, static_cast<char>(below(4) == 0 ? below(256) : below(40))});
             break;
-        case 10:
+        case 9:
             input_.push_back(kTelling[below(sizeof kTelling - 1)]);
             break;
         default:

@@ -16,6 +16,9 @@ class Mutator {
     // next gives a seed that was changed in some places. It holds until the next one.
     const std::string& next();
 
+    // This one changes a little of what is given, or nothing.
+    const std::string& next(const std::string& from);
+
  private:
     std::size_t below(std::size_t bound);
     void change();

@@ -1,9 +1,13 @@
 // fuzz_replay judges the calls of the vectors, kept inputs and random ones, without an engine.
 //
-//   fuzz_replay [--random COUNT] [--seed NUMBER] [FOLDER...]
+//   fuzz_replay [--random COUNT] [--seed NUMBER] [--check NAME] [--with FILE] [--table FILE] [--floor TIMES]
+//       [FOLDER...]
 //
-// A FOLDER holds a folder of inputs for each target. COUNT inputs are made out of all of them. Exits with 1 when
-// the library and the model differ on any.
+// A FOLDER holds a folder of inputs for each target. COUNT inputs are made out of all of them, as many for each
+// function, or for NAME alone. How often each step and condition was met is written to the FILE of --table, what the one
+// of --with says of an earlier run included. Exits with 1 when
+// the library and a description differ on any, when a reason does not hold what it says, and with --floor when one
+// step or condition was met less often, or when one step less has brought back no reason of some id.
 
 #include <algorithm>
 #include <charconv>
@@ -14,29 +18,42 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <memory>
+#include <optional>
 #include <set>
 #include <stdexcept>
 
-#include "fuzz/judge.h"
-#include "fuzz/mutator.h"
-#include "tests/support/vectors.h"
+#include "fuzz/aim.h"
+#include "fuzz/seeds.h"
+#include "oracle/counts.h"
+#include "oracle/driver.h"
+#include "oracle/library.h"
+#include "rules/rules.h"
 
 namespace ostrel::fuzz {
+
+using catalogue::Function;
 
 namespace {
 
 struct Options {
     std::size_t random = 0;
     std::uint64_t seed = 1;
+    std::string check;
+    std::filesystem::path with;
+    std::filesystem::path table;
+    std::uint64_t floor = 0;
     std::vector<std::filesystem::path> folders;
 };
 
 // Tally is printed at the end: the standard streams are captured as long as a judge lives.
 struct Tally {
-    std::size_t calls = 0;
+    std::size_t agreed = 0;
     std::size_t outside = 0;
     std::size_t failures = 0;
+    std::size_t calls = 0;  // compared with the library, those included that reasons were followed to
     std::string text;
+    std::vector<std::string> unproven;
 
     void fail(const std::string& what)
     {
@@ -52,55 +69,77 @@ std::string read_file(const std::filesystem::path& file)
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-void run(Judge& judge, std::string_view input, Tally& tally)
-{
-    switch (judge.run(input)) {
-        case Verdict::kAgreed:
-            ++tally.calls;
-            break;
-        case Verdict::kOutside:
-            ++tally.outside;
-            break;
-        case Verdict::kDiffered:
-            tally.fail(judge.difference());
-            break;
-    }
-}
-
-std::vector<std::string> gather(Judge& judge, const Target& target, const std::vector<tests::Row>& vectors,
-                                const Options& options, Tally& tally)
-{
-    std::vector<std::string> inputs;
-    for (const tests::Row& row : vectors) {
-        const catalogue::Case& given = row.given;
-        auto input = judge.encode(*given.function, given.values);
-        if (!input) continue;
-        if (!judge.decodes(*input, *given.function, given.values)) {
-            tally.fail("a call of " + std::string(given.function->name) + " comes out as another\n");
+// Replay runs the inputs of one target.
+class Replay {
+ public:
+    Replay(const Target& target, const Options& options, rules::Counts& counts)
+        : options_(options), counts_(counts), judge_(target)
+    {
+        for (const auto& parent : options.folders) {
+            const auto folder = parent / target.name;
+            if (!std::filesystem::is_directory(folder)) continue;
+            std::set<std::filesystem::path> files;
+            for (const auto& file : std::filesystem::directory_iterator(folder)) files.insert(file.path());
+            for (const auto& file : files) kept_.push_back(read_file(file));
         }
-        inputs.push_back(std::move(*input));
     }
-    for (const auto& parent : options.folders) {
-        const auto folder = parent / target.name;
-        if (!std::filesystem::is_directory(folder)) continue;
-        std::set<std::filesystem::path> files;
-        for (const auto& file : std::filesystem::directory_iterator(folder)) files.insert(file.path());
-        for (const auto& file : files) inputs.push_back(read_file(file));
-    }
-    return inputs;
-}
 
-Tally replay(const Target& target, const std::vector<tests::Row>& vectors, const Options& options)
-{
-    Tally tally;
-    Judge judge(target);
-    std::vector<std::string> inputs = gather(judge, target, vectors, options, tally);
-    if (inputs.empty()) throw std::runtime_error("no inputs for " + std::string(target.name));
-    for (const std::string& input : inputs) run(judge, input, tally);
-    Mutator mutator(std::move(inputs), options.seed);
-    for (std::size_t i = 0; i < options.random / targets().size(); ++i) run(judge, mutator.next(), tally);
-    return tally;
-}
+    void run(const Function& function, const std::vector<tests::Row>& rows, std::size_t random)
+    {
+        for (const tests::Row& row : rows) {
+            if (row.given.function != &function) continue;
+            const auto input = judge_.encode(function, row.given.values);
+            if (input && !judge_.decodes(*input, function, row.given.values))
+                tally_.fail("a call of " + std::string(function.name) + " comes out as another\n");
+        }
+        std::vector<std::string> inputs = seeds(judge_, function, rows);
+        for (const std::string& input : kept_) {
+            if (&judge_.function(input) == &function) inputs.push_back(input);
+        }
+        if (inputs.empty()) throw std::runtime_error("no inputs for " + std::string(function.name));
+        random += inputs.size();
+        Aim aim(*rules::find(function.name), std::move(inputs), options_.seed);
+        for (std::size_t i = 0; i < random; ++i) {
+            const std::string& input = aim.next();
+            run(input);
+            aim.learn(input, counts_);
+        }
+    }
+
+    Tally tally()
+    {
+        tally_.calls = judge_.calls() / 2;  // each is made with both edges
+        tally_.unproven = judge_.follower().unproven();
+        return std::move(tally_);
+    }
+
+ private:
+    void run(const std::string& input)
+    {
+        const auto& builds = oracle::builds_with_channels();
+        const rules::Build& build = builds[turn_++ % builds.size()];
+        const oracle::Driver driver(build.channels.value());
+        switch (judge_.run(input, build, &counts_)) {
+            case Verdict::kAgreed:
+                ++tally_.agreed;
+                break;
+            case Verdict::kOutside:
+                ++tally_.outside;
+                break;
+            case Verdict::kDiffered:
+                tally_.fail(judge_.fault());
+                break;
+        }
+        if (driver.has_left_its_list()) tally_.fail("the list of channels is left\n");
+    }
+
+    const Options& options_;
+    rules::Counts& counts_;
+    Judge judge_;
+    std::vector<std::string> kept_;
+    std::size_t turn_ = 0;
+    Tally tally_;
+};
 
 // require_targets throws when a function stands in none.
 void require_targets()
@@ -130,6 +169,14 @@ Options read_options(int argc, char** argv)
         const std::string_view argument = argv[i];
         if (argument == "--random" && i + 1 < argc) {
             options.random = read_option<std::size_t>(argv[++i]);
+        } else if (argument == "--check" && i + 1 < argc) {
+            options.check = argv[++i];
+        } else if (argument == "--with" && i + 1 < argc) {
+            options.with = argv[++i];
+        } else if (argument == "--table" && i + 1 < argc) {
+            options.table = argv[++i];
+        } else if (argument == "--floor" && i + 1 < argc) {
+            options.floor = read_option<std::uint64_t>(argv[++i]);
         } else if (argument == "--seed" && i + 1 < argc) {
             options.seed = read_option<std::uint64_t>(argv[++i]);
         } else {
@@ -139,22 +186,73 @@ Options read_options(int argc, char** argv)
     return options;
 }
 
+std::vector<const Function*> chosen(const Target& target, const Options& options)
+{
+    std::vector<const Function*> result;
+    for (const Function& function : catalogue::functions()) {
+        if (target.has(function) && (options.check.empty() || function.name == options.check))
+            result.push_back(&function);
+    }
+    return result;
+}
+
+// are_met tells whether nothing is below the floor, and what is met least.
+bool are_met(const rules::Counts& counts, const Options& options)
+{
+    std::vector<oracle::Counted> rows = oracle::table(counts);
+    if (!options.with.empty()) oracle::add_table(options.with, rows);
+    if (!options.table.empty()) oracle::write_table(options.table, rows);
+    if (!options.check.empty())
+        std::erase_if(rows,
+                      [&](const oracle::Counted& row) { return !row.what.starts_with(options.check + " "); });
+    std::ranges::sort(rows, {}, &oracle::Counted::times);
+    const auto below =
+        std::ranges::lower_bound(rows, options.floor, {}, &oracle::Counted::times) - rows.begin();
+    std::printf("%zu steps and conditions, %td met less than %llu times\n", rows.size(), below,
+                static_cast<unsigned long long>(options.floor));
+    constexpr std::ptrdiff_t kMostTold = 50;
+    for (std::ptrdiff_t i = 0; i < std::min(below, kMostTold); ++i) {
+        const oracle::Counted& row = rows[static_cast<std::size_t>(i)];
+        std::printf("%12llu %s\n", static_cast<unsigned long long>(row.times), row.what.c_str());
+    }
+    return below == 0;
+}
+
 bool run_all(const Options& options)
 {
     const auto vectors = tests::read_cases();
     require_targets();
+    rules::Counts counts;
     bool good = true;
+    const std::size_t functions = options.check.empty() ? catalogue::functions().size() : 1;
+    std::size_t inputs = 0;
+    std::size_t calls = 0;
     for (const Target& target : targets()) {
+        const auto all = chosen(target, options);
+        if (all.empty()) continue;
         const auto begin = std::chrono::steady_clock::now();
-        const Tally tally = replay(target, vectors, options);
+        Tally tally;
+        {
+            Replay replay(target, options, counts);
+            for (const Function* function : all) replay.run(*function, vectors, options.random / functions);
+            tally = replay.tally();
+        }
         const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
         std::fputs(tally.text.c_str(), stdout);
-        std::printf("%-12.*s %8zu agreed %8zu outside %4zu failed %9.0f/s\n",
-                    static_cast<int>(target.name.size()), target.name.data(), tally.calls, tally.outside,
-                    tally.failures, static_cast<double>(tally.calls + tally.outside) / took.count());
+        std::printf("%-12.*s %9zu agreed %8zu outside %4zu failed %10zu calls %9.0f/s\n",
+                    static_cast<int>(target.name.size()), target.name.data(), tally.agreed, tally.outside,
+                    tally.failures, tally.calls, static_cast<double>(tally.calls) / took.count());
+        std::fflush(stdout);
         good = good && tally.failures == 0;
+        inputs += tally.agreed + tally.outside + tally.failures;
+        calls += tally.calls;
+        if (options.floor == 0) continue;
+        for (const std::string& id : tally.unproven) std::printf("not brought back: %s\n", id.c_str());
+        good = good && tally.unproven.empty();
     }
-    return good;
+    if (inputs == 0) throw std::invalid_argument("no function " + options.check);
+    std::printf("%zu inputs, %zu calls compared\n", inputs, calls);
+    return are_met(counts, options) && good;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "fuzz/judge.h"
+#include "oracle/library.h"
 
 namespace {
 
@@ -22,10 +23,10 @@ ostrel::fuzz::Judge& judge()
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view input(reinterpret_cast<const char*>(data), size);
-    if (judge().run(input) != ostrel::fuzz::Verdict::kDiffered) return 0;
-    const std::string& difference = judge().difference();
+    if (judge().run(input, ostrel::oracle::library_build()) != ostrel::fuzz::Verdict::kDiffered) return 0;
+    const std::string& fault = judge().fault();
     // Standard error is captured.
-    (void)!write(STDERR_FILENO, difference.data(), difference.size());
+    (void)!write(STDERR_FILENO, fault.data(), fault.size());
     std::abort();
 }
 

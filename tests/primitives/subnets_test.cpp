@@ -1,64 +1,23 @@
-// The list rules against slow second versions that work on copies, and their time.
+// The list rules against their descriptions, and their time.
 
 #include <gtest/gtest.h>
 #include <ostrel/subnets.h>
 
 #include <algorithm>
-#include <cstring>
 #include <ctime>
 #include <limits>
 #include <random>
 #include <string>
 #include <vector>
 
-#include "tests/support/slow_lists.h"
+#include "tests/support/described.h"
+#include "tests/support/random_lists.h"
 
 namespace ostrel::tests {
 
 namespace {
 
 std::string lan(int last) { return "192.168.1." + std::to_string(last); }
-
-bool slow_is_in_subnet(const std::string& reference, const std::string& address)
-{
-    const char* dot = std::strrchr(reference.c_str(), '.');
-    const auto length = dot == nullptr ? 0 : static_cast<std::size_t>(dot + 1 - reference.c_str());
-    return std::strncmp(reference.c_str(), address.c_str(), length) == 0;
-}
-
-int slow_reserved(const std::string& list, const std::string& lan_address)
-{
-    std::vector<char> copy(list.begin(), list.end());
-    copy.push_back('\0');
-    char* cursor = copy.data();
-    while (char* comma = std::strchr(cursor, ',')) {
-        *comma = '\0';
-        const std::string item = slow_trim(cursor);
-        if (!slow_is_in_subnet(lan_address, item)) return -1;
-        cursor = comma + 1;
-        while (*cursor == ' ') ++cursor;
-        if (std::strstr(cursor, item.c_str()) != nullptr &&
-            (cursor[item.size()] == ',' || cursor[item.size()] == '\0')) {
-            return 701;
-        }
-    }
-    return slow_is_in_subnet(lan_address, slow_trim(cursor)) ? 0 : -1;
-}
-
-int slow_offered_dns(const std::string& list)
-{
-    int servers = 0;
-    int result = 0;
-    std::string rest = list;
-    for (;;) {
-        const std::size_t comma = rest.find(',');
-        ++servers;
-        if (!slow_is_address(slow_trim(rest.substr(0, comma)))) result = -1;
-        if (result != 0 || comma == std::string::npos) break;
-        rest = rest.substr(comma + 1);
-    }
-    return servers >= 3 ? -1 : result;
-}
 
 // cpu_seconds is the least of several runs, in time of the processor: other processes do not count.
 double cpu_seconds(const std::string& list, const char* lan_address, int code)
@@ -84,7 +43,7 @@ void expect_linear(const std::string& small, const std::string& large, const cha
 
 }  // namespace
 
-TEST(SameSubnet, AgreesWithASlowVersionOnEveryPairOfShortTexts)
+TEST(SameSubnet, EveryPairOfShortTextsIsAsDescribed)
 {
     const std::string alphabet = "1.2";
     for (std::size_t length = 0; length <= 5; ++length) {
@@ -93,7 +52,7 @@ TEST(SameSubnet, AgreesWithASlowVersionOnEveryPairOfShortTexts)
             for (std::size_t other_length = 0; other_length <= 5; ++other_length) {
                 std::string address(other_length, alphabet[0]);
                 for_each_text(address, alphabet, [&] {
-                    ASSERT_EQ(slow_is_in_subnet(reference, address) ? 0 : -1,
+                    ASSERT_EQ(described_code("isInSameSubnet", {reference, address}),
                               isInSameSubnet(reference.c_str(), address.c_str()))
                         << '"' << reference << "\" \"" << address << '"';
                 });
@@ -102,7 +61,7 @@ TEST(SameSubnet, AgreesWithASlowVersionOnEveryPairOfShortTexts)
     }
 }
 
-TEST(ReservedAddresses, AgreeWithASlowVersionOnEveryShortList)
+TEST(ReservedAddresses, EveryShortListIsAsDescribed)
 {
     const std::string alphabet = "1., 2";
     std::size_t repeated = 0;
@@ -110,7 +69,7 @@ TEST(ReservedAddresses, AgreeWithASlowVersionOnEveryShortList)
         std::string list(length, alphabet[0]);
         for_each_text(list, alphabet, [&] {
             for (const char* lan_address : {"", "1", ".", "1.", "1.2"}) {
-                const int expected = slow_reserved(list, lan_address);
+                const int expected = described_code("TcmValidateReservedAddress", {list, lan_address});
                 repeated += expected == 701 ? 1 : 0;
                 ASSERT_EQ(expected, TcmValidateReservedAddress(list.c_str(), lan_address))
                     << '"' << list << "\" \"" << lan_address << '"';
@@ -120,7 +79,7 @@ TEST(ReservedAddresses, AgreeWithASlowVersionOnEveryShortList)
     EXPECT_GT(repeated, 1000U);
 }
 
-TEST(ReservedAddresses, AgreeWithASlowVersionOnRandomLists)
+TEST(ReservedAddresses, RandomListsAreAsDescribed)
 {
     std::mt19937 random(1);  // NOLINT(bugprone-random-generator-seed): every run tries the same lists
     const std::vector<std::string> parts = {"1.1", "1.2", "1.12", "1.1 2", "2.1", "1.", ",", ",", " ", "\t"};
@@ -128,7 +87,7 @@ TEST(ReservedAddresses, AgreeWithASlowVersionOnRandomLists)
     for (int round = 0; round < 200000; ++round) {
         const std::string list = random_text(random, parts, 12);
         const char* lan_address = round % 2 == 0 ? "1.9" : "9";
-        const int expected = slow_reserved(list, lan_address);
+        const int expected = described_code("TcmValidateReservedAddress", {list, lan_address});
         ASSERT_EQ(expected, TcmValidateReservedAddress(list.c_str(), lan_address)) << '"' << list << '"';
         ++codes.at(static_cast<std::size_t>(std::max(expected, 0)));
     }
@@ -157,7 +116,7 @@ TEST(ReservedAddresses, TakeLinearTimeForItemsThatEndDifferently)
     expect_linear(list(1U << 14), list(1U << 20), "nodot", 0);
 }
 
-TEST(OfferedDns, AgreeWithASlowVersion)
+TEST(OfferedDns, AreAsDescribed)
 {
     std::mt19937 random(2);  // NOLINT(bugprone-random-generator-seed): every run tries the same lists
     const std::vector<std::string> parts = {"1.1.1.1", "1.1.1.1", "255.8.8.8", "1.1.1.256", ",", ",",
@@ -165,7 +124,7 @@ TEST(OfferedDns, AgreeWithASlowVersion)
     int accepted = 0;
     for (int round = 0; round < 200000; ++round) {
         const std::string list = random_text(random, parts, 7);
-        const int expected = slow_offered_dns(list);
+        const int expected = described_code("TcmValidateofferDNS", {list});
         accepted += expected == 0 ? 1 : 0;
         ASSERT_EQ(expected, TcmValidateofferDNS(list.c_str())) << '"' << list << '"';
     }

@@ -5,9 +5,10 @@
 
 #include "fuzz/input.h"
 #include "fuzz/mutator.h"
+#include "oracle/driver.h"
+#include "oracle/harvest.h"
+#include "oracle/library.h"
 #include "tests/rules/candidates.h"
-#include "tests/rules/driver.h"
-#include "tests/rules/harvest.h"
 
 namespace ostrel::tests {
 
@@ -31,7 +32,7 @@ const std::vector<Row>& all_rows()
 }
 
 // A build whose driver lists channels.
-const rules::Build& build() { return trial_builds().front(); }
+const rules::Build& build() { return oracle::builds_with_channels().front(); }
 
 bool is_in_range(Kind kind, long long number)
 {
@@ -46,11 +47,11 @@ Experiment::Experiment(const Function& function, const Check& check) : function_
     for (std::size_t i = 0; i < check.arguments.size(); ++i) {
         if (!rules::has_constraints(check, i)) continue;
         const Constraints& said =
-            constraints_.emplace(i, rules::constraints_of(check, i, library_build())).first->second;
+            constraints_.emplace(i, rules::constraints_of(check, i, oracle::library_build())).first->second;
         reads_number_ = reads_number_ || said.form.reads_number;
     }
     for (const Row& row : all_rows()) {
-        if (row.given.function == &function) rows_.push_back(complete(function, row.given.values));
+        if (row.given.function == &function) rows_.push_back(oracle::completed(function, row.given.values));
     }
 }
 
@@ -59,7 +60,7 @@ std::optional<bool> Experiment::call(const Values& values, Capture& capture)
     const rules::Answer answer = rules::evaluate(check_, values, build());
     if (answer.outside != Outside::kNo || (answer.beyond_int && reads_number_)) return std::nullopt;
     caller_.load(function_, values);
-    const Driver driver(build().channels.value_or(std::vector<int>()));
+    const oracle::Driver driver(build().channels.value_or(std::vector<int>()));
     const bool is_accepted = caller_.call() == 0;
     capture.clear();
     ++(is_accepted ? accepted : refused);
@@ -117,7 +118,7 @@ Experiment::Values Experiment::candidates_for(std::size_t argument) const
         }
         return result;
     }
-    std::set<std::string> known = harvest(check_, library_build());
+    std::set<std::string> known = oracle::harvest(check_, oracle::library_build());
     for (const Values& row : rows_) {
         const auto* text = std::get_if<std::string>(&row[argument]);
         if (text != nullptr && text->size() < 10000) known.insert(*text);

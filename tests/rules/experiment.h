@@ -11,7 +11,7 @@
 
 #include "rules/constraints.h"
 #include "tests/rules/obedience.h"
-#include "tests/rules/trials.h"
+#include "tests/support/vectors.h"
 
 namespace ostrel::tests {
 

@@ -8,9 +8,11 @@
 #include <string_view>
 #include <vector>
 
+#include "oracle/library.h"
 #include "rules/evaluate.h"
 #include "rules/rules.h"
-#include "tests/rules/trials.h"
+#include "tests/rules/atois.h"
+#include "tests/support/vectors.h"
 #include "tests/support/vectors.h"
 
 namespace ostrel::tests {
@@ -97,11 +99,11 @@ const std::vector<Judged>& judged_rows()
         for (const Row& row : rows) {
             const Check* check = rules::find(row.given.function->name);
             if (!row.reason || check == nullptr) continue;
-            rules::Build build = library_build();
+            rules::Build build = oracle::library_build();
             build.atoi = rules::Build::Atoi::kLong64;  // for which the row is written
             Counts counts;
             Answer answer =
-                rules::evaluate(*check, complete(*row.given.function, row.given.values), build, &counts);
+                rules::evaluate(*check, oracle::completed(*row.given.function, row.given.values), build, &counts);
             std::string path = path_of(*check, counts);
             result.push_back({&row, check, std::move(answer), std::move(path)});
         }

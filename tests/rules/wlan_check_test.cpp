@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 #include <ostrel/wlan_check.h>
 
-#include "tests/rules/driver.h"
+#include "oracle/driver.h"
+#include "oracle/library.h"
 #include "tests/rules/told.h"
-#include "tests/rules/trials.h"
 
 namespace ostrel::rules {
 
@@ -131,8 +131,8 @@ TEST(WlanReasonTest, NamesWhatTheDriverLists)
 
 TEST(WlanChannelTest, EveryChannelOfEveryList)
 {
-    for (const Build& build : tests::trial_builds()) {
-        const tests::Driver driver(build.channels.value());
+    for (const Build& build : oracle::builds_with_channels()) {
+        const oracle::Driver driver(build.channels.value());
         for (int number = -4; number < 41; ++number) {
             const std::string channel = std::to_string(number);
             const int code = answer_of("WLAN_check_channel", {channel, "RADIO_2.4GHz"}, build).code;

@@ -1,0 +1,44 @@
+// Aim chooses the inputs of one function, so that every step and condition of its description is met often: inputs that
+// met one are kept, and those of what was met least are changed again.
+#ifndef OSTREL_FUZZ_AIM_H
+#define OSTREL_FUZZ_AIM_H
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "fuzz/mutator.h"
+#include "rules/evaluate.h"
+
+namespace ostrel::fuzz {
+
+class Aim {
+ public:
+    Aim(const rules::Check& check, std::vector<std::string> seeds, std::uint64_t seed);
+
+    // next gives an input. It holds until the next one.
+    const std::string& next();
+
+    // learn is told of an input that was run, and of what has been counted since the last one.
+    void learn(const std::string& input, const rules::Counts& counts);
+
+ private:
+    struct Met {
+        std::uint64_t times = 0;
+        std::vector<std::string> inputs;
+    };
+
+    void learn(const std::string& input, Met& met, std::uint64_t times);
+    [[nodiscard]] const Met* least_met() const;
+
+    const rules::Check& check_;
+    std::vector<std::string> seeds_;
+    std::size_t seeds_given_ = 0;
+    Mutator mutator_;
+    std::vector<Met> mets_;  // the steps, then the conditions
+    std::uint64_t turn_ = 0;
+};
+
+}  // namespace ostrel::fuzz
+
+#endif

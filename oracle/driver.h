@@ -1,0 +1,36 @@
+// Driver stands in for the shell, the wireless driver's tool and the file of its channels: no program is run and no
+// file is written.
+#ifndef OSTREL_ORACLE_DRIVER_H
+#define OSTREL_ORACLE_DRIVER_H
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace ostrel::oracle {
+
+// Driver lists these channels for as long as it lives. One at a time.
+class Driver {
+ public:
+    explicit Driver(std::vector<int> channels);
+    Driver(const Driver&) = delete;
+    Driver& operator=(const Driver&) = delete;
+    ~Driver();
+
+    // What the C library's functions do with the file.
+    void write_list();
+    std::FILE* open_list(const char* modes);
+    void delete_list() { has_left_its_list_ = false; }
+
+    // has_left_its_list tells whether the file was written and not deleted.
+    [[nodiscard]] bool has_left_its_list() const { return has_left_its_list_; }
+
+ private:
+    std::vector<int> channels_;
+    std::string content_;
+    bool has_left_its_list_ = false;
+};
+
+}  // namespace ostrel::oracle
+
+#endif
