@@ -86,7 +86,8 @@ bool Judge::decodes(std::string_view input, const Function& function, const std:
     return oracle::completed(function, values) == values_;
 }
 
-Verdict Judge::run(std::string_view input, const rules::Build& build, rules::Counts* counts)
+Verdict Judge::run(std::string_view input, const rules::Build& build, rules::Counts* counts,
+                   rules::Counts* further)
 {
     const Entry& entry = decode(input);
     const Answer answer = rules::evaluate(*entry.check, values_, build, counts);
@@ -97,7 +98,7 @@ Verdict Judge::run(std::string_view input, const rules::Build& build, rules::Cou
     };
     compare(values_, answer);
     if (answer.is_refusal && fault_.empty()) {
-        const std::string wrong = follower_.follow(*entry.check, values_, build, answer, compare);
+        const std::string wrong = follower_.follow(*entry.check, values_, build, answer, compare, further);
         if (!wrong.empty() && fault_.empty()) {
             fault_ = "advice:  " + wrong + "\nrefused: " + oracle::shown_call(*entry.function, values_) +
                      "\nthen:    " + oracle::shown_call(*entry.function, follower_.fault_call()) + "\n";

@@ -44,7 +44,9 @@ class Judge {
 
     // run decodes an input, makes its call, and follows what is said of it where it is refused. Where the build does
     // not say what the wireless driver lists, the driver is not asked.
-    Verdict run(std::string_view input, const rules::Build& build, rules::Counts* counts = nullptr);
+    // counts is told of that call, further of those that the reason was followed to.
+    Verdict run(std::string_view input, const rules::Build& build, rules::Counts* counts = nullptr,
+                rules::Counts* further = nullptr);
 
     // fault tells of the last input that differed: the row that the description would have, as in vectors/, and what
     // the library did; or what is wrong with the reason.

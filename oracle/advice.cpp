@@ -125,7 +125,8 @@ std::span<const Way> ways() { return kWays; }
 
 std::string Follower::follow(const rules::Check& check, const Values& values, const rules::Build& build,
                              const Answer& answer,
-                             const std::function<void(const Values&, const Answer&)>& visit)
+                             const std::function<void(const Values&, const Answer&)>& visit,
+                             rules::Counts* counts)
 {
     const Reason& reason = answer.reason;
     const Refusal refusal(check, values, answer, turn_++);
@@ -139,7 +140,7 @@ std::string Follower::follow(const rules::Check& check, const Values& values, co
     std::string fault;
     fault_call_.clear();
     const auto answer_of = [&](const Values& call) {
-        Answer result = rules::evaluate(check, call, build);
+        Answer result = rules::evaluate(check, call, build, counts);
         if (result.outside == Outside::kNo) visit(call, result);
         return result;
     };

@@ -43,11 +43,12 @@ struct Tally {
 
 class Follower {
  public:
-    // follow follows the reason of a call that was refused. visit sees each further call and its answer. The text says
+    // follow follows the reason of a call that was refused. counts is told of the further calls; visit sees each further call and its answer. The text says
     // what is wrong; nothing where all is well. fault_call is the call that showed it.
     std::string follow(const rules::Check& check, const Values& values, const rules::Build& build,
                        const rules::Answer& answer,
-                       const std::function<void(const Values&, const rules::Answer&)>& visit);
+                       const std::function<void(const Values&, const rules::Answer&)>& visit,
+                       rules::Counts* counts = nullptr);
 
     // unproven lists the checks and ids that were followed, and that no step less of many has brought back.
     [[nodiscard]] std::vector<std::string> unproven() const;

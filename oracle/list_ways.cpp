@@ -1,6 +1,7 @@
 // Ways of lists, and of texts that depend on others.
 
 #include <algorithm>
+#include <numeric>
 
 #include "oracle/ways.h"
 
@@ -65,7 +66,9 @@ void begin_like_subnet(const Refusal& refusal, Advice& advice)
     const bool can_be_item = subnet.find(',') == std::string::npos && !subnet.starts_with(' ');
     if (refusal.reason().item && !can_be_item) return;
     advice.followed.push_back(refusal.with(subnet));
-    for (std::size_t i = 0; i < subnet.size(); ++i) {
+    std::vector<std::size_t> places(subnet.size());
+    std::iota(places.begin(), places.end(), std::size_t{0});
+    for (const std::size_t i : refusal.some(places)) {
         std::string other = subnet;
         other[i] = other[i] == '1' ? '2' : '1';
         advice.attempts.push_back(refusal.with(other));

@@ -67,6 +67,8 @@ def proofs():
     yield Proof("coverage", "every condition seen to decide", "modified condition/decision", [], [
         Step([str(ROOT / "scripts" / "coverage"), "--mcdc"], r"(\d+ of \d+ conditions seen to decide, \d+ listed)")])
     yield Proof("fuzzing", "no relation is broken", "fuzzing", [], [script("fuzz")])
+    yield Proof("fuzzing", "every step of every rule is met", "counted, with sanitizers", [],
+                [script("fuzz", "--table")])
     yield Proof("mutation", "tests notice every change", "mutation", [], [script("mutate")])
 
 

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <map>
 
+#include "oracle/library.h"
 #include "rules/rules.h"
 #include "tests/rules/experiment.h"
 
@@ -83,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(Rules, OfEachCheck, testing::ValuesIn(described_checks(
 
 Constraints constraints_of(const char* name, std::size_t argument = 0)
 {
-    return rules::constraints_of(*rules::find(name), argument, library_build());
+    return rules::constraints_of(*rules::find(name), argument, oracle::library_build());
 }
 
 bool is_exact(const Constraints& constraints)
@@ -167,7 +168,7 @@ TEST(ConstraintsTest, HowMuchIsSaid)
     for (const Check& check : rules::checks()) {
         for (std::size_t i = 0; i < check.arguments.size(); ++i) {
             if (!rules::has_constraints(check, i)) continue;
-            const Constraints one = rules::constraints_of(check, i, library_build());
+            const Constraints one = rules::constraints_of(check, i, oracle::library_build());
             names[is_exact(one)      ? "exact"
                   : one.is_necessary ? "necessary"
                                      : "neither"]

@@ -13,7 +13,6 @@
 #include "rules/rules.h"
 #include "tests/rules/atois.h"
 #include "tests/support/vectors.h"
-#include "tests/support/vectors.h"
 
 namespace ostrel::tests {
 
