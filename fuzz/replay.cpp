@@ -10,20 +10,17 @@
 // step or condition was met less often, or when one step less has brought back no reason of some id.
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <cstdio>
-#include <cstring>
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <memory>
-#include <optional>
 #include <set>
 #include <stdexcept>
 
 #include "fuzz/aim.h"
+#include "fuzz/options.h"
 #include "fuzz/seeds.h"
 #include "oracle/counts.h"
 #include "oracle/driver.h"
@@ -35,16 +32,6 @@ namespace ostrel::fuzz {
 using catalogue::Function;
 
 namespace {
-
-struct Options {
-    std::size_t random = 0;
-    std::uint64_t seed = 1;
-    std::string check;
-    std::filesystem::path with;
-    std::filesystem::path table;
-    std::uint64_t floor = 0;
-    std::vector<std::filesystem::path> folders;
-};
 
 // Tally is printed at the end: the standard streams are captured as long as a judge lives.
 struct Tally {
@@ -151,40 +138,6 @@ void require_targets()
             throw std::logic_error("no target has " + std::string(function.name));
         }
     }
-}
-
-template <typename T>
-T read_option(const char* text)
-{
-    T value{};
-    if (std::from_chars(text, text + std::strlen(text), value).ec != std::errc()) {
-        throw std::invalid_argument(std::string("no number: ") + text);
-    }
-    return value;
-}
-
-Options read_options(int argc, char** argv)
-{
-    Options options;
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view argument = argv[i];
-        if (argument == "--random" && i + 1 < argc) {
-            options.random = read_option<std::size_t>(argv[++i]);
-        } else if (argument == "--check" && i + 1 < argc) {
-            options.check = argv[++i];
-        } else if (argument == "--with" && i + 1 < argc) {
-            options.with = argv[++i];
-        } else if (argument == "--table" && i + 1 < argc) {
-            options.table = argv[++i];
-        } else if (argument == "--floor" && i + 1 < argc) {
-            options.floor = read_option<std::uint64_t>(argv[++i]);
-        } else if (argument == "--seed" && i + 1 < argc) {
-            options.seed = read_option<std::uint64_t>(argv[++i]);
-        } else {
-            options.folders.emplace_back(argument);
-        }
-    }
-    return options;
 }
 
 std::vector<const Function*> chosen(const Target& target, const Options& options)

@@ -112,7 +112,7 @@ Values Refusal::with_whole(std::string whole) const
         return with_argument(argument, std::move(whole));
     auto texts = std::get<std::vector<std::string>>(values_[argument]);
     whole.resize(std::min(whole.size(), check_.arguments[argument].block_size - 1));
-    texts.at(*reason().item) = std::move(whole);
+    texts.at(reason().item.value()) = std::move(whole);
     return with_argument(argument, std::move(texts));
 }
 

@@ -37,6 +37,7 @@ class Refusal {
     {
         if (all.size() <= most) return all;
         std::vector<T> result;
+        result.reserve(most);
         for (std::size_t i = 0; i < most; ++i) result.push_back(all[(turn_ * most + i) % all.size()]);
         return result;
     }

@@ -1,0 +1,28 @@
+// Options of fuzz_replay, whose file says what they do.
+#ifndef OSTREL_FUZZ_OPTIONS_H
+#define OSTREL_FUZZ_OPTIONS_H
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace ostrel::fuzz {
+
+struct Options {
+    std::size_t random = 0;
+    std::uint64_t seed = 1;
+    std::string check;
+    std::filesystem::path with;
+    std::filesystem::path table;
+    std::uint64_t floor = 0;
+    std::vector<std::filesystem::path> folders;
+};
+
+// read_options throws std::invalid_argument for what is not a number where one belongs.
+Options read_options(int argc, char** argv);
+
+}  // namespace ostrel::fuzz
+
+#endif
