@@ -30,18 +30,19 @@ Check host()
 // host and port, and is tested after them, so that no byte is said to be allowed that is refused in turn.
 Check url(std::string_view name, std::string_view what, int code, Words schemes)
 {
+    const Condition has_port = contains("rest", literal(":"));
     const Expression port = called("the port", before_first(after_first("rest", ":"), "/"));
     return check(
         name, {text("value", what)},
         {refuse(code, longer_than(256)), refuse(code, not_(begins_with(std::move(schemes)))),
          remember("rest", after_first(it, "://")),
-         when(contains("rest", literal(":")),
+         when(has_port,
               {refuse(code, because("colon_in_path", contains(before_first("rest", ":"), literal("/")))),
                refuse(code, refused_by("ValidateURL", {called("the host", before_first("rest", ":"))})),
-               refuse(code, outside(port, kDigits)), refuse(code, outside(kUrl)),
-               refuse(code, below(port, 0)), refuse(code, above(port, 65535))},
-              {refuse(code, refused_by("ValidateURL", {called("the host", before_first("rest", "/"))})),
-               refuse(code, outside(kUrl))})});
+               refuse(code, outside(port, kDigits))},
+              {refuse(code, refused_by("ValidateURL", {called("the host", before_first("rest", "/"))}))}),
+         refuse(code, outside(kUrl)),
+         when(has_port, {refuse(code, below(port, 0)), refuse(code, above(port, 65535))})});
 }
 
 // What is between the first "@" and the last "." may hold either of them again.
