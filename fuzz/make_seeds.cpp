@@ -1,5 +1,5 @@
-// fuzz_seeds OUT: writes the seeds of each target as inputs into OUT/TARGET/, and the texts that are in the calls of
-// vectors/*.ndjson and in the descriptions into OUT/TARGET.dict, a dictionary as libFuzzer and AFL++ read it.
+// fuzz_seeds OUT: writes each call of vectors/*.ndjson as an input into OUT/TARGET/, and the texts that are in the calls
+// and in the descriptions into OUT/TARGET.dict, a dictionary as libFuzzer and AFL++ read it.
 
 #include <cstdio>
 #include <exception>
@@ -7,10 +7,11 @@
 #include <fstream>
 #include <set>
 
-#include "fuzz/seeds.h"
+#include "fuzz/judge.h"
 #include "oracle/harvest.h"
 #include "oracle/library.h"
 #include "rules/rules.h"
+#include "tests/support/vectors.h"
 
 namespace ostrel::fuzz {
 
@@ -65,17 +66,18 @@ void make_seeds(const Target& target, const std::vector<tests::Row>& rows, const
     std::set<std::string> words;
     std::size_t count = 0;
     for (const tests::Row& row : rows) {
-        if (target.has(*row.given.function)) add_words(row.given, words);
+        const catalogue::Case& given = row.given;
+        const auto input = judge.encode(*given.function, given.values);
+        if (!input) continue;
+        add_words(given, words);
+        const auto file = folder / (std::to_string(++count) + "-" + std::string(given.function->name));
+        std::ofstream(file, std::ios::binary) << *input;
     }
     for (const catalogue::Function& function : catalogue::functions()) {
         if (!target.has(function)) continue;
         for (const std::string& word :
              oracle::harvest(*rules::find(function.name), oracle::library_build())) {
             if (word.size() > 1 && word.size() <= kLongestWord) words.insert(word);
-        }
-        for (const std::string& input : seeds(judge, function, rows)) {
-            const auto file = folder / (std::to_string(++count) + "-" + std::string(function.name));
-            std::ofstream(file, std::ios::binary) << input;
         }
     }
     write_dictionary(out / (std::string(target.name) + ".dict"), words);

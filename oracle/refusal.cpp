@@ -24,6 +24,14 @@ const std::string* written_text(const rules::Check& check, const rules::Answer& 
     return written < answer.after.size() ? std::get_if<std::string>(&answer.after[written]) : nullptr;
 }
 
+// converts tells whether a check writes an argument as a conversion makes it, and judges that.
+bool converts(const rules::Check& check)
+{
+    return std::ranges::any_of(check.steps, [](const rules::Step& step) {
+        return step.kind == rules::Step::Kind::kWrite && step.writes[0].value.conversion != nullptr;
+    });
+}
+
 // referred is a text of which the conversion makes that one: every "&" that may begin a reference is one.
 std::string referred(std::string_view text)
 {
@@ -44,7 +52,8 @@ Refusal::Refusal(const rules::Check& check, const Values& values, const rules::A
     const std::string* text = std::get_if<std::string>(&value);
     if (const auto* texts = std::get_if<std::vector<std::string>>(&value); texts != nullptr && reason.item)
         text = &texts->at(*reason.item);
-    if (text != nullptr && !reason.conversion.empty()) text = written_text(check, answer, *reason.argument);
+    is_converted_ = converts(check);
+    if (text != nullptr && is_converted_) text = written_text(check, answer, *reason.argument);
     if (text == nullptr || reason.judged->begin + reason.judged->size > text->size()) return;
     is_text_ = true;
     whole_ = *text;
@@ -106,7 +115,7 @@ bool Refusal::takes(long long number) const
 
 Values Refusal::with_whole(std::string whole) const
 {
-    if (!reason().conversion.empty()) whole = referred(whole);
+    if (is_converted_) whole = referred(whole);
     const std::size_t argument = reason().argument.value();
     if (std::holds_alternative<std::string>(values_[argument]))
         return with_argument(argument, std::move(whole));

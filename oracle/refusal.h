@@ -63,6 +63,7 @@ class Refusal {
     const rules::Answer& answer_;
     std::size_t turn_;
     bool is_text_ = false;
+    bool is_converted_ = false;  // the text is what a conversion made
     std::string whole_;
     std::size_t begin_ = 0;
     std::size_t size_ = 0;

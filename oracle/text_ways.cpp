@@ -46,14 +46,10 @@ Misses misses_of(const rules::Set& set)
     return result;
 }
 
-// "&" may begin a character reference, which stands for another byte.
 void take_members(const Refusal& refusal, Advice& advice)
 {
-    const bool may_refer = refusal.whole().find(';', refusal.reason().offset.value()) != std::string::npos;
     for (const std::string& member : refusal.some(members(refusal))) {
-        const char byte = member.front();
-        const bool is_reference = byte == '&' && may_refer;
-        if (byte != '\0' && !is_reference) advice.followed.push_back(refusal.with_byte(byte));
+        if (member.front() != '\0') advice.followed.push_back(refusal.with_byte(member.front()));
     }
 }
 
