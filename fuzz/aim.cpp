@@ -34,7 +34,7 @@ void Aim::learn(const std::string& input, const rules::Counts& counts)
     for (std::size_t i = 0; i < of.held.size(); ++i) learn(input, mets_[of.steps.size() + i], of.held[i]);
 }
 
-void Aim::learn(const std::string& input, Met& met, std::uint64_t times)
+void Aim::learn(const std::string& input, Met& met, std::uint64_t times) const
 {
     if (met.times == times) return;
     met.times = times;

@@ -28,7 +28,7 @@ class Aim {
         std::vector<std::string> inputs;
     };
 
-    void learn(const std::string& input, Met& met, std::uint64_t times);
+    void learn(const std::string& input, Met& met, std::uint64_t times) const;
     [[nodiscard]] const Met* least_met() const;
 
     const rules::Check& check_;
