@@ -5,8 +5,10 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "fuzz/judge.h"
+#include "oracle/counts.h"
 #include "oracle/library.h"
 
 namespace {
@@ -18,12 +20,33 @@ ostrel::fuzz::Judge& judge()
     return *the_judge;
 }
 
+// Counts are written when the process ends, where OSTREL_FUZZ_TABLE names a file for them.
+class Table {
+ public:
+    ~Table()
+    {
+        std::vector<Counted> rows = ostrel::oracle::table(counts);
+        std::erase_if(rows, [](const Counted& row) { return row.times == 0; });
+        if (file_ != nullptr) ostrel::oracle::write_table(file_, rows);
+    }
+
+    ostrel::rules::Counts counts;
+
+ private:
+    using Counted = ostrel::oracle::Counted;
+
+    const char* file_ = std::getenv("OSTREL_FUZZ_TABLE");
+};
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view input(reinterpret_cast<const char*>(data), size);
-    if (judge().run(input, ostrel::oracle::library_build()) != ostrel::fuzz::Verdict::kDiffered) return 0;
+    static Table table;
+    if (judge().run(input, ostrel::oracle::library_build(), &table.counts, &table.counts) !=
+        ostrel::fuzz::Verdict::kDiffered)
+        return 0;
     const std::string& fault = judge().fault();
     // Standard error is captured.
     (void)!write(STDERR_FILENO, fault.data(), fault.size());
