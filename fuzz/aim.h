@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "fuzz/mutator.h"
+#include "oracle/mutator.h"
 #include "rules/evaluate.h"
 
 namespace ostrel::fuzz {
@@ -34,7 +34,7 @@ class Aim {
     const rules::Check& check_;
     std::vector<std::string> seeds_;
     std::size_t seeds_given_ = 0;
-    Mutator mutator_;
+    oracle::Mutator mutator_;
     std::vector<Met> mets_;  // the steps, then the conditions
     std::uint64_t turn_ = 0;
 };

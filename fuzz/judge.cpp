@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "fuzz/input.h"
+#include "oracle/input.h"
 #include "oracle/library.h"
 #include "rules/rules.h"
 
@@ -66,7 +66,7 @@ const Function& Judge::function(std::string_view input) const { return *entry(in
 const Judge::Entry& Judge::decode(std::string_view input)
 {
     const Entry& chosen = entry(input);
-    decode_arguments(*chosen.function, input.substr(std::min<std::size_t>(1, input.size())), values_);
+    oracle::decode_arguments(*chosen.function, input.substr(std::min<std::size_t>(1, input.size())), values_);
     return chosen;
 }
 
@@ -74,7 +74,7 @@ std::optional<std::string> Judge::encode(const Function& function, const std::ve
 {
     const auto found = std::ranges::find(entries_, &function, &Entry::function);
     if (found == entries_.end()) return std::nullopt;
-    std::optional<std::string> fields = encode_arguments(function, values);
+    std::optional<std::string> fields = oracle::encode_arguments(function, values);
     if (fields) fields->insert(fields->begin(), static_cast<char>(found - entries_.begin()));
     return fields;
 }

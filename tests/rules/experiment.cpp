@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <limits>
 
-#include "fuzz/input.h"
-#include "fuzz/mutator.h"
 #include "oracle/driver.h"
 #include "oracle/harvest.h"
+#include "oracle/input.h"
 #include "oracle/library.h"
+#include "oracle/mutator.h"
 #include "tests/rules/candidates.h"
 
 namespace ostrel::tests {
@@ -93,13 +93,13 @@ void Experiment::change(std::size_t times, Capture& capture)
 {
     std::vector<std::string> inputs;
     for (const Values& values : rows_) {
-        if (const auto fields = fuzz::encode_arguments(function_, values)) inputs.push_back(" " + *fields);
+        if (const auto fields = oracle::encode_arguments(function_, values)) inputs.push_back(" " + *fields);
     }
     if (inputs.empty()) inputs.emplace_back(" ");
-    fuzz::Mutator mutator(std::move(inputs), 2);
+    oracle::Mutator mutator(std::move(inputs), 2);
     Values values;
     for (std::size_t i = 0; i < times && difference.empty(); ++i) {
-        fuzz::decode_arguments(function_, std::string_view(mutator.next()).substr(1), values);
+        oracle::decode_arguments(function_, std::string_view(mutator.next()).substr(1), values);
         if (!call(values, capture).value_or(false)) continue;
         for (std::size_t argument = 0; argument < values.size(); ++argument) {
             if (constraints(argument) != nullptr) compare(values, argument, true);

@@ -1,12 +1,12 @@
 // Mutator makes new inputs out of others, at random and the same ones at every run.
-#ifndef OSTREL_FUZZ_MUTATOR_H
-#define OSTREL_FUZZ_MUTATOR_H
+#ifndef OSTREL_ORACLE_MUTATOR_H
+#define OSTREL_ORACLE_MUTATOR_H
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
-namespace ostrel::fuzz {
+namespace ostrel::oracle {
 
 class Mutator {
  public:
@@ -31,6 +31,6 @@ class Mutator {
     std::uint64_t state_;
 };
 
-}  // namespace ostrel::fuzz
+}  // namespace ostrel::oracle
 
 #endif

@@ -1,11 +1,11 @@
-#include "fuzz/mutator.h"
+#include "oracle/mutator.h"
 
 #include <algorithm>
 #include <charconv>
 #include <iterator>
 #include <limits>
 
-namespace ostrel::fuzz {
+namespace ostrel::oracle {
 
 namespace {
 
@@ -137,4 +137,4 @@ void Mutator::change()
     }
 }
 
-}  // namespace ostrel::fuzz
+}  // namespace ostrel::oracle

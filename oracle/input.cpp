@@ -1,10 +1,10 @@
-#include "fuzz/input.h"
+#include "oracle/input.h"
 
 #include <algorithm>
 #include <charconv>
 #include <limits>
 
-namespace ostrel::fuzz {
+namespace ostrel::oracle {
 
 using catalogue::Argument;
 using catalogue::Kind;
@@ -207,4 +207,4 @@ std::optional<std::string> encode_arguments(const catalogue::Function& function,
     return fields;
 }
 
-}  // namespace ostrel::fuzz
+}  // namespace ostrel::oracle

@@ -6,8 +6,8 @@
 //   text    its bytes; 0x01 alone is NULL; 0x02 and a byte n repeat the byte before n times, from 128 on
 //           (n - 127) * 64 times; 0x03 makes the next byte stand for itself
 //   number  in decimal, when it begins with a digit or "-"; else four bytes, the lowest first
-#ifndef OSTREL_FUZZ_INPUT_H
-#define OSTREL_FUZZ_INPUT_H
+#ifndef OSTREL_ORACLE_INPUT_H
+#define OSTREL_ORACLE_INPUT_H
 
 #include <optional>
 #include <string>
@@ -16,7 +16,7 @@
 
 #include "catalogue/caller.h"
 
-namespace ostrel::fuzz {
+namespace ostrel::oracle {
 
 // kLongestText bounds a text, so that a few bytes cannot make a call that takes long.
 constexpr std::size_t kLongestText = 8192;
@@ -29,6 +29,6 @@ void decode_arguments(const catalogue::Function& function, std::string_view fiel
 std::optional<std::string> encode_arguments(const catalogue::Function& function,
                                             const std::vector<catalogue::Value>& values);
 
-}  // namespace ostrel::fuzz
+}  // namespace ostrel::oracle
 
 #endif
