@@ -16,6 +16,7 @@ namespace ostrel::rules {
 struct Place {
     std::optional<std::size_t> argument;
     std::optional<std::size_t> item;
+    std::string_view item_text = {};
     std::optional<std::size_t> offset;  // where a text begins in the argument's
     std::string_view part = {};         // what that part of the argument is called
     std::size_t part_number = 0;        // of several that are called the same, from 1
@@ -65,6 +66,7 @@ struct Frame {
 // Ended is thrown where the contract promises nothing of a call.
 struct Ended {
     Outside outside;
+    Place place = {};
 };
 
 class Run {
@@ -74,6 +76,7 @@ class Run {
     {
     }
 
+    void limit_work(std::size_t bytes) { bytes_left_ = bytes; }
     Answer evaluate(std::span<const Value> values);
     std::optional<std::size_t> size(const Expression& formula, std::span<const Value> values);
 
@@ -107,6 +110,7 @@ class Run {
     bool is_refused_by(const Condition& condition, Frame& frame, Reason* reason);
     void tell(Reason& reason, const Place& where, std::string_view id, Datum found, Datum allowed) const;
     void tell(Reason& reason, const Integer& judged, std::string_view id, Datum allowed) const;
+    void work(std::size_t bytes);
 
     // Steps.
     Flow run(const std::vector<Step>& steps, Frame& frame);
@@ -127,6 +131,7 @@ class Run {
     const Reason* fault_ = nullptr;                   // while lines are printed
     const std::vector<Line>* fault_lines_ = nullptr;  // of the group of a shape that is at fault
     int its_code_ = 0;                                // of the check that was last used
+    std::size_t bytes_left_ = std::string_view::npos;
 };
 
 }  // namespace ostrel::rules

@@ -21,25 +21,6 @@ using tests::Outcome;
 
 namespace {
 
-// arguments_of adds what a row leaves out: arguments that are only written.
-std::vector<Value> arguments_of(const Case& given)
-{
-    const auto& arguments = given.function->arguments;
-    if (given.values.size() == arguments.size()) return given.values;
-    std::vector<Value> result;
-    auto next = given.values.begin();
-    for (const Argument& argument : arguments) {
-        if (!argument.output_only) {
-            result.push_back(*next++);
-        } else if (argument.kind == Kind::kIntegerOut) {
-            result.emplace_back(static_cast<long long>(std::numeric_limits<int>::min()));
-        } else {
-            result.emplace_back(std::string());
-        }
-    }
-    return result;
-}
-
 // holds_a_long_number tells whether a number may be beyond an int, of which the models say nothing.
 bool holds_a_long_number(const Case& given)
 {
@@ -64,7 +45,7 @@ TEST(ModelsTest, AgreeWithEveryVector)
         SCOPED_TRACE(row.text.substr(0, 300));
         const auto model = models().find(row.given.function->name);
         ASSERT_NE(models().end(), model);
-        const Answer answer = model->second(arguments_of(row.given));
+        const Answer answer = model->second(catalogue::completed(*row.given.function, row.given.values));
         EXPECT_TRUE(!answer.undefined || holds_a_long_number(row.given));
         if (answer.undefined) continue;
         caller.load(*row.given.function, row.given.values);

@@ -62,6 +62,9 @@ def proofs():
             ctest(folder, r"(^|\.)(assertions|parameter_check)_test(\.|$)")])
         yield Proof("file", "the finished file", preset + ", each variant", ["gcc", preset],
                     [ctest(folder, r"(^|\.)shared_object(\.|$)")])
+    yield Proof("descriptions", "what is said of checks agrees with them", "a million calls of each", ["gcc"], [
+        Step([str(GCC / "bin" / "rules_test"), "--gtest_filter=*.LibraryAndDescriptions"],
+             r"(?m)^(\d+ checks, \d+ calls)$", {"OSTREL_TEST_RUNS": "1000000"})])
     # These stand in scripts of their own.
     yield Proof("coverage", "every line and branch is tested", "coverage", [], [script("coverage")])
     yield Proof("coverage", "every condition seen to decide", "modified condition/decision", [], [

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <limits>
 #include <stdexcept>
 
 #include "fuzz/input.h"
@@ -23,8 +22,6 @@ using rules::Build;
 using rules::Check;
 
 namespace {
-
-constexpr long long kUnwritten = std::numeric_limits<int>::min();
 
 std::string chosen(const char* variable, const char* built)
 {
@@ -97,28 +94,11 @@ const std::vector<Build>& trial_builds()
     return all;
 }
 
-std::vector<Value> complete(const Function& function, const std::vector<Value>& given)
-{
-    if (given.size() == function.arguments.size()) return given;
-    std::vector<Value> result;
-    auto next = given.begin();
-    for (const auto& argument : function.arguments) {
-        if (!argument.output_only) {
-            result.push_back(*next++);
-        } else if (argument.kind == Kind::kIntegerOut) {
-            result.emplace_back(kUnwritten);
-        } else {
-            result.emplace_back(std::string());
-        }
-    }
-    return result;
-}
-
 Outcome outcome_of(const Answer& answer)
 {
     Outcome outcome{answer.code, answer.out, answer.err, answer.is_flushed(), answer.after};
     for (Value& value : outcome.after) {
-        if (value == Value(kUnwritten)) value = nullptr;
+        if (value == Value(catalogue::kUnwritten)) value = nullptr;
     }
     return outcome;
 }
@@ -128,18 +108,19 @@ std::string reason_fault(const Answer& answer)
     if (!answer.is_refusal) return "";
     std::string sentence = rules::sentence(answer.reason);
     if (sentence.empty()) return "no sentence for \"" + std::string(answer.reason.id) + "\"";
-    for (const char* place : {"{found", "{allowed", "{byte", "{position", "{item", "{read_as"}) {
+    for (const char* place : {"{found", "{allowed", "{byte", "{position", "{item", "{read_as", "{limit"}) {
         if (sentence.find(place) != std::string::npos) return sentence;
     }
     return "";
 }
 
-Trials::Trials(const Function& function, const Check& check) : function_(function), check_(check)
+Trials::Trials(const Function& function, const Check& check)
+    : function_(function), check_(check), contents_(function)
 {
     const auto texts = harvest(check, library_build());
     for (const Row& row : rows()) {
         if (row.given.function != &function) continue;
-        const std::vector<Value> values = complete(function, row.given.values);
+        const std::vector<Value> values = catalogue::completed(function, row.given.values);
         add(values);
         if (inputs_.size() < 20) add_others(values, texts);
     }
@@ -169,7 +150,7 @@ void Trials::add_others(const std::vector<Value>& values, const std::set<std::st
             std::vector<Value> others = values;
             if (std::holds_alternative<std::string>(others[i])) others[i] = text;
             if (auto* several = std::get_if<std::vector<std::string>>(&others[i])) {
-                if (text.size() >= function_.arguments[i].capacity) continue;
+                if (text.size() >= function_.arguments[i].block_size) continue;
                 several->at(inputs_.size() % several->size()) = text;
             }
             add(others);
@@ -189,8 +170,9 @@ bool Trials::agrees(std::string_view input, Capture& capture)
     const Outcome actual = actual_outcome(caller_, capture);
     ++calls;
     refusals += answer.is_refusal ? 1 : 0;
-    const std::string fault =
-        driver.has_left_its_list() ? "the list of channels is left" : reason_fault(answer);
+    std::string fault = driver.has_left_its_list() ? "the list of channels is left" : reason_fault(answer);
+    const bool is_accepted = check_.is_verdict && answer.code == 0;
+    if (is_accepted && fault.empty()) fault = contents_.fault(values_, answer.after);
     if (actual == outcome_of(answer) && fault.empty()) return true;
     difference = shown_call(function_, values_) + "\nchannels " + testing::PrintToString(channels) +
                  "\nlibrary" + testing::PrintToString(actual) + "\ndescription" +

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "rules/evaluate.h"
+#include "tests/rules/contents.h"
 #include "tests/support/vectors.h"
 
 namespace ostrel::tests {
@@ -20,10 +21,6 @@ const rules::Build& library_build();
 
 // trial_builds are those of trials: the library's, with another list of channels in each.
 const std::vector<rules::Build>& trial_builds();
-
-// complete adds what a row leaves out: arguments that are only written.
-std::vector<catalogue::Value> complete(const catalogue::Function& function,
-                                       const std::vector<catalogue::Value>& given);
 
 Outcome outcome_of(const rules::Answer& answer);
 
@@ -49,6 +46,7 @@ class Trials {
 
     const catalogue::Function& function_;
     const rules::Check& check_;
+    Contents contents_;
     std::vector<std::string> inputs_;
     std::size_t inputs_run_ = 0;
     std::vector<catalogue::Value> values_;
