@@ -25,9 +25,6 @@ std::invalid_argument bad_argument(const Argument& argument, const char* what)
     return std::invalid_argument("argument " + std::string(argument.name) + " " + what);
 }
 
-// kUnwritten is what a number that is only written holds when none is given: none that a function writes.
-constexpr int kUnwritten = std::numeric_limits<int>::min();
-
 const std::string& text_of(const Argument& argument, const Value& value)
 {
     const auto* text = std::get_if<std::string>(&value);
@@ -102,22 +99,21 @@ void Caller::load_argument(std::size_t index, const Value& value)
         if (texts == nullptr || texts->size() != argument.blocks) {
             throw bad_argument(argument, ("takes " + std::to_string(argument.blocks) + " texts").c_str());
         }
-        const std::size_t size = argument.blocks * argument.capacity;
+        const std::size_t size = argument.blocks * argument.block_size;
         char* block = memory.place(size, edge_);
         std::memset(block, 0, size);
         raw.pointer = block;
         for (const std::string& text : *texts) {
             text_of(argument, text);
-            if (text.size() >= argument.capacity)
+            if (text.size() >= argument.block_size)
                 throw bad_argument(argument, "holds a text that is too long");
             std::memcpy(block, text.data(), text.size());
-            block += argument.capacity;
+            block += argument.block_size;
         }
         return;
     }
     const std::string& text = text_of(argument, value);
-    const std::size_t length = argument.takes_text ? longest_text_ : text.size();
-    const std::size_t size = std::max(argument.capacity, length + 1);
+    const std::size_t size = values_.empty() ? text.size() + 1 : room_of(*function_, index, values_);
     char* place = memory.place(size, edge_);
     std::memcpy(place, text.data(), text.size());
     std::memset(place + text.size(), 0, size - text.size());
@@ -146,20 +142,17 @@ void Caller::load(const Function& function, const std::vector<Value>& values)
     }
     function_ = &function;
     raw_.assign(arguments.size(), Raw());
-    longest_text_ = 0;
-    for (const Value& value : values) {
-        if (const auto* text = std::get_if<std::string>(&value)) {
-            longest_text_ = std::max(longest_text_, text->size());
-        }
-    }
+    values_.clear();
+    const bool has_formula = std::ranges::any_of(
+        function.check->arguments, [](const rules::Argument& argument) { return argument.room.has_value(); });
+    if (has_formula) values_ = completed(function, values);
     std::size_t next = 0;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (outputs_given || !arguments[i].output_only) {
             load_argument(i, values[next++]);
         } else {
-            load_argument(i, arguments[i].kind == Kind::kIntegerOut
-                                 ? Value(static_cast<long long>(kUnwritten))
-                                 : Value(std::string()));
+            load_argument(i,
+                          arguments[i].kind == Kind::kIntegerOut ? Value(kUnwritten) : Value(std::string()));
         }
     }
 }
@@ -187,7 +180,7 @@ std::vector<Written> Caller::written() const
             std::vector<std::string> texts;
             texts.reserve(argument.blocks);
             for (std::size_t block = 0; block < argument.blocks; ++block) {
-                texts.push_back(text_at(begin + block * argument.capacity, argument.capacity));
+                texts.push_back(text_at(begin + block * argument.block_size, argument.block_size));
             }
             value = std::move(texts);
         }

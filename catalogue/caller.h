@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "catalogue/catalogue.h"
-#include "catalogue/value.h"
 
 namespace ostrel::catalogue {
 
@@ -62,7 +61,7 @@ class Caller {
     const Function* function_ = nullptr;
     std::array<GuardedMemory, 4> memory_;
     std::array<std::size_t, 4> capacity_{};
-    std::size_t longest_text_ = 0;  // of those given in the call
+    std::vector<Value> values_;  // of all arguments, where the room of a buffer depends on others
     std::vector<Raw> raw_;
 };
 

@@ -1,50 +1,47 @@
 #include "catalogue/catalogue.h"
 
 #include <algorithm>
-#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <utility>
 
 #include "catalogue/entry.h"
+#include "rules/rules.h"
 
 namespace ostrel::catalogue {
 
-namespace {
-
-void append(std::vector<Function>& all, std::string_view family, std::vector<Function> functions)
+// A buffer may be described as several texts.
+Function entry(const char* name, std::vector<Kind> kinds, const void* address,
+               int (*invoke)(std::span<const Raw>))
 {
-    for (Function& function : functions) function.family = family;
-    std::ranges::move(functions, std::back_inserter(all));
+    const rules::Check* check = rules::find(name);
+    if (check == nullptr) throw std::logic_error(std::string("no description of ") + name);
+    Function function{name, "", {}, check, address, invoke};
+    for (const rules::Argument& argument : check->arguments) {
+        const std::size_t place = function.arguments.size();
+        const bool is_buffer = place < kinds.size() && kinds[place] == Kind::kBuffer;
+        if (is_buffer && argument.kind == Kind::kBlocks) kinds[place] = Kind::kBlocks;
+        function.arguments.push_back({argument.name, argument.kind, argument.blocks, argument.block_size,
+                                      argument.is_output || argument.kind == Kind::kIntegerOut});
+    }
+    if (!std::ranges::equal(kinds, function.arguments, {}, {}, &Argument::kind)) {
+        throw std::logic_error(std::string("the description does not suit the declaration of ") + name);
+    }
+    return function;
 }
-
-std::vector<Function> collect()
-{
-    std::vector<Function> all;
-    append(all, "strings", strings());
-    append(all, "addresses", addresses());
-    append(all, "hosts", hosts());
-    append(all, "accounts", accounts());
-    append(all, "date-time", date_time());
-    append(all, "subnets", subnets());
-    append(all, "wireless", wireless());
-    append(all, "names", names());
-    append(all, "parameters", parameter_checks());
-    append(all, "wlan", wlan_checks());
-    append(all, "ppp", ppp_checks());
-    append(all, "lan", lan_checks());
-    append(all, "port-mapping", port_mapping_checks());
-    append(all, "forwarding", forwarding_checks());
-    append(all, "management", management());
-    append(all, "guest-access", guest_access());
-    append(all, "hnap", hnap());
-    append(all, "time", time_checks());
-    append(all, "branding", branding_checks());
-    return all;
-}
-
-}  // namespace
 
 const std::vector<Function>& functions()
 {
-    static const std::vector<Function> all = collect();
+    static const std::vector<Function> all = [] {
+        std::vector<Function> result;
+        for (Family& family : families()) {
+            for (Function& function : family.functions) {
+                function.family = family.name;
+                result.push_back(std::move(function));
+            }
+        }
+        return result;
+    }();
     return all;
 }
 
@@ -58,6 +55,31 @@ const Function* find(std::string_view name)
     }();
     const auto found = std::ranges::lower_bound(by_name, name, {}, &Function::name);
     return found != by_name.end() && (*found)->name == name ? *found : nullptr;
+}
+
+std::vector<Value> completed(const Function& function, std::span<const Value> given)
+{
+    if (given.size() == function.arguments.size()) return {given.begin(), given.end()};
+    std::vector<Value> values;
+    auto next = given.begin();
+    for (const Argument& argument : function.arguments) {
+        if (!argument.output_only) {
+            values.push_back(*next++);
+        } else if (argument.kind == Kind::kIntegerOut) {
+            values.emplace_back(kUnwritten);
+        } else {
+            values.emplace_back(std::string());
+        }
+    }
+    return values;
+}
+
+std::size_t room_of(const Function& function, std::size_t argument, std::span<const Value> values)
+{
+    if (function.arguments[argument].kind == Kind::kBlocks) return function.arguments[argument].block_size;
+    const auto* text = std::get_if<std::string>(&values[argument]);
+    const std::size_t own = text == nullptr ? 0 : text->size() + 1;
+    return std::max(own, rules::room(*function.check, argument, values).value_or(0));
 }
 
 }  // namespace ostrel::catalogue

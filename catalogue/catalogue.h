@@ -1,52 +1,27 @@
-// The catalogue: every exported function described once, for the command line, the tests and the fuzzers.
-//
-// What a function takes is deduced from its declaration in the public headers; what it means is said here.
+// The catalogue: every exported function with its description, so that it can be called.
 #ifndef OSTREL_CATALOGUE_CATALOGUE_H
 #define OSTREL_CATALOGUE_CATALOGUE_H
 
 #include <cstddef>
-#include <functional>
-#include <optional>
+#include <limits>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
-#include "catalogue/value.h"
+#include "rules/evaluate.h"
+#include "rules/vocabulary.h"
 
 namespace ostrel::catalogue {
 
-enum class Kind {
-    kText,        // const char*: only read
-    kBuffer,      // char*: read and written
-    kBlocks,      // char*: several texts at a fixed distance, read and written
-    kInteger,     // int
-    kUnsigned,    // unsigned
-    kIntegerOut,  // int*: only written
-};
+using rules::Value;
+using Kind = rules::Argument::Kind;
 
 struct Argument {
     std::string_view name;
     Kind kind = Kind::kText;
-    std::size_t capacity = 0;  // bytes of a buffer or of one block; 0: as many as the text given needs
     std::size_t blocks = 1;
-    bool output_only = false;       // nothing needs to be given
-    bool takes_text = false;        // a buffer that needs room for the longest text given
-    std::string_view what = {};     // what it is, with limits and units
-    std::string_view written = {};  // what the function writes to it, and when
-    std::vector<std::string_view> keywords = {};
-};
-
-// Test tells whether a condition is what brought a code about: nothing if not; else what there is to say
-// about it, such as the byte at fault, or the empty text.
-using Test = std::function<std::optional<std::string>(std::span<const Value> values)>;
-
-// Code is one answer besides 0 and a condition that brings it about. Where several have the same code, each
-// has a test, and the first one that holds is the one.
-struct Code {
-    int code;
-    std::string_view condition;
-    Test test = nullptr;
+    std::size_t block_size = 0;  // bytes from one of several texts to the next
+    bool output_only = false;    // nothing needs to be given
 };
 
 // Raw is an argument as a call passes it.
@@ -60,18 +35,27 @@ struct Function {
     std::string_view name;
     std::string_view family;
     std::vector<Argument> arguments;
-    std::string_view rule;    // what is accepted, in one line
-    std::vector<Code> codes;  // empty where the answer is a number and no result code
-    bool is_verdict = true;
+    const rules::Check* check = nullptr;
     const void* address = nullptr;
     int (*invoke)(std::span<const Raw> arguments) = nullptr;
 };
 
-// functions lists every exported function, by family.
+// functions lists every exported function, by family. Throws std::logic_error for one whose description does not suit
+// its declaration.
 const std::vector<Function>& functions();
 
 // find gives the function of that name, or NULL.
 const Function* find(std::string_view name);
+
+// kUnwritten is what a number that is only written holds when none is given: none that a function writes.
+inline constexpr long long kUnwritten = std::numeric_limits<int>::min();
+
+// completed adds values for the arguments that are only written, where they were left out.
+std::vector<Value> completed(const Function& function, std::span<const Value> given);
+
+// room_of says how many bytes a caller provides for a buffer, or for each of several texts. The values are those of all
+// arguments.
+std::size_t room_of(const Function& function, std::size_t argument, std::span<const Value> values);
 
 // meaning says what a result code means, in a few words.
 std::string_view meaning(int code);

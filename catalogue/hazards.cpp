@@ -1,18 +1,17 @@
 #include "catalogue/hazards.h"
 
 #include <algorithm>
-#include <set>
+#include <map>
+#include <nlohmann/json.hpp>
 
-#include "catalogue/caller.h"
-#include "catalogue/capture.h"
+#include "catalogue/case.h"
+#include "catalogue/texts.h"
 
 namespace ostrel::catalogue {
 
-namespace {
+using nlohmann::ordered_json;
 
-constexpr std::size_t kMostSeeds = 10;
-constexpr std::size_t kMostPlaces = 24;  // of a seed
-constexpr std::size_t kLongestSeed = 300;
+namespace {
 
 std::string range(int first, int last)
 {
@@ -21,189 +20,99 @@ std::string range(int first, int last)
     return bytes;
 }
 
-bool is_letter_or_digit(char c)
+bool holds_all(std::string_view text, std::string_view bytes)
 {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    return std::ranges::all_of(bytes, [&](char byte) { return text.find(byte) != std::string_view::npos; });
 }
 
-// texts_of gives the texts that an argument holds, to be looked at or changed.
-std::vector<std::string*> texts_of(Value& value)
+// Bytes are written as the names of the kinds that they have all of, and those that are left after a "=".
+ordered_json json_of(const std::string& bytes)
 {
-    std::vector<std::string*> texts;
-    if (auto* text = std::get_if<std::string>(&value)) texts.push_back(text);
-    if (auto* blocks = std::get_if<std::vector<std::string>>(&value)) {
-        for (std::string& block : *blocks) texts.push_back(&block);
+    ordered_json result = ordered_json::array();
+    std::string rest = bytes;
+    for (const Hazard& hazard : hazards()) {
+        if (!holds_all(bytes, hazard.bytes)) continue;
+        result.push_back(hazard.name);
+        std::erase_if(rest, [&](char byte) { return hazard.bytes.find(byte) != std::string_view::npos; });
     }
-    return texts;
+    if (!rest.empty()) result.push_back("=" + utf8_from_bytes(rest));
+    return result;
 }
 
-// Trial tries values of one argument.
-class Trial {
- public:
-    Trial(const Function& function, std::size_t argument) : function_(&function), argument_(argument)
-    {
-        for (std::size_t i = 0; i < argument; ++i)
-            if (is_written(function.arguments[i])) ++output_;
-    }
-
-    void run(const std::vector<Row>& seeds, const std::vector<Row>& rows)
-    {
-        for (const Row& row : rows) {
-            if (row.code != 0) continue;
-            values_ = row.values;
-            for (std::string* text : texts_of(values_)) call(*text);
+std::string bytes_from(const ordered_json& written)
+{
+    std::string bytes;
+    const auto add = [&](std::string_view more) {
+        for (const char byte : more) {
+            if (bytes.find(byte) == std::string::npos) bytes += byte;
         }
-        for (const Row& seed : seeds) {
-            for (std::string* text : texts_of(values_ = seed.values)) try_around(*text);
-        }
-    }
-
-    std::vector<Places> found()
-    {
-        std::vector<Places> result;
+    };
+    for (const ordered_json& one : written) {
+        const std::string text = text_from_json(one);
+        if (text.starts_with('=')) add(std::string_view(text).substr(1));
         for (const Hazard& hazard : hazards()) {
-            Places places;
-            for (const char c : hazard.bytes) {
-                const auto byte = static_cast<unsigned char>(c);
-                places.first |= first_[byte];
-                places.inside |= inside_[byte];
-                places.last |= last_[byte];
-                if (first_[byte] || inside_[byte] || last_[byte]) places.bytes += c;
-            }
-            result.push_back(places);
-        }
-        return result;
-    }
-
- private:
-    static bool is_written(const Argument& argument)
-    {
-        return argument.kind == Kind::kBuffer || argument.kind == Kind::kBlocks ||
-               argument.kind == Kind::kIntegerOut;
-    }
-
-    std::vector<std::string*> texts_of(std::vector<Value>& values) const
-    {
-        return catalogue::texts_of(values[argument_]);
-    }
-
-    void try_around(std::string& text)
-    {
-        const std::string seed = text;
-        if (seed.size() > kLongestSeed) return;
-        std::set<std::size_t> places = {0, seed.size()};
-        for (std::size_t i = 1; i < kMostPlaces; ++i) places.insert(i * seed.size() / kMostPlaces);
-        for (int byte = 1; byte < 256; ++byte) {
-            const char c = static_cast<char>(byte);
-            if (is_letter_or_digit(c)) continue;
-            for (const std::size_t place : places) {
-                if (is_known(static_cast<unsigned char>(c), place, seed.size())) continue;
-                text = seed;
-                text.insert(place, 1, c);
-                call(text);
-                if (place == seed.size() && place > 0) {
-                    text = seed;
-                    text.back() = c;
-                    call(text);
-                } else if (place < seed.size()) {
-                    text = seed;
-                    text[place] = c;
-                    call(text);
-                }
-            }
-        }
-        text = seed;
-    }
-
-    // is_known tells that a byte was accepted where it would stand; nothing is learnt from trying it again.
-    [[nodiscard]] bool is_known(unsigned char byte, std::size_t place, std::size_t size) const
-    {
-        if (place == 0) return first_[byte] && (size > 0 || last_[byte]);
-        return place == size ? last_[byte] : inside_[byte];
-    }
-
-    void call(const std::string& text)
-    {
-        if (!may_be_called(*function_, values_)) return;
-        const Argument& argument = function_->arguments[argument_];
-        if (argument.kind == Kind::kBlocks && text.size() >= argument.capacity) return;
-        caller_.load(*function_, values_);
-        const int code = caller_.call();
-        capture_.clear();
-        if (code != 0) return;
-        if (!is_written(argument)) {
-            note(text);
-            return;
-        }
-        std::vector<Written> written = caller_.written();
-        for (const std::string* held : catalogue::texts_of(written[output_].value)) note(*held);
-    }
-
-    void note(const std::string& text)
-    {
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            const auto byte = static_cast<unsigned char>(text[i]);
-            if (i == 0) first_[byte] = true;
-            if (i + 1 == text.size()) last_[byte] = true;
-            if (i > 0 && i + 1 < text.size()) inside_[byte] = true;
+            if (hazard.name == text) add(hazard.bytes);
         }
     }
-
-    const Function* function_;
-    std::size_t argument_;
-    std::size_t output_ = 0;
-    std::vector<Value> values_;
-    Caller caller_;
-    Capture capture_;
-    std::array<bool, 256> first_{};
-    std::array<bool, 256> inside_{};
-    std::array<bool, 256> last_{};
-};
-
-std::size_t size_of(const Row& row)
-{
-    std::size_t size = 0;
-    for (const Value& value : row.values) {
-        if (const auto* text = std::get_if<std::string>(&value)) size += text->size();
-    }
-    return size;
+    return bytes;
 }
 
-// with_every_byte gives a row in which the sets of bytes that are arguments hold them all.
-Row with_every_byte(const Function& function, Row row)
+ordered_json json_of(const Witness& witness)
 {
-    for (std::size_t i = 0; i < row.values.size(); ++i) {
-        const std::string_view name = function.arguments[i].name;
-        if (name == "charset" || name == "allowed") row.values[i] = range(1, 255);
-    }
-    return row;
+    ordered_json values = ordered_json::array();
+    for (const Value& value : witness.values) values.push_back(ordered_json(json_from_value(value)));
+    return {json_of(witness.bytes), values, witness.argument, witness.block, witness.offset};
 }
 
-// seeds_of picks accepted values evenly from the shortest to the longest.
-std::vector<Row> seeds_of(const Function& function, const std::vector<Row>& rows)
+Witness witness_from(const ordered_json& written)
 {
-    std::vector<Row> accepted;
-    for (const Row& row : rows) {
-        if (row.code == 0 && may_be_called(function, row.values))
-            accepted.push_back(with_every_byte(function, row));
+    Witness witness{bytes_from(written[0]), {}, written[2], written[3], written[4]};
+    for (const ordered_json& value : written[1]) witness.values.push_back(value_from_json(value));
+    return witness;
+}
+
+std::size_t argument_of(const Function& function, std::string_view name)
+{
+    const auto found = std::ranges::find(function.arguments, name, &Argument::name);
+    return static_cast<std::size_t>(found - function.arguments.begin());
+}
+
+Exposure exposure_from(const Function& function, std::string_view line)
+{
+    const auto row = ordered_json::parse(line);
+    Exposure exposure;
+    exposure.argument = argument_of(function, row["argument"].get<std::string>());
+    exposure.is_after = row.contains("after");
+    for (const Place place : kPlaces) {
+        const auto found = row.find(name_of(place));
+        if (found == row.end()) continue;
+        for (const ordered_json& one : *found)
+            exposure.witnesses.at(static_cast<std::size_t>(place)).push_back(witness_from(one));
     }
-    std::ranges::stable_sort(accepted, {}, size_of);
-    if (accepted.size() <= kMostSeeds) return accepted;
-    std::vector<Row> seeds;
-    seeds.reserve(kMostSeeds);
-    for (std::size_t i = 0; i < kMostSeeds; ++i) {
-        seeds.push_back(accepted[i * (accepted.size() - 1) / (kMostSeeds - 1)]);
+    return exposure;
+}
+
+// read takes the lines of one function apart; the others are only passed over.
+std::vector<Exposure> read(const Function& function)
+{
+    std::vector<Exposure> result;
+    const std::string begin = "{\"check\":\"" + std::string(function.name) + "\",";
+    std::string_view rest = found_hazards();
+    while (!rest.empty()) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(line.size() + 1);
+        if (line.starts_with(begin)) result.push_back(exposure_from(function, line));
     }
-    return seeds;
+    return result;
 }
 
 }  // namespace
 
-const std::vector<Hazard>& hazards()
+std::span<const Hazard> hazards()
 {
     static const std::string controls = range(1, 9) + range(11, 12) + range(14, 31) + "\x7F";
     static const std::string high = range(0x80, 0xFF);
-    static const std::vector<Hazard> all = {
+    static const std::array<Hazard, 9> all = {{
         {"blanks", "blank", " "},
         {"quotes", "quotes ' \" `", "'\"`"},
         {"shell", "shell $ ; | & < > ( ) { } [ ] * ? ! # ~ =", "$;|&<>(){}[]*?!#~="},
@@ -213,50 +122,66 @@ const std::vector<Hazard>& hazards()
         {"percent", "%", "%"},
         {"backslash", "backslash", "\\"},
         {"high", "bytes above 0x7F", high},
-    };
+    }};
     return all;
 }
 
-std::string describe(const Places& places)
+std::string_view name_of(Place place)
 {
-    if (!places.any()) return "never";
-    if (places.first && places.inside && places.last) return "anywhere";
-    std::string text;
-    const auto add = [&](bool is_there, std::string_view what) {
-        if (is_there) text.append(text.empty() ? "" : ", ").append(what);
-    };
-    add(places.first, "first");
-    add(places.inside, "inside");
-    add(places.last, "last");
-    return text;
+    return place == Place::kFirst ? "first" : place == Place::kInside ? "inside" : "last";
 }
 
-bool may_be_called(const Function& function, const std::vector<Value>& values)
+bool stands_at(Place place, std::string_view text, char byte)
 {
-    const auto* text = values.empty() ? nullptr : std::get_if<std::string>(values.data());
-    if (function.name == "PARAM_check_ui2_value" || function.name == "PARAM_check_ui4_value") {
-        return text != nullptr && (text->empty() || text->front() < '0' || text->front() > '9');
-    }
-    if (function.name != "WLAN_check_channel" || values.size() != 2) return true;
-    const auto* radio = std::get_if<std::string>(&values[1]);
-    return radio != nullptr && text != nullptr && (*text == "0" || radio->find("2.4") == std::string::npos);
+    if (text.empty()) return false;
+    if (place == Place::kFirst) return text.front() == byte;
+    if (place == Place::kLast) return text.back() == byte;
+    return text.size() > 2 && text.substr(1, text.size() - 2).find(byte) != std::string_view::npos;
 }
 
-std::vector<Exposure> exposures_of(const Function& function, const std::vector<Row>& rows)
+std::vector<Value> Witness::with(char byte) const
 {
-    std::vector<Exposure> result;
-    if (!function.is_verdict) return result;
-    const std::vector<Row> seeds = seeds_of(function, rows);
-    for (std::size_t i = 0; i < function.arguments.size(); ++i) {
-        const Argument& argument = function.arguments[i];
-        const bool is_text =
-            argument.kind == Kind::kText || argument.kind == Kind::kBuffer || argument.kind == Kind::kBlocks;
-        if (!is_text || argument.output_only) continue;
-        Trial trial(function, i);
-        trial.run(seeds, rows);
-        result.push_back({&argument, trial.found()});
+    std::vector<Value> result = values;
+    Value& value = result[argument];
+    if (auto* text = std::get_if<std::string>(&value)) text->at(offset) = byte;
+    if (auto* texts = std::get_if<std::vector<std::string>>(&value)) texts->at(block).at(offset) = byte;
+    return result;
+}
+
+const Witness* Exposure::witness(Place place, char byte) const
+{
+    const auto& all = witnesses.at(static_cast<std::size_t>(place));
+    const auto found = std::ranges::find_if(
+        all, [&](const Witness& one) { return one.bytes.find(byte) != std::string::npos; });
+    return found == all.end() ? nullptr : &*found;
+}
+
+std::string Exposure::bytes(Place place, const Hazard& hazard) const
+{
+    std::string result;
+    for (const char byte : hazard.bytes) {
+        if (witness(place, byte) != nullptr) result += byte;
     }
     return result;
+}
+
+const std::vector<Exposure>& exposures_of(const Function& function)
+{
+    static std::map<const Function*, std::vector<Exposure>> all;
+    const auto [known, is_new] = all.try_emplace(&function);
+    if (is_new) known->second = read(function);
+    return known->second;
+}
+
+std::string line_of(const Function& function, const Exposure& exposure)
+{
+    ordered_json row = {{"check", function.name}, {"argument", function.arguments[exposure.argument].name}};
+    if (exposure.is_after) row["after"] = true;
+    for (const Place place : kPlaces) {
+        for (const Witness& one : exposure.witnesses.at(static_cast<std::size_t>(place)))
+            row[std::string(name_of(place))].push_back(json_of(one));
+    }
+    return row.dump() + "\n";
 }
 
 }  // namespace ostrel::catalogue

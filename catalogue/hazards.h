@@ -1,14 +1,16 @@
-// Hazards: what an accepted value may contain, found by trying.
+// Hazards: what an accepted value may contain, as docs/hazards.md has it.
 #ifndef OSTREL_CATALOGUE_HAZARDS_H
 #define OSTREL_CATALOGUE_HAZARDS_H
 
 #include <array>
+#include <cstddef>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "catalogue/catalogue.h"
-#include "catalogue/rows.h"
 
 namespace ostrel::catalogue {
 
@@ -20,33 +22,46 @@ struct Hazard {
 };
 
 // hazards lists the kinds; a byte may be of several.
-const std::vector<Hazard>& hazards();
+std::span<const Hazard> hazards();
 
-// Finding is where the bytes of a kind can stand in an accepted value of an argument.
-struct Places {
-    bool first = false;
-    bool inside = false;
-    bool last = false;
-    std::string bytes;  // those of the kind that were accepted somewhere
+enum class Place { kFirst, kInside, kLast };
 
-    [[nodiscard]] bool any() const { return first || inside || last; }
+inline constexpr std::array kPlaces = {Place::kFirst, Place::kInside, Place::kLast};
+
+std::string_view name_of(Place place);
+
+// stands_at tells whether a text has the byte in that place.
+bool stands_at(Place place, std::string_view text, char byte);
+
+// Witness is a call that is accepted with each of the bytes at an offset of an argument.
+struct Witness {
+    std::string bytes;
+    std::vector<Value> values;  // of all arguments that are not only written
+    std::size_t argument = 0;
+    std::size_t block = 0;  // where that argument is several texts
+    std::size_t offset = 0;
+
+    [[nodiscard]] std::vector<Value> with(char byte) const;
 };
 
-// describe says it in words: anywhere, first, inside, last, or never.
-std::string describe(const Places& places);
-
+// Exposure says what an argument may contain: the value that is passed, or what the argument holds after the call.
 struct Exposure {
-    const Argument* argument;
-    std::vector<Places> places;  // one for each of hazards()
+    std::size_t argument = 0;
+    bool is_after = false;
+    std::array<std::vector<Witness>, kPlaces.size()> witnesses;
+
+    // witness has the byte in that place; or NULL, when no accepted value has.
+    [[nodiscard]] const Witness* witness(Place place, char byte) const;
+
+    // bytes are those of a kind that can be in that place.
+    [[nodiscard]] std::string bytes(Place place, const Hazard& hazard) const;
 };
 
-// exposures_of tries every byte that is no letter or digit in many places of accepted values, inserted and in
-// the place of another, for each argument that is a text. A set of bytes that is an argument holds them all. What counts is what
-// the argument holds after the call.
-std::vector<Exposure> exposures_of(const Function& function, const std::vector<Row>& rows);
+// exposures_of gives what is known of the arguments of a check.
+const std::vector<Exposure>& exposures_of(const Function& function);
 
-// may_be_called tells that a call with these values neither asks the wireless driver nor goes on for ever.
-bool may_be_called(const Function& function, const std::vector<Value>& values);
+// line_of writes an exposure as a line of docs/hazards.md.
+std::string line_of(const Function& function, const Exposure& exposure);
 
 }  // namespace ostrel::catalogue
 

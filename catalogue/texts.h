@@ -3,14 +3,11 @@
 #define OSTREL_CATALOGUE_TEXTS_H
 
 #include <string_view>
-#include <vector>
 
 namespace ostrel::catalogue {
 
-std::vector<std::string_view> vector_files();  // vectors/*.ndjson
-std::string_view decisions();                  // docs/decisions.md
-std::string_view messages();  // messages.txt: the library's messages, one a line, with \n for a line end
-std::string_view schema();    // catalogue.schema.json
+std::string_view schema();         // catalogue.schema.json
+std::string_view found_hazards();  // the lines of docs/hazards.md
 
 }  // namespace ostrel::catalogue
 

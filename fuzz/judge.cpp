@@ -51,7 +51,7 @@ Judge::Judge(const Target& target)
         if (!target.has(function)) continue;
         const rules::Check* check = rules::find(function.name);
         if (check == nullptr) throw std::logic_error("no description of " + std::string(function.name));
-        entries_.push_back({&function, check});
+        entries_.push_back({&function, check, oracle::Contents(function)});
     }
 }
 
@@ -83,7 +83,7 @@ bool Judge::decodes(std::string_view input, const Function& function, const std:
 {
     const Entry& entry = decode(input);
     if (entry.function != &function) return false;
-    return oracle::completed(function, values) == values_;
+    return catalogue::completed(function, values) == values_;
 }
 
 Verdict Judge::run(std::string_view input, const rules::Build& build, rules::Counts* counts,
@@ -97,6 +97,12 @@ Verdict Judge::run(std::string_view input, const rules::Build& build, rules::Cou
         if (!trial_.agrees(*entry.function, values, expected)) fault_ = trial_.difference();
     };
     compare(values_, answer);
+    if (entry.check->is_verdict && answer.code == 0 && fault_.empty()) {
+        const std::string hazard = entry.contents.fault(values_, answer.after);
+        if (!hazard.empty())
+            fault_ =
+                "hazard:  " + hazard + "\naccepted: " + oracle::shown_call(*entry.function, values_) + "\n";
+    }
     if (answer.is_refusal && fault_.empty()) {
         const std::string wrong = follower_.follow(*entry.check, values_, build, answer, compare, further);
         if (!wrong.empty() && fault_.empty()) {

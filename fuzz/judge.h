@@ -1,5 +1,5 @@
 // Judge calls the library with what an input says, compares all that the call leaves behind with what the description
-// says, and follows the reason of a refusal as advice.
+// says, follows the reason of a refusal as advice, and holds what is accepted against docs/hazards.md.
 #ifndef OSTREL_FUZZ_JUDGE_H
 #define OSTREL_FUZZ_JUDGE_H
 
@@ -12,6 +12,7 @@
 
 #include "catalogue/catalogue.h"
 #include "oracle/advice.h"
+#include "oracle/contents.h"
 #include "oracle/trial.h"
 #include "rules/evaluate.h"
 
@@ -70,6 +71,7 @@ class Judge {
     struct Entry {
         const catalogue::Function* function;
         const rules::Check* check;
+        oracle::Contents contents;
     };
 
     [[nodiscard]] const Entry& entry(std::string_view input) const;

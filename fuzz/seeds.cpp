@@ -86,7 +86,7 @@ std::vector<std::string> seeds(const Judge& judge, const Function& function,
     for (const bool is_accepted : {true, false}) {
         for (const tests::Row& row : rows) {
             if (row.given.function != &function || (row.promise.outcome.code == 0) != is_accepted) continue;
-            const std::vector<Value> values = oracle::completed(function, row.given.values);
+            const std::vector<Value> values = catalogue::completed(function, row.given.values);
             result.add(values);
             const bool is_varied = tests::longest_text(row.given) < kLong && varied < kMostVaried;
             if (is_varied) result.vary(values);

@@ -19,6 +19,8 @@ constexpr std::string_view kNobody = "no check has it: that none is met";
 constexpr std::string_view kPutBack = "what was refused, put back, is one step less";
 
 // In the order of ids.
+constexpr std::string_view kOutside = "the contract says nothing of such a call, and it is not made";
+
 constexpr Way kWays[] = {
     {"a_multiple", nullptr, kNobody},
     {"accepted", nullptr, kNobody},
@@ -27,6 +29,7 @@ constexpr Way kWays[] = {
     {"another_subnet", begin_like_subnet},
     {"colon_in_path", leave_colons},
     {"contains", nullptr, kNobody},
+    {"driver_asked", nullptr, kOutside},
     {"empty", give_text, kPutBack},
     {"empty_as_listed", give_text, kPutBack},
     {"end_before_start", raise_number},
@@ -46,6 +49,7 @@ constexpr Way kWays[] = {
     {"list_full", shorten_list},
     {"listed_by_driver", nullptr, kNobody},
     {"neither_server", take_second_server},
+    {"never_returns", nullptr, kOutside},
     {"no_channel_listed", any_number, "no number is allowed: that each comes back"},
     {"no_key_left", give_key, kPutBack},
     {"not_a_keyword", take_word},
@@ -60,6 +64,8 @@ constexpr Way kWays[] = {
     {"not_of_offset", take_word},
     {"not_part_of_any", take_word},
     {"null", give_what_is_null, kPutBack},
+    {"null_asserted", nullptr, kOutside},
+    {"null_read", nullptr, kOutside},
     {"number_beyond_int", fit_int, "that what it is read as is refused too"},
     {"number_forbidden", leave_number},
     {"number_in_range", leave_range},
@@ -77,6 +83,7 @@ constexpr Way kWays[] = {
     {"too_many_labels", take_parts},
     {"too_much", end_text},
     {"too_short", fill},
+    {"too_much_work", nullptr, kOutside},
     {"wrong_item_count", take_parts},
     {"wrong_length", take_length},
     {"wrong_prefix", begin_with},

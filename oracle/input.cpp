@@ -81,8 +81,8 @@ void decode_blocks(const Argument& argument, std::string_view first, std::string
     if (texts == nullptr) texts = &value.emplace<std::vector<std::string>>();
     texts->resize(argument.blocks);
     for (std::size_t i = 0; i < argument.blocks; ++i) {
-        decode_text(i == 0 ? first : next_field(fields), argument.capacity - 1, (*texts)[i]);
-        (*texts)[i].resize(std::min((*texts)[i].size(), argument.capacity - 1));
+        decode_text(i == 0 ? first : next_field(fields), argument.block_size - 1, (*texts)[i]);
+        (*texts)[i].resize(std::min((*texts)[i].size(), argument.block_size - 1));
     }
 }
 

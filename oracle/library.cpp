@@ -1,13 +1,11 @@
 #include "oracle/library.h"
 
 #include <cstdlib>
-#include <limits>
 #include <string>
 
 namespace ostrel::oracle {
 
 using rules::Build;
-using rules::Value;
 
 namespace {
 
@@ -48,23 +46,6 @@ const std::vector<Build>& builds_with_channels()
         return result;
     }();
     return all;
-}
-
-std::vector<Value> completed(const catalogue::Function& function, std::span<const Value> given)
-{
-    std::vector<Value> result;
-    const bool are_all_given = given.size() == function.arguments.size();
-    auto next = given.begin();
-    for (const catalogue::Argument& argument : function.arguments) {
-        if (are_all_given || !argument.output_only) {
-            result.push_back(*next++);
-        } else if (argument.kind == catalogue::Kind::kIntegerOut) {
-            result.emplace_back(static_cast<long long>(std::numeric_limits<int>::min()));
-        } else {
-            result.emplace_back(std::string());
-        }
-    }
-    return result;
 }
 
 }  // namespace ostrel::oracle

@@ -2,10 +2,8 @@
 #ifndef OSTREL_ORACLE_LIBRARY_H
 #define OSTREL_ORACLE_LIBRARY_H
 
-#include <span>
 #include <vector>
 
-#include "catalogue/catalogue.h"
 #include "rules/build.h"
 #include "rules/evaluate.h"
 
@@ -17,9 +15,6 @@ const rules::Build& library_build();
 
 // builds_with_channels is the library's build with one list of channels after the other, for a Driver that lists them.
 const std::vector<rules::Build>& builds_with_channels();
-
-// completed adds values for the arguments that are only written, where they were left out.
-std::vector<rules::Value> completed(const catalogue::Function& function, std::span<const rules::Value> given);
 
 }  // namespace ostrel::oracle
 

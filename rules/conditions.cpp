@@ -29,6 +29,7 @@ void Run::tell(Reason& reason, const Place& where, std::string_view id, Datum fo
     if (reason.argument) reason.name = called_.arguments[*reason.argument].name;
     reason.item = where.item;
     reason.judged = where.judged;
+    reason.item_text = where.item_text;
     reason.conversion = where.conversion;
     reason.part = where.part;
     if (where.part_number > 0) reason.part += " " + std::to_string(where.part_number);
@@ -173,7 +174,8 @@ bool Run::is_refused_by(const Condition& condition, Frame& frame, Reason* reason
     inner.slots.resize(inner.check.slots);
     for (std::size_t i = 0; i < inner.check.arguments.size(); ++i) {
         const bool is_null = inner.slots[i].kind == Operand::Kind::kNull;
-        if (is_null && !inner.check.arguments[i].asserted.empty()) throw Ended{Outside::kAssertion};
+        if (is_null && !inner.check.arguments[i].asserted.empty())
+            throw Ended{Outside::kAssertion, inner.slots[i].place};
     }
     run(inner.check.steps, inner);
     fault_lines_ = nullptr;

@@ -47,7 +47,7 @@ Constraints constraints_of(const Check& check, std::size_t argument, const Build
     result.is_schema_sufficient = said.is_all_in_schema && !is_entangled;
     result.is_necessary = result.is_sufficient || says_anything(result.form) || !result.limits.empty();
     result.is_secret = given.is_secret;
-    if (!is_number) result.null = null_outcome_of(check, argument);
+    if (!is_number) result.null = null_outcome(check, argument, build);
     return result;
 }
 

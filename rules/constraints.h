@@ -12,7 +12,7 @@
 
 #include "rules/build.h"
 #include "rules/claim.h"
-#include "rules/null_outcome.h"
+#include "rules/null.h"
 #include "rules/vocabulary.h"
 
 namespace ostrel::rules {

@@ -3,16 +3,11 @@
 
 #include "rules/rules.h"
 #include "rules/run.h"
+#include "rules/walk.h"
 
 namespace ostrel::rules {
 
 namespace {
-
-bool is_written(const Argument& argument)
-{
-    return argument.kind == Argument::Kind::kBuffer || argument.kind == Argument::Kind::kBlocks ||
-           argument.kind == Argument::Kind::kIntegerOut;
-}
 
 Operand slot_of(const Value& value, std::size_t argument)
 {
@@ -30,6 +25,25 @@ Operand slot_of(const Value& value, std::size_t argument)
         slot.kind = Operand::Kind::kBlocks;
     }
     return slot;
+}
+
+std::string_view id_of(Outside outside)
+{
+    switch (outside) {
+        case Outside::kNo:
+            break;
+        case Outside::kAssertion:
+            return "null_asserted";
+        case Outside::kNull:
+            return "null_read";
+        case Outside::kNeverReturns:
+            return "never_returns";
+        case Outside::kDriver:
+            return "driver_asked";
+        case Outside::kTooMuchWork:
+            return "too_much_work";
+    }
+    return "";
 }
 
 }  // namespace
@@ -50,12 +64,12 @@ Answer evaluate(const Check& check, std::span<const Value> values, const Build& 
     return Run(check, build, counts).evaluate(values);
 }
 
-std::optional<std::size_t> room(const Check& check, std::size_t argument, std::span<const Value> values)
+Answer evaluate_within(std::size_t bytes, const Check& check, std::span<const Value> values,
+                       const Build& build)
 {
-    const std::optional<Expression>& formula = check.arguments.at(argument).room;
-    if (!formula) return std::nullopt;
-    const Build build;
-    return Run(check, build, nullptr).size(*formula, values);
+    Run run(check, build, nullptr);
+    run.limit_work(bytes);
+    return run.evaluate(values);
 }
 
 Frame Run::called_with(std::span<const Value> values)
@@ -72,27 +86,19 @@ Frame Run::called_with(std::span<const Value> values)
     return frame;
 }
 
-std::optional<std::size_t> Run::size(const Expression& formula, std::span<const Value> values)
-{
-    Frame frame = called_with(values);
-    try {
-        return static_cast<std::size_t>(number(formula, frame).value);
-    } catch (const Ended&) {
-        return std::nullopt;
-    }
-}
-
 Answer Run::evaluate(std::span<const Value> values)
 {
     Frame frame = called_with(values);
     try {
         for (std::size_t i = 0; i < values.size(); ++i) {
             const bool is_null = frame.slots[i].kind == Operand::Kind::kNull;
-            if (is_null && !called_.arguments[i].asserted.empty()) throw Ended{Outside::kAssertion};
+            if (is_null && !called_.arguments[i].asserted.empty())
+                throw Ended{Outside::kAssertion, frame.slots[i].place};
         }
         run(called_.steps, frame);
     } catch (const Ended& ended) {
         answer_.outside = ended.outside;
+        tell(answer_.reason, ended.place, id_of(ended.outside), {}, {});
         return std::move(answer_);
     }
     answer_.code = frame.code;
@@ -151,10 +157,12 @@ Run::Flow Run::run(const Step& step, Frame& frame)
             frame.slots[step.slot] = operand(*step.value, frame);
             return Flow::kOn;
         case Step::Kind::kReads:
-            if (operand(*step.value, frame).kind != Operand::Kind::kNull) return Flow::kOn;
-            throw Ended{step.name.empty() ? Outside::kNull : Outside::kAssertion};
+            if (const Operand read = operand(*step.value, frame); read.kind == Operand::Kind::kNull)
+                throw Ended{step.name.empty() ? Outside::kNull : Outside::kAssertion, read.place};
+            return Flow::kOn;
         case Step::Kind::kNeverReturns:
-            throw Ended{Outside::kNeverReturns};
+            throw Ended{Outside::kNeverReturns,
+                        {reason.argument, reason.item, reason.item_text, reason.offset}};
         default:
             act(step, frame, reason);
             if (step.kind != Step::Kind::kWrite) answer_.printed.push_back(std::move(reason));
@@ -211,7 +219,7 @@ void Run::write(const Write& write, Frame& frame)
 {
     const bool is_item = write.target.kind == Expression::Kind::kItem;
     Operand& target = is_item ? frame.item : frame.slots[write.target.slot];
-    if (target.kind == Operand::Kind::kNull) throw Ended{Outside::kNull};
+    if (target.kind == Operand::Kind::kNull) throw Ended{Outside::kNull, target.place};
     const Operand value = operand(write.value, frame);
     if (!frame.is_called) return;
     target.kind = value.kind;

@@ -25,6 +25,7 @@ enum class Outside {
     kNull,          // a NULL is read
     kNeverReturns,  // the call does not come back
     kDriver,        // the wireless driver is asked, and the build does not say what it lists
+    kTooMuchWork,   // of the evaluation, not of the call
 };
 
 struct Answer {
@@ -36,7 +37,7 @@ struct Answer {
     std::vector<Value> after;  // what each argument that can be written to holds, in order
     Outside outside = Outside::kNo;
     bool beyond_int = false;      // a number beyond an int was read: other builds may answer otherwise
-    Reason reason;                // of the step that refused
+    Reason reason;                // of the step that refused, or why the call is outside
     std::vector<Reason> printed;  // of the steps that printed, or skipped, and went on
 
     [[nodiscard]] bool is_flushed() const { return flushed == out.size(); }
@@ -56,6 +57,10 @@ struct Counts {
 // evaluate takes a value for every argument, in order, those that are only written included.
 Answer evaluate(const Check& check, std::span<const Value> values, const Build& build,
                 Counts* counts = nullptr);
+
+// evaluate_within gives up when it has looked at so many bytes, one that it looks at twice counted twice.
+Answer evaluate_within(std::size_t bytes, const Check& check, std::span<const Value> values,
+                       const Build& build);
 
 // room says how many bytes a buffer must have in a call. Nothing: those of the text in it, or what the room depends on
 // is NULL.

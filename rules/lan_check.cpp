@@ -20,7 +20,7 @@ Check add_allowed_address()
          buffer("allowedList", "the allowed MAC addresses; the bytes after an empty list are zeros")
              .needs(larger({161, sum({length("macAddress"), 1})}))},
         {refuse(-1, null("macAddress")), refuse(-1, null("allowedList")),
-         accept(empty("allowedList"), Write{"allowedList", "macAddress"}),
+         accept(empty("allowedList"), Write{"allowedList", "macAddress", false}),
          refuse(-1, empty("macAddress"), existed), refuse(-1, contains("allowedList", "macAddress"), existed),
          // A list of one byte leaves room for 158; the lengths named are all that can be added.
          refuse(-1,

@@ -66,6 +66,7 @@ Run::Flow Run::run_list(const Step& step, Frame& frame)
             frame.item.place.call(list.part, index + 1);
         } else if (!frame.item.place.item) {
             frame.item.place.item = index;
+            frame.item.place.item_text = frame.item.text;
         }
         goes_on = !frame.is_last_item;
         if (counts_ != nullptr) {

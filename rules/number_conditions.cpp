@@ -24,6 +24,7 @@ void Run::tell(Reason& reason, const Integer& judged, std::string_view id, Datum
     reason.offset = judged.place.offset;
     if (judged.is_read || !judged.beyond_int.empty()) reason.read_as = judged.value;
     if (judged.beyond_int.empty()) return;
+    reason.limit = id;
     reason.id = "number_beyond_int";
     reason.found = std::string(judged.beyond_int);
 }
@@ -62,7 +63,7 @@ bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
 bool Run::driver_lists(const Condition& condition, Frame& frame, Reason* reason)
 {
     const Integer judged = number(condition.operands[0], frame);
-    if (!build_.channels) throw Ended{Outside::kDriver};
+    if (!build_.channels) throw Ended{Outside::kDriver, judged.place};
     const std::span<const int> all = *build_.channels;
     const auto first = static_cast<std::size_t>(condition.numbers[0]);
     std::vector<long long> listed;

@@ -184,8 +184,15 @@ Operand Run::computed(const Expression& expression, Frame& frame)
 Operand Run::text(const Expression& expression, Frame& frame)
 {
     Operand result = operand(expression, frame);
-    if (result.kind == Operand::Kind::kNull) throw Ended{Outside::kNull};
+    if (result.kind == Operand::Kind::kNull) throw Ended{Outside::kNull, result.place};
+    work(result.text.size());
     return result;
+}
+
+void Run::work(std::size_t bytes)
+{
+    if (bytes > bytes_left_) throw Ended{Outside::kTooMuchWork};
+    bytes_left_ -= bytes;
 }
 
 Integer Run::number(const Expression& expression, Frame& frame)

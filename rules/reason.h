@@ -30,12 +30,14 @@ struct Reason {
     std::string_view name;                // of the argument
     std::string part;  // of it, as in "the host" or "label 2"; empty: all of it, or of the item
     std::optional<std::size_t> item;    // of a list, or the key of a block, from 0
+    std::string item_text;              // what stands there
     std::optional<std::size_t> offset;  // from 0, in the argument's text or, of a block, in the key's
     std::optional<Span> judged;         // what was judged, in the text that offset counts in
     std::string_view conversion;        // what was done first to the text that offset counts in; or empty
     Datum found;
     Datum allowed;
     std::optional<long long> read_as;  // what this build's atoi makes of a text that is not just an int
+    std::string_view limit;            // of a number beyond an int: the id that the number read has
 };
 
 }  // namespace ostrel::rules

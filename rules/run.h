@@ -16,6 +16,7 @@ namespace ostrel::rules {
 struct Place {
     std::optional<std::size_t> argument;
     std::optional<std::size_t> item;
+    std::string_view item_text = {};
     std::optional<std::size_t> offset;  // where a text begins in the argument's
     std::optional<Span> judged = {};    // the text, in the argument's, also where a number was made of it
     std::string_view part = {};         // what that part of the argument is called
@@ -66,6 +67,7 @@ struct Frame {
 // Ended is thrown where the contract promises nothing of a call.
 struct Ended {
     Outside outside;
+    Place place = {};
 };
 
 class Run {
@@ -75,6 +77,7 @@ class Run {
     {
     }
 
+    void limit_work(std::size_t bytes) { bytes_left_ = bytes; }
     Answer evaluate(std::span<const Value> values);
     std::optional<std::size_t> size(const Expression& formula, std::span<const Value> values);
 
@@ -108,6 +111,7 @@ class Run {
     bool is_refused_by(const Condition& condition, Frame& frame, Reason* reason);
     void tell(Reason& reason, const Place& where, std::string_view id, Datum found, Datum allowed) const;
     void tell(Reason& reason, const Integer& judged, std::string_view id, Datum allowed) const;
+    void work(std::size_t bytes);
 
     // Steps.
     Flow run(const std::vector<Step>& steps, Frame& frame);
@@ -128,6 +132,7 @@ class Run {
     const Reason* fault_ = nullptr;                   // while lines are printed
     const std::vector<Line>* fault_lines_ = nullptr;  // of the group of a shape that is at fault
     int its_code_ = 0;                                // of the check that was last used
+    std::size_t bytes_left_ = std::string_view::npos;
 };
 
 }  // namespace ostrel::rules

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "rules/datum.h"
+
 namespace ostrel::rules {
 
 namespace {
@@ -15,6 +17,7 @@ constexpr Sentence kSentences[] = {
     {"colon_in_path",
      "has a \":\" in the path that begins at byte {position}; that is allowed only after a port"},
     {"contains", "byte {position} is where {found} begins, which is not allowed", true},
+    {"driver_asked", "is looked up with the wireless driver, whose answer is not known here"},
     {"empty", "is empty"},
     {"empty_as_listed", "is empty, and so is one in the list"},
     {"end_before_start", "is {found}; at least {allowed}, the last octet of the start, is needed"},
@@ -35,6 +38,7 @@ constexpr Sentence kSentences[] = {
     {"list_full", "has {found} bytes together with the list; at most {allowed} are allowed"},
     {"listed_by_driver", "is {read}{found}, which the wireless driver lists"},
     {"neither_server", "is neither the first nor the second server"},
+    {"never_returns", "is a value for which the check does not return"},
     {"no_channel_listed", "is {read}{found}; the wireless driver lists no channel that is allowed"},
     {"no_key_left", "has no key that is printable and not empty"},
     {"not_a_keyword", "is {allowed:not|none of} {allowed}"},
@@ -50,8 +54,10 @@ constexpr Sentence kSentences[] = {
     {"not_of_offset", "is not part of any name that goes with the offset: {allowed}"},
     {"not_part_of_any", "is not part of any of {allowed}"},
     {"null", "is NULL"},
+    {"null_asserted", "is NULL, which fails an assertion of the check"},
+    {"null_read", "is NULL, and the check reads it"},
     {"number_beyond_int",
-     "has the number {found}, which an int does not hold; this gateway reads it as {read_as}"},
+     "has the number {found}, which an int does not hold; this gateway reads it as {read_as}{limit}"},
     {"number_forbidden", "is {read}{found}; none of {allowed} is allowed"},
     {"number_in_range", "is {read}{found}; {range} are not allowed"},
     {"number_not_allowed", "is {read}{found}; only {allowed} {allowed:is|are} allowed"},
@@ -67,6 +73,7 @@ constexpr Sentence kSentences[] = {
     {"too_many_items", "has {found} items; at most {allowed} {allowed:is|are} allowed"},
     {"too_many_labels", "has {found} labels; at most {allowed} are allowed"},
     {"too_much", "should end before byte {position}"},
+    {"too_much_work", "the values are too long for a reason to be worked out", true},
     {"too_short", "has {found} {found:byte|bytes}; at least {allowed} {allowed:is|are} needed"},
     {"wrong_item_count", "has {found} {found:part|parts}; {allowed} are needed"},
     {"wrong_length", "has {found} {found:byte|bytes}; {allowed:|one of }{allowed} {allowed:are|is} needed"},
@@ -75,44 +82,6 @@ constexpr Sentence kSentences[] = {
     {"wrong_shape_or_end", "byte {position} is {byte}; {allowed} or the end is expected there", true},
     {"wrong_suffix", "does not end with {allowed}"},
 };
-
-template <typename T, typename F>
-std::string joined(const std::vector<T>& values, F shown)
-{
-    std::string result;
-    for (const T& value : values) result += (result.empty() ? "" : ", ") + shown(value);
-    return result;
-}
-
-// A keyword stands without quotation marks where it cannot be taken for something else.
-std::string keyword(const std::string& word)
-{
-    const bool is_plain = !word.empty() && std::ranges::all_of(word, [](char c) {
-        return c > ' ' && c <= '~' && c != ',' && c != '"';
-    });
-    return is_plain ? word : quoted(word);
-}
-
-std::string shown(const Datum& datum)
-{
-    if (const auto* number = std::get_if<long long>(&datum)) return std::to_string(*number);
-    if (const auto* text = std::get_if<std::string>(&datum)) return quoted(*text);
-    if (const auto* set = std::get_if<Set>(&datum)) return in_words(*set);
-    if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) return joined(*words, keyword);
-    if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) {
-        return joined(*numbers, [](long long number) { return std::to_string(number); });
-    }
-    return "";
-}
-
-bool is_one(const Datum& datum)
-{
-    if (const auto* number = std::get_if<long long>(&datum)) return *number == 1;
-    if (const auto* set = std::get_if<Set>(&datum)) return set->size() == 1;
-    if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) return words->size() == 1;
-    if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) return numbers->size() == 1;
-    return true;
-}
 
 std::string counted(const std::optional<std::size_t>& from_zero)
 {
@@ -125,6 +94,8 @@ std::string range(const Datum& datum)
     return limits == nullptr ? "" : std::to_string(limits->front()) + " to " + std::to_string(limits->back());
 }
 
+std::string limit_of(const Reason& reason);
+
 std::string value_of(std::string_view name, const Reason& reason)
 {
     const std::size_t colon = name.find(':');
@@ -135,9 +106,13 @@ std::string value_of(std::string_view name, const Reason& reason)
         return std::string(is_one(is_found ? reason.found : reason.allowed) ? forms.substr(0, bar)
                                                                             : forms.substr(bar + 1));
     }
-    if (name == "found")
-        return reason.id == "number_beyond_int" ? std::get<std::string>(reason.found) : shown(reason.found);
-    if (name == "allowed") return shown(reason.allowed);
+    if (name == "found") {
+        const std::string found = in_words(reason.found);
+        const bool is_quoted = reason.id == "number_beyond_int" && found.starts_with('"');
+        return is_quoted ? found.substr(1, found.size() - 2) : found;
+    }
+    if (name == "allowed") return in_words(reason.allowed, reason.found);
+    if (name == "limit") return limit_of(reason);
     if (name == "form") return std::get<std::string>(reason.allowed);
     if (name == "position") return counted(reason.offset);
     if (name == "item") return counted(reason.item);
@@ -148,45 +123,71 @@ std::string value_of(std::string_view name, const Reason& reason)
     return byte == nullptr || byte->empty() ? "" : byte_in_words(byte->front());
 }
 
+const Sentence* find(std::string_view id)
+{
+    const auto* known = std::ranges::lower_bound(kSentences, id, {}, &Sentence::id);
+    return known != std::end(kSentences) && known->id == id ? known : nullptr;
+}
+
+std::string filled_in(std::string_view text, const Reason& reason)
+{
+    std::string result;
+    while (true) {
+        const std::size_t begin = std::min(text.find('{'), text.size());
+        result += text.substr(0, begin);
+        text.remove_prefix(begin);
+        if (text.empty()) return result;
+        const std::size_t end = text.find('}');
+        result += value_of(text.substr(1, end - 1), reason);
+        text.remove_prefix(end + 1);
+    }
+}
+
+std::string limit_of(const Reason& reason)
+{
+    const Sentence* known = find(reason.limit);
+    const std::size_t begin = known == nullptr ? std::string_view::npos : known->text.find(';');
+    return begin == std::string_view::npos ? "" : filled_in(known->text.substr(begin), reason);
+}
+
 }  // namespace
 
 std::span<const Sentence> sentences() { return kSentences; }
 
 std::string sentence(const Reason& reason)
 {
-    const auto* known = std::ranges::lower_bound(kSentences, reason.id, {}, &Sentence::id);
-    if (known == std::end(kSentences) || known->id != reason.id) return "";
+    const Sentence* known = find(reason.id);
+    if (known == nullptr) return "";
     std::string result;
     if (!reason.part.empty()) result = known->has_subject ? "in " + reason.part + ", " : reason.part + " ";
-    std::string_view rest = known->text;
-    while (!rest.empty()) {
-        const std::size_t begin = std::min(rest.find('{'), rest.size());
-        result += rest.substr(0, begin);
-        rest.remove_prefix(begin);
-        if (rest.empty()) break;
-        const std::size_t end = rest.find('}');
-        result += value_of(rest.substr(1, end - 1), reason);
-        rest.remove_prefix(end + 1);
-    }
+    result += filled_in(known->text, reason);
     if (!reason.conversion.empty()) result += " (" + std::string(reason.conversion) + ")";
     return result;
 }
 
-std::string quoted(std::string_view text)
+std::string full_sentence(const Reason& reason, bool names_argument)
 {
-    constexpr std::size_t kLongest = 64;
-    constexpr std::string_view kHexDigits = "0123456789ABCDEF";
-    std::string result = "\"";
-    for (const char c : text.substr(0, kLongest)) {
-        if (c == '"' || c == '\\') result += '\\';
-        if (c >= ' ' && c <= '~') {
-            result += c;
-        } else {
-            const auto code = static_cast<unsigned char>(c);
-            result += {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
-        }
+    const std::string said = sentence(reason);
+    std::string subject;
+    if (reason.item) {
+        subject = "item " + counted(reason.item);
+        if (!reason.item_text.empty()) subject += " (" + quoted(reason.item_text) + ")";
     }
-    return result + (text.size() > kLongest ? "...\"" : "\"");
+    if (names_argument && reason.argument) {
+        subject.append(subject.empty() ? "" : " of ").append(reason.name);
+    }
+    if (said.empty() || subject.empty()) return said;
+    const bool has_subject = find(reason.id)->has_subject || !reason.part.empty();
+    return subject + (has_subject ? ": " : " ") + said;
+}
+
+Reason without_secret(Reason reason, const Check& check)
+{
+    const auto* found = std::get_if<std::string>(&reason.found);
+    const bool is_secret = reason.argument && check.arguments[*reason.argument].is_secret;
+    if (is_secret && found != nullptr && found->size() > 1) reason.found = std::monostate();
+    if (is_secret) reason.item_text.clear();
+    return reason;
 }
 
 }  // namespace ostrel::rules

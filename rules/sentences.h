@@ -6,18 +6,22 @@
 #include <string>
 #include <string_view>
 
+#include "rules/datum.h"
 #include "rules/reason.h"
+#include "rules/vocabulary.h"
 
 namespace ostrel::rules {
 
 // Sentence is what is said for an id. In it stand
-//   {found} {allowed}    what the reason has; of a list of words the words, of a set its members in words
+//   {found} {allowed}    what the reason has; of a set its members in words; of a list the words, or of a long one
+//                        how many there are and which is most like what was found
 //   {form}               what the text is, which stands in what is allowed
 //   {byte}               the byte that was found, shown so that it can be printed
 //   {position} {item}    the offset and the item, counted from 1
 //   {range}              the two limits that are allowed
 //   {read}               "read as " where the text is not just the number that is found
 //   {read_as}            the number that was made of one beyond an int
+//   {limit}              what is allowed of that number: from the ";" on the sentence of the id that it has
 //   {found:one|many} {allowed:one|many}
 //                        the first text where the number or the count of what is allowed is 1, else the second
 // The subject is the part that the reason names, or else the argument, unless the sentence has one. Then the part is
@@ -35,8 +39,11 @@ std::span<const Sentence> sentences();
 // has no sentence.
 std::string sentence(const Reason& reason);
 
-// quoted shows a text so that it can be printed: between quotation marks, cut, with \x9F for what is not printable.
-std::string quoted(std::string_view text);
+// full_sentence begins with what it speaks of: the item of a list, and the argument where that is to be named.
+std::string full_sentence(const Reason& reason, bool names_argument);
+
+// without_secret takes the value out that was found, where that is of an argument not to be shown; single bytes stay.
+Reason without_secret(Reason reason, const Check& check);
 
 }  // namespace ostrel::rules
 

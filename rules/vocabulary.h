@@ -31,6 +31,7 @@ struct Code {
 struct Write {
     Expression target;  // the name of an argument, or the item
     Expression value;
+    bool is_terminated = true;
 };
 
 // List is what a step is repeated for.

@@ -22,15 +22,17 @@ OSTREL_API int TcmValidateIPAddress(const char* value);
  * TcmValidateMACaddress: an IEEE 802 MAC address, six octets of two hexadecimal digits of either case,
  * separated by ":"; 17 characters.
  *
- * NULL is invalid. The first fault decides; if it is a character where a ":" belongs, that character is
- * written to standard output: no line end, not flushed. Nothing is printed otherwise.
+ * NULL is invalid. A value of another length is invalid, and nothing is printed. Otherwise the first fault
+ * decides; if it is a character where a ":" belongs, that character is written to standard output, without a
+ * line end and not flushed. Nothing else is printed.
  */
 OSTREL_API int TcmValidateMACaddress(const char* value);
 
 /*
  * isValidOrdinaryMACAddress: a MAC address as for TcmValidateMACaddress that is an individual address.
  *
- * NULL is invalid. A character where a ":" belongs is written to standard output, as there.
+ * NULL is invalid. A character where a ":" belongs is written to standard output, as there; for another
+ * length nothing is printed.
  *
  * If the group bit (I/G, the lowest bit of the first octet, IEEE 802) is set, as in every multicast address
  * and in the broadcast address, "Broadcasting MAC address, invalid.\n" is printed, not flushed, and the

@@ -6,10 +6,10 @@
  * ending in two line breaks, and flushes all output streams. Unless it is stated here, an accepted value
  * prints nothing.
  *
- * A check whose argument is value_p asserts: NULL is reported through the C library's assertion hook, in
- * every build type, and ends the process: the condition is "value_p != ((void *)0)", the module "lan_check",
- * the function the check, the line that of the source. The arguments of the other checks must not be NULL
- * unless stated.
+ * Each check that has one argument asserts, save LAN_check_passthrough_MAC_address: NULL is reported through
+ * the C library's assertion hook, in every build type, and ends the process: the condition is
+ * "value_p != ((void *)0)", the module "lan_check", the function the check, the line that of the source. A
+ * check that has several arguments does not assert, and none of them may be NULL unless stated.
  */
 #ifndef OSTREL_LAN_CHECK_H
 #define OSTREL_LAN_CHECK_H
@@ -141,14 +141,15 @@ OSTREL_API int LAN_check_subnet_mask(const char* value_p);
 OSTREL_API int LAN_check_cis_dev_name(const char* value_p);
 
 /*
- * LAN_check_add_allowedMACAddress: adds to the list of the stations that are allowed on the LAN.
+ * LAN_check_add_allowedMACAddress: adds to the list of the stations that are allowed on the LAN; to an empty
+ * one it copies macAddress WITHOUT A BOUND AND WITHOUT A TERMINATOR.
  *
  * macAddress:  one MAC address of 17 characters, or several with one separator character between them. Only
  *              the length is judged, 18 times the number of addresses less 1, and only when the list is not
  *              empty.
  * allowedList: the list, in a buffer of the caller's of at least 161 bytes: 160 characters and the
- *              terminator. When it is empty, macAddress is copied into it as it is, of whatever length and
- *              WITHOUT a terminator: the caller hands over a buffer filled with zeros and large enough. Otherwise
+ *              terminator. When it is empty, macAddress is copied into it as it is, of whatever length: the
+ *              buffer must be filled with zeros and have at least one byte more than macAddress. Otherwise
  *              ",", macAddress and a terminator are appended. Only an answer of 0 changes the buffer.
  *
  * 0; OSTREL_INVALID: either pointer is NULL, silently; or, tested in this order,
@@ -179,9 +180,9 @@ OSTREL_API int LAN_check_add_dns_servers(const char* newServers, const char* exi
 /*
  * LAN_check_delete_dns_server: whether a DNS server may be deleted from a list of one or two.
  *
- * The server may be deleted when it equals the text behind the list's first ",", or when it is as long as the
- * first (or only) server AND DIFFERS from it. So the first server itself is not found, and in an empty
- * list none is.
+ * The server may be deleted when it equals the text after the list's first ",", or when it is as long as the
+ * first (or only) server AND DIFFERS from it. So the first server itself is not found unless it is the second
+ * too; nor is an address of another length that is not the second, and in an empty list none is.
  *
  * 0; OSTREL_INVALID_VALUE: serverAddress is no IPv4 address (see TcmValidateIPAddress), with
  *   "Error in %s: Not a valid IP addr: %s\n\n" (the address);

@@ -60,7 +60,8 @@ OSTREL_API int MGTSERVER_check_periodic_inform_time(const char* value_p);
 
 /*
  * MGTSERVER_check_periodic_inform_interval: seconds between two reports, above 0 as atoi reads it: what
- * follows the digits is ignored, so "30abc" is accepted; there is no upper limit.
+ * follows the digits is ignored, so "30abc" is accepted. No number that an int holds is too high; one that it
+ * does not hold may be read as 0 or less, and is then refused.
  *
  * Asserts, line 240. 0; OSTREL_INVALID_VALUE, with "Error in %s: Invalite periodic inform interval\n\n".
  */
@@ -96,9 +97,8 @@ OSTREL_API int HNAPCORE_check_username(const char* value);
  * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, and anything behind it. Silent.
  *
  * offset_out: the caller's buffer; receives what follows "UTC", or "+00:00" where nothing does, with the
- *             terminator. It must have room for 7 bytes and for as many as the value has behind "UTC", the
- *             terminator included. What follows "UTC" is not examined. Left as it is on failure; must not
- *             overlap the value.
+ *             terminator. It must have room for 7 bytes, and for what follows "UTC" with its terminator.
+ *             What follows "UTC" is not examined. Left as it is on failure; must not overlap the value.
  *
  * 0; OSTREL_INVALID.
  */

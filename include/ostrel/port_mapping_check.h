@@ -4,9 +4,9 @@
  * Only permanent mappings of one external port, open to every remote host, are supported. Values are
  * NUL-terminated byte strings of any length; no check changes them. A check that refuses a value writes the
  * lines stated to standard output and flushes all output streams after each. An accepted value prints
- * nothing. "Asserts" means that NULL is reported through the C library's assertion hook, in every build type,
- * and ends the process: the condition is "value_p != ((void *)0)", the module
- * "port_mapping_check", the line that of the source.
+ * nothing. Only PORTMAPPING_check_port_available asserts, which means that NULL is reported through the C
+ * library's assertion hook, in every build type, and ends the process: the condition is
+ * "value_p != ((void *)0)", the module "port_mapping_check", the line that of the source.
  */
 #ifndef OSTREL_PORT_MAPPING_CHECK_H
 #define OSTREL_PORT_MAPPING_CHECK_H

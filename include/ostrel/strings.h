@@ -12,8 +12,8 @@
 /*
  * ValidateString: the length of a value and the set that its characters come from.
  *
- * min_len, max_len: the accepted lengths in bytes, both inclusive, as signed numbers; with a min_len of 0 or
- *                   less the empty value is valid.
+ * min_len, max_len: the accepted lengths in bytes, both inclusive, as signed numbers; the empty value
+ *                   is valid with a min_len of 0 or less and a max_len of 0 or more.
  * charset:          the allowed bytes, see character_sets.h; "" allows none.
  *
  * 0; OSTREL_TOO_SHORT (tested first); OSTREL_TOO_LONG (before any character is looked at);

@@ -6,8 +6,8 @@
  * no keyword.
  *
  * A check that prints writes to standard output when it refuses a value, save as said, and then flushes all
- * output streams; the texts are whole, and the first %s is the check's own name. WLAN_check_keys alone writes
- * to standard error.
+ * output streams; the texts are whole, and the first %s is the check's own name. WLAN_check_keys writes to
+ * standard error, and so may the shell that WLAN_check_channel runs.
  *
  * No check changes its arguments but WLAN_check_ssid and WLAN_check_wepkeys.
  *

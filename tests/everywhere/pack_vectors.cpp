@@ -41,9 +41,6 @@ namespace {
 
 constexpr std::uint32_t kNull = 0xFFFFFFFF;
 
-// kUnwritten is what a number that is only written holds when none is given: none that a function writes.
-constexpr int kUnwritten = std::numeric_limits<int>::min();
-
 void put(std::string& packed, std::uint32_t number)
 {
     for (int shift = 0; shift < 32; shift += 8) packed += static_cast<char>(number >> shift & 0xFF);
@@ -105,17 +102,6 @@ char kind_letter(const Argument& argument)
     throw std::logic_error("an argument of an unknown kind");
 }
 
-// buffer_size is how many bytes the caller of the function would have to provide.
-std::size_t buffer_size(const Argument& argument, const json& value, const json& args)
-{
-    if (argument.kind == Kind::kBlocks) return argument.capacity;
-    std::size_t longest = 0;
-    for (const json& text : argument.takes_text ? args : json::array({value})) {
-        if (text.is_string() || text.is_object()) longest = std::max(longest, text_from_json(text).size());
-    }
-    return std::max(argument.capacity, longest + 1);
-}
-
 void put_buffers(std::string& packed, std::size_t size, const json& before, const json& after)
 {
     const json texts_before = before.is_array() ? before : json::array({before});
@@ -133,6 +119,7 @@ std::string packed_row(const json& row, const std::string& label, std::uint32_t 
     Caller().load(*given.function, given.values);  // refuses what does not suit the function
     const std::vector<Argument>& arguments = given.function->arguments;
     const json& args = row["args"];
+    const std::vector<catalogue::Value> values = catalogue::completed(*given.function, given.values);
 
     std::string packed;
     put_string(packed, label + " " + std::string(given.function->name));
@@ -150,7 +137,9 @@ std::string packed_row(const json& row, const std::string& label, std::uint32_t 
     std::size_t next_after = 0;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const bool is_given = args.size() == arguments.size() || !arguments[i].output_only;
-        const json value = is_given ? args.at(next++) : kinds[i] == 'n' ? json(kUnwritten) : json("");
+        const json value = is_given          ? args.at(next++)
+                           : kinds[i] == 'n' ? json(catalogue::kUnwritten)
+                                             : json("");
         json after = value;
         if (kinds[i] == 'b' || kinds[i] == 'n') {
             if (row.contains("after")) after = row["after"].at(next_after++);
@@ -164,13 +153,13 @@ std::string packed_row(const json& row, const std::string& label, std::uint32_t 
                 put_text(packed, value);
                 break;
             case 'b':
-                put_buffers(packed, buffer_size(arguments[i], value, args), value, after);
+                put_buffers(packed, catalogue::room_of(*given.function, i, values), value, after);
                 break;
             default:
                 put(packed, value.is_null() ? 0 : 1);
                 if (value.is_null()) break;
                 put_number(packed, value);
-                put_number(packed, after.is_null() ? json(kUnwritten) : after);
+                put_number(packed, after.is_null() ? json(catalogue::kUnwritten) : after);
         }
     }
     return packed;

@@ -51,7 +51,8 @@ Experiment::Experiment(const Function& function, const Check& check) : function_
         reads_number_ = reads_number_ || said.form.reads_number;
     }
     for (const Row& row : all_rows()) {
-        if (row.given.function == &function) rows_.push_back(oracle::completed(function, row.given.values));
+        if (row.given.function == &function)
+            rows_.push_back(catalogue::completed(function, row.given.values));
     }
 }
 

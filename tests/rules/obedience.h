@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/value.h"
+#include "catalogue/catalogue.h"
 #include "rules/constraints.h"
 
 namespace ostrel::tests {

@@ -33,6 +33,13 @@ Reason read_as(long long number, Reason result)
     return result;
 }
 
+// limited says which limit the number read has passed.
+Reason limited(std::string_view limit, Reason result)
+{
+    result.limit = limit;
+    return result;
+}
+
 Reason of(std::string_view part, Reason result)
 {
     result.part = part;
@@ -51,7 +58,7 @@ Reason converted(std::string_view how, Reason result)
     return result;
 }
 
-std::vector<Said> of_numbers()
+std::vector<Expectation> of_numbers()
 {
     return {
         {reason("a_multiple", 36, 18), "is 36; a multiple of 18 is not allowed"},
@@ -74,6 +81,9 @@ std::vector<Said> of_numbers()
          "is read as 7; of the channels that the wireless driver lists, 1, 6 are allowed"},
         {read_as(-1, reason("number_beyond_int", "4294967295", 1)),
          "has the number 4294967295, which an int does not hold; this gateway reads it as -1"},
+        {limited("number_too_low", read_as(-1, reason("number_beyond_int", "4294967295", 1))),
+         "has the number 4294967295, which an int does not hold; this gateway reads it as -1; at least 1 is "
+         "needed"},
         {reason("number_forbidden", 80, Numbers{80, 161}), "is 80; none of 80, 161 is allowed"},
         {read_as(80, reason("number_forbidden", 80, Numbers{80, 161})),
          "is read as 80; none of 80, 161 is allowed"},
@@ -91,7 +101,7 @@ std::vector<Said> of_numbers()
     };
 }
 
-std::vector<Said> of_lengths_and_counts()
+std::vector<Expectation> of_lengths_and_counts()
 {
     return {
         {reason("another_length", 1, 10), "has 1 byte; earlier ones have 10"},
@@ -118,7 +128,7 @@ std::vector<Said> of_lengths_and_counts()
     };
 }
 
-std::vector<Said> of_bytes()
+std::vector<Expectation> of_bytes()
 {
     return {
         {at(21, reason("colon_in_path")),
@@ -142,7 +152,7 @@ std::vector<Said> of_bytes()
     };
 }
 
-std::vector<Said> of_words()
+std::vector<Expectation> of_words()
 {
     return {
         {reason("equal", "a", "a"), "is \"a\", which is not allowed"},
@@ -167,7 +177,7 @@ std::vector<Said> of_words()
     };
 }
 
-std::vector<Said> of_forms_and_lists()
+std::vector<Expectation> of_forms_and_lists()
 {
     return {
         {reason("accepted"), "is of a form that is not allowed here"},
@@ -178,6 +188,11 @@ std::vector<Said> of_forms_and_lists()
          "is an IPv4 address, which is not allowed here"},
         {reason("forbidden_shape"), "is of a form that is not allowed here"},
         {reason("last_item"), "is the last one"},
+        {reason("driver_asked"), "is looked up with the wireless driver, whose answer is not known here"},
+        {reason("never_returns"), "is a value for which the check does not return"},
+        {reason("null_asserted"), "is NULL, which fails an assertion of the check"},
+        {reason("null_read"), "is NULL, and the check reads it"},
+        {reason("too_much_work"), "the values are too long for a reason to be worked out"},
         {reason("neither_server"), "is neither the first nor the second server"},
         {reason("no_key_left"), "has no key that is printable and not empty"},
         {reason("not_listed", "1.1.1.1"), "is \"1.1.1.1\", which is not in the list"},
@@ -190,7 +205,7 @@ std::vector<Said> of_forms_and_lists()
 }
 
 // What is said of a part, of an item, and of a text that was rewritten.
-std::vector<Said> of_places()
+std::vector<Expectation> of_places()
 {
     return {
         {of("octet 3", reason("number_too_high", 256, 255)), "octet 3 is 256; at most 255 is allowed"},
@@ -207,13 +222,13 @@ std::vector<Said> of_places()
 
 }  // namespace
 
-const std::vector<Said>& all_said()
+const std::vector<Expectation>& all_said()
 {
-    static const std::vector<Said> all = [] {
-        std::vector<Said> result;
+    static const std::vector<Expectation> all = [] {
+        std::vector<Expectation> result;
         for (auto* const part :
              {of_numbers, of_lengths_and_counts, of_bytes, of_words, of_forms_and_lists, of_places}) {
-            const std::vector<Said> said = part();
+            const std::vector<Expectation> said = part();
             result.insert(result.end(), said.begin(), said.end());
         }
         return result;

@@ -9,13 +9,13 @@
 
 namespace ostrel::rules {
 
-struct Said {
+struct Expectation {
     Reason reason;
     std::string sentence;
 };
 
 // all_said has every id in every form.
-const std::vector<Said>& all_said();
+const std::vector<Expectation>& all_said();
 
 }  // namespace ostrel::rules
 

@@ -18,11 +18,12 @@ namespace {
 
 TEST(SentencesTest, AreAsExpected)
 {
-    for (const Said& said : all_said()) EXPECT_EQ(said.sentence, sentence(said.reason)) << said.reason.id;
+    for (const Expectation& said : all_said())
+        EXPECT_EQ(said.sentence, sentence(said.reason)) << said.reason.id;
 }
 
 // is_one tells whether the singular stands for what was found or is allowed.
-bool is_one(const Datum& datum)
+bool is_of_one(const Datum& datum)
 {
     if (const auto* number = std::get_if<long long>(&datum)) return *number == 1;
     if (const auto* texts = std::get_if<std::vector<std::string>>(&datum)) return texts->size() == 1;
@@ -37,7 +38,7 @@ std::set<std::string> forms_of(std::string_view text, const Reason& said)
     std::set<std::string> forms = {"said"};
     const auto add = [&](std::string_view name, const Datum& datum) {
         if (text.find("{" + std::string(name) + ":") == std::string_view::npos) return;
-        forms.insert(std::string(name) + (is_one(datum) ? " one" : " many"));
+        forms.insert(std::string(name) + (is_of_one(datum) ? " one" : " many"));
     };
     add("found", said.found);
     add("allowed", said.allowed);
@@ -60,7 +61,7 @@ TEST(SentencesTest, AreExpectedInEveryForm)
 {
     for (const Sentence& known : sentences()) {
         std::set<std::string> shown;
-        for (const Said& said : all_said()) {
+        for (const Expectation& said : all_said()) {
             if (said.reason.id == known.id) shown.merge(forms_of(known.text, said.reason));
         }
         EXPECT_EQ(all_forms_of(known.text), shown) << known.id;

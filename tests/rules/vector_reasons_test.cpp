@@ -101,8 +101,8 @@ const std::vector<Judged>& judged_rows()
             rules::Build build = oracle::library_build();
             build.atoi = rules::Build::Atoi::kLong64;  // for which the row is written
             Counts counts;
-            Answer answer = rules::evaluate(*check, oracle::completed(*row.given.function, row.given.values),
-                                            build, &counts);
+            Answer answer = rules::evaluate(
+                *check, catalogue::completed(*row.given.function, row.given.values), build, &counts);
             std::string path = path_of(*check, counts);
             result.push_back({&row, check, std::move(answer), std::move(path)});
         }

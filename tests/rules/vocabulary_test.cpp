@@ -70,8 +70,10 @@ TEST(SentencesTest, AreWhatAUserReads)
               told("TcmValidateEmailPassword", {"abcde\x9F"}));
     EXPECT_EQ("is none of None, Basic, WPA, 11i, WPAand11i", told("TcmValidateBeaconType", {"wpa"}));
     EXPECT_EQ("is 0; at least 1 is needed", told("TcmValidatePort", {"0"}));
-    EXPECT_EQ("has the number 99999999999999999999, which an int does not hold; this gateway reads it as -1",
-              told("TcmValidatePort", {"99999999999999999999"}));
+    EXPECT_EQ(
+        "has the number 99999999999999999999, which an int does not hold; this gateway reads it as -1; "
+        "at least 1 is needed",
+        told("TcmValidatePort", {"99999999999999999999"}));
     EXPECT_EQ("byte 15 is \"-\"; \":\" is expected there",
               told("TcmValidateMACaddress", {"00:11:22:33:44-55"}));
     EXPECT_EQ(

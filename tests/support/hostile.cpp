@@ -1,6 +1,12 @@
 #include "tests/support/hostile.h"
 
+#include <algorithm>
 #include <limits>
+#include <map>
+
+#include "rules/evaluate.h"
+#include "rules/explain.h"
+#include "rules/walk.h"
 
 namespace ostrel::tests {
 
@@ -54,18 +60,18 @@ std::vector<Value> widest(const Function& function)
 
 bool never_returns(const Function& function, const std::vector<Value>& values)
 {
-    if (function.name != "PARAM_check_ui2_value" && function.name != "PARAM_check_ui4_value") return false;
-    const auto* text = std::get_if<std::string>(values.data());
-    return text != nullptr && !text->empty() && text->front() >= '0' && text->front() <= '9';
+    if (!rules::may_not_return(*function.check)) return false;
+    const auto answer = rules::evaluate(*function.check, catalogue::completed(function, values), {});
+    return answer.outside == rules::Outside::kNeverReturns;
 }
 
 bool is_listed(const Function& function, int code)
 {
-    if (!function.is_verdict || code == 0) return true;
-    for (const catalogue::Code& listed : function.codes) {
-        if (listed.code == code) return true;
-    }
-    return false;
+    static std::map<std::string_view, std::vector<int>> codes;
+    if (!function.check->is_verdict || code == 0) return true;
+    const auto [known, is_new] = codes.try_emplace(function.name);
+    if (is_new) known->second = rules::explain(*function.check, {}).codes;
+    return std::ranges::find(known->second, code) != known->second.end();
 }
 
 }  // namespace ostrel::tests

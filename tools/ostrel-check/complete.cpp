@@ -1,8 +1,11 @@
 #include "complete.h"
 
-#include <string_view>
+#include <algorithm>
+#include <string>
 
 #include "catalogue/catalogue.h"
+#include "reason.h"
+#include "rules/walk.h"
 
 namespace ostrel::tool {
 
@@ -11,11 +14,11 @@ using catalogue::Function;
 
 namespace {
 
-using Words = std::vector<std::string_view>;
+using Words = std::vector<std::string>;
 
 void add_names(Words& candidates)
 {
-    for (const Function& function : catalogue::functions()) candidates.push_back(function.name);
+    for (const Function& function : catalogue::functions()) candidates.emplace_back(function.name);
 }
 
 Words options_of(std::string_view command)
@@ -31,9 +34,10 @@ Words options_of(std::string_view command)
 // keywords_at gives the keywords of the argument that the value of that number belongs to.
 Words keywords_at(const Function& function, std::size_t value)
 {
-    for (const Argument& argument : function.arguments) {
+    for (std::size_t i = 0; i < function.arguments.size(); ++i) {
+        const Argument& argument = function.arguments[i];
         if (argument.output_only) continue;
-        if (value < argument.blocks) return argument.keywords;
+        if (value < argument.blocks) return rules::keywords(*function.check, i, gateway());
         value -= argument.blocks;
     }
     return {};
@@ -73,8 +77,8 @@ std::vector<std::string> complete(std::span<const std::string> words)
 {
     std::vector<std::string> result;
     if (words.empty()) return result;
-    for (const std::string_view candidate : candidates_for(words)) {
-        if (candidate.starts_with(words.back())) result.emplace_back(candidate);
+    for (std::string& candidate : candidates_for(words)) {
+        if (candidate.starts_with(words.back())) result.push_back(std::move(candidate));
     }
     return result;
 }

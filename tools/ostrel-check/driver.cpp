@@ -12,6 +12,8 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "rules/walk.h"
+
 namespace ostrel::tool {
 
 namespace {
@@ -19,7 +21,7 @@ namespace {
 constexpr char kListFolder[] = "/var";
 constexpr char kListFile[] = "/var/hnapwl0chlist";
 
-bool asks_driver(const catalogue::Function& function) { return function.name == "WLAN_check_channel"; }
+bool asks_driver(const catalogue::Function& function) { return rules::asks_driver(*function.check); }
 
 }  // namespace
 

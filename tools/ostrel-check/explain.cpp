@@ -1,21 +1,24 @@
 #include "explain.h"
 
-#include <algorithm>
-#include <array>
-#include <stdexcept>
+#include <span>
 
-#include "catalogue/case.h"
+#include "hazards.h"
+#include "page.h"
+#include "reason.h"
+#include "rules/explain.h"
+#include "rules/walk.h"
 #include "show.h"
+#include "style.h"
+#include "words.h"
 
 namespace ostrel::tool {
 
 using catalogue::Argument;
 using catalogue::Function;
 using catalogue::Kind;
+using rules::Said;
 
 namespace {
-
-constexpr std::size_t kExamples = 3;
 
 std::string_view type_of(Kind kind)
 {
@@ -35,136 +38,102 @@ std::string_view type_of(Kind kind)
     return "int* ";
 }
 
-std::string listed(const std::vector<std::string_view>& words)
-{
-    std::string text;
-    for (const std::string_view word : words) text.append(text.empty() ? "" : " ").append(word);
-    return text;
-}
-
-void write_arguments(Page& page, const Study& study)
+void write_arguments(Page& page, const rules::Check& check, const rules::Explanation& explanation)
 {
     page.heading("Arguments");
-    for (std::size_t i = 0; i < study.function->arguments.size(); ++i) {
-        const Argument& argument = study.function->arguments[i];
-        page.item(argument.name, argument.what);
-        if (!argument.keywords.empty()) page.detail("keywords: " + listed(argument.keywords));
-        if (!study.null[i].empty()) page.detail("NULL: " + study.null[i]);
-        if (!argument.written.empty()) page.detail("what is written: " + std::string(argument.written));
+    for (std::size_t i = 0; i < check.arguments.size(); ++i) {
+        const rules::SaidArgument& said = explanation.arguments[i];
+        const bool is_secret = check.arguments[i].is_secret;
+        page.item(check.arguments[i].name, said.what + (is_secret ? "; a secret, not to be shown" : ""));
+        if (!said.room.empty()) page.detail("room: " + said.room);
+        if (!said.null.empty()) page.detail("NULL: " + said.null);
+        if (!said.written.empty()) page.detail("may become: " + said.written);
     }
-    const auto is_written = [](const Argument& argument) { return !argument.written.empty(); };
-    if (std::ranges::none_of(study.function->arguments, is_written)) {
-        page.paragraph(study.function->arguments.size() == 1 ? "The argument is not written to."
-                                                             : "None is written to.");
-    }
+    if (!explanation.numbers.empty()) page.paragraph(explanation.numbers);
 }
 
-void write_lines(Page& page, const std::vector<std::string>& lines)
-{
-    std::string_view label = "prints";
-    for (const std::string& line : lines) {
-        for (const std::string& message : catalogue::messages_in(line)) {
-            page.verbatim(label, message);
-            label = "and";
-        }
-        label = "or";
-    }
-}
-
-void write_codes(Page& page, const Study& study)
+void write_codes(Page& page, const rules::Check& check, const rules::Explanation& explanation)
 {
     page.heading("Result codes");
-    if (!study.function->is_verdict) {
+    if (!check.is_verdict) {
         page.paragraph("The answer is a number, not a result code.");
         return;
     }
-    page.item("0", "valid, OSTREL_VALID");
-    write_lines(page, study.accepted_lines);
-    for (std::size_t i = 0; i < study.codes.size(); ++i) {
-        const int code = study.codes[i].code->code;
-        if (i == 0 || study.codes[i - 1].code->code != code) {
-            page.item(std::to_string(code),
-                      std::string(catalogue::meaning(code)).append(", ").append(catalogue::constant(code)));
+    const auto write = [&](int code) {
+        page.item(std::to_string(code),
+                  std::string(catalogue::meaning(code)).append(", ").append(catalogue::constant(code)));
+    };
+    write(0);
+    for (const int code : explanation.codes) write(code);
+}
+
+std::string label_of(const rules::SaidLine& line)
+{
+    std::string label = line.stream == rules::Line::Stream::kErr ? "standard error" : "prints";
+    if (!line.is_flushed && line.stream == rules::Line::Stream::kOut) label += ", without a flush";
+    return line.when.empty() ? label : label + ", " + line.when;
+}
+
+// write_steps numbers the steps; those within a step have its number before their own.
+void write_steps(Page& page, const std::vector<Said>& steps, const std::string& number, std::size_t depth)
+{
+    std::size_t count = 0;
+    const auto write = [&](const std::string& text) {
+        const std::string label = number + std::to_string(++count);
+        page.step(depth, label, text);
+        return label + ".";
+    };
+    for (const Said& step : steps) {
+        const std::string label = write(step.text);
+        for (const rules::SaidLine& line : step.lines) page.line(depth, label_of(line), line.text);
+        for (const std::string& written : step.writes) page.note(depth, written);
+        for (const Said& use : step.uses) {
+            page.note(depth, use.text + ":");
+            write_steps(page, use.steps, label, depth + 1);
         }
-        page.detail("when: " + std::string(study.codes[i].code->condition));
-        write_lines(page, study.codes[i].lines);
-    }
-    const auto prints = [](const CodeStudy& code) { return !code.lines.empty(); };
-    if (study.accepted_lines.empty() && std::ranges::none_of(study.codes, prints)) {
-        page.paragraph("Nothing is printed.");
+        write_steps(page, step.steps, label, depth + 1);
+        if (!step.otherwise.empty()) write_steps(page, step.otherwise, write("otherwise"), depth + 1);
     }
 }
 
-void write_exposures(Page& page, const Study& study)
+void write_tables(Page& page, const rules::Check& check)
 {
-    if (study.exposures.empty()) return;
-    page.heading("What an accepted value may contain");
-    for (const catalogue::Exposure& exposure : study.exposures) {
-        std::string never;
-        for (std::size_t i = 0; i < exposure.places.size(); ++i) {
-            const catalogue::Hazard& hazard = catalogue::hazards()[i];
-            if (!exposure.places[i].any()) {
-                never.append(never.empty() ? "" : ", ")
-                    .append(hazard.name == "quotes" || hazard.name == "shell" ? hazard.name : hazard.title);
-            }
-        }
-        page.item(exposure.argument->name, never.empty() ? "bytes of every kind" : "never " + never);
-        for (std::size_t i = 0; i < exposure.places.size(); ++i) {
-            const catalogue::Places& places = exposure.places[i];
-            const catalogue::Hazard& hazard = catalogue::hazards()[i];
-            if (!places.any()) continue;
-            std::string text(hazard.title);
-            text += ": " + describe(places);
-            if (places.bytes.size() < hazard.bytes.size()) {
-                text += "; only ";
-                append_escaped(text, places.bytes, 40);
-            }
-            page.detail(text);
+    for (const rules::Table* table : rules::tables(check)) {
+        std::string columns;
+        for (const std::string_view column : table->columns)
+            columns.append(columns.empty() ? "" : ": ").append(column);
+        page.heading("Table");
+        page.paragraph(columns);
+        for (const auto& row : table->rows) {
+            std::string rest;
+            for (const std::string_view cell : std::span(row).subspan(1))
+                rest.append(rest.empty() ? "" : "; ").append(cell);
+            page.item(row[0], rest);
         }
     }
 }
 
-void write_oddities(Page& page, const Study& study)
+void write_check(Page& page, const Function& function)
 {
-    if (study.oddities.empty()) return;
-    page.heading("Kept on purpose");
-    for (const catalogue::Oddity& oddity : study.oddities) {
-        std::string title(oddity.title);
-        std::erase(title, '`');
-        std::string text = oddity.text;
-        std::erase(text, '`');
-        page.paragraph("- " + title + ". " + text);
+    const rules::Check& check = *function.check;
+    const rules::Explanation explanation = rules::explain(check, gateway());
+    page.declaration(declaration_of(function));
+    page.heading(check.is_verdict ? "What is accepted" : "What is answered");
+    page.paragraph(explanation.accepted);
+    write_arguments(page, check, explanation);
+    write_codes(page, check, explanation);
+    page.heading("Steps");
+    write_steps(page, explanation.steps, "", 0);
+    if (check.is_verdict) page.paragraph("What comes to the end of the steps is accepted.");
+    if (rules::asks_driver(check)) {
+        page.paragraph(
+            "The wireless driver is asked by the command wlctl, which /bin/sh looks up on PATH. What either "
+            "of them "
+            "writes to standard error, such as that there is no wlctl, appears there.");
     }
-}
-
-void write_examples(Page& page, const Study& study)
-{
-    page.heading("Examples");
-    for (const Example& example : examples_of(*study.function, kExamples, kExamples)) {
-        std::string words(study.function->name);
-        for (const catalogue::Value& value : example.values) {
-            words += ' ';
-            append_value(words, value, 200);
-        }
-        const bool is_accepted = example.code == 0;
-        const std::string code = std::to_string(example.code);
-        page.item(words, !study.function->is_verdict ? code : is_accepted ? "accepted" : "refused, " + code);
-        for (const std::string_view printed : std::array<std::string_view, 2>{example.out, example.err}) {
-            std::string line;
-            for (const char c : printed) {
-                if (c == '\n') {
-                    line += "\\n";
-                } else {
-                    append_escaped(line, {&c, 1}, 1);
-                }
-            }
-            std::string_view label = "printed";
-            for (const std::string& message : catalogue::messages_in(line)) {
-                page.verbatim(label, message);
-                label = "and";
-            }
-        }
-    }
+    if (!rules::prints(check)) page.paragraph("The check itself prints nothing.");
+    write_tables(page, check);
+    write_hazards(page, function);
 }
 
 }  // namespace
@@ -178,26 +147,55 @@ std::string declaration_of(const Function& function)
     return text + ")";
 }
 
-void write_check(Page& page, const Study& study)
+std::string explain(const Function& function, bool with_colours)
 {
-    page.declaration(declaration_of(*study.function));
-    page.heading(study.function->is_verdict ? "What is accepted" : "What is answered");
-    page.paragraph(study.function->rule);
-    write_arguments(page, study);
-    write_codes(page, study);
-    write_exposures(page, study);
-    write_oddities(page, study);
-    write_examples(page, study);
+    TextPage page(with_colours);
+    page.title(std::string(function.name).append(" (").append(function.family).append(")"));
+    write_check(page, function);
+    return page.text();
 }
 
-std::string explain(std::string_view name, bool with_colours)
+std::string list_checks(bool with_colours)
 {
-    const Function* function = catalogue::find(name);
-    if (function == nullptr) throw std::invalid_argument(catalogue::unknown_function(name));
-    TextPage page(with_colours);
-    page.title(std::string(function->name).append(" (").append(function->family).append(")"));
-    write_check(page, study(*function));
-    return page.text();
+    std::string text;
+    std::string_view family;
+    for (const Function& function : catalogue::functions()) {
+        if (function.family != family) {
+            family = function.family;
+            text.append(text.empty() ? "" : "\n")
+                .append(painted(family, Colour::kBold, with_colours))
+                .append("\n");
+        }
+        text.append("  ").append(usage_of(function)).append("\n");
+        append_wrapped(text, rules::accepted(*function.check, gateway()), 6);
+        for (const Argument& argument : function.arguments) {
+            if (argument.output_only) append_wrapped(text, "fills in " + std::string(argument.name), 6);
+        }
+    }
+    return text;
+}
+
+std::string reference()
+{
+    std::string text =
+        "# Reference\n\n"
+        "Every check, from its description. In what is printed, `\\n` is a line end and `<name>` stands for "
+        "an\nargument, for a part of one, or for what a step keeps under that name.\n\n";
+    std::string_view family;
+    for (const Function& function : catalogue::functions()) {
+        if (function.family == family) continue;
+        family = function.family;
+        text.append("- [").append(family).append("](#").append(family).append(")\n");
+    }
+    family = "";
+    for (const Function& function : catalogue::functions()) {
+        if (function.family != family) text.append("\n## ").append(family = function.family).append("\n");
+        MarkdownPage page;
+        page.title(function.name);
+        write_check(page, function);
+        text += page.text();
+    }
+    return text;
 }
 
 }  // namespace ostrel::tool

@@ -1,28 +1,27 @@
-// Explain: what a check wants, in words.
+// Explain: what a check wants, laid out from its description.
 #ifndef OSTREL_TOOLS_EXPLAIN_H
 #define OSTREL_TOOLS_EXPLAIN_H
 
 #include <string>
 #include <string_view>
 
-#include "page.h"
-#include "study.h"
+#include "catalogue/catalogue.h"
 
 namespace ostrel::tool {
 
 // declaration_of gives the function as a C host declares it.
 std::string declaration_of(const catalogue::Function& function);
 
-// write_check says everything that is known of a check. The title is the caller's.
-void write_check(Page& page, const Study& study);
+// explain gives the page of a check, for a terminal.
+std::string explain(const catalogue::Function& function, bool with_colours);
 
-// explain gives the page of the check of that name. Throws std::invalid_argument with a message for the user.
-std::string explain(std::string_view name, bool with_colours);
+// list_checks shows every check with its arguments and what it accepts.
+std::string list_checks(bool with_colours);
 
 // list_json gives the catalogue in JSON, as catalogue.schema.json describes it.
 std::string list_json();
 
-// reference and hazards give the pages of docs/ in Markdown.
+// reference gives the pages of all checks in Markdown, hazards_page what their accepted values may contain.
 std::string reference();
 std::string hazards_page();
 

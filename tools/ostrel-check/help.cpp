@@ -65,12 +65,13 @@ process or did not return.)";
 
 std::string_view list_help()
 {
-    return R"(With --json the whole catalogue: arguments, rules, codes with what is printed,
-what an accepted value may contain, and the constraints of each argument for
-programs and forms. --schema prints the JSON Schema of that.
---json-schema prints a schema for values: a definition for each check of a single
-text, marked x-ostrel-exact where a validator accepts the same values as the
-check. --reference and --hazards print pages in Markdown, as they stand in docs/.
+    return R"(With --json the whole catalogue: arguments, rules, codes, steps with what is
+printed, what an accepted value may contain, and the constraints of each
+argument for programs and forms. --schema prints the JSON Schema of that.
+--json-schema prints a schema for values: a definition for each check of a
+single text, marked x-ostrel-exact where a validator accepts the same values as
+the check.
+--reference and --hazards print pages in Markdown.
 
 Examples:
   ostrel-check list
@@ -81,11 +82,11 @@ Examples:
 
 std::string_view explain_help()
 {
-    return R"(Says what the check accepts, what its arguments are and what NULL does, each
-result code with its condition and the line that is printed, what is written
-into buffers, what an accepted value may contain, and examples that are run at
-that moment. In a line that is printed, \n is a line end and <name> stands for
-that argument.
+    return R"(Says what the check accepts, what its arguments are and what NULL does, its
+result codes, its steps in their order with the condition and the lines of each,
+what is written into buffers, and what an accepted value may contain. In a line
+that is printed, \n is a line end and <name> stands for an argument, for a part
+of one, or for what a step keeps under that name.
 
 Examples:
   ostrel-check explain PARAM_check_port

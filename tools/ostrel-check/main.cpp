@@ -159,9 +159,9 @@ int show_list(const Options& options)
 
 int show_explanation(const std::string& name)
 {
-    if (catalogue::find(name) == nullptr)
-        return complain(catalogue::unknown_function(name), advice_for(name));
-    write_all(STDOUT_FILENO, explain(name, wants_colours(STDOUT_FILENO)));
+    const catalogue::Function* function = catalogue::find(name);
+    if (function == nullptr) return complain(catalogue::unknown_function(name), advice_for(name));
+    write_all(STDOUT_FILENO, explain(*function, wants_colours(STDOUT_FILENO)));
     return kExitAccepted;
 }
 

@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::size_t kItem = 2;
 constexpr std::size_t kDetail = 6;
+constexpr std::size_t kDepth = 4;
+constexpr std::size_t kMarkdownDepth = 2;
 
 }  // namespace
 
@@ -34,9 +36,20 @@ void TextPage::item(std::string_view label, std::string_view text)
 
 void TextPage::detail(std::string_view text) { append_wrapped(out(), text, kDetail); }
 
-void TextPage::verbatim(std::string_view label, std::string_view text)
+void TextPage::step(std::size_t depth, std::string_view number, std::string_view text)
 {
-    out().append(kDetail, ' ').append(label).append(" ").append(text).append("\n");
+    const std::string label = std::string(number) + ". ";
+    append_wrapped(out(), label + std::string(text), kItem + kDepth * depth, label.size());
+}
+
+void TextPage::note(std::size_t depth, std::string_view text)
+{
+    append_wrapped(out(), text, kDetail + kDepth * depth);
+}
+
+void TextPage::line(std::size_t depth, std::string_view label, std::string_view text)
+{
+    out().append(kDetail + kDepth * depth, ' ').append(label).append(": ").append(text).append("\n");
 }
 
 std::string in_markdown(std::string_view text)
@@ -88,9 +101,21 @@ void MarkdownPage::detail(std::string_view text)
     out().append("  - ").append(in_markdown(text)).append("\n");
 }
 
-void MarkdownPage::verbatim(std::string_view label, std::string_view text)
+void MarkdownPage::step(std::size_t depth, std::string_view number, std::string_view text)
 {
-    out().append("  - ").append(label).append(" ").append(as_code(text)).append("\n");
+    out().append(kMarkdownDepth * depth, ' ').append("- ").append(number).append(" ");
+    out().append(in_markdown(text)).append("\n");
+}
+
+void MarkdownPage::note(std::size_t depth, std::string_view text)
+{
+    out().append(kMarkdownDepth * (depth + 1), ' ').append("- ").append(in_markdown(text)).append("\n");
+}
+
+void MarkdownPage::line(std::size_t depth, std::string_view label, std::string_view text)
+{
+    out().append(kMarkdownDepth * (depth + 1), ' ').append("- ").append(in_markdown(label)).append(": ");
+    out().append(as_code(text)).append("\n");
 }
 
 }  // namespace ostrel::tool

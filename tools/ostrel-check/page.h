@@ -2,6 +2,7 @@
 #ifndef OSTREL_TOOLS_PAGE_H
 #define OSTREL_TOOLS_PAGE_H
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -19,8 +20,13 @@ class Page {
     virtual void heading(std::string_view text) = 0;
     virtual void paragraph(std::string_view text) = 0;
     virtual void item(std::string_view label, std::string_view text) = 0;
-    virtual void detail(std::string_view text) = 0;                            // of the last item
-    virtual void verbatim(std::string_view label, std::string_view text) = 0;  // a line, of the last item
+    virtual void detail(std::string_view text) = 0;  // of the last item
+
+    // Steps, one in another so many deep. note and line belong to the last step of that depth.
+    virtual void step(std::size_t depth, std::string_view number, std::string_view text) = 0;
+    virtual void note(std::size_t depth, std::string_view text) = 0;
+    virtual void line(std::size_t depth, std::string_view label,
+                      std::string_view text) = 0;  // as it is printed
 
     [[nodiscard]] const std::string& text() const { return text_; }
 
@@ -40,7 +46,9 @@ class TextPage : public Page {
     void paragraph(std::string_view text) override;
     void item(std::string_view label, std::string_view text) override;
     void detail(std::string_view text) override;
-    void verbatim(std::string_view label, std::string_view text) override;
+    void step(std::size_t depth, std::string_view number, std::string_view text) override;
+    void note(std::size_t depth, std::string_view text) override;
+    void line(std::size_t depth, std::string_view label, std::string_view text) override;
 
  private:
     bool with_colours_;
@@ -54,7 +62,9 @@ class MarkdownPage : public Page {
     void paragraph(std::string_view text) override;
     void item(std::string_view label, std::string_view text) override;
     void detail(std::string_view text) override;
-    void verbatim(std::string_view label, std::string_view text) override;
+    void step(std::size_t depth, std::string_view number, std::string_view text) override;
+    void note(std::size_t depth, std::string_view text) override;
+    void line(std::size_t depth, std::string_view label, std::string_view text) override;
 };
 
 // in_markdown gives a text in which nothing means anything to Markdown.

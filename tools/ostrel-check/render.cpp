@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "reason.h"
 #include "show.h"
 
 namespace ostrel::tool {
@@ -55,6 +56,14 @@ bool has_code(Verdict verdict)
     return verdict == Verdict::kAccepted || verdict == Verdict::kRefused || verdict == Verdict::kAnswer;
 }
 
+void append_meaning(std::string& out, std::string_view meaning, const Result& result)
+{
+    out.append(kIndentation).append(meaning);
+    const std::string text = why(result).text;
+    if (!text.empty()) out.append(": ").append(text);
+    out += '\n';
+}
+
 std::string counted(std::uint64_t number, std::string_view one, std::string_view many)
 {
     return std::to_string(number).append(" ").append(number == 1 ? one : many);
@@ -98,12 +107,9 @@ void append_row(std::string& out, const Place& place, const Result& result)
     }
     out += '\n';
     if (result.verdict == Verdict::kRefused) {
-        out.append(kIndentation).append(catalogue::meaning(result.code));
-        const std::string condition = explanation_of(result);
-        if (!condition.empty()) out.append(": ").append(condition);
-        out += '\n';
+        append_meaning(out, catalogue::meaning(result.code), result);
     } else if (!has_code(result.verdict)) {
-        out.append(kIndentation).append(result.problem).append("\n");
+        append_meaning(out, result.problem, result);
     }
     append_printed(out, result.printed.out, "| ");
     append_printed(out, result.printed.err, "! ");
@@ -123,12 +129,11 @@ void append_json(std::string& out, const Place* place, const Result& result)
         out.append(",\"code\":").append(std::to_string(result.code));
         append_json_member(out, "meaning",
                            result.verdict == Verdict::kAnswer ? "a number" : catalogue::meaning(result.code));
-        const std::string condition = explanation_of(result);
-        if (!condition.empty()) append_json_member(out, "condition", condition);
     } else {
         out += ",\"code\":null";
         append_json_member(out, "meaning", result.problem);
     }
+    append_json_reasons(out, result);
     if (result.verdict != Verdict::kMalformed) {
         append_json_member(out, "out", result.printed.out);
         const bool is_flushed = result.printed.flushed == result.printed.out.size();

@@ -173,24 +173,4 @@ int judge_one(std::string_view name, std::span<const std::string> words, double 
     return exit_code(result.verdict);
 }
 
-std::string list_checks(bool with_colours)
-{
-    std::string text;
-    std::string_view family;
-    for (const Function& function : catalogue::functions()) {
-        if (function.family != family) {
-            family = function.family;
-            text.append(text.empty() ? "" : "\n")
-                .append(painted(family, Colour::kBold, with_colours))
-                .append("\n");
-        }
-        text.append("  ").append(usage_of(function)).append("\n");
-        append_wrapped(text, function.rule, 6);
-        for (const catalogue::Argument& argument : function.arguments) {
-            if (argument.output_only) append_wrapped(text, "fills in " + std::string(argument.name), 6);
-        }
-    }
-    return text;
-}
-
 }  // namespace ostrel::tool

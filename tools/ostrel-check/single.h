@@ -12,9 +12,6 @@ namespace ostrel::tool {
 // a message for the user, when the name or the values do not suit.
 int judge_one(std::string_view name, std::span<const std::string> words, double limit);
 
-// list_checks shows every check.
-std::string list_checks(bool with_colours);
-
 }  // namespace ostrel::tool
 
 #endif

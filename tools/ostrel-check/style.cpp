@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace ostrel::tool {
 
@@ -27,10 +28,10 @@ std::string painted(std::string_view text, Colour colour, bool with_colours)
     return result.append(text).append("\x1B[0m");
 }
 
-void append_wrapped(std::string& out, std::string_view text, std::size_t indentation)
+void append_wrapped(std::string& out, std::string_view text, std::size_t indentation, std::size_t hanging)
 {
-    const std::size_t width = kColumns - indentation;
     while (!text.empty()) {
+        const std::size_t width = kColumns - indentation;
         std::size_t size = text.size();
         if (size > width) {
             size = text.substr(0, width + 1).rfind(' ');
@@ -38,6 +39,7 @@ void append_wrapped(std::string& out, std::string_view text, std::size_t indenta
         }
         out.append(indentation, ' ').append(text.substr(0, size)).append("\n");
         text.remove_prefix(std::min(text.size(), size + 1));
+        indentation += std::exchange(hanging, 0);
     }
 }
 

@@ -19,8 +19,10 @@ std::string painted(std::string_view text, Colour colour, bool with_colours);
 // kColumns is the width that everything fits into that is not a value's own text.
 inline constexpr std::size_t kColumns = 80;
 
-// append_wrapped adds a text in lines of at most kColumns, each behind so many blanks.
-void append_wrapped(std::string& out, std::string_view text, std::size_t indentation);
+// append_wrapped adds a text in lines of at most kColumns, each after so many blanks, and all but the first after some
+// more.
+void append_wrapped(std::string& out, std::string_view text, std::size_t indentation,
+                    std::size_t hanging = 0);
 
 }  // namespace ostrel::tool
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "catalogue/rows.h"
+#include "reason.h"
 
 namespace ostrel::tool {
 
@@ -66,32 +66,18 @@ std::uint64_t Tally::sum() const
 void judge(Result& result, int code)
 {
     result.code = code;
-    if (!result.function->is_verdict) {
+    if (!result.function->check->is_verdict) {
         result.verdict = Verdict::kAnswer;
     } else {
         result.verdict = code == 0 ? Verdict::kAccepted : Verdict::kRefused;
     }
 }
 
-std::string explanation_of(const Result& result)
-{
-    if (result.verdict != Verdict::kRefused || result.values == nullptr) return "";
-    // What counts in a buffer is what the check has made of it.
-    std::vector<catalogue::Value> rewritten;
-    const std::vector<catalogue::Value>* values = result.values;
-    const bool is_buffer = result.function->arguments[0].kind == catalogue::Kind::kBuffer;
-    if (is_buffer && !result.after.empty()) {
-        rewritten = *values;
-        rewritten[0] = result.after[0].value;
-        values = &rewritten;
-    }
-    const catalogue::Finding finding = catalogue::condition_of(*result.function, *values, result.code);
-    if (finding.condition == nullptr) return "";
-    std::string text;
-    if (finding.condition->condition != catalogue::meaning(result.code)) text = finding.condition->condition;
-    if (!finding.detail.empty()) text.append(text.empty() ? "" : ": ").append(finding.detail);
-    return text;
-}
+namespace {
+
+std::string in_parentheses(const std::string& text) { return text.empty() ? "" : " (" + text + ")"; }
+
+}  // namespace
 
 std::string describe(const Result& result)
 {
@@ -104,12 +90,11 @@ std::string describe(const Result& result)
         case Verdict::kRefused: {
             std::string text = "refused: " + code + ", ";
             text += catalogue::meaning(result.code);
-            const std::string condition = explanation_of(result);
-            if (!condition.empty()) text.append(" (").append(condition).append(")");
-            return text;
+            return text + in_parentheses(why(result).text);
         }
         default:
-            return std::string(name_of(result.verdict)) + ": " + result.problem;
+            return std::string(name_of(result.verdict)) + ": " + result.problem +
+                   in_parentheses(why(result).text);
     }
 }
 

@@ -65,11 +65,7 @@ struct Result {
 // judge sets the verdict on a call that returned.
 void judge(Result& result, int code);
 
-// explanation_of says which condition of the rule a refused value has failed and, for rules over characters,
-// at which byte; the empty text where the catalogue knows no more than what the code means.
-std::string explanation_of(const Result& result);
-
-// describe says the verdict in a line: "refused: 601, out of range (the number is ...)".
+// describe says the verdict in a line: "refused: 802, too long (has 34 bytes; at most 32 are allowed)".
 std::string describe(const Result& result);
 
 }  // namespace ostrel::tool

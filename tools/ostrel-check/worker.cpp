@@ -61,6 +61,8 @@ class Judge {
         result_.printed = capture_.look();
         result_.after = caller_.written();
         tool::judge(result_, code);
+        // The time that the reason takes is not the call's.
+        if (result_.verdict == Verdict::kRefused) arena_->commit(progress);
         write(progress);
     }
 

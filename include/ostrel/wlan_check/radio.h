@@ -3,8 +3,9 @@
  *
  * What holds for all checks of the wireless LAN stands in <ostrel/wlan_check.h>.
  *
- * radio is "RADIO_2.4GHz" or "RADIO_5GHz", in upper or lower case. Numbers are as atoi reads them: text
- * without a number, the empty value included, is 0. All are silent and answer 0 or OSTREL_INVALID.
+ * radio is "RADIO_2.4GHz" or "RADIO_5GHz", in any mixture of upper and lower case. Numbers are as atoi reads
+ * them: text without a number, the empty value included, is 0. All answer 0 or OSTREL_INVALID and print
+ * nothing themselves.
  */
 #ifndef OSTREL_WLAN_CHECK_RADIO_H
 #define OSTREL_WLAN_CHECK_RADIO_H
@@ -20,9 +21,10 @@ OSTREL_API int WLAN_check_radio_id(const char* radio);
  * "0" is the automatic channel and valid on any radio, also on one that does not exist. On 2.4 GHz a channel
  * is valid if it is below 14 and among the first 15 numbers that the driver lists: the command
  * "wlctl -i wl0 channels > /var/hnapwl0chlist" is run through the shell, and the file is read and deleted.
- * Where the file cannot be opened, every channel is refused and nothing is deleted. What the shell and the
- * command print on standard error, such as that there is no wlctl, appears there. On 5 GHz the channels 36,
- * 40, 44, 48, 149, 153, 157 and 161 are valid, and 0: also "00", text without a number and the empty value.
+ * Where the file cannot be opened, every channel is refused and nothing is deleted. Where there is no wlctl,
+ * the shell writes that to standard error, and the list is empty; what wlctl itself writes to standard error
+ * appears there too. On 5 GHz the channels 36, 40, 44, 48, 149, 153, 157 and 161 are valid, and 0: also "00",
+ * text without a number and the empty value.
  *
  * THE FILE'S NAME IS FIXED, so two calls must not run at once. Only the 2.4 GHz radio runs the command.
  */

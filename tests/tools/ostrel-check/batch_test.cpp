@@ -25,7 +25,7 @@ TEST(Batch, TableShowsEachCaseAndASummary)
     EXPECT_EQ((Outcome{1,
                        "      2  accepted      0  PARAM_check_port 80\n"
                        "      4  refused     601  PARAM_check_port 65536\n"
-                       "                          out of range: the number is below 0 or above 65535\n"
+                       "                          out of range: is 65536; at most 65535 is allowed\n"
                        "                          | Error in PARAM_check_port: The port shoud be between "
                        "0~65535\n"
                        "      5  accepted      0  TcmValidatePPPUsername \"caf\\xE9 1\"\n"
@@ -49,7 +49,9 @@ TEST(Batch, JsonHoldsCodeMeaningPrintsAndBuffers)
         "PARAM_check_bool_value caf\\xE9\\n\\x1B\n");
     ASSERT_EQ(5U, rows.size());
     EXPECT_EQ(json::parse(R"({"file": "-", "line": 1, "check": "PARAM_check_port", "verdict": "refused",
-        "code": 601, "meaning": "out of range", "condition": "the number is below 0 or above 65535", "flushed": true, "err": "", "after": {},
+        "code": 601, "meaning": "out of range", "flushed": true, "err": "", "after": {},
+        "reason": {"id": "number_too_high", "argument": "value_p", "offset": 0, "found": 65536, "allowed": 65535,
+                   "text": "is 65536; at most 65535 is allowed"},
         "out": "Error in PARAM_check_port: The port shoud be between 0~65535\n"})"),
               rows[0]);
     EXPECT_EQ(

@@ -47,33 +47,36 @@ class Catalogue(unittest.TestCase):
                 declared.add(re.sub(r"\s+", " ", match.group(1)))
         self.assertEqual(declared, {check["declaration"] for check in self.checks.values()})
 
-    def places(self, name, kind, argument=0):
-        return self.checks[name]["arguments"][argument]["may_contain"][kind]
+    def where(self, name, kind, argument=0):
+        return list(self.checks[name]["arguments"][argument]["may_contain"][kind])
+
+    def bytes(self, name, kind, place, argument=0):
+        return self.checks[name]["arguments"][argument]["may_contain"][kind].get(place, {"bytes": ""})["bytes"]
 
     def test_hazards_that_are_known(self):
         anywhere = ["first", "inside", "last"]
-        self.assertEqual({"where": anywhere, "bytes": " "}, self.places("WLAN_check_ssid", "blanks"))
-        self.assertEqual(anywhere, self.places("WLAN_check_ssid", "markup")["where"])
-        self.assertEqual([], self.places("WLAN_check_ssid", "high")["where"])
-        self.assertEqual([], self.places("WLAN_check_ssid", "line_ends")["where"])
+        self.assertEqual(anywhere, self.where("WLAN_check_ssid", "blanks"))
+        self.assertEqual(anywhere, self.where("WLAN_check_ssid", "markup"))
+        self.assertEqual([], self.where("WLAN_check_ssid", "high"))
+        self.assertEqual([], self.where("WLAN_check_ssid", "line_ends"))
         for kind in ("blanks", "quotes", "shell", "line_ends", "controls", "markup", "percent", "high"):
-            self.assertEqual([], self.places("TcmValidateIPAddress", kind)["where"])
-            self.assertEqual([], self.places("WLAN_check_wepkeys", kind)["where"])
-            self.assertEqual(anywhere, self.places("MGTSERVER_check_server_password", kind)["where"])
-        self.assertEqual({"where": ["inside", "last"], "bytes": "?"}, self.places("TcmValidateServerURL", "shell"))
-        self.assertEqual([], self.places("TcmValidateServerURL", "percent")["where"])
-        self.assertEqual(95, len(self.places("TcmValidatePPPPassword", "high")["bytes"]))
-        self.assertEqual("!()*;?", "".join(sorted(self.places("TcmValidateRouterName", "shell")["bytes"])))
-        self.assertEqual(["inside", "last"], self.places("LAN_check_cis_dev_name", "blanks")["where"])
+            self.assertEqual([], self.where("TcmValidateIPAddress", kind))
+            self.assertEqual(anywhere, self.where("MGTSERVER_check_server_password", kind))
+        self.assertEqual(["inside", "last"], self.where("TcmValidateServerURL", "shell"))
+        self.assertEqual("?", self.bytes("TcmValidateServerURL", "shell", "inside"))
+        self.assertEqual([], self.where("TcmValidateServerURL", "percent"))
+        self.assertEqual(95, len(self.bytes("TcmValidatePPPPassword", "high", "last")))
+        self.assertEqual("!()*;?", "".join(sorted(self.bytes("TcmValidateRouterName", "shell", "first"))))
+        self.assertEqual(["inside", "last"], self.where("LAN_check_cis_dev_name", "blanks"))
 
     def test_null_is_told(self):
         def null(name, argument=0):
             return self.checks[name]["arguments"][argument]["null"]
-        self.assertEqual("ends the process, by a failed assertion", null("PARAM_check_port"))
+        self.assertEqual("ends the process, by a failed assertion of value_p != ((void *)0)", null("PARAM_check_port"))
         self.assertEqual("ends the process, by a memory fault", null("TcmValidateIPAddress"))
         self.assertEqual("refused with 402", null("PARAM_check_MACAddress"))
         self.assertEqual("accepted", null("Param_check_datetime_value"))
-        self.assertIn("depends on the other arguments", null("PORTMAPPING_check_port_available"))
+        self.assertIn("depends on protocol: ", null("PORTMAPPING_check_port_available"))
 
 
 class Surroundings(unittest.TestCase):

@@ -26,13 +26,17 @@ TEST(Single, AcceptedIsZero)
 
 TEST(Single, RefusedIsOneBehindTheReport)
 {
-    const Outcome refused{1,
-                          "Error in PARAM_check_port: The port shoud be between 0~65535\n"
-                          "refused: 601, out of range (the number is below 0 or above 65535)\n",
-                          ""};
-    EXPECT_EQ(refused, run({"PARAM_check_port", "65536"}));
-    EXPECT_EQ(refused, run({"PARAM_check_port", "-1"}));
-    EXPECT_EQ(refused, run({"--limit-time", "9", "PARAM_check_port", "-1"}));
+    const auto refused = [](const std::string& reason) {
+        return Outcome{1,
+                       "Error in PARAM_check_port: The port shoud be between 0~65535\n"
+                       "refused: 601, out of range (" +
+                           reason + ")\n",
+                       ""};
+    };
+    EXPECT_EQ(refused("is 65536; at most 65535 is allowed"), run({"PARAM_check_port", "65536"}));
+    EXPECT_EQ(refused("is -1; at least 0 is needed"), run({"PARAM_check_port", "-1"}));
+    EXPECT_EQ(refused("is read as -1; at least 0 is needed"),
+              run({"--limit-time", "9", "PARAM_check_port", "-1a"}));
 }
 
 TEST(Single, WhatBeginsLikeAnOptionIsAValueBehindTheName)
@@ -48,10 +52,7 @@ TEST(Single, WhatBeginsLikeAnOptionIsAValueBehindTheName)
 
 TEST(Single, VerdictBeginsALineWhateverWasPrinted)
 {
-    EXPECT_EQ((Outcome{1,
-                       "-\nrefused: 402, invalid value (no MAC address: byte 3 of 17 is \"-\", where \":\" "
-                       "belongs)\n",
-                       ""}),
+    EXPECT_EQ((Outcome{1, "-\nrefused: 402, invalid value (byte 3 is \"-\"; \":\" is expected there)\n", ""}),
               run({"PARAM_check_MACAddress", "00-11-22-33-44-55"}));
 }
 
@@ -124,7 +125,9 @@ TEST(Single, FailedAssertionIsThree)
 {
     const Outcome outcome = run({"PARAM_check_bool_value", "@null"});
     EXPECT_EQ(3, outcome.status);
-    EXPECT_EQ("ended: an assertion ended the process (SIGABRT)\n", outcome.out);
+    EXPECT_EQ(
+        "ended: an assertion ended the process (SIGABRT) (is NULL, which fails an assertion of the check)\n",
+        outcome.out);
     EXPECT_NE(std::string::npos,
               outcome.err.find("PARAM_check_bool_value: Assertion `value_p != ((void *)0)' failed.\n"));
     EXPECT_EQ(1, run({"PARAM_check_bool_value", "@@null"}).status);
@@ -132,8 +135,12 @@ TEST(Single, FailedAssertionIsThree)
 
 TEST(Single, CallThatDoesNotReturnIsThree)
 {
-    EXPECT_EQ((Outcome{3, "no return: the check did not return within 0.2 s\n", ""}),
-              run({"--limit-time", "0.2", "PARAM_check_ui2_value", "1"}));
+    EXPECT_EQ(
+        (Outcome{3,
+                 "no return: the check did not return within 0.2 s (is a value for which the check does not "
+                 "return)\n",
+                 ""}),
+        run({"--limit-time", "0.2", "PARAM_check_ui2_value", "1"}));
 }
 
 TEST(Single, WrongUsageIsTwo)
@@ -189,8 +196,8 @@ TEST(Single, ListShowsArgumentsAndRule)
     EXPECT_EQ(0, list.status);
     EXPECT_NE(std::string::npos, list.out.find("\nparameters\n"));
     EXPECT_NE(std::string::npos, list.out.find("  PARAM_check_number value_p min_len:number max_len:number\n"
-                                               "      min_len to max_len decimal digits; the limits are "
-                                               "lengths\n"));
+                                               "      value_p has min_len to max_len bytes and has only "
+                                               "digits\n"));
     EXPECT_NE(std::string::npos, list.out.find("      fills in account_type\n"));
 }
 

@@ -39,7 +39,7 @@ TEST(Batch, StreamGivesALineForEachLineAndNothingElse)
     EXPECT_EQ("", rows[1]);
     EXPECT_EQ("", rows[2]);
     EXPECT_EQ("ended", json::parse(rows[3])["verdict"]);
-    EXPECT_EQ("no IPv4 address: it has 1 byte, not 7 to 15", json::parse(rows[4])["condition"]);
+    EXPECT_EQ("byte 1 is \"x\"; digits and . are allowed", json::parse(rows[4])["reason"]["text"]);
     EXPECT_EQ("malformed", json::parse(rows[5])["verdict"]);
     EXPECT_FALSE(json::parse(rows[0]).contains("line"));
     EXPECT_EQ(2, run({"batch", "--stream", "--json"}, "").status);

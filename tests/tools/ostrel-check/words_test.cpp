@@ -148,7 +148,7 @@ TEST(Values, NumbersAreDecimalOrHexadecimal)
 
 TEST(Values, EachBlockIsAWord)
 {
-    const Function function = described({{"keys", Kind::kBlocks, 8, 2}, {"n", Kind::kInteger}});
+    const Function function = described({{"keys", Kind::kBlocks, 2, 8}, {"n", Kind::kInteger}});
     EXPECT_EQ("f keys_1 keys_2 n:number", usage_of(function));
     EXPECT_EQ((std::vector<Value>{Texts{"a", "@null"}, 1LL}), values_of(function, {"a", "@@null", "1"}));
     EXPECT_EQ((std::vector<Value>{nullptr, 1LL}), values_of(function, {"@null", "1"}));
@@ -159,7 +159,7 @@ TEST(Values, EachBlockIsAWord)
 TEST(Values, WhatIsOnlyWrittenMayBeLeftOut)
 {
     const Function function =
-        described({{"value", Kind::kText}, {"type", Kind::kIntegerOut, 0, 1, true}, {"n", Kind::kInteger}});
+        described({{"value", Kind::kText}, {"type", Kind::kIntegerOut, 1, 0, true}, {"n", Kind::kInteger}});
     EXPECT_EQ("f value n:number", usage_of(function));
     EXPECT_EQ((std::vector<Value>{"a", 1LL}), values_of(function, {"a", "1"}));
     EXPECT_EQ((std::vector<Value>{"a", 7LL, 1LL}), values_of(function, {"a", "7", "1"}));

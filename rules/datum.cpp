@@ -1,0 +1,99 @@
+#include "rules/datum.h"
+
+#include <algorithm>
+
+namespace ostrel::rules {
+
+namespace {
+
+// More words than that nobody reads.
+constexpr std::size_t kMostWords = 40;
+
+template <typename T, typename F>
+std::string joined(const std::vector<T>& values, F shown)
+{
+    std::string result;
+    for (const T& value : values) result += (result.empty() ? "" : ", ") + shown(value);
+    return result;
+}
+
+bool same_letter(char a, char b)
+{
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    return lower(a) == lower(b);
+}
+
+// in_common counts the bytes of the longest text that occurs in both.
+std::size_t in_common(std::string_view one, std::string_view other)
+{
+    std::size_t longest = 0;
+    for (std::size_t i = 0; i < one.size(); ++i) {
+        for (std::size_t j = 0; j < other.size(); ++j) {
+            const auto end = std::ranges::mismatch(one.substr(i), other.substr(j), same_letter).in2;
+            longest = std::max(
+                longest, static_cast<std::size_t>(end - (other.begin() + static_cast<std::ptrdiff_t>(j))));
+        }
+    }
+    return longest;
+}
+
+std::string in_words(const std::vector<std::string>& words, const Datum& found)
+{
+    if (words.size() <= kMostWords) return joined(words, keyword_in_words);
+    constexpr std::size_t kLongest = 64;
+    const auto* text = std::get_if<std::string>(&found);
+    const std::string_view judged = text == nullptr ? std::string_view() : *text;
+    const std::string& nearest = *std::ranges::max_element(
+        words, {}, [&](const std::string& word) { return in_common(judged.substr(0, kLongest), word); });
+    return std::to_string(words.size()) + " texts, of which " + quoted(nearest) + " is most like it";
+}
+
+}  // namespace
+
+std::string in_words(const Datum& datum, const Datum& found)
+{
+    if (std::holds_alternative<std::monostate>(datum)) return "a value that is not shown";
+    if (const auto* number = std::get_if<long long>(&datum)) return std::to_string(*number);
+    if (const auto* text = std::get_if<std::string>(&datum)) return quoted(*text);
+    if (const auto* set = std::get_if<Set>(&datum)) return in_words(*set);
+    if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) return in_words(*words, found);
+    return joined(std::get<std::vector<long long>>(datum),
+                  [](long long number) { return std::to_string(number); });
+}
+
+bool is_one(const Datum& datum)
+{
+    if (const auto* number = std::get_if<long long>(&datum)) return *number == 1;
+    if (const auto* set = std::get_if<Set>(&datum)) return set->size() == 1;
+    if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) return words->size() == 1;
+    if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) return numbers->size() == 1;
+    return true;
+}
+
+// A keyword stands without quotation marks where it cannot be taken for something else.
+std::string keyword_in_words(std::string_view word)
+{
+    const bool is_plain = !word.empty() && std::ranges::all_of(word, [](char c) {
+        return c > ' ' && c <= '~' && c != ',' && c != '"';
+    });
+    return is_plain ? std::string(word) : quoted(word);
+}
+
+std::string quoted(std::string_view text)
+{
+    constexpr std::size_t kLongest = 64;
+    constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+    std::string result = "\"";
+    for (const char c : text.substr(0, kLongest)) {
+        if (c == '"' || c == '\\') result += '\\';
+        if (c >= ' ' && c <= '~') {
+            result += c;
+        } else {
+            const auto code = static_cast<unsigned char>(c);
+            result += {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
+        }
+    }
+    return result + (text.size() > kLongest ? "...\"" : "\"");
+}
+
+}  // namespace ostrel::rules

@@ -1,0 +1,110 @@
+// What NULL does, in words and as one outcome.
+#include "rules/null.h"
+
+#include <algorithm>
+
+#include "rules/null_walk.h"
+#include "rules/phrases.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+std::string in_words(const std::vector<int>& codes)
+{
+    std::vector<std::string> words;
+    for (const int code : codes) words.push_back(std::to_string(code));
+    return joined_words(words, "or");
+}
+
+std::string in_words(const NullEnd& end)
+{
+    switch (end.kind) {
+        case NullEnd::Kind::kAccepted:
+            return "accepted";
+        case NullEnd::Kind::kRefused:
+            return "refused with " + in_words(end.codes);
+        case NullEnd::Kind::kAnswered:
+            return "answers " + in_words(end.codes);
+        case NullEnd::Kind::kPrinted:
+            return "left to the C library, which prints it or ends the process";
+        case NullEnd::Kind::kFault:
+            return "ends the process, by a memory fault";
+        case NullEnd::Kind::kAsserted:
+            return "ends the process, by a failed assertion of " + std::string(end.assertion);
+        case NullEnd::Kind::kStays:
+            return "does not return";
+    }
+    return "";
+}
+
+// in_words says when a call comes to which end, as long as that is not too much to be read.
+std::string in_words(const std::vector<NullEnd>& ends, const std::set<std::string>& sources)
+{
+    constexpr std::size_t kLongest = 200;
+    std::vector<NullEnd> kinds;  // each once, with all its codes
+    for (const NullEnd& end : ends) {
+        const auto known = std::ranges::find(kinds, end.kind, &NullEnd::kind);
+        if (known == kinds.end()) {
+            kinds.push_back(end);
+        } else {
+            add(known->codes, end.codes);
+        }
+    }
+    std::vector<std::string> outcomes;
+    for (const NullEnd& kind : kinds) outcomes.push_back(in_words(kind));
+    if (kinds.size() == 1 && kinds[0].codes.size() < 2) return outcomes[0];
+    std::string text;
+    for (std::size_t i = 0; i < ends.size();) {
+        const std::string outcome = in_words(ends[i]);
+        std::string when;
+        for (; i < ends.size() && in_words(ends[i]) == outcome; ++i)
+            when.append(when.empty() ? " where " : ", or where ").append(ends[i].when);
+        text += (text.empty() ? "" : "; ") + (i < ends.size() ? outcome + when : "otherwise " + outcome);
+    }
+    const std::string names = joined_words(std::vector<std::string>(sources.begin(), sources.end()), "and");
+    if (text.size() > kLongest) text = joined_words(outcomes, "or");
+    return "depends on " + names + ": " + text;
+}
+
+bool is_number(const Argument& argument)
+{
+    return argument.kind == Argument::Kind::kInteger || argument.kind == Argument::Kind::kUnsigned;
+}
+
+NullOutcome outcome_of(NullEnd::Kind kind)
+{
+    switch (kind) {
+        case NullEnd::Kind::kAccepted:
+            return NullOutcome::kAccepted;
+        case NullEnd::Kind::kRefused:
+            return NullOutcome::kRefused;
+        case NullEnd::Kind::kAsserted:
+            return NullOutcome::kAssertion;
+        case NullEnd::Kind::kPrinted:
+        case NullEnd::Kind::kFault:
+            return NullOutcome::kFault;
+        default:
+            return NullOutcome::kDepends;
+    }
+}
+
+}  // namespace
+
+std::string null_does(const Check& check, std::size_t argument, const Build& build)
+{
+    if (is_number(check.arguments[argument])) return "";
+    const NullEnds found = null_ends(check, argument, build);
+    return in_words(found.ends, found.sources);
+}
+
+NullOutcome null_outcome(const Check& check, std::size_t argument, const Build& build)
+{
+    const std::vector<NullEnd> ends = null_ends(check, argument, build).ends;
+    const NullOutcome first = outcome_of(ends.front().kind);
+    const bool is_one =
+        std::ranges::all_of(ends, [&](const NullEnd& end) { return outcome_of(end.kind) == first; });
+    return is_one ? first : NullOutcome::kDepends;
+}
+
+}  // namespace ostrel::rules

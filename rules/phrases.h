@@ -1,0 +1,146 @@
+// Phrases: expressions, conditions and lines in words.
+#ifndef OSTREL_RULES_PHRASES_H
+#define OSTREL_RULES_PHRASES_H
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rules/vocabulary.h"
+
+namespace ostrel::rules {
+
+// Meant is what a name stands for where it is spoken of.
+struct Meant {
+    std::string words;
+    bool is_number = false;                // or else a text
+    bool may_be_null = false;              // an argument that nothing asserts against
+    bool is_null = false;                  // NULL is what is passed, to see what becomes of it
+    const Expression* constant = nullptr;  // a text, a number or a set as it stands
+    std::set<std::string> sources = {};    // the arguments that it is made of
+};
+
+// Facts are what is known of texts at a place in the steps, by the words for them.
+struct Facts {
+    std::set<std::string> empty = {};
+    std::set<std::string> not_empty = {};
+    std::map<std::string, std::set<std::string_view>> words = {};  // one of them, in their own case
+};
+
+// Clause says of a subject that something holds: "value", "has more than 8 bytes".
+struct Clause {
+    std::string subject;
+    std::string predicate;
+
+    [[nodiscard]] std::string text() const { return subject + (subject.empty() ? "" : " ") + predicate; }
+};
+
+// includes tells that a clause asks for another one too, or takes it in: "has 8 to 63 bytes".
+bool includes(Clause& one, const Clause& other);
+
+// Speaker speaks of one check, in the words of the check that is explained.
+class Speaker {
+ public:
+    Speaker(const Check& check, const Build& build);
+
+    // spell_out makes what is kept under a name be spoken of by what it is.
+    void spell_out(const std::vector<Step>& steps);
+
+    // of_other speaks of the check that a condition uses, and names its arguments as they are named here.
+    [[nodiscard]] Speaker of_other(const Condition& use) const;
+
+    // of_items speaks of what is done for each item of a list.
+    [[nodiscard]] Speaker of_items(const List& list) const;
+
+    [[nodiscard]] const Check& check() const { return *check_; }
+
+    // value names a text or a number; number names what is read as one: "the number in value".
+    [[nodiscard]] std::string value(const Expression& expression) const;
+    [[nodiscard]] std::string number(const Expression& expression) const;
+    [[nodiscard]] bool is_number(const Expression& expression) const;
+
+    // clause says that a condition holds, or does not; joining says it of several.
+    [[nodiscard]] Clause clause(const Condition& condition, bool holds = true) const;
+    [[nodiscard]] std::string when(const Condition& condition) const { return clause(condition).text(); }
+
+    // known tells a condition that always or never holds, whatever is passed.
+    [[nodiscard]] std::optional<bool> known(const Condition& condition) const;
+
+    // learn notes that a condition holds from here on, or does not; forget that a name stands for something else. meet
+    // keeps what two ways to the same place have in common.
+    void learn(const Condition& condition, bool holds);
+    void forget(const Step& step);
+    void meet(const Speaker& other);
+
+    // list names the items of a list: "each item of value, between ","".
+    [[nodiscard]] std::string list(const List& list) const;
+    [[nodiscard]] const std::string& item() const { return item_.words; }
+
+    // line shows a line with <name> for what it holds, and \n for a line end.
+    [[nodiscard]] std::string line(const Line& line) const;
+
+    // pass_null has NULL passed for an argument. is_null tells that it is what an expression stands for, reads_null
+    // that an expression is made by reading it.
+    void pass_null(std::size_t argument) { slots_[argument].is_null = true; }
+    [[nodiscard]] bool is_null(const Expression& expression) const;
+    [[nodiscard]] bool reads_null(const Expression& expression) const;
+
+    // add_sources names the arguments that a condition depends on.
+    void add_sources(const Condition& condition, std::set<std::string>& names) const;
+
+    // reads_number tells that a condition reads a number out of a text that is passed.
+    [[nodiscard]] bool reads_number(const Condition& condition) const;
+
+ private:
+    void remember(const std::vector<Step>& steps);
+    void forget(const std::string& name);
+    [[nodiscard]] std::optional<bool> known_of_text(const Condition& condition) const;
+    void add_sources(const Expression& expression, std::set<std::string>& names) const;
+    [[nodiscard]] Meant made_of(const Expression& expression, std::string words) const;
+    [[nodiscard]] const Meant* meant(const Expression& expression) const;
+    [[nodiscard]] const Expression* constant(const Expression& expression) const;
+    [[nodiscard]] std::string unnamed(const Expression& expression) const;
+    [[nodiscard]] std::string slice(const Expression& expression) const;
+    [[nodiscard]] std::string as_many(const Expression& number) const;
+    [[nodiscard]] std::string computed(const Expression& expression) const;
+    [[nodiscard]] std::string counted(const Expression& number, std::string_view unit) const;
+    [[nodiscard]] std::string set(const Expression& expression) const;
+    [[nodiscard]] bool is_plural(const Expression& expression) const;
+    [[nodiscard]] std::string other(const Expression& expression) const;
+    [[nodiscard]] std::string among(const Expression& set, bool holds) const;
+    [[nodiscard]] bool is_beginning(const Expression& judged, const Expression& other) const;
+    [[nodiscard]] Clause clause_of_kind(const Condition& condition, bool holds) const;
+    [[nodiscard]] Clause text_clause(const Condition& condition, bool holds) const;
+    [[nodiscard]] Clause number_clause(const Condition& condition, bool holds) const;
+    [[nodiscard]] Clause outside_clause(const Condition& condition, bool holds) const;
+    [[nodiscard]] Clause row_clause(const Condition& condition, bool holds) const;
+    [[nodiscard]] Clause use_clause(const Condition& condition, bool holds) const;
+    [[nodiscard]] Clause parts_clause(const Condition& condition, bool holds) const;
+
+    const Check* check_;
+    const Build* build_;
+    std::vector<Meant> slots_;
+    Meant item_;
+    std::string list_of_;  // what the items are of
+    const Table* table_ = nullptr;
+    Facts facts_;
+};
+
+// in_words describes the texts that have a shape.
+std::string in_words(const Shape& shape);
+
+// bytes_in_words names the bytes of a set that stand around something: "blanks".
+std::string bytes_in_words(const Set& set);
+
+// joined_words makes "a, b or c" of several.
+std::string joined_words(const std::vector<std::string>& words, std::string_view last);
+
+// together joins clauses of one subject: "value has 3 bytes and is not NULL; other is empty".
+std::string together(const std::vector<Clause>& clauses);
+
+}  // namespace ostrel::rules
+
+#endif

@@ -1,0 +1,66 @@
+// Shapes in words.
+#include "rules/phrases.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+bool is_same(const Group& a, const Group& b)
+{
+    return a.set == b.set && a.least == b.least && a.most == b.most;
+}
+
+std::string group_in_words(const Group& group)
+{
+    const std::string set = in_words(group.set);
+    const bool is_one = group.least == 1 && group.most == 1;
+    const std::string count = group.least == group.most
+                                  ? std::to_string(group.least)
+                                  : std::to_string(group.least) + " to " + std::to_string(group.most);
+    if (group.set.size() == 1) return is_one ? set : count + " times " + set;
+    if (is_one) return "one of " + set;
+    const bool is_plain =
+        set.find_first_of(",\\") == std::string::npos && set.find(" and ") == std::string::npos;
+    return count + (is_plain && set.ends_with('s') ? " " : " of ") + set;
+}
+
+// merged takes groups together that follow each other and have the same set.
+Shape merged(const Shape& shape)
+{
+    Shape result;
+    for (const Group& group : shape) {
+        if (!result.empty() && result.back().set == group.set) {
+            result.back().least += group.least;
+            result.back().most += group.most;
+        } else {
+            result.push_back(group);
+        }
+    }
+    return result;
+}
+
+// alternates tells that every other group is the same, from the first to the last.
+bool alternates(const Shape& shape)
+{
+    if (shape.size() < 5 || shape.size() % 2 == 0) return false;
+    for (std::size_t i = 2; i < shape.size(); ++i) {
+        if (!is_same(shape[i], shape[i - 2])) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+std::string in_words(const Shape& shape)
+{
+    const Shape groups = merged(shape);
+    if (alternates(groups)) {
+        return std::to_string(groups.size() / 2 + 1) + " times " + group_in_words(groups[0]) + ", with " +
+               group_in_words(groups[1]) + " between";
+    }
+    std::string text;
+    for (const Group& group : groups) text += (text.empty() ? "" : ", ") + group_in_words(group);
+    return text;
+}
+
+}  // namespace ostrel::rules

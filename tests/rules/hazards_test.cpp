@@ -1,0 +1,85 @@
+// Hazards test: each value that is said to be accepted with a byte in some place is accepted by the library, with that
+// byte there. That there are no others, the calls of agreement_test.cpp show.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "catalogue/caller.h"
+#include "catalogue/capture.h"
+#include "catalogue/hazards.h"
+#include "oracle/contents.h"
+#include "rules/walk.h"
+
+namespace ostrel::tests {
+
+using catalogue::Exposure;
+using catalogue::Function;
+using catalogue::kPlaces;
+using catalogue::Value;
+using catalogue::Witness;
+
+namespace {
+
+class Hazards : public testing::Test {
+ protected:
+    // held is what the argument holds before or after an accepted call; nothing where the call is refused.
+    std::vector<std::string> held(const Function& function, const Exposure& exposure,
+                                  const std::vector<Value>& values)
+    {
+        const catalogue::Capture capture;
+        caller_.load(function, values);
+        if (caller_.call() != 0) return {};
+        if (!exposure.is_after) return oracle::texts_of(values[exposure.argument]);
+        for (const catalogue::Written& written : caller_.written()) {
+            if (written.argument == &function.arguments[exposure.argument])
+                return oracle::texts_of(written.value);
+        }
+        return {};
+    }
+
+    catalogue::Caller caller_;
+};
+
+TEST_F(Hazards, EachWitnessIsAccepted)
+{
+    std::size_t calls = 0;
+    for (const Function& function : catalogue::functions()) {
+        for (const Exposure& exposure : catalogue::exposures_of(function)) {
+            for (const catalogue::Place place : kPlaces) {
+                for (const Witness& witness : exposure.witnesses.at(static_cast<std::size_t>(place))) {
+                    for (const char byte : witness.bytes) {
+                        const auto texts = held(function, exposure, witness.with(byte));
+                        const bool stands = std::ranges::any_of(
+                            texts, [&](const std::string& text) { return stands_at(place, text, byte); });
+                        EXPECT_TRUE(stands) << function.name << " " << exposure.argument << " "
+                                            << name_of(place) << " " << static_cast<int>(byte);
+                        ++calls;
+                    }
+                }
+            }
+        }
+    }
+    EXPECT_GT(calls, 10000U);
+}
+
+// Whatever is a text is spoken of, before the call and, where it can be written to, after it.
+TEST_F(Hazards, EachTextIsSpokenOf)
+{
+    for (const Function& function : catalogue::functions()) {
+        std::size_t texts = 0;
+        for (const rules::Argument& argument : function.check->arguments) {
+            const bool is_number = argument.kind == catalogue::Kind::kInteger ||
+                                   argument.kind == catalogue::Kind::kUnsigned ||
+                                   argument.kind == catalogue::Kind::kIntegerOut;
+            if (is_number || !function.check->is_verdict) continue;
+            if (!argument.is_output) ++texts;
+            if (rules::is_written(argument)) ++texts;
+        }
+        EXPECT_EQ(texts, catalogue::exposures_of(function).size()) << function.name;
+    }
+}
+
+}  // namespace
+
+}  // namespace ostrel::tests

@@ -1,0 +1,98 @@
+// Null test: what is said of NULL for an argument, compared with what becomes of calls.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <regex>
+#include <set>
+
+#include "oracle/library.h"
+#include "rules/null.h"
+#include "tests/rules/rows.h"
+#include "tests/support/child.h"
+
+namespace ostrel::tests {
+
+using catalogue::Function;
+using catalogue::Value;
+using rules::Check;
+
+namespace {
+
+class NullTest : public testing::TestWithParam<const Function*> {
+ protected:
+    const Function& function_ = *GetParam();
+    const Check& check_ = *function_.check;
+};
+
+// outcome_in_words calls the function in a process of its own.
+std::string outcome_in_words(const Function& function, const std::vector<Value>& values)
+{
+    int code = 0;
+    const ChildEnd end = run_in_child(std::chrono::seconds(5), [&] {
+        catalogue::Caller caller;
+        caller.load(function, values);
+        code = caller.call();
+        std::fprintf(stderr, "\ncode %d", code);
+        return 0;
+    });
+    if (end.signal == SIGABRT) return "a failed assertion";
+    if (end.signal != 0) return "a memory fault";
+    if (end.timed_out) return "does not return";
+    const std::string text = end.err.substr(end.err.rfind("\ncode ") + 6);
+    if (!function.check->is_verdict) return "answers " + text;
+    return text == "0" ? "accepted" : "refused with " + text;
+}
+
+std::set<std::string> outcomes_in(const std::string& text)
+{
+    const std::regex outcome(
+        "a failed assertion|a memory fault|left to the C library|does not return|accepted|"
+        "(answers |refused with )(-?[0-9]+((, | or )-?[0-9]+)*)");
+    const std::regex number("-?[0-9]+");
+    std::set<std::string> result;
+    for (std::sregex_iterator one(text.begin(), text.end(), outcome), end; one != end; ++one) {
+        if (!(*one)[1].matched) result.insert(one->str());
+        const std::string codes = one->str(2);
+        for (std::sregex_iterator code(codes.begin(), codes.end(), number); code != end; ++code)
+            result.insert(one->str(1) + code->str());
+    }
+    return result;
+}
+
+// Calls that the description puts in the same place come to the same end, so that one of each is made; but after a NULL
+// that was printed the description says no more, and some rows more are tried.
+TEST_P(NullTest, WhatIsSaidIsWhatHappens)
+{
+    constexpr std::size_t kMostCalls = 12;
+    const std::vector<Row>& rows = rows_of(function_);
+    const std::size_t distance = std::max<std::size_t>(rows.size() / kMostCalls, 1);
+    for (std::size_t i = 0; i < check_.arguments.size(); ++i) {
+        const std::string said = rules::null_does(check_, i, oracle::library_build());
+        const bool is_printed = outcomes_in(said).contains("left to the C library");
+        std::set<std::string> met;
+        std::set<std::string> tried;
+        for (std::size_t r = 0; r < rows.size(); ++r) {
+            std::vector<Value> values = catalogue::completed(function_, rows[r].given.values);
+            if (std::holds_alternative<long long>(values[i]) && said.empty()) break;
+            values[i] = nullptr;
+            const auto answer = rules::evaluate(check_, values, oracle::library_build());
+            if (answer.outside == rules::Outside::kDriver) continue;
+            const std::string kind =
+                std::to_string(static_cast<int>(answer.outside)) + " " + std::to_string(answer.code);
+            if (!tried.insert(kind).second && (!is_printed || r % distance != 0)) continue;
+            const std::string outcome = outcome_in_words(function_, values);
+            const bool is_left = answer.outside == rules::Outside::kNull && outcome != "a memory fault";
+            met.insert(is_left ? "left to the C library" : outcome);
+        }
+        EXPECT_EQ(met, outcomes_in(said)) << check_.arguments[i].name << ": " << said;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Checks, NullTest, testing::ValuesIn(all_functions()),
+                         [](const auto& instance) { return std::string(instance.param->name); });
+
+}  // namespace
+
+}  // namespace ostrel::tests
