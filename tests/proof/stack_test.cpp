@@ -23,6 +23,7 @@
 #include <vector>
 
 #include "catalogue/entry.h"
+#include "rules/rules.h"
 #include "tests/support/hostile.h"
 #include "tests/support/vectors.h"
 
@@ -121,6 +122,18 @@ constexpr std::uint64_t kPaint = 0xA5A5'5A5A'C3C3'3C3C;
 
 int do_nothing(const char* /*value*/) { return 0; }
 
+// of_text makes a function of one text. Nothing describes it, and the description of any other such function does.
+template <int (*F)(const char*)>
+Function of_text(const char* name)
+{
+    return {name,
+            "",
+            {{"value", catalogue::Kind::kText}},
+            rules::find("isEmail"),
+            reinterpret_cast<const void*>(F),
+            catalogue::detail::Signature<F>::invoke};
+}
+
 // PaintedStack is a stack between unreadable pages on which calls are measured.
 class PaintedStack {
  public:
@@ -145,7 +158,7 @@ class PaintedStack {
 
     std::size_t depth_of_nothing()
     {
-        const Function nothing = catalogue::check<do_nothing>("nothing", {{"value", ""}}, "", {});
+        const Function nothing = of_text<do_nothing>("nothing");
         Caller caller;
         caller.load(nothing, {std::string()});
         return run(caller);
@@ -233,7 +246,7 @@ int needs_a_thousand_bytes(const char* value)
 
 TEST_F(Stack, ADeepCallIsSeen)
 {
-    const Function deep = catalogue::check<needs_a_thousand_bytes>("deep", {{"value", ""}}, "", {});
+    const Function deep = of_text<needs_a_thousand_bytes>("deep");
     measure(deep, {std::string("a")});
     EXPECT_LE(1000 - 128, deepest_["deep"]);
     EXPECT_GE(1100, deepest_["deep"]);
