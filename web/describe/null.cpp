@@ -160,8 +160,10 @@ class Walk {
         using Kind = Step::Kind;
         if (step.kind == Kind::kForEach) {
             if (reads(step.list->of)) return end(true);
-            run(step.steps, true);
-            return true;
+            // A text has at least one item.
+            const bool is_skipped = std::ranges::any_of(
+                step.steps, [](const Step& one) { return one.kind == Kind::kSkip; });
+            return run(step.steps, true) || is_skipped || step.list->separator == '\0';
         }
         if (step.kind == Kind::kReads && reads(*step.value)) return end(step.name.empty());
         if (step.kind == Kind::kRemember) {
