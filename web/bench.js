@@ -4,10 +4,10 @@
 //   OSTREL_WEB_BUILD=build/web/web node web/bench.js
 
 import {createRequire} from 'node:module';
-import {join} from 'node:path';
+import {join, resolve} from 'node:path';
 import {pathToFileURL} from 'node:url';
 
-const build = process.env.OSTREL_WEB_BUILD;
+const build = resolve(process.env.OSTREL_WEB_BUILD);
 const {load} = await import(pathToFileURL(join(build, 'package/index.js')).href);
 const validator = createRequire(join(build, 'node_modules/'))('validator');
 const ostrel = await load();
@@ -48,8 +48,8 @@ const cases = [
   },
 ];
 
-const kRuns = 20000;
-const kRounds = 15;
+const kRuns = 4000;
+const kRounds = 12;
 
 // best gives the nanoseconds a value of the fastest round.
 async function best(values, judge) {

@@ -42,14 +42,17 @@ async function compiled(given, url) {
 class Verdict {
   #explain;
 
-  constructor(valid, code, lines, stderr, after, explain) {
+  constructor(valid, code, [, lines, stderr], after, explain) {
     this.valid = valid;
     this.code = code;
-    this.name = valid === null ? null : codes[code];
     this.lines = lines;
     this.stderr = stderr;
     this.after = after;
     this.#explain = explain;
+  }
+
+  get name() {
+    return this.valid === null ? null : codes[this.code];
   }
 
   get reason() {
@@ -68,13 +71,14 @@ function complete(check, given) {
 }
 
 const isText = (value) => typeof value === 'string';
+const isInteger = (value) => (value | 0) === value;
 
 const isOf = {
   text: isText,
   buffer: isText,
   blocks: (value, {blocks}) => Array.isArray(value) && value.length === blocks && value.every(isText),
-  integer: (value) => (value | 0) === value,
-  integer_out: (value) => (value | 0) === value,
+  integer: isInteger,
+  integer_out: isInteger,
   unsigned: (value) => value >>> 0 === value,
 };
 
@@ -85,16 +89,19 @@ function require(check, argument, value) {
 }
 
 class Ostrel {
+  checks = checks;
+  build = build;
   #rules;
+  #stack;
+  #view = new Uint8Array();
   #base;
   #isLatin1;
   #reasons;
   #loadReasons;
   #numbers = new Map(checks.map(({name}, number) => [name, number]));
   #isBusy = false;
-  #message = '';
-  #lines = kNothing;
-  #stderr = kNothing;
+  #message;
+  #printed;  // by the number of the stream
 
   constructor(module, options) {
     const {isLatin1, isLong64, channels, compare, convert, loadReasons} = options;
@@ -116,47 +123,44 @@ class Ostrel {
         const converted = convert(take(this.#bytes(), at, length, isLatin1));
         const room = new Uint8Array(most(converted, isLatin1));
         const end = put(room, 0, converted, isLatin1);
-        if (end > length) throw new RangeError('htmlToText cannot make a value longer');
+        if (end > length) throw new RangeError('htmlToText: too long');
         this.#bytes().set(room.subarray(0, end + 1), at);
       },
     }});
     this.#rules = exports;
+    this.#stack = exports.__stack_pointer.value;
     this.#base = exports.__heap_base.value;
     exports.ostrel_configure(isLong64, compare !== undefined, convert !== undefined);
-  }
-
-  get checks() {
-    return checks;
-  }
-
-  get build() {
-    return build;
   }
 
   judge(name, ...given) {
     const number = this.#numbers.get(name);
     if (number === undefined) throw new RangeError(`there is no check ${name}`);
-    if (this.#isBusy) throw new Error('a check is being called already');
+    if (this.#isBusy) throw new Error('called by itself');
     const check = checks[number];
     const values = given.length === check.arguments.length ? given : complete(check, given);
     this.#isBusy = true;
     try {
       return this.#call(check, number, values);
+    } catch (error) {
+      this.#rules.__stack_pointer.value = this.#stack;
+      if (!(error instanceof WebAssembly.RuntimeError && values.includes(null))) throw error;
+      throw new TypeError(`${name} reads an argument that is null`);
     } finally {
       this.#isBusy = false;
     }
   }
 
-  // #bytes takes the view anew: one that is kept while memory grows is empty, and silently stays so.
+  // #bytes takes the view anew when memory has grown: one that is kept then is empty, and silently stays so.
   #bytes() {
-    return new Uint8Array(this.#rules.memory.buffer);
+    if (this.#view.length === 0) this.#view = new Uint8Array(this.#rules.memory.buffer);
+    return this.#view;
   }
 
   #write(stream, at, length, ends) {
     this.#message += take(this.#bytes(), at, length, this.#isLatin1);
     if (!ends) return;
-    if (stream === 1) this.#lines = [...this.#lines, this.#message];
-    else this.#stderr = [...this.#stderr, this.#message];
+    this.#printed[stream] = [...this.#printed[stream], this.#message];
     this.#message = '';
   }
 
@@ -165,54 +169,43 @@ class Ostrel {
     let room = kSpare;
     for (let i = 0; i < values.length; ++i) {
       const value = values[i];
-      require(check, check.arguments[i], value);
+      const argument = check.arguments[i];
+      if (!isText(value) || argument.kind !== 'text') require(check, argument, value);
       if (isText(value)) room += most(value, this.#isLatin1);
       else if (value?.length) for (const text of value) room += most(text, this.#isLatin1);
     }
-    const {memory} = this.#rules;
-    const missing = this.#base + room * values.length - memory.buffer.byteLength;
-    if (missing > 0) memory.grow(Math.ceil(missing / kPage));
+    const missing = this.#base + room * values.length - this.#bytes().length;
+    if (missing > 0) this.#rules.memory.grow(Math.ceil(missing / kPage));
 
     const bytes = this.#bytes();
-    const passed = values.map((value, i) => {
+    const passed = [];
+    for (let i = 0; i < values.length; ++i) {
       const at = this.#base + i * room;
-      return this.#put(bytes, at, room, check.arguments[i], value) ? at : value;
-    });
-    this.#lines = this.#stderr = kNothing;
+      passed.push(this.#put(bytes, at, room, check.arguments[i], values[i]) ? at : values[i]);
+    }
+    this.#printed = [null, kNothing, kNothing];
     this.#message = '';
-    const code = this.#enter(check, values, passed);
+    const code = this.#rules[check.name](passed[0], passed[1], passed[2], passed[3]);
     const valid = check.answers === 'number' ? null : code === 0;
-    return new Verdict(valid, code, this.#lines, this.#stderr, check.writes ? this.#after(check, passed, room) : kNothingWritten,
-                       () => this.#explain(check, number, values));
+    const after = check.writes ? this.#after(check, passed, room) : kNothingWritten;
+    return new Verdict(valid, code, this.#printed, after, () => this.#explain(check, number, values));
   }
 
   // #put tells whether the value is passed in memory.
   #put(bytes, at, room, {kind, block_size: size}, value) {
     if (value === null || kind === 'integer' || kind === 'unsigned') return false;
-    if (kind === 'integer_out') new DataView(bytes.buffer).setInt32(at, value, true);
-    else if (kind === 'text') put(bytes, at, value, this.#isLatin1);
+    if (kind === 'text') put(bytes, at, value, this.#isLatin1);
+    else if (kind === 'integer_out') new DataView(bytes.buffer).setInt32(at, value, true);
     else if (kind === 'buffer') bytes.fill(0, put(bytes, at, value, this.#isLatin1), at + room);
     else {
       for (const text of value) {
         const end = put(bytes, at, text, this.#isLatin1);
         at += size;
-        if (end >= at) throw new RangeError('a block is too long');
+        if (end >= at) throw new RangeError('too long');
         bytes.fill(0, end, at);
       }
     }
     return true;
-  }
-
-  #enter(check, values, passed) {
-    const pointer = this.#rules.__stack_pointer;
-    const before = pointer.value;
-    try {
-      return this.#rules[check.name](...passed);
-    } catch (error) {
-      pointer.value = before;
-      if (!(error instanceof WebAssembly.RuntimeError && values.includes(null))) throw error;
-      throw new TypeError(`${check.name} reads an argument that is null`);
-    }
   }
 
   #after(check, passed, room) {
@@ -234,17 +227,22 @@ class Ostrel {
     return after;
   }
 
-  // #explain loads the descriptions the first time.
+  // #explain loads the descriptions the first time, and again where that failed.
   async #explain(check, number, values) {
-    this.#reasons ??= this.#loadReasons();
-    return (await this.#reasons)(check, number, values);
+    try {
+      this.#reasons ??= this.#loadReasons();
+      return (await this.#reasons)(check, number, values);
+    } catch (error) {
+      this.#reasons = null;
+      throw error;
+    }
   }
 }
 
 export async function load({encoding = 'utf-8', long = 32, channels = [], htmlToText, cmsUtl_strcmp, rules,
                             reasons} = {}) {
-  if (encoding !== 'utf-8' && encoding !== 'latin1') throw new RangeError('encoding is "utf-8" or "latin1"');
-  if (long !== 32 && long !== 64) throw new RangeError('long is 32 or 64');
+  if (encoding !== 'utf-8' && encoding !== 'latin1') throw new RangeError(`encoding: ${encoding}`);
+  if (long !== 32 && long !== 64) throw new RangeError(`long: ${long}`);
   const options = {isLatin1: encoding === 'latin1', isLong64: long === 64, channels: [...channels]};
   const loadReasons = async () =>
       reasonsOf(await compiled(reasons, new URL('./reasons.wasm', import.meta.url)), options);

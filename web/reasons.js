@@ -7,16 +7,15 @@ const kText = 1;
 const kInteger = 2;
 const kUnsigned = 3;
 const kBlocks = 4;
-const kTagAndNumber = 5;
+const kHead = 5;  // a tag and a number
 
-const longest = (value, isLatin1) => {
-  if (Array.isArray(value)) return value.reduce((sum, text) => sum + 4 + most(text, isLatin1), kTagAndNumber);
-  return kTagAndNumber + (typeof value === 'string' ? most(value, isLatin1) : 0);
-};
+// longest is how many bytes a call may take: each value a head, and each text of it another.
+const longest = (values, isLatin1) => values.flat().reduce(
+  (sum, value) => sum + kHead + (typeof value === 'string' ? most(value, isLatin1) : 0), kHead * values.length);
 
 // writeCall writes the call where the module reads it, and returns its bytes.
 export function writeCall(exports, check, values, isLatin1) {
-  let at = exports.reserve(values.reduce((sum, value) => sum + longest(value, isLatin1), 0));
+  let at = exports.reserve(longest(values, isLatin1));
   const begin = at;
   const bytes = new Uint8Array(exports.memory.buffer);
   const view = new DataView(exports.memory.buffer);

@@ -17,7 +17,7 @@ export function put(bytes, at, text, isLatin1) {
     if (c >= kHighSurrogates && c < kAfterSurrogates) {
       const low = text.charCodeAt(++i);
       if (c >= kLowSurrogates || !(low >= kLowSurrogates && low < kAfterSurrogates)) {
-        throw new RangeError('a value cannot hold half of a surrogate pair');
+        throw new RangeError('a value cannot hold half a character');
       }
       c = 0x10000 + ((c - kHighSurrogates) << 10) + (low - kLowSurrogates);
       bytes[at++] = 0xf0 | (c >> 18);
