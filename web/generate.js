@@ -13,7 +13,8 @@ const [describe, header, packageFile, build, folder] = process.argv.slice(2);
 const write = (name, text) => writeFileSync(join(folder, name), text);
 
 const runner = fileURLToPath(new URL('run_wasi.js', import.meta.url));
-const described = JSON.parse(execFileSync(process.execPath, ['--no-warnings', runner, describe], {encoding: 'utf8'}));
+const printed = execFileSync(process.execPath, ['--no-warnings', runner, describe], {encoding: 'utf8'});
+const described = JSON.parse(printed);
 const kWritten = ['buffer', 'blocks', 'integer_out'];
 const checks = described.map((check) => {
   const writes = check.arguments.some(({kind}) => kWritten.includes(kind));
@@ -21,7 +22,8 @@ const checks = described.map((check) => {
 });
 
 const codes = {};
-for (const [, name, code] of readFileSync(header, 'utf8').matchAll(/^ +(OSTREL_\w+) = (-?\d+)/gm)) codes[code] = name;
+const named = readFileSync(header, 'utf8').matchAll(/^ +(OSTREL_\w+) = (-?\d+)/gm);
+for (const [, name, code] of named) codes[code] = name;
 
 write('checks.js', `// The checks of this build, generated from their descriptions.
 export const build = ${build};
@@ -41,8 +43,8 @@ const typeOf = (argument) => {
 };
 const heldOf = (argument) => (argument.kind === 'blocks' ? listOf(argument, 'string') : held[argument.kind]);
 
-const argumentsOf = (check) =>
-  `[${check.arguments.map((argument) => `${argument.name}${argument.output ? '?' : ''}: ${typeOf(argument)}`).join(', ')}]`;
+const declared = (argument) => `${argument.name}${argument.output ? '?' : ''}: ${typeOf(argument)}`;
+const argumentsOf = (check) => `[${check.arguments.map(declared).join(', ')}]`;
 const writtenOf = (check) =>
   `{${check.arguments.filter(({kind}) => kWritten.includes(kind)).map((argument) =>
     `readonly ${argument.name}: ${heldOf(argument)}`).join('; ')}}`;

@@ -14,16 +14,14 @@ export class FailedAssertion extends Error {
 
 // NeverReturns: the gateway's daemon would have stood still here.
 export class NeverReturns extends Error {
-  constructor() {
-    super('the check does not return for this value');
-    this.name = 'NeverReturns';
-  }
+  name = 'NeverReturns';
+  message = 'the check does not return for this value';
 }
 
 const kUnwritten = -0x80000000;  // a number that no check writes
 const kNoChannel = -1;
 const kPage = 0x10000;
-const kSpare = 2048;  // bytes of an argument beyond the texts of the call: for blocks, and for what a check writes
+const kSpare = 2048;  // bytes beyond the texts of the call, for blocks and for what a check writes
 const kNothing = Object.freeze([]);
 const kNothingWritten = Object.freeze({});
 
@@ -213,7 +211,8 @@ class Ostrel {
     const text = (at, size) => taken(bytes, at, size, this.#isLatin1);
     const held = {
       buffer: (at) => text(at, room),
-      blocks: (at, {blocks, block_size: size}) => Array.from({length: blocks}, (_, i) => text(at + i * size, size)),
+      blocks: (at, {blocks, block_size: size}) =>
+        Array.from({length: blocks}, (_, i) => text(at + i * size, size)),
       integer_out: (at) => {
         const number = new DataView(bytes.buffer).getInt32(at, true);
         return number === kUnwritten ? null : number;
@@ -239,8 +238,8 @@ class Ostrel {
   }
 }
 
-export async function load({encoding = 'utf-8', long = 32, channels = [], htmlToText, cmsUtl_strcmp, rules,
-                            reasons} = {}) {
+export async function load(
+    {encoding = 'utf-8', long = 32, channels = [], htmlToText, cmsUtl_strcmp, rules, reasons} = {}) {
   if (encoding !== 'utf-8' && encoding !== 'latin1') throw new RangeError(`encoding: ${encoding}`);
   if (long !== 32 && long !== 64) throw new RangeError(`long: ${long}`);
   const options = {isLatin1: encoding === 'latin1', isLong64: long === 64, channels: [...channels]};

@@ -50,6 +50,6 @@ export function reasonsOf(module, {isLatin1, isLong64, channels}) {
     writeCall(exports, check, values, isLatin1);
     const length = exports.explain(number);
     if (length === 0) return null;
-    return JSON.parse(take(new Uint8Array(exports.memory.buffer), exports.reason(), length, true));
+    return JSON.parse(take(new Uint8Array(exports.memory.buffer), exports.reason(), length, false));  // ASCII
   };
 }

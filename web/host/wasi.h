@@ -21,7 +21,9 @@ using ::system;
 // The library has one asm statement: the effect of a loop that is meant not to end. In a page it throws instead.
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wkeyword-macro"
-#define asm ostrel_never_returns(); asm
+#define asm                 \
+    ostrel_never_returns(); \
+    asm
 #pragma clang diagnostic pop
 
 #endif

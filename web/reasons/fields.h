@@ -76,8 +76,8 @@ void fields(Archive& archive, rules::List& it)
 template <typename Archive>
 void fields(Archive& archive, rules::Step& it)
 {
-    archive(it.kind, it.code, it.condition, it.lines, it.writes, it.name, it.value, it.list, it.steps, it.otherwise,
-            it.slot);
+    archive(it.kind, it.code, it.condition, it.lines, it.writes, it.name, it.value, it.list, it.steps,
+            it.otherwise, it.slot);
 }
 
 template <typename Archive>

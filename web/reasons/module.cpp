@@ -59,8 +59,7 @@ OSTREL_EXPORT(reserve) char* ostrel_reserve(std::size_t size) { return ostrel::w
 OSTREL_EXPORT(explain) std::size_t ostrel_explain(std::size_t check)
 {
     answer.clear();
-    const auto told =
-        ostrel::rules::evaluate(descriptions()[check], ostrel::web::written_call(), gateway);
+    const auto told = ostrel::rules::evaluate(descriptions()[check], ostrel::web::written_call(), gateway);
     if (told.is_refusal) ostrel::web::append_reason(answer, told.reason, sentence(told.reason));
     return answer.size();
 }

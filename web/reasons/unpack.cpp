@@ -149,7 +149,8 @@ class Unpacker {
     {
         if constexpr (std::is_enum_v<T> || std::is_integral_v<T>) {
             const std::uint64_t coded = number();
-            part = static_cast<T>(static_cast<std::int64_t>(coded >> 1U) ^ -static_cast<std::int64_t>(coded & 1U));
+            part = static_cast<T>(static_cast<std::int64_t>(coded >> 1U) ^
+                                  -static_cast<std::int64_t>(coded & 1U));
         } else {
             read(part, count());
         }

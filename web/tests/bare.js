@@ -50,11 +50,10 @@ export class Bare {
     return Math.max(values[index].length + 1, kind === 'buffer' ? this.roomOf(check, index, values) : 0);
   }
 
-  place(argument, value, at, size) {
+  place({kind, block_size: distance}, value, at, size) {
     this.bytes.fill(0, at, at + size);
-    if (argument.kind === 'integer_out') this.bytes.writeInt32LE(value, at);
-    else if (argument.kind === 'blocks') value.forEach((text, i) => this.bytes.write(text, at + i * argument.block_size, 'latin1'));
-    else this.bytes.write(value, at, 'latin1');
+    if (kind === 'integer_out') this.bytes.writeInt32LE(value, at);
+    else [value].flat().forEach((text, i) => this.bytes.write(text, at + i * (distance ?? 0), 'latin1'));
   }
 
   held(argument, at, size) {

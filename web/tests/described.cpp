@@ -25,6 +25,7 @@ __attribute__((export_name("code"))) int ostrel_code(std::size_t check)
     ostrel::rules::Build build;
     build.atoi = ostrel::rules::Build::Atoi::kLong32;
     build.channels.emplace();
-    return ostrel::rules::evaluate(ostrel::rules::checks().at(check), ostrel::web::written_call(), build).code;
+    return ostrel::rules::evaluate(ostrel::rules::checks().at(check), ostrel::web::written_call(), build)
+        .code;
 }
 }

@@ -21,7 +21,8 @@ int main()
     std::uint32_t head[3] = {};
     while (std::cin.read(reinterpret_cast<char*>(head), sizeof head)) {
         std::cin.read(ostrel::web::room_for_call(head[2]), head[2]);
-        build.atoi = head[1] == 64 ? ostrel::rules::Build::Atoi::kLong64 : ostrel::rules::Build::Atoi::kLong32;
+        build.atoi =
+            head[1] == 64 ? ostrel::rules::Build::Atoi::kLong64 : ostrel::rules::Build::Atoi::kLong32;
         const auto answer =
             ostrel::rules::evaluate(ostrel::rules::checks().at(head[0]), ostrel::web::written_call(), build);
         std::string json = "null";

@@ -10,7 +10,8 @@ import {gzipSync} from 'node:zlib';
 
 import {build, packageFolder} from './files.js';
 
-const run = (command, args, cwd) => execFileSync(command, args, {cwd, encoding: 'utf8', stdio: ['ignore', 'pipe', 'pipe']});
+const stdio = ['ignore', 'pipe', 'pipe'];
+const run = (command, args, cwd) => execFileSync(command, args, {cwd, encoding: 'utf8', stdio});
 const zipped = (...names) => names.reduce(
   (sum, name) => sum + gzipSync(readFileSync(join(packageFolder, name)), {level: 9}).length, 0);
 

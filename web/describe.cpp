@@ -3,17 +3,16 @@
 #include <cstdio>
 #include <string>
 
+#include "rules/null.h"
 #include "rules/rules.h"
-#include "web/describe/null.h"
 #include "web/reasons/json.h"
 
 namespace {
 
 using ostrel::rules::Argument;
 using ostrel::rules::Check;
+using ostrel::rules::NullOutcome;
 using ostrel::web::append_text;
-using ostrel::web::Null;
-using ostrel::web::null_of;
 
 std::string_view name_of(Argument::Kind kind)
 {
@@ -34,17 +33,18 @@ std::string_view name_of(Argument::Kind kind)
     return "";
 }
 
-std::string_view name_of(Null null)
+std::string_view name_of(NullOutcome outcome)
 {
-    switch (null) {
-        case Null::kRead:
-            return "read";
-        case Null::kAsserted:
-            return "asserted";
-        case Null::kSometimes:
-            return "sometimes";
-        case Null::kAlways:
+    switch (outcome) {
+        case NullOutcome::kAccepted:
+        case NullOutcome::kRefused:
             return "always";
+        case NullOutcome::kAssertion:
+            return "asserted";
+        case NullOutcome::kFault:
+            return "read";
+        case NullOutcome::kDepends:
+            return "sometimes";
     }
     return "";
 }
@@ -69,8 +69,9 @@ std::string json_of(const Check& check, std::size_t index)
         out += ",\"blocks\":" + std::to_string(argument.blocks);
         out += ",\"block_size\":" + std::to_string(argument.block_size);
     }
-    const bool is_number = argument.kind == Argument::Kind::kInteger || argument.kind == Argument::Kind::kUnsigned;
-    if (!is_number) append_member(out, "null", name_of(null_of(check, index)));
+    const bool is_number =
+        argument.kind == Argument::Kind::kInteger || argument.kind == Argument::Kind::kUnsigned;
+    if (!is_number) append_member(out, "null", name_of(null_outcome(check, index, ostrel::rules::Build())));
     return out + "}";
 }
 
