@@ -26,6 +26,7 @@ function answerOf(row, long) {
     flushed: answer.flushed ?? true,
     err: textOf(answer.err ?? ''),
     after: answer.after?.map(valueOf),
+    reason: answer.reason,
   };
 }
 

@@ -15,7 +15,7 @@ const held = (check, values) => completed(check, values).filter((_, i) => kWritt
   .map((value) => (value === -0x80000000 ? null : value));
 
 function expectedOf(row, check, long) {
-  const answer = row.answers[long];
+  const {reason, ...answer} = row.answers[long];
   return {...answer, after: answer.after ?? held(check, row.values)};
 }
 
