@@ -43,13 +43,23 @@ export function writeCall(exports, check, values, isLatin1) {
 }
 
 export function reasonsOf(module, {isLatin1, isLong64, channels}) {
-  const {exports} = new WebAssembly.Instance(module);
-  exports.configure(isLong64);
-  channels.forEach((channel) => exports.add_channel(channel));
+  const start = () => {
+    const {exports} = new WebAssembly.Instance(module);
+    exports.configure(isLong64);
+    channels.forEach((channel) => exports.add_channel(channel));
+    return exports;
+  };
+  let exports = start();
   return (check, number, values) => {
-    writeCall(exports, check, values, isLatin1);
-    const length = exports.explain(number);
-    if (length === 0) return null;
-    return JSON.parse(take(new Uint8Array(exports.memory.buffer), exports.reason(), length, false));  // ASCII
+    try {
+      writeCall(exports, check, values, isLatin1);
+      const length = exports.explain(number);
+      return JSON.parse(take(new Uint8Array(exports.memory.buffer), exports.reason(), length) || null);
+    } catch (error) {
+      // A list so long that its reason is not worth the work ends the module.
+      if (!(error instanceof WebAssembly.RuntimeError)) throw error;
+      exports = start();
+      return null;
+    }
   };
 }

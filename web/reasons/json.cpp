@@ -1,5 +1,9 @@
 #include "web/reasons/json.h"
 
+#include <algorithm>
+
+#include "rules/sentences.h"
+
 namespace ostrel::web {
 
 namespace {
@@ -36,6 +40,14 @@ void append_datum(std::string& out, std::string_view name, const rules::Datum& d
     }
 }
 
+// names_argument: of the arguments that a user gives there are several.
+bool names_argument(const rules::Check& check)
+{
+    return std::ranges::count_if(check.arguments, [](const rules::Argument& argument) {
+               return argument.kind != rules::Argument::Kind::kIntegerOut && !argument.is_output;
+           }) > 1;
+}
+
 }  // namespace
 
 void append_text(std::string& out, std::string_view bytes)
@@ -54,8 +66,9 @@ void append_text(std::string& out, std::string_view bytes)
     out += '"';
 }
 
-void append_reason(std::string& out, const rules::Reason& reason, std::string_view sentence)
+void append_reason(std::string& out, const rules::Reason& given, const rules::Check& check)
 {
+    const rules::Reason reason = rules::without_secret(given, check);
     const auto add_text = [&](std::string_view name, std::string_view text) {
         if (text.empty()) return;
         out.append(",\"").append(name).append("\":");
@@ -70,12 +83,14 @@ void append_reason(std::string& out, const rules::Reason& reason, std::string_vi
     add_text("part", reason.part);
     add_text("conversion", reason.conversion);
     add_number("item", reason.item);
+    add_text("item_text", reason.item_text);
     add_number("offset", reason.offset);
     append_datum(out, "found", reason.found);
     append_datum(out, "allowed", reason.allowed);
     add_number("read_as", reason.read_as);
+    add_text("limit", reason.limit);
     out += ",\"text\":";
-    append_text(out, sentence);
+    append_text(out, rules::full_sentence(reason, names_argument(check)));
     out += '}';
 }
 

@@ -5,7 +5,6 @@
 
 #include "rules/evaluate.h"
 #include "rules/rules.h"
-#include "rules/sentences.h"
 #include "web/reasons/call.h"
 #include "web/reasons/json.h"
 #include "web/reasons/memory.h"
@@ -59,8 +58,10 @@ OSTREL_EXPORT(reserve) char* ostrel_reserve(std::size_t size) { return ostrel::w
 OSTREL_EXPORT(explain) std::size_t ostrel_explain(std::size_t check)
 {
     answer.clear();
-    const auto told = ostrel::rules::evaluate(descriptions()[check], ostrel::web::written_call(), gateway);
-    if (told.is_refusal) ostrel::web::append_reason(answer, told.reason, sentence(told.reason));
+    const ostrel::rules::Check& called = descriptions()[check];
+    const auto told =
+        ostrel::rules::evaluate_within(ostrel::web::kMostWork, called, ostrel::web::written_call(), gateway);
+    if (told.is_refusal) ostrel::web::append_reason(answer, told.reason, called);
     return answer.size();
 }
 

@@ -10,7 +10,6 @@
 
 #include "rules/evaluate.h"
 #include "rules/rules.h"
-#include "rules/sentences.h"
 #include "web/reasons/call.h"
 #include "web/reasons/json.h"
 
@@ -23,12 +22,14 @@ int main()
         std::cin.read(ostrel::web::room_for_call(head[2]), head[2]);
         build.atoi =
             head[1] == 64 ? ostrel::rules::Build::Atoi::kLong64 : ostrel::rules::Build::Atoi::kLong32;
+        const ostrel::rules::Check& check = ostrel::rules::checks().at(head[0]);
         const auto answer =
-            ostrel::rules::evaluate(ostrel::rules::checks().at(head[0]), ostrel::web::written_call(), build);
+            ostrel::rules::evaluate_within(ostrel::web::kMostWork, check, ostrel::web::written_call(), build);
         std::string json = "null";
+        if (answer.outside == ostrel::rules::Outside::kTooMuchWork) json = "\"too much work\"";
         if (answer.is_refusal) {
             json.clear();
-            ostrel::web::append_reason(json, answer.reason, sentence(answer.reason));
+            ostrel::web::append_reason(json, answer.reason, check);
         }
         std::cout << json << '\n';
     }
