@@ -1,0 +1,63 @@
+// Makes checks.js and index.d.ts of the descriptions, and the package's package.json.
+//
+//   node generate.js DESCRIBE.WASM RESULT_CODE.H PACKAGE.JSON BUILD FOLDER
+//
+// BUILD is what ostrel.build tells, as JSON.
+
+import {execFileSync} from 'node:child_process';
+import {readFileSync, writeFileSync} from 'node:fs';
+import {join} from 'node:path';
+import {fileURLToPath} from 'node:url';
+
+const [describe, header, packageFile, build, folder] = process.argv.slice(2);
+const write = (name, text) => writeFileSync(join(folder, name), text);
+
+const runner = fileURLToPath(new URL('run_wasi.js', import.meta.url));
+const printed = execFileSync(process.execPath, ['--no-warnings', runner, describe], {encoding: 'utf8'});
+const described = JSON.parse(printed);
+const kWritten = ['buffer', 'blocks', 'integer_out'];
+const checks = described.map((check) => {
+  const writes = check.arguments.some(({kind}) => kWritten.includes(kind));
+  return writes ? {...check, writes} : check;
+});
+
+const codes = {};
+const named = readFileSync(header, 'utf8').matchAll(/^ +(OSTREL_\w+) = (-?\d+)/gm);
+for (const [, name, code] of named) codes[code] = name;
+
+write('checks.js', `// The checks of this build, generated from their descriptions.
+export const build = ${build};
+export const codes = ${JSON.stringify(codes)};
+export const checks = [
+${checks.map((check) => `  ${JSON.stringify(check)},`).join('\n')}
+];
+`);
+
+const given = {text: 'string', buffer: 'string', integer: 'number', unsigned: 'number', integer_out: 'number'};
+const held = {buffer: 'string | null', integer_out: 'number | null'};
+
+const listOf = (argument, type) => `[${Array(argument.blocks).fill(type).join(', ')}]`;
+const typeOf = (argument) => {
+  const type = argument.kind === 'blocks' ? `readonly ${listOf(argument, 'string')}` : given[argument.kind];
+  return ['sometimes', 'always'].includes(argument.null) ? `${type} | null` : type;
+};
+const heldOf = (argument) => (argument.kind === 'blocks' ? listOf(argument, 'string') : held[argument.kind]);
+
+const declared = (argument) => `${argument.name}${argument.output ? '?' : ''}: ${typeOf(argument)}`;
+const argumentsOf = (check) => `[${check.arguments.map(declared).join(', ')}]`;
+const writtenOf = (check) =>
+  `{${check.arguments.filter(({kind}) => kWritten.includes(kind)).map((argument) =>
+    `readonly ${argument.name}: ${heldOf(argument)}`).join('; ')}}`;
+
+const rows = (some, row) => some.map((check) => `  ${check.name}: ${row(check)};`).join('\n');
+const names = (list) => list.map((name) => `'${name}'`).join(' | ');
+const numbers = checks.filter(({answers}) => answers === 'number').map(({name}) => name);
+const template = readFileSync(new URL('index.d.ts.in', import.meta.url), 'utf8');
+write('index.d.ts', template
+  .replace('@ARGUMENTS@', () => rows(checks, argumentsOf))
+  .replace('@WRITTEN@', () => rows(checks.filter(({writes}) => writes), writtenOf))
+  .replace('@NUMBERS@', () => names(numbers))
+  .replace('@CODES@', () => names(Object.values(codes))));
+
+const {devDependencies, scripts, private: isPrivate, ...packed} = JSON.parse(readFileSync(packageFile, 'utf8'));
+write('package.json', `${JSON.stringify({...packed, version: JSON.parse(build).version}, null, 2)}\n`);

@@ -1,0 +1,31 @@
+// Imports: what the page supplies.
+#ifndef OSTREL_WEB_HOST_IMPORTS_H
+#define OSTREL_WEB_HOST_IMPORTS_H
+
+#include <cstddef>
+
+#define OSTREL_IMPORT(name) __attribute__((import_module("ostrel"), import_name(#name)))
+
+extern "C" {
+
+// page_write receives a message in pieces. ends: this is the last one.
+OSTREL_IMPORT(write) void page_write(int stream, const char* text, std::size_t length, bool ends);
+
+OSTREL_IMPORT(flush) void page_flush();
+
+// These two throw.
+[[noreturn]] OSTREL_IMPORT(fail) void page_fail(const char* condition, const char* module, int line,
+                                                const char* function);
+[[noreturn]] OSTREL_IMPORT(never_return) void page_never_return();
+
+// page_channel returns the channel that the wireless driver lists there, or -1 after the last one.
+OSTREL_IMPORT(channel) int page_channel(int index);
+
+// The two utilities, where the page has them.
+OSTREL_IMPORT(compare) int page_compare(const char* a, const char* b);
+OSTREL_IMPORT(convert) void page_convert(char* text, std::size_t length);
+}
+
+#undef OSTREL_IMPORT
+
+#endif

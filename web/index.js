@@ -1,0 +1,250 @@
+// The checks of a home gateway, in a page or in Node: the very rules that the gateway judges by.
+
+import {build, checks, codes} from './checks.js';
+import {reasonsOf} from './reasons.js';
+import {most, put, take, taken} from './text.js';
+
+// FailedAssertion: the gateway's daemon would have ended here.
+export class FailedAssertion extends Error {
+  constructor(condition, check, module, line) {
+    super(`${module}:${line}: ${check}: Assertion \`${condition}' failed.`);
+    Object.assign(this, {name: 'FailedAssertion', condition, check, module, line});
+  }
+}
+
+// NeverReturns: the gateway's daemon would have stood still here.
+export class NeverReturns extends Error {
+  name = 'NeverReturns';
+  message = 'the check does not return for this value';
+}
+
+const kUnwritten = -0x80000000;  // a number that no check writes
+const kNoChannel = -1;
+const kPage = 0x10000;
+const kSpare = 2048;  // bytes beyond the texts of the call, for blocks and for what a check writes
+const kNothing = Object.freeze([]);
+const kNothingWritten = Object.freeze({});
+
+async function compiled(given, url) {
+  if (given instanceof WebAssembly.Module) return given;
+  if (given === undefined && url.protocol === 'file:') {
+    given = await (await import('node:fs/promises')).readFile(url);
+  } else if (given === undefined) {
+    const response = await fetch(url);
+    if (!response.ok) throw new Error(`${url}: ${response.status}`);
+    given = await response.arrayBuffer();
+  }
+  return WebAssembly.compile(given);
+}
+
+class Verdict {
+  #explain;
+
+  constructor(valid, code, [, lines, stderr], after, explain) {
+    this.valid = valid;
+    this.code = code;
+    this.lines = lines;
+    this.stderr = stderr;
+    this.after = after;
+    this.#explain = explain;
+  }
+
+  get name() {
+    return this.valid === null ? null : codes[this.code];
+  }
+
+  get reason() {
+    return this.valid === false ? this.#explain() : Promise.resolve(null);
+  }
+}
+
+// complete adds what is only written where the caller leaves it out.
+function complete(check, given) {
+  const values = [...given];
+  for (const {output, kind} of check.arguments.slice(given.length)) {
+    if (output) values.push(kind === 'buffer' ? '' : kUnwritten);
+  }
+  if (values.length === check.arguments.length) return values;
+  throw new TypeError(`${check.name} takes ${check.arguments.map(({name}) => name).join(', ')}`);
+}
+
+const isText = (value) => typeof value === 'string';
+const isInteger = (value) => (value | 0) === value;
+
+const isOf = {
+  text: isText,
+  buffer: isText,
+  blocks: (value, {blocks}) => Array.isArray(value) && value.length === blocks && value.every(isText),
+  integer: isInteger,
+  integer_out: isInteger,
+  unsigned: (value) => value >>> 0 === value,
+};
+
+function require(check, argument, value) {
+  const isNull = value === null && argument.null;
+  if (isNull ? argument.null !== 'read' : isOf[argument.kind](value, argument)) return;
+  throw new TypeError(`${check.name}: ${argument.name} is ${isNull ? 'null' : `no ${argument.kind}`}`);
+}
+
+class Ostrel {
+  checks = checks;
+  build = build;
+  #rules;
+  #stack;
+  #view = new Uint8Array();
+  #base;
+  #isLatin1;
+  #reasons;
+  #loadReasons;
+  #numbers = new Map(checks.map(({name}, number) => [name, number]));
+  #isBusy = false;
+  #message;
+  #printed;  // by the number of the stream
+
+  constructor(module, options) {
+    const {isLatin1, isLong64, channels, compare, convert, loadReasons} = options;
+    this.#isLatin1 = isLatin1;
+    this.#loadReasons = loadReasons;
+    const text = (at) => taken(this.#bytes(), at, Infinity, isLatin1);
+    const {exports} = new WebAssembly.Instance(module, {ostrel: {
+      write: (stream, at, length, ends) => this.#write(stream, at, length, ends),
+      flush() {},
+      fail: (condition, file, line, check) => {
+        throw new FailedAssertion(text(condition), text(check), text(file), line);
+      },
+      never_return() {
+        throw new NeverReturns();
+      },
+      channel: (index) => channels[index] ?? kNoChannel,
+      compare: (a, b) => compare(text(a), text(b)),
+      convert: (at, length) => {
+        const converted = convert(take(this.#bytes(), at, length, isLatin1));
+        const room = new Uint8Array(most(converted, isLatin1));
+        const end = put(room, 0, converted, isLatin1);
+        if (end > length) throw new RangeError('htmlToText: too long');
+        this.#bytes().set(room.subarray(0, end + 1), at);
+      },
+    }});
+    this.#rules = exports;
+    this.#stack = exports.__stack_pointer.value;
+    this.#base = exports.__heap_base.value;
+    exports.ostrel_configure(isLong64, compare !== undefined, convert !== undefined);
+  }
+
+  judge(name, ...given) {
+    const number = this.#numbers.get(name);
+    if (number === undefined) throw new RangeError(`there is no check ${name}`);
+    if (this.#isBusy) throw new Error('called by itself');
+    const check = checks[number];
+    const values = given.length === check.arguments.length ? given : complete(check, given);
+    this.#isBusy = true;
+    try {
+      return this.#call(check, number, values);
+    } catch (error) {
+      this.#rules.__stack_pointer.value = this.#stack;
+      if (!(error instanceof WebAssembly.RuntimeError && values.includes(null))) throw error;
+      throw new TypeError(`${name} reads an argument that is null`);
+    } finally {
+      this.#isBusy = false;
+    }
+  }
+
+  // #bytes takes the view anew when memory has grown: one that is kept then is empty, and silently stays so.
+  #bytes() {
+    if (this.#view.length === 0) this.#view = new Uint8Array(this.#rules.memory.buffer);
+    return this.#view;
+  }
+
+  #write(stream, at, length, ends) {
+    this.#message += take(this.#bytes(), at, length, this.#isLatin1);
+    if (!ends) return;
+    this.#printed[stream] = [...this.#printed[stream], this.#message];
+    this.#message = '';
+  }
+
+  // #call gives each argument the same room.
+  #call(check, number, values) {
+    let room = kSpare;
+    for (let i = 0; i < values.length; ++i) {
+      const value = values[i];
+      const argument = check.arguments[i];
+      if (!isText(value) || argument.kind !== 'text') require(check, argument, value);
+      if (isText(value)) room += most(value, this.#isLatin1);
+      else if (value?.length) for (const text of value) room += most(text, this.#isLatin1);
+    }
+    const missing = this.#base + room * values.length - this.#bytes().length;
+    if (missing > 0) this.#rules.memory.grow(Math.ceil(missing / kPage));
+
+    const bytes = this.#bytes();
+    const passed = [];
+    for (let i = 0; i < values.length; ++i) {
+      const at = this.#base + i * room;
+      passed.push(this.#put(bytes, at, room, check.arguments[i], values[i]) ? at : values[i]);
+    }
+    this.#printed = [null, kNothing, kNothing];
+    this.#message = '';
+    const code = this.#rules[check.name](passed[0], passed[1], passed[2], passed[3]);
+    const valid = check.answers === 'number' ? null : code === 0;
+    const after = check.writes ? this.#after(check, passed, room) : kNothingWritten;
+    return new Verdict(valid, code, this.#printed, after, () => this.#explain(check, number, values));
+  }
+
+  // #put tells whether the value is passed in memory.
+  #put(bytes, at, room, {kind, block_size: size}, value) {
+    if (value === null || kind === 'integer' || kind === 'unsigned') return false;
+    if (kind === 'text') put(bytes, at, value, this.#isLatin1);
+    else if (kind === 'integer_out') new DataView(bytes.buffer).setInt32(at, value, true);
+    else if (kind === 'buffer') bytes.fill(0, put(bytes, at, value, this.#isLatin1), at + room);
+    else {
+      for (const text of value) {
+        const end = put(bytes, at, text, this.#isLatin1);
+        at += size;
+        if (end >= at) throw new RangeError('too long');
+        bytes.fill(0, end, at);
+      }
+    }
+    return true;
+  }
+
+  #after(check, passed, room) {
+    const bytes = this.#bytes();
+    const text = (at, size) => taken(bytes, at, size, this.#isLatin1);
+    const held = {
+      buffer: (at) => text(at, room),
+      blocks: (at, {blocks, block_size: size}) =>
+        Array.from({length: blocks}, (_, i) => text(at + i * size, size)),
+      integer_out: (at) => {
+        const number = new DataView(bytes.buffer).getInt32(at, true);
+        return number === kUnwritten ? null : number;
+      },
+    };
+    const after = {};
+    check.arguments.forEach((argument, i) => {
+      const take = held[argument.kind];
+      if (take) after[argument.name] = passed[i] && take(passed[i], argument);
+    });
+    return after;
+  }
+
+  // #explain loads the descriptions the first time, and again where that failed.
+  async #explain(check, number, values) {
+    try {
+      this.#reasons ??= this.#loadReasons();
+      return (await this.#reasons)(check, number, values);
+    } catch (error) {
+      this.#reasons = null;
+      throw error;
+    }
+  }
+}
+
+export async function load(
+    {encoding = 'utf-8', long = 32, channels = [], htmlToText, cmsUtl_strcmp, rules, reasons} = {}) {
+  if (encoding !== 'utf-8' && encoding !== 'latin1') throw new RangeError(`encoding: ${encoding}`);
+  if (long !== 32 && long !== 64) throw new RangeError(`long: ${long}`);
+  const options = {isLatin1: encoding === 'latin1', isLong64: long === 64, channels: [...channels]};
+  const loadReasons = async () =>
+      reasonsOf(await compiled(reasons, new URL('./reasons.wasm', import.meta.url)), options);
+  return new Ostrel(await compiled(rules, new URL('./rules.wasm', import.meta.url)),
+                    {...options, compare: cmsUtl_strcmp, convert: htmlToText, loadReasons});
+}

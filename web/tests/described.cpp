@@ -1,0 +1,31 @@
+// For the tests: what the descriptions say of a call besides the reason.
+
+#include "rules/evaluate.h"
+#include "rules/rules.h"
+#include "web/reasons/call.h"
+
+extern "C" {
+
+__attribute__((export_name("reserve"))) char* ostrel_reserve(std::size_t size)
+{
+    return ostrel::web::room_for_call(size);
+}
+
+// ostrel_room returns the bytes that a buffer must have, -1 where the text that is in it is all.
+__attribute__((export_name("room"))) int ostrel_room(std::size_t check, std::size_t argument)
+{
+    const auto values = ostrel::web::written_call();
+    const auto room = ostrel::rules::room(ostrel::rules::checks().at(check), argument, values);
+    return room ? static_cast<int>(*room) : -1;
+}
+
+// ostrel_code returns the answer. A call that the contract says nothing of ends here.
+__attribute__((export_name("code"))) int ostrel_code(std::size_t check)
+{
+    ostrel::rules::Build build;
+    build.atoi = ostrel::rules::Build::Atoi::kLong32;
+    build.channels.emplace();
+    return ostrel::rules::evaluate(ostrel::rules::checks().at(check), ostrel::web::written_call(), build)
+        .code;
+}
+}

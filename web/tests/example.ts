@@ -1,0 +1,57 @@
+// A line with "@ts-expect-error" must not compile.
+
+import {FailedAssertion, NeverReturns, load} from 'ostrel';
+import type {CheckName, CodeName, Reason, Verdict} from 'ostrel';
+
+const ostrel = await load({encoding: 'latin1', long: 64, channels: [1, 6, 11]});
+
+const port: Verdict<'PARAM_check_port'> = ostrel.judge('PARAM_check_port', '65536');
+const valid: boolean = port.valid;
+const name: CodeName = port.name;
+const reason: Reason | null = await port.reason;
+const names: readonly CheckName[] = ostrel.checks.map((check) => check.name);
+
+// @ts-expect-error there is no such check
+ostrel.judge('PARAM_check_prot', '65536');
+// @ts-expect-error its argument is missing
+ostrel.judge('PARAM_check_port');
+// @ts-expect-error it takes one
+ostrel.judge('PARAM_check_port', '1', '2');
+// @ts-expect-error it takes a text
+ostrel.judge('PARAM_check_port', 65536);
+// @ts-expect-error NULL is asserted against
+ostrel.judge('PARAM_check_port', null);
+// @ts-expect-error NULL is read
+ostrel.judge('PARAM_check_ip_addr', null);
+
+// Where the contract allows it.
+ostrel.judge('PORTMAPPING_check_port_available', null, 2);
+ostrel.judge('Param_check_string_len', 'x', 0, 5);
+// @ts-expect-error lengths are numbers
+ostrel.judge('Param_check_string_len', 'x', '0', 5);
+
+// What is only written may be left out.
+const account: number | null = ostrel.judge('TcmValidatePPPUsername', 'x').after.account_type;
+const offset: string | null = ostrel.judge('HNAPCORE_check_timezone', 'UTC', '').after.offset_out;
+const keys: readonly string[] = ostrel.judge('WLAN_check_wepkeys', ['', '', '', '']).after.keys;
+// @ts-expect-error there are four
+ostrel.judge('WLAN_check_wepkeys', ['', '', '']);
+// @ts-expect-error this check writes nothing
+port.after.value_p;
+
+// An answer that is a number is no verdict.
+const counted: null = ostrel.judge('countChar', 'a.b', 46).valid;
+
+// @ts-expect-error there is no such encoding
+await load({encoding: 'utf-16'});
+// @ts-expect-error nor such a long
+await load({long: 16});
+
+try {
+  ostrel.judge('PARAM_check_ui2_value', '8080');
+} catch (error) {
+  if (error instanceof FailedAssertion) console.log(error.condition, error.line);
+  if (error instanceof NeverReturns) console.log(error.message);
+}
+
+console.log(valid, name, reason?.text, names, account, offset, keys, counted, ostrel.build.model);
