@@ -4,7 +4,6 @@
 #include <stdexcept>
 
 #include "oracle/input.h"
-#include "oracle/library.h"
 #include "rules/rules.h"
 
 namespace ostrel::fuzz {

@@ -194,7 +194,7 @@ std::string accepted(const Check& check, const Build& build)
     Summary summary;
     if (!remembers_twice(check.steps, counts)) {
         speaker.spell_out(check.steps);
-        const std::string text = summary.phrase(check.steps, speaker);
+        std::string text = summary.phrase(check.steps, speaker);
         if (text.empty()) return "every value";
         if (summary.is_plain() && text.size() <= kLongest) return text;
     }

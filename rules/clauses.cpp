@@ -1,8 +1,7 @@
 // Conditions in words.
-#include <algorithm>
 
+#include "rules/datum.h"
 #include "rules/phrases.h"
-#include "rules/sentences.h"
 
 namespace ostrel::rules {
 
@@ -13,6 +12,7 @@ using Kind = Condition::Kind;
 std::vector<std::string> all_of_them(const std::vector<std::string_view>& words)
 {
     std::vector<std::string> result;
+    result.reserve(words.size());
     for (const std::string_view word : words) result.push_back(keyword_in_words(word));
     return result;
 }
@@ -20,6 +20,7 @@ std::vector<std::string> all_of_them(const std::vector<std::string_view>& words)
 std::vector<std::string> all_of_them(const std::vector<long long>& numbers)
 {
     std::vector<std::string> result;
+    result.reserve(numbers.size());
     for (const long long number : numbers) result.push_back(std::to_string(number));
     return result;
 }
@@ -175,6 +176,7 @@ Clause Speaker::text_clause(const Condition& condition, bool holds) const
             return say_with("contains ", "does not contain ", value(condition.operands[1]));
         case Kind::kShape: {
             std::vector<std::string> shapes;
+            shapes.reserve(condition.shapes.size());
             for (const Shape& shape : condition.shapes) shapes.push_back(in_words(shape));
             if (shapes.size() == 1) return say_with("has the form ", "does not have the form ", shapes[0]);
             std::string text;

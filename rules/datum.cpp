@@ -29,7 +29,7 @@ std::size_t in_common(std::string_view one, std::string_view other)
     std::size_t longest = 0;
     for (std::size_t i = 0; i < one.size(); ++i) {
         for (std::size_t j = 0; j < other.size(); ++j) {
-            const auto end = std::ranges::mismatch(one.substr(i), other.substr(j), same_letter).in2;
+            const auto* const end = std::ranges::mismatch(one.substr(i), other.substr(j), same_letter).in2;
             longest = std::max(
                 longest, static_cast<std::size_t>(end - (other.begin() + static_cast<std::ptrdiff_t>(j))));
         }

@@ -64,7 +64,7 @@ Answer evaluate(const Check& check, std::span<const Value> values, const Build& 
     return Run(check, build, counts).evaluate(values);
 }
 
-Answer evaluate_within(std::size_t bytes, const Check& check, std::span<const Value> values,
+Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build)
 {
     Run run(check, build, nullptr);

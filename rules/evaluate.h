@@ -59,7 +59,7 @@ Answer evaluate(const Check& check, std::span<const Value> values, const Build& 
                 Counts* counts = nullptr);
 
 // evaluate_within gives up when it has looked at so many bytes, one that it looks at twice counted twice.
-Answer evaluate_within(std::size_t bytes, const Check& check, std::span<const Value> values,
+Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 
 // room says how many bytes a buffer must have in a call. Nothing: those of the text in it, or what the room depends on

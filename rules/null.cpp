@@ -13,6 +13,7 @@ namespace {
 std::string in_words(const std::vector<int>& codes)
 {
     std::vector<std::string> words;
+    words.reserve(codes.size());
     for (const int code : codes) words.push_back(std::to_string(code));
     return joined_words(words, "or");
 }
@@ -52,6 +53,7 @@ std::string in_words(const std::vector<NullEnd>& ends, const std::set<std::strin
         }
     }
     std::vector<std::string> outcomes;
+    outcomes.reserve(kinds.size());
     for (const NullEnd& kind : kinds) outcomes.push_back(in_words(kind));
     if (kinds.size() == 1 && kinds[0].codes.size() < 2) return outcomes[0];
     std::string text;

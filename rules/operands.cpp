@@ -189,7 +189,7 @@ Operand Run::text(const Expression& expression, Frame& frame)
     return result;
 }
 
-void Run::work(std::size_t bytes)
+void Run::work(std::uint64_t bytes)
 {
     if (bytes > bytes_left_) throw Ended{Outside::kTooMuchWork};
     bytes_left_ -= bytes;

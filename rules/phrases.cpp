@@ -1,9 +1,9 @@
 // Who is spoken of by what name; items and lines in words.
 #include "rules/phrases.h"
+#include "rules/datum.h"
 
 #include <algorithm>
 
-#include "rules/sentences.h"
 #include "rules/walk.h"
 
 namespace ostrel::rules {
@@ -164,7 +164,7 @@ std::string Speaker::line(const Line& line) const
     std::string text;
     for (const Line::Part& part : line.parts) {
         if (part.value) {
-            std::string_view named = "";
+            std::string_view named;
             const std::string words = value(*part.value);
             named = words;
             if (named.starts_with("the ")) named.remove_prefix(4);

@@ -110,7 +110,7 @@ class Speaker {
     [[nodiscard]] std::string set(const Expression& expression) const;
     [[nodiscard]] bool is_plural(const Expression& expression) const;
     [[nodiscard]] std::string other(const Expression& expression) const;
-    [[nodiscard]] std::string among(const Expression& set, bool holds) const;
+    [[nodiscard]] std::string among(const Expression& expression, bool holds) const;
     [[nodiscard]] bool is_beginning(const Expression& judged, const Expression& other) const;
     [[nodiscard]] Clause clause_of_kind(const Condition& condition, bool holds) const;
     [[nodiscard]] Clause text_clause(const Condition& condition, bool holds) const;

@@ -2,7 +2,9 @@
 #ifndef OSTREL_RULES_RUN_H
 #define OSTREL_RULES_RUN_H
 
+#include <cstdint>
 #include <deque>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -77,7 +79,7 @@ class Run {
     {
     }
 
-    void limit_work(std::size_t bytes) { bytes_left_ = bytes; }
+    void limit_work(std::uint64_t bytes) { bytes_left_ = bytes; }
     Answer evaluate(std::span<const Value> values);
     std::optional<std::size_t> size(const Expression& formula, std::span<const Value> values);
 
@@ -111,7 +113,7 @@ class Run {
     bool is_refused_by(const Condition& condition, Frame& frame, Reason* reason);
     void tell(Reason& reason, const Place& where, std::string_view id, Datum found, Datum allowed) const;
     void tell(Reason& reason, const Integer& judged, std::string_view id, Datum allowed) const;
-    void work(std::size_t bytes);
+    void work(std::uint64_t bytes);
 
     // Steps.
     Flow run(const std::vector<Step>& steps, Frame& frame);
@@ -132,7 +134,7 @@ class Run {
     const Reason* fault_ = nullptr;                   // while lines are printed
     const std::vector<Line>* fault_lines_ = nullptr;  // of the group of a shape that is at fault
     int its_code_ = 0;                                // of the check that was last used
-    std::size_t bytes_left_ = std::string_view::npos;
+    std::uint64_t bytes_left_ = std::numeric_limits<std::uint64_t>::max();
 };
 
 }  // namespace ostrel::rules

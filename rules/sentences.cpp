@@ -167,7 +167,7 @@ std::string sentence(const Reason& reason)
 
 std::string full_sentence(const Reason& reason, bool names_argument)
 {
-    const std::string said = sentence(reason);
+    std::string said = sentence(reason);
     std::string subject;
     if (reason.item) {
         subject = "item " + counted(reason.item);

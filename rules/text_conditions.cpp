@@ -125,7 +125,7 @@ bool Run::text_holds(const Condition& condition, Frame& frame, Reason* reason)
         }
         case Kind::kContains: {
             const Operand part = text(condition.operands[1], frame);
-            work(whole.size() / kQuickBytes * part.text.size());
+            work(std::uint64_t{whole.size()} / kQuickBytes * part.text.size());
             const std::size_t offset = whole.find(part.text);
             result = offset != kMissing;
             if (!tells()) return result;

@@ -1,6 +1,6 @@
 // Texts and numbers in words.
+#include "rules/datum.h"
 #include "rules/phrases.h"
-#include "rules/sentences.h"
 
 namespace ostrel::rules {
 
@@ -20,7 +20,7 @@ std::string Speaker::number(const Expression& expression) const
 std::string Speaker::value(const Expression& expression) const
 {
     const std::string_view part = expression.part;
-    const std::string words = unnamed(expression);
+    std::string words = unnamed(expression);
     if (part.empty()) return words;
     const bool says_enough = part.starts_with("the part") || meant(expression) != nullptr;
     return std::string(part) + (says_enough ? "" : " (" + words + ")");
@@ -97,6 +97,7 @@ std::string Speaker::as_many(const Expression& number) const
 std::string Speaker::computed(const Expression& expression) const
 {
     std::vector<std::string> operands;
+    operands.reserve(expression.of.size());
     for (const Expression& one : expression.of) operands.push_back(value(one));
     switch (expression.kind) {
         case Kind::kJoined:

@@ -14,13 +14,11 @@
 //   b     the number of buffers, the bytes of each, their texts before and after the call
 // A row of the vectors with several answers is as many rows here.
 
-#include <algorithm>
 #include <cstdint>
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <limits>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <string>

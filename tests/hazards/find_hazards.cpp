@@ -17,7 +17,6 @@
 
 namespace ostrel::tests {
 
-using catalogue::Argument;
 using catalogue::Exposure;
 using catalogue::Function;
 using catalogue::Hazard;

@@ -11,7 +11,6 @@
 #include "oracle/library.h"
 #include "rules/evaluate.h"
 #include "rules/rules.h"
-#include "tests/rules/atois.h"
 #include "tests/support/vectors.h"
 
 namespace ostrel::tests {

@@ -1,6 +1,5 @@
 #include "complete.h"
 
-#include <algorithm>
 #include <string>
 
 #include "catalogue/catalogue.h"

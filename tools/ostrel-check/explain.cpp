@@ -7,7 +7,6 @@
 #include "reason.h"
 #include "rules/explain.h"
 #include "rules/walk.h"
-#include "show.h"
 #include "style.h"
 #include "words.h"
 

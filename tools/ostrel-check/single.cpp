@@ -21,7 +21,6 @@
 namespace ostrel::tool {
 
 using catalogue::Caller;
-using catalogue::Function;
 
 namespace {
 
