@@ -29,9 +29,9 @@ std::size_t in_common(std::string_view one, std::string_view other)
     std::size_t longest = 0;
     for (std::size_t i = 0; i < one.size(); ++i) {
         for (std::size_t j = 0; j < other.size(); ++j) {
-            const auto* const end = std::ranges::mismatch(one.substr(i), other.substr(j), same_letter).in2;
-            longest = std::max(
-                longest, static_cast<std::size_t>(end - (other.begin() + static_cast<std::ptrdiff_t>(j))));
+            const std::string_view rest = other.substr(j);
+            const auto differing = std::ranges::mismatch(one.substr(i), rest, same_letter);
+            longest = std::max(longest, static_cast<std::size_t>(differing.in2 - rest.begin()));
         }
     }
     return longest;
