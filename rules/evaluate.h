@@ -58,6 +58,9 @@ struct Counts {
 Answer evaluate(const Check& check, std::span<const Value> values, const Build& build,
                 Counts* counts = nullptr);
 
+// kMostWork is for a reason, which must not take longer than the call that it is for.
+inline constexpr std::uint64_t kMostWork = std::uint64_t{128} << 20U;
+
 // evaluate_within gives up when it has looked at so many bytes, one that it looks at twice counted twice.
 Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);

@@ -165,8 +165,12 @@ std::string sentence(const Reason& reason)
     return result;
 }
 
-std::string full_sentence(const Reason& reason, bool names_argument)
+std::string full_sentence(const Reason& reason, const Check& check)
 {
+    const bool names_argument =
+        std::ranges::count_if(check.arguments, [](const Argument& argument) {
+            return argument.kind != Argument::Kind::kIntegerOut && !argument.is_output;
+        }) > 1;
     std::string said = sentence(reason);
     std::string subject;
     if (reason.item) {

@@ -39,8 +39,8 @@ std::span<const Sentence> sentences();
 // has no sentence.
 std::string sentence(const Reason& reason);
 
-// full_sentence begins with what it speaks of: the item of a list, and the argument where that is to be named.
-std::string full_sentence(const Reason& reason, bool names_argument);
+// full_sentence begins with what it speaks of: the item of a list, and the argument where a user gives several.
+std::string full_sentence(const Reason& reason, const Check& check);
 
 // without_secret takes the value out that was found, where that is of an argument not to be shown; single bytes stay.
 Reason without_secret(Reason reason, const Check& check);

@@ -4,15 +4,15 @@
 #include <string>
 
 #include "rules/null.h"
+#include "rules/reason_json.h"
 #include "rules/rules.h"
-#include "web/reasons/json.h"
 
 namespace {
 
+using ostrel::rules::append_json_text;
 using ostrel::rules::Argument;
 using ostrel::rules::Check;
 using ostrel::rules::NullOutcome;
-using ostrel::web::append_text;
 
 std::string_view name_of(Argument::Kind kind)
 {
@@ -52,14 +52,14 @@ std::string_view name_of(NullOutcome outcome)
 void append_member(std::string& out, std::string_view name, std::string_view text)
 {
     out.append(",\"").append(name).append("\":");
-    append_text(out, text);
+    append_json_text(out, text);
 }
 
 std::string json_of(const Check& check, std::size_t index)
 {
     const Argument& argument = check.arguments[index];
     std::string out = "{\"name\":";
-    append_text(out, argument.name);
+    append_json_text(out, argument.name);
     append_member(out, "kind", name_of(argument.kind));
     append_member(out, "what", argument.what);
     if (!argument.unit.empty()) append_member(out, "unit", argument.unit);
@@ -78,7 +78,7 @@ std::string json_of(const Check& check, std::size_t index)
 std::string json_of(const Check& check)
 {
     std::string out = "{\"name\":";
-    append_text(out, check.name);
+    append_json_text(out, check.name);
     append_member(out, "module", check.module);
     append_member(out, "answers", check.is_verdict ? "code" : "number");
     out += ",\"arguments\":[";

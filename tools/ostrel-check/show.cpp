@@ -22,8 +22,6 @@ void append_hexadecimal(std::string& out, std::string_view introduction, char c)
     out += kHexDigits[byte & 15];
 }
 
-bool is_plain_in_json(char c) { return is_printable(c) && c != '"' && c != '\\'; }
-
 void append_rest(std::string& out, std::size_t size, std::size_t limit)
 {
     if (size > limit) out.append("... (").append(std::to_string(size)).append(" bytes)");
@@ -94,29 +92,6 @@ void append_value(std::string& out, const Value& value, std::size_t limit)
     } else {
         out += kNull;
     }
-}
-
-void append_json_text(std::string& out, std::string_view bytes)
-{
-    out += '"';
-    while (!bytes.empty()) {
-        std::size_t plain = 0;
-        while (plain < bytes.size() && is_plain_in_json(bytes[plain])) ++plain;
-        out.append(bytes.substr(0, plain));
-        bytes.remove_prefix(plain);
-        if (bytes.empty()) break;
-        const char c = bytes.front();
-        bytes.remove_prefix(1);
-        if (c == '\n') {
-            out += "\\n";
-        } else if (is_printable(c)) {
-            out += '\\';
-            out += c;
-        } else {
-            append_hexadecimal(out, "\\u00", c);
-        }
-    }
-    out += '"';
 }
 
 void append_json_value(std::string& out, const Value& value)

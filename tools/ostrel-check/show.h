@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "catalogue/caller.h"
+#include "rules/reason_json.h"
 
 namespace ostrel::tool {
 
@@ -20,8 +21,7 @@ void append_word(std::string& out, std::string_view text, std::size_t limit);
 // append_value shows an argument as words.
 void append_value(std::string& out, const catalogue::Value& value, std::size_t limit);
 
-// append_json_text writes a text of JSON; a byte from 0x80 as the code point of the same number.
-void append_json_text(std::string& out, std::string_view bytes);
+using rules::append_json_text;
 
 void append_json_value(std::string& out, const catalogue::Value& value);
 

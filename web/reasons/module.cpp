@@ -4,9 +4,9 @@
 #include <string>
 
 #include "rules/evaluate.h"
+#include "rules/reason_json.h"
 #include "rules/rules.h"
 #include "web/reasons/call.h"
-#include "web/reasons/json.h"
 #include "web/reasons/memory.h"
 #include "web/reasons/pack.h"
 
@@ -59,9 +59,9 @@ OSTREL_EXPORT(explain) std::size_t ostrel_explain(std::size_t check)
 {
     answer.clear();
     const ostrel::rules::Check& called = descriptions()[check];
-    const auto told =
-        ostrel::rules::evaluate_within(ostrel::web::kMostWork, called, ostrel::web::written_call(), gateway);
-    if (told.is_refusal) ostrel::web::append_reason(answer, told.reason, called);
+    const auto told = ostrel::rules::evaluate_within(ostrel::rules::kMostWork, called,
+                                                     ostrel::web::written_call(), gateway);
+    if (told.is_refusal) ostrel::rules::append_json_reason(answer, told.reason, called);
     return answer.size();
 }
 

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "rules/evaluate.h"
+#include "rules/reason_json.h"
 #include "rules/rules.h"
 #include "web/reasons/call.h"
-#include "web/reasons/json.h"
 
 int main()
 {
@@ -23,13 +23,13 @@ int main()
         build.atoi =
             head[1] == 64 ? ostrel::rules::Build::Atoi::kLong64 : ostrel::rules::Build::Atoi::kLong32;
         const ostrel::rules::Check& check = ostrel::rules::checks().at(head[0]);
-        const auto answer =
-            ostrel::rules::evaluate_within(ostrel::web::kMostWork, check, ostrel::web::written_call(), build);
+        const auto answer = ostrel::rules::evaluate_within(ostrel::rules::kMostWork, check,
+                                                           ostrel::web::written_call(), build);
         std::string json = "null";
         if (answer.outside == ostrel::rules::Outside::kTooMuchWork) json = "\"too much work\"";
         if (answer.is_refusal) {
             json.clear();
-            ostrel::web::append_reason(json, answer.reason, check);
+            ostrel::rules::append_json_reason(json, answer.reason, check);
         }
         std::cout << json << '\n';
     }

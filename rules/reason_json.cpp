@@ -1,10 +1,8 @@
-#include "web/reasons/json.h"
-
-#include <algorithm>
+#include "rules/reason_json.h"
 
 #include "rules/sentences.h"
 
-namespace ostrel::web {
+namespace ostrel::rules {
 
 namespace {
 
@@ -19,66 +17,70 @@ void append_list(std::string& out, const std::vector<T>& values, F append)
     out += ']';
 }
 
-void append_datum(std::string& out, std::string_view name, const rules::Datum& datum)
+void append_datum(std::string& out, std::string_view name, const Datum& datum)
 {
     if (std::holds_alternative<std::monostate>(datum)) return;
     out.append(",\"").append(name).append("\":");
     if (const auto* number = std::get_if<long long>(&datum)) {
         out += std::to_string(*number);
     } else if (const auto* text = std::get_if<std::string>(&datum)) {
-        append_text(out, *text);
-    } else if (const auto* set = std::get_if<rules::Set>(&datum)) {
+        append_json_text(out, *text);
+    } else if (const auto* set = std::get_if<Set>(&datum)) {
         out += "{\"text\":";
-        append_text(out, rules::in_words(*set));
+        append_json_text(out, in_words(*set));
         out += ",\"members\":";
-        append_text(out, set->members());
+        append_json_text(out, set->members());
         out += '}';
     } else if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) {
-        append_list(out, *words, [&](const std::string& word) { append_text(out, word); });
+        append_list(out, *words, [&](const std::string& word) { append_json_text(out, word); });
     } else if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) {
         append_list(out, *numbers, [&](long long one) { out += std::to_string(one); });
     }
 }
 
-// names_argument: of the arguments that a user gives there are several.
-bool names_argument(const rules::Check& check)
-{
-    return std::ranges::count_if(check.arguments, [](const rules::Argument& argument) {
-               return argument.kind != rules::Argument::Kind::kIntegerOut && !argument.is_output;
-           }) > 1;
-}
-
 }  // namespace
 
-void append_text(std::string& out, std::string_view bytes)
+void append_json_text(std::string& out, std::string_view bytes)
 {
-    constexpr std::string_view kDigits = "0123456789abcdef";
+    constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+    const auto is_plain = [](char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; };
     out += '"';
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (c >= ' ' && c <= '~') {
-            if (c == '"' || c == '\\') out += '\\';
+    while (!bytes.empty()) {
+        std::size_t plain = 0;
+        while (plain < bytes.size() && is_plain(bytes[plain])) ++plain;
+        out.append(bytes.substr(0, plain));
+        bytes.remove_prefix(plain);
+        if (bytes.empty()) break;
+        const char c = bytes.front();
+        bytes.remove_prefix(1);
+        if (c == '\n') {
+            out += "\\n";
+        } else if (c == '"' || c == '\\') {
+            out += '\\';
             out += c;
         } else {
-            out += {'\\', 'u', '0', '0', kDigits[byte / 16], kDigits[byte % 16]};
+            const auto byte = static_cast<unsigned char>(c);
+            out += "\\u00";
+            out += kHexDigits[byte / 16];
+            out += kHexDigits[byte % 16];
         }
     }
     out += '"';
 }
 
-void append_reason(std::string& out, const rules::Reason& given, const rules::Check& check)
+void append_json_reason(std::string& out, const Reason& given, const Check& check)
 {
-    const rules::Reason reason = rules::without_secret(given, check);
+    const Reason reason = without_secret(given, check);
     const auto add_text = [&](std::string_view name, std::string_view text) {
         if (text.empty()) return;
         out.append(",\"").append(name).append("\":");
-        append_text(out, text);
+        append_json_text(out, text);
     };
     const auto add_number = [&](std::string_view name, auto number) {
         if (number) out.append(",\"").append(name).append("\":").append(std::to_string(*number));
     };
     out += "{\"id\":";
-    append_text(out, reason.id);
+    append_json_text(out, reason.id);
     if (reason.argument) add_text("argument", reason.name);
     add_text("part", reason.part);
     add_text("conversion", reason.conversion);
@@ -90,8 +92,8 @@ void append_reason(std::string& out, const rules::Reason& given, const rules::Ch
     add_number("read_as", reason.read_as);
     add_text("limit", reason.limit);
     out += ",\"text\":";
-    append_text(out, rules::full_sentence(reason, names_argument(check)));
+    append_json_text(out, full_sentence(reason, check));
     out += '}';
 }
 
-}  // namespace ostrel::web
+}  // namespace ostrel::rules

@@ -1,0 +1,21 @@
+// JSON of a reason: the same wherever a reason is told to a program.
+#ifndef OSTREL_RULES_REASON_JSON_H
+#define OSTREL_RULES_REASON_JSON_H
+
+#include <string>
+#include <string_view>
+
+#include "rules/reason.h"
+#include "rules/vocabulary.h"
+
+namespace ostrel::rules {
+
+// append_json_text writes a text of JSON; a byte from 0x80 as the code point of the same number.
+void append_json_text(std::string& out, std::string_view bytes);
+
+// append_json_reason adds a reason and its sentence as an object, without a value that is a secret.
+void append_json_reason(std::string& out, const Reason& given, const Check& check);
+
+}  // namespace ostrel::rules
+
+#endif
