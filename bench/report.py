@@ -19,8 +19,8 @@ LIMITS = ("reading", "strlen")
 NAMES = {
     "ipv4": "IPv4 address", "mac": "MAC address", "host": "host name", "url": "URL", "email": "e-mail address",
     "account": "account", "date_time": "date-time", "printable": "printable string", "password": "password",
-    "number": "number", "own_set_8": "caller's own set of 62, 8 bytes", "own_set_16": "the same, 16 bytes",
-    "own_set_32": "the same, 32 bytes", "own_set_64": "the same, 64 bytes",
+    "number": "number", "own_set_8": "caller's own set of 62, 8 bytes", "own_set_16": "caller's own set of 62, 16 bytes",
+    "own_set_32": "caller's own set of 62, 32 bytes", "own_set_64": "caller's own set of 62, 64 bytes",
     "own_digits_8": "caller's own set of 10, 8 bytes", "keyword": "keyword", "rates": "rate list",
     "dns_servers": "DNS servers", "reservations": "DHCP reservations"}
 LIBRARIES = ("libcurl", "libyang", "uriparser")  # the other contenders with names of small letters are functions
