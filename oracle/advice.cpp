@@ -96,7 +96,7 @@ bool is_same(const Answer& answer, const Reason& reason)
 {
     const Reason& other = answer.reason;
     return answer.is_refusal && other.id == reason.id && other.argument == reason.argument &&
-           other.item == reason.item && other.offset == reason.offset;
+           other.part == reason.part && other.item == reason.item && other.offset == reason.offset;
 }
 
 // data_fault says where what the reason has found is not what is there, or its sentence has another number.

@@ -117,6 +117,12 @@ TEST(AdviceTest, LastOctetsHaveTheirOwnLimit)
     }
 }
 
+// What is left of the label makes an address of the whole, whose length is another matter.
+TEST(AdviceTest, AReasonOfAnotherPartIsAnotherOne)
+{
+    EXPECT_EQ("", fault_of(*find("TcmValidateVoIPSTUNServer"), {"2222222222222222222225G.1.1."}));
+}
+
 TEST(AdviceTest, WhatWasJudgedIsAPieceOfTheArgument)
 {
     const std::vector<Value> values = {"1.1.1.1, 1.1.1.300"};
