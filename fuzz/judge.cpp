@@ -5,6 +5,7 @@
 
 #include "oracle/input.h"
 #include "rules/rules.h"
+#include "rules/sentences.h"
 
 namespace ostrel::fuzz {
 
@@ -28,6 +29,15 @@ constexpr Target kTargets[] = {
     {"time", {"time"}},
     {"branding", {"branding"}},
 };
+
+// unsaid tells what a reason lacks; nothing where a user is told why.
+std::string unsaid(const rules::Reason& reason)
+{
+    if (reason.id.empty()) return "no id";
+    const std::string said = rules::sentence(reason);
+    if (said.empty()) return "no sentence";
+    return said.find("any other value") == std::string::npos ? "" : said;
+}
 
 }  // namespace
 
@@ -102,8 +112,11 @@ Verdict Judge::run(std::string_view input, const rules::Build& build, rules::Cou
             fault_ =
                 "hazard:  " + hazard + "\naccepted: " + oracle::shown_call(*entry.function, values_) + "\n";
     }
+    if (answer.is_refusal) ++refused_;
     if (answer.is_refusal && fault_.empty()) {
-        const std::string wrong = follower_.follow(*entry.check, values_, build, answer, compare, further);
+        std::string wrong = unsaid(answer.reason);
+        if (wrong.empty())
+            wrong = follower_.follow(*entry.check, values_, build, answer, compare, further);
         if (!wrong.empty() && fault_.empty()) {
             fault_ = "advice:  " + wrong + "\nrefused: " + oracle::shown_call(*entry.function, values_) +
                      "\nthen:    " + oracle::shown_call(*entry.function, follower_.fault_call()) + "\n";

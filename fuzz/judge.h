@@ -67,6 +67,9 @@ class Judge {
     [[nodiscard]] const oracle::Follower& follower() const { return follower_; }
     [[nodiscard]] std::size_t calls() const { return trial_.calls(); }
 
+    // refused is how many inputs were calls that are refused. Each had an id and a sentence, or differed.
+    [[nodiscard]] std::size_t refused() const { return refused_; }
+
  private:
     struct Entry {
         const catalogue::Function* function;
@@ -82,6 +85,7 @@ class Judge {
     oracle::Trial trial_;
     oracle::Follower follower_;
     std::string fault_;
+    std::size_t refused_ = 0;
 };
 
 }  // namespace ostrel::fuzz

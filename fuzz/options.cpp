@@ -28,6 +28,8 @@ Options read_options(int argc, char** argv)
         const std::string_view argument = argv[i];
         if (argument == "--random" && i + 1 < argc) {
             options.random = read_option<std::size_t>(argv[++i]);
+        } else if (argument == "--refusals" && i + 1 < argc) {
+            options.refusals = read_option<std::size_t>(argv[++i]);
         } else if (argument == "--check" && i + 1 < argc) {
             options.check = argv[++i];
         } else if (argument == "--with" && i + 1 < argc) {

@@ -12,6 +12,7 @@ namespace ostrel::fuzz {
 
 struct Options {
     std::size_t random = 0;
+    std::size_t refusals = 0;
     std::uint64_t seed = 1;
     std::string check;
     std::filesystem::path with;

@@ -1,10 +1,10 @@
 // fuzz_replay judges the calls of the vectors, kept inputs and random ones, without an engine.
 //
-//   fuzz_replay [--random COUNT] [--seed NUMBER] [--check NAME] [--with FILE] [--table FILE] [--floor TIMES]
-//       [FOLDER...]
+//   fuzz_replay [--random COUNT] [--refusals COUNT] [--seed NUMBER] [--check NAME] [--with FILE] [--table FILE]
+//       [--floor TIMES] [FOLDER...]
 //
 // A FOLDER holds a folder of inputs for each target. COUNT inputs are made out of all of them, as many for each
-// function, or for NAME alone. How often each step and condition was met is written to the FILE of --table, what the one
+// function, or for NAME alone; with --refusals, so many that COUNT of them are refused, as many by each check. How often each step and condition was met is written to the FILE of --table, what the one
 // of --with says of an earlier run included. Exits with 1 when
 // the library and a description differ on any, when a reason does not hold what it says, and with --floor when one
 // step or condition was met less often, or when one step less has brought back no reason of some id.
@@ -38,6 +38,7 @@ struct Tally {
     std::size_t agreed = 0;
     std::size_t outside = 0;
     std::size_t failures = 0;
+    std::size_t refused = 0;
     std::size_t calls = 0;  // compared with the library, those included that reasons were followed to
     std::string text;
     std::vector<std::string> unproven;
@@ -56,6 +57,11 @@ std::string read_file(const std::filesystem::path& file)
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
+bool refuses(const Function& function)
+{
+    return rules::find(function.name)->is_verdict;
+}
+
 // Replay runs the inputs of one target.
 class Replay {
  public:
@@ -71,7 +77,8 @@ class Replay {
         }
     }
 
-    void run(const Function& function, const std::vector<tests::Row>& rows, std::size_t random)
+    void run(const Function& function, const std::vector<tests::Row>& rows, std::size_t random,
+             std::size_t refusals)
     {
         for (const tests::Row& row : rows) {
             if (row.given.function != &function) continue;
@@ -86,16 +93,24 @@ class Replay {
         if (inputs.empty()) throw std::runtime_error("no inputs for " + std::string(function.name));
         random += inputs.size();
         Aim aim(*rules::find(function.name), std::move(inputs), options_.seed);
-        for (std::size_t i = 0; i < random; ++i) {
+        const auto next = [&] {
             const std::string& input = aim.next();
             run(input);
             aim.learn(input, counts_);
-        }
+        };
+        for (std::size_t i = 0; i < random; ++i) next();
+        if (!refuses(function)) return;
+        // A check that refuses less than one call in a hundred is one that the inputs do not suit.
+        const std::size_t wanted = refusals == 0 ? 0 : judge_.refused() + refusals;
+        for (std::size_t i = 0; i < 100 * refusals && judge_.refused() < wanted; ++i) next();
+        if (judge_.refused() < wanted)
+            tally_.fail("too few refusals by " + std::string(function.name) + "\n");
     }
 
     Tally tally()
     {
         tally_.calls = judge_.calls() / 2;  // each is made with both edges
+        tally_.refused = judge_.refused();
         tally_.unproven = judge_.follower().unproven();
         return std::move(tally_);
     }
@@ -182,7 +197,12 @@ bool run_all(const Options& options)
     rules::Counts further;
     bool good = true;
     const std::size_t functions = options.check.empty() ? catalogue::functions().size() : 1;
+    const auto refusing =
+        static_cast<std::size_t>(std::ranges::count_if(catalogue::functions(), refuses));
+    const std::size_t refusals_of_each =
+        options.check.empty() ? (options.refusals + refusing - 1) / refusing : options.refusals;
     std::size_t inputs = 0;
+    std::size_t refused = 0;
     std::size_t calls = 0;
     for (const Target& target : targets()) {
         const auto all = chosen(target, options);
@@ -191,7 +211,8 @@ bool run_all(const Options& options)
         Tally tally;
         {
             Replay replay(target, options, counts, further);
-            for (const Function* function : all) replay.run(*function, vectors, options.random / functions);
+            for (const Function* function : all)
+                replay.run(*function, vectors, options.random / functions, refusals_of_each);
             tally = replay.tally();
         }
         const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
@@ -202,13 +223,15 @@ bool run_all(const Options& options)
         std::fflush(stdout);
         good = good && tally.failures == 0;
         inputs += tally.agreed + tally.outside + tally.failures;
+        refused += tally.refused;
         calls += tally.calls;
         if (options.floor == 0) continue;
         for (const std::string& id : tally.unproven) std::printf("not brought back: %s\n", id.c_str());
         good = good && tally.unproven.empty();
     }
     if (inputs == 0) throw std::invalid_argument("no function " + options.check);
-    std::printf("%zu inputs, %zu calls compared\n", inputs, calls);
+    std::printf("%zu inputs, %zu refused, %s, %zu calls compared\n", inputs, refused,
+                good ? "each with an id and a sentence" : "with failures", calls);
     return are_met(counts, further, options) && good;
 }
 

@@ -29,7 +29,7 @@ std::vector<Check> addresses()
                for_each(list_of(it, '.', {}, "octet"), {refuse(-1, empty()), refuse(-1, above(255))})}),
         check("TcmValidateMACaddress", {text("value", "a MAC address")}, mac_address({})),
         check("isValidOrdinaryMACAddress", {text("value", "the MAC address of one station")},
-              mac_address({refuse(-1, outside(slice(it, 0, 2), kHex)),
+              mac_address({refuse(-1, because("wrong_shape", outside(slice(it, 0, 2), kHex))),
                            refuse(-1, because("group_address", outside(slice(it, 1, 1), kHex - kOddDigits)),
                                   unflushed("Broadcasting MAC address, invalid.\n"))})),
     };

@@ -82,16 +82,10 @@ std::string keyword_in_words(std::string_view word)
 std::string quoted(std::string_view text)
 {
     constexpr std::size_t kLongest = 64;
-    constexpr std::string_view kHexDigits = "0123456789ABCDEF";
     std::string result = "\"";
     for (const char c : text.substr(0, kLongest)) {
         if (c == '"' || c == '\\') result += '\\';
-        if (c >= ' ' && c <= '~') {
-            result += c;
-        } else {
-            const auto code = static_cast<unsigned char>(c);
-            result += {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
-        }
+        result += c == ' ' ? " " : bare(c);
     }
     return result + (text.size() > kLongest ? "...\"" : "\"");
 }

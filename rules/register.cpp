@@ -159,6 +159,8 @@ void add(std::vector<Check>& all, std::string_view module, std::vector<Check> ch
     }
 }
 
+}  // namespace
+
 std::vector<Check> make_checks()
 {
     std::vector<Check> all;
@@ -182,8 +184,6 @@ std::vector<Check> make_checks()
     for (Check& check : all) link(check.steps, all);
     return all;
 }
-
-}  // namespace
 
 const std::vector<Check>& checks()
 {

@@ -12,6 +12,9 @@ namespace ostrel::rules {
 // checks lists every description. Throws std::logic_error for one that names what is not there.
 const std::vector<Check>& checks();
 
+// make_checks makes them anew, linked with each other.
+std::vector<Check> make_checks();
+
 // find gives the description of that name, or NULL.
 const Check* find(std::string_view name);
 

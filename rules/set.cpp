@@ -28,14 +28,6 @@ constexpr Group kGroups[] = {
     {kBlank, "blanks"},
 };
 
-std::string bare(char byte)
-{
-    if (byte > ' ' && byte <= '~') return {byte};
-    constexpr std::string_view kHexDigits = "0123456789ABCDEF";
-    const auto code = static_cast<unsigned char>(byte);
-    return {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
-}
-
 std::string join(const std::vector<std::string>& parts)
 {
     std::string result;
@@ -109,9 +101,18 @@ std::string in_words(const Set& set)
     return join(parts);
 }
 
+std::string bare(char byte)
+{
+    if (byte > ' ' && byte <= '~') return {byte};
+    constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+    const auto code = static_cast<unsigned char>(byte);
+    return {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
+}
+
 std::string byte_in_words(char byte)
 {
     if (byte == ' ') return "a blank";
+    if (byte == '"') return "a quotation mark";
     if (byte > ' ' && byte <= '~') return "\"" + std::string(1, byte) + "\"";
     return bare(byte);
 }

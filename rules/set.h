@@ -65,7 +65,10 @@ class Set {
 // in_words names the members: "letters, digits and - . _".
 std::string in_words(const Set& set);
 
-// byte_in_words shows a byte so that it can stand in a sentence: "x", a blank, \x9F.
+// bare shows a byte by itself, and as \x9F or \x20 where it cannot be seen.
+std::string bare(char byte);
+
+// byte_in_words shows a byte so that it can stand in a sentence: "x", a blank, a quotation mark, \x9F.
 std::string byte_in_words(char byte);
 
 }  // namespace ostrel::rules

@@ -26,7 +26,8 @@ SKIPPED = 77
 # What builds for long, measures, mutates or fuzzes is not run here. It must be there, be a script that can be read,
 # and know the options that it is shown with.
 LONG = {"scripts/quickstart", "scripts/test", "scripts/test-everywhere", "scripts/prove", "scripts/fuzz",
-        "scripts/mutate", "scripts/coverage", "scripts/bench", "scripts/hazards"}
+        "scripts/mutate", "scripts/coverage", "scripts/bench", "scripts/hazards",
+        "scripts/abi", "scripts/footprint"}
 # So does what builds or tests a preset, which must be there.
 LONG_BUILD = re.compile(r"(cmake --preset|cmake --build --preset|ctest --test-dir build)[ /](\S+)( -\S+ \S+)*")
 # Programs that the text speaks of and does not tell anybody to run.

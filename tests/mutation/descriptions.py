@@ -3,27 +3,17 @@
 See README.md beside this file.
 """
 
-import argparse
-import fnmatch
-import json
+import itertools
 import pathlib
-import random
 import re
-import shlex
-import shutil
-import subprocess
 import sys
-import time
 
+import mutators
+from changed_rules import Workshop
 from literals import callee, strings
-from mutators import numbers, operators, shown, without_comments
-from tokens import closing, tokens
-
-ROOT = pathlib.Path(__file__).resolve().parents[2]
-LEAST_SCORE = 98.0
-OBJECTS = "rules/CMakeFiles/ostrel_rules.dir/"
-PROGRAM = "bin/rules_test"
-SECONDS = 120
+from mutate import ROOT, Results, arguments, conduct, folder_of
+from mutators import numbers, operators
+from tokens import closing
 
 # What evaluates descriptions and tells reasons. The descriptions themselves are the files that list checks.
 EVALUATION = {"build", "character_references", "condition_words", "conditions", "evaluate", "expression_words", "lists",
@@ -101,109 +91,37 @@ def orders(found, text):
 MUTATORS = [operators, numbers, texts, words, phrases, orders]
 
 
+MUTATORS = (operators, numbers, texts, words, phrases, orders)
+
+
 def mutants(file, text):
-    found = tokens(text)
-    made = {}
-    for mutator in MUTATORS:
-        for start, end, replacement in mutator(found, text):
-            if text[start:end] != replacement:
-                made.setdefault((start, end, replacement), None)
-    return [(file, *change) for change in sorted(made)]
+    return list(mutators.mutants(file, text, MUTATORS))
 
 
-def described(mutant, text):
-    file, start, end, replacement = mutant
-    first = text.rfind("\n", 0, start) + 1
-    line = without_comments(text)[first:text.find("\n", start)].strip()
-    return "%s:%d: %s -> %s\n    %s" % (file, text.count("\n", 0, start) + 1, shown(text[start:end]),
-                                        shown(replacement), line)
+# So many are compiled at a time.
+TOGETHER = 250
 
 
-class Workshop:
-    """Workshop builds rules_test with one changed file, and runs it."""
-
-    def __init__(self, build):
-        self.build = build
-        self.folder = build / "mutate_rules"
-        shutil.rmtree(self.folder, ignore_errors=True)
-        self.folder.mkdir()
-        self.commands = {}
-        for entry in json.loads((build / "compile_commands.json").read_text()):
-            words_of = shlex.split(entry["command"])
-            output = words_of[words_of.index("-o") + 1]
-            if output.startswith(OBJECTS):
-                kept = [word for word in words_of[:words_of.index("-o")] if not word.startswith("-W")]
-                file = str(pathlib.Path(entry["file"]).relative_to(ROOT))
-                self.commands[file] = (kept[1:] if "ccache" in kept[0] else kept) + ["-w"]
-        subprocess.run(["ninja", "-C", str(build), PROGRAM], check=True, stdout=subprocess.DEVNULL)
-        listed = subprocess.run(["ninja", "-C", str(build), "-t", "commands", PROGRAM], check=True,
-                                capture_output=True, text=True).stdout.splitlines()[-1]
-        self.link = [word for word in shlex.split(listed) if word not in (":", "&&")]
-
-    def run(self, command, seconds=None):
-        try:
-            return subprocess.run(command, cwd=self.build, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                  stderr=subprocess.DEVNULL, timeout=seconds, check=False).returncode
-        except subprocess.TimeoutExpired:
-            return -1
-
-    def judge(self, file, text):
-        """judge gives "killed", "survived", "same" (the object code is as before) or "broken"."""
-        changed = self.folder / pathlib.Path(file).name
-        changed.write_text(text)
-        made = self.folder / (changed.name + ".o")
-        if self.run([*self.commands[file], "-o", str(made), "-c", str(changed)]) != 0:
-            return "broken"
-        if made.read_bytes() == (self.build / OBJECTS / (changed.name + ".o")).read_bytes():
-            return "same"
-        program = self.folder / "rules_test"
-        command = list(self.link)
-        command[command.index("-o") + 1] = str(program)
-        command.insert(command.index("-o") + 2, str(made))  # before the archive, which then has nothing to add
-        if self.run(command) != 0:
-            return "broken"
-        noticed = self.run([str(program), "--gtest_fail_fast", "--gtest_brief=1"], SECONDS)
-        return "killed" if noticed != 0 else "survived"
-
-
-def arguments():
-    parser = argparse.ArgumentParser(prog="scripts/mutate rules", description=__doc__.splitlines()[0])
-    parser.add_argument("--build", default="build/gcc", help="build folder, with tests (default: %(default)s)")
-    parser.add_argument("--files", nargs="+", default=["*"], metavar="PATTERN", help="files of rules/ to change")
-    parser.add_argument("--sample", type=int, metavar="N", help="try N of the mutants only")
-    parser.add_argument("--seed", type=int, default=1, help="which N (default: %(default)s)")
-    parser.add_argument("--list", action="store_true", help="list the mutants, try none")
-    return parser.parse_args()
+def try_all(waiting, texts, workshop, jobs):
+    for file, mutants_of in itertools.groupby(waiting, lambda mutant: mutant.file):
+        left = list(mutants_of)
+        while left:
+            yield from workshop.judged(file, texts[file], left[:TOGETHER], jobs)
+            del left[:TOGETHER]
 
 
 def main():
-    given = arguments()
-    sources = {str(path.relative_to(ROOT)): path.read_text() for path in sorted((ROOT / "rules").glob("*.cpp"))}
-    sources = {file: text for file, text in sources.items()
-               if pathlib.Path(file).stem in EVALUATION or "std::vector<Check> " in text}
-    chosen = [mutant for file, text in sources.items() for mutant in mutants(file, text)
-              if any(fnmatch.fnmatch(file, pattern) for pattern in given.files)]
-    if given.sample is not None:
-        chosen = sorted(random.Random(given.seed).sample(chosen, min(given.sample, len(chosen))))
-    if given.list:
-        print("\n".join(described(mutant, sources[mutant[0]]) for mutant in chosen))
-        return 0
-    workshop = Workshop((ROOT / given.build).resolve())
-    started = time.monotonic()
-    counts = dict.fromkeys(("killed", "survived", "same", "broken"), 0)
-    for number, mutant in enumerate(chosen):
-        file, start, end, replacement = mutant
-        text = sources[file]
-        status = workshop.judge(file, text[:start] + replacement + text[end:])
-        counts[status] += 1
-        if status == "survived":
-            print("[%d/%d] survived %s" % (number + 1, len(chosen), described(mutant, text)), flush=True)
-    counted = counts["killed"] + counts["survived"]
-    score = 100.0 * counts["killed"] / counted if counted else 100.0
-    print("%d mutants (in %.0f s): %d do not build, %d give the same object code" %
-          (len(chosen), time.monotonic() - started, counts["broken"], counts["same"]))
-    print("killed %d of %d: %.2f %%" % (counts["killed"], counted, score))
-    return 1 if score < LEAST_SCORE else 0
+    given = arguments("scripts/mutate rules", __doc__.splitlines()[0], "rules/")
+    texts = {str(path.relative_to(ROOT)): path.read_text() for path in sorted((ROOT / "rules").glob("*.cpp"))}
+    texts = {file: text for file, text in texts.items()
+             if pathlib.Path(file).stem in EVALUATION or "std::vector<Check> " in text}
+    build = (ROOT / given.build).resolve()
+    folder = folder_of(given, build, "mutate_rules")
+    workshop = Workshop(build, folder)
+    results = Results(folder / "results.json", texts, [workshop.program])
+    every = [mutant for file, text in texts.items() for mutant in mutants(file, text)]
+    return conduct(given, every, "equivalent_rules.txt", results, 100.0,
+                   lambda waiting: try_all(waiting, texts, workshop, given.jobs))
 
 
 if __name__ == "__main__":

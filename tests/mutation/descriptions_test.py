@@ -6,7 +6,7 @@ from descriptions import mutants
 
 
 def changes(text):
-    return [(text[start:end], replacement) for _, start, end, replacement in mutants("rules/a.cpp", text)]
+    return [(text[mutant.offset:mutant.end], mutant.replacement) for mutant in mutants("rules/a.cpp", text)]
 
 
 class Descriptions(unittest.TestCase):

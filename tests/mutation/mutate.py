@@ -36,18 +36,13 @@ class Results:
     What survived is tried again when the tests have changed.
     """
 
-    def __init__(self, path, sources, suites):
+    def __init__(self, path, texts, programs):
         self.path = path
-        self.sources = {file: digest(text.encode()) for file, text in sources.text.items()}
-        self.tests = self.digest_of_tests(suites)
+        self.sources = {file: digest(text.encode()) for file, text in texts.items()}
+        tests = [*sorted((ROOT / "vectors").glob("*.ndjson")), *programs]
+        self.tests = digest(b"".join(digest(test.read_bytes()).encode() for test in tests))
         self.known = json.loads(path.read_text()) if path.exists() else {}
         self.saved = time.monotonic()
-
-    @staticmethod
-    def digest_of_tests(suites):
-        paths = sorted((suites.sources.root / "vectors").glob("*.ndjson"))
-        paths += sorted(suites.build.folder / "bin" / name for name in suites.programs)
-        return digest(b"".join(digest(path.read_bytes()).encode() for path in paths))
 
     def key(self, mutant):
         return "%s:%d:%d:%s:%s" % (mutant.file, mutant.offset, mutant.end, mutant.replacement,
@@ -114,7 +109,7 @@ def work(folder, suites, tasks, answers):
         answers.put((number, *judge.judge(mutant)))
 
 
-def try_all(waiting, suites, jobs, folder, results):
+def try_all(waiting, suites, jobs, folder):
     context = multiprocessing.get_context("fork")
     tasks, answers = context.Queue(), context.Queue()
     tasks.cancel_join_thread()  # what nobody will take need not be written
@@ -126,7 +121,7 @@ def try_all(waiting, suites, jobs, folder, results):
         workers.append(context.Process(target=work, daemon=True,
                                        args=(folder / ("worker%d" % number), suites, tasks, answers)))
         workers[-1].start()
-    for done in range(len(waiting)):
+    for _ in waiting:
         while True:
             try:
                 number, status, by = answers.get(timeout=5)
@@ -134,10 +129,7 @@ def try_all(waiting, suites, jobs, folder, results):
             except queue.Empty:
                 if any(worker.exitcode for worker in workers):
                     raise SystemExit("a worker has ended")
-        mutant = waiting[number]
-        results.add(mutant, status, by)
-        if status == "survived":
-            print("[%d/%d] survived %s" % (done + 1, len(waiting), shown(mutant)), flush=True)
+        yield waiting[number], status, by
     for worker in workers:
         worker.join()
 
@@ -146,11 +138,11 @@ def shown(mutant):
     return "%s:%d: %s\n    %s" % (mutant.file, mutant.number, mutant.change, mutant.line)
 
 
-def arguments():
-    parser = argparse.ArgumentParser(prog="scripts/mutate", description=__doc__.splitlines()[0])
+def arguments(command, what, folder):
+    parser = argparse.ArgumentParser(prog=command, description=what)
     parser.add_argument("--build", default="build/gcc", help="build folder, with tests (default: %(default)s)")
     parser.add_argument("--files", nargs="+", default=["*"], metavar="PATTERN",
-                        help='files of src/ to change, such as "*/hosts.cpp"')
+                        help='files of %s to change, such as "*/hosts.cpp"' % folder)
     parser.add_argument("--sample", type=int, metavar="N", help="try N of the mutants only")
     parser.add_argument("--seed", type=int, default=1, help="which N (default: %(default)s)")
     parser.add_argument("--jobs", type=int, default=1, help="mutants tried at a time (default: %(default)s)")
@@ -161,23 +153,19 @@ def arguments():
     return parser.parse_args()
 
 
-def main():
-    given = arguments()
-    signal.signal(signal.SIGTERM, lambda number, frame: sys.exit(128 + number))
-    sources = Sources(ROOT)
-    build = Build((ROOT / given.build).resolve(), sources)
-    suites = Suites(build, sources)
-    build.bring_up_to_date(sorted(suites.programs))
-    folder = build.folder.parent / "mutate"
-    if given.sample is not None:
-        folder = build.folder / "mutate"  # so that a test and a full run can stand beside each other
+def folder_of(given, build, name):
+    """folder_of makes the folder for the work. A test and a full run can stand beside each other."""
+    folder = (build if given.sample is not None else build.parent) / name
     folder.mkdir(parents=True, exist_ok=True)
-    results = Results(folder / "results.json", sources, suites)
+    return folder
+
+
+def conduct(given, every, listed, results, least, try_all):
+    """conduct has all chosen mutants tried of which the result is not known, and tells what became of them."""
+    signal.signal(signal.SIGTERM, lambda number, frame: sys.exit(128 + number))
     if given.fresh or given.sample is not None:
         results.known = {}
-
-    every = [mutant for file in sources.files for mutant in mutants(file, sources.text[file])]
-    equivalents = Listed(ROOT / "tests/mutation/equivalent.txt", every, NAMED)
+    equivalents = Listed(ROOT / "tests/mutation" / listed, every, NAMED)
     chosen = [mutant for mutant in every if any(fnmatch.fnmatch(mutant.file, pattern) for pattern in given.files)]
     if given.equivalents:
         chosen = [mutant for mutant in chosen if mutant in equivalents]
@@ -194,7 +182,10 @@ def main():
                and (given.equivalents or mutant not in equivalents)]
     started = time.monotonic()
     try:
-        try_all(waiting, suites, given.jobs, folder, results)
+        for done, (mutant, status, by) in enumerate(try_all(waiting), 1):
+            results.add(mutant, status, by)
+            if status == "survived":
+                print("[%d/%d] survived %s" % (done, len(waiting), shown(mutant)), flush=True)
     finally:
         results.save()
     if given.equivalents:
@@ -203,10 +194,24 @@ def main():
             print("listed as equivalent, but noticed: " + shown(mutant))
         print("%d listed as equivalent, %d of them noticed" % (len(chosen), len(noticed)))
         return 1 if noticed else 0
-    return report(chosen, results, equivalents, len(waiting), time.monotonic() - started, given)
+    return report(chosen, results, equivalents, len(waiting), time.monotonic() - started, given, least)
 
 
-def report(chosen, results, equivalents, tried, seconds, given):
+def main():
+    given = arguments("scripts/mutate", __doc__.splitlines()[0], "src/")
+    sources = Sources(ROOT)
+    build = Build((ROOT / given.build).resolve(), sources)
+    suites = Suites(build, sources)
+    build.bring_up_to_date(sorted(suites.programs))
+    folder = folder_of(given, build.folder, "mutate")
+    programs = sorted(build.folder / "bin" / name for name in suites.programs)
+    results = Results(folder / "results.json", sources.text, programs)
+    every = [mutant for file in sources.files for mutant in mutants(file, sources.text[file])]
+    return conduct(given, every, "equivalent.txt", results, LEAST_SCORE,
+                   lambda waiting: try_all(waiting, suites, given.jobs, folder))
+
+
+def report(chosen, results, equivalents, tried, seconds, given, least):
     counts = {}
     survivors = []
     for mutant in chosen:
@@ -230,7 +235,7 @@ def report(chosen, results, equivalents, tried, seconds, given):
     stale = equivalents.stale(given.files)
     for entry in stale:
         print("no such mutant any more: " + entry)
-    return 1 if score < LEAST_SCORE or stale else 0
+    return 1 if score < least or stale else 0
 
 
 if __name__ == "__main__":

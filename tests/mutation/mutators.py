@@ -208,11 +208,11 @@ def shown(text):
     return re.sub(r"\s+", " ", text) or "nothing"
 
 
-def mutants(file, text):
+def mutants(file, text, mutators=tuple(MUTATORS)):
     """mutants gives every mutant of a file, in the order of its text."""
     found = tokens(text)
     made = {}
-    for mutator in MUTATORS:
+    for mutator in mutators:
         for start, end, replacement in mutator(found, text):
             if text[start:end] != replacement:
                 made.setdefault((start, end, replacement), None)

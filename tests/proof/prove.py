@@ -69,7 +69,12 @@ def proofs():
     yield Proof("fuzzing", "no relation is broken", "fuzzing", [], [script("fuzz")])
     yield Proof("fuzzing", "every step of every rule is met", "counted, with sanitizers", [],
                 [script("fuzz", "--table")])
+    yield Proof("reasons", "every refusal is given a reason", "a million of them at random", ["gcc"], [
+        Step([str(GCC / "bin" / "fuzz_replay"), "--refusals", "1000000"],
+             r"(\d+ refused, each with an id and a sentence)")])
     yield Proof("mutation", "tests notice every change", "mutation", [], [script("mutate")])
+    yield Proof("mutation", "tests notice every change", "mutation of descriptions", ["gcc"],
+                [script("mutate", "rules")])
 
 
 def build(preset):

@@ -161,18 +161,12 @@ std::string differing(const Pieces& expected, const Pieces& actual)
     return result;
 }
 
-std::size_t limit_of_texts()
-{
-    const char* limit = std::getenv("OSTREL_LONGEST_TEXT");  // NOLINT(concurrency-mt-unsafe)
-    return limit != nullptr ? std::stoul(limit) : std::string::npos;
-}
-
 // Vectors are the rows, read once.
 struct Vectors {
     Vectors()
     {
         for (const Row& row : rows) {
-            if (longest_text(row.given) > limit_of_texts() || asks_the_driver(row)) continue;
+            if (asks_the_driver(row)) continue;
             Expected expected = expected_of(row);
             const auto& [code, out, err, flushed, after] = expected.outcome;
             if (out.empty() && err.empty()) silent.push_back(expected);

@@ -9,6 +9,7 @@
 #include "oracle/library.h"
 #include "oracle/mutator.h"
 #include "tests/rules/candidates.h"
+#include "tests/rules/rows.h"
 
 namespace ostrel::tests {
 
@@ -24,12 +25,6 @@ using rules::Outside;
 namespace {
 
 constexpr std::size_t kMostRows = 3;  // in which candidates are put
-
-const std::vector<Row>& all_rows()
-{
-    static const std::vector<Row> rows = read_cases();
-    return rows;
-}
 
 // A build whose driver lists channels.
 const rules::Build& build() { return oracle::builds_with_channels().front(); }

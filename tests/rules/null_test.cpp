@@ -66,7 +66,7 @@ std::set<std::string> outcomes_in(const std::string& text)
 TEST_P(NullTest, WhatIsSaidIsWhatHappens)
 {
     constexpr std::size_t kMostCalls = 12;
-    const std::vector<Row>& rows = rows_of(function_);
+    const Rows& rows = rows_of(function_);
     const std::size_t distance = std::max<std::size_t>(rows.size() / kMostCalls, 1);
     for (std::size_t i = 0; i < check_.arguments.size(); ++i) {
         const std::string said = rules::null_does(check_, i, oracle::library_build());
@@ -74,7 +74,7 @@ TEST_P(NullTest, WhatIsSaidIsWhatHappens)
         std::set<std::string> met;
         std::set<std::string> tried;
         for (std::size_t r = 0; r < rows.size(); ++r) {
-            std::vector<Value> values = catalogue::completed(function_, rows[r].given.values);
+            std::vector<Value> values = catalogue::completed(function_, rows[r].get().given.values);
             if (std::holds_alternative<long long>(values[i]) && said.empty()) break;
             values[i] = nullptr;
             const auto answer = rules::evaluate(check_, values, oracle::library_build());

@@ -6,12 +6,18 @@ namespace ostrel::tests {
 
 using catalogue::Function;
 
-const std::vector<Row>& rows_of(const Function& function)
+const std::vector<Row>& all_rows()
+{
+    static const std::vector<Row> all = read_cases();
+    return all;
+}
+
+const Rows& rows_of(const Function& function)
 {
     static const auto all = [] {
-        std::map<const Function*, std::vector<Row>> result;
-        for (Row& row : read_cases()) {
-            if (row.elsewhere.empty()) result[row.given.function].push_back(std::move(row));
+        std::map<const Function*, Rows> result;
+        for (const Row& row : all_rows()) {
+            if (row.elsewhere.empty()) result[row.given.function].emplace_back(row);
         }
         return result;
     }();

@@ -1,15 +1,19 @@
-// Rows: those of vectors/, by function.
+// Rows: those of vectors/, read once, and by function.
 #ifndef OSTREL_TESTS_RULES_ROWS_H
 #define OSTREL_TESTS_RULES_ROWS_H
 
+#include <functional>
 #include <vector>
 
 #include "tests/support/vectors.h"
 
 namespace ostrel::tests {
 
+const std::vector<Row>& all_rows();
+
 // rows_of gives the rows of a function that hold on every gateway.
-const std::vector<Row>& rows_of(const catalogue::Function& function);
+using Rows = std::vector<std::reference_wrapper<const Row>>;
+const Rows& rows_of(const catalogue::Function& function);
 
 std::vector<const catalogue::Function*> all_functions();
 

@@ -85,6 +85,7 @@ TEST(SetsTest, AreNamed)
     EXPECT_EQ("0 1 2", in_words(Set("012")));
     EXPECT_EQ("! \" # $", in_words(Set("!\"#$")));
     EXPECT_EQ("a blank", in_words(kBlank));
+    EXPECT_EQ("a quotation mark", in_words(Set("\"")));
 }
 
 TEST(QuotedTest, CanBePrinted)

@@ -62,8 +62,9 @@ struct Row {
     std::optional<RowReason> reason;
 };
 
-// read_rows gives every row of every file, in order. Where modules are named only their files are read. Throws
-// std::invalid_argument where a file has no row or is not there.
+// read_rows gives every row of every file, in order, but those of the module that OSTREL_TEST_FIRST in the environment
+// begins with before all others, and without those that have a longer text than OSTREL_LONGEST_TEXT says. Where modules
+// are named only their files are read. Throws std::invalid_argument where a file has no row or is not there.
 std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 
 // read_cases gives every row of every file. Throws std::invalid_argument for one with a fault.

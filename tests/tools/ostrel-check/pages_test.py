@@ -37,7 +37,9 @@ class Catalogue(unittest.TestCase):
             jsonschema.Draft202012Validator(schema).validate(self.catalogue)
 
     def test_is_whole(self):
-        self.assertEqual(170, len(self.checks))
+        exported = re.findall(r"^    (\w+);", (SOURCE / "abi" / "exports.map").read_text(), re.MULTILINE)
+        self.assertGreater(len(exported), 100)
+        self.assertEqual(set(exported) - {"ostrel_ctype"}, set(self.checks))
 
     def test_declarations_are_those_of_the_headers(self):
         declared = set()

@@ -1,0 +1,160 @@
+"""Adds a check with a range to a copy of the tree, as CONTRIBUTING.md says, builds the copy and runs its tests.
+
+usage: recipe_test.py BUILD_FOLDER SOURCE_FOLDER
+
+Only files that CONTRIBUTING.md names may be touched, at most eight of them by hand. Nothing is compiled twice: what the
+new check does not change is taken from BUILD_FOLDER.
+"""
+
+import json
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+NAME = "L3FORWARDING_check_preference"
+MOST_FILES = 8
+SKIPPED = 77
+PRINTED = "Error in L3FORWARDING_check_preference: Invalid preference:%s, RANGE[1, 255]\n"
+
+# The tests that look at all checks, or at what is made of them.
+TESTS = ("vectors_test|exports_test|misuse_test|abi|headers|shared_object|rules_test|constraints_test|json_schema|"
+         "assertions_test|coverage.*|pages|terminal|explain|reasons|examples_test|hazards|fuzz_replay.new|"
+         "packed_vectors|words_test|docs")
+
+
+def row(value, reason=None):
+    made = {"check": NAME, "args": [value], "code": 402 if reason else 0}
+    if reason:
+        made["reason"] = {"id": reason, "argument": "value", "offset": 0}
+        made["out"] = PRINTED % value
+    return json.dumps(made) + "\n"
+
+
+# By hand: what is added to each file, and what it is added before.
+EDITS = {
+    "vectors/l3forwarding_check.ndjson": ("", "".join([
+        row("1"), row("2"), row("254"), row("255"), row("12 ms"),
+        row("0", "number_too_low"), row("-1", "number_too_low"), row("", "number_too_low"),
+        row("256", "number_too_high"), row("257", "number_too_high"), row("abc", "number_too_low")])),
+    "include/ostrel/l3forwarding_check.h": ("#endif\n", """/*
+ * L3FORWARDING_check_preference: a number of 1 to 255.
+ *
+ * Refuses with "Error in %s: Invalid preference:%s, RANGE[1, 255]\\n" (the value).
+ */
+OSTREL_API int L3FORWARDING_check_preference(const char* value);
+
+"""),
+    "src/l3forwarding_check.cpp": ("", """
+int L3FORWARDING_check_preference(const char* value)
+{
+    return number_or_refuse(
+        value, {1, 255}, line("Error in %s: Invalid preference:%s, RANGE[1, 255]\\n", __func__, value));
+}
+"""),
+    "abi/exports.map": ("    L3FORWARDING_check_MTU;\n", "    L3FORWARDING_check_preference;\n"),
+    "rules/l3forwarding_check.cpp": ("""        check("L3FORWARDING_check_MTU",""", """        check("L3FORWARDING_check_preference", {text("value", "the preference of the route")},
+              {refuse(402, below(1),
+                      line("Error in L3FORWARDING_check_preference: Invalid preference:<value>, RANGE[1, 255]\\n")),
+               refuse(402, above(255),
+                      line("Error in L3FORWARDING_check_preference: Invalid preference:<value>, RANGE[1, 255]\\n"))}),
+"""),
+    "catalogue/functions.cpp": ("             check<L3FORWARDING_check_MTU>", """             check<L3FORWARDING_check_preference>("L3FORWARDING_check_preference"),
+"""),
+    "examples/routes.txt": ("", """
+L3FORWARDING_check_preference 1
+L3FORWARDING_check_preference 256
+"""),
+    "CHANGELOG.md": ("\n## ", "\n- `L3FORWARDING_check_preference`.\n"),
+}
+# What makes the rest, as CONTRIBUTING.md has it.
+GENERATORS = ["scripts/hazards", "scripts/abi --accept"]
+
+
+def run(command, folder):
+    done = subprocess.run(command, cwd=folder, check=False, text=True, errors="replace", stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    if done.returncode != 0:
+        raise AssertionError("%s\n%s" % (" ".join(map(str, command)), done.stdout[-8000:]))
+    return done.stdout
+
+
+class Copy:
+    """Copy is the tree as it would be committed, in a folder of its own, with a build folder that takes what is not
+    compiled otherwise from another one."""
+
+    def __init__(self, folder):
+        self.folder = folder
+        listed = run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], SOURCE).split("\0")
+        self.files = [name for name in listed if name and (SOURCE / name).exists()]
+        for name in self.files:
+            (folder / name).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy2(SOURCE / name, folder / name, follow_symlinks=False)
+
+    def edit(self, name, anchor, text):
+        path = self.folder / name
+        before = path.read_text(encoding="utf-8")
+        at = before.rindex(anchor) if anchor else len(before)
+        path.write_text(before[:at] + text + before[at:], encoding="utf-8")
+
+    def touched(self):
+        return {name for name in self.files
+                if (SOURCE / name).is_file() and (SOURCE / name).read_bytes() != (self.folder / name).read_bytes()}
+
+    def keep(self, made):
+        """keep links the objects of the other build that nothing changes which is touched or says where the tree is."""
+        commands = json.loads((BUILD / "compile_commands.json").read_text())
+        places = {name for command in commands
+                  for name in re.findall(r"-D(\w+)=\S*%s" % re.escape(str(SOURCE)), command["command"])}
+        others = {str(SOURCE / name) for name in self.touched()}
+        for name in self.files:
+            if re.search(r"\.(cpp|c|h)$", name):
+                text = (SOURCE / name).read_text(encoding="utf-8")
+                if any(place in text for place in places):
+                    others.add(str(SOURCE / name))
+        for part in re.split(r"\n\n+", run(["ninja", "-C", str(BUILD), "-t", "deps"], SOURCE)):
+            name, *needed = [line.strip() for line in part.splitlines()]
+            found = re.match(r"(\S+\.o): #deps .*\(VALID\)", name)
+            if found and not any(path in others or path.startswith(str(BUILD)) or not path.startswith("/")
+                                 for path in needed):
+                (made / found[1]).parent.mkdir(parents=True, exist_ok=True)
+                (made / found[1]).symlink_to(BUILD / found[1])
+
+
+class Recipe(unittest.TestCase):
+    def test_a_check_with_a_range(self):
+        guide = (SOURCE / "CONTRIBUTING.md").read_text(encoding="utf-8").replace("<module>", "l3forwarding_check")
+        recipe = guide.partition("## Adding a check")[2].partition("\n## ")[0]
+        self.assertLessEqual(len(EDITS), MOST_FILES)
+        with tempfile.TemporaryDirectory(dir=BUILD) as scratch:
+            folder, made = pathlib.Path(scratch, "tree"), pathlib.Path(scratch, "made")
+            copy = Copy(folder)
+            for name, (anchor, text) in EDITS.items():
+                copy.edit(name, anchor, text)
+            self.assertEqual(set(EDITS), copy.touched())
+            copy.keep(made)
+            take = "%s;%s" % (HERE / "take", made)
+            run(["cmake", "--preset", "gcc", "-DCMAKE_C_COMPILER_LAUNCHER=" + take,
+                 "-DCMAKE_CXX_COMPILER_LAUNCHER=" + take], folder)
+            run(["cmake", "--build", "--preset", "gcc"], folder)
+            for command in GENERATORS:
+                self.assertIn("`%s`" % command, recipe)
+                run(command.split(), folder)
+            run(["cmake", "--build", "--preset", "gcc"], folder)
+            for name in copy.touched():
+                self.assertTrue("`%s`" % name in recipe or "`%s/`" % name.partition("/")[0] in recipe, name)
+            run(["ctest", "--test-dir", "build/gcc", "--no-tests=error", "--output-on-failure", "-LE", "all",
+                 "-R", "^(%s)$" % TESTS], folder)
+            run(["build/gcc/bin/fuzz_replay", "--check", NAME, "--random", "100000", "--floor", "100"], folder)
+
+
+if __name__ == "__main__":
+    HERE = pathlib.Path(__file__).resolve().parent
+    BUILD, SOURCE = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
+    if not (SOURCE / ".git").exists():
+        print("skipped: this is no clone")
+        sys.exit(SKIPPED)
+    unittest.main(argv=sys.argv[:1])
