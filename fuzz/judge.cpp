@@ -115,8 +115,7 @@ Verdict Judge::run(std::string_view input, const rules::Build& build, rules::Cou
     if (answer.is_refusal) ++refused_;
     if (answer.is_refusal && fault_.empty()) {
         std::string wrong = unsaid(answer.reason);
-        if (wrong.empty())
-            wrong = follower_.follow(*entry.check, values_, build, answer, compare, further);
+        if (wrong.empty()) wrong = follower_.follow(*entry.check, values_, build, answer, compare, further);
         if (!wrong.empty() && fault_.empty()) {
             fault_ = "advice:  " + wrong + "\nrefused: " + oracle::shown_call(*entry.function, values_) +
                      "\nthen:    " + oracle::shown_call(*entry.function, follower_.fault_call()) + "\n";

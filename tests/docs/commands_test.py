@@ -35,7 +35,7 @@ FILES = {"packaging/wlctl"}
 # Words with blanks between them that are no command.
 TEXTS = {"lan_check: refuse an address without a dot"}
 # What stands for something else, and an example of it.
-FOR_EXAMPLE = {"FILE": "examples/lan.txt", "<module>": "lan_check"}
+FOR_EXAMPLE = {"FILE": "examples/lan.txt", "<module>": "l3forwarding_check"}
 
 # A daemon around the lines of C that show how the library is used.
 DAEMON = """%s
