@@ -10,6 +10,9 @@
 
 namespace ostrel::tool {
 
+// is_number tells that an argument takes a number.
+bool is_number(const catalogue::Argument& argument);
+
 // bind_check finds the check that the record names. Throws std::invalid_argument with a message for the user.
 const catalogue::Function& bind_check(const Record& record);
 
@@ -18,6 +21,9 @@ const catalogue::Function& bind_check(const Record& record);
 // together. values keeps its memory. Throws std::invalid_argument with a message for the user.
 void bind(const catalogue::Function& function, std::span<const Item> items,
           std::vector<catalogue::Value>& values);
+
+// without_spares leaves out the items of a record that mean nothing to the check.
+std::span<const Item> without_spares(const catalogue::Function& function, const Record& record);
 
 }  // namespace ostrel::tool
 

@@ -11,14 +11,20 @@
 
 namespace ostrel::tool {
 
-// Cut is what a cutter found at the front of the bytes that have arrived.
+// kLongestText is how long a line may be, a row of CSV, or an element of an array.
+inline constexpr std::size_t kLongestText = std::size_t{16} << 20;
+
+// Cut is what a cutter found at the front of the bytes that have arrived. With all of it empty, more must arrive.
 struct Cut {
-    std::size_t size = 0;      // bytes of whole texts, as Reader::next takes them
-    bool is_preamble = false;  // they are the file's preamble, and no record
-    std::string problem;       // why nothing can be read at the place behind size, for the user
-    bool ends_file = false;    // and nothing behind that either
+    std::size_t dropped = 0;     // bytes at the front that belong to no record
+    std::size_t preamble = 0;    // bytes after those that are the preamble of the file
+    std::size_t size = 0;        // bytes after those that are whole texts, as Reader::next takes them
+    std::string problem;         // why nothing can be read at the place after those, for the user
+    std::size_t problem_at = 0;  // that place, counted from their end
+    bool ends_file = false;      // and nothing after it either
 };
 
+// A cutter keeps state, one for each file.
 class Cutter {
  public:
     Cutter() = default;
@@ -26,8 +32,8 @@ class Cutter {
     Cutter& operator=(const Cutter&) = delete;
     virtual ~Cutter() = default;
 
-    // cut is given all bytes that were not cut off before, and again when more have arrived. At the end of the file
-    // is_end is set, and what is there is all there is.
+    // cut is given all bytes that were neither dropped nor cut off before, and again when more have arrived; at most
+    // kLongestText and one more. Once is_end is set, no more will, and all of them are dropped or cut off.
     virtual Cut cut(std::string_view bytes, bool is_end) = 0;
 };
 

@@ -39,6 +39,7 @@ struct Record {
     std::vector<Item> items;
     std::vector<Member>
         members;  // "id" and "parameter" among them, in the order of the record, no name twice
+    bool may_have_spares = false;  // items that the check does not take and that are empty mean nothing
 
     void clear()
     {
@@ -46,6 +47,7 @@ struct Record {
         path = {};
         items.clear();
         members.clear();
+        may_have_spares = false;
     }
 
     // find returns the last member of that name, or NULL.

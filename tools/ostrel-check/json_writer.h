@@ -1,0 +1,35 @@
+// Values of calls as JSON, by RapidJSON.
+#ifndef OSTREL_TOOLS_JSON_WRITER_H
+#define OSTREL_TOOLS_JSON_WRITER_H
+
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include <string>
+#include <string_view>
+
+#include "catalogue/caller.h"
+#include "read/encoding.h"
+#include "read/record.h"
+
+namespace ostrel::tool {
+
+using JsonWriter = rapidjson::Writer<rapidjson::StringBuffer>;
+
+// write_text writes a text in UTF-8; what is not valid is escaped as \xNN.
+void write_text(JsonWriter& json, std::string_view text);
+
+// write_bytes writes bytes of a value as a text, or as {"base64": text} where they do not decode.
+void write_bytes(JsonWriter& json, std::string_view bytes, Encoding encoding);
+
+void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encoding);
+
+// write_member writes the value of a member that is passed through.
+void write_member(JsonWriter& json, const Member& member);
+
+// append_bytes is write_bytes where JSON is made without a writer.
+void append_bytes(std::string& out, std::string_view bytes, Encoding encoding);
+
+}  // namespace ostrel::tool
+
+#endif

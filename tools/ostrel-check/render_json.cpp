@@ -1,0 +1,139 @@
+#include <algorithm>
+#include <array>
+
+#include "json_writer.h"
+#include "reason.h"
+#include "render.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+// What a result says itself. A member of that name that came in is put into "given".
+constexpr std::array<std::string_view, 15> kOwn = {"file",    "line",   "check",   "verdict", "code",
+                                                   "meaning", "reason", "remarks", "out",     "flushed",
+                                                   "err",     "cut",    "after",   "args",    "given"};
+
+bool is_own(std::string_view name) { return std::ranges::find(kOwn, name) != kOwn.end(); }
+
+// Line writes one line after the other, with the same memory.
+class Line {
+ public:
+    Line() : json_(buffer_) {}
+
+    std::string_view write(const Style& style, const Place& place, const Result& result)
+    {
+        constexpr std::size_t kMostKept = std::size_t{1} << 20;
+        if (buffer_.GetSize() > kMostKept) {
+            buffer_.Clear();
+            buffer_.ShrinkToFit();
+        }
+        buffer_.Clear();
+        json_.Reset(buffer_);
+        encoding_ = style.encoding;
+        json_.StartObject();
+        if (style.format != Format::kStream) member("file", place.file);
+        key("line");
+        json_.Uint64(place.line);
+        write_passed(result);
+        write_verdict(result);
+        if (style.with_args) write_args(result);
+        write_reasons(json_, result, encoding_);
+        if (result.verdict != Verdict::kMalformed) write_effects(result);
+        json_.EndObject();
+        buffer_.Put('\n');
+        return {buffer_.GetString(), buffer_.GetSize()};
+    }
+
+ private:
+    void key(std::string_view name) { json_.Key(name.data(), static_cast<rapidjson::SizeType>(name.size())); }
+
+    void member(std::string_view name, std::string_view text)
+    {
+        key(name);
+        write_text(json_, text);
+    }
+
+    void write_passed(const Result& result)
+    {
+        if (result.record == nullptr) return;
+        bool has_own = false;
+        for (const Member& passed : result.record->members) {
+            if (is_own(passed.name)) {
+                has_own = true;
+                continue;
+            }
+            key(passed.name);
+            write_member(json_, passed);
+        }
+        if (!result.record->path.empty()) member("path", result.record->path);
+        if (!has_own) return;
+        key("given");
+        json_.StartObject();
+        for (const Member& passed : result.record->members) {
+            if (!is_own(passed.name)) continue;
+            key(passed.name);
+            write_member(json_, passed);
+        }
+        json_.EndObject();
+    }
+
+    void write_verdict(const Result& result)
+    {
+        if (result.function != nullptr) member("check", result.function->name);
+        member("verdict", json_name(result.verdict));
+        key("code");
+        if (has_code(result.verdict)) {
+            json_.Int(result.code);
+            member("meaning",
+                   result.verdict == Verdict::kAnswer ? "a number" : catalogue::meaning(result.code));
+        } else {
+            json_.Null();
+            member("meaning", result.problem);
+        }
+    }
+
+    void write_args(const Result& result)
+    {
+        if (result.verdict == Verdict::kMalformed || result.values == nullptr) return;
+        key("args");
+        json_.StartArray();
+        for (const catalogue::Value& value : *result.values) write_value(json_, value, encoding_);
+        json_.EndArray();
+    }
+
+    void write_effects(const Result& result)
+    {
+        key("out");
+        write_bytes(json_, result.printed.out, encoding_);
+        key("flushed");
+        json_.Bool(result.printed.flushed == result.printed.out.size());
+        key("err");
+        write_bytes(json_, result.printed.err, encoding_);
+        if (result.printed.cut) {
+            key("cut");
+            json_.Bool(true);
+        }
+        key("after");
+        json_.StartObject();
+        for (const catalogue::Written& written : result.after) {
+            key(written.argument->name);
+            write_value(json_, written.value, encoding_);
+        }
+        json_.EndObject();
+    }
+
+    rapidjson::StringBuffer buffer_;
+    JsonWriter json_;
+    Encoding encoding_ = Encoding::kUtf8;
+};
+
+}  // namespace
+
+void append_json(std::string& out, const Style& style, const Place& place, const Result& result)
+{
+    static Line line;
+    out += line.write(style, place, result);
+}
+
+}  // namespace ostrel::tool
