@@ -68,9 +68,15 @@ void append_json_text(std::string& out, std::string_view bytes)
     out += '"';
 }
 
-void append_json_reason(std::string& out, const Reason& given, const Check& check, AppendBytes append_bytes)
+void append_json_reason(std::string& out, const Reason& given, const Check& check)
 {
     const Reason reason = without_secret(given, check);
+    append_json_told(out, reason, full_sentence(reason, check), append_json_text);
+}
+
+void append_json_told(std::string& out, const Reason& reason, std::string_view sentence,
+                      AppendBytes append_bytes)
+{
     const auto add_text = [&](std::string_view name, std::string_view text) {
         if (text.empty()) return;
         out.append(",\"").append(name).append("\":");
@@ -95,7 +101,7 @@ void append_json_reason(std::string& out, const Reason& given, const Check& chec
     add_number("read_as", reason.read_as);
     add_text("limit", reason.limit);
     out += ",\"text\":";
-    append_json_text(out, full_sentence(reason, check));
+    append_json_text(out, sentence);
     out += '}';
 }
 

@@ -2,7 +2,6 @@
 #ifndef OSTREL_TOOLS_ARENA_H
 #define OSTREL_TOOLS_ARENA_H
 
-#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstddef>
@@ -21,6 +20,9 @@ namespace ostrel::tool {
 inline constexpr std::size_t kChunk = std::size_t{256} << 10;
 inline constexpr std::size_t kOutput = std::size_t{256} << 20;
 
+// count_lines counts the line ends of a text.
+std::uint64_t count_lines(std::string_view text);
+
 // Progress is how far a worker has come with its chunk.
 struct Progress {
     std::size_t read = 0;  // bytes of the input
@@ -35,7 +37,7 @@ struct Progress {
         part = has_more ? part + 1 : 0;
         if (has_more) return;
         read += text.size();
-        line += static_cast<std::uint64_t>(std::count(text.begin(), text.end(), '\n'));
+        line += count_lines(text);
     }
 };
 

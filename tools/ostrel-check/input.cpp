@@ -16,15 +16,6 @@
 
 namespace ostrel::tool {
 
-namespace {
-
-std::uint64_t count_lines(std::string_view text)
-{
-    return static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
-}
-
-}  // namespace
-
 Input::Input(const std::vector<std::string>& files, const Reading& reading)
     : files_(&files), reading_(&reading), buffer_(kChunk)
 {
@@ -156,7 +147,8 @@ std::optional<Chunk> Input::next_chunk()
         if (cut.preamble > 0 && !take_preamble(cut.preamble)) return next_chunk();
         problem_ = cut.problem;
         ends_file_ = cut.ends_file;
-        problem_line_ = line_ + count_lines(rest().substr(0, cut.size + cut.problem_at));
+        if (!problem_.empty())
+            problem_line_ = line_ + count_lines(rest().substr(0, cut.size + cut.problem_at));
         if (cut.size > 0) {
             Chunk chunk = make_chunk();
             chunk.text = rest().substr(0, cut.size);

@@ -1,5 +1,8 @@
 #include "json_writer.h"
 
+#include <cstdint>
+#include <cstring>
+
 #include "rules/reason_json.h"
 #include "show.h"
 
@@ -7,38 +10,67 @@ namespace ostrel::tool {
 
 namespace {
 
-void write_string(JsonWriter& json, std::string_view text)
+// needs_no_escapes looks at eight bytes at once.
+bool needs_no_escapes(std::string_view text)
 {
-    json.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
+    constexpr std::uint64_t kOnes = 0x0101010101010101;
+    constexpr std::uint64_t kHighs = 0x80 * kOnes;
+    const auto has_zero = [](std::uint64_t eight) { return (eight - kOnes) & ~eight & kHighs; };
+    std::size_t at = 0;
+    for (; at + 8 <= text.size(); at += 8) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, text.data() + at, sizeof eight);
+        const std::uint64_t is_low = (eight - 0x20 * kOnes) & ~eight & kHighs;
+        if ((is_low | has_zero(eight ^ '"' * kOnes) | has_zero(eight ^ '\\' * kOnes)) != 0) return false;
+    }
+    for (const char c : text.substr(at)) {
+        if (static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\') return false;
+    }
+    return true;
 }
 
 }  // namespace
 
+void JsonWriter::raw(std::string_view json)
+{
+    Prefix(rapidjson::kStringType);
+    std::memcpy(os_->Push(json.size()), json.data(), json.size());
+}
+
+void JsonWriter::text(std::string_view text)
+{
+    if (needs_no_escapes(text)) {
+        plain(text);
+    } else {
+        String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
+    }
+}
+
 void write_text(JsonWriter& json, std::string_view text)
 {
     if (valid_utf8(text) == text.size()) {
-        write_string(json, text);
+        json.text(text);
         return;
     }
     std::string escaped;
     append_escaped(escaped, text, text.size());
-    write_string(json, escaped);
+    json.text(escaped);
 }
 
 void write_bytes(JsonWriter& json, std::string_view bytes, Encoding encoding)
 {
     if (is_ascii(bytes)) {
-        write_string(json, bytes);
+        json.text(bytes);
         return;
     }
     const std::string text = utf8_of(bytes, encoding);
     if (valid_utf8(text) == text.size()) {
-        write_string(json, text);
+        json.text(text);
         return;
     }
     json.StartObject();
-    json.Key("base64");
-    write_string(json, base64_of(bytes));
+    json.plain("base64");
+    json.plain(base64_of(bytes));
     json.EndObject();
 }
 
@@ -60,8 +92,7 @@ void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encod
 void write_member(JsonWriter& json, const Member& member)
 {
     if (member.is_json) {
-        // The writer only asks for the type where a name could be meant.
-        json.RawValue(member.value.data(), member.value.size(), rapidjson::kStringType);
+        json.raw(member.value);
     } else {
         write_bytes(json, member.value, Encoding::kUtf8);
     }

@@ -5,6 +5,7 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -14,7 +15,28 @@
 
 namespace ostrel::tool {
 
-using JsonWriter = rapidjson::Writer<rapidjson::StringBuffer>;
+// JsonWriter copies what needs no escapes, and the JSON that it is given, at once; RapidJSON's own writer goes through both
+// byte by byte, which takes half of the time that a result takes.
+class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
+ public:
+    using Writer::Writer;
+
+    // plain writes a text that is known to need no escapes: the name of a member, or of a verdict.
+    void plain(std::string_view text)
+    {
+        Prefix(rapidjson::kStringType);
+        char* place = os_->Push(text.size() + 2);
+        *place = '"';
+        std::memcpy(place + 1, text.data(), text.size());
+        place[text.size() + 1] = '"';
+    }
+
+    // raw writes JSON.
+    void raw(std::string_view json);
+
+    // text writes a text that is valid UTF-8.
+    void text(std::string_view text);
+};
 
 // write_text writes a text in UTF-8; what is not valid is escaped as \xNN.
 void write_text(JsonWriter& json, std::string_view text);

@@ -76,17 +76,17 @@ void write_reasons(JsonWriter& json, const Result& result, Encoding encoding)
     const rules::Check& check = *result.function->check;
     const rules::AppendBytes append = encoding == Encoding::kUtf8 ? append_utf8 : rules::append_json_text;
     static std::string text;
-    const auto write = [&](const Reason& reason) {
+    const auto write = [&](const Reason& reason, std::string_view sentence) {
         text.clear();
-        rules::append_json_reason(text, reason, check, append);
-        json.RawValue(text.data(), text.size(), rapidjson::kObjectType);
+        rules::append_json_told(text, reason, sentence, append);
+        json.raw(text);
     };
-    json.Key("reason");
-    write(why.reason);
+    json.plain("reason");
+    write(why.reason, why.text);
     if (why.remarks.empty()) return;
-    json.Key("remarks");
+    json.plain("remarks");
     json.StartArray();
-    for (const Reason& remark : why.remarks) write(remark);
+    for (const Reason& remark : why.remarks) write(remark, rules::full_sentence(remark, check));
     json.EndArray();
 }
 

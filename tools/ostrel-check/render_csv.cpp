@@ -77,7 +77,7 @@ std::string others_of(const Result& result)
         json.StartObject();
         for (const Member& member : result.record->members) {
             if (has_column(member)) continue;
-            json.Key(member.name.data(), static_cast<rapidjson::SizeType>(member.name.size()));
+            json.text(member.name);
             write_member(json, member);
         }
         json.EndObject();

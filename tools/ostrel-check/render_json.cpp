@@ -33,7 +33,7 @@ class Line {
         encoding_ = style.encoding;
         json_.StartObject();
         if (style.format != Format::kStream) member("file", place.file);
-        key("line");
+        json_.plain("line");
         json_.Uint64(place.line);
         write_passed(result);
         write_verdict(result);
@@ -46,11 +46,9 @@ class Line {
     }
 
  private:
-    void key(std::string_view name) { json_.Key(name.data(), static_cast<rapidjson::SizeType>(name.size())); }
-
     void member(std::string_view name, std::string_view text)
     {
-        key(name);
+        json_.plain(name);
         write_text(json_, text);
     }
 
@@ -63,16 +61,16 @@ class Line {
                 has_own = true;
                 continue;
             }
-            key(passed.name);
+            json_.text(passed.name);
             write_member(json_, passed);
         }
         if (!result.record->path.empty()) member("path", result.record->path);
         if (!has_own) return;
-        key("given");
+        json_.plain("given");
         json_.StartObject();
         for (const Member& passed : result.record->members) {
             if (!is_own(passed.name)) continue;
-            key(passed.name);
+            json_.text(passed.name);
             write_member(json_, passed);
         }
         json_.EndObject();
@@ -80,9 +78,13 @@ class Line {
 
     void write_verdict(const Result& result)
     {
-        if (result.function != nullptr) member("check", result.function->name);
-        member("verdict", json_name(result.verdict));
-        key("code");
+        if (result.function != nullptr) {
+            json_.plain("check");
+            json_.plain(result.function->name);
+        }
+        json_.plain("verdict");
+        json_.plain(json_name(result.verdict));
+        json_.plain("code");
         if (has_code(result.verdict)) {
             json_.Int(result.code);
             member("meaning",
@@ -96,7 +98,7 @@ class Line {
     void write_args(const Result& result)
     {
         if (result.verdict == Verdict::kMalformed || result.values == nullptr) return;
-        key("args");
+        json_.plain("args");
         json_.StartArray();
         for (const catalogue::Value& value : *result.values) write_value(json_, value, encoding_);
         json_.EndArray();
@@ -104,20 +106,20 @@ class Line {
 
     void write_effects(const Result& result)
     {
-        key("out");
+        json_.plain("out");
         write_bytes(json_, result.printed.out, encoding_);
-        key("flushed");
+        json_.plain("flushed");
         json_.Bool(result.printed.flushed == result.printed.out.size());
-        key("err");
+        json_.plain("err");
         write_bytes(json_, result.printed.err, encoding_);
         if (result.printed.cut) {
-            key("cut");
+            json_.plain("cut");
             json_.Bool(true);
         }
-        key("after");
+        json_.plain("after");
         json_.StartObject();
         for (const catalogue::Written& written : result.after) {
-            key(written.argument->name);
+            json_.plain(written.argument->name);
             write_value(json_, written.value, encoding_);
         }
         json_.EndObject();

@@ -42,8 +42,8 @@ void Slot::give(const Chunk& chunk)
     arena_->format = chunk.format;
     arena_->preamble_size = chunk.preamble.size();
     arena_->input_size = chunk.preamble.size() + chunk.text.size();
-    std::ranges::copy(chunk.preamble, arena_->input.begin());
-    std::ranges::copy(chunk.text, arena_->input.begin() + static_cast<std::ptrdiff_t>(chunk.preamble.size()));
+    std::memcpy(arena_->input.data(), chunk.preamble.data(), chunk.preamble.size());
+    std::memcpy(arena_->input.data() + chunk.preamble.size(), chunk.text.data(), chunk.text.size());
     Progress progress;
     progress.read = chunk.preamble.size();
     progress.line = chunk.line;

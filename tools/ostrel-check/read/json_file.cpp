@@ -27,7 +27,7 @@ struct Element {
     {
         while (at < text.size() && !is_whole) {
             if (is_in_string) {
-                at = std::min(text.find_first_of("\"\\", at), text.size());
+                while (at < text.size() && text[at] != '"' && text[at] != '\\') ++at;
                 if (at == text.size()) return;
                 if (text[at] == '\\' && at + 1 == text.size()) return;
                 is_in_string = text[at] != '"';
@@ -54,9 +54,9 @@ struct Element {
             return;
         }
         ++at;
-        if (depth > 0 && !is_in_string && !is_whole) {
-            at = std::min(text.find_first_of("\"{}[]", at), text.size());
-        }
+        if (depth == 0 || is_in_string || is_whole) return;
+        const auto is_bracket = [](char one) { return one == '{' || one == '}' || one == '[' || one == ']'; };
+        while (at < text.size() && text[at] != '"' && !is_bracket(text[at])) ++at;
     }
 };
 

@@ -34,6 +34,7 @@ void JsonObject::read(std::string_view text, Record& record)
     text_ = text;
     record_ = &record;
     has_escapes_ = text.find('\\') != std::string_view::npos;
+    has_line_ends_ = text.find('\n') != std::string_view::npos || text.find('\r') != std::string_view::npos;
     place_ = Place::kObject;
     depth_ = 0;
     skipped_ = 0;
@@ -105,7 +106,7 @@ bool JsonObject::String(const char* begin, rapidjson::SizeType size, bool /*copy
     }
     if (place_ != Place::kPassed) return scalar(Item::Kind::kText, text, {});
     const std::size_t at = parser_.offset_of(begin) - 1;
-    pass(text_.substr(at, end_of_string(text_, at) - at));
+    pass(text_.substr(at, has_escapes_ ? end_of_string(text_, at) - at : size + 2));
     return true;
 }
 
@@ -207,7 +208,7 @@ void JsonObject::pass(std::string_view token)
         complain("the record has more than " + std::to_string(kMostMembers) + " members");
         return;
     }
-    if (token.find_first_of("\r\n") != std::string_view::npos) {
+    if (has_line_ends_) {
         const std::size_t begin = scratch_.size();
         append_compact(scratch_, token);
         token = std::string_view(scratch_).substr(begin);

@@ -77,6 +77,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     std::string_view text_;
     Record* record_ = nullptr;
     bool has_escapes_ = false;
+    bool has_line_ends_ = false;
     Place place_ = Place::kObject;
     Place outside_texts_ = Place::kItems;
     Place outside_wrapping_ = Place::kItems;
