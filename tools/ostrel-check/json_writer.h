@@ -31,6 +31,14 @@ class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
         place[text.size() + 1] = '"';
     }
 
+    // members writes some members of an object at once, as they are to be written.
+    void members(std::string_view json)
+    {
+        Prefix(rapidjson::kStringType);
+        ++level_stack_.template Top<Level>()->valueCount;
+        std::memcpy(os_->Push(json.size()), json.data(), json.size());
+    }
+
     // raw writes JSON.
     void raw(std::string_view json);
 

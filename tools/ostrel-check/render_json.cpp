@@ -82,6 +82,10 @@ class Line {
             json_.plain("check");
             json_.plain(result.function->name);
         }
+        if (result.verdict == Verdict::kAccepted) {
+            json_.members(R"("verdict":"accepted","code":0,"meaning":"valid")");
+            return;
+        }
         json_.plain("verdict");
         json_.plain(json_name(result.verdict));
         json_.plain("code");
@@ -106,13 +110,18 @@ class Line {
 
     void write_effects(const Result& result)
     {
+        const catalogue::PrintedView& printed = result.printed;
+        if (printed.out.empty() && printed.err.empty() && !printed.cut && result.after.empty()) {
+            json_.members(R"("out":"","flushed":true,"err":"","after":{})");
+            return;
+        }
         json_.plain("out");
-        write_bytes(json_, result.printed.out, encoding_);
+        write_bytes(json_, printed.out, encoding_);
         json_.plain("flushed");
-        json_.Bool(result.printed.flushed == result.printed.out.size());
+        json_.Bool(printed.flushed == printed.out.size());
         json_.plain("err");
-        write_bytes(json_, result.printed.err, encoding_);
-        if (result.printed.cut) {
+        write_bytes(json_, printed.err, encoding_);
+        if (printed.cut) {
             json_.plain("cut");
             json_.Bool(true);
         }
