@@ -41,6 +41,21 @@ class Catalogue(unittest.TestCase):
         self.assertGreater(len(exported), 100)
         self.assertEqual(set(exported) - {"ostrel_ctype"}, set(self.checks))
 
+    def test_characters_are_bytes(self):
+        self.assertIn("\u00e9 is the two bytes 0xC3 and 0xA9, here \u00c3\u00a9", self.catalogue["texts"])
+        form = self.checks["TcmValidatePPPPassword"]["arguments"][0]["constraints"]
+        self.assertIn("\u00e9", form["characters"])
+        for encoding in ("utf-8", "latin-1"):
+            for c in "\u00e9\u00df\u00a0\u0100":
+                line = json.dumps({"check": "TcmValidatePPPPassword", "args": [c]})
+                verdict = json.loads(output_of(PROGRAM, "batch", "--json", "--encoding", encoding, text=line,
+                                               status=(0, 1, 2)).splitlines()[0])["verdict"]
+                if encoding == "latin-1" and c > "\xff":
+                    self.assertEqual("malformed", verdict)
+                else:
+                    is_allowed = all(chr(byte) in form["characters"] for byte in c.encode(encoding))
+                    self.assertEqual("accepted" if is_allowed else "refused", verdict, (encoding, c))
+
     def test_declarations_are_those_of_the_headers(self):
         declared = set()
         for header in (SOURCE / "include").rglob("*.h"):

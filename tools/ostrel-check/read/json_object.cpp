@@ -30,11 +30,9 @@ JsonObject::JsonObject(const Reading& reading)
 void JsonObject::read(std::string_view text, Record& record)
 {
     record.clear();
-    require_json(text);
+    kinds_ = require_json(text);
     text_ = text;
     record_ = &record;
-    has_escapes_ = text.find('\\') != std::string_view::npos;
-    has_line_ends_ = text.find('\n') != std::string_view::npos || text.find('\r') != std::string_view::npos;
     place_ = Place::kObject;
     depth_ = 0;
     skipped_ = 0;
@@ -90,7 +88,7 @@ bool JsonObject::RawNumber(const char* begin, rapidjson::SizeType size, bool /*c
 bool JsonObject::String(const char* begin, rapidjson::SizeType size, bool /*copy*/)
 {
     const std::string_view text(begin, size);
-    if (has_escapes_ && valid_utf8(text) < size) {
+    if (kinds_.has_backslashes && valid_utf8(text) < size) {
         complain(describe(rapidjson::kParseErrorStringUnicodeSurrogateInvalid));
     }
     if (skipped_ > 0) return true;
@@ -106,7 +104,7 @@ bool JsonObject::String(const char* begin, rapidjson::SizeType size, bool /*copy
     }
     if (place_ != Place::kPassed) return scalar(Item::Kind::kText, text, {});
     const std::size_t at = parser_.offset_of(begin) - 1;
-    pass(text_.substr(at, has_escapes_ ? end_of_string(text_, at) - at : size + 2));
+    pass(text_.substr(at, kinds_.has_backslashes ? end_of_string(text_, at) - at : size + 2));
     return true;
 }
 
@@ -145,7 +143,7 @@ bool JsonObject::scalar(Item::Kind kind, std::string_view text, std::string_view
 bool JsonObject::Key(const char* begin, rapidjson::SizeType size, bool /*copy*/)
 {
     const std::string_view name(begin, size);
-    if (has_escapes_ && valid_utf8(name) < size) {
+    if (kinds_.has_backslashes && valid_utf8(name) < size) {
         complain(describe(rapidjson::kParseErrorStringUnicodeSurrogateInvalid));
     }
     if (skipped_ > 0) return true;
@@ -208,7 +206,7 @@ void JsonObject::pass(std::string_view token)
         complain("the record has more than " + std::to_string(kMostMembers) + " members");
         return;
     }
-    if (has_line_ends_) {
+    if (kinds_.has_controls) {
         const std::size_t begin = scratch_.size();
         append_compact(scratch_, token);
         token = std::string_view(scratch_).substr(begin);

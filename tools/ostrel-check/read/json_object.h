@@ -76,8 +76,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     // Of the record that is being read.
     std::string_view text_;
     Record* record_ = nullptr;
-    bool has_escapes_ = false;
-    bool has_line_ends_ = false;
+    Kinds kinds_;
     Place place_ = Place::kObject;
     Place outside_texts_ = Place::kItems;
     Place outside_wrapping_ = Place::kItems;

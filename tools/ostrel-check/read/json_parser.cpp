@@ -3,6 +3,8 @@
 #include <rapidjson/error/en.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <stdexcept>
 
 #include "read/encoding.h"
@@ -20,19 +22,46 @@ std::string describe(rapidjson::ParseErrorCode error)
     return text;
 }
 
-void require_json(std::string_view text)
+Kinds kinds_in(std::string_view text)
 {
-    const std::size_t valid = valid_utf8(text);
+    constexpr std::uint64_t kOnes = 0x0101010101010101;
+    constexpr std::uint64_t kHighs = 0x80 * kOnes;
+    std::uint64_t high = 0;
+    std::uint64_t low = 0;
+    std::uint64_t backslash = 0;
+    const auto look = [&](std::uint64_t eight) {
+        // What is subtracted borrows from the next byte only where the mark is set already.
+        high |= eight;
+        low |= (eight - 0x20 * kOnes) & ~eight;
+        const std::uint64_t other = eight ^ ('\\' * kOnes);
+        backslash |= (other - kOnes) & ~other;
+    };
+    std::uint64_t eight = 0;
+    for (; text.size() >= sizeof eight; text.remove_prefix(sizeof eight)) {
+        std::memcpy(&eight, text.data(), sizeof eight);
+        look(eight);
+    }
+    eight = ' ' * kOnes;
+    std::memcpy(&eight, text.data(), text.size());
+    look(eight);
+    return {(low & kHighs) != 0, (backslash & kHighs) != 0, (high & kHighs) != 0};
+}
+
+Kinds require_json(std::string_view text)
+{
+    const Kinds kinds = kinds_in(text);
+    const std::size_t valid = kinds.has_high_bytes ? valid_utf8(text) : text.size();
     if (valid < text.size()) {
         std::string byte;
         append_escaped(byte, text.substr(valid, 1), 1);
         throw std::invalid_argument("broken JSON: byte " + std::to_string(valid + 1) + " is " + byte +
                                     ", which is not UTF-8; any bytes can be given as {\"base64\": \"...\"}");
     }
-    const std::size_t nul = text.find('\0');
+    const std::size_t nul = kinds.has_controls ? text.find('\0') : std::string_view::npos;
     if (nul != std::string_view::npos) {
         throw std::invalid_argument("broken JSON: byte " + std::to_string(nul + 1) + " is NUL");
     }
+    return kinds;
 }
 
 std::size_t end_of_string(std::string_view text, std::size_t at)

@@ -22,6 +22,9 @@ class JsonParser {
     template <typename Handler>
     rapidjson::ParseResult parse(std::string_view text, Handler& handler)
     {
+        // RapidJSON looks at sixteen bytes at once, also at the end of a text.
+        constexpr std::size_t kBlock = 16;
+        copy_.reserve(text.size() + kBlock);
         copy_.assign(text);
         rapidjson::InsituStringStream stream(copy_.data());
         stream_ = &stream;
@@ -49,9 +52,18 @@ class JsonParser {
 // describe says what is wrong with JSON, for the user.
 std::string describe(rapidjson::ParseErrorCode error);
 
+// Kinds says which kinds of bytes a text holds.
+struct Kinds {
+    bool has_controls = false;  // below 0x20
+    bool has_backslashes = false;
+    bool has_high_bytes = false;
+};
+
+Kinds kinds_in(std::string_view text);
+
 // require_json throws std::invalid_argument, with a message for the user, for what no JSON holds: a NUL byte, and a
-// byte that is not UTF-8.
-void require_json(std::string_view text);
+// byte that is not UTF-8. It returns the kinds of bytes.
+Kinds require_json(std::string_view text);
 
 // end_of_string returns where the string of JSON ends that begins at a quotation mark: after the closing one, or at the
 // end of the text.
