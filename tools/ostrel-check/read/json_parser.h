@@ -22,9 +22,6 @@ class JsonParser {
     template <typename Handler>
     rapidjson::ParseResult parse(std::string_view text, Handler& handler)
     {
-        // RapidJSON looks at sixteen bytes at once, also at the end of a text.
-        constexpr std::size_t kBlock = 16;
-        copy_.reserve(text.size() + kBlock);
         copy_.assign(text);
         rapidjson::InsituStringStream stream(copy_.data());
         stream_ = &stream;
