@@ -38,7 +38,7 @@ RowEnd find_row_end(std::string_view text, char delimiter)
         if (text[at] == kQuote) {
             at = skip_quoted(text, at);
             if (at == std::string_view::npos) return {line, true};
-            if (!ends_field(text, at, delimiter)) return {line, false};
+            if (!ends_field(text, at, delimiter)) return {line, is_open};
         }
         while (at < text.size() && text[at] != delimiter && text[at] != '\n') ++at;
         if (at == text.size()) break;
