@@ -1,7 +1,5 @@
 #include "catalogue/case.h"
 
-#include <rapidjson/reader.h>
-#include <rapidjson/stream.h>
 #include <algorithm>
 #include <nlohmann/json.hpp>
 #include <numeric>
@@ -86,70 +84,6 @@ void append_text(std::string& result, const json& text, int depth)
             "a text is a string, {\"repeat\": text, \"times\": n} or {\"join\": [text, ...]}");
     }
 }
-
-// PlainCase hears a plain case from the parser. Whatever else it hears it answers with false, which ends the
-// parsing.
-class PlainCase : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, PlainCase> {
- public:
-    explicit PlainCase(std::vector<Value>& values) : values_(&values) {}
-
-    [[nodiscard]] const Function* function() const { return function_; }
-
-    // The base calls these of the class that it is told, and has its own for the rest.
-    // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
-    static bool Default() { return false; }
-    bool StartObject() { return enter(Place::kOutside, Place::kMembers); }
-    bool EndObject(rapidjson::SizeType /*members*/) { return function_ != nullptr && has_args_; }
-    bool StartArray() { return enter(Place::kArgs, Place::kArguments); }
-    bool EndArray(rapidjson::SizeType /*elements*/) { return enter(Place::kArguments, Place::kMembers); }
-
-    bool Key(const char* begin, rapidjson::SizeType size, bool /*copy*/)
-    {
-        const std::string_view name(begin, size);
-        if (name == "check" && function_ == nullptr) return enter(Place::kMembers, Place::kCheck);
-        if (name != "args" || has_args_) return false;
-        has_args_ = true;
-        return enter(Place::kMembers, Place::kArgs);
-    }
-
-    bool String(const char* begin, rapidjson::SizeType size, bool /*copy*/)
-    {
-        const std::string_view text(begin, size);
-        if (place_ != Place::kCheck) return is_ascii(text) && add(std::string(text));
-        function_ = find(text);
-        return function_ != nullptr && enter(Place::kCheck, Place::kMembers);
-    }
-
-    bool Null() { return add(nullptr); }
-    // A number above 4294967295 comes as another kind, and is not plain.
-    bool Int(int number) { return add(static_cast<long long>(number)); }
-    bool Uint(unsigned number) { return add(static_cast<long long>(number)); }
-    bool Int64(std::int64_t number) { return add(static_cast<long long>(number)); }
-    // NOLINTEND(bugprone-derived-method-shadowing-base-method)
-
- private:
-    enum class Place { kOutside, kMembers, kCheck, kArgs, kArguments };
-
-    bool enter(Place from, Place to)
-    {
-        if (place_ != from) return false;
-        place_ = to;
-        return true;
-    }
-
-    template <typename Part>
-    bool add(Part&& part)
-    {
-        if (place_ != Place::kArguments || values_->size() == kMostArguments) return false;
-        values_->emplace_back(std::forward<Part>(part));
-        return true;
-    }
-
-    Place place_ = Place::kOutside;
-    const Function* function_ = nullptr;
-    std::vector<Value>* values_;
-    bool has_args_ = false;
-};
 
 std::size_t edit_distance(std::string_view a, std::string_view b)
 {
@@ -237,18 +171,6 @@ Case case_from_json(const json& row)
     if (args->size() > kMostArguments) throw std::invalid_argument("no check takes that many arguments");
     for (const json& arg : *args) result.values.push_back(value_from_json(arg));
     return result;
-}
-
-const Function* read_plain_case(std::string_view text, std::vector<Value>& values)
-{
-    values.clear();
-    PlainCase plain(values);
-    std::string copy(text);  // decoded in place, since the parser's stack for texts adds to a null pointer
-    rapidjson::InsituStringStream stream(copy.data());
-    const auto parsed = rapidjson::Reader().Parse<rapidjson::kParseInsituFlag>(stream, plain);
-    if (!parsed.IsError() && stream.Tell() == text.size()) return plain.function();
-    values.clear();
-    return nullptr;
 }
 
 std::string unknown_function(std::string_view name)

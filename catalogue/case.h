@@ -1,4 +1,4 @@
-// Case: which function is called with what, read from JSON.
+// Case: which function is called with what, in the notation of the conformance vectors.
 #ifndef OSTREL_CATALOGUE_CASE_H
 #define OSTREL_CATALOGUE_CASE_H
 
@@ -20,10 +20,6 @@ struct Case {
 // case_from_json reads {"check": name, "args": [...]}; other members are not looked at. Throws
 // std::invalid_argument with a message for the user.
 Case case_from_json(const nlohmann::json& row);
-
-// read_plain_case reads the common form of a case, {"check": name, "args": [text, number or null, ...]} in ASCII,
-// without a document in between. NULL: the text is anything else, and no values were read.
-const Function* read_plain_case(std::string_view text, std::vector<Value>& values);
 
 // text_from_json reads a text: a string; {"repeat": text, "times": n}; or {"join": [text, ...]}. Each
 // character of a string is one byte, the one that its code point numbers; code points above 0xFF are refused,

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <unordered_map>
 #include <utility>
 
 #include "catalogue/entry.h"
@@ -47,14 +48,13 @@ const std::vector<Function>& functions()
 
 const Function* find(std::string_view name)
 {
-    static const std::vector<const Function*> by_name = [] {
-        std::vector<const Function*> sorted;
-        for (const Function& function : functions()) sorted.push_back(&function);
-        std::ranges::sort(sorted, {}, &Function::name);
-        return sorted;
+    static const auto by_name = [] {
+        std::unordered_map<std::string_view, const Function*> all;
+        for (const Function& function : functions()) all.emplace(function.name, &function);
+        return all;
     }();
-    const auto found = std::ranges::lower_bound(by_name, name, {}, &Function::name);
-    return found != by_name.end() && (*found)->name == name ? *found : nullptr;
+    const auto found = by_name.find(name);
+    return found == by_name.end() ? nullptr : found->second;
 }
 
 std::vector<Value> completed(const Function& function, std::span<const Value> given)

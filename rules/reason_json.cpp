@@ -17,22 +17,22 @@ void append_list(std::string& out, const std::vector<T>& values, F append)
     out += ']';
 }
 
-void append_datum(std::string& out, std::string_view name, const Datum& datum)
+void append_datum(std::string& out, std::string_view name, const Datum& datum, AppendBytes append_bytes)
 {
     if (std::holds_alternative<std::monostate>(datum)) return;
     out.append(",\"").append(name).append("\":");
     if (const auto* number = std::get_if<long long>(&datum)) {
         out += std::to_string(*number);
     } else if (const auto* text = std::get_if<std::string>(&datum)) {
-        append_json_text(out, *text);
+        append_bytes(out, *text);
     } else if (const auto* set = std::get_if<Set>(&datum)) {
         out += "{\"text\":";
         append_json_text(out, in_words(*set));
         out += ",\"members\":";
-        append_json_text(out, set->members());
+        append_bytes(out, set->members());
         out += '}';
     } else if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) {
-        append_list(out, *words, [&](const std::string& word) { append_json_text(out, word); });
+        append_list(out, *words, [&](const std::string& word) { append_bytes(out, word); });
     } else if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) {
         append_list(out, *numbers, [&](long long one) { out += std::to_string(one); });
     }
@@ -71,6 +71,12 @@ void append_json_text(std::string& out, std::string_view bytes)
 void append_json_reason(std::string& out, const Reason& given, const Check& check)
 {
     const Reason reason = without_secret(given, check);
+    append_json_told(out, reason, full_sentence(reason, check), append_json_text);
+}
+
+void append_json_told(std::string& out, const Reason& reason, std::string_view sentence,
+                      AppendBytes append_bytes)
+{
     const auto add_text = [&](std::string_view name, std::string_view text) {
         if (text.empty()) return;
         out.append(",\"").append(name).append("\":");
@@ -85,14 +91,17 @@ void append_json_reason(std::string& out, const Reason& given, const Check& chec
     add_text("part", reason.part);
     add_text("conversion", reason.conversion);
     add_number("item", reason.item);
-    add_text("item_text", reason.item_text);
+    if (!reason.item_text.empty()) {
+        out += ",\"item_text\":";
+        append_bytes(out, reason.item_text);
+    }
     add_number("offset", reason.offset);
-    append_datum(out, "found", reason.found);
-    append_datum(out, "allowed", reason.allowed);
+    append_datum(out, "found", reason.found, append_bytes);
+    append_datum(out, "allowed", reason.allowed, append_bytes);
     add_number("read_as", reason.read_as);
     add_text("limit", reason.limit);
     out += ",\"text\":";
-    append_json_text(out, full_sentence(reason, check));
+    append_json_text(out, sentence);
     out += '}';
 }
 

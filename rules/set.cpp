@@ -72,8 +72,11 @@ std::size_t Set::size() const
 std::string Set::members() const
 {
     std::string result;
-    for (unsigned byte = 0; byte < 256; ++byte) {
-        if (contains(static_cast<unsigned char>(byte))) result += static_cast<char>(byte);
+    result.reserve(size());
+    for (std::size_t i = 0; i < bits_.size(); ++i) {
+        for (std::uint64_t rest = bits_[i]; rest != 0; rest &= rest - 1) {
+            result += static_cast<char>(i * 64 + static_cast<std::size_t>(std::countr_zero(rest)));
+        }
     }
     return result;
 }

@@ -11,20 +11,34 @@
 
 #include "catalogue/capture.h"
 #include "counts.h"
+#include "read/cutter.h"
+#include "read/reading.h"
 #include "verdict.h"
 
 namespace ostrel::tool {
 
-inline constexpr std::size_t kLongestLine = std::size_t{16} << 20;
 inline constexpr std::size_t kChunk = std::size_t{256} << 10;
 inline constexpr std::size_t kOutput = std::size_t{256} << 20;
+
+// count_lines counts the line ends of a text.
+std::uint64_t count_lines(std::string_view text);
 
 // Progress is how far a worker has come with its chunk.
 struct Progress {
     std::size_t read = 0;  // bytes of the input
     std::uint64_t line = 0;
+    std::size_t part = 0;     // records of the text that is being read
     std::size_t written = 0;  // bytes of the output
     Tally tally;              // of what stands in the output
+
+    // advance goes on after a record, to the next one of the same text or to the next text.
+    void advance(std::string_view text, bool has_more)
+    {
+        part = has_more ? part + 1 : 0;
+        if (has_more) return;
+        read += text.size();
+        line += count_lines(text);
+    }
 };
 
 // Arena is mapped whole; of its pages only those that were written to exist.
@@ -43,11 +57,15 @@ class Arena {
     [[nodiscard]] const Progress& progress() const { return progress_[commits() & 1]; }
 
     std::size_t file = 0;  // which of the files the input is from
+    FileFormat format = FileFormat::kWords;
+    std::size_t preamble_size = 0;  // of the input, which begins with the preamble of the file
     std::size_t input_size = 0;
-    std::array<char, kLongestLine + kChunk> input;
+    std::array<char, 2 * kLongestText + kChunk> input;
     std::array<char, kOutput> output;
     catalogue::Prints prints;
     Counts counts;  // of what has been judged since they were last taken
+
+    [[nodiscard]] std::string_view preamble() const { return {input.data(), preamble_size}; }
 
     [[nodiscard]] std::string_view rest_of_input() const
     {

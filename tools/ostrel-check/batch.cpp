@@ -16,13 +16,15 @@ namespace {
 
 class Batch {
  public:
-    Batch(const Rules& rules, unsigned jobs) : rules_(&rules), input_(rules.files)
+    Batch(const Rules& rules, unsigned jobs) : rules_(&rules), input_(rules.files, rules.reading)
     {
         for (unsigned i = 0; i < jobs; ++i) idle_.push_back(std::make_unique<Slot>(rules));
     }
 
     int run()
     {
+        if (rules_->style.format == Format::kCsv && !write_all(STDOUT_FILENO, csv_header(rules_->style)))
+            return 0;
         // Chunks are given out in order, and taken back in that order.
         while (take_finished()) {
             const bool can_read = !idle_.empty() && !input_.is_at_end();
@@ -58,6 +60,7 @@ class Batch {
     // wait waits until there is something to do, and says whether there is something to read.
     bool wait(bool can_read)
     {
+        if (can_read && input_.is_ready()) return true;
         std::vector<pollfd> waiting;
         if (can_read) waiting.push_back({input_.descriptor(), POLLIN, 0});
         for (const auto& slot : busy_) {
@@ -75,7 +78,7 @@ class Batch {
         std::optional<Chunk> chunk = input_.read();
         if (!chunk) return;
         if (rules_->style.format == Format::kTable && rules_->files.size() > 1 && chunk->starts_file) {
-            append_escaped(chunk->heading, rules_->files[chunk->file], kLongestLine);
+            append_escaped(chunk->heading, rules_->files[chunk->file], kLongestText);
             chunk->heading += ":\n";
         }
         busy_.push_back(std::move(idle_.back()));
@@ -91,6 +94,8 @@ class Batch {
             write_all(STDOUT_FILENO, json_summary(tally_, counts_, unreadable));
         } else if (rules_->style.format == Format::kTable) {
             write_all(STDOUT_FILENO, summary(tally_, counts_, unreadable));
+        } else if (rules_->style.format == Format::kCsv) {
+            say(summary(tally_, counts_, unreadable));
         }
         return unreadable > 0 ? std::max(tally_.exit_code(), kExitUsage) : tally_.exit_code();
     }

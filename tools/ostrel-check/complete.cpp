@@ -25,9 +25,21 @@ Words options_of(std::string_view command)
     if (command == "list")
         return {"--json", "--schema", "--json-schema", "--reference", "--hazards", "--help"};
     if (command == "batch") {
-        return {"--json", "--stream", "--only-refused", "--jobs", "--limit-time", "--channels", "--help"};
+        return {"--json",      "--stream",    "--only-refused", "--format",   "--format-out",
+                "--encoding",  "--delimiter", "--check",        "--value",    "--strict",
+                "--with-args", "--jobs",      "--limit-time",   "--channels", "--help"};
     }
     return {"--help"};
+}
+
+// after_option returns the values that an option takes, or else the options.
+Words after_option(std::string_view option, std::string_view command)
+{
+    if (option == "--schema") return {"catalogue", "result"};
+    if (option == "--format") return {"words", "ndjson", "csv", "tsv", "json"};
+    if (option == "--format-out") return {"text", "ndjson", "csv"};
+    if (option == "--encoding") return {"utf-8", "latin-1"};
+    return options_of(command);
 }
 
 // keywords_at gives the keywords of the argument that the value of that number belongs to.
@@ -60,7 +72,7 @@ Words candidates_for(std::span<const std::string> words)
         return candidates;
     }
     const std::string& command = words[first];
-    if (command == "list" || command == "batch") return options_of(command);
+    if (command == "list" || command == "batch") return after_option(words[words.size() - 2], command);
     if (command == "explain") {
         Words candidates;
         if (first + 2 == words.size()) add_names(candidates);

@@ -31,31 +31,44 @@ never with NO_COLOR.)";
 
 std::string_view batch_help()
 {
-    return R"(Each line is a case. Empty lines and comments (#) are passed over. Either words,
-as a shell would quote them, with the escapes \xNN, \n, \r, \t, \\ outside of
-'single quotes', and @null for NULL:
+    return R"(A file is in one of five formats: that of --format, or of its name (.ndjson,
+.jsonl, .json, .csv, .tsv), or of its first bytes. It is in UTF-8. With
+--encoding latin-1 the characters of its texts become bytes of Latin-1, in every
+format.
+
+words: each line is a case. Empty lines and comments (#) are passed over. Words
+are quoted as for a shell, with the escapes \xNN, \n, \r, \t, \\ outside of
+'single quotes', and @null for NULL. A line may also be an object of JSON:
 
   PARAM_check_port 8080             # a comment
   TcmValidatePPPPassword "two words"
   TcmValidatePPPPassword caf\xE9
 
-or an object of JSON, in which a byte above 0x7F is the code point of the same
-number:
+ndjson: each line is an object of JSON. Numbers, true and false are taken as
+they are written. {"base64": "..."} is any bytes. Results repeat all other
+members:
 
-  {"check": "PARAM_check_num_range", "args": ["15", 1, 20]}
+  {"id": 1, "check": "PARAM_check_num_range", "args": ["15", 1, 20]}
   {"check": "PARAM_check_port", "args": [null]}
 
-A line ends in a line feed, or in a carriage return and a line feed, and is at
-most 16 MiB long.
+json: an array of such objects, or objects one after the other, on any lines.
 
-With --stream each line gives exactly one line, in order, that depends on
-nothing but that line (an empty line for one without a case), so that a batch
-can be cut anywhere and judged in pieces.
+csv, tsv: a header, then a row for each case, with the columns "check" and
+"value" (or "value_1", "value_2", ...), or those of --check and --value. Results
+repeat all other columns.
+
+A line ends in a line feed, or in a carriage return and a line feed. A line, a
+row or an element is at most 16 MiB long.
+
+With --stream each record has exactly one line of results, in order, which
+depends on nothing but that record and its line number (an empty line for a
+line without a case), so that lines can be judged in pieces.
 
 Examples:
   ostrel-check batch settings.txt
   ostrel-check batch --only-refused settings.txt
   some-program | ostrel-check batch --json --jobs 4
+  ostrel-check batch --check PARAM_check_port --value Port --json ports.csv
   parallel --pipe --keep-order ostrel-check batch --stream < cases
 
 Exit code, of which the highest wins: 0 all were accepted, 1 something was
@@ -67,7 +80,8 @@ std::string_view list_help()
 {
     return R"(With --json the whole catalogue: arguments, rules, codes, steps with what is
 printed, what an accepted value may contain, and the constraints of each
-argument for programs and forms. --schema prints the JSON Schema of that.
+argument for programs and forms. --schema prints the JSON Schema of that, and
+--schema result that of a line of batch --json.
 --json-schema prints a schema for values: a definition for each check of a
 single text, marked x-ostrel-exact where a validator accepts the same values as
 the check.

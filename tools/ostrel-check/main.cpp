@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 #include <csignal>
 #include <exception>
+#include <map>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -20,6 +21,7 @@
 #include "explain.h"
 #include "help.h"
 #include "process.h"
+#include "schemas.h"
 #include "show.h"
 #include "single.h"
 #include "style.h"
@@ -79,7 +81,7 @@ struct Options {
     std::optional<std::string> channels;
     std::string name;
     bool json = false;
-    bool schema = false;
+    std::optional<std::string> schema;
     bool json_schema = false;
     bool reference = false;
     bool hazards = false;
@@ -112,12 +114,57 @@ CLI::App* add_list(CLI::App& app, Options& options)
         add_command(app, "list", "Show every check with its arguments and its rule", list_help());
     CLI::Option_group* forms = list->add_option_group("Forms");
     forms->add_flag("--json", options.json, "The catalogue in JSON");
-    forms->add_flag("--schema", options.schema, "The JSON Schema of that");
+    forms->add_option("--schema", options.schema, "The JSON Schema of that, or of a result")
+        ->expected(0, 1)
+        ->default_str("catalogue")
+        ->check(CLI::IsMember({"catalogue", "result"}))
+        ->type_name("[catalogue|result]");
     forms->add_flag("--json-schema", options.json_schema, "A JSON Schema for what the checks accept");
     forms->add_flag("--reference", options.reference, "The reference in Markdown");
     forms->add_flag("--hazards", options.hazards, "What accepted values may hold, in Markdown");
     forms->require_option(0, 1);
     return list;
+}
+
+const std::map<std::string, FileFormat> kFormats = {{"words", FileFormat::kWords},
+                                                    {"ndjson", FileFormat::kNdjson},
+                                                    {"csv", FileFormat::kCsv},
+                                                    {"tsv", FileFormat::kTsv},
+                                                    {"json", FileFormat::kJson}};
+const std::map<std::string, Encoding> kEncodings = {{"utf-8", Encoding::kUtf8},
+                                                    {"latin-1", Encoding::kLatin1}};
+const std::map<std::string, Format> kFormatsOut = {
+    {"text", Format::kTable}, {"ndjson", Format::kJson}, {"csv", Format::kCsv}};
+
+std::string one_byte(const std::string& given)
+{
+    const std::string delimiter = read_escapes(given);
+    constexpr std::string_view kTaken("\"\r\n\0", 4);
+    if (delimiter.size() == 1 && kTaken.find(delimiter) == std::string_view::npos) return {};
+    return "one byte is needed that is neither \" nor of a line end";
+}
+
+void add_reading(CLI::App& batch, Reading& reading)
+{
+    batch.add_option("--format", reading.format, "Of the files; by name or first bytes if not given")
+        ->transform(CLI::Transformer(kFormats).description(""))
+        ->type_name("words|ndjson|csv|tsv|json");
+    batch.add_option("--encoding", reading.encoding, "Of the values (utf-8)")
+        ->transform(CLI::Transformer(kEncodings).description(""))
+        ->type_name("utf-8|latin-1");
+    batch
+        .add_option_function<std::string>(
+            "--delimiter", [&](const std::string& given) { reading.delimiter = read_escapes(given).front(); },
+            "Between the fields of CSV (,)")
+        ->check(one_byte)
+        ->type_name("BYTE");
+    batch.add_option("--check", reading.check, "The column of the check, or one check for all")
+        ->type_name("COLUMN|NAME");
+    batch.add_option("--value", reading.values, "A column of its arguments; once for each")
+        ->type_name("COLUMN")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    batch.add_flag("--strict", reading.is_strict, "Refuse unknown and doubled members and columns");
 }
 
 CLI::App* add_batch(CLI::App& app, Options& options)
@@ -127,9 +174,16 @@ CLI::App* add_batch(CLI::App& app, Options& options)
     CLI::Option* json =
         batch->add_flag("--json", options.json, "A line of JSON for each case, one for the summary");
     CLI::Option* stream =
-        batch->add_flag("--stream", options.stream, "A line of JSON for each line read, no summary");
+        batch->add_flag("--stream", options.stream, "A line of JSON for each record, no summary");
     stream->excludes(json);
     batch->add_flag("--only-refused", options.rules.style.only_refused, "Leave out what was accepted")
+        ->excludes(stream);
+    add_reading(*batch, options.rules.reading);
+    batch->add_flag("--with-args", options.rules.style.with_args, "Repeat the arguments in JSON and CSV");
+    batch->add_option("--format-out", options.rules.style.format, "How results are written (text)")
+        ->transform(CLI::Transformer(kFormatsOut).description(""))
+        ->type_name("text|ndjson|csv")
+        ->excludes(json)
         ->excludes(stream);
     add_limit(*batch, options);
     batch->add_option("--jobs", options.jobs, "Processes that judge side by side (1)")
@@ -145,7 +199,7 @@ int show_list(const Options& options)
     if (options.json) {
         text = list_json();
     } else if (options.schema) {
-        text = catalogue::schema();
+        text = *options.schema == "result" ? result_schema() : catalogue::schema();
     } else if (options.json_schema) {
         text = json_schema();
     } else if (options.reference) {
@@ -211,6 +265,7 @@ int run(int argc, char** argv)
         if (options.json) rules.style.format = Format::kJson;
         if (options.stream) rules.style.format = Format::kStream;
         rules.limit = options.limit;
+        rules.style.encoding = rules.reading.encoding;
         return run_batch(rules, options.jobs);
     }
     return judge_words(app.remaining(), options.with_escapes, options.limit);

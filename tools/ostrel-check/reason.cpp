@@ -40,6 +40,8 @@ bool is_explained(const Result& result, const Answer& answer)
     }
 }
 
+void append_utf8(std::string& out, std::string_view bytes) { append_bytes(out, bytes, Encoding::kUtf8); }
+
 }  // namespace
 
 Build& gateway()
@@ -67,20 +69,25 @@ Why why(const Result& result)
     return why;
 }
 
-void append_json_reasons(std::string& out, const Result& result)
+void write_reasons(JsonWriter& json, const Result& result, Encoding encoding)
 {
     const Why why = tool::why(result);
     if (why.text.empty()) return;
     const rules::Check& check = *result.function->check;
-    out += ",\"reason\":";
-    rules::append_json_reason(out, why.reason, check);
-    std::string_view before = ",\"remarks\":[";
-    for (const Reason& remark : why.remarks) {
-        out += before;
-        rules::append_json_reason(out, remark, check);
-        before = ",";
-    }
-    if (!why.remarks.empty()) out += ']';
+    const rules::AppendBytes append = encoding == Encoding::kUtf8 ? append_utf8 : rules::append_json_text;
+    static std::string text;
+    const auto write = [&](const Reason& reason, std::string_view sentence) {
+        text.clear();
+        rules::append_json_told(text, reason, sentence, append);
+        json.raw(text);
+    };
+    json.plain("reason");
+    write(why.reason, why.text);
+    if (why.remarks.empty()) return;
+    json.plain("remarks");
+    json.StartArray();
+    for (const Reason& remark : why.remarks) write(remark, rules::full_sentence(remark, check));
+    json.EndArray();
 }
 
 }  // namespace ostrel::tool

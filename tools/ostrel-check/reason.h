@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "json_writer.h"
 #include "rules/build.h"
 #include "rules/reason.h"
 #include "verdict.h"
@@ -23,8 +24,8 @@ struct Why {
 // why evaluates the description with the values of a result that is neither an acceptance nor an answer.
 Why why(const Result& result);
 
-// append_json_reasons adds the members "reason" and "remarks", each with a comma before it.
-void append_json_reasons(std::string& out, const Result& result);
+// write_reasons adds the members "reason" and "remarks" to an object.
+void write_reasons(JsonWriter& json, const Result& result, Encoding encoding);
 
 }  // namespace ostrel::tool
 

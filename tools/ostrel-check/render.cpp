@@ -40,22 +40,6 @@ void append_printed(std::string& out, std::string_view text, std::string_view ma
     }
 }
 
-void append_json_member(std::string& out, std::string_view name, std::string_view text)
-{
-    out.append(",\"").append(name).append("\":");
-    append_json_text(out, text);
-}
-
-std::string_view json_name(Verdict verdict)
-{
-    return verdict == Verdict::kNoReturn ? "no_return" : name_of(verdict);
-}
-
-bool has_code(Verdict verdict)
-{
-    return verdict == Verdict::kAccepted || verdict == Verdict::kRefused || verdict == Verdict::kAnswer;
-}
-
 void append_meaning(std::string& out, std::string_view meaning, const Result& result)
 {
     out.append(kIndentation).append(meaning);
@@ -114,43 +98,6 @@ void append_row(std::string& out, const Place& place, const Result& result)
     append_printed(out, result.printed.out, "| ");
     append_printed(out, result.printed.err, "! ");
     append_after(out, kIndentation, result);
-}
-
-void append_json(std::string& out, const Place* place, const Result& result)
-{
-    const std::size_t begin = out.size();
-    if (place != nullptr) {
-        append_json_member(out, "file", place->file);
-        out.append(",\"line\":").append(std::to_string(place->line));
-    }
-    if (result.function != nullptr) append_json_member(out, "check", result.function->name);
-    append_json_member(out, "verdict", json_name(result.verdict));
-    if (has_code(result.verdict)) {
-        out.append(",\"code\":").append(std::to_string(result.code));
-        append_json_member(out, "meaning",
-                           result.verdict == Verdict::kAnswer ? "a number" : catalogue::meaning(result.code));
-    } else {
-        out += ",\"code\":null";
-        append_json_member(out, "meaning", result.problem);
-    }
-    append_json_reasons(out, result);
-    if (result.verdict != Verdict::kMalformed) {
-        append_json_member(out, "out", result.printed.out);
-        const bool is_flushed = result.printed.flushed == result.printed.out.size();
-        out.append(is_flushed ? ",\"flushed\":true" : ",\"flushed\":false");
-        append_json_member(out, "err", result.printed.err);
-        if (result.printed.cut) out += ",\"cut\":true";
-        out += ",\"after\":{";
-        for (const catalogue::Written& written : result.after) {
-            if (&written != result.after.data()) out += ',';
-            append_json_text(out, written.argument->name);
-            out += ':';
-            append_json_value(out, written.value);
-        }
-        out += '}';
-    }
-    out[begin] = '{';  // every member begins with a comma
-    out += "}\n";
 }
 
 std::string summary(const Tally& tally, const Counts& counts, std::uint64_t unreadable_files)

@@ -94,23 +94,4 @@ void append_value(std::string& out, const Value& value, std::size_t limit)
     }
 }
 
-void append_json_value(std::string& out, const Value& value)
-{
-    if (const auto* text = std::get_if<std::string>(&value)) {
-        append_json_text(out, *text);
-    } else if (const auto* number = std::get_if<long long>(&value)) {
-        out += std::to_string(*number);
-    } else if (const auto* texts = std::get_if<std::vector<std::string>>(&value)) {
-        char before = '[';
-        for (const std::string& block : *texts) {
-            out += before;
-            append_json_text(out, block);
-            before = ',';
-        }
-        out += ']';
-    } else {
-        out += "null";
-    }
-}
-
 }  // namespace ostrel::tool

@@ -23,8 +23,6 @@ void append_value(std::string& out, const catalogue::Value& value, std::size_t l
 
 using rules::append_json_text;
 
-void append_json_value(std::string& out, const catalogue::Value& value);
-
 }  // namespace ostrel::tool
 
 #endif

@@ -7,11 +7,10 @@
 #include <cstring>
 
 #include "driver.h"
-#include "line.h"
 
 namespace ostrel::tool {
 
-Slot::Slot(const Rules& rules) : rules_(&rules), arena_(map_arena()) {}
+Slot::Slot(const Rules& rules) : rules_(&rules), arena_(map_arena()), cases_(rules.reading) {}
 
 Slot::~Slot() { stop_worker(); }
 
@@ -31,7 +30,7 @@ void Slot::start_worker()
     if (worker_ == 0) {
         orders_.writing.close();
         answers_.reading.close();
-        run_worker(*arena_, rules_->style, rules_->files, orders_.reading, answers_.writing);
+        run_worker(*arena_, rules_->style, rules_->reading, rules_->files, orders_.reading, answers_.writing);
     }
     orders_.reading.close();
     answers_.writing.close();
@@ -40,15 +39,18 @@ void Slot::start_worker()
 void Slot::give(const Chunk& chunk)
 {
     arena_->file = chunk.file;
-    arena_->input_size = chunk.text.size();
-    std::memcpy(arena_->input.data(), chunk.text.data(), chunk.text.size());
+    arena_->format = chunk.format;
+    arena_->preamble_size = chunk.preamble.size();
+    arena_->input_size = chunk.preamble.size() + chunk.text.size();
+    std::memcpy(arena_->input.data(), chunk.preamble.data(), chunk.preamble.size());
+    std::memcpy(arena_->input.data() + chunk.preamble.size(), chunk.text.data(), chunk.text.size());
     Progress progress;
+    progress.read = chunk.preamble.size();
     progress.line = chunk.line;
     arena_->commit(progress);
     heading_ = chunk.heading;
-    if (chunk.is_too_long) {
-        arena_->input_size = 0;
-        conclude(Verdict::kMalformed, "the line is longer than 16 MiB");
+    if (!chunk.problem.empty()) {
+        conclude(Verdict::kMalformed, chunk.problem);
     } else {
         start_round();
     }
@@ -90,23 +92,26 @@ void Slot::look()
     }
 }
 
-// conclude gives the verdict on the line at which the worker stopped, and goes beyond it.
+// conclude gives the verdict on the record at which the worker stopped, and goes on after it.
 void Slot::conclude(Verdict verdict, std::string problem)
 {
     Progress progress = arena_->progress();
     const std::string_view rest = arena_->rest_of_input();
-    const std::string_view text = rest.substr(0, rest.find('\n'));
-    Line line;
     Result result;
-    try {
-        if (verdict != Verdict::kMalformed) line.read(text);
-    } catch (const std::exception&) {
-        // A line that cannot be read ends no worker; should it do so all the same, the verdict stands.
-        verdict = Verdict::kMalformed;
+    std::string_view text;
+    if (verdict != Verdict::kMalformed) {
+        try {
+            cases_.open(arena_->file, arena_->format, arena_->preamble());
+            text = rest.substr(0, cases_.next(rest));
+            cases_.read(text, progress.part);
+            result.function = cases_.function();
+        } catch (const std::exception&) {
+            // A record that cannot be read ends no worker; should it do so all the same, the verdict stands.
+        }
+        result.values = &cases_.values();
+        result.record = &cases_.record();
     }
-    result.verdict = line.function() == nullptr ? Verdict::kMalformed : verdict;
-    result.function = line.function();
-    result.values = &line.values();
+    result.verdict = result.function == nullptr ? Verdict::kMalformed : verdict;
     if (result.function != nullptr) clean_up_after(*result.function);
     result.problem = std::move(problem);
     if (result.verdict != Verdict::kMalformed) {
@@ -114,8 +119,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
         result.printed = {prints.out.view(), prints.out.size, prints.err.view(), prints.out.cut};
     }
     append_result(conclusion_, rules_->style, {rules_->files[arena_->file], progress.line}, result);
-    progress.read += std::min(rest.size(), text.size() + 1);
-    ++progress.line;
+    progress.advance(text, !text.empty() && cases_.has_more());
     progress.tally.add(result.verdict);
     arena_->counts.add(result);
     arena_->commit(progress);

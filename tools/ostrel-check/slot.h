@@ -10,6 +10,7 @@
 #include "arena.h"
 #include "input.h"
 #include "process.h"
+#include "read/cases.h"
 #include "worker.h"
 
 namespace ostrel::tool {
@@ -19,6 +20,7 @@ using Clock = std::chrono::steady_clock;
 // Rules are what holds for every line of a batch.
 struct Rules {
     Style style;
+    Reading reading;
     double limit = 2;  // seconds that a call may take
     std::vector<std::string> files;
 };
@@ -59,6 +61,7 @@ class Slot {
 
     const Rules* rules_;
     std::unique_ptr<Arena, Unmap> arena_;
+    Cases cases_;       // for the record that ended the worker
     pid_t worker_ = 0;  // 0: none
     Pipe orders_;
     Pipe answers_;

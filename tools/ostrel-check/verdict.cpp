@@ -25,6 +25,16 @@ std::string_view name_of(Verdict verdict)
     return "no return";
 }
 
+std::string_view json_name(Verdict verdict)
+{
+    return verdict == Verdict::kNoReturn ? "no_return" : name_of(verdict);
+}
+
+bool has_code(Verdict verdict)
+{
+    return verdict == Verdict::kAccepted || verdict == Verdict::kRefused || verdict == Verdict::kAnswer;
+}
+
 int exit_code(Verdict verdict)
 {
     switch (verdict) {

@@ -12,6 +12,7 @@
 #include "catalogue/caller.h"
 #include "catalogue/capture.h"
 #include "catalogue/catalogue.h"
+#include "read/record.h"
 
 namespace ostrel::tool {
 
@@ -37,6 +38,12 @@ inline constexpr int kExitEnded = 3;
 
 int exit_code(Verdict verdict);
 
+// json_name is the verdict in one word, for programs.
+std::string_view json_name(Verdict verdict);
+
+// has_code tells a verdict on a call that returned.
+bool has_code(Verdict verdict);
+
 // Tally counts the cases of each verdict.
 struct Tally {
     std::array<std::uint64_t, kVerdicts> counts{};
@@ -56,6 +63,7 @@ struct Result {
     Verdict verdict = Verdict::kMalformed;
     const catalogue::Function* function = nullptr;  // NULL: malformed
     const std::vector<catalogue::Value>* values = nullptr;
+    const Record* record = nullptr;  // NULL: there is none
     int code = 0;
     std::string problem;  // malformed, ended or not returned: in words
     catalogue::PrintedView printed;

@@ -1,8 +1,8 @@
 #include "words.h"
 
-#include <algorithm>
-#include <charconv>
 #include <stdexcept>
+
+#include "read/bind.h"
 
 namespace ostrel::tool {
 
@@ -69,69 +69,6 @@ std::size_t read_quoted(std::string_view line, std::size_t at, std::string& word
     return at + 1;
 }
 
-bool is_number(const Argument& argument)
-{
-    return argument.kind == Kind::kInteger || argument.kind == Kind::kUnsigned ||
-           argument.kind == Kind::kIntegerOut;
-}
-
-// read_number reads a decimal number, or a hexadecimal one behind 0x.
-Value read_number(const Argument& argument, std::string_view word)
-{
-    std::string_view digits = word;
-    const bool negative = digits.starts_with('-');
-    if (negative || digits.starts_with('+')) digits.remove_prefix(1);
-    const bool is_hexadecimal = digits.starts_with("0x") || digits.starts_with("0X");
-    if (is_hexadecimal) digits.remove_prefix(2);
-    unsigned long long number = 0;
-    const char* end = digits.data() + digits.size();
-    const auto read = std::from_chars(digits.data(), end, number, is_hexadecimal ? 16 : 10);
-    if (digits.empty() || read.ptr != end) {
-        throw std::invalid_argument("argument " + std::string(argument.name) + " takes a number; \"" +
-                                    std::string(word.substr(0, 40)) + "\" is none");
-    }
-    // Whatever is far outside the range of an argument stays outside.
-    if (read.ec != std::errc()) number = 1ULL << 62;
-    const auto magnitude = static_cast<long long>(std::min(number, 1ULL << 62));
-    return negative ? -magnitude : magnitude;
-}
-
-Value read_text(std::string_view word)
-{
-    if (word == kNull) return nullptr;
-    const bool is_doubled = word.starts_with('@') && word.ends_with(kNull) &&
-                            word.find_first_not_of('@') == word.size() - kNull.size() + 1;
-    return std::string(is_doubled ? word.substr(1) : word);
-}
-
-// take_words fills values and says whether the words were neither too few nor too many.
-bool take_words(const Function& function, std::span<const std::string> words, bool outputs_given,
-                std::vector<Value>& values)
-{
-    values.clear();
-    for (const Argument& argument : function.arguments) {
-        if (argument.output_only && !outputs_given) continue;
-        if (words.empty()) return false;
-        const std::string& word = words.front();
-        if (argument.kind == Kind::kBlocks && word != kNull) {
-            if (words.size() < argument.blocks) return false;
-            std::vector<std::string> texts;
-            for (const std::string& text : words.first(argument.blocks)) {
-                const Value value = read_text(text);
-                if (!std::holds_alternative<std::string>(value)) return false;
-                texts.push_back(std::get<std::string>(value));
-            }
-            values.emplace_back(std::move(texts));
-            words = words.subspan(argument.blocks);
-            continue;
-        }
-        values.push_back(is_number(argument) && word != kNull ? read_number(argument, word)
-                                                              : read_text(word));
-        words = words.subspan(1);
-    }
-    return words.empty();
-}
-
 }  // namespace
 
 void Words::split(std::string_view line)
@@ -178,12 +115,19 @@ std::string read_escapes(std::string_view text)
     return result;
 }
 
+Item item_of(std::string_view word)
+{
+    if (word == kNull) return {Item::Kind::kNull, {}, 0};
+    const bool is_doubled = word.starts_with('@') && word.ends_with(kNull) &&
+                            word.find_first_not_of('@') == word.size() - kNull.size() + 1;
+    return {Item::Kind::kText, is_doubled ? word.substr(1) : word, 0};
+}
+
 void read_values(const Function& function, std::span<const std::string> words, std::vector<Value>& values)
 {
-    if (take_words(function, words, false, values) || take_words(function, words, true, values)) return;
-    throw std::invalid_argument(std::to_string(words.size()) +
-                                (words.size() == 1 ? " value was" : " values were") +
-                                " given; expected: " + usage_of(function));
+    std::vector<Item> items;
+    for (const std::string& word : words) items.push_back(item_of(word));
+    bind(function, items, values);
 }
 
 std::string usage_of(const Function& function)

@@ -10,6 +10,7 @@
 
 #include "catalogue/caller.h"
 #include "catalogue/catalogue.h"
+#include "read/record.h"
 
 namespace ostrel::tool {
 
@@ -36,6 +37,9 @@ std::string read_escapes(std::string_view text);
 
 // kNull is the word that stands for NULL. "@@null" stands for the text "@null", and so on.
 inline constexpr std::string_view kNull = "@null";
+
+// item_of returns what a word stands for; its text is a view into the word.
+Item item_of(std::string_view word);
 
 // read_values gives each argument its words: numbers, texts, NULL, one word for each block. Arguments that
 // are only written may be left out, all together. Throws std::invalid_argument.

@@ -11,15 +11,6 @@
 
 namespace ostrel::tool {
 
-// Format is how results are written: as a table, as JSON, or as JSON that depends on the line alone, one line
-// for each.
-enum class Format { kTable, kJson, kStream };
-
-struct Style {
-    Format format = Format::kTable;
-    bool only_refused = false;  // nothing is written for what was accepted, nor for answers
-};
-
 // append_result renders in that style.
 void append_result(std::string& out, const Style& style, const Place& place, const Result& result);
 
@@ -29,8 +20,9 @@ inline constexpr std::size_t kEnoughOutput = std::size_t{4} << 20;
 
 // run_worker serves until its supervisor closes the pipe of orders: for each byte that comes it judges a part
 // of what the arena holds, from where progress stands, and answers with a byte.
-[[noreturn]] void run_worker(Arena& arena, const Style& style, const std::vector<std::string>& files,
-                             const Descriptor& orders, const Descriptor& answers);
+[[noreturn]] void run_worker(Arena& arena, const Style& style, const Reading& reading,
+                             const std::vector<std::string>& files, const Descriptor& orders,
+                             const Descriptor& answers);
 
 }  // namespace ostrel::tool
 

@@ -108,7 +108,9 @@ TEST(Single, EscapesAreReadOnRequest)
     EXPECT_EQ(0, run({"-e", "TcmValidatePPPPassword", "caf\\xE9"}).status);
     EXPECT_EQ(1, run({"--escapes", "TcmValidatePPPPassword", "a\\nb"}).status);
     EXPECT_EQ(0, run({"TcmValidatePPPPassword", "a\\nb"}).status);
-    EXPECT_EQ((Outcome{2, "", value_error("argument value_p cannot hold a NUL byte", "PARAM_check_port")}),
+    EXPECT_EQ((Outcome{2, "",
+                       value_error("argument value_p holds U+0000 (a NUL byte), where C would end the value",
+                                   "PARAM_check_port")}),
               run({"-e", "PARAM_check_port", "1\\x00"}));
     EXPECT_EQ((Outcome{2, "", usage_error("\\q is no escape; a backslash itself is \\\\")}),
               run({"-e", "PARAM_check_port", "\\q"}));

@@ -41,7 +41,8 @@ TEST(Batch, StreamGivesALineForEachLineAndNothingElse)
     EXPECT_EQ("ended", json::parse(rows[3])["verdict"]);
     EXPECT_EQ("byte 1 is \"x\"; digits and . are allowed", json::parse(rows[4])["reason"]["text"]);
     EXPECT_EQ("malformed", json::parse(rows[5])["verdict"]);
-    EXPECT_FALSE(json::parse(rows[0]).contains("line"));
+    EXPECT_EQ(1, json::parse(rows[0])["line"]);
+    EXPECT_FALSE(json::parse(rows[0]).contains("file"));
     EXPECT_EQ(2, run({"batch", "--stream", "--json"}, "").status);
     EXPECT_EQ(2, run({"batch", "--stream", "--only-refused"}, "").status);
 }

@@ -5,7 +5,7 @@
 #include <functional>
 #include <stdexcept>
 
-#include "line.h"
+#include "read/cases.h"
 #include "show.h"
 
 namespace ostrel::tool {
@@ -168,26 +168,39 @@ TEST(Values, WhatIsOnlyWrittenMayBeLeftOut)
 
 TEST(Lines, EndInALineFeedWithOrWithoutACarriageReturn)
 {
-    Line line;
-    EXPECT_TRUE(line.read("PARAM_check_port 1\r"));
-    EXPECT_EQ((std::vector<Value>{"1"}), line.values());
-    EXPECT_TRUE(line.read("PARAM_check_port 1\\r"));
-    EXPECT_EQ((std::vector<Value>{"1\r"}), line.values());
-    EXPECT_TRUE(line.read("{\"check\": \"PARAM_check_port\", \"args\": [\"1\"]}\r"));
-    EXPECT_FALSE(line.read("\r"));
-    EXPECT_FALSE(line.read(" # a\r"));
-    EXPECT_FALSE(line.read(""));
+    const Reading reading;
+    Cases cases(reading);
+    cases.open(0, FileFormat::kWords, "");
+    EXPECT_EQ(20U, cases.next("PARAM_check_port 1\r\nPARAM_check_port 1\r"));
+    EXPECT_TRUE(cases.read("PARAM_check_port 1\r\n", 0));
+    EXPECT_EQ((std::vector<Value>{"1"}), cases.values());
+    EXPECT_EQ(19U, cases.next("PARAM_check_port 1\r"));
+    EXPECT_TRUE(cases.read("PARAM_check_port 1\r", 0));
+    EXPECT_EQ((std::vector<Value>{"1"}), cases.values());
+    EXPECT_TRUE(cases.read("PARAM_check_port 1\\r", 0));
+    EXPECT_EQ((std::vector<Value>{"1\r"}), cases.values());
+    EXPECT_TRUE(cases.read("{\"check\": \"PARAM_check_port\", \"args\": [\"1\"]}\r\n", 0));
+    EXPECT_FALSE(cases.read("\r", 0));
+    EXPECT_FALSE(cases.read(" # a\r\n", 0));
+    EXPECT_FALSE(cases.read("\n", 0));
 }
 
-TEST(Lines, OfJsonKeepEveryByte)
+TEST(Lines, OfJsonKeepEveryMember)
 {
-    Line line;
-    EXPECT_TRUE(line.read(R"( {"args": ["\u00e9é\n", 1, -1], "check": "PARAM_check_number", "x": 1})"));
-    EXPECT_EQ((std::vector<Value>{"\xE9\xE9\n", 1LL, -1LL}), line.values());
-    EXPECT_TRUE(line.read(R"({"check": "PARAM_check_port", "args": [null]})"));
-    EXPECT_EQ((std::vector<Value>{nullptr}), line.values());
-    EXPECT_EQ("a text holds a character above U+00FF, which is no byte",
-              problem_of([&] { line.read(R"({"check": "PARAM_check_port", "args": ["\u0100"]})"); }));
+    Reading reading;
+    reading.encoding = Encoding::kLatin1;
+    Cases cases(reading);
+    cases.open(0, FileFormat::kWords, "");
+    EXPECT_TRUE(cases.read(
+        R"( {"args": ["\u00e9é\n", 1, -1], "check": "PARAM_check_number", "x": [1, "\""], "id" : 1.0})", 0));
+    EXPECT_EQ((std::vector<Value>{"\xE9\xE9\n", 1LL, -1LL}), cases.values());
+    ASSERT_EQ(2U, cases.record().members.size());
+    EXPECT_EQ(R"([1, "\""])", cases.record().members[0].value);
+    EXPECT_EQ("1.0", cases.record().find("id")->value);
+    EXPECT_TRUE(cases.read(R"({"check": "PARAM_check_port", "args": [null]})", 0));
+    EXPECT_EQ((std::vector<Value>{nullptr}), cases.values());
+    EXPECT_EQ("a text holds U+0100, which Latin-1 does not have",
+              problem_of([&] { cases.read(R"({"check": "PARAM_check_port", "args": ["\u0100"]})", 0); }));
 }
 
 }  // namespace

@@ -1,0 +1,49 @@
+// Cases: the records of a file as calls of checks.
+#ifndef OSTREL_TOOLS_READ_CASES_H
+#define OSTREL_TOOLS_READ_CASES_H
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "read/reader.h"
+
+namespace ostrel::tool {
+
+// Cases reads one text after the other, with the same memory.
+class Cases {
+ public:
+    explicit Cases(const Reading& reading) : reading_(&reading) {}
+
+    // open prepares for the texts of a file; for the file that is open it does nothing.
+    void open(std::size_t file, FileFormat format, std::string_view preamble);
+
+    std::size_t next(std::string_view rest) { return reader_->next(rest); }
+
+    // read reads a record as a Reader does, and finds the check and its arguments; false: the text holds no record.
+    // Throws std::invalid_argument with a message for the user.
+    bool read(std::string_view text, std::size_t part);
+
+    // has_more tells that the text holds another record, also after read has thrown.
+    [[nodiscard]] bool has_more() const { return found_ == Found::kMore; }
+
+    // After read has thrown, these show how far it came: function is NULL where no check could be made out.
+    [[nodiscard]] const catalogue::Function* function() const { return function_; }
+    [[nodiscard]] const std::vector<catalogue::Value>& values() const { return values_; }
+    [[nodiscard]] const Record& record() const { return record_; }
+
+ private:
+    const Reading* reading_;
+    std::size_t file_ = 0;
+    std::string preamble_;
+    std::unique_ptr<Reader> reader_;
+    Record record_;
+    Found found_ = Found::kNothing;
+    const catalogue::Function* function_ = nullptr;
+    std::vector<catalogue::Value> values_;
+};
+
+}  // namespace ostrel::tool
+
+#endif

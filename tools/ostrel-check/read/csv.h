@@ -1,0 +1,48 @@
+// Records that are rows of CSV or TSV.
+#ifndef OSTREL_TOOLS_READ_CSV_H
+#define OSTREL_TOOLS_READ_CSV_H
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "read/csv_row.h"
+#include "read/reader.h"
+
+namespace ostrel::tool {
+
+// delimiter_of returns the byte that separates the fields.
+char delimiter_of(FileFormat format, const Reading& reading);
+
+// CsvReader takes the check and its arguments from columns; every other column is passed through. Without a choice of
+// the user's, these are the column "check", and the column "value" or the columns "value_1", "value_2" and so on.
+class CsvReader : public Reader {
+ public:
+    // Throws std::invalid_argument, with a message for the user, for a header that lacks a column that is needed.
+    CsvReader(FileFormat format, const Reading& reading, std::string_view header);
+
+    std::size_t next(std::string_view rest) override;
+    Found read(std::string_view text, std::size_t part, Record& record) override;
+
+ private:
+    [[nodiscard]] std::optional<std::size_t> column(std::string_view name) const;
+    std::size_t require_column(std::string_view name) const;
+    void choose_values();
+    void choose_passed();
+    void add_item(std::string_view field);
+
+    const Reading* reading_;
+    char delimiter_;
+    std::vector<std::string> names_;
+    std::optional<std::size_t> check_;
+    std::vector<std::size_t> values_;
+    std::vector<std::size_t> passed_;
+    CsvRow row_;
+    std::string scratch_;
+    Record* record_ = nullptr;
+};
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,44 @@
+// Cutter: finds where the records of a file end, as its bytes arrive.
+#ifndef OSTREL_TOOLS_READ_CUTTER_H
+#define OSTREL_TOOLS_READ_CUTTER_H
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "read/reading.h"
+
+namespace ostrel::tool {
+
+// kLongestText is how long a line may be, a row of CSV, or an element of an array.
+inline constexpr std::size_t kLongestText = std::size_t{16} << 20;
+
+// Cut is what a cutter found at the front of the bytes that have arrived. With all of it empty, more must arrive.
+struct Cut {
+    std::size_t dropped = 0;     // bytes at the front that belong to no record
+    std::size_t preamble = 0;    // bytes after those that are the preamble of the file
+    std::size_t size = 0;        // bytes after those that are whole texts, as Reader::next takes them
+    std::string problem;         // why nothing can be read at the place after those, for the user
+    std::size_t problem_at = 0;  // that place, counted from their end
+    bool ends_file = false;      // and nothing after it either
+};
+
+// A cutter keeps state, one for each file.
+class Cutter {
+ public:
+    Cutter() = default;
+    Cutter(const Cutter&) = delete;
+    Cutter& operator=(const Cutter&) = delete;
+    virtual ~Cutter() = default;
+
+    // cut is given all bytes that were neither dropped nor cut off before, and again when more have arrived; at most
+    // kLongestText and one more. Once is_end is set, no more will, and all of them are dropped or cut off.
+    virtual Cut cut(std::string_view bytes, bool is_end) = 0;
+};
+
+std::unique_ptr<Cutter> make_cutter(FileFormat format, const Reading& reading);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,89 @@
+#include "read/file_format.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+#include <utility>
+
+#include "read/csv_row.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+using Ending = std::pair<std::string_view, FileFormat>;
+
+constexpr std::array<Ending, 7> kEndings = {{{".ndjson", FileFormat::kNdjson},
+                                             {".jsonl", FileFormat::kNdjson},
+                                             {".json", FileFormat::kJson},
+                                             {".csv", FileFormat::kCsv},
+                                             {".tsv", FileFormat::kTsv},
+                                             {".tab", FileFormat::kTsv},
+                                             {".words", FileFormat::kWords}}};
+
+constexpr std::string_view kUtf16 = "the file is UTF-16; convert it with iconv -f UTF-16 -t UTF-8";
+
+// Front is how files of a kind begin.
+struct Front {
+    std::string_view bytes;
+    std::string_view problem;
+};
+
+constexpr std::array<Front, 6> kFronts = {{
+    {"\x1F\x8B", "the file is compressed with gzip; judge what gzip -cd writes"},
+    {"\xFD"
+     "7zXZ",
+     "the file is compressed with xz; judge what xz -cd writes"},
+    {"\x28\xB5\x2F\xFD", "the file is compressed with Zstandard; judge what zstd -cd writes"},
+    {"PK\x03\x04", "the file is a ZIP archive, as those of spreadsheets are; export it as CSV"},
+    {"\xFF\xFE", kUtf16},
+    {"\xFE\xFF", kUtf16},
+}};
+
+bool is_header(std::string_view line, char delimiter, const Reading& reading)
+{
+    if (line.find(delimiter) == std::string_view::npos) return false;
+    CsvRow row;
+    try {
+        row.split(line, delimiter);
+    } catch (const std::invalid_argument&) {
+        return false;
+    }
+    return std::ranges::any_of(row.fields(), [&](std::string_view name) {
+        if (name == "check" || name == "value" || name == "value_1") return true;
+        return !name.empty() &&
+               (name == reading.check || std::ranges::find(reading.values, name) != reading.values.end());
+    });
+}
+
+}  // namespace
+
+std::optional<FileFormat> format_of_name(std::string_view name)
+{
+    for (const auto& [ending, format] : kEndings) {
+        if (name.ends_with(ending)) return format;
+    }
+    return {};
+}
+
+FileFormat format_of_bytes(std::string_view front, const Reading& reading)
+{
+    const std::size_t begin = front.find_first_not_of(" \t\r\n");
+    if (begin != std::string_view::npos && front[begin] == '[') return FileFormat::kJson;
+    const std::string_view line = front.substr(0, front.find('\n'));
+    if (is_header(line, '\t', reading)) return FileFormat::kTsv;
+    return is_header(line, reading.delimiter.value_or(','), reading) ? FileFormat::kCsv : FileFormat::kWords;
+}
+
+std::string_view why_not_text(std::string_view front)
+{
+    for (const Front& known : kFronts) {
+        if (front.starts_with(known.bytes)) return known.problem;
+    }
+    if (front.size() < 4) return {};
+    const auto is_nul = [&](std::size_t at) { return front[at] == '\0'; };
+    const bool is_utf16 = is_nul(0) == is_nul(2) && is_nul(1) == is_nul(3) && is_nul(0) != is_nul(1);
+    return is_utf16 ? kUtf16 : std::string_view();
+}
+
+}  // namespace ostrel::tool

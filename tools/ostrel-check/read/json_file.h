@@ -1,0 +1,31 @@
+// Records that are the elements of an array of JSON, or objects one after the other.
+#ifndef OSTREL_TOOLS_READ_JSON_FILE_H
+#define OSTREL_TOOLS_READ_JSON_FILE_H
+
+#include <memory>
+#include <string_view>
+
+#include "read/cutter.h"
+#include "read/json_object.h"
+#include "read/reader.h"
+
+namespace ostrel::tool {
+
+// JsonReader takes an element with the blanks, the line ends and the comma after it.
+class JsonReader : public Reader {
+ public:
+    explicit JsonReader(const Reading& reading) : object_(reading) {}
+
+    std::size_t next(std::string_view rest) override;
+    Found read(std::string_view text, std::size_t part, Record& record) override;
+
+ private:
+    JsonObject object_;
+};
+
+// make_json_cutter makes a cutter that stops at broken JSON, and says at which line and column that is.
+std::unique_ptr<Cutter> make_json_cutter();
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,97 @@
+// A record that is an object of JSON.
+#ifndef OSTREL_TOOLS_READ_JSON_OBJECT_H
+#define OSTREL_TOOLS_READ_JSON_OBJECT_H
+
+#include <rapidjson/encodings.h>
+#include <rapidjson/reader.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "read/json_parser.h"
+#include "read/reading.h"
+#include "read/record.h"
+
+namespace ostrel::tool {
+
+// JsonObject reads {"check": name, "args": [...]} and keeps every other member. A problem does not keep it from
+// reading on, so that a result can say which record has it.
+class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonObject> {
+ public:
+    explicit JsonObject(const Reading& reading);
+
+    // read reads an object. Throws std::invalid_argument with a message for the user.
+    void read(std::string_view text, Record& record);
+
+    // The base calls these of the class that it is told, and has its own for the rest.
+    // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
+    bool Null() { return scalar(Item::Kind::kNull, {}, "null"); }
+    bool Bool(bool value);
+    bool RawNumber(const char* begin, rapidjson::SizeType size, bool copy);
+    bool String(const char* begin, rapidjson::SizeType size, bool copy);
+    bool Key(const char* begin, rapidjson::SizeType size, bool copy);
+    bool StartObject() { return start(true); }
+    bool EndObject(rapidjson::SizeType members);
+    bool StartArray() { return start(false); }
+    bool EndArray(rapidjson::SizeType elements);
+    // NOLINTEND(bugprone-derived-method-shadowing-base-method)
+
+ private:
+    // Place is what is read next.
+    enum class Place {
+        kObject,   // the record itself
+        kMembers,  // its members
+        kCheck,
+        kArgs,
+        kItems,     // of the array of arguments
+        kValue,     // of a member that is an argument
+        kTexts,     // of an array that is one argument
+        kWrapping,  // {"base64": text}
+        kBase64,
+        kOther,   // of such an object, which has nothing else
+        kPassed,  // the value of a member that is passed through
+        kEnd,
+    };
+
+    bool start(bool is_object);
+    bool end();
+    bool scalar(Item::Kind kind, std::string_view text, std::string_view token);
+    void finish_value();
+    void finish_skipping();
+    void add_item(Item::Kind kind, std::string_view text);
+    void add_base64(std::string_view text);
+    void pass(std::string_view token);
+    void enter_member(std::string_view name);
+    void enter_once(Place place, bool& has_it, std::string_view name);
+    void require_all();
+    void complain(std::string problem);
+
+    const Reading* reading_;
+    bool has_one_check_;  // of all records
+    JsonParser parser_;
+    std::string scratch_;  // what is neither in the text nor in the parser's copy of it
+    std::vector<std::vector<Item>> value_items_;
+
+    // Of the record that is being read.
+    std::string_view text_;
+    Record* record_ = nullptr;
+    Kinds kinds_;
+    Place place_ = Place::kObject;
+    Place outside_texts_ = Place::kItems;
+    Place outside_wrapping_ = Place::kItems;
+    std::vector<Item>* items_ = nullptr;
+    std::size_t depth_ = 0;
+    std::size_t skipped_ = 0;  // arrays and objects that are open and passed over
+    std::size_t begin_ = 0;    // of a value that is passed through
+    std::size_t texts_ = 0;    // the item whose texts are read
+    std::string_view name_;
+    bool has_check_ = false;
+    bool has_args_ = false;
+    std::vector<bool> has_value_;
+    std::string problem_;
+};
+
+}  // namespace ostrel::tool
+
+#endif

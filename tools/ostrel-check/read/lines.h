@@ -1,0 +1,33 @@
+// Records that are lines: words, or an object of JSON.
+#ifndef OSTREL_TOOLS_READ_LINES_H
+#define OSTREL_TOOLS_READ_LINES_H
+
+#include <string>
+
+#include "read/json_object.h"
+#include "read/reader.h"
+#include "words.h"
+
+namespace ostrel::tool {
+
+class LineReader : public Reader {
+ public:
+    // With only_json a line of words is broken JSON.
+    LineReader(const Reading& reading, bool only_json);
+
+    std::size_t next(std::string_view rest) override;
+    Found read(std::string_view text, std::size_t part, Record& record) override;
+
+ private:
+    void read_words(std::string_view line, Record& record);
+
+    const Reading* reading_;
+    bool only_json_;
+    JsonObject object_;
+    Words words_;
+    std::string encoded_;
+};
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,33 @@
+// Reading: how the records of a batch are read, as the user chose it.
+#ifndef OSTREL_TOOLS_READ_READING_H
+#define OSTREL_TOOLS_READ_READING_H
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "read/encoding.h"
+
+namespace ostrel::tool {
+
+enum class FileFormat {
+    kWords,   // a line is words, or an object of JSON
+    kNdjson,  // a line is an object of JSON
+    kCsv,     // RFC 4180, with a header
+    kTsv,     // the same with tabs
+    kJson,    // an array of objects, or objects one after the other, over as many lines as they need
+};
+
+struct Reading {
+    std::optional<FileFormat> format;  // none: each file's name decides, then its first bytes
+    Encoding encoding = Encoding::kUtf8;
+    std::optional<char> delimiter;  // of CSV
+    std::string check;  // the column or member that names the check, or the one check of all records
+    std::vector<std::string> values;  // the columns or members that are the arguments, in their order
+    bool is_strict = false;           // unknown and doubled members are malformed
+    bool needs_check = true;          // a record without a check is malformed
+};
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,65 @@
+// Record: what a reader found in one record of a file, whatever the file's format.
+#ifndef OSTREL_TOOLS_READ_RECORD_H
+#define OSTREL_TOOLS_READ_RECORD_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace ostrel::tool {
+
+// Item is an argument, or a value from which one is made. A text is the bytes that are passed: characters have
+// become bytes of the encoding that the user chose, and base64 has been decoded. A number and a Boolean are texts,
+// as their tokens are in the file.
+struct Item {
+    enum class Kind {
+        kText,
+        kNull,
+        kTexts,  // the next count items are the texts of one argument
+    };
+    Kind kind = Kind::kText;
+    std::string_view text;
+    std::size_t count = 0;
+};
+
+// Member is a member or a column that no reader needs and that each result repeats.
+struct Member {
+    std::string_view name;   // in UTF-8, without escapes
+    std::string_view value;  // a token of JSON as the file has it, or a text as the file has it
+    bool is_json = false;
+};
+
+// Record is filled again and again. Its views belong to the reader and to the text that was read, and hold until
+// the next record is read.
+struct Record {
+    std::uint64_t line = 0;  // of the file, on which the record begins
+    std::string_view check;  // its name; empty where the record has none
+    std::string_view path;   // where the value is in nested JSON, its names separated by "."; otherwise empty
+    std::vector<Item> items;
+    std::vector<Member>
+        members;  // "id" and "parameter" among them, in the order of the record, no name twice
+    bool may_have_spares = false;  // items that the check does not take and that are empty mean nothing
+
+    void clear()
+    {
+        check = {};
+        path = {};
+        items.clear();
+        members.clear();
+        may_have_spares = false;
+    }
+
+    // find returns the last member of that name, or NULL.
+    [[nodiscard]] const Member* find(std::string_view name) const
+    {
+        for (auto member = members.rbegin(); member != members.rend(); ++member) {
+            if (member->name == name) return &*member;
+        }
+        return nullptr;
+    }
+};
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,13 @@
+// Schemas: files of the source tree that the program carries with it.
+#ifndef OSTREL_TOOLS_SCHEMAS_H
+#define OSTREL_TOOLS_SCHEMAS_H
+
+#include <string_view>
+
+namespace ostrel::tool {
+
+std::string_view result_schema();  // result.schema.json
+
+}  // namespace ostrel::tool
+
+#endif
