@@ -19,11 +19,12 @@ extern "C" {
 #endif
 
 /* ostrel_room says how many bytes a buffer must have in this call; 0 where there is no memory to tell. */
-size_t ostrel_room(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots, unsigned argument);
+size_t ostrel_room(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
+                   unsigned argument);
 
 /* ostrel_explain makes the text of the wish, with malloc. False: there is no memory for it. */
-bool ostrel_explain(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots, OstrelWish wish,
-                    OstrelAnswer* answer);
+bool ostrel_explain(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
+                    OstrelWish wish, OstrelAnswer* answer);
 
 #ifdef __cplusplus
 }

@@ -1,5 +1,6 @@
 // Room and reasons, from the descriptions. C++ ends here: no exception leaves, and what is returned is C's.
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <exception>
@@ -104,11 +105,12 @@ std::string lengths(const OstrelCheck& check, const OstrelText* given)
 }
 
 // reason is empty where finding it would take too long.
-std::string reason(const OstrelCheck& called, const OstrelText* given, const OstrelSlot* slots, OstrelWish wish, int code)
+std::string reason(const OstrelCheck& called, const OstrelText* given, const OstrelSlot* slots,
+                   OstrelWish wish, int code)
 {
     const Check& check = *ostrel::rules::find(called.name);
-    const Answer told = ostrel::rules::evaluate_within(ostrel::rules::kMostWork, check, values_of(called, given, slots),
-                                                       this_build());
+    const Answer told = ostrel::rules::evaluate_within(ostrel::rules::kMostWork, check,
+                                                       values_of(called, given, slots), this_build());
     const bool is_explained = told.is_refusal && told.code == code;
     std::string out;
     if (wish == kReason) {
@@ -120,19 +122,20 @@ std::string reason(const OstrelCheck& called, const OstrelText* given, const Ost
 
 }  // namespace
 
-size_t ostrel_room(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots, unsigned argument)
+size_t ostrel_room(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
+                   unsigned argument)
 {
     try {
         const auto values = values_of(*check, given, slots);
         const auto room = ostrel::rules::room(*ostrel::rules::find(check->name), argument, values);
-        return room ? *room : std::get<std::string>(values[argument]).size() + 1;
+        return std::max(room.value_or(0), std::get<std::string>(values[argument]).size() + 1);
     } catch (const std::exception&) {
         return 0;
     }
 }
 
-bool ostrel_explain(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots, OstrelWish wish,
-                    OstrelAnswer* answer)
+bool ostrel_explain(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
+                    OstrelWish wish, OstrelAnswer* answer)
 {
     try {
         const bool is_secret = wish == kSentence && ostrel_has_secret(check);

@@ -57,7 +57,8 @@ extern "C" {
  * ostrel_choose_check finds the check and tells whether it can be called with so many values. is_verdict: an answer that
  * is a number does not do. NULL: the fault says why.
  */
-const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t values, bool is_verdict, OstrelFault* fault);
+const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t values, bool is_verdict,
+                                       OstrelFault* fault);
 
 /* ostrel_is_callable tells the same of a check that is known. */
 bool ostrel_is_callable(const OstrelCheck* check, size_t values, bool is_verdict, OstrelFault* fault);

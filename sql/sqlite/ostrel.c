@@ -24,7 +24,7 @@ typedef struct {
 } OstrelQuestion;
 
 static const OstrelQuestion kQuestions[] = {
-    {"ostrel_code", kCode, false, false},  {"ostrel_valid", kCode, true, true},
+    {"ostrel_code", kCode, false, false},    {"ostrel_valid", kCode, true, true},
     {"ostrel_reason", kReason, true, false}, {"ostrel_line", kLine, false, false},
     {"ostrel_after", kAfter, false, false},
 };
@@ -35,9 +35,9 @@ static const OstrelQuestion kCodeAlone = {"", kCode, false, false};
  * take gets a value as bytes with a NUL byte after them: a blob as it is, a text as UTF-8, a number as the text that
  * SQLite makes of it. *copy is to be freed.
  */
-static bool take(sqlite3_value* value, OstrelText* text, char** copy)
+static bool take(sqlite3_value* value, int type, OstrelText* text, char** copy)
 {
-    if (sqlite3_value_type(value) != SQLITE_BLOB) {
+    if (type != SQLITE_BLOB) {
         text->bytes = (const char*)sqlite3_value_text(value);
         text->size = (size_t)sqlite3_value_bytes(value);
         return text->bytes != NULL;
@@ -71,22 +71,26 @@ static void answer_with(sqlite3_context* context, const OstrelCheck* check, cons
     if (question->wish != kCode) ostrel_release(&answer);
 }
 
-static void judge(sqlite3_context* context, const OstrelCheck* check, const OstrelQuestion* question, int count,
-                  sqlite3_value** values)
+static void judge(sqlite3_context* context, const OstrelCheck* check, const OstrelQuestion* question,
+                  int count, sqlite3_value** values)
 {
     OstrelText given[kMostArguments];
     char* copies[kMostArguments] = {NULL, NULL, NULL, NULL};
+    bool has_null = false;
     bool is_taken = true;
-    for (int i = 0; i < count; ++i) {
-        if (sqlite3_value_type(values[i]) == SQLITE_NULL) return; /* NULL answers NULL */
+    for (int i = 0; i < count && is_taken && !has_null; ++i) {
+        const int type = sqlite3_value_type(values[i]);
+        has_null = type == SQLITE_NULL;
+        is_taken = has_null || take(values[i], type, &given[i], &copies[i]);
     }
-    for (int i = 0; i < count; ++i) is_taken = is_taken && take(values[i], &given[i], &copies[i]);
-    if (is_taken) {
-        answer_with(context, check, question, given);
-    } else {
+    if (!is_taken) {
         sqlite3_result_error_nomem(context);
+    } else if (!has_null) {
+        answer_with(context, check, question, given);
     }
-    for (int i = 0; i < count; ++i) sqlite3_free(copies[i]);
+    for (int i = 0; i < count; ++i) {
+        if (copies[i] != NULL) sqlite3_free(copies[i]);
+    }
 }
 
 /* call_check is the function of one check. */
@@ -114,8 +118,9 @@ static void call_question(sqlite3_context* context, int count, sqlite3_value** v
     if (check == NULL) {
         OstrelText name;
         char* copy = NULL;
-        if (sqlite3_value_type(values[0]) == SQLITE_NULL) return;
-        if (!take(values[0], &name, &copy)) {
+        const int type = sqlite3_value_type(values[0]);
+        if (type == SQLITE_NULL) return;
+        if (!take(values[0], type, &name, &copy)) {
             sqlite3_result_error_nomem(context);
             return;
         }
@@ -137,10 +142,10 @@ int sqlite3_ostrel_init(sqlite3* database, char** error, const sqlite3_api_routi
     SQLITE_EXTENSION_INIT2(api);
     (void)error;
     for (size_t i = 0; i < sizeof kQuestions / sizeof kQuestions[0] && status == SQLITE_OK; ++i)
-        status = sqlite3_create_function_v2(database, kQuestions[i].sql_name, -1, flags, (void*)&kQuestions[i],
-                                            call_question, NULL, NULL, NULL);
+        status = sqlite3_create_function_v2(database, kQuestions[i].sql_name, -1, flags,
+                                            (void*)&kQuestions[i], call_question, NULL, NULL, NULL);
     for (size_t i = 0; i < ostrel_check_count && status == SQLITE_OK; ++i)
-        status = sqlite3_create_function_v2(database, ostrel_checks[i].sql_name, (int)ostrel_checks[i].texts, flags,
-                                            (void*)&ostrel_checks[i], call_check, NULL, NULL, NULL);
+        status = sqlite3_create_function_v2(database, ostrel_checks[i].sql_name, (int)ostrel_checks[i].texts,
+                                            flags, (void*)&ostrel_checks[i], call_check, NULL, NULL, NULL);
     return status;
 }
