@@ -65,6 +65,38 @@ def row(check):
         hindrance_of(check), shape.capitalize(), shape, check["name"])
 
 
+ATTRIBUTES = "LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE;\n"
+POSTGRESQL_TYPES = {"kInteger": "integer", "kUnsigned": "bigint"}
+
+# The functions that take the name of a check, and what they return of texts and of bytes.
+QUESTIONS = {"ostrel_code": ("integer", "integer"), "ostrel_valid": ("boolean", "boolean"),
+             "ostrel_reason": ("jsonb", "jsonb"), "ostrel_line": ("text", "bytea"), "ostrel_after": ("jsonb", "jsonb")}
+
+
+def postgresql_function(check):
+    parameters = []
+    for argument in check["arguments"]:
+        texts = texts_of(argument)
+        kind = POSTGRESQL_TYPES.get(kind_of(argument), "text")
+        parameters += ['"%s%s" %s' % (argument["name"].lower(), i + 1 if texts > 1 else "", kind)
+                       for i in range(texts)]
+    return "CREATE FUNCTION %s(%s) RETURNS integer AS 'MODULE_PATHNAME', 'ostrel_check_%s' %s" % (
+        sql_name(check), ", ".join(parameters), check["name"], ATTRIBUTES)
+
+
+def postgresql_question(name, value, returned):
+    return ("CREATE FUNCTION %s(\"check\" text, VARIADIC \"values\" %s[]) RETURNS %s AS 'MODULE_PATHNAME', '%s' %s"
+            % (name, value, returned, name, ATTRIBUTES))
+
+
+def postgresql_script(checks):
+    questions = [postgresql_question(name, value, returned) for name, types in QUESTIONS.items()
+                 for value, returned in zip(("text", "bytea"), types)]
+    return ("-- Made by sql/generate.py.\n"
+            "\\echo Use \"CREATE EXTENSION ostrel\" to load this file. \\quit\n\n"
+            + "".join(questions) + "\n" + "".join(map(postgresql_function, checks)))
+
+
 def main():
     checks = json.loads(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))["checks"]
     folder = pathlib.Path(sys.argv[2])
@@ -73,8 +105,13 @@ def main():
     same = {name for name in names if names.count(name) > 1}
     if same:
         sys.exit("several checks would be the SQL function " + ", ".join(sorted(same)))
-    (folder / "common/checks.inc").write_text(
-        "/* Made by sql/generate.py. */\n" + "".join(map(row, checks)), encoding="utf-8")
+    made = "/* Made by sql/generate.py. */\n"
+    functions = ("OSTREL_CHECK(%d, %s)\n" % (i, check["name"]) for i, check in enumerate(checks))
+    files = {"common/checks.inc": made + "".join(map(row, checks)),
+             "postgresql/functions.inc": made + "".join(functions),
+             "postgresql/ostrel--1.0.sql": postgresql_script(checks)}
+    for name, text in files.items():
+        (folder / name).write_text(text, encoding="utf-8")
 
 
 if __name__ == "__main__":

@@ -10,7 +10,7 @@ import unittest
 
 import shared
 
-GENERATED = ("common/checks.inc",)
+GENERATED = ("common/checks.inc", "postgresql/functions.inc", "postgresql/ostrel--1.0.sql")
 
 
 class Generated(unittest.TestCase):
