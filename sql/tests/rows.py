@@ -12,12 +12,24 @@ NOT_CALLED = "the check is not called from SQL"
 NULL = "an argument is NULL"
 
 
-def text_of(value):
+class Text(bytes):
+    """Text knows the pieces that it is made of, each with how often it is repeated."""
+    pieces = ()
+
+
+def pieces_of(value):
     if isinstance(value, str):
-        return value.encode("latin-1")
+        return [(value.encode("latin-1"), 1)]
     if "join" in value:
-        return b"".join(map(text_of, value["join"]))
-    return text_of(value["repeat"]) * value["times"]
+        return [piece for part in value["join"] for piece in pieces_of(part)]
+    return [(text_of(value["repeat"]), value["times"])]
+
+
+def text_of(value):
+    pieces = pieces_of(value)
+    text = Text(b"".join(part * times for part, times in pieces))
+    text.pieces = pieces
+    return text
 
 
 def is_output(argument):
