@@ -1,6 +1,7 @@
 #include "rules/build.h"
 
 #include <cstdint>
+#include <cstdlib>
 #include <limits>
 
 namespace ostrel::rules {
@@ -35,6 +36,13 @@ std::uint32_t wrapped(std::string_view digits, bool negative)
 }
 
 }  // namespace
+
+Build::Atoi atoi_here()
+{
+    const int read = std::atoi("99999999999999999999");
+    if (read == -1) return Build::Atoi::kLong64;
+    return read == std::numeric_limits<int>::max() ? Build::Atoi::kLong32 : Build::Atoi::kWrapping;
+}
 
 Number read_number(std::string_view text, Build::Atoi atoi)
 {

@@ -25,6 +25,9 @@ struct Build {
     std::optional<std::vector<int>> channels = std::nullopt;
 };
 
+// atoi_here asks this machine's C library.
+Build::Atoi atoi_here();
+
 // Number is what atoi reads at the beginning of a text.
 struct Number {
     int value = 0;

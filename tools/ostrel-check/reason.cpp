@@ -1,8 +1,5 @@
 #include "reason.h"
 
-#include <cstdlib>
-#include <limits>
-
 #include "rules/evaluate.h"
 #include "rules/reason_json.h"
 #include "rules/sentences.h"
@@ -14,13 +11,6 @@ using rules::Build;
 using rules::Reason;
 
 namespace {
-
-Build::Atoi atoi_here()
-{
-    const int read = std::atoi("99999999999999999999");
-    if (read == -1) return Build::Atoi::kLong64;
-    return read == std::numeric_limits<int>::max() ? Build::Atoi::kLong32 : Build::Atoi::kWrapping;
-}
 
 // is_explained tells that the description comes to the same end as the call did.
 bool is_explained(const Result& result, const Answer& answer)
@@ -46,7 +36,7 @@ void append_utf8(std::string& out, std::string_view bytes) { append_bytes(out, b
 
 Build& gateway()
 {
-    static Build build = {OSTREL_MODEL, OSTREL_ACCOUNT_REALM, OSTREL_SETUP_REALM, atoi_here(), std::nullopt};
+    static Build build = {OSTREL_MODEL, OSTREL_ACCOUNT_REALM, OSTREL_SETUP_REALM, rules::atoi_here(), std::nullopt};
     return build;
 }
 

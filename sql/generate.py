@@ -1,0 +1,118 @@
+#!/usr/bin/python3
+"""Makes what the extensions have of the list of checks.
+
+usage: generate.py LIST FOLDER
+
+LIST is what "ostrel-check list --json" prints, FOLDER where sql/ is, or a copy of its folders.
+"""
+
+import json
+import pathlib
+import sys
+
+KINDS = {"text": "kText", "buffer": "kBuffer", "blocks": "kBlocks", "integer": "kInteger",
+         "unsigned": "kUnsigned", "integer_out": "kOutputInteger"}
+LETTERS = {"kText": "t", "kBuffer": "b", "kBlocks": "b", "kInteger": "i", "kUnsigned": "u", "kOutputText": "b",
+           "kOutputInteger": "o"}
+
+# SQL does not tell upper case from lower case in the names of functions.
+OTHER_SQL_NAMES = {"Param_check_bool_value": "param_check_bool_value_branding",
+                   "Param_check_string_len": "param_check_string_len_signed"}
+
+
+def kind_of(argument):
+    kind = KINDS[argument["kind"]]
+    return "kOutputText" if kind == "kBuffer" and argument["output_only"] else kind
+
+
+def texts_of(argument):
+    """texts_of tells how many values SQL gives for an argument."""
+    return 0 if kind_of(argument).startswith("kOutput") else argument.get("blocks", 1)
+
+
+def steps_of(steps):
+    for step in steps:
+        yield step
+        for inner in ("steps", "otherwise", "uses"):
+            yield from steps_of(step.get(inner, []))
+
+
+def hindrance_of(check):
+    steps = list(steps_of(check["steps"]))
+    if any(step["step"] == "never_return" for step in steps):
+        return "kNeverReturns"
+    # The driver is asked with a command of its own.
+    if any("wireless driver" in step["text"] for step in steps):
+        return "kRunsShell"
+    return "kNone"
+
+
+def sql_name(check):
+    return OTHER_SQL_NAMES.get(check["name"], check["name"].lower())
+
+
+def row(check):
+    def member(argument):
+        return '{"%s", %s, %s, %d, %d}' % (
+            argument["name"], kind_of(argument), "true" if argument.get("secret") else "false",
+            argument.get("blocks", 1), argument.get("block_size", 0))
+
+    arguments = check["arguments"]
+    shape = "".join(LETTERS[kind_of(argument)] for argument in arguments)
+    return '{"%s", "%s", %d, %d, {%s}, %s, %s, kShape%s, {.%s = %s}},\n' % (
+        check["name"], sql_name(check), sum(map(texts_of, arguments)), len(arguments),
+        ", ".join(map(member, arguments)), "true" if check["answers"] == "number" else "false",
+        hindrance_of(check), shape.capitalize(), shape, check["name"])
+
+
+ATTRIBUTES = "LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE;\n"
+POSTGRESQL_TYPES = {"kInteger": "integer", "kUnsigned": "bigint"}
+
+# The functions that take the name of a check, and what they return of texts and of bytes.
+QUESTIONS = {"ostrel_code": ("integer", "integer"), "ostrel_valid": ("boolean", "boolean"),
+             "ostrel_reason": ("jsonb", "jsonb"), "ostrel_line": ("text", "bytea"), "ostrel_after": ("jsonb", "jsonb")}
+
+
+def postgresql_function(check):
+    parameters = []
+    for argument in check["arguments"]:
+        texts = texts_of(argument)
+        kind = POSTGRESQL_TYPES.get(kind_of(argument), "text")
+        parameters += ['"%s%s" %s' % (argument["name"].lower(), i + 1 if texts > 1 else "", kind)
+                       for i in range(texts)]
+    return "CREATE FUNCTION %s(%s) RETURNS integer AS 'MODULE_PATHNAME', 'ostrel_check_%s' %s" % (
+        sql_name(check), ", ".join(parameters), check["name"], ATTRIBUTES)
+
+
+def postgresql_question(name, value, returned):
+    return ("CREATE FUNCTION %s(\"check\" text, VARIADIC \"values\" %s[]) RETURNS %s AS 'MODULE_PATHNAME', '%s' %s"
+            % (name, value, returned, name, ATTRIBUTES))
+
+
+def postgresql_script(checks):
+    questions = [postgresql_question(name, value, returned) for name, types in QUESTIONS.items()
+                 for value, returned in zip(("text", "bytea"), types)]
+    return ("-- Made by sql/generate.py.\n"
+            "\\echo Use \"CREATE EXTENSION ostrel\" to load this file. \\quit\n\n"
+            + "".join(questions) + "\n" + "".join(map(postgresql_function, checks)))
+
+
+def main():
+    checks = json.loads(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))["checks"]
+    folder = pathlib.Path(sys.argv[2])
+    checks.sort(key=lambda check: check["name"].encode())
+    names = [sql_name(check) for check in checks]
+    same = {name for name in names if names.count(name) > 1}
+    if same:
+        sys.exit("several checks would be the SQL function " + ", ".join(sorted(same)))
+    made = "/* Made by sql/generate.py. */\n"
+    functions = ("OSTREL_CHECK(%d, %s)\n" % (i, check["name"]) for i, check in enumerate(checks))
+    files = {"common/checks.inc": made + "".join(map(row, checks)),
+             "postgresql/functions.inc": made + "".join(functions),
+             "postgresql/ostrel--1.0.sql": postgresql_script(checks)}
+    for name, text in files.items():
+        (folder / name).write_text(text, encoding="utf-8")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,65 @@
+#!/usr/bin/python3
+"""Runs the commands of docs/sql.md as they stand there, in a folder like a clone that the extensions were built in."""
+
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import shared
+
+sys.path.insert(0, str(shared.SOURCE / "tests/docs"))
+import documents  # noqa: E402  it is beside another test
+
+TEXT = (shared.SOURCE / "docs/sql.md").read_text(encoding="utf-8")
+# What installs and builds was done before this runs.
+LONG = re.compile(r"scripts/setup |cmake --preset sql ")
+
+
+def run(folder, command, **options):
+    return subprocess.run(command, check=False, cwd=folder, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, text=True, timeout=120, **options)
+
+
+class Commands(unittest.TestCase):
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.folder = pathlib.Path(scratch.name)
+        for entry in shared.SOURCE.iterdir():
+            if entry.name not in ("build", ".git"):
+                (self.folder / entry.name).symlink_to(entry)
+        (self.folder / "build").mkdir()
+        (self.folder / "build/sql").symlink_to(shared.BUILD)
+        for language, _, lines in documents.blocks(TEXT):
+            if language == "sql":
+                name = lines[0].removeprefix("-- ")
+                (self.folder / name).write_text("\n".join(lines[1:]) + "\n", encoding="utf-8")
+
+    def test_commands(self):
+        told = [block for block in documents.blocks(TEXT) if block[0] in documents.SHELL]
+        commands = list(documents.in_blocks(TEXT))
+        self.assertGreaterEqual(len(commands), len(told))
+        for command in commands:
+            with self.subTest(line=command.number, command=command.text):
+                if LONG.match(command.text):
+                    continue
+                result = run(self.folder, ["bash", "-c", command.text])
+                self.assertEqual(0, result.returncode, result.stdout)
+                self.assertEqual(command.output or "", result.stdout)
+        for language, first, lines in documents.blocks(TEXT):
+            if language == "python":
+                with self.subTest(line=first):
+                    self.assertEqual("[(1,)]\n", run(self.folder, [sys.executable, "-c", "\n".join(lines)]).stdout)
+
+    def test_paths(self):
+        for _, span in documents.spans(TEXT):
+            if re.fullmatch(r"[\w.]+/[\w./]*", span):
+                self.assertTrue(os.path.exists(self.folder / span), span)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,98 @@
+"""Reads the vectors as SQL can carry them."""
+
+import collections
+import json
+
+# Row is a row that SQL can carry. Values are bytes and numbers, in the order in which SQL gives them; after lists
+# what is right; reason is None where the row says nothing of it.
+Row = collections.namedtuple("Row", "place check values code out after reason is_verdict")
+
+WRITTEN = ("buffer", "blocks", "integer_out")
+NOT_CALLED = "the check is not called from SQL"
+NULL = "an argument is NULL"
+
+
+class Text(bytes):
+    """Text knows the pieces that it is made of, each with how often it is repeated."""
+    pieces = ()
+
+
+def pieces_of(value):
+    if isinstance(value, str):
+        return [(value.encode("latin-1"), 1)]
+    if "join" in value:
+        return [piece for part in value["join"] for piece in pieces_of(part)]
+    return [(text_of(value["repeat"]), value["times"])]
+
+
+def text_of(value):
+    pieces = pieces_of(value)
+    text = Text(b"".join(part * times for part, times in pieces))
+    text.pieces = pieces
+    return text
+
+
+def is_output(argument):
+    return argument["output_only"] or argument["kind"] == "integer_out"
+
+
+def given(check, args):
+    """given returns the arguments that SQL gives, each with its value."""
+    arguments = check["arguments"]
+    if len(args) < len(arguments):
+        arguments = [argument for argument in arguments if not is_output(argument)]
+    return [(argument, value) for argument, value in zip(arguments, args) if not is_output(argument)]
+
+
+def value_of(value):
+    return value if isinstance(value, int) else text_of(value)
+
+
+def plain(value):
+    """plain is a value as JSON has it, in which each character is a byte."""
+    if isinstance(value, list):
+        return [plain(one) for one in value]
+    return value if value is None or isinstance(value, int) else text_of(value).decode("latin-1")
+
+
+def held(check, row):
+    """held lists what the arguments that can be written to may hold after the call: what the row says, or as before.
+
+    SQL does not give what is only written. There a row's "as before" is what the row gives, where that is written again,
+    or nothing."""
+    if "after" in row:
+        return [plain(row["after"])]
+    written = [argument for argument in check["arguments"] if argument["kind"] in WRITTEN]
+    before = dict(zip((argument["name"] for argument in check["arguments"]), row["args"]))
+    unwritten = {argument["name"]: None if argument["kind"] == "integer_out" else ""
+                 for argument in written if is_output(argument)}
+    return [plain([values[argument["name"]] for argument in written])
+            for values in ({**unwritten, **before}, {**before, **unwritten})]
+
+
+def rows(checks, files, not_called):
+    """rows returns the rows and a count of those left out, by the reason."""
+    by_name = {check["name"]: check for check in checks}
+    found, left_out = [], collections.Counter()
+    for file in sorted(files):
+        for number, line in enumerate(file.read_text(encoding="utf-8").strip().split("\n"), 1):
+            row = json.loads(line)
+            check = by_name[row["check"]]
+            if row["check"] in not_called:
+                left_out[NOT_CALLED] += 1
+                continue
+            if None in row["args"]:
+                left_out[NULL] += 1
+                continue
+            pairs, values = given(check, row["args"]), []
+            for argument, value in pairs:
+                values += [value_of(one) for one in value] if argument["kind"] == "blocks" else [value_of(value)]
+            found.append(Row("%s:%d" % (file.name, number), row["check"], values, row["code"],
+                             text_of(row.get("out", "")), held(check, row), row.get("reason"),
+                             check["answers"] == "code"))
+    return found, left_out
+
+
+def told(reason):
+    """told has of a reason what a row says of it."""
+    return {name: reason[name] for name in ("id", "argument", "part", "item", "offset") if name in reason}
