@@ -7,12 +7,12 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "catalogue/own_var.h"
 #include "run.h"
-#include "tests/support/own_var.h"
 
 namespace ostrel::tool {
 
-using tests::kChannelList;
+using catalogue::kChannelList;
 
 namespace {
 
@@ -21,7 +21,7 @@ class Driver : public testing::Test {
     // Each test has a folder for temporary files of its own, so that it can see that none is left.
     void SetUp() override
     {
-        if (!tests::can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
+        if (!catalogue::can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
         ASSERT_NE(nullptr, mkdtemp(folder_.data()));
         setenv("TMPDIR", folder_.c_str(), 1);
     }
