@@ -72,6 +72,7 @@ class Batch {
         for (const auto& slot : busy_) {
             advance.cases += slot->judged().cases;
             advance.refused += slot->judged().refused;
+            advance.bytes -= slot->left();
         }
         meter_.show(advance);
     }

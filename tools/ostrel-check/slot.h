@@ -61,6 +61,9 @@ class Slot {
 
     // judged tells how much of the chunk has been judged and not been taken.
     [[nodiscard]] const Progress& judged() const { return arena_->progress(); }
+    // left is how many bytes of the chunk have not been judged.
+    [[nodiscard]] std::size_t left() const { return arena_->rest_of_input().size(); }
+
     [[nodiscard]] std::size_t file() const { return arena_->file; }
 
     // is_done tells that the chunk has been judged and taken.
