@@ -101,7 +101,8 @@ TEST_F(Driver, IsToldInTheReasonOfARefusal)
     const auto rows = run_batch("WLAN_check_channel 13 RADIO_2.4GHz\n", {"--channels", "1 6 11 14"});
     EXPECT_EQ("refused", rows[0]["verdict"]);
     EXPECT_EQ("not_listed_by_driver", rows[0]["reason"]["id"]);
-    EXPECT_EQ("channel is 13; of the channels that the wireless driver lists, 1, 6, 11 are allowed", rows[0]["reason"]["text"]);
+    EXPECT_EQ("channel is 13; of the channels that the wireless driver lists, 1, 6, 11 are allowed",
+              rows[0]["reason"]["text"]);
     const auto none = run_batch(kChannel6, {"--channels", ""});
     EXPECT_EQ("no_channel_listed", none[0]["reason"]["id"]);
 }
