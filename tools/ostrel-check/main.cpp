@@ -108,7 +108,7 @@ CLI::App* add_list(CLI::App& app, Options& options)
         add_command(app, "list", "Show every check with its arguments and its rule", list_help());
     CLI::Option_group* forms = list->add_option_group("Forms");
     forms->add_flag("--json", options.json, "The catalogue in JSON");
-    forms->add_option("--schema", options.schema, "Its JSON Schema, or that of a result or a summary")
+    forms->add_option("--schema", options.schema, "Its JSON Schema, or a result's, or a summary's")
         ->expected(0, 1)
         ->default_str("catalogue")
         ->check(CLI::IsMember({"catalogue", "result", "summary"}))

@@ -61,6 +61,15 @@ class Fleet(unittest.TestCase):
             self.same(self.path(name), os.path.join(again, name))
         shutil.rmtree(again)
 
+    def test_each_form_is_judged_the_same(self):
+        """The rows of CSV have the lines of the JSON before them, and the header."""
+        self.judge("rows", self.path("fleet.csv"))
+        self.same(self.total, self.path("rows.summary"))
+        number = re.compile(rb'"line":\d+,')
+        with open(self.whole, "rb") as whole, open(self.path("rows"), "rb") as rows:
+            for one, other in zip(whole, rows, strict=True):
+                self.assertEqual(number.sub(b"", one, count=1), number.sub(b"", other, count=1))
+
     def test_any_number_of_processes_judges_the_same(self):
         self.same(self.whole, self.judge("side by side", "--jobs", "4", self.lines))
         self.same(self.total, self.path("side by side.summary"))
@@ -96,11 +105,14 @@ class Fleet(unittest.TestCase):
                 piece.writelines(lines[i * size:(i + 1) * size])
             results.append(self.judge(f"piece{i}", self.path("piece")))
         self.same(self.total, self.summarise(*[name + ".summary" for name in results]))
-        with open(self.path("joined"), "wb") as joined:
+        # Lines are numbered in the piece.
+        number = re.compile(rb'"line":\d+,')
+        with open(self.whole, "rb") as whole:
             for name in results:
                 with open(name, "rb") as part:
-                    shutil.copyfileobj(part, joined)
-        self.same(self.whole, self.path("joined"))
+                    for line in part:
+                        self.assertEqual(number.sub(b"", next(whole), count=1), number.sub(b"", line, count=1))
+            self.assertEqual(b"", whole.read(1))
 
 
 if __name__ == "__main__":
