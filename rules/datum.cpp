@@ -90,4 +90,9 @@ std::string quoted(std::string_view text)
     return result + (text.size() > kLongest ? "...\"" : "\"");
 }
 
+std::string length_shown(std::size_t size)
+{
+    return "<" + std::to_string(size) + (size == 1 ? " byte>" : " bytes>");
+}
+
 }  // namespace ostrel::rules

@@ -2,6 +2,7 @@
 #ifndef OSTREL_RULES_DATUM_H
 #define OSTREL_RULES_DATUM_H
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,9 @@ std::string keyword_in_words(std::string_view word);
 
 // quoted shows a text so that it can be printed: between quotation marks, cut, with \x9F for what is not printable.
 std::string quoted(std::string_view text);
+
+// length_shown is what is shown in the place of a secret: "<12 bytes>".
+std::string length_shown(std::size_t size);
 
 }  // namespace ostrel::rules
 

@@ -1,6 +1,7 @@
 // The steps of a check in a call.
 #include "rules/evaluate.h"
 
+#include "rules/datum.h"
 #include "rules/rules.h"
 #include "rules/run.h"
 #include "rules/walk.h"
@@ -69,6 +70,15 @@ Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const 
 {
     Run run(check, build, nullptr);
     run.limit_work(bytes);
+    return run.evaluate(values);
+}
+
+Answer evaluate_hiding(std::uint64_t bytes, const Check& check, std::span<const Value> values,
+                       const Build& build)
+{
+    Run run(check, build, nullptr);
+    run.limit_work(bytes);
+    run.hide_secrets();
     return run.evaluate(values);
 }
 
@@ -204,8 +214,11 @@ void Run::print(const std::vector<Line>& lines, Frame& frame, const Reason& reas
                 continue;
             }
             const Operand value = text(*part.value, frame);
+            const bool is_secret = value.place.argument && called_.arguments[*value.place.argument].is_secret;
             if (value.kind == Operand::Kind::kNumber) {
                 stream += std::to_string(value.number);
+            } else if (hides_secrets_ && is_secret) {
+                stream += length_shown(value.text.size());
             } else {
                 stream += value.text;
             }

@@ -65,6 +65,10 @@ inline constexpr std::uint64_t kMostWork = std::uint64_t{128} << 20U;
 Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 
+// evaluate_hiding is evaluate_within with lines in which the value of a secret argument is shown as its length.
+Answer evaluate_hiding(std::uint64_t bytes, const Check& check, std::span<const Value> values,
+                       const Build& build);
+
 // room says how many bytes a buffer must have in a call. Nothing: those of the text in it, or what the room depends on
 // is NULL.
 std::optional<std::size_t> room(const Check& check, std::size_t argument, std::span<const Value> values);

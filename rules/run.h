@@ -80,6 +80,7 @@ class Run {
     }
 
     void limit_work(std::uint64_t bytes) { bytes_left_ = bytes; }
+    void hide_secrets() { hides_secrets_ = true; }
     Answer evaluate(std::span<const Value> values);
     std::optional<std::size_t> size(const Expression& formula, std::span<const Value> values);
 
@@ -134,6 +135,7 @@ class Run {
     const Reason* fault_ = nullptr;                   // while lines are printed
     const std::vector<Line>* fault_lines_ = nullptr;  // of the group of a shape that is at fault
     int its_code_ = 0;                                // of the check that was last used
+    bool hides_secrets_ = false;
     std::uint64_t bytes_left_ = std::numeric_limits<std::uint64_t>::max();
 };
 

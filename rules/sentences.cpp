@@ -120,7 +120,7 @@ std::string value_of(std::string_view name, const Reason& reason)
     if (name == "read") return reason.read_as ? "read as " : "";
     if (name == "read_as") return reason.read_as ? std::to_string(*reason.read_as) : "";
     const auto* byte = std::get_if<std::string>(&reason.found);
-    return byte == nullptr || byte->empty() ? "" : byte_in_words(byte->front());
+    return byte == nullptr || byte->empty() ? "a byte that is not shown" : byte_in_words(byte->front());
 }
 
 const Sentence* find(std::string_view id)
@@ -183,6 +183,18 @@ std::string full_sentence(const Reason& reason, const Check& check)
     if (said.empty() || subject.empty()) return said;
     const bool has_subject = find(reason.id)->has_subject || !reason.part.empty();
     return subject + (has_subject ? ": " : " ") + said;
+}
+
+Reason without_trace_of_secret(Reason reason, const Check& check)
+{
+    const bool is_secret = reason.argument && check.arguments[*reason.argument].is_secret;
+    if (!is_secret) return reason;
+    // Of numbers only those are left that count something; others were read in the text.
+    const bool is_read = reason.read_as || reason.id.starts_with("number_");
+    if (is_read || !std::holds_alternative<long long>(reason.found)) reason.found = std::monostate();
+    reason.read_as.reset();
+    reason.item_text.clear();
+    return reason;
 }
 
 Reason without_secret(Reason reason, const Check& check)

@@ -45,6 +45,9 @@ std::string full_sentence(const Reason& reason, const Check& check);
 // without_secret takes the value out that was found, where that is of an argument not to be shown; single bytes stay.
 Reason without_secret(Reason reason, const Check& check);
 
+// without_trace_of_secret takes out single bytes as well, and numbers that were read in the value; lengths stay.
+Reason without_trace_of_secret(Reason reason, const Check& check);
+
 }  // namespace ostrel::rules
 
 #endif

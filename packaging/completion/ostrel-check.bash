@@ -6,7 +6,7 @@ _ostrel_check()
     local candidates
     candidates=$("${COMP_WORDS[0]}" complete -- "${words[@]}" 2>/dev/null) || candidates=
     mapfile -t COMPREPLY < <(printf '%s' "${candidates:+$candidates$'\n'}")
-    if [ "${COMP_WORDS[1]}" = batch ] && [ ${#COMPREPLY[@]} -eq 0 ]; then
+    if [[ ${COMP_WORDS[1]} == @(batch|summarise) ]] && [ ${#COMPREPLY[@]} -eq 0 ]; then
         mapfile -t COMPREPLY < <(compgen -f -- "${COMP_WORDS[COMP_CWORD]}")
     fi
 }

@@ -114,7 +114,8 @@ class Maker:
 
 def verdicts_of(name, texts, limit):
     lines = "".join(json.dumps({"check": name, "args": [text]}) + "\n" for text in texts)
-    result = subprocess.run([PROGRAM, "batch", "--json", "--encoding", "latin-1", "--limit-time", str(limit)], input=lines,
+    result = subprocess.run([PROGRAM, "batch", "--json", "--try", "--encoding", "latin-1", "--limit-time", str(limit)],
+                            input=lines,
                             capture_output=True, text=True, check=False)
     verdicts = [json.loads(line)["verdict"] for line in result.stdout.split("\n")[:-2]]
     assert len(verdicts) == len(texts), result.stderr

@@ -13,9 +13,12 @@
 #include <iterator>
 #include <string>
 
-#include "tests/support/own_var.h"
+#include "catalogue/own_var.h"
 
 namespace ostrel::tests {
+
+using catalogue::can_list_channels;
+using catalogue::kChannelList;
 
 namespace {
 

@@ -10,10 +10,9 @@
 #include <string_view>
 
 #include "catalogue/capture.h"
-#include "counts.h"
+#include "log.h"
 #include "read/cutter.h"
 #include "read/reading.h"
-#include "verdict.h"
 
 namespace ostrel::tool {
 
@@ -29,7 +28,9 @@ struct Progress {
     std::uint64_t line = 0;
     std::size_t part = 0;     // records of the text that is being read
     std::size_t written = 0;  // bytes of the output
-    Tally tally;              // of what stands in the output
+    std::uint64_t cases = 0;  // whose results are there
+    std::uint64_t refused = 0;
+    Log::Size log;
 
     // advance goes on after a record, to the next one of the same text or to the next text.
     void advance(std::string_view text, bool has_more)
@@ -63,7 +64,11 @@ class Arena {
     std::array<char, 2 * kLongestText + kChunk> input;
     std::array<char, kOutput> output;
     catalogue::Prints prints;
-    Counts counts;  // of what has been judged since they were last taken
+    Log log;  // of what has been judged since it was last taken
+
+    // The supervisor asks the worker to stop behind the record that it is at.
+    void ask_to_stop() { is_to_stop_.store(true, std::memory_order_relaxed); }
+    [[nodiscard]] bool is_to_stop() const { return is_to_stop_.load(std::memory_order_relaxed); }
 
     [[nodiscard]] std::string_view preamble() const { return {input.data(), preamble_size}; }
 
@@ -74,6 +79,7 @@ class Arena {
 
  private:
     std::atomic<std::uint64_t> commits_;
+    std::atomic<bool> is_to_stop_;
     std::array<Progress, 2> progress_;
 };
 

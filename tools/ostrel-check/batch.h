@@ -2,12 +2,13 @@
 #ifndef OSTREL_TOOLS_BATCH_H
 #define OSTREL_TOOLS_BATCH_H
 
+#include "closing.h"
 #include "slot.h"
 
 namespace ostrel::tool {
 
-// run_batch judges the files' lines and gives the exit code.
-int run_batch(const Rules& rules, unsigned jobs);
+// run_batch judges the files' lines and returns the exit code.
+int run_batch(const Rules& rules, const Closing& closing, unsigned jobs);
 
 }  // namespace ostrel::tool
 

@@ -25,17 +25,21 @@ Words options_of(std::string_view command)
     if (command == "list")
         return {"--json", "--schema", "--json-schema", "--reference", "--hazards", "--help"};
     if (command == "batch") {
-        return {"--json",      "--stream",    "--only-refused", "--format",   "--format-out",
-                "--encoding",  "--delimiter", "--check",        "--value",    "--strict",
-                "--with-args", "--jobs",      "--limit-time",   "--channels", "--help"};
+        return {"--json",       "--stream",    "--only-refused", "--format",       "--format-out",
+                "--encoding",   "--delimiter", "--check",        "--value",        "--strict",
+                "--with-args",  "--jobs",      "--limit-time",   "--channels",     "--try",
+                "--summary",    "--redact",    "--summary-only", "--summary-file", "--exit-zero",
+                "--start-line", "--help"};
     }
+    if (command == "summarise") return {"--summary", "--help"};
     return {"--help"};
 }
 
 // after_option returns the values that an option takes, or else the options.
 Words after_option(std::string_view option, std::string_view command)
 {
-    if (option == "--schema") return {"catalogue", "result"};
+    if (option == "--schema") return {"catalogue", "result", "summary"};
+    if (option == "--summary") return {"text", "json"};
     if (option == "--format") return {"words", "ndjson", "csv", "tsv", "json"};
     if (option == "--format-out") return {"text", "ndjson", "csv"};
     if (option == "--encoding") return {"utf-8", "latin-1"};
@@ -65,14 +69,15 @@ Words candidates_for(std::span<const std::string> words)
     if (first >= words.size()) return {};
     if (first + 1 == words.size()) {
         if (words[first].starts_with('-')) {
-            return {"--escapes", "--limit-time", "--channels", "--version", "--help"};
+            return {"--escapes", "--limit-time", "--channels", "--try", "--version", "--help"};
         }
-        Words candidates = {"explain", "list", "batch"};
+        Words candidates = {"explain", "list", "batch", "summarise"};
         add_names(candidates);
         return candidates;
     }
     const std::string& command = words[first];
-    if (command == "list" || command == "batch") return after_option(words[words.size() - 2], command);
+    if (command == "list" || command == "batch" || command == "summarise")
+        return after_option(words[words.size() - 2], command);
     if (command == "explain") {
         Words candidates;
         if (first + 2 == words.size()) add_names(candidates);

@@ -64,16 +64,48 @@ With --stream each record has exactly one line of results, in order, which
 depends on nothing but that record and its line number (an empty line for a
 line without a case), so that lines can be judged in pieces.
 
+--summary counts by check, parameter and reason, with an example of each.
+Numbers of instances in a parameter's path count as {i}. The summary follows the
+results, or is written to --summary-file; with --stream and without such a file
+it goes to standard error.
+
+SIGINT and SIGTERM end a batch behind the record that it is at, and so does a
+full disk: standard error says behind which line, and --start-line goes on.
+
+A call that is known not to return is not made, except with --try. A channel
+that is to be looked up with the wireless driver is not judged (no driver) where
+the driver gives no list.
+
 Examples:
   ostrel-check batch settings.txt
   ostrel-check batch --only-refused settings.txt
   some-program | ostrel-check batch --json --jobs 4
   ostrel-check batch --check PARAM_check_port --value Port --json ports.csv
+  ostrel-check batch --summary-only --redact settings.txt
+  ostrel-check batch --stream --start-line 120001 cases >>results
   parallel --pipe --keep-order ostrel-check batch --stream < cases
 
 Exit code, of which the highest wins: 0 all were accepted, 1 something was
-refused, 2 there were malformed lines or unreadable files, 3 a check ended its
-process or did not return.)";
+refused, 2 there were malformed lines or unreadable files, the results could not
+be written or a driver gave no list, 3 a check ended its process or did not
+return. With --exit-zero verdicts count for nothing. After SIGINT 130, after
+SIGTERM 143.)";
+}
+
+std::string_view summarise_help()
+{
+    return R"(Adds up what batches wrote that judged pieces of one input: summaries of
+--summary json, or results of --json or --stream. Summaries are small, and the
+examples in them have their arguments. Where the files are given in the order of
+the pieces, their sum is the summary of the whole, examples included.
+
+A line that is neither is named on standard error and left out. Exit code: 0,
+or 2 when something was left out.
+
+Examples:
+  ostrel-check batch --stream --summary-file 1.json part1 >results1
+  ostrel-check summarise 1.json 2.json 3.json
+  ostrel-check summarise --summary json results1 results2)";
 }
 
 std::string_view list_help()

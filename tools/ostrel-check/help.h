@@ -9,6 +9,7 @@ namespace ostrel::tool {
 
 std::string_view main_help();
 std::string_view batch_help();
+std::string_view summarise_help();
 std::string_view list_help();
 std::string_view explain_help();
 std::string_view complete_help();

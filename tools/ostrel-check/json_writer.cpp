@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "read/json_parser.h"
 #include "rules/reason_json.h"
 #include "show.h"
 
@@ -108,6 +109,36 @@ void append_bytes(std::string& out, std::string_view bytes, Encoding encoding)
     JsonWriter json(buffer);
     write_bytes(json, bytes, encoding);
     out.append(buffer.GetString(), buffer.GetSize());
+}
+
+namespace {
+
+// Text hears JSON that is a string.
+struct Text : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Text> {
+    std::string text;
+    // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
+    bool String(const char* begin, rapidjson::SizeType size, bool /*copy*/)
+    {
+        text.assign(begin, size);
+        return true;
+    }
+    // NOLINTEND(bugprone-derived-method-shadowing-base-method)
+};
+
+}  // namespace
+
+std::string text_of(const Member& member)
+{
+    if (member.is_json && member.value.starts_with('"') && member.value.find('\\') == std::string_view::npos)
+        return std::string(member.value.substr(1, member.value.size() - 2));
+    rapidjson::StringBuffer buffer;
+    JsonWriter json(buffer);
+    write_member(json, member);
+    const std::string_view token(buffer.GetString(), buffer.GetSize());
+    if (!token.starts_with('"')) return std::string(token);
+    Text text;
+    JsonParser().parse(token, text);
+    return text.text;
 }
 
 }  // namespace ostrel::tool

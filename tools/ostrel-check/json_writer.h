@@ -57,6 +57,9 @@ void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encod
 // write_member writes the value of a member that is passed through.
 void write_member(JsonWriter& json, const Member& member);
 
+// text_of returns a member that is passed through as a text: a text as it is, everything else as JSON.
+std::string text_of(const Member& member);
+
 // append_bytes is write_bytes where JSON is made without a writer.
 void append_bytes(std::string& out, std::string_view bytes, Encoding encoding);
 

@@ -12,12 +12,12 @@
 #include <string>
 #include <vector>
 
-#include "batch.h"
 #include "catalogue/case.h"
 #include "catalogue/texts.h"
 #include "complete.h"
 #include "constraints.h"
 #include "driver.h"
+#include "ending_options.h"
 #include "explain.h"
 #include "help.h"
 #include "process.h"
@@ -25,6 +25,7 @@
 #include "show.h"
 #include "single.h"
 #include "style.h"
+#include "summarise.h"
 #include "words.h"
 
 namespace ostrel::tool {
@@ -40,7 +41,8 @@ class Formatter : public CLI::Formatter {
         return "Usage: ostrel-check [OPTIONS] NAME VALUE...\n"
                "       ostrel-check explain NAME\n"
                "       ostrel-check list [OPTIONS]\n"
-               "       ostrel-check batch [OPTIONS] [FILE...]\n\n";
+               "       ostrel-check batch [OPTIONS] [FILE...]\n"
+               "       ostrel-check summarise [OPTIONS] FILE...\n\n";
     }
 };
 
@@ -57,7 +59,7 @@ int complain_of_usage(std::string_view problem)
     return complain(problem, "ostrel-check --help shows how to use it.\n");
 }
 
-int judge_words(std::vector<std::string> words, bool with_escapes, double limit)
+int judge_words(std::vector<std::string> words, bool with_escapes, const Manner& manner)
 {
     if (!words.empty() && words.front() == "--") words.erase(words.begin());
     if (words.empty()) return complain_of_usage("a check's NAME, explain, list or batch is missing");
@@ -68,7 +70,7 @@ int judge_words(std::vector<std::string> words, bool with_escapes, double limit)
         for (std::string& word : words) word = read_escapes(word);
     }
     try {
-        return judge_one(words.front(), std::span(words).subspan(1), limit);
+        return judge_one(words.front(), std::span(words).subspan(1), manner);
     } catch (const std::invalid_argument& error) {
         return complain(error.what(), advice_for(words.front()));
     }
@@ -76,7 +78,7 @@ int judge_words(std::vector<std::string> words, bool with_escapes, double limit)
 
 // Options are what can be given.
 struct Options {
-    double limit = 2;
+    Manner manner;
     bool with_escapes = false;
     std::optional<std::string> channels;
     std::string name;
@@ -87,18 +89,10 @@ struct Options {
     bool hazards = false;
     bool stream = false;
     unsigned jobs = 1;
+    EndingOptions ending;
     Rules rules;
     std::vector<std::string> words;
 };
-
-void add_limit(CLI::App& app, Options& options)
-{
-    app.add_option("--limit-time", options.limit, "Time that a call may take (2)")
-        ->check(CLI::Range(0.001, 86400.0))
-        ->type_name("SECONDS");
-    app.add_option("--channels", options.channels, "Answer with these for the wireless driver")
-        ->type_name("LIST");
-}
 
 CLI::App* add_command(CLI::App& app, const char* name, const char* what, std::string_view help)
 {
@@ -114,11 +108,11 @@ CLI::App* add_list(CLI::App& app, Options& options)
         add_command(app, "list", "Show every check with its arguments and its rule", list_help());
     CLI::Option_group* forms = list->add_option_group("Forms");
     forms->add_flag("--json", options.json, "The catalogue in JSON");
-    forms->add_option("--schema", options.schema, "The JSON Schema of that, or of a result")
+    forms->add_option("--schema", options.schema, "Its JSON Schema, or a result's, or a summary's")
         ->expected(0, 1)
         ->default_str("catalogue")
-        ->check(CLI::IsMember({"catalogue", "result"}))
-        ->type_name("[catalogue|result]");
+        ->check(CLI::IsMember({"catalogue", "result", "summary"}))
+        ->type_name("OF");
     forms->add_flag("--json-schema", options.json_schema, "A JSON Schema for what the checks accept");
     forms->add_flag("--reference", options.reference, "The reference in Markdown");
     forms->add_flag("--hazards", options.hazards, "What accepted values may hold, in Markdown");
@@ -185,12 +179,33 @@ CLI::App* add_batch(CLI::App& app, Options& options)
         ->type_name("text|ndjson|csv")
         ->excludes(json)
         ->excludes(stream);
-    add_limit(*batch, options);
+    add_call_options(*batch, options.manner, options.channels);
+    add_ending_options(*batch, options.ending, options.rules);
     batch->add_option("--jobs", options.jobs, "Processes that judge side by side (1)")
         ->check(CLI::Range(1, 64))
         ->type_name("N");
     batch->add_option("FILE", options.rules.files, "Files to read; - is standard input")->type_name("");
     return batch;
+}
+
+// run_batch_of judges what is in files as the options say.
+int run_batch_of(Options& options)
+{
+    Rules& rules = options.rules;
+    if (rules.files.empty()) rules.files.emplace_back("-");
+    if (options.json) rules.style.format = Format::kJson;
+    if (options.stream) rules.style.format = Format::kStream;
+    rules.style.tries_known = options.manner.tries_known;
+    rules.style.encoding = rules.reading.encoding;
+    rules.style.driver_problem = options.manner.driver_problem;
+    rules.limit = options.manner.limit;
+    return run_batch(rules, closing_of(options.ending, rules.style), options.jobs);
+}
+
+std::string_view schema_of(std::string_view what)
+{
+    if (what == "result") return result_schema();
+    return what == "summary" ? summary_schema() : catalogue::schema();
 }
 
 int show_list(const Options& options)
@@ -199,7 +214,7 @@ int show_list(const Options& options)
     if (options.json) {
         text = list_json();
     } else if (options.schema) {
-        text = *options.schema == "result" ? result_schema() : catalogue::schema();
+        text = schema_of(*options.schema);
     } else if (options.json_schema) {
         text = json_schema();
     } else if (options.reference) {
@@ -239,11 +254,13 @@ int run(int argc, char** argv)
 
     Options options;
     app.add_flag("-e,--escapes", options.with_escapes, "Read escapes in the values");
-    add_limit(app, options);
+    add_call_options(app, options.manner, options.channels);
     CLI::App* explained = add_command(app, "explain", "Say what a check wants", explain_help());
     explained->add_option("NAME", options.name, "The check")->required()->type_name("");
     CLI::App* list = add_list(app, options);
     CLI::App* batch = add_batch(app, options);
+    CLI::App* summarised = add_command(app, "summarise", "Add up the summaries of batches", summarise_help());
+    add_summarise_options(*summarised, options.ending);
     CLI::App* completed = add_command(app, "complete", "Complete a word, for a shell", complete_help());
     completed->add_option("WORD", options.words, "The words behind the program's name")->type_name("");
 
@@ -257,18 +274,14 @@ int run(int argc, char** argv)
     if (*list) return show_list(options);
     if (*explained) return show_explanation(options.name);
     if (*completed) return show_candidates(options.words);
+    if (*summarised) return summarise(options.ending.files, options.ending.summary == "json");
     std::optional<StandIn> driver;
-    if (options.channels) driver.emplace(*options.channels);
-    if (*batch) {
-        Rules& rules = options.rules;
-        if (rules.files.empty()) rules.files.emplace_back("-");
-        if (options.json) rules.style.format = Format::kJson;
-        if (options.stream) rules.style.format = Format::kStream;
-        rules.limit = options.limit;
-        rules.style.encoding = rules.reading.encoding;
-        return run_batch(rules, options.jobs);
+    if (options.channels) {
+        driver.emplace(*options.channels);
+        options.manner.driver_problem = driver->problem();
     }
-    return judge_words(app.remaining(), options.with_escapes, options.limit);
+    if (*batch) return run_batch_of(options);
+    return judge_words(app.remaining(), options.with_escapes, options.manner);
 }
 
 }  // namespace

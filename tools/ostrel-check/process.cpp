@@ -4,6 +4,7 @@
 #include <poll.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -84,6 +85,9 @@ pid_t fork_guarded()
     prctl(PR_SET_DUMPABLE, 0);
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGTTOU, SIG_IGN);
+    // What the supervisor does about these is not the child's to do.
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
     return 0;
 }
 
@@ -138,22 +142,41 @@ void say(std::string_view text)
     }
 }
 
-bool write_all(int descriptor, std::string_view text)
+Fitted write_what_fits(int descriptor, std::string_view text)
 {
-    while (!text.empty()) {
-        const ssize_t written = write(descriptor, text.data(), text.size());
+    Fitted fitted;
+    while (fitted.size < text.size()) {
+        const ssize_t written = write(descriptor, text.data() + fitted.size, text.size() - fitted.size);
         if (written >= 0) {
-            text.remove_prefix(static_cast<std::size_t>(written));
-        } else if (errno == EPIPE) {
-            return false;
+            fitted.size += static_cast<std::size_t>(written);
         } else if (errno == EAGAIN) {
             pollfd waiting{descriptor, POLLOUT, 0};
             poll(&waiting, 1, -1);
         } else if (errno != EINTR) {
-            throw failure("cannot write the results");
+            fitted.error = errno;
+            break;
         }
     }
-    return true;
+    return fitted;
+}
+
+void take_back(int descriptor, std::size_t size)
+{
+    struct stat file = {};
+    if (size == 0 || fstat(descriptor, &file) != 0 || !S_ISREG(file.st_mode)) return;
+    const off_t end = lseek(descriptor, 0, SEEK_CUR);
+    if (end != file.st_size || end < static_cast<off_t>(size)) return;
+    const off_t kept = end - static_cast<off_t>(size);
+    if (ftruncate(descriptor, kept) == 0) lseek(descriptor, kept, SEEK_SET);
+}
+
+bool write_all(int descriptor, std::string_view text)
+{
+    const Fitted fitted = write_what_fits(descriptor, text);
+    if (fitted.error == 0) return true;
+    if (fitted.error == EPIPE) return false;
+    errno = fitted.error;
+    throw failure("cannot write the results");
 }
 
 }  // namespace ostrel::tool

@@ -69,6 +69,16 @@ void occupy_standard_descriptors();
 // say writes to standard error, if that can be.
 void say(std::string_view text);
 
+// write_what_fits writes a text and returns how much of it was written, and why not all: an errno, or 0.
+struct Fitted {
+    std::size_t size = 0;
+    int error = 0;
+};
+Fitted write_what_fits(int descriptor, std::string_view text);
+
+// take_back removes the last bytes that were written to a file; from anything else nothing can be taken back.
+void take_back(int descriptor, std::size_t size);
+
 // write_all writes everything, or says by false that nobody reads any more. Throws std::system_error.
 bool write_all(int descriptor, std::string_view text);
 

@@ -3,6 +3,7 @@
 #include "rules/evaluate.h"
 #include "rules/reason_json.h"
 #include "rules/sentences.h"
+#include "rules/walk.h"
 
 namespace ostrel::tool {
 
@@ -11,6 +12,28 @@ using rules::Build;
 using rules::Reason;
 
 namespace {
+
+constexpr std::string_view kNoDriverList = "no_driver_list";
+
+Answer answer_of(const catalogue::Function& function, const std::vector<catalogue::Value>& values)
+{
+    return rules::evaluate_within(rules::kMostWork, *function.check, catalogue::completed(function, values),
+                                  gateway());
+}
+
+std::size_t position_of(const catalogue::Function& function)
+{
+    return static_cast<std::size_t>(&function - catalogue::functions().data());
+}
+
+// functions_that lists, by their position in the catalogue, those for which something holds.
+std::vector<bool> functions_that(bool (*holds)(const rules::Check&))
+{
+    std::vector<bool> result;
+    for (const catalogue::Function& function : catalogue::functions())
+        result.push_back(holds(*function.check));
+    return result;
+}
 
 // is_explained tells that the description comes to the same end as the call did.
 bool is_explained(const Result& result, const Answer& answer)
@@ -40,28 +63,69 @@ Build& gateway()
     return build;
 }
 
-Why why(const Result& result)
+void explain(Result& result)
 {
-    Why why;
+    result.why = Why();
     const bool has_reason = result.verdict == Verdict::kRefused || result.verdict == Verdict::kEnded ||
                             result.verdict == Verdict::kNoReturn;
-    if (!has_reason || result.function == nullptr || result.values == nullptr) return why;
-    const rules::Check* check = result.function->check;
-    Answer answer = rules::evaluate_within(rules::kMostWork, *check,
-                                           catalogue::completed(*result.function, *result.values), gateway());
-    if (!is_explained(result, answer)) return why;
-    why.reason = rules::without_secret(std::move(answer.reason), *check);
-    why.text = rules::full_sentence(why.reason, *check);
+    if (!has_reason || result.function == nullptr || result.values == nullptr) return;
+    const rules::Check& check = *result.function->check;
+    Answer answer = answer_of(*result.function, *result.values);
+    if (!is_explained(result, answer)) return;
+    result.why.reason = rules::without_secret(std::move(answer.reason), check);
+    result.why.text = rules::full_sentence(result.why.reason, check);
     for (Reason& remark : answer.printed) {
         if (!rules::sentence(remark).empty())
-            why.remarks.push_back(rules::without_secret(std::move(remark), *check));
+            result.why.remarks.push_back(rules::without_secret(std::move(remark), check));
     }
-    return why;
+}
+
+bool is_known_not_to_return(const catalogue::Function& function, const std::vector<catalogue::Value>& values)
+{
+    static const std::vector<bool> may_not_return = functions_that(rules::may_not_return);
+    return may_not_return[position_of(function)] &&
+           answer_of(function, values).outside == rules::Outside::kNeverReturns;
+}
+
+bool asks_driver(const catalogue::Function& function, const std::vector<catalogue::Value>& values)
+{
+    static const std::vector<bool> may_ask = functions_that(rules::asks_driver);
+    return may_ask[position_of(function)] && answer_of(function, values).outside == rules::Outside::kDriver;
+}
+
+void answer_at_once(Result& result)
+{
+    result.verdict = Verdict::kNoReturn;
+    result.problem = "the check is known not to return and was not called";
+    result.is_tried = false;
+    explain(result);
+}
+
+void blame_driver(Result& result, std::string_view problem)
+{
+    result.verdict = Verdict::kNoDriver;
+    result.problem = "the channel was not judged";
+    result.why = Why();
+    result.why.reason.id = kNoDriverList;
+    result.why.text = "the driver gave no list: ";
+    result.why.text += problem;
+}
+
+void explain_by_driver(Result& result, const Heard& heard)
+{
+    if (result.verdict != Verdict::kRefused) return;
+    if (!heard.problem.empty()) {
+        blame_driver(result, heard.problem);
+        return;
+    }
+    gateway().channels = heard.channels;
+    explain(result);
+    gateway().channels.reset();
 }
 
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding)
 {
-    const Why why = tool::why(result);
+    const Why& why = result.why;
     if (why.text.empty()) return;
     const rules::Check& check = *result.function->check;
     const rules::AppendBytes append = encoding == Encoding::kUtf8 ? append_utf8 : rules::append_json_text;

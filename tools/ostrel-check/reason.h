@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "driver.h"
 #include "json_writer.h"
 #include "rules/build.h"
 #include "rules/reason.h"
@@ -15,14 +16,21 @@ namespace ostrel::tool {
 // gateway is the build that this program belongs to. It may be told what the wireless driver lists.
 rules::Build& gateway();
 
-struct Why {
-    std::string text;  // in a sentence; empty: the reason is not known
-    rules::Reason reason;
-    std::vector<rules::Reason> remarks;  // of the steps that printed and went on, in order
-};
+// explain sets the reason of a result that is neither an acceptance nor an answer, by the description of its check.
+void explain(Result& result);
 
-// why evaluates the description with the values of a result that is neither an acceptance nor an answer.
-Why why(const Result& result);
+// is_known_not_to_return tells that the description says so of a call. Where it does, answer_at_once sets the verdict.
+bool is_known_not_to_return(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
+void answer_at_once(Result& result);
+
+// asks_driver tells that the wireless driver is asked in a call.
+bool asks_driver(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
+
+// blame_driver sets the verdict on a call for which the driver gave no list, with the reason for that.
+void blame_driver(Result& result, std::string_view problem);
+
+// explain_by_driver sets the reason of a result by what the driver answered in the call.
+void explain_by_driver(Result& result, const Heard& heard);
 
 // write_reasons adds the members "reason" and "remarks" to an object.
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding);

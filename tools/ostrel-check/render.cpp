@@ -43,17 +43,10 @@ void append_printed(std::string& out, std::string_view text, std::string_view ma
 void append_meaning(std::string& out, std::string_view meaning, const Result& result)
 {
     out.append(kIndentation).append(meaning);
-    const std::string text = why(result).text;
+    const std::string& text = result.why.text;
     if (!text.empty()) out.append(": ").append(text);
     out += '\n';
 }
-
-std::string counted(std::uint64_t number, std::string_view one, std::string_view many)
-{
-    return std::to_string(number).append(" ").append(number == 1 ? one : many);
-}
-
-std::uint64_t cases(const Tally& tally) { return tally.sum() - tally.of(Verdict::kMalformed); }
 
 }  // namespace
 
@@ -98,35 +91,6 @@ void append_row(std::string& out, const Place& place, const Result& result)
     append_printed(out, result.printed.out, "| ");
     append_printed(out, result.printed.err, "! ");
     append_after(out, kIndentation, result);
-}
-
-std::string summary(const Tally& tally, const Counts& counts, std::uint64_t unreadable_files)
-{
-    std::string text = cases(tally) > 1 ? "By family and code:\n" + counts.table() : "";
-    text += counted(cases(tally), "case", "cases") + ": " + std::to_string(tally.of(Verdict::kAccepted)) +
-            " accepted, " + std::to_string(tally.of(Verdict::kRefused)) + " refused";
-    const auto add = [&](Verdict verdict, std::string_view what) {
-        if (tally.of(verdict) > 0) text.append(", ").append(std::to_string(tally.of(verdict))).append(what);
-    };
-    add(Verdict::kAnswer, " answered with a number");
-    add(Verdict::kEnded, " ended the process");
-    add(Verdict::kNoReturn, " did not return");
-    if (const std::uint64_t malformed = tally.of(Verdict::kMalformed); malformed > 0) {
-        text += "; " + counted(malformed, "malformed line", "malformed lines");
-    }
-    if (unreadable_files > 0) text += "; " + counted(unreadable_files, "unreadable file", "unreadable files");
-    return text + "\n";
-}
-
-std::string json_summary(const Tally& tally, const Counts& counts, std::uint64_t unreadable_files)
-{
-    std::string text = "{\"summary\":{\"cases\":" + std::to_string(cases(tally));
-    const auto add = [&](std::string_view name, std::uint64_t count) {
-        text.append(",\"").append(name).append("\":").append(std::to_string(count));
-    };
-    for (std::size_t i = 0; i < kVerdicts; ++i) add(json_name(static_cast<Verdict>(i)), tally.counts.at(i));
-    add("unreadable_files", unreadable_files);
-    return text + "},\"families\":" + counts.json() + "}\n";
 }
 
 }  // namespace ostrel::tool

@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "counts.h"
 #include "read/encoding.h"
 #include "verdict.h"
 
@@ -21,6 +20,10 @@ struct Style {
     bool only_refused = false;            // nothing is written for what was accepted, nor for answers
     bool with_args = false;               // JSON and CSV repeat the arguments
     Encoding encoding = Encoding::kUtf8;  // of the values, which JSON and CSV write as texts
+    bool no_results = false;              // nothing is written at all
+    bool redacts = false;                 // secret values are replaced by their length
+    bool tries_known = false;             // also calls are made that are known not to return
+    std::string driver_problem;  // why nobody stands in for the wireless driver as was asked for; or empty
 };
 
 // Place is where a case stands.
@@ -41,11 +44,6 @@ std::string csv_header(const Style& style);
 
 // append_after adds a line for each argument that the check may have written to.
 void append_after(std::string& out, std::string_view indentation, const Result& result);
-
-// summary says what became of the cases of each family, and in the last line what became of all; json_summary
-// says it in JSON.
-std::string summary(const Tally& tally, const Counts& counts, std::uint64_t unreadable_files);
-std::string json_summary(const Tally& tally, const Counts& counts, std::uint64_t unreadable_files);
 
 }  // namespace ostrel::tool
 

@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "json_writer.h"
-#include "read/json_parser.h"
 #include "reason.h"
 #include "render.h"
 
@@ -38,28 +37,6 @@ std::string in_json(const auto& write)
     JsonWriter json(buffer);
     write(json);
     return {buffer.GetString(), buffer.GetSize()};
-}
-
-// Text hears JSON that is a string.
-struct Text : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Text> {
-    std::string text;
-    // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
-    bool String(const char* begin, rapidjson::SizeType size, bool /*copy*/)
-    {
-        text.assign(begin, size);
-        return true;
-    }
-    // NOLINTEND(bugprone-derived-method-shadowing-base-method)
-};
-
-// text_of returns a member as a column shows it: a text as it is, everything else as JSON.
-std::string text_of(const Member& member)
-{
-    const std::string token = in_json([&](JsonWriter& json) { write_member(json, member); });
-    if (!token.starts_with('"')) return token;
-    Text text;
-    JsonParser().parse(token, text);
-    return text.text;
 }
 
 void append_passed(std::string& out, const Result& result, std::string_view name)
@@ -114,7 +91,7 @@ void append_csv(std::string& out, const Style& style, const Place& place, const 
     append_column(out, is_answer                  ? "a number"
                        : has_code(result.verdict) ? catalogue::meaning(result.code)
                                                   : std::string_view(result.problem));
-    const Why why = tool::why(result);
+    const Why& why = result.why;
     append_column(out, why.text.empty() ? "" : why.reason.id);
     append_column(out, why.text.empty() || !why.reason.argument ? "" : why.reason.name);
     append_column(out, why.text.empty() || !why.reason.offset ? "" : std::to_string(*why.reason.offset));

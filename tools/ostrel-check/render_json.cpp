@@ -10,9 +10,9 @@ namespace ostrel::tool {
 namespace {
 
 // What a result says itself. A member of that name that came in is put into "given".
-constexpr std::array<std::string_view, 15> kOwn = {"file",    "line",   "check",   "verdict", "code",
-                                                   "meaning", "reason", "remarks", "out",     "flushed",
-                                                   "err",     "cut",    "after",   "args",    "given"};
+constexpr std::array<std::string_view, 16> kOwn = {"file",   "line",    "check", "verdict", "code", "meaning",
+                                                   "reason", "remarks", "out",   "flushed", "err",  "cut",
+                                                   "after",  "args",    "given", "tried"};
 
 bool is_own(std::string_view name) { return std::ranges::find(kOwn, name) != kOwn.end(); }
 
@@ -88,6 +88,10 @@ class Line {
         }
         json_.plain("verdict");
         json_.plain(json_name(result.verdict));
+        if (!result.is_tried) {
+            json_.plain("tried");
+            json_.Bool(false);
+        }
         json_.plain("code");
         if (has_code(result.verdict)) {
             json_.Int(result.code);

@@ -6,7 +6,8 @@
 
 namespace ostrel::tool {
 
-std::string_view result_schema();  // result.schema.json
+std::string_view result_schema();   // result.schema.json
+std::string_view summary_schema();  // summary.schema.json
 
 }  // namespace ostrel::tool
 

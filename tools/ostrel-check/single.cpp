@@ -7,12 +7,14 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <optional>
 #include <stdexcept>
 #include <system_error>
 
 #include "catalogue/case.h"
 #include "driver.h"
 #include "process.h"
+#include "reason.h"
 #include "render.h"
 #include "show.h"
 #include "style.h"
@@ -103,14 +105,29 @@ std::string verdict_line(const Result& result)
            text.substr(end) + "\n";
 }
 
+// call_check calls and finds the reason.
+void call_check(Caller& caller, Result& result, const Descriptor& news)
+{
+    std::optional<Listening> listening;
+    if (asks_driver(*result.function, *result.values)) listening.emplace();
+    judge(result, caller.call());
+    write_all(news.number(), kReturnMark);
+    std::fflush(nullptr);
+    if (!listening) {
+        explain(result);
+        return;
+    }
+    const Heard heard = listening->heard();
+    say(heard.said);
+    explain_by_driver(result, heard);
+}
+
 [[noreturn]] void call(Caller& caller, Result& result, const Descriptor& news)
 {
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
     dup2(nothing, STDIN_FILENO);
     watch_output(news);
-    judge(result, caller.call());
-    write_all(news.number(), kReturnMark);
-    std::fflush(nullptr);
+    call_check(caller, result, news);
     result.after = caller.written();
     std::string text = last_printed == '\n' ? "" : "\n";
     text += verdict_line(result);
@@ -135,9 +152,15 @@ News wait_for_news(const Descriptor& news, double seconds)
     return byte == kReturnMark.front() ? News::kReturned : News::kAsserted;
 }
 
+int conclude(const Result& result)
+{
+    write_all(STDOUT_FILENO, verdict_line(result));
+    return exit_code(result.verdict);
+}
+
 }  // namespace
 
-int judge_one(std::string_view name, std::span<const std::string> words, double limit)
+int judge_one(std::string_view name, std::span<const std::string> words, const Manner& manner)
 {
     Result result;
     result.function = catalogue::find(name);
@@ -147,6 +170,14 @@ int judge_one(std::string_view name, std::span<const std::string> words, double 
     result.values = &values;
     Caller caller;
     caller.load(*result.function, values);
+    if (!manner.tries_known && is_known_not_to_return(*result.function, values)) {
+        answer_at_once(result);
+        return conclude(result);
+    }
+    if (!manner.driver_problem.empty() && asks_driver(*result.function, values)) {
+        blame_driver(result, manner.driver_problem);
+        return conclude(result);
+    }
 
     const Turn turn(*result.function);  // before the time begins to count
     Pipe pipe = make_pipe();
@@ -154,7 +185,7 @@ int judge_one(std::string_view name, std::span<const std::string> words, double 
     if (child == 0) call(caller, result, pipe.writing);
     pipe.writing.close();
 
-    const News news = wait_for_news(pipe.reading, limit);
+    const News news = wait_for_news(pipe.reading, manner.limit);
     if (news == News::kReturned) {
         const Ending ending = wait_for(child);
         return ending.by_signal ? kExitEnded : ending.number;
@@ -162,14 +193,14 @@ int judge_one(std::string_view name, std::span<const std::string> words, double 
     if (news == News::kNone) {
         stop(child);
         result.verdict = Verdict::kNoReturn;
-        result.problem = describe_no_return(limit);
+        result.problem = describe_no_return(manner.limit);
     } else {
         result.verdict = Verdict::kEnded;
         result.problem = describe_ending(wait_for(child), news == News::kAsserted);
     }
     clean_up_after(*result.function);
-    write_all(STDOUT_FILENO, verdict_line(result));
-    return exit_code(result.verdict);
+    explain(result);
+    return conclude(result);
 }
 
 }  // namespace ostrel::tool

@@ -7,6 +7,8 @@
 #include <cstring>
 
 #include "driver.h"
+#include "reason.h"
+#include "redact.h"
 
 namespace ostrel::tool {
 
@@ -118,36 +120,103 @@ void Slot::conclude(Verdict verdict, std::string problem)
         const catalogue::Prints& prints = arena_->prints;
         result.printed = {prints.out.view(), prints.out.size, prints.err.view(), prints.out.cut};
     }
+    explain(result);
+    Redactor redactor;
+    if (rules_->style.redacts) redactor.redact(result, rules_->style.encoding);
     append_result(conclusion_, rules_->style, {rules_->files[arena_->file], progress.line}, result);
+    const std::uint64_t line = progress.line;
     progress.advance(text, !text.empty() && cases_.has_more());
-    progress.tally.add(result.verdict);
-    arena_->counts.add(result);
+    ++progress.cases;
+    std::string parameter;
+    LogWriter(arena_->log)
+        .add(progress.log, row_of(result, parameter), static_cast<std::uint32_t>(progress.line - line),
+             progress.written + conclusion_.size(),
+             [&] { return example_of(result, rules_->style.encoding); });
     arena_->commit(progress);
 }
 
-bool Slot::take(int descriptor, Tally& tally, Counts& counts)
+// write_out writes what is done, and returns how much of the results was written.
+std::size_t Slot::write_out(int descriptor, int& error)
 {
-    Progress progress = arena_->progress();
-    tally.add(progress.tally);
-    counts.add(arena_->counts);
-    arena_->counts.clear();
-    if (!write_all(descriptor, heading_)) return false;
-    if (!write_all(descriptor, {arena_->output.data(), progress.written})) return false;
-    if (!write_all(descriptor, conclusion_)) return false;
+    std::size_t written = 0;
+    const std::string_view results(arena_->output.data(), arena_->progress().written);
+    for (const std::string_view text : {std::string_view(heading_), results, std::string_view(conclusion_)}) {
+        const Fitted fitted = write_what_fits(descriptor, text);
+        error = fitted.error;
+        if (text.data() == heading_.data()) {
+            // A heading without results is of no use.
+            if (error != 0) take_back(descriptor, fitted.size);
+        } else {
+            written += fitted.size;
+        }
+        if (error != 0) break;
+    }
     heading_.clear();
     conclusion_.clear();
-    progress.tally = Tally();
-    progress.written = 0;
-    arena_->commit(progress);
-    if (!arena_->rest_of_input().empty()) {
-        start_round();
-        return true;
+    return written;
+}
+
+// count adds to a summary what has been written, and returns how many entries of the log that is.
+std::uint32_t Slot::count(std::size_t written, Summary& summary)
+{
+    const Log& log = arena_->log;
+    const Log::Size& size = arena_->progress().log;
+    std::uint32_t done = 0;
+    while (done < size.entries && log.entries[done].written <= written) ++done;
+    if (done < size.entries) {
+        // A line is gone on with from its beginning.
+        while (done > 0 && log.entries[done - 1].lines == 0) --done;
     }
+    std::vector<std::uint64_t> counts(size.rows);
+    for (std::uint32_t i = 0; i < done; ++i) {
+        if (log.entries[i].row != Log::kNoRow) ++counts[log.entries[i].row];
+    }
+    std::size_t next = 0;
+    for_each_row(log, size, [&](const Row& row) {
+        const std::uint64_t count = counts[next++];
+        if (count > 0) summary.add({row, false, count});
+    });
+    return done;
+}
+
+Taken Slot::take(int descriptor, Summary& summary)
+{
+    Taken taken;
+    Progress progress = arena_->progress();
+    const Log& log = arena_->log;
+    taken.line = progress.line;
+    const std::size_t written = write_out(descriptor, taken.error);
+    const std::uint32_t done = count(written, summary);
+    if (taken.error != 0) {
+        take_back(descriptor, written - (done == 0 ? 0 : log.entries[done - 1].written));
+        for (std::uint32_t i = done; i < progress.log.entries; ++i) taken.line -= log.entries[i].lines;
+    }
+    taken.is_within_line = done > 0 && log.entries[done - 1].lines == 0;
+    // The last line of a file may lack its end.
+    if (taken.is_within_line && taken.error == 0 && is_done() && arena_->format != FileFormat::kJson) {
+        taken.is_within_line = false;
+        ++taken.line;
+    }
+    progress.cases = 0;
+    progress.refused = 0;
+    progress.written = 0;
+    progress.log = {};
+    arena_->commit(progress);
+    if (taken.error != 0 || arena_->is_to_stop()) return taken;
+    if (arena_->rest_of_input().empty()) {
+        give_memory_back();
+    } else {
+        start_round();
+    }
+    return taken;
+}
+
+void Slot::give_memory_back()
+{
     give_back(arena_->output.data(), arena_->output.size(), kEnoughOutput);
     give_back(arena_->input.data(), arena_->input.size(), kChunk);
     give_back(arena_->prints.out.bytes, sizeof arena_->prints.out.bytes, kChunk);
     give_back(arena_->prints.err.bytes, sizeof arena_->prints.err.bytes, kChunk);
-    return true;
 }
 
 }  // namespace ostrel::tool

@@ -11,6 +11,7 @@
 #include "input.h"
 #include "process.h"
 #include "read/cases.h"
+#include "summary.h"
 #include "worker.h"
 
 namespace ostrel::tool {
@@ -23,6 +24,14 @@ struct Rules {
     Reading reading;
     double limit = 2;  // seconds that a call may take
     std::vector<std::string> files;
+    std::uint64_t start_line = 1;  // of the first file, with which the batch begins
+};
+
+// Taken is what became of the results that were to be written out.
+struct Taken {
+    int error = 0;                // why not all of them were: an errno
+    std::uint64_t line = 0;       // behind the last one whose results were
+    bool is_within_line = false;  // results of that line were written, and more are to follow
 };
 
 class Slot {
@@ -43,12 +52,19 @@ class Slot {
     // answers is what to wait for while the slot is running.
     [[nodiscard]] int answers() const { return answers_.reading.number(); }
 
-    // take writes out what is done and counts it; false: nobody reads any more. What is left of the chunk
-    // goes on.
-    bool take(int descriptor, Tally& tally, Counts& counts);
+    // ask_to_stop has the worker stop behind the record that it is at.
+    void ask_to_stop() { arena_->ask_to_stop(); }
 
-    // cases tells how many cases of the chunk have been judged and not been taken.
-    [[nodiscard]] std::uint64_t cases() const { return arena_->progress().tally.sum(); }
+    // take writes out what is done and counts what could be written. What is left of the chunk goes on, unless the
+    // worker was asked to stop.
+    Taken take(int descriptor, Summary& summary);
+
+    // judged tells how much of the chunk has been judged and not been taken.
+    [[nodiscard]] const Progress& judged() const { return arena_->progress(); }
+    // left is how many bytes of the chunk have not been judged.
+    [[nodiscard]] std::size_t left() const { return arena_->rest_of_input().size(); }
+
+    [[nodiscard]] std::size_t file() const { return arena_->file; }
 
     // is_done tells that the chunk has been judged and taken.
     [[nodiscard]] bool is_done() const { return !is_running_ && arena_->rest_of_input().empty(); }
@@ -58,6 +74,9 @@ class Slot {
     void stop_worker();
     void start_round();
     void conclude(Verdict verdict, std::string problem);
+    std::size_t write_out(int descriptor, int& error);
+    std::uint32_t count(std::size_t written, Summary& summary);
+    void give_memory_back();
 
     const Rules* rules_;
     std::unique_ptr<Arena, Unmap> arena_;

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "reason.h"
-
 namespace ostrel::tool {
 
 std::string_view name_of(Verdict verdict)
@@ -19,6 +17,8 @@ std::string_view name_of(Verdict verdict)
             return "malformed";
         case Verdict::kEnded:
             return "ended";
+        case Verdict::kNoDriver:
+            return "no driver";
         case Verdict::kNoReturn:
             break;
     }
@@ -27,13 +27,13 @@ std::string_view name_of(Verdict verdict)
 
 std::string_view json_name(Verdict verdict)
 {
-    return verdict == Verdict::kNoReturn ? "no_return" : name_of(verdict);
+    if (verdict == Verdict::kNoReturn) return "no_return";
+    return verdict == Verdict::kNoDriver ? "no_driver" : name_of(verdict);
 }
 
-bool has_code(Verdict verdict)
-{
-    return verdict == Verdict::kAccepted || verdict == Verdict::kRefused || verdict == Verdict::kAnswer;
-}
+bool has_code(Verdict verdict) { return is_code(verdict) || verdict == Verdict::kAnswer; }
+
+bool is_code(Verdict verdict) { return verdict == Verdict::kAccepted || verdict == Verdict::kRefused; }
 
 int exit_code(Verdict verdict)
 {
@@ -44,17 +44,13 @@ int exit_code(Verdict verdict)
         case Verdict::kRefused:
             return kExitRefused;
         case Verdict::kMalformed:
+        case Verdict::kNoDriver:
             return kExitUsage;
         case Verdict::kEnded:
         case Verdict::kNoReturn:
             break;
     }
     return kExitEnded;
-}
-
-void Tally::add(const Tally& other)
-{
-    for (std::size_t i = 0; i < kVerdicts; ++i) counts[i] += other.counts[i];
 }
 
 int Tally::exit_code() const
@@ -71,6 +67,21 @@ std::uint64_t Tally::sum() const
     std::uint64_t sum = 0;
     for (const std::uint64_t count : counts) sum += count;
     return sum;
+}
+
+void Result::clear()
+{
+    // Most results have no reason, and making one anew takes time.
+    if (!why.text.empty() || !why.reason.id.empty()) why = Why();
+    verdict = Verdict::kMalformed;
+    function = nullptr;
+    values = nullptr;
+    record = nullptr;
+    code = 0;
+    problem.clear();
+    printed = {};
+    after.clear();
+    is_tried = true;
 }
 
 void judge(Result& result, int code)
@@ -100,11 +111,11 @@ std::string describe(const Result& result)
         case Verdict::kRefused: {
             std::string text = "refused: " + code + ", ";
             text += catalogue::meaning(result.code);
-            return text + in_parentheses(why(result).text);
+            return text + in_parentheses(result.why.text);
         }
         default:
             return std::string(name_of(result.verdict)) + ": " + result.problem +
-                   in_parentheses(why(result).text);
+                   in_parentheses(result.why.text);
     }
 }
 

@@ -13,6 +13,7 @@
 #include "catalogue/capture.h"
 #include "catalogue/catalogue.h"
 #include "read/record.h"
+#include "rules/reason.h"
 
 namespace ostrel::tool {
 
@@ -23,12 +24,18 @@ enum class Verdict {
     kMalformed,  // no case
     kEnded,      // the check ended its process
     kNoReturn,
+    kNoDriver,  // the check refused because the wireless driver gave no list of channels
 };
 
-inline constexpr std::size_t kVerdicts = 6;
+inline constexpr std::size_t kVerdicts = 7;
 
-// name_of gives the verdict in a word or two.
+// name_of gives the verdict in a word or two, json_name in one.
 std::string_view name_of(Verdict verdict);
+std::string_view json_name(Verdict verdict);
+
+// has_code tells that what the check returned says something of the value, is_code that it is a result code.
+bool has_code(Verdict verdict);
+bool is_code(Verdict verdict);
 
 // The exit codes, of which the highest wins.
 inline constexpr int kExitAccepted = 0;
@@ -38,24 +45,24 @@ inline constexpr int kExitEnded = 3;
 
 int exit_code(Verdict verdict);
 
-// json_name is the verdict in one word, for programs.
-std::string_view json_name(Verdict verdict);
-
-// has_code tells a verdict on a call that returned.
-bool has_code(Verdict verdict);
-
 // Tally counts the cases of each verdict.
 struct Tally {
     std::array<std::uint64_t, kVerdicts> counts{};
 
-    void add(Verdict verdict) { ++counts[static_cast<std::size_t>(verdict)]; }
-    void add(const Tally& other);
+    void add(Verdict verdict, std::uint64_t count) { counts[static_cast<std::size_t>(verdict)] += count; }
     [[nodiscard]] std::uint64_t of(Verdict verdict) const
     {
         return counts[static_cast<std::size_t>(verdict)];
     }
     [[nodiscard]] int exit_code() const;
     [[nodiscard]] std::uint64_t sum() const;
+};
+
+// Why is the reason of a refusal, or of a call that did not come back.
+struct Why {
+    std::string text;  // in a sentence; empty: the reason is not known
+    rules::Reason reason;
+    std::vector<rules::Reason> remarks;  // of the steps that printed and went on, in order
 };
 
 // Result is a case and what became of it. The views belong to whoever made it.
@@ -68,6 +75,11 @@ struct Result {
     std::string problem;  // malformed, ended or not returned: in words
     catalogue::PrintedView printed;
     std::vector<catalogue::Written> after;
+    bool is_tried = true;  // the check was called
+    Why why = {};
+
+    // clear makes it ready for the next case.
+    void clear();
 };
 
 // judge sets the verdict on a call that returned.

@@ -64,7 +64,7 @@ TEST(Batch, JsonHoldsCodeMeaningPrintsAndBuffers)
               rows[3]["out"]);
     EXPECT_EQ(
         json::parse(R"({"summary": {"cases": 4, "accepted": 1, "refused": 3, "answer": 0, "malformed": 0,
-        "ended": 0, "no_return": 0, "unreadable_files": 0},
+        "ended": 0, "no_return": 0, "no_driver": 0, "unreadable_files": 0},
         "families": {"accounts": {"0": 1}, "parameters": {"402": 2, "601": 1}}})"),
         rows[4]);
 }

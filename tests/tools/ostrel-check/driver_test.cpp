@@ -4,15 +4,17 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
 
+#include "catalogue/own_var.h"
 #include "run.h"
-#include "tests/support/own_var.h"
 
 namespace ostrel::tool {
 
-using tests::kChannelList;
+using catalogue::kChannelList;
 
 namespace {
 
@@ -21,7 +23,7 @@ class Driver : public testing::Test {
     // Each test has a folder for temporary files of its own, so that it can see that none is left.
     void SetUp() override
     {
-        if (!tests::can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
+        if (!catalogue::can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
         ASSERT_NE(nullptr, mkdtemp(folder_.data()));
         setenv("TMPDIR", folder_.c_str(), 1);
     }
@@ -69,21 +71,86 @@ TEST_F(Driver, AnswersABatchToo)
     EXPECT_EQ(-1, rows[1]["code"]);
 }
 
+// WithTool puts a shell script first on the path that is called wlctl.
+class WithTool {
+ public:
+    explicit WithTool(std::string_view script)
+    {
+        std::filesystem::create_directory(folder_);
+        std::ofstream(folder_ / "wlctl") << script;
+        std::filesystem::permissions(folder_ / "wlctl", std::filesystem::perms::owner_all);
+        setenv("PATH", (folder_.string() + ":" + saved_).c_str(), 1);
+    }
+    WithTool(const WithTool&) = delete;
+    WithTool& operator=(const WithTool&) = delete;
+    ~WithTool()
+    {
+        setenv("PATH", saved_.c_str(), 1);
+        std::filesystem::remove_all(folder_);
+    }
+
+ private:
+    std::filesystem::path folder_ = std::filesystem::temp_directory_path() / "bin";
+    std::string saved_ = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
+};
+
+constexpr char kChannel6[] = "WLAN_check_channel 6 RADIO_2.4GHz\n";
+
+TEST_F(Driver, IsToldInTheReasonOfARefusal)
+{
+    const auto rows = run_batch("WLAN_check_channel 13 RADIO_2.4GHz\n", {"--channels", "1 6 11 14"});
+    EXPECT_EQ("refused", rows[0]["verdict"]);
+    EXPECT_EQ("not_listed_by_driver", rows[0]["reason"]["id"]);
+    EXPECT_EQ("channel is 13; of the channels that the wireless driver lists, 1, 6, 11 are allowed",
+              rows[0]["reason"]["text"]);
+    const auto none = run_batch(kChannel6, {"--channels", ""});
+    EXPECT_EQ("no_channel_listed", none[0]["reason"]["id"]);
+}
+
+TEST_F(Driver, ThatIsNotThereIsNotTheValuesFault)
+{
+    const auto rows = run_batch(std::string(kChannel6) +
+                                "WLAN_check_channel 6 RADIO_3GHz\nWLAN_check_channel 0 "
+                                "RADIO_2.4GHz\n");
+    EXPECT_EQ("no_driver", rows[0]["verdict"]);
+    EXPECT_TRUE(rows[0]["code"].is_null());
+    EXPECT_EQ("no_driver_list", rows[0]["reason"]["id"]);
+    EXPECT_EQ("the driver gave no list: wlctl was not found", rows[0]["reason"]["text"]);
+    EXPECT_NE(std::string::npos, rows[0]["err"].get<std::string>().find("wlctl"));
+    EXPECT_EQ("refused", rows[1]["verdict"]);  // which needs no list
+    EXPECT_EQ("accepted", rows[2]["verdict"]);
+    EXPECT_EQ(1, rows[3]["summary"]["no_driver"]);
+    const Outcome single = run({"WLAN_check_channel", "6", "RADIO_2.4GHz"});
+    EXPECT_EQ(2, single.status);
+    EXPECT_EQ("no driver: the channel was not judged (the driver gave no list: wlctl was not found)\n",
+              single.out);
+    EXPECT_NE(std::string::npos, single.err.find("wlctl")) << single.err;
+}
+
+TEST_F(Driver, ThatFailsIsNotTheValuesFault)
+{
+    const WithTool tool("#!/bin/sh\necho no such device >&2\nexit 1\n");
+    const auto rows = run_batch(kChannel6);
+    EXPECT_EQ("no_driver", rows[0]["verdict"]);
+    EXPECT_EQ("the driver gave no list: wlctl failed", rows[0]["reason"]["text"]);
+    EXPECT_EQ("no such device\n", rows[0]["err"]);
+}
+
+// A tool that says something and lists channels all the same has listed them.
+TEST_F(Driver, MayGrumble)
+{
+    const WithTool tool("#!/bin/sh\necho slow >&2\necho 1 6 11\n");
+    EXPECT_EQ((Outcome{0, "accepted: 0, valid\n", "slow\n"}),
+              run({"WLAN_check_channel", "6", "RADIO_2.4GHz"}));
+}
+
 // A tool that hangs leaves no list behind that a later call could take for the driver's.
 TEST_F(Driver, MayHang)
 {
-    const File path("#!/bin/sh\nsleep 60\n");
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "bin";
-    std::filesystem::create_directory(folder);
-    std::filesystem::copy(path.path(), folder / "wlctl");
-    std::filesystem::permissions(folder / "wlctl", std::filesystem::perms::owner_all);
-    const std::string saved = std::getenv("PATH");  // NOLINT(concurrency-mt-unsafe)
-    setenv("PATH", (folder.string() + ":" + saved).c_str(), 1);
+    const WithTool tool("#!/bin/sh\nsleep 60\n");
     EXPECT_EQ(3, run({"--limit-time", "0.3", "WLAN_check_channel", "6", "RADIO_2.4GHz"}).status);
     EXPECT_FALSE(std::filesystem::exists(kChannelList));
     EXPECT_EQ(3, run({"batch", "--limit-time", "0.3"}, "WLAN_check_channel 6 RADIO_2.4GHz\n").status);
-    setenv("PATH", saved.c_str(), 1);
-    std::filesystem::remove_all(folder);
 }
 
 // The file of one fixed name would mix the lists up if two processes ran the check at once.

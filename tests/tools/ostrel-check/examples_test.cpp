@@ -20,7 +20,8 @@ TEST(Examples, JudgeEveryFunctionAndHoldGoodAndRefusedValues)
 {
     std::vector<std::string> arguments = {"batch", "--json"};
     for (const auto& entry : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/examples")) {
-        if (entry.is_regular_file()) arguments.push_back(entry.path());
+        // Scripts make cases and are none.
+        if (entry.is_regular_file() && entry.path().extension() != ".py") arguments.push_back(entry.path());
     }
     const Outcome outcome = run(arguments);
     EXPECT_EQ(1, outcome.status);  // neither malformed lines nor checks that did not return

@@ -102,7 +102,8 @@ class Surroundings(unittest.TestCase):
         self.assertEqual("", output_of("mandoc", "-T", "lint", "-W", "style", page))
         text = re.sub(".\b", "", output_of("mandoc", "-T", "ascii", page))
         for option in ("json", "schema", "json-schema", "stream", "only-refused", "jobs", "limit-time", "channels", "format",
-                       "format-out", "encoding", "delimiter", "check", "value", "strict", "with-args"):
+                       "format-out", "encoding", "delimiter", "check", "value", "strict", "with-args", "try", "summary",
+                       "summary-only", "summary-file", "exit-zero", "redact", "start-line"):
             self.assertIn("--" + option, text)
 
     def complete_in_bash(self, *words):
@@ -119,7 +120,9 @@ class Surroundings(unittest.TestCase):
         self.assertEqual(["RADIO_2.4GHz", "RADIO_5GHz"], self.complete_in_bash("WLAN_check_channel", "6", ""))
         self.assertEqual(["--jobs", "--json"], sorted(self.complete_in_bash("batch", "--j")))
         self.assertEqual(["utf-8"], self.complete_in_bash("batch", "--encoding", "u"))
-        self.assertEqual(["result"], self.complete_in_bash("list", "--schema", "r"))
+        self.assertEqual(["text", "json"], self.complete_in_bash("batch", "--summary", ""))
+        self.assertEqual(["catalogue", "result", "summary"], self.complete_in_bash("list", "--schema", ""))
+        self.assertEqual(["summarise"], self.complete_in_bash("summ"))
 
     def test_zsh_takes_the_completion(self):
         output_of("zsh", "-n", str(SOURCE / "packaging" / "completion" / "_ostrel-check"))

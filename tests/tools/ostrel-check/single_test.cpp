@@ -142,7 +142,7 @@ TEST(Single, CallThatDoesNotReturnIsThree)
                  "no return: the check did not return within 0.2 s (is a value for which the check does not "
                  "return)\n",
                  ""}),
-        run({"--limit-time", "0.2", "PARAM_check_ui2_value", "1"}));
+        run({"--try", "--limit-time", "0.2", "PARAM_check_ui2_value", "1"}));
 }
 
 TEST(Single, WrongUsageIsTwo)

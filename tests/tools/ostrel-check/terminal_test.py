@@ -11,6 +11,7 @@ import re
 import struct
 import subprocess
 import sys
+import tempfile
 import termios
 import time
 import unittest
@@ -102,7 +103,7 @@ class Terminal(unittest.TestCase):
             self.assert_fits(shown, ("prints", "standard error"))
 
     def test_help_and_list_fit(self):
-        for command in ([], ["explain"], ["list"], ["batch"], ["complete"]):
+        for command in ([], ["explain"], ["list"], ["batch"], ["summarise"], ["complete"]):
             status, shown = at_terminal(*command, "--help")
             self.assertEqual(0, status)
             self.assertIn("Examples:\n  ostrel-check ", shown)
@@ -123,10 +124,17 @@ class Terminal(unittest.TestCase):
             self.assertEqual(advice, shown.splitlines()[-1])
 
     def test_batch_shows_progress_after_a_second(self):
-        slow = ["PARAM_check_port 1\n", 1.6, "PARAM_check_port 2\n", 0.6, "PARAM_check_port 3\n"]
+        slow = ["PARAM_check_port 1\n", 1.6, "PARAM_check_port 70000\n", 0.6, "PARAM_check_port 3\n"]
         shown = at_terminal("batch", text=slow, OUT="/dev/null")[1]
-        self.assertRegex(shown, r"\r[0-9]+ cases? in [0-9]+ s, [0-9]+ a second\x1b\[K")
+        self.assertRegex(shown, r"\r[0-9]+ cases?, [0-9]+ refused, [0-9]+ a second, [0-9]+ s\x1b\[K")
         self.assertTrue(shown.endswith("\r\x1b[K"), repr(shown))
+
+    def test_progress_knows_the_size_of_files(self):
+        with tempfile.NamedTemporaryFile("w") as file:
+            file.write("PARAM_check_port 70000\n" + "PARAM_check_ui2_value 1\n" * 3)
+            file.flush()
+            shown = at_terminal("batch", "--try", "--limit-time", "0.7", file.name, OUT="/dev/null")[1]
+        self.assertRegex(shown, r"\r(49|74)%, [23] cases, 1 refused, [0-9]+ a second, [0-9]+ s left\x1b\[K")
 
     def test_quick_batch_shows_none(self):
         status, shown = at_terminal("batch", text=["PARAM_check_port 1\n"])

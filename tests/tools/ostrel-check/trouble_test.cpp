@@ -28,7 +28,7 @@ constexpr char kTrouble[] =
 
 TEST(Trouble, IsTheVerdictOfItsLineAndTheRestGoesOn)
 {
-    const std::vector<json> rows = run_batch(kTrouble, {"--limit-time", "0.3"});
+    const std::vector<json> rows = run_batch(kTrouble, {"--limit-time", "0.3", "--try"});
     ASSERT_EQ(9U, rows.size());
     std::vector<std::string> verdicts;
     for (std::size_t i = 0; i < 8; ++i) {
@@ -47,13 +47,13 @@ TEST(Trouble, IsTheVerdictOfItsLineAndTheRestGoesOn)
     EXPECT_EQ("", rows[4]["err"]);
     EXPECT_EQ(
         json::parse(R"({"cases": 8, "accepted": 2, "refused": 1, "answer": 0, "malformed": 0, "ended": 3,
-        "no_return": 2, "unreadable_files": 0})"),
+        "no_return": 2, "no_driver": 0, "unreadable_files": 0})"),
         rows[8]["summary"]);
 }
 
 TEST(Trouble, TableNamesTheCaseAndItsAssertion)
 {
-    const Outcome outcome = run({"batch", "--limit-time", "0.3", "--jobs", "2"}, kTrouble);
+    const Outcome outcome = run({"batch", "--limit-time", "0.3", "--try", "--jobs", "2"}, kTrouble);
     EXPECT_EQ(3, outcome.status);
     EXPECT_NE(
         std::string::npos,
@@ -68,6 +68,29 @@ TEST(Trouble, TableNamesTheCaseAndItsAssertion)
                   "                          the check did not return within 0.3 s: is a value for which the "
                   "check does not return\n"));
     EXPECT_EQ("8 cases: 2 accepted, 1 refused, 3 ended the process, 2 did not return\n", summary_of(outcome));
+}
+
+// What the description says of a value need not be waited for.
+TEST(Trouble, ThatIsKnownIsAnsweredAtOnce)
+{
+    std::string lines;
+    for (int i = 0; i < 100; ++i) lines += "PARAM_check_ui2_value 1\nPARAM_check_ui2_value x\n";
+    const std::vector<json> rows = run_batch(lines, {"--limit-time", "3600"});
+    ASSERT_EQ(201U, rows.size());
+    EXPECT_EQ("no_return", rows[0]["verdict"]);
+    EXPECT_EQ(false, rows[0]["tried"]);
+    EXPECT_EQ("the check is known not to return and was not called", rows[0]["meaning"]);
+    EXPECT_EQ("never_returns", rows[0]["reason"]["id"]);
+    EXPECT_EQ("refused", rows[1]["verdict"]);
+    EXPECT_FALSE(rows[1].contains("tried"));
+    EXPECT_EQ(100, rows[200]["summary"]["no_return"]);
+    EXPECT_EQ((Outcome{3,
+                       "no return: the check is known not to return and was not called (is a value for which "
+                       "the check does not return)\n",
+                       ""}),
+              run({"--limit-time", "3600", "PARAM_check_ui2_value", "1"}));
+    const Outcome tried = run({"--try", "--limit-time", "0.2", "PARAM_check_ui2_value", "1"});
+    EXPECT_TRUE(tried.out.starts_with("no return: the check did not return within 0.2 s")) << tried.out;
 }
 
 TEST(Trouble, OfManyCasesIsOvercome)
@@ -114,11 +137,12 @@ TEST(Trouble, ResultsComeAsTheCasesDo)
 
 TEST(Trouble, KilledSupervisorLeavesNoWorkerBehind)
 {
-    EXPECT_EQ(0, shell("$CHECK batch --limit-time 60 <<< \"PARAM_check_ui2_value 1\" >/dev/null & parent=$!;"
-                       "for i in {1..100}; do worker=$(cat /proc/$parent/task/$parent/children 2>/dev/null);"
-                       "test -n \"$worker\" && break; sleep 0.1; done; kill -9 $parent;"
-                       "for i in {1..100}; do test -d /proc/$((worker)) || exit 0;"
-                       "grep -q \"State:.Z\" /proc/$((worker))/status && exit 0; sleep 0.1; done; exit 1"));
+    EXPECT_EQ(
+        0, shell("$CHECK batch --try --limit-time 60 <<< \"PARAM_check_ui2_value 1\" >/dev/null & parent=$!;"
+                 "for i in {1..100}; do worker=$(cat /proc/$parent/task/$parent/children 2>/dev/null);"
+                 "test -n \"$worker\" && break; sleep 0.1; done; kill -9 $parent;"
+                 "for i in {1..100}; do test -d /proc/$((worker)) || exit 0;"
+                 "grep -q \"State:.Z\" /proc/$((worker))/status && exit 0; sleep 0.1; done; exit 1"));
 }
 
 }  // namespace

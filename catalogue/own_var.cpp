@@ -1,4 +1,4 @@
-#include "tests/support/own_var.h"
+#include "catalogue/own_var.h"
 
 #include <fcntl.h>
 #include <sched.h>
@@ -9,7 +9,7 @@
 #include <fstream>
 #include <string>
 
-namespace ostrel::tests {
+namespace ostrel::catalogue {
 
 namespace {
 
@@ -31,39 +31,50 @@ bool enter_mount_namespace()
     return true;
 }
 
-// cover_var mounts an empty folder over /var. The folders in it are kept: programs and temporary files may be in
-// one.
+// keep puts what is at one path at another.
+void keep(const fs::directory_entry& entry, const fs::path& place)
+{
+    if (entry.is_symlink()) {
+        fs::copy_symlink(entry.path(), place);
+        return;
+    }
+    if (entry.is_directory()) {
+        fs::create_directory(place);
+    } else if (entry.is_regular_file() && place != kChannelList) {
+        std::ofstream(place).close();
+    } else {
+        return;
+    }
+    mount(entry.path().c_str(), place.c_str(), nullptr, MS_BIND | MS_REC, nullptr);
+}
+
+// cover_var mounts an empty folder over /var. What is in it is kept: programs, temporary files and what is to be read
+// may be there.
 void cover_var()
 {
-    const int covered = open("/var", O_PATH | O_DIRECTORY | O_CLOEXEC);
+    const int covered = open(kChannelFolder, O_PATH | O_DIRECTORY | O_CLOEXEC);
     const fs::path folders = "/proc/self/fd/" + std::to_string(covered);
     if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-        mount("none", "/var", "tmpfs", 0, nullptr) == 0) {
+        mount("none", kChannelFolder, "tmpfs", 0, nullptr) == 0) {
         for (const auto& entry : fs::directory_iterator(folders)) {
-            const fs::path kept = "/var" / entry.path().filename();
-            if (entry.is_symlink()) {
-                fs::copy_symlink(entry.path(), kept);
-            } else if (entry.is_directory()) {
-                fs::create_directory(kept);
-                mount(entry.path().c_str(), kept.c_str(), nullptr, MS_BIND | MS_REC, nullptr);
-            }
+            keep(entry, kChannelFolder / entry.path().filename());
         }
     }
     close(covered);
 }
 
-bool prepare()
+}  // namespace
+
+bool move_to_own_var()
 {
     if (enter_mount_namespace()) cover_var();
-    return access("/var", W_OK) == 0;
+    return access(kChannelFolder, W_OK) == 0;
 }
-
-}  // namespace
 
 bool can_list_channels()
 {
-    static const bool can = prepare();
+    static const bool can = move_to_own_var();
     return can;
 }
 
-}  // namespace ostrel::tests
+}  // namespace ostrel::catalogue

@@ -1,0 +1,168 @@
+#!/usr/bin/python3
+"""Makes the saved configurations of a fleet of gateways, for ostrel-check batch: the same values as CSV, as a line of JSON
+for each value, and as nested JSON, an object for each gateway.
+
+usage: fleet.py [--rows N] [--seed N] [--refused SHARE] FOLDER
+
+FOLDER gets fleet.csv, fleet.ndjson and fleet.json. A gateway has 20 values, in the same order in each file; its name is
+the id of each. So many of them are refused as --refused says (0.1), for reasons that support desks meet. The same seed
+makes the same files.
+
+  examples/fleet.py --rows 2000 /tmp
+  ostrel-check batch --summary-only /tmp/fleet.ndjson
+"""
+
+import argparse
+import csv
+import io
+import json
+import os
+import random
+
+GATEWAY = 20  # values
+LAN = "LANDevice.1.LANHostConfigManagement."
+WLAN = "LANDevice.1.WLANConfiguration.1."
+PPP = "WANDevice.1.WANConnectionDevice.1.WANPPPConnection.1."
+
+
+def numbers(low, high):
+    return lambda dice: str(dice.randint(low, high))
+
+
+def words(*choices):
+    return lambda dice: dice.choice(choices)
+
+
+def address(dice):
+    return f"192.168.{dice.randint(0, 255)}.{dice.randint(1, 254)}"
+
+
+def servers(dice):
+    return ",".join(f"192.0.2.{dice.randint(1, 254)}" for _ in range(dice.randint(1, 2)))
+
+
+def network(dice):
+    return dice.choice(("home", "Smith, Jones & Co", 'the "guests"', "FLAT")) + f" {dice.randint(1, 9999)}"
+
+
+def password(dice):
+    return "".join(dice.choices("abcdefghijkmnpqrstuvwxyzACDEFHJKLMNPRTUVWXY2345679!.-,\"", k=dice.randint(10, 20)))
+
+
+def key(dice):
+    return f"{dice.getrandbits(256):064x}"
+
+
+# Path below InternetGatewayDevice, check, what makes a good value, values that are refused. In the order of the tree, so
+# that what has a folder in common is together.
+PARAMETERS = [
+    ("ManagementServer.PeriodicInformInterval", "MGTSERVER_check_periodic_inform_interval", numbers(60, 86400),
+     ["0", "", "-60"]),
+    ("Time.NTPServer1", "TIME_check_NTP_server", lambda dice: f"ntp{dice.randint(1, 99)}.example.net",
+     ["ntp1 example", "192.0.2.300", "", "http://ntp.example.net"]),
+    ("Time.LocalTimeZone", "TIME_check_local_time_zone", words("+01:00", "+02:00", "-05:00"), ["CET", "+1:00"]),
+    ("Layer3Forwarding.Forwarding.1.MTU", "L3FORWARDING_check_MTU", numbers(1280, 1540), ["1541", "9000", "0"]),
+    (LAN + "SubnetMask", "LAN_check_subnet_mask", words("255.255.255.0", "255.255.255.128"),
+     ["255.255.255.1", "/24", "255.255.0.0"]),
+    (LAN + "DNSServers", "LAN_check_dns_servers", servers, ["dns.example.net", "192.0.2.53;192.0.2.54"]),
+    (LAN + "DomainName", "LAN_check_domain_name", words("home", "home_lan", "lan"), ["home.example", "home lan"]),
+    (LAN + "IPInterface.1.IPInterfaceIPAddress", "LAN_check_ip_router", address, ["192.168.1.256", "192.168.1"]),
+    (LAN + "IPInterface.1.IPInterfaceAddressingType", "LAN_check_interface_addr_type", words("Static"),
+     ["DHCP", "static"]),
+    (WLAN + "SSID", "WLAN_check_ssid", network,
+     ["a name of more than thirty-two bytes", "Caf\u00e9 Müller", "two\nlines"]),
+    (WLAN + "BeaconType", "WLAN_check_beacon_type", words("11i", "WPAand11i", "WPA"), ["WPA2", "wpa", "WPA/WPA2"]),
+    (WLAN + "BasicEncryptionModes", "WLAN_check_basic_encryption_modes", words("None", "WEPEncryption"),
+     ["none", "AES"]),
+    (WLAN + "WPAEncryptionModes", "WLAN_check_wpa_encryption_modes", words("AESEncryption", "TKIPandAESEncryption"),
+     ["AES", "CCMP"]),
+    (WLAN + "WEPKeyIndex", "WLAN_check_default_wep_key_index", numbers(0, 3), ["4", "-1"]),
+    (WLAN + "MaxBitRate", "WLAN_check_max_bit_rate", words("Auto", "54", "11"), ["55", "300", "auto"]),
+    (WLAN + "PreSharedKey.1.PreSharedKey", "WLAN_check_preshared_key", key, ["correct horse battery", "0123456789"]),
+    (PPP + "ConnectionType", "PPP_check_connection_type", words("IP_Routed"), ["IP_Bridged", "PPPoE"]),
+    (PPP + "Password", "PPP_check_non_tonline_password", password, [""]),
+    (PPP + "ConnectionTrigger", "PPP_check_connection_trigger", words("AlwaysOn", "OnDemand"), ["always", "Manual"]),
+    (PPP + "PortMapping.1.PortMappingProtocol", "TcmValidatePortMappingProtocol", words("TCP", "UDP"),
+     ["tcp", "both", "TCP/UDP"]),
+]
+
+# So many values of each parameter are made; a fleet repeats them.
+VARIETY = 4096
+
+
+def as_csv(value):
+    text = io.StringIO()
+    csv.writer(text, lineterminator="").writerow(["", value])
+    return text.getvalue()[1:]
+
+
+def as_json(value):
+    return json.dumps(value, ensure_ascii=False)
+
+
+def tree_of(cells):
+    """tree_of is the configuration of one gateway, with a cell for each value."""
+    tree = {}
+    for (path, *_), cell in zip(PARAMETERS, cells):
+        *folders, name = path.split(".")
+        place = tree
+        for folder in folders:
+            place = place.setdefault(folder, {})
+        place[name] = cell
+    return tree
+
+
+def forms():
+    """forms is what each file has for one gateway, with %s in the place of its name and of each value."""
+    csv_lines = "".join(f"%s,InternetGatewayDevice.{path},{check},%s\r\n" for path, check, *_ in PARAMETERS)
+    json_lines = "".join(
+        f'{{"id": "%s", "parameter": "InternetGatewayDevice.{path}", "check": "{check}", "args": [%s]}}\n'
+        for path, check, *_ in PARAMETERS)
+    nested = json.dumps({"id": "%s", "InternetGatewayDevice": tree_of(["%s"] * GATEWAY)}, indent=1)
+    nested = nested.replace('"%s"', "%s")
+    return csv_lines, json_lines, nested
+
+
+def write(folder, rows, seed, refused):
+    dice = random.Random(seed)
+    pools = []
+    for _, _, good, faults in PARAMETERS:
+        values = [good(dice) for _ in range(VARIETY)] + faults
+        weights = [(1 - refused) / VARIETY] * VARIETY + [refused / len(faults)] * len(faults)
+        pools.append(([(as_csv(value), as_json(value)) for value in values], weights))
+    csv_lines, json_lines, nested = forms()
+    gateways = -(-rows // GATEWAY)
+    with open(os.path.join(folder, "fleet.csv"), "w", encoding="utf-8", newline="") as as_rows, \
+            open(os.path.join(folder, "fleet.ndjson"), "w", encoding="utf-8", newline="") as as_lines, \
+            open(os.path.join(folder, "fleet.json"), "w", encoding="utf-8", newline="") as as_tree:
+        as_rows.write("id,parameter,check,value\r\n")
+        as_tree.write("[\n")
+        block = 2048  # gateways that are made at a time
+        for begin in range(0, gateways, block):
+            names = [f"gateway-{number:07}" for number in range(begin, min(begin + block, gateways))]
+            columns = [dice.choices(values, weights, k=len(names)) for values, weights in pools]
+            for name, cells in zip(names, zip(*columns)):
+                rows_of_one = [part for cell in cells for part in (name, cell[0])]
+                lines_of_one = [part for cell in cells for part in (name, cell[1])]
+                as_rows.write(csv_lines % tuple(rows_of_one))
+                as_lines.write(json_lines % tuple(lines_of_one))
+                separator = "" if name.endswith("-0000000") else ",\n"
+                as_tree.write(separator + nested % (f'"{name}"', *(cell[1] for cell in cells)))
+        as_tree.write("\n]\n")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--rows", type=int, default=1000, help="values in all (1000); whole gateways are made")
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--refused", type=float, default=0.1, help="the share of values that are refused (0.1)")
+    parser.add_argument("folder", metavar="FOLDER")
+    arguments = parser.parse_args()
+    if arguments.rows < 0 or not 0 <= arguments.refused <= 1:
+        parser.error("--rows is a number of values, --refused a share from 0 to 1")
+    os.makedirs(arguments.folder, exist_ok=True)
+    write(arguments.folder, arguments.rows, arguments.seed, arguments.refused)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,136 @@
+"""With --redact no output of a batch holds the value of a secret argument.
+
+usage: redact_test.py OSTREL_CHECK SOURCE_DIR
+
+Every check with a secret argument is called with the rows of vectors/, their secrets replaced by markers, so that each
+of its steps is reached: in their place, before, behind and around what stands there.
+"""
+
+import glob
+import json
+import os
+import random
+import subprocess
+import sys
+import tempfile
+import unittest
+
+# Of a marker, nothing of so many characters may be seen.
+PIECE = 6
+DICE = random.Random(20261122)
+MARKERS = ["".join(DICE.choices(letters, k=24))
+           for letters in ("ghjkmnpqrstuvwxyzGHJKMNPQRSTUVWXYZ", "0123456789", "0123456789abcdef", "ABCDEFGH01234567")]
+FORMS = [[], ["--json"], ["--stream"], ["--only-refused"], ["--stream", "--summary", "text"],
+         ["--summary-only"], ["--summary", "json"], ["--summary-only", "--summary", "json"], ["--json", "--jobs", "3"]]
+
+
+def text_of(value):
+    """text_of writes out the notation of the vectors."""
+    if isinstance(value, dict) and "repeat" in value:
+        return text_of(value["repeat"]) * value["times"]
+    if isinstance(value, dict) and "join" in value:
+        return "".join(text_of(part) for part in value["join"])
+    return value
+
+
+def variants(value):
+    """variants replaces a secret by texts that hold a marker."""
+    if isinstance(value, list):
+        for marker in MARKERS:
+            yield [marker] * len(value)
+            yield [text_of(part) if i else marker for i, part in enumerate(value)]
+            yield [marker[:len(text_of(part))] for part in value]
+        return
+    text = text_of(value)
+    if not isinstance(text, str) or len(text) > 1000:
+        return
+    for marker in MARKERS:
+        long = marker * (len(text) // len(marker) + 1)
+        yield from (marker, text + marker, marker + text, marker + text + marker, long[:len(text)],
+                    marker + " \u00e9\"\\" + marker)
+
+
+class Redaction(unittest.TestCase):
+    def setUp(self):
+        checks = json.loads(subprocess.run([PROGRAM, "list", "--json"], capture_output=True, check=True).stdout)
+        self.secrets = {}
+        for check in checks["checks"]:
+            places = [i for i, argument in enumerate(check["arguments"]) if argument.get("secret")]
+            if places:
+                self.secrets[check["name"]] = places
+
+    def batch(self, lines, *options):
+        with tempfile.TemporaryDirectory() as folder:
+            file = os.path.join(folder, "summary")
+            result = subprocess.run([PROGRAM, "batch", "--limit-time", "5", *options, "--summary-file", file],
+                                    input="\n".join(lines).encode("utf-8"), capture_output=True, check=False)
+            with open(file, encoding="utf-8") as summary:
+                text = result.stdout.decode("utf-8") + result.stderr.decode("utf-8") + summary.read()
+            return text
+
+    def assert_hidden(self, lines, *options):
+        shown = self.batch(lines, "--redact", *options)
+        self.assertTrue(shown)
+        for marker in MARKERS:
+            for begin in range(len(marker) - PIECE + 1):
+                piece = marker[begin:begin + PIECE]
+                at = shown.find(piece)
+                self.assertLess(at, 0, f"{options}: {shown[max(0, at - 300):at + 100]}")
+        return shown
+
+    def lines(self):
+        met = set()
+        for path in sorted(glob.glob(os.path.join(SOURCE, "vectors", "*.ndjson"))):
+            with open(path, encoding="utf-8") as rows:
+                for row in map(json.loads, rows):
+                    for place in self.secrets.get(row["check"], ()):
+                        for secret in variants(row["args"][place]) if place < len(row["args"]) else ():
+                            args = [text_of(value) if not isinstance(value, list) else
+                                    [text_of(part) for part in value] for value in row["args"]]
+                            args[place] = secret
+                            met.add(row["check"])
+                            yield json.dumps({"check": row["check"], "args": args}, ensure_ascii=False)
+        self.assertEqual(set(self.secrets), met)
+
+    def test_every_secret_of_every_check(self):
+        self.assertGreater(len(self.secrets), 15)
+        lines = list(self.lines())
+        self.assertGreater(len(lines), 2000)
+        self.assert_hidden(lines, "--json", "--jobs", "2")
+        for options in FORMS:
+            self.assert_hidden(lines[::17], *options)
+
+    def test_the_test_would_see_it(self):
+        shown = self.batch([json.dumps({"check": "PPP_check_non_tonline_password", "args": [MARKERS[0] * 4]})],
+                           "--summary", "text")
+        self.assertIn(MARKERS[0][:PIECE], shown)
+
+    def test_the_length_is_shown(self):
+        shown = self.assert_hidden([json.dumps({"check": "TcmValidatePSK", "args": [MARKERS[0]]})])
+        self.assertIn("TcmValidatePSK \"<24 bytes>\"", shown)
+
+    def test_malformed_lines_are_not_quoted(self):
+        marker = MARKERS[0]
+        lines = [marker, f"TcmValidatePSK '{marker}", f"TcmValidatePSK {marker} {marker}", f"{{{marker}",
+                 f'{{"check": "{marker}", "args": []}}', f'{{"check": "TcmValidatePSK", "args": ["{marker}}}',
+                 f'{{"check": "TcmValidatePSK", "args": ["{marker}\\q"]}}',
+                 f'{{"check": "TcmValidatePSK", "args": {{"a": "{marker}"}}}}',
+                 f'{{"check": "TcmValidatePSK", "args": [{marker}]}}',
+                 f'{{"check": "TcmValidatePSK", "args": [{{"repeat": "{marker}"}}]}}',
+                 f'{{"check": "PARAM_check_pwd", "args": ["{marker}", "{marker}", "{marker}"]}}',
+                 f'TcmValidatePSK "\\x{marker}"', f"PARAM_check_password {marker} {marker} {marker}",
+                 f'{{"check": "TcmValidatePSK", "{marker}": 1, "args": ["{marker}", 1]}}']
+        for options in FORMS:
+            shown = self.assert_hidden(lines, *options)
+            self.assertIn("not shown", shown)
+
+    def test_ends_of_processes_hide_it_too(self):
+        lines = [json.dumps({"check": "WLAN_check_preshared_key2", "args": args})
+                 for args in ([MARKERS[0], None], [None, MARKERS[1]])]
+        for options in FORMS:
+            self.assert_hidden(lines, *options)
+
+
+if __name__ == "__main__":
+    PROGRAM, SOURCE = sys.argv[1:]
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,187 @@
+"""The summary of a batch, and the sum of the summaries of its pieces.
+
+usage: summary_test.py OSTREL_CHECK SOURCE_DIR
+"""
+
+import json
+import os
+import random
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import jsonschema
+
+
+def run(*words, text=""):
+    return subprocess.run([PROGRAM, *words], input=text, capture_output=True, text=True, check=False)
+
+
+def summary_of(lines, *options):
+    return json.loads(run("batch", "--summary-only", "--summary", "json", *options, text=lines).stdout)
+
+
+class Summary(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.schema = json.loads(run("list", "--schema", "summary").stdout)
+
+    def test_suits_its_schema(self):
+        with open(os.path.join(SOURCE, "tools", "ostrel-check", "summary.schema.json"), encoding="utf-8") as file:
+            self.assertEqual(json.load(file), self.schema)
+        jsonschema.Draft202012Validator.check_schema(self.schema)
+        validator = jsonschema.Draft202012Validator(self.schema)
+        summary = summary_of("PARAM_check_port 1\nPARAM_check_port 65536\nPARAM_check_port @null\nx\n"
+                             "PARAM_check_ui2_value 1\ncountChar a 97\nWLAN_check_channel 6 RADIO_2.4GHz\n")
+        validator.validate(summary)
+        del summary["summary"]["no_driver"]
+        self.assertFalse(validator.is_valid(summary))
+
+    def test_counts_by_check_parameter_and_reason(self):
+        summary = summary_of("PARAM_check_port 65536\nPARAM_check_port 1\nPARAM_check_port -1\nPARAM_check_port 70000\n")
+        self.assertEqual(
+            [{"check": "PARAM_check_port", "verdict": "accepted", "code": 0, "count": 1},
+             {"check": "PARAM_check_port", "verdict": "refused", "code": 601, "reason": "number_too_high", "count": 2,
+              "example": {"args": ["65536"], "text": "is 65536; at most 65535 is allowed"}},
+             {"check": "PARAM_check_port", "verdict": "refused", "code": 601, "reason": "number_too_low", "count": 1,
+              "example": {"args": ["-1"], "text": "is -1; at least 0 is needed"}}], summary["rows"])
+        self.assertEqual({"parameters": {"0": 1, "601": 3}}, summary["families"])
+        self.assertEqual(3, summary["summary"]["refused"])
+
+    def test_as_text(self):
+        shown = run("batch", "--summary-only", text="PARAM_check_port 65536\nPARAM_check_port 1\n")
+        self.assertEqual(1, shown.returncode)
+        self.assertEqual("By check, parameter and reason:\n"
+                         "  PARAM_check_port\n"
+                         "          1  accepted\n"
+                         "          1  refused 601 number_too_high\n"
+                         "             [\"65536\"]: is 65536; at most 65535 is allowed\n"
+                         "By family and code:\n"
+                         "  parameters  accepted: 1, refused 601: 1\n"
+                         "2 cases: 1 accepted, 1 refused\n", shown.stdout)
+
+    def test_of_a_stream_is_apart_from_the_results(self):
+        shown = run("batch", "--stream", "--summary", "text", text="PARAM_check_port 1\n")
+        self.assertEqual(1, shown.stdout.count("\n"))
+        self.assertIn("1 case: 1 accepted, 0 refused\n", shown.stderr)
+        self.assertEqual("", run("batch", "--stream", text="PARAM_check_port 1\n").stderr)
+        self.assertEqual(2, run("batch", "--stream", "--summary-only").returncode)
+
+    def test_long_values_are_cut(self):
+        row = summary_of('{"check": "TcmValidatePSK", "args": ["' + 100000 * "x" + '"]}\n')["rows"][0]
+        self.assertEqual(["x" * 200 + "... (100000 bytes)"], row["example"]["args"])
+
+    def test_any_number_of_processes_sums_up_the_same(self):
+        lines = "".join(f"PARAM_check_port {i * 7}\nTcmValidateTime {i}\n" for i in range(8000))
+        self.assertEqual(summary_of(lines), summary_of(lines, "--jobs", "4"))
+
+
+class Sum(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.mkdtemp()
+        self.addCleanup(subprocess.run, ["rm", "-rf", self.folder], check=True)
+
+    def file(self, name, text):
+        path = os.path.join(self.folder, name)
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(text)
+        return path
+
+    def summarise(self, *texts, options=("--summary", "json")):
+        return run("summarise", *options, *[self.file(str(i), text) for i, text in enumerate(texts)])
+
+    def row(self, **members):
+        row = {"check": "PARAM_check_port", "parameter": "a", "verdict": "accepted", "code": 0, "count": 1}
+        row.update(members)
+        return row
+
+    def summary(self, *rows):
+        total = dict.fromkeys(("accepted", "refused", "answer", "malformed", "ended", "no_return", "no_driver"), 0)
+        for row in rows:
+            total[row["verdict"]] += row["count"]
+        return json.dumps({"summary": {"cases": 0, **total, "unreadable_files": 0}, "families": {},
+                           "rows": list(rows)}) + "\n"
+
+    def test_of_pieces_is_that_of_the_whole(self):
+        lines = "".join(f"PARAM_check_port {i * 3}\nTcmValidateTime x{i}\nnothing\n" for i in range(4000))
+        lines = lines.splitlines(keepends=True)
+        whole = run("batch", "--summary-only", "--summary", "json", text="".join(lines)).stdout
+        pieces = [run("batch", "--summary-only", "--summary", "json", text="".join(lines[i * 1500:(i + 1) * 1500]))
+                  for i in range(8)]
+        self.assertEqual(whole, self.summarise(*[piece.stdout for piece in pieces]).stdout)
+        text = run("batch", "--summary-only", text="".join(lines)).stdout
+        self.assertEqual(text, self.summarise(whole, options=()).stdout)
+
+    def test_of_many_parameters_is_bounded_and_the_same(self):
+        random.seed(1)
+        rows = [self.row(parameter=f"p{random.randrange(5000)}", count=random.randrange(1, 9)) for _ in range(8000)]
+        rows += [self.row(parameter=f"p{i}", verdict="refused", code=601, reason="empty") for i in range(5000)]
+        random.shuffle(rows)
+        whole = self.summarise(self.summary(*rows)).stdout
+        pieces = [self.summarise(self.summary(*rows[i::8])).stdout for i in range(8)]
+        self.assertEqual(whole, self.summarise(*pieces).stdout)
+        random.shuffle(pieces)
+        self.assertEqual(whole, self.summarise(*pieces).stdout)
+        added = json.loads(whole)["rows"]
+        names = {row["parameter"] for row in added if "parameter" in row}
+        self.assertEqual(set(sorted({row["parameter"] for row in rows})[:1000]), names)
+        self.assertEqual(sum(row["count"] for row in rows), sum(row["count"] for row in added))
+        self.assertEqual(2, sum("other_parameters" in row for row in added))
+        for row in added:
+            if "parameter" in row and row["verdict"] == "accepted":
+                self.assertEqual(row["count"], sum(given["count"] for given in rows if given["verdict"] == "accepted"
+                                                   and given["parameter"] == row["parameter"]))
+
+    def test_of_results_counts_them(self):
+        lines = "PARAM_check_port 65536\nPARAM_check_port 1\nx\nPARAM_check_port @null\ncountChar a 97\n"
+        expected = summary_of(lines)
+        for row in expected["rows"]:
+            row.get("example", {}).pop("args", None)
+        for form in "--json", "--stream":
+            results = [line for line in run("batch", form, text=lines).stdout.splitlines(keepends=True)
+                       if "summary" not in line]
+            self.assertEqual(expected, json.loads(self.summarise("".join(results[:2]), "".join(results[2:])).stdout))
+
+    def test_the_first_example_stays(self):
+        first, second = (self.row(verdict="refused", code=601, example={"args": [text]}) for text in "ab")
+        added = json.loads(self.summarise(self.summary(first), self.summary(second)).stdout)
+        self.assertEqual({"args": ["a"]}, added["rows"][0]["example"])
+
+    def test_instances_are_no_parameters_of_their_own(self):
+        results = "".join(json.dumps({"check": "PARAM_check_port", "parameter": path, "verdict": "accepted", "code": 0})
+                          + "\n" for path in ("A.1.B.2.C", "A.10.B.[x].C", "A.3.B.4.C", "A.1", "7.A.x1", "7"))
+        rows = json.loads(self.summarise(results).stdout)["rows"]
+        self.assertEqual([("7", 1), ("7.A.x1", 1), ("A.{i}", 1), ("A.{i}.B.{i}.C", 3)],
+                         [(row["parameter"], row["count"]) for row in rows])
+
+    def test_what_cannot_be_added_is_left_out_and_named(self):
+        good = self.summary(self.row())
+        for bad, why in (("nothing\n", "not JSON; a line is a summary or a result in JSON"),
+                         ("[]\n", "neither a summary nor a result"), ("1\n", "neither a summary nor a result"),
+                         ('{"summary": {}}\n', "a summary without rows; batch --summary json writes one with rows"),
+                         ('{"summary": 1, "rows": []}\n', '"summary" is not an object'),
+                         (self.summary(self.row(check="x")), 'there is no check "x"'),
+                         (self.summary(self.row(code=1)), '"code" does not suit "verdict"'),
+                         (self.summary(self.row(code="0")), '"code" is not a number'),
+                         ('{"verdict": "accepted", "code": 0}\n', '"check" is missing'),
+                         ('{"verdict": "fine"}\n', 'there is no verdict "fine"'),
+                         (good.replace('"accepted": 1', '"accepted": 2'), 'the rows do not add up to "accepted"'),
+                         (good.replace('"count": 1', '"count": -1'), '"count" is not a count'),
+                         (good.replace('"rows": [', '"rows": [1, '), "a row is not an object"),
+                         ("[" * 100000 + "\n", "the JSON is nested too deeply"),
+                         ('{"verdict": "\x00"}\n', "not JSON; a line is a summary or a result in JSON")):
+            shown = self.summarise(good, "\n" + bad + good)
+            self.assertEqual(2, shown.returncode, bad[:100])
+            self.assertEqual(f"ostrel-check: {self.folder}/1:2: {why}\n", shown.stderr)
+            self.assertEqual(2, json.loads(shown.stdout)["summary"]["accepted"])
+        shown = run("summarise", "/nonexistent/file", self.file("good", good))
+        self.assertEqual((2, "ostrel-check: /nonexistent/file: cannot read it: No such file or directory\n"),
+                         (shown.returncode, shown.stderr))
+        self.assertIn("1 case: 1 accepted", shown.stdout)
+        self.assertEqual(2, run("summarise").returncode)
+
+
+if __name__ == "__main__":
+    PROGRAM, SOURCE = sys.argv[1:]
+    unittest.main(argv=sys.argv[:1])
