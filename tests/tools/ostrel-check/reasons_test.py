@@ -18,6 +18,9 @@ def batch(lines, *options):
     return [row for row in map(json.loads, result.stdout.splitlines()) if "check" in row]
 
 
+LONGEST = 100000  # megabytes of one letter have the reason that kilobytes have
+
+
 def text_of(text):
     """A text of a vector, without the notation for long ones."""
     if isinstance(text, dict):
@@ -44,7 +47,10 @@ class Vectors(unittest.TestCase):
         lines = []
         for path in sorted((SOURCE / "vectors").glob("*.ndjson")):
             for row in map(json.loads, path.read_text().rstrip("\n").split("\n")):
-                lines.append(json.dumps({"check": row["check"], "args": list(map(text_of, row["args"]))}) + "\n")
+                given = list(map(text_of, row["args"]))
+                line = json.dumps({"check": row["check"], "args": given}) + "\n"
+                if len(line) <= LONGEST:
+                    lines.append(line)
         cls.rows = batch("".join(lines), "--encoding", "latin-1", "--channels", "1 6 11")
         assert len(lines) == len(cls.rows)
 
