@@ -21,6 +21,7 @@
 #include "explain.h"
 #include "help.h"
 #include "process.h"
+#include "reading_options.h"
 #include "schemas.h"
 #include "show.h"
 #include "single.h"
@@ -120,46 +121,8 @@ CLI::App* add_list(CLI::App& app, Options& options)
     return list;
 }
 
-const std::map<std::string, FileFormat> kFormats = {{"words", FileFormat::kWords},
-                                                    {"ndjson", FileFormat::kNdjson},
-                                                    {"csv", FileFormat::kCsv},
-                                                    {"tsv", FileFormat::kTsv},
-                                                    {"json", FileFormat::kJson}};
-const std::map<std::string, Encoding> kEncodings = {{"utf-8", Encoding::kUtf8},
-                                                    {"latin-1", Encoding::kLatin1}};
 const std::map<std::string, Format> kFormatsOut = {
     {"text", Format::kTable}, {"ndjson", Format::kJson}, {"csv", Format::kCsv}};
-
-std::string one_byte(const std::string& given)
-{
-    const std::string delimiter = read_escapes(given);
-    constexpr std::string_view kTaken("\"\r\n\0", 4);
-    if (delimiter.size() == 1 && kTaken.find(delimiter) == std::string_view::npos) return {};
-    return "one byte is needed that is neither \" nor of a line end";
-}
-
-void add_reading(CLI::App& batch, Reading& reading)
-{
-    batch.add_option("--format", reading.format, "Of the files; by name or first bytes if not given")
-        ->transform(CLI::Transformer(kFormats).description(""))
-        ->type_name("words|ndjson|csv|tsv|json");
-    batch.add_option("--encoding", reading.encoding, "Of the values (utf-8)")
-        ->transform(CLI::Transformer(kEncodings).description(""))
-        ->type_name("utf-8|latin-1");
-    batch
-        .add_option_function<std::string>(
-            "--delimiter", [&](const std::string& given) { reading.delimiter = read_escapes(given).front(); },
-            "Between the fields of CSV (,)")
-        ->check(one_byte)
-        ->type_name("BYTE");
-    batch.add_option("--check", reading.check, "The column of the check, or one check for all")
-        ->type_name("COLUMN|NAME");
-    batch.add_option("--value", reading.values, "A column of its arguments; once for each")
-        ->type_name("COLUMN")
-        ->expected(1)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    batch.add_flag("--strict", reading.is_strict, "Refuse unknown and doubled members and columns");
-}
 
 CLI::App* add_batch(CLI::App& app, Options& options)
 {

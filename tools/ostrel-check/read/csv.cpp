@@ -81,7 +81,6 @@ Found CsvReader::read(std::string_view text, std::size_t /*part*/, Record& recor
 {
     record.clear();
     if (text.find_first_not_of("\r\n") == std::string_view::npos) return Found::kNothing;
-    record_ = &record;
     row_.split(text, delimiter_);
     const std::vector<std::string_view>& fields = row_.fields();
     if (fields.size() != names_.size()) {
@@ -95,22 +94,10 @@ Found CsvReader::read(std::string_view text, std::size_t /*part*/, Record& recor
     if (nul != std::string_view::npos) {
         throw std::invalid_argument("byte " + std::to_string(nul + 1) + " of the row is NUL");
     }
-    scratch_.clear();
-    scratch_.reserve(text.size());  // views into it must hold
-    for (const std::size_t i : values_) add_item(fields[i]);
+    items_.begin(text.size(), reading_->encoding);
+    for (const std::size_t i : values_) record.items.push_back(items_.of_text(fields[i]));
     record.may_have_spares = values_.size() > 1;
     return Found::kRecord;
-}
-
-void CsvReader::add_item(std::string_view field)
-{
-    if (reading_->encoding == Encoding::kUtf8 || is_ascii(field)) {
-        record_->items.push_back({Item::Kind::kText, field, 0});
-        return;
-    }
-    const std::size_t begin = scratch_.size();
-    encode(scratch_, field, reading_->encoding);
-    record_->items.push_back({Item::Kind::kText, std::string_view(scratch_).substr(begin), 0});
 }
 
 }  // namespace ostrel::tool

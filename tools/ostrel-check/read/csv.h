@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "read/csv_row.h"
+#include "read/items.h"
 #include "read/reader.h"
 
 namespace ostrel::tool {
@@ -30,7 +31,6 @@ class CsvReader : public Reader {
     std::size_t require_column(std::string_view name) const;
     void choose_values();
     void choose_passed();
-    void add_item(std::string_view field);
 
     const Reading* reading_;
     char delimiter_;
@@ -39,8 +39,7 @@ class CsvReader : public Reader {
     std::vector<std::size_t> values_;
     std::vector<std::size_t> passed_;
     CsvRow row_;
-    std::string scratch_;
-    Record* record_ = nullptr;
+    Items items_;
 };
 
 }  // namespace ostrel::tool

@@ -13,11 +13,6 @@ namespace {
 
 // Names are compared with each other.
 constexpr std::size_t kMostMembers = 1000;
-constexpr std::size_t kMostItems = 64;
-
-constexpr const char* kNotAName = "\"check\" must be the name of a check";
-constexpr const char* kNotAnArray = "\"args\" must be an array";
-constexpr const char* kNotBase64 = "an object that is an argument must be {\"base64\": text}";
 
 }  // namespace
 
@@ -40,9 +35,7 @@ void JsonObject::read(std::string_view text, Record& record)
     has_args_ = false;
     has_value_.assign(value_items_.size(), false);
     problem_.clear();
-    scratch_.clear();
-    // Views into it must hold. What is decoded and what is made compact are each at most as long as the text.
-    scratch_.reserve(2 * text.size());
+    items_.begin(text.size(), reading_->encoding);
 
     const rapidjson::ParseResult result = parser_.parse(text, *this);
     if (result.IsError() && result.Code() != rapidjson::kParseErrorTermination) {
@@ -72,72 +65,6 @@ void JsonObject::require_all()
 void JsonObject::complain(std::string problem)
 {
     if (problem_.empty()) problem_ = std::move(problem);
-}
-
-bool JsonObject::Bool(bool value)
-{
-    const std::string_view token = value ? "true" : "false";
-    return scalar(Item::Kind::kText, token, token);
-}
-
-bool JsonObject::RawNumber(const char* begin, rapidjson::SizeType size, bool /*copy*/)
-{
-    return scalar(Item::Kind::kText, {begin, size}, {begin, size});
-}
-
-bool JsonObject::String(const char* begin, rapidjson::SizeType size, bool /*copy*/)
-{
-    const std::string_view text(begin, size);
-    if (kinds_.has_backslashes && valid_utf8(text) < size) {
-        complain(describe(rapidjson::kParseErrorStringUnicodeSurrogateInvalid));
-    }
-    if (skipped_ > 0) return true;
-    if (place_ == Place::kCheck) {
-        record_->check = text;
-        place_ = Place::kMembers;
-        return true;
-    }
-    if (place_ == Place::kBase64) {
-        add_base64(text);
-        place_ = Place::kWrapping;
-        return true;
-    }
-    if (place_ != Place::kPassed) return scalar(Item::Kind::kText, text, {});
-    const std::size_t at = parser_.offset_of(begin) - 1;
-    pass(text_.substr(at, kinds_.has_backslashes ? end_of_string(text_, at) - at : size + 2));
-    return true;
-}
-
-bool JsonObject::scalar(Item::Kind kind, std::string_view text, std::string_view token)
-{
-    if (skipped_ > 0) return true;
-    switch (place_) {
-        case Place::kObject:
-            complain("a record is an object of JSON");
-            break;
-        case Place::kCheck:
-            complain(kNotAName);
-            place_ = Place::kMembers;
-            break;
-        case Place::kArgs:
-            complain(kNotAnArray);
-            place_ = Place::kMembers;
-            break;
-        case Place::kPassed:
-            pass(token);
-            break;
-        case Place::kBase64:
-        case Place::kOther:
-            complain(kNotBase64);
-            place_ = Place::kWrapping;
-            break;
-        default:
-            if (place_ == Place::kTexts && kind == Item::Kind::kNull)
-                complain("an array of texts cannot hold null");
-            add_item(kind, text);
-            finish_value();
-    }
-    return true;
 }
 
 bool JsonObject::Key(const char* begin, rapidjson::SizeType size, bool /*copy*/)
@@ -172,15 +99,15 @@ void JsonObject::enter_member(std::string_view name)
     if (value < static_cast<std::ptrdiff_t>(reading_->values.size())) {
         const auto index = static_cast<std::size_t>(value);
         bool has_it = has_value_[index];
-        items_ = &value_items_[index];
-        items_->clear();
+        argument_ = &value_items_[index];
+        argument_->clear();
         enter_once(Place::kValue, has_it, name);
         has_value_[index] = has_it;
         return;
     }
     if (name == "args" && value_items_.empty()) {
-        items_ = &record_->items;
-        items_->clear();
+        argument_ = &record_->items;
+        argument_->clear();
         enter_once(Place::kArgs, has_args_, name);
         return;
     }
@@ -207,155 +134,9 @@ void JsonObject::pass(std::string_view token)
         return;
     }
     if (kinds_.has_controls) {
-        const std::size_t begin = scratch_.size();
-        append_compact(scratch_, token);
-        token = std::string_view(scratch_).substr(begin);
+        token = items_.compact(token);
     }
     record_->members.push_back({name_, token, true});
-}
-
-bool JsonObject::start(bool is_object)
-{
-    if (++depth_ > kDeepest) {
-        complain("the JSON is nested too deeply");
-        return false;
-    }
-    if (skipped_ > 0) {
-        ++skipped_;
-        return true;
-    }
-    switch (place_) {
-        case Place::kObject:
-            if (is_object) {
-                place_ = Place::kMembers;
-                return true;
-            }
-            complain("a record is an object of JSON");
-            break;
-        case Place::kCheck:
-            complain(kNotAName);
-            break;
-        case Place::kArgs:
-            if (!is_object) {
-                place_ = Place::kItems;
-                return true;
-            }
-            complain(kNotAnArray);
-            break;
-        case Place::kPassed:
-            begin_ = parser_.offset() - 1;
-            break;
-        case Place::kBase64:
-        case Place::kOther:
-            complain(kNotBase64);
-            break;
-        default:
-            if (is_object) {
-                outside_wrapping_ = place_;
-                place_ = Place::kWrapping;
-                return true;
-            }
-            if (place_ != Place::kTexts) {
-                texts_ = items_->size();
-                add_item(Item::Kind::kTexts, {});
-                outside_texts_ = place_;
-                place_ = Place::kTexts;
-                return true;
-            }
-            complain("an array of texts cannot hold an array");
-    }
-    ++skipped_;
-    return true;
-}
-
-bool JsonObject::EndObject(rapidjson::SizeType /*members*/) { return end(); }
-
-bool JsonObject::EndArray(rapidjson::SizeType /*elements*/) { return end(); }
-
-bool JsonObject::end()
-{
-    --depth_;
-    if (skipped_ > 0) {
-        if (--skipped_ == 0) finish_skipping();
-        return true;
-    }
-    switch (place_) {
-        case Place::kItems:
-            place_ = Place::kMembers;
-            break;
-        case Place::kTexts:
-            if (texts_ < items_->size()) (*items_)[texts_].count = items_->size() - texts_ - 1;
-            place_ = outside_texts_;
-            finish_value();
-            break;
-        case Place::kWrapping:
-            place_ = outside_wrapping_;
-            finish_value();
-            break;
-        default:
-            place_ = Place::kEnd;
-    }
-    return true;
-}
-
-// finish_value goes on after a member that is an argument.
-void JsonObject::finish_value()
-{
-    if (place_ == Place::kValue) place_ = Place::kMembers;
-}
-
-void JsonObject::finish_skipping()
-{
-    switch (place_) {
-        case Place::kPassed:
-            pass(text_.substr(begin_, parser_.offset() - begin_));
-            break;
-        case Place::kCheck:
-        case Place::kArgs:
-        case Place::kValue:
-            place_ = Place::kMembers;
-            break;
-        case Place::kBase64:
-        case Place::kOther:
-            place_ = Place::kWrapping;
-            break;
-        default:
-            break;
-    }
-}
-
-void JsonObject::add_item(Item::Kind kind, std::string_view text)
-{
-    if (items_->size() == kMostItems) {
-        complain("no check takes that many arguments");
-        return;
-    }
-    if (reading_->encoding == Encoding::kUtf8 || is_ascii(text)) {
-        items_->push_back({kind, text, 0});
-        return;
-    }
-    const std::size_t begin = scratch_.size();
-    try {
-        encode(scratch_, text, reading_->encoding);
-    } catch (const std::invalid_argument& error) {
-        complain(error.what());
-    }
-    items_->push_back({kind, std::string_view(scratch_).substr(begin), 0});
-}
-
-void JsonObject::add_base64(std::string_view text)
-{
-    if (items_->size() == kMostItems) {
-        complain("no check takes that many arguments");
-        return;
-    }
-    const std::size_t begin = scratch_.size();
-    try {
-        decode_base64(scratch_, text);
-    } catch (const std::invalid_argument& error) {
-        complain(error.what());
-    }
-    items_->push_back({Item::Kind::kText, std::string_view(scratch_).substr(begin), 0});
 }
 
 }  // namespace ostrel::tool

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "read/items.h"
 #include "read/json_parser.h"
 #include "read/reading.h"
 #include "read/record.h"
@@ -38,6 +39,10 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     // NOLINTEND(bugprone-derived-method-shadowing-base-method)
 
  private:
+    static constexpr const char* kNotAName = "\"check\" must be the name of a check";
+    static constexpr const char* kNotAnArray = "\"args\" must be an array";
+    static constexpr const char* kNotBase64 = "an object that is an argument must be {\"base64\": text}";
+
     // Place is what is read next.
     enum class Place {
         kObject,   // the record itself
@@ -60,7 +65,6 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     void finish_value();
     void finish_skipping();
     void add_item(Item::Kind kind, std::string_view text);
-    void add_base64(std::string_view text);
     void pass(std::string_view token);
     void enter_member(std::string_view name);
     void enter_once(Place place, bool& has_it, std::string_view name);
@@ -70,7 +74,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     const Reading* reading_;
     bool has_one_check_;  // of all records
     JsonParser parser_;
-    std::string scratch_;  // what is neither in the text nor in the parser's copy of it
+    Items items_;
     std::vector<std::vector<Item>> value_items_;
 
     // Of the record that is being read.
@@ -80,7 +84,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     Place place_ = Place::kObject;
     Place outside_texts_ = Place::kItems;
     Place outside_wrapping_ = Place::kItems;
-    std::vector<Item>* items_ = nullptr;
+    std::vector<Item>* argument_ = nullptr;  // or all arguments
     std::size_t depth_ = 0;
     std::size_t skipped_ = 0;  // arrays and objects that are open and passed over
     std::size_t begin_ = 0;    // of a value that is passed through
