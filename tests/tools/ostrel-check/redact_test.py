@@ -136,13 +136,8 @@ class Redaction(unittest.TestCase):
                       for text in (f'"{marker}"', f'"x{marker}y"', f'"{escaped}"', number)
                       for check, more in (("TcmValidatePSK", ""), ("TcmValidatePSK", ", 1, 2"),
                                           ("TcmValidateKPP", ""), ("WLAN_check_radius_sec", ""))]
-        lines = [line for line in lines if '", 1, 2]' not in line or '"id": "' in line]
-        malformed = [line for line in lines if ", 1, 2]" in line]
         for options in FORMS:
-            self.assert_hidden([line for line in lines if line not in malformed], *options)
-        for line in malformed:
-            row = json.loads(self.batch([line], "--redact", "--json").splitlines()[0])
-            self.assertEqual({"file", "line", "id", "parameter", "verdict", "code", "check", "meaning"}, set(row))
+            self.assert_hidden(lines, *options)
 
     def test_other_members_stay(self):
         line = '{"id": 7, "parameter": "A.1.B", "site": "north", "check": "TcmValidatePSK", "args": ["hunter2hunter2"]}'
