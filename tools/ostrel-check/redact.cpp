@@ -171,6 +171,12 @@ void Redactor::redact(Result& result, Encoding encoding)
     secrets_.clear();
     if (result.verdict == Verdict::kMalformed) {
         result.problem = without_quotations(result.problem);
+        // Any of the values may be the secret.
+        if (result.record != nullptr) {
+            for (const Item& item : result.record->items) {
+                if (!item.text.empty()) secrets_.emplace_back(item.text);
+            }
+        }
         redact_members(result);
         return;
     }

@@ -21,7 +21,8 @@ DICE = random.Random(20261122)
 MARKERS = ["".join(DICE.choices(letters, k=24))
            for letters in ("ghjkmnpqrstuvwxyzGHJKMNPQRSTUVWXYZ", "0123456789", "0123456789abcdef", "ABCDEFGH01234567")]
 FORMS = [[], ["--json"], ["--stream"], ["--only-refused"], ["--stream", "--summary", "text"],
-         ["--summary-only"], ["--summary", "json"], ["--summary-only", "--summary", "json"], ["--json", "--jobs", "3"]]
+         ["--with-args"], ["--json", "--with-args"], ["--format-out", "csv", "--with-args"], ["--encoding", "latin-1"],
+         ["--json", "--with-args", "--encoding", "latin-1"], ["--summary-only"], ["--summary", "json"], ["--summary-only", "--summary", "json"], ["--json", "--jobs", "3"]]
 
 
 def text_of(value):
@@ -123,6 +124,25 @@ class Redaction(unittest.TestCase):
         for options in FORMS:
             shown = self.assert_hidden(lines, *options)
             self.assertIn("not shown", shown)
+
+    def test_members_that_are_passed_through(self):
+        """They may hold the value once more: as it is, in a text, with escapes, as a number, in a list."""
+        lines = []
+        for marker in MARKERS:
+            number = marker if marker.isdigit() and marker[0] != "0" else f'"{marker}"'
+            escaped = "".join(f"\\u{ord(c):04x}" for c in marker)
+            lines += [f'{{"id": {text}, "parameter": "A.{marker}", "value": {text}, "note": [{{"{marker}": {text}}}], '
+                      f'"check": "{check}", "args": ["{marker}"{more}]}}'
+                      for text in (f'"{marker}"', f'"x{marker}y"', f'"{escaped}"', number)
+                      for check, more in (("TcmValidatePSK", ""), ("TcmValidatePSK", ", 1, 2"),
+                                          ("TcmValidateKPP", ""), ("WLAN_check_radius_sec", ""))]
+        for options in FORMS:
+            self.assert_hidden(lines, *options)
+
+    def test_other_members_stay(self):
+        line = '{"id": 7, "parameter": "A.1.B", "site": "north", "check": "TcmValidatePSK", "args": ["hunter2hunter2"]}'
+        row = json.loads(self.batch([line], "--redact", "--json", "--with-args").splitlines()[0])
+        self.assertEqual([7, "A.1.B", "north", ["<14 bytes>"]], [row[name] for name in ("id", "parameter", "site", "args")])
 
     def test_ends_of_processes_hide_it_too(self):
         lines = [json.dumps({"check": "WLAN_check_preshared_key2", "args": args})
