@@ -36,7 +36,8 @@ void append_utf8(std::string& out, std::string_view bytes) { append_bytes(out, b
 
 Build& gateway()
 {
-    static Build build = {OSTREL_MODEL, OSTREL_ACCOUNT_REALM, OSTREL_SETUP_REALM, rules::atoi_here(), std::nullopt};
+    static Build build = {OSTREL_MODEL, OSTREL_ACCOUNT_REALM, OSTREL_SETUP_REALM, rules::atoi_here(),
+                          std::nullopt};
     return build;
 }
 
