@@ -57,7 +57,8 @@ class Servers(unittest.TestCase):
 
     def test_2_rows_are_refused_on_the_server_that_they_are_for(self):
         for site in range(3):
-            error = self.server.run("INSERT INTO setting VALUES (%d, '10.0.0.1', '65536');" % site, check=False).stderr.decode()
+            row = "INSERT INTO setting VALUES (%d, '10.0.0.1', '65536');" % site
+            error = self.server.run(row, check=False).stderr.decode()
             self.assertIn("ERROR:  23514: PARAM_check_port refuses the value with code 601", error)
             self.assertIn("DETAIL:  is 65536; at most 65535 is allowed", error)
 

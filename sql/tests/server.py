@@ -1,5 +1,5 @@
-"""Servers of PostgreSQL for tests: from a copy of its tree with the extension in it, in a temporary folder, as a user other
-than root, reached by a socket there. A server ends with the test, whatever ends that."""
+"""Servers of PostgreSQL for tests: from a copy of its tree with the extension in it, in a temporary folder, as a user
+other than root, reached by a socket there. A server ends with the test, whatever ends that."""
 
 import os
 import pathlib
