@@ -1,7 +1,6 @@
 #!/usr/bin/python3
 """Runs the commands of docs/sql.md as they stand there, in a folder like a clone that the extensions were built in."""
 
-import os
 import pathlib
 import re
 import subprocess
@@ -13,10 +12,11 @@ import shared
 
 sys.path.insert(0, str(shared.SOURCE / "tests/docs"))
 import documents  # noqa: E402  it is beside another test
+import server  # noqa: E402
 
 TEXT = (shared.SOURCE / "docs/sql.md").read_text(encoding="utf-8")
 # What installs and builds was done before this runs.
-LONG = re.compile(r"scripts/setup |cmake --preset sql ")
+LONG = re.compile(r"scripts/setup |cmake --preset ")
 
 
 def run(folder, command, **options):
@@ -25,7 +25,7 @@ def run(folder, command, **options):
 
 
 class Commands(unittest.TestCase):
-    def setUp(self):
+    def make_folder(self):
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         self.folder = pathlib.Path(scratch.name)
@@ -34,12 +34,19 @@ class Commands(unittest.TestCase):
                 (self.folder / entry.name).symlink_to(entry)
         (self.folder / "build").mkdir()
         (self.folder / "build/sql").symlink_to(shared.BUILD)
+        tree = server.Tree(shared.SOURCE, shared.BUILD, is_installed=False)
+        self.addCleanup(tree.remove)
+        started = server.Server(tree)
+        self.addCleanup(started.stop)
+        # What the page installs goes into the copy of the server's tree.
+        self.environment = {**started.environment(), "DESTDIR": str(tree.folder)}
         for language, _, lines in documents.blocks(TEXT):
             if language == "sql":
                 name = lines[0].removeprefix("-- ")
                 (self.folder / name).write_text("\n".join(lines[1:]) + "\n", encoding="utf-8")
 
     def test_commands(self):
+        self.make_folder()
         told = [block for block in documents.blocks(TEXT) if block[0] in documents.SHELL]
         commands = list(documents.in_blocks(TEXT))
         self.assertGreaterEqual(len(commands), len(told))
@@ -47,7 +54,7 @@ class Commands(unittest.TestCase):
             with self.subTest(line=command.number, command=command.text):
                 if LONG.match(command.text):
                     continue
-                result = run(self.folder, ["bash", "-c", command.text])
+                result = run(self.folder, ["bash", "-c", command.text], env=self.environment)
                 self.assertEqual(0, result.returncode, result.stdout)
                 self.assertEqual(command.output or "", result.stdout)
         for language, first, lines in documents.blocks(TEXT):
@@ -57,8 +64,8 @@ class Commands(unittest.TestCase):
 
     def test_paths(self):
         for _, span in documents.spans(TEXT):
-            if re.fullmatch(r"[\w.]+/[\w./]*", span):
-                self.assertTrue(os.path.exists(self.folder / span), span)
+            if re.fullmatch(r"(sql|docs|scripts)/[\w./]*", span):
+                self.assertTrue((shared.SOURCE / span).exists(), span)
 
 
 if __name__ == "__main__":

@@ -1,6 +1,12 @@
 #!/usr/bin/python3
 """Tests a table whose partitions lie on three servers: where the check runs, and what happens when a server stops."""
 
+import os
+import pathlib
+import signal
+import subprocess
+import sys
+import time
 import unittest
 
 import server
@@ -24,6 +30,14 @@ CREATE FOREIGN TABLE setting_{name} PARTITION OF setting FOR VALUES WITH (MODULU
 """
 COUNT = "SELECT ostrel.ostrel_code('TcmValidateIPAddress', host), count(*) FROM setting " \
         "WHERE ostrel.ostrel_code('TcmValidateIPAddress', host) <> 0 GROUP BY 1 ORDER BY 1;"
+
+STARTED = """import pathlib, sys, time, types
+import server
+folder = pathlib.Path(sys.argv[1])
+server.Server(types.SimpleNamespace(folder=folder, binaries=pathlib.Path(sys.argv[2])), "left")
+print("started", flush=True)
+time.sleep(600)
+"""
 
 
 class Servers(unittest.TestCase):
@@ -57,7 +71,8 @@ class Servers(unittest.TestCase):
 
     def test_2_rows_are_refused_on_the_server_that_they_are_for(self):
         for site in range(3):
-            error = self.server.run("INSERT INTO setting VALUES (%d, '10.0.0.1', '65536');" % site, check=False).stderr.decode()
+            row = "INSERT INTO setting VALUES (%d, '10.0.0.1', '65536');" % site
+            error = self.server.run(row, check=False).stderr.decode()
             self.assertIn("ERROR:  23514: PARAM_check_port refuses the value with code 601", error)
             self.assertIn("DETAIL:  is 65536; at most 65535 is allowed", error)
 
@@ -74,6 +89,20 @@ class Servers(unittest.TestCase):
         self.assertEqual("-1|%d\n" % parts[0], self.server.run(COUNT.replace("FROM setting", "FROM setting_north")))
         self.shards["east"].start()
         self.assertEqual(whole, self.server.run(COUNT))
+
+    def test_4_a_server_ends_with_what_has_started_it(self):
+        child = subprocess.Popen([sys.executable, "-B", "-c", STARTED, self.tree.folder, self.tree.binaries],
+                                 stdout=subprocess.PIPE, text=True, cwd=pathlib.Path(__file__).parent)
+        self.assertEqual("started\n", child.stdout.readline())
+        postmaster = int((self.tree.folder / "left/data/postmaster.pid").read_text().split()[0])
+        child.send_signal(signal.SIGKILL)
+        child.wait()
+        child.stdout.close()
+        for _ in range(600):
+            if not os.path.exists("/proc/%d" % postmaster):
+                return
+            time.sleep(0.1)
+        self.fail("the server goes on")
 
 
 if __name__ == "__main__":

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Compares the processor time of scans with a check with that of the same scan with length(), and of what else tells the
-same in PostgreSQL: a regular expression, a cast.
+"""Compares the processor time of scans with a check with that of the same scan with length(), and with that of what else
+tells the same in PostgreSQL: a regular expression, a cast.
 
 usage: postgresql_speed_test.py [ROWS]
 """
@@ -53,8 +53,8 @@ class Speed(unittest.TestCase):
         print("%d rows, seconds of processor time" % ROWS)
         for check, values, others in CASES:
             with self.subTest(check=check):
-                self.server.run("DROP TABLE IF EXISTS t; CREATE UNLOGGED TABLE t AS SELECT %s AS v "
-                                "FROM generate_series(1, %d::bigint) AS i; VACUUM (FREEZE, ANALYZE) t;" % (values, ROWS))
+                self.server.run("DROP TABLE IF EXISTS t; CREATE UNLOGGED TABLE t AS SELECT %s AS v FROM "
+                                "generate_series(1, %d::bigint) AS i; VACUUM (FREEZE, ANALYZE) t;" % (values, ROWS))
                 self.assertEqual("0\n", self.server.run("SELECT count(*) FROM t WHERE %s(v) <> 0" % check))
                 expressions = {"length()": "length(v)", "its own": "%s(v)" % check,
                                "by name": "ostrel_code('%s', v)" % check, **others}

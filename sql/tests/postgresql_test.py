@@ -53,8 +53,8 @@ def loaded(calls):
             "COPY calls FROM STDIN;\n%s\n\\.\n" % "\n".join(lines))
 
 
-ANSWERS = """SELECT json_build_array(ostrel_code(name, VARIADIC given), encode(ostrel_line(name, VARIADIC given), 'hex'),
-  ostrel_after(name, VARIADIC given), CASE WHEN is_verdict THEN ostrel_reason(name, VARIADIC given) END,
+ANSWERS = """SELECT json_build_array(
+  ostrel_code(name, VARIADIC given), encode(ostrel_line(name, VARIADIC given), 'hex'), ostrel_after(name, VARIADIC given), CASE WHEN is_verdict THEN ostrel_reason(name, VARIADIC given) END,
   CASE WHEN is_verdict THEN ostrel_valid(name, VARIADIC given) END) FROM %s;
 """
 
@@ -154,14 +154,14 @@ class Encodings(unittest.TestCase):
                 name = self.database(encoding)
                 reason = SERVER.run("SELECT ostrel_reason('TcmValidateRate', '\\xe9'::bytea);", name)
                 self.assertEqual("\\xE9", json.loads(reason)["found"])
-                line = SERVER.run("SELECT encode(ostrel_line('PARAM_check_bool_value', '\\xe9'::bytea), 'escape');", name)
-                self.assertIn("\\351", line)
+                line = SERVER.run("SELECT ostrel_line('PARAM_check_bool_value', '\\xe9'::bytea);", name)
+                self.assertIn("20e920", line)
 
 
 class Refusals(unittest.TestCase):
     def test_nothing_secret_in_the_log(self):
         done = SERVER.run("SET log_min_error_statement = panic; CREATE TABLE secrets(key ostrel.pass_phrase);"
-                          "PREPARE store(text) AS INSERT INTO secrets VALUES ($1); EXECUTE store('sesame');", check=False)
+                          "INSERT INTO secrets VALUES ('sesame');", check=False)
         error = done.stderr.decode()
         self.assertIn("23514", error)
         self.assertIn("DETAIL:  value has 6 bytes\n", error)
@@ -178,8 +178,8 @@ class Refusals(unittest.TestCase):
                 continue
             values = []
             for argument in check["arguments"]:
-                is_secret = argument.get("secret")
-                values += [secret if is_secret else "1" if shared.is_number(argument) else "WPA"] * argument.get("blocks", 1)
+                other = "1" if shared.is_number(argument) else "WPA"
+                values += [secret if argument.get("secret") else other] * argument.get("blocks", 1)
             done = SERVER.run("SELECT ostrel_require('%s', %s);" % (check["name"], ", ".join(map(literal, values))),
                               check=False)
             error = done.stderr.decode()
@@ -210,8 +210,8 @@ class Refusals(unittest.TestCase):
         for sql in ("ostrel_code('PARAM_check_port', NULL)", "ostrel_valid('isInSameSubnet', '1.2.3.4', NULL)",
                     "ostrel_reason('PARAM_check_port', NULL::text)", "ostrel_line('PARAM_check_port', NULL::bytea)",
                     "ostrel_after('WLAN_check_ssid', NULL)", "param_check_port(NULL)", "ostrel_code(NULL, 'x')",
-                    "ostrel_require('PARAM_check_port', NULL)", "ostrel_code('PARAM_check_port', VARIADIC NULL::text[])",
-                    "NULL::ostrel.ssid"):
+                    "ostrel_require('PARAM_check_port', NULL)", "NULL::ostrel.ssid",
+                    "ostrel_code('PARAM_check_port', VARIADIC NULL::text[])"):
             with self.subTest(sql):
                 self.assertEqual("t\n", SERVER.run("SELECT (%s) IS NULL;" % sql))
 

@@ -58,8 +58,8 @@ def plain(value):
 def held(check, row):
     """held lists what the arguments that can be written to may hold after the call: what the row says, or as before.
 
-    SQL does not give what is only written. There a row's "as before" is what the row gives, where that is written again,
-    or nothing."""
+    SQL does not give what is only written. There a row's "as before" is what the row gives, where that is written
+    again, or nothing."""
     if "after" in row:
         return [plain(row["after"])]
     written = [argument for argument in check["arguments"] if argument["kind"] in WRITTEN]

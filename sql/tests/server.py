@@ -1,5 +1,5 @@
-"""Servers of PostgreSQL for tests: from a copy of its tree with the extension in it, in a temporary folder, as a user other
-than root, reached by a socket there. A server ends with the test, whatever ends that."""
+"""Servers of PostgreSQL for tests: from a copy of its tree with the extension in it, in a temporary folder, as a user
+other than root, reached by a socket there. A server ends with the test, whatever ends that."""
 
 import os
 import pathlib
@@ -37,7 +37,7 @@ class Tree:
     """Tree is a copy of the server's tree, into which the extension is installed. Only what is looked for from where it
     lies is copied; the rest are links."""
 
-    def __init__(self, source, build):
+    def __init__(self, source, build, is_installed=True):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="ostrel-"))
         try:
             self.binaries = self.folder / LIBRARY.relative_to("/") / "bin"
@@ -51,12 +51,16 @@ class Tree:
                 for entry in folder.iterdir():
                     if entry.name != "extension":
                         (shared / folder.relative_to(SHARED) / entry.name).symlink_to(entry)
-            subprocess.run(["make", "-s", "-f", source / "sql/postgresql/Makefile", "install", "DESTDIR=%s" % self.folder,
-                            "OSTREL_BUILD=%s" % build], cwd=build / "postgresql", check=True)
+            if is_installed:
+                self.install(source, build)
             self.folder.chmod(0o755)
         except BaseException:
             self.remove()
             raise
+
+    def install(self, source, build):
+        subprocess.run(["make", "-s", "-f", source / "sql/postgresql/Makefile", "install", "DESTDIR=%s" % self.folder,
+                        "OSTREL_BUILD=%s" % build], cwd=build / "postgresql", check=True)
 
     def remove(self):
         shutil.rmtree(self.folder)

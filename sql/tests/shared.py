@@ -49,5 +49,6 @@ def hostile_calls(count, seed):
                 values.append(source.choice((low, 0, 1, 2, 12, 64, (1 << 31) - 1)))
                 continue
             for _ in range(argument.get("blocks", 1)):
-                values.append(hostile_value(source)[:argument.get("block_size", 0) - 1 if "blocks" in argument else None])
+                # A text of a block ends before the next one begins.
+                values.append(hostile_value(source)[:argument["block_size"] - 1 if "blocks" in argument else None])
         yield check["name"], values
