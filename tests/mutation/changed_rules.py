@@ -118,17 +118,15 @@ class Workshop:
         return {int(number) for number, answer in answers.items() if answer == "1"}
 
     def judged(self, file, text, some, jobs):
-        """judged gives each of these mutants of a file with what becomes of it and what noticed it."""
+        """judged gives each of these mutants of a file with what becomes of it: "broken", "killed" or "unknown"."""
         numbered = dict(enumerate(some, 1))
         program, broken, others = self.with_all(file, text, numbered)
-        yield from ((numbered[number], "broken", "") for number in broken)
+        yield from ((numbered[number], "broken") for number in broken)
         tried = [number for number in numbered if number not in broken and number not in others]
         with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
             parts = pool.map(lambda part: self.noticed(program, file, part), [tried[i::jobs] for i in range(jobs)])
             noticed = set().union(*parts)
-        for number in tried:
-            yield numbered[number], "killed" if number in noticed else self.alone(numbered[number], text), ""
-        yield from ((numbered[number], self.alone(numbered[number], text), "") for number in others)
+        yield from ((numbered[number], "killed" if number in noticed else "unknown") for number in [*tried, *others])
 
     def alone(self, mutant, text):
         """alone judges a mutant as it would be in a build: by each test and each row."""

@@ -103,11 +103,19 @@ TOGETHER = 250
 
 
 def try_all(waiting, texts, workshop, jobs):
+    """try_all gives each mutant with what becomes of it; those last that many together do not show to be noticed."""
+    unknown = []
     for file, mutants_of in itertools.groupby(waiting, lambda mutant: mutant.file):
         left = list(mutants_of)
         while left:
-            yield from workshop.judged(file, texts[file], left[:TOGETHER], jobs)
+            for mutant, status in workshop.judged(file, texts[file], left[:TOGETHER], jobs):
+                if status == "unknown":
+                    unknown.append(mutant)
+                else:
+                    yield mutant, status, ""
             del left[:TOGETHER]
+    for mutant in unknown:
+        yield mutant, workshop.alone(mutant, texts[mutant.file]), ""
 
 
 def main():
