@@ -88,9 +88,6 @@ def orders(found, text):
             yield found[first - 1].offset, found[last].end, ""
 
 
-MUTATORS = [operators, numbers, texts, words, phrases, orders]
-
-
 MUTATORS = (operators, numbers, texts, words, phrases, orders)
 
 
