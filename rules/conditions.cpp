@@ -162,7 +162,6 @@ bool Run::others_hold(const Condition& condition, Frame& frame, Reason* reason)
             if (tells()) tell(*reason, frame.item.place, "last_item", {}, {});
             return result;
         default:
-            if (tells()) tell(*reason, {}, "always", {}, {});
             return true;
     }
 }

@@ -88,9 +88,6 @@ def orders(found, text):
             yield found[first - 1].offset, found[last].end, ""
 
 
-MUTATORS = [operators, numbers, texts, words, phrases, orders]
-
-
 MUTATORS = (operators, numbers, texts, words, phrases, orders)
 
 
@@ -103,11 +100,19 @@ TOGETHER = 250
 
 
 def try_all(waiting, texts, workshop, jobs):
+    """try_all gives each mutant with what becomes of it; those last that many together do not show to be noticed."""
+    unknown = []
     for file, mutants_of in itertools.groupby(waiting, lambda mutant: mutant.file):
         left = list(mutants_of)
         while left:
-            yield from workshop.judged(file, texts[file], left[:TOGETHER], jobs)
+            for mutant, status in workshop.judged(file, texts[file], left[:TOGETHER], jobs):
+                if status == "unknown":
+                    unknown.append(mutant)
+                else:
+                    yield mutant, status, ""
             del left[:TOGETHER]
+    for mutant in unknown:
+        yield mutant, workshop.alone(mutant, texts[mutant.file]), ""
 
 
 def main():

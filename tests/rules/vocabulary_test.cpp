@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <limits>
 #include <stdexcept>
+#include <string_view>
+#include <vector>
 
 #include "rules/build.h"
 #include "rules/evaluate.h"
@@ -43,6 +45,9 @@ TEST(BuildTest, NumbersAmongOtherBytes)
     EXPECT_EQ(0, read_number("", Build::Atoi::kLong64).value);
     EXPECT_EQ(0, read_number("x1", Build::Atoi::kLong64).value);
     EXPECT_EQ(0, read_number("- 1", Build::Atoi::kLong64).value);
+    // What comes after a piece of a text is not looked at.
+    EXPECT_EQ(1, read_number(std::string_view("  1").substr(0, 1), Build::Atoi::kLong64).begin);
+    EXPECT_EQ(0, read_number(std::string_view("-1").substr(0, 0), Build::Atoi::kLong64).value);
 }
 
 TEST(SetTest, InWords)

@@ -7,43 +7,17 @@
 #include <cctype>
 #include <cstdint>
 #include <cstring>
-#include <map>
 #include <string>
 
 #include "catalogue/caller.h"
 #include "catalogue/capture.h"
+#include "tests/support/reference_names.h"
 
 namespace ostrel::tests {
 
 namespace {
 
 using catalogue::Edge;
-
-const std::map<std::string, int>& names()
-{
-    // clang-format off
-    static const std::map<std::string, int> result = {
-        {"AElig", 198}, {"Aacute", 193}, {"Acirc", 194}, {"Agrave", 192}, {"Aring", 197}, {"Atilde", 195},
-        {"Auml", 196}, {"Ccedil", 199}, {"ETH", 208}, {"Eacute", 201}, {"Ecirc", 202}, {"Egrave", 200},
-        {"Euml", 203}, {"Iacute", 205}, {"Icirc", 206}, {"Igrave", 204}, {"Iuml", 207}, {"Ntilde", 209},
-        {"Oacute", 211}, {"Ocirc", 212}, {"Ograve", 210}, {"Oslash", 216}, {"Otilde", 213}, {"Ouml", 214},
-        {"THORN", 222}, {"Uacute", 218}, {"Ucirc", 219}, {"Ugrave", 217}, {"Uuml", 220}, {"Yacute", 221},
-        {"aacute", 225}, {"acirc", 226}, {"acute", 180}, {"aelig", 230}, {"agrave", 224}, {"amp", 38},
-        {"apos", 39}, {"aring", 229}, {"atilde", 227}, {"auml", 228}, {"brvbar", 166}, {"ccedil", 231},
-        {"cedil", 184}, {"cent", 162}, {"copy", 169}, {"curren", 164}, {"deg", 176}, {"divide", 247},
-        {"eacute", 233}, {"ecirc", 234}, {"egrave", 232}, {"eth", 240}, {"euml", 235}, {"frac12", 189},
-        {"frac14", 188}, {"frac34", 190}, {"gt", 62}, {"iacute", 237}, {"icirc", 238}, {"iexcl", 161},
-        {"igrave", 236}, {"iquest", 191}, {"iuml", 239}, {"laquo", 171}, {"lt", 60}, {"macr", 175},
-        {"micro", 181}, {"middot", 183}, {"nbsp", 160}, {"not", 172}, {"ntilde", 241}, {"oacute", 243},
-        {"ocirc", 244}, {"ograve", 242}, {"ordf", 170}, {"ordm", 186}, {"oslash", 248}, {"otilde", 245},
-        {"ouml", 246}, {"para", 182}, {"plusmn", 177}, {"pound", 163}, {"quot", 34}, {"raquo", 187},
-        {"reg", 174}, {"sect", 167}, {"shy", 173}, {"sup1", 185}, {"sup2", 178}, {"sup3", 179}, {"szlig", 223},
-        {"thorn", 254}, {"times", 215}, {"uacute", 250}, {"ucirc", 251}, {"ugrave", 249}, {"uml", 168},
-        {"uuml", 252}, {"yacute", 253}, {"yen", 165}, {"yuml", 255},
-    };
-    // clang-format on
-    return result;
-}
 
 constexpr int kSubstitute = 0x1A;
 
@@ -64,7 +38,8 @@ int number_of(const std::string& digits, int base)
 // byte_of gives what stands for a reference's text between "&" and ";". -1: none.
 int byte_of(const std::string& reference)
 {
-    if (const auto found = names().find(reference); found != names().end()) return found->second;
+    if (const auto found = reference_names().find(reference); found != reference_names().end())
+        return found->second;
     if (reference.starts_with("#x") || reference.starts_with("#X")) return number_of(reference.substr(2), 16);
     if (reference.starts_with("#")) return number_of(reference.substr(1), 10);
     return -1;
@@ -108,8 +83,8 @@ class CharacterReferences : public testing::TestWithParam<Edge> {
 
 TEST_P(CharacterReferences, EveryName)
 {
-    ASSERT_EQ(101U, names().size());
-    for (const auto& [name, byte] : names()) {
+    ASSERT_EQ(101U, reference_names().size());
+    for (const auto& [name, byte] : reference_names()) {
         const std::string character(1, static_cast<char>(byte));
         EXPECT_EQ(character, convert("&" + name + ";")) << name;
         EXPECT_EQ("a" + character + "b", convert("a&" + name + ";b")) << name;
@@ -128,7 +103,7 @@ TEST_P(CharacterReferences, EveryName)
 // The names are case-sensitive, so each byte of each is replaced by each other.
 TEST_P(CharacterReferences, NearMissesOfNames)
 {
-    for (const auto& [name, byte] : names()) {
+    for (const auto& [name, byte] : reference_names()) {
         for (std::size_t i = 0; i < name.size(); ++i) {
             for (int other = 1; other < 256; ++other) {
                 std::string text = "&" + name + ";";
