@@ -123,7 +123,8 @@ void Slot::conclude(Verdict verdict, std::string problem)
     explain(result);
     Redactor redactor;
     if (rules_->style.redacts) redactor.redact(result, rules_->style.encoding);
-    append_result(conclusion_, rules_->style, {rules_->files[arena_->file], progress.line}, result);
+    append_result(conclusion_, rules_->style,
+                  {rules_->files[arena_->file], progress.line + cases_.record().line}, result);
     const std::uint64_t line = progress.line;
     progress.advance(text, !text.empty() && cases_.has_more());
     ++progress.cases;
