@@ -9,6 +9,7 @@
 #include <system_error>
 #include <vector>
 
+#include "map/unmapped.h"
 #include "progress.h"
 #include "show.h"
 #include "stop_signals.h"
@@ -181,6 +182,10 @@ class Batch {
     int finish()
     {
         meter_.clear();
+        const Unmapped* unmapped = rules_->reading.unmapped;
+        if (unmapped != nullptr && rules_->style.format == Format::kJson)
+            write_all(STDOUT_FILENO, unmapped->json());
+        if (unmapped != nullptr && rules_->style.format != Format::kJson) say(unmapped->text());
         return sum_up() ? exit_code() : kExitUsage;
     }
 

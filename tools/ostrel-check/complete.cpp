@@ -29,16 +29,17 @@ Words options_of(std::string_view command)
                 "--encoding",   "--delimiter", "--check",        "--value",        "--strict",
                 "--with-args",  "--jobs",      "--limit-time",   "--channels",     "--try",
                 "--summary",    "--redact",    "--summary-only", "--summary-file", "--exit-zero",
-                "--start-line", "--help"};
+                "--start-line", "--map",       "--group",        "--parameter",    "--help"};
     }
     if (command == "summarise") return {"--summary", "--help"};
+    if (command == "compare") return {"--json", "--markdown", "--help"};
     return {"--help"};
 }
 
 // after_option returns the values that an option takes, or else the options.
 Words after_option(std::string_view option, std::string_view command)
 {
-    if (option == "--schema") return {"catalogue", "result", "summary"};
+    if (option == "--schema") return {"catalogue", "result", "summary", "map"};
     if (option == "--summary") return {"text", "json"};
     if (option == "--format") return {"words", "ndjson", "csv", "tsv", "json"};
     if (option == "--format-out") return {"text", "ndjson", "csv"};
@@ -71,13 +72,14 @@ Words candidates_for(std::span<const std::string> words)
         if (words[first].starts_with('-')) {
             return {"--escapes", "--limit-time", "--channels", "--try", "--version", "--help"};
         }
-        Words candidates = {"explain", "list", "batch", "summarise"};
+        Words candidates = {"explain", "list", "batch", "summarise", "compare"};
         add_names(candidates);
         return candidates;
     }
     const std::string& command = words[first];
-    if (command == "list" || command == "batch" || command == "summarise")
-        return after_option(words[words.size() - 2], command);
+    const bool has_options =
+        command == "list" || command == "batch" || command == "summarise" || command == "compare";
+    if (has_options) return after_option(words[words.size() - 2], command);
     if (command == "explain") {
         Words candidates;
         if (first + 2 == words.size()) add_names(candidates);

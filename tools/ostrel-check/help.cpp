@@ -57,6 +57,15 @@ csv, tsv: a header, then a row for each case, with the columns "check" and
 "value" (or "value_1", "value_2", ...), or those of --check and --value. Results
 repeat all other columns.
 
+With --map, files are dumps of gateways in csv, tsv, ndjson or json: rows of a
+path ("parameter", "path", "name" or --parameter) and a "value", or nested JSON,
+in which an object on its own, an element of an array, or a line is a gateway.
+The map says which check judges which parameter. Rows of several gateways need
+--group, the column that tells them apart, and the rows of a gateway must be
+together: of one whose rows are in several places, each place is judged by
+itself. What the check needs of other parameters comes from the same gateway;
+results that do come at its end. Parameters without a check are counted.
+
 A line ends in a line feed, or in a carriage return and a line feed. A line, a
 row or an element is at most 16 MiB long.
 
@@ -80,6 +89,7 @@ Examples:
   ostrel-check batch settings.txt
   ostrel-check batch --only-refused settings.txt
   some-program | ostrel-check batch --json --jobs 4
+  ostrel-check batch --map examples/maps/tr-098.json --group serial fleet.csv
   ostrel-check batch --check PARAM_check_port --value Port --json ports.csv
   ostrel-check batch --summary-only --redact settings.txt
   ostrel-check batch --stream --start-line 120001 cases >>results
@@ -113,7 +123,7 @@ std::string_view list_help()
     return R"(With --json the whole catalogue: arguments, rules, codes, steps with what is
 printed, what an accepted value may contain, and the constraints of each
 argument for programs and forms. --schema prints the JSON Schema of that, and
---schema result that of a line of batch --json.
+--schema result that of a line of batch --json, --schema map that of maps.
 --json-schema prints a schema for values: a definition for each check of a
 single text, marked x-ostrel-exact where a validator accepts the same values as
 the check.
@@ -137,6 +147,18 @@ of one, or for what a step keeps under that name.
 Examples:
   ostrel-check explain PARAM_check_port
   ostrel-check explain WLAN_check_wepkeys | less)";
+}
+
+std::string_view compare_help()
+{
+    return R"(Puts what a data model allows for each parameter of a map beside what the check
+accepts, and says: same, narrower, wider or other, with a value for each
+difference that the library has judged. The map names a file of facts, which has
+the types and limits of the model.
+
+Examples:
+  ostrel-check compare examples/maps/tr-098.json
+  ostrel-check compare --json examples/maps/tr-181.json)";
 }
 
 std::string_view complete_help()

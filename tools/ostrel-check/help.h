@@ -12,6 +12,7 @@ std::string_view batch_help();
 std::string_view summarise_help();
 std::string_view list_help();
 std::string_view explain_help();
+std::string_view compare_help();
 std::string_view complete_help();
 
 // advice_for says what to do about a problem with a check's name or its values.

@@ -20,6 +20,9 @@
 #include "ending_options.h"
 #include "explain.h"
 #include "help.h"
+#include "map/map.h"
+#include "map/report.h"
+#include "map/unmapped.h"
 #include "process.h"
 #include "reading_options.h"
 #include "schemas.h"
@@ -43,7 +46,8 @@ class Formatter : public CLI::Formatter {
                "       ostrel-check explain NAME\n"
                "       ostrel-check list [OPTIONS]\n"
                "       ostrel-check batch [OPTIONS] [FILE...]\n"
-               "       ostrel-check summarise [OPTIONS] FILE...\n\n";
+               "       ostrel-check summarise [OPTIONS] FILE...\n"
+               "       ostrel-check compare [OPTIONS] MAP\n\n";
     }
 };
 
@@ -80,11 +84,13 @@ int judge_words(std::vector<std::string> words, bool with_escapes, const Manner&
 // Options are what can be given.
 struct Options {
     Manner manner;
+    std::string map;
     bool with_escapes = false;
     std::optional<std::string> channels;
     std::string name;
     bool json = false;
     std::optional<std::string> schema;
+    bool markdown = false;
     bool json_schema = false;
     bool reference = false;
     bool hazards = false;
@@ -109,10 +115,10 @@ CLI::App* add_list(CLI::App& app, Options& options)
         add_command(app, "list", "Show every check with its arguments and its rule", list_help());
     CLI::Option_group* forms = list->add_option_group("Forms");
     forms->add_flag("--json", options.json, "The catalogue in JSON");
-    forms->add_option("--schema", options.schema, "Its JSON Schema, or a result's, or a summary's")
+    forms->add_option("--schema", options.schema, "Its JSON Schema, or that of results, summaries or maps")
         ->expected(0, 1)
         ->default_str("catalogue")
-        ->check(CLI::IsMember({"catalogue", "result", "summary"}))
+        ->check(CLI::IsMember({"catalogue", "result", "summary", "map"}))
         ->type_name("OF");
     forms->add_flag("--json-schema", options.json_schema, "A JSON Schema for what the checks accept");
     forms->add_flag("--reference", options.reference, "The reference in Markdown");
@@ -144,6 +150,10 @@ CLI::App* add_batch(CLI::App& app, Options& options)
         ->excludes(stream);
     add_call_options(*batch, options.manner, options.channels);
     add_ending_options(*batch, options.ending, options.rules);
+    batch->add_option("--map", options.map, "Judge dumps of gateways, as a map of their parameters says")
+        ->excludes(batch->get_option("--check"))
+        ->excludes(batch->get_option("--start-line"))
+        ->type_name("FILE");
     batch->add_option("--jobs", options.jobs, "Processes that judge side by side (1)")
         ->check(CLI::Range(1, 64))
         ->type_name("N");
@@ -162,11 +172,44 @@ int run_batch_of(Options& options)
     rules.style.encoding = rules.reading.encoding;
     rules.style.driver_problem = options.manner.driver_problem;
     rules.limit = options.manner.limit;
-    return run_batch(rules, closing_of(options.ending, rules.style), options.jobs);
+    const Closing closing = closing_of(options.ending, rules.style);
+    if (options.map.empty()) return run_batch(rules, closing, options.jobs);
+    std::optional<Map> map;
+    try {
+        map = load_map(options.map);
+    } catch (const std::invalid_argument& error) {
+        return complain(error.what(), "ostrel-check list --schema map prints the schema of maps.\n");
+    }
+    Unmapped unmapped(*map);
+    rules.reading.map = &*map;
+    rules.reading.unmapped = &unmapped;
+    return run_batch(rules, closing, options.jobs);
+}
+
+CLI::App* add_compare(CLI::App& app, Options& options)
+{
+    CLI::App* compare = add_command(app, "compare", "Put a data model beside the checks", compare_help());
+    compare->add_option("MAP", options.name, "The map of its parameters")->required()->type_name("");
+    CLI::Option* json = compare->add_flag("--json", options.json, "The comparison in JSON");
+    compare->add_flag("--markdown", options.markdown, "A page in Markdown")->excludes(json);
+    return compare;
+}
+
+int show_comparison(const Options& options)
+{
+    ReportFormat format = options.json ? ReportFormat::kJson : ReportFormat::kText;
+    if (options.markdown) format = ReportFormat::kMarkdown;
+    try {
+        write_all(STDOUT_FILENO, report_of(options.name, format));
+    } catch (const std::invalid_argument& error) {
+        return complain(error.what(), "ostrel-check list --schema map prints the schema of maps.\n");
+    }
+    return kExitAccepted;
 }
 
 std::string_view schema_of(std::string_view what)
 {
+    if (what == "map") return map_schema();
     if (what == "result") return result_schema();
     return what == "summary" ? summary_schema() : catalogue::schema();
 }
@@ -224,6 +267,7 @@ int run(int argc, char** argv)
     CLI::App* batch = add_batch(app, options);
     CLI::App* summarised = add_command(app, "summarise", "Add up the summaries of batches", summarise_help());
     add_summarise_options(*summarised, options.ending);
+    CLI::App* compared = add_compare(app, options);
     CLI::App* completed = add_command(app, "complete", "Complete a word, for a shell", complete_help());
     completed->add_option("WORD", options.words, "The words behind the program's name")->type_name("");
 
@@ -236,6 +280,7 @@ int run(int argc, char** argv)
     }
     if (*list) return show_list(options);
     if (*explained) return show_explanation(options.name);
+    if (*compared) return show_comparison(options);
     if (*completed) return show_candidates(options.words);
     if (*summarised) return summarise(options.ending.files, options.ending.summary == "json");
     std::optional<StandIn> driver;

@@ -124,8 +124,38 @@ void explain_by_driver(Result& result, const Heard& heard)
     gateway().channels.reset();
 }
 
+void explain_lack(Result& result, const Record& record)
+{
+    result.why = Why();
+    if (record.problem_id.empty()) return;
+    result.why.reason.id = record.problem_id;
+    result.why.reason.name = record.problem_argument;
+    result.why.reason.argument = 0;
+    result.why.text = record.problem;
+}
+
+// write_lack says why there was no call, although nothing is wrong with the record.
+void write_lack(JsonWriter& json, const Record& record)
+{
+    const auto write = [&](std::string_view name, std::string_view text) {
+        json.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()));
+        write_text(json, text);
+    };
+    json.Key("reason");
+    json.StartObject();
+    write("id", record.problem_id);
+    write("argument", record.problem_argument);
+    write("parameter", record.problem_path);
+    write("text", record.problem);
+    json.EndObject();
+}
+
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding)
 {
+    if (result.record != nullptr && !result.record->problem_id.empty()) {
+        write_lack(json, *result.record);
+        return;
+    }
     const Why& why = result.why;
     if (why.text.empty()) return;
     const rules::Check& check = *result.function->check;

@@ -35,6 +35,9 @@ void explain_by_driver(Result& result, const Heard& heard);
 // write_reasons adds the members "reason" and "remarks" to an object.
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding);
 
+// explain_lack sets the reason of a record for which no call could be made, although nothing is wrong with it.
+void explain_lack(Result& result, const Record& record);
+
 }  // namespace ostrel::tool
 
 #endif

@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstring>
 
 #include "driver.h"
 #include "reason.h"
@@ -44,8 +43,7 @@ void Slot::give(const Chunk& chunk)
     arena_->format = chunk.format;
     arena_->preamble_size = chunk.preamble.size();
     arena_->input_size = chunk.preamble.size() + chunk.text.size();
-    std::memcpy(arena_->input.data(), chunk.preamble.data(), chunk.preamble.size());
-    std::memcpy(arena_->input.data() + chunk.preamble.size(), chunk.text.data(), chunk.text.size());
+    std::ranges::copy(chunk.text, std::ranges::copy(chunk.preamble, arena_->input.data()).out);
     Progress progress;
     progress.read = chunk.preamble.size();
     progress.line = chunk.line;
@@ -123,7 +121,8 @@ void Slot::conclude(Verdict verdict, std::string problem)
     explain(result);
     Redactor redactor;
     if (rules_->style.redacts) redactor.redact(result, rules_->style.encoding);
-    append_result(conclusion_, rules_->style, {rules_->files[arena_->file], progress.line}, result);
+    append_result(conclusion_, rules_->style,
+                  {rules_->files[arena_->file], progress.line + cases_.record().line}, result);
     const std::uint64_t line = progress.line;
     progress.advance(text, !text.empty() && cases_.has_more());
     ++progress.cases;

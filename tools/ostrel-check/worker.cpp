@@ -24,6 +24,7 @@ class Judge {
           files_(&files),
           capture_(arena.prints),
           cases_(reading),
+          has_map_(reading.map != nullptr),
           log_(arena.log)
     {
     }
@@ -62,7 +63,7 @@ class Judge {
         has_case_ = true;
         try {
             if (!cases_.read(text, progress.part)) {
-                write_nothing(progress);
+                if (!has_map_) write_nothing(progress);
                 return false;
             }
             caller_.load(*cases_.function(), cases_.values());
@@ -128,6 +129,7 @@ class Judge {
         result_.values = &cases_.values();
         result_.problem = problem;
         result_.printed = {};
+        explain_lack(result_, cases_.record());
         write(progress);
     }
 
@@ -143,7 +145,8 @@ class Judge {
         text_.clear();
         result_.record = &cases_.record();
         if (style_.redacts) redactor_.redact(result_, style_.encoding);
-        append_result(text_, style_, {(*files_)[arena_->file], line_number_}, result_);
+        append_result(text_, style_, {(*files_)[arena_->file], progress.line + cases_.record().line},
+                      result_);
         if (text_.size() > kOutput - kEnoughOutput) {
             refuse_record("the result is too long to be written", progress);
             return;
@@ -173,6 +176,7 @@ class Judge {
     catalogue::Capture capture_;
     catalogue::Caller caller_;
     Cases cases_;
+    bool has_map_;
     std::uint64_t line_number_ = 0;
     Result result_;
     LogWriter log_;

@@ -26,6 +26,10 @@ bool Cases::read(std::string_view text, std::size_t part)
         throw;
     }
     if (found_ == Found::kNothing) return false;
+    if (!record_.problem.empty()) {
+        function_ = catalogue::find(record_.check);
+        throw std::invalid_argument(std::string(record_.problem));
+    }
     function_ = &bind_check(record_);
     bind(*function_, without_spares(*function_, record_), values_);
     return true;

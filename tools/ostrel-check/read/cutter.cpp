@@ -3,6 +3,7 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "map/map_cutter.h"
 #include "read/csv.h"
 #include "read/csv_row.h"
 #include "read/json_file.h"
@@ -84,6 +85,7 @@ class CsvCutter : public LineCutter {
 
 std::unique_ptr<Cutter> make_cutter(FileFormat format, const Reading& reading)
 {
+    if (reading.map != nullptr) return std::make_unique<MapCutter>(format, reading);
     switch (format) {
         case FileFormat::kCsv:
         case FileFormat::kTsv:

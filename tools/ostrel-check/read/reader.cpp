@@ -1,5 +1,6 @@
 #include "read/reader.h"
 
+#include "map/map_reader.h"
 #include "read/csv.h"
 #include "read/json_file.h"
 #include "read/lines.h"
@@ -8,6 +9,7 @@ namespace ostrel::tool {
 
 std::unique_ptr<Reader> make_reader(FileFormat format, const Reading& reading, std::string_view preamble)
 {
+    if (reading.map != nullptr) return std::make_unique<MapReader>(*reading.map, format, reading, preamble);
     switch (format) {
         case FileFormat::kCsv:
         case FileFormat::kTsv:

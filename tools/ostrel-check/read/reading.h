@@ -10,6 +10,9 @@
 
 namespace ostrel::tool {
 
+struct Map;
+class Unmapped;
+
 enum class FileFormat {
     kWords,   // a line is words, or an object of JSON
     kNdjson,  // a line is an object of JSON
@@ -26,6 +29,10 @@ struct Reading {
     std::vector<std::string> values;  // the columns or members that are the arguments, in their order
     bool is_strict = false;           // unknown and doubled members are malformed
     bool needs_check = true;          // a record without a check is malformed
+    const Map* map = nullptr;         // the files are dumps of gateways, and it says what judges them
+    Unmapped* unmapped = nullptr;     // counts what the map does not know
+    std::string parameter;            // of rows of a dump: the column that has the path; empty: a usual name
+    std::string group;                // and the one that tells the gateways apart; empty: a file is a gateway
 };
 
 }  // namespace ostrel::tool

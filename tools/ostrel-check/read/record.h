@@ -33,12 +33,16 @@ struct Member {
 // Record is filled again and again. Its views belong to the reader and to the text that was read, and hold until
 // the next record is read.
 struct Record {
-    std::uint64_t line = 0;  // of the file, on which the record begins
+    std::uint64_t line = 0;  // where the record begins, counted from the begin of its text
     std::string_view check;  // its name; empty where the record has none
     std::string_view path;   // where the value is in nested JSON, its names separated by "."; otherwise empty
     std::vector<Item> items;
     std::vector<Member>
         members;  // "id" and "parameter" among them, in the order of the record, no name twice
+    std::string_view problem;           // not empty: why there is no call
+    std::string_view problem_id;        // and in a word, where the record itself is not at fault
+    std::string_view problem_argument;  // the argument that cannot be had
+    std::string_view problem_path;      // and the parameter that it would come from
     bool may_have_spares = false;  // items that the check does not take and that are empty mean nothing
 
     void clear()
@@ -47,6 +51,7 @@ struct Record {
         path = {};
         items.clear();
         members.clear();
+        problem = problem_id = problem_argument = problem_path = {};
         may_have_spares = false;
     }
 

@@ -1,0 +1,225 @@
+#!/usr/bin/python3
+"""mapped_test.py OSTREL_CHECK SOURCE_DIR: dumps of gateways judged by a map."""
+
+import csv
+import io
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).parent))
+import gateways  # noqa: E402
+
+program, source = sys.argv[1:3]
+tr_098 = pathlib.Path(source) / "examples/maps/tr-098.json"
+COUNT = 100
+
+
+def batch(text, *options, map_file=tr_098, code=None):
+    """batch judges a dump; it returns the results, what was counted, and the summary."""
+    run = subprocess.run([program, "batch", "--json", "--map", map_file, *options], input=text, capture_output=True,
+                         text=True)
+    assert code is None or run.returncode == code, run.stderr
+    lines = [json.loads(line) for line in run.stdout.splitlines()]
+    results = [line for line in lines if "verdict" in line]
+    counted = next((line["map"] for line in lines if "map" in line), None)
+    return results, counted, run.stderr
+
+
+def as_csv(fleet, delimiter=","):
+    out = io.StringIO()
+    writer = csv.writer(out, delimiter=delimiter, lineterminator="\n")
+    writer.writerow(["gateway", "parameter", "value"])
+    for name, parameters, _ in fleet:
+        writer.writerows([name, path, value] for path, value in parameters.items())
+    return out.getvalue()
+
+
+def as_rows(fleet):
+    return "".join(
+        json.dumps({"gateway": name, "parameter": path, "value": value}) + "\n"
+        for name, parameters, _ in fleet for path, value in parameters.items())
+
+
+def as_trees(fleet):
+    return [{"gateway": name, **gateways.nested(parameters)} for name, parameters, _ in fleet]
+
+
+def place_of(result):
+    """place_of returns the gateway, the parameter at fault, the check, its argument and the reason's id."""
+    reason = result["reason"]
+    path = reason.get("parameter") or result.get("siblings", {}).get(reason["argument"], result["parameter"])
+    if isinstance(path, list):
+        path = path[reason["item"]]
+    return result["gateway"], path, result["check"], reason["argument"], reason["id"]
+
+
+def essence(results):
+    """essence is what no form of a dump may change."""
+    return sorted((one["gateway"], one["parameter"], one["check"], one["verdict"], one["code"] or 0,
+                   json.dumps(one.get("reason"), sort_keys=True)) for one in results)
+
+
+class Fleet(unittest.TestCase):
+    def setUp(self):
+        self.fleet = list(gateways.gateways(COUNT))
+
+    def test_planted_faults(self):
+        results, counted, _ = batch(as_csv(self.fleet), "--format", "csv", "--group", "gateway")
+        planted = {(name, *fault) for name, _, faults in self.fleet for fault in faults}
+        found = [place_of(one) for one in results if one["verdict"] != "accepted"]
+        self.assertEqual(len(found), len(set(found)), "a fault is told twice")
+        self.assertEqual(set(found), planted)
+        self.assertGreater(len(planted), COUNT * 0.8)
+        self.assertEqual({place[2:] for place in planted}, {tuple(fault[2:]) for fault in gateways.FAULTS})
+        entries = json.loads(tr_098.read_text())["parameters"]
+        self.assertEqual({one["check"] for one in results}, {one["check"] for one in entries})
+        self.assertEqual(counted["gateways"], COUNT)
+        unmapped = {one["path"]: one["count"] for one in counted["unmapped"]["paths"]}
+        self.assertEqual(unmapped["InternetGatewayDevice.DeviceInfo.SerialNumber"], COUNT)
+        self.assertEqual(sum(unmapped.values()), counted["unmapped"]["parameters"])
+        self.assertTrue(all(one["line"] > 1 for one in results))
+
+    def test_every_form_has_the_same_results(self):
+        fleet = self.fleet[:30]
+        rows = ("--group", "gateway")
+        expected = essence(batch(as_csv(fleet), "--format", "csv", *rows)[0])
+        forms = [
+            (as_csv(fleet, "\t"), ("--format", "tsv", *rows)),
+            (as_csv(fleet), ("--format", "csv", *rows, "--jobs", "4")),
+            (as_rows(fleet), ("--format", "ndjson", *rows)),
+            (json.dumps([json.loads(line) for line in as_rows(fleet).splitlines()], indent=1),
+             ("--format", "json", *rows)),
+            (json.dumps(as_trees(fleet)), ("--format", "json")),
+            (json.dumps(as_trees(fleet), indent=2), ("--format", "json", "--jobs", "3")),
+            ("".join(json.dumps(one) + "\n" for one in as_trees(fleet)), ("--format", "ndjson")),
+            ("".join(json.dumps({"gateway": name, **parameters}) + "\n" for name, parameters, _ in fleet),
+             ("--format", "ndjson")),
+        ]
+        for text, options in forms:
+            with self.subTest(options=options):
+                self.assertEqual(essence(batch(text, *options)[0]), expected)
+
+    def test_order_and_jobs(self):
+        text = as_csv(list(gateways.gateways(400)))
+        options = ("--format", "csv", "--group", "gateway")
+        self.assertEqual(batch(text, *options)[0], batch(text, *options, "--jobs", "4")[0])
+
+
+class Rows(unittest.TestCase):
+    """Maps that a test writes for itself."""
+
+    def judge(self, parameters, rows, *options, header="gateway,parameter,value"):
+        with tempfile.NamedTemporaryFile("w", suffix=".json") as file:
+            json.dump({"parameters": parameters}, file)
+            file.flush()
+            return batch("\n".join([header, *rows]) + "\n", "--format", "csv", *options, map_file=file.name)
+
+    def test_gateways_that_are_not_together(self):
+        pool = [{"path": "Start", "check": "TIME_check_sync_daylight_saving_time", "value": "start",
+                 "with": {"end": {"path": "End"}}}]
+        rows = ["a,Start,x", "b,Start,", "b,End,", "a,End,y", "c,Start,x", "c,End,y"]
+        results, counted, _ = self.judge(pool, rows, "--group", "gateway")
+        told = [(one["gateway"], one["verdict"], one.get("reason", {}).get("id")) for one in results]
+        self.assertEqual(told, [("a", "malformed", "missing_sibling"), ("b", "accepted", None),
+                                ("c", "accepted", None)])
+        self.assertEqual(counted["split_gateways"], 1)
+
+    def test_a_file_is_a_gateway(self):
+        pool = [{"path": "Pool.{i}.Start", "check": "TIME_check_sync_daylight_saving_time", "value": "start",
+                 "with": {"end": {"path": "Pool.{i}.End"}}}]
+        rows = ["a,Pool.1.Start,x", "b,Pool.2.Start,x", "c,Pool.2.End,", "d,Pool.1.End,y"]
+        results, _, _ = self.judge(pool, rows)
+        self.assertEqual([(one["line"], one["verdict"]) for one in results], [(2, "accepted"), (3, "refused")])
+
+    def test_a_call_that_does_not_return(self):
+        parameters = [
+            {"path": "Stays", "check": "PARAM_check_ui2_value"},
+            {"path": "Start", "check": "TIME_check_sync_daylight_saving_time", "value": "start",
+             "with": {"end": {"path": "End"}}},
+        ]
+        rows = [f"{name},{path},{value}" for name in "ab" for path, value in
+                (("Start", "x"), ("Stays", "1"), ("End", "" if name == "a" else "y"), ("Stays", "x"))]
+        results, _, _ = self.judge(parameters, rows, "--group", "gateway", "--limit-time", "0.1", "--try")
+        told = [(one["gateway"], one["check"].split("_")[0], one["verdict"]) for one in results]
+        self.assertEqual(told, [
+            ("a", "PARAM", "no_return"), ("a", "PARAM", "refused"), ("a", "TIME", "refused"),
+            ("b", "PARAM", "no_return"), ("b", "PARAM", "refused"), ("b", "TIME", "accepted")])
+
+    def test_words_constants_and_skipped_values(self):
+        parameters = [
+            {"path": "Band", "check": "WLAN_check_radio_id", "words": {"2.4GHz": "RADIO_2.4GHz"}, "skip": [""]},
+            {"path": "Width", "check": "WLAN_check_wide_channel", "value": "width",
+             "with": {"radio": {"constant": "RADIO_5GHz"}}},
+            {"path": "Name", "check": "TCM_validate_device_name", "value": "value", "with": {"maxLength": {"constant": 3}}},
+        ]
+        rows = ["a,Band,2.4GHz", "a,Band,", "a,Band,6GHz", "a,Width,40", "a,Name,abc", "a,Name,abcd", "a,Other,x"]
+        results, counted, _ = self.judge(parameters, rows)
+        self.assertEqual([(one["verdict"], one.get("reason", {}).get("id")) for one in results],
+                         [("accepted", None), ("malformed", "no_word"), ("accepted", None), ("accepted", None),
+                          ("refused", "too_long")])
+        self.assertEqual((counted["skipped"], counted["unmapped"]["paths"]), (1, [{"path": "Other", "count": 1}]))
+
+    def test_malformed_rows(self):
+        parameters = [{"path": "Port", "check": "PARAM_check_port"}]
+        results, _, _ = self.judge(parameters, ["a,Port,1", "a,Port", "a,Port,70000"])
+        self.assertEqual([(one["line"], one["verdict"]) for one in results],
+                         [(2, "accepted"), (3, "malformed"), (4, "refused")])
+
+
+class Errors(unittest.TestCase):
+    def complaint(self, text):
+        with tempfile.NamedTemporaryFile("w", suffix=".json") as file:
+            file.write(text)
+            file.flush()
+            _, _, error = batch("parameter,value\n", map_file=file.name, code=2)
+            self.assertIn(file.name, error)
+            return error.replace(file.name, "MAP").splitlines()[0].removeprefix("ostrel-check: ")
+
+    def test_errors_name_the_line_and_the_place(self):
+        entry = '{"parameters": [\n {"path": "A", "check": "PARAM_check_port"},\n %s\n]}'
+        pool = '"check": "LAN_check_dhcp_reserved_addr", "value": "reservedList"'
+        cases = [
+            ("{\n \"parameters\": [\n}", "MAP:3: no valid JSON: "),
+            ("[]", "MAP:1: it is not an object"),
+            ("{}", 'MAP:1: "parameters" is missing'),
+            ('{"parameters": []}', "MAP:1: /parameters: it is empty"),
+            (entry % '{"path": "B", "check": "PARAM_check_prot"}', 'MAP:3: /parameters/1/check: '),
+            (entry % '{"check": "PARAM_check_port"}', 'MAP:3: /parameters/1: "path" is missing'),
+            (entry % '{"path": "B",\n "check": 7}', "MAP:4: /parameters/1/check: it is not a text"),
+            (entry % '{"path": "B..C", "check": "PARAM_check_port"}', "MAP:3: /parameters/1/path: a name"),
+            (entry % '{"path": "B.{j}", "check": "PARAM_check_port"}', "MAP:3: /parameters/1/path: braces"),
+            (entry % '{"path": "A", "check": "PARAM_check_port"}', "MAP:3: /parameters/1: the parameter has"),
+            (entry % '{"path": "B", "check": "PARAM_check_port", "values": 1}',
+             "MAP:3: /parameters/1/values: there is no such member"),
+            (entry % ('{"path": "B", ' + pool + "}"), 'MAP:3: /parameters/1: nothing says where the argument "lanAddress"'),
+            (entry % ('{"path": "B", ' + pool + ',\n "with": {"lanAddress": {"path": "C.{i}"}}}'),
+             "MAP:4: /parameters/1/with/lanAddress/path: it has more {i}"),
+            (entry % ('{"path": "B", ' + pool + ', "with": {"lan": {"path": "C"}, "lanAddress": {"path": "C"}}}'),
+             "MAP:3: /parameters/1/with/lan: LAN_check_dhcp_reserved_addr has no such argument; it has reservedList"),
+            (entry % ('{"path": "B", ' + pool + ', "with": {"lanAddress": {}}}'),
+             "MAP:3: /parameters/1/with/lanAddress: it needs one of"),
+        ]
+        for text, expected in cases:
+            with self.subTest(text):
+                self.assertTrue(self.complaint(text).startswith(expected), self.complaint(text))
+
+    def test_maps_obey_the_schema(self):
+        schema = json.loads(subprocess.run([program, "list", "--schema", "map"], capture_output=True).stdout)
+        try:
+            import jsonschema
+        except ImportError:
+            self.skipTest("there is no validator")
+        for path in tr_098.parent.glob("*.json"):
+            jsonschema.validate(json.loads(path.read_text()), schema)
+
+    def test_a_map_that_is_not_there(self):
+        _, _, error = batch("parameter,value\n", map_file="/nonexistent/map.json", code=2)
+        self.assertIn("cannot read /nonexistent/map.json: No such file or directory", error)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

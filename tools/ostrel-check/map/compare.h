@@ -1,0 +1,57 @@
+// Comparison: what a data model allows beside what the gateway's check accepts.
+#ifndef OSTREL_TOOLS_MAP_COMPARE_H
+#define OSTREL_TOOLS_MAP_COMPARE_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "map/facts.h"
+#include "map/map.h"
+
+namespace ostrel::tool {
+
+// Relation is that of the values that the check accepts to those that the model allows.
+enum class Relation {
+    kSame,
+    kNarrower,  // the check refuses some that are allowed
+    kWider,     // it accepts some that are not allowed
+    kOther,     // both
+    kUnknown,   // no difference was found, and it is not proved that there is none
+};
+
+std::string_view name_of(Relation relation);
+
+// Difference is a value on which the two disagree. The library has judged it.
+struct Difference {
+    enum class Kind {
+        kRefused,   // allowed and refused
+        kAccepted,  // of the type, not allowed and accepted
+        kForeign,   // not of the type and accepted
+    };
+    Kind kind = Kind::kRefused;
+    std::string value;
+    int code = 0;
+    std::string reason;                                          // of a refusal
+    std::vector<std::pair<std::string, std::string>> with = {};  // the other arguments
+};
+
+struct Comparison {
+    const Entry* entry = nullptr;
+    const Facts* facts = nullptr;
+    Relation relation = Relation::kUnknown;
+    // No difference is left of the two kinds that relation speaks of but those that it says there are.
+    bool is_proved = false;
+    std::vector<Difference> differences = {};  // at most one of each kind
+    std::size_t tried = 0;                     // values that were judged
+};
+
+// compare judges with the library, in processes of its own. Throws std::invalid_argument where the map's entry lacks
+// what a comparison needs.
+Comparison compare(const Map& map, const Entry& entry, const Facts& facts);
+
+}  // namespace ostrel::tool
+
+#endif

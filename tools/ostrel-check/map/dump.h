@@ -1,0 +1,63 @@
+// Dump: the parameters of gateways, from rows of a path and a value, or from nested JSON.
+#ifndef OSTREL_TOOLS_MAP_DUMP_H
+#define OSTREL_TOOLS_MAP_DUMP_H
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+#include "map/flat_json.h"
+#include "map/mapper.h"
+#include "read/reader.h"
+#include "read/reading.h"
+#include "read/record.h"
+
+namespace ostrel::tool {
+
+// plain_reading is how the rows are read that a map is for.
+Reading plain_reading(const Reading& reading);
+
+// Dump reads a text of a file after the other: a row of CSV, or an object of JSON, which is a row or all of a gateway.
+class Dump {
+ public:
+    // Throws std::invalid_argument with a message for the user.
+    Dump(FileFormat format, const Reading& reading, std::string_view preamble);
+
+    // next is that of the file's reader.
+    std::size_t next(std::string_view rest) { return reader_->next(rest); }
+
+    // read reads a text, whose rows are returned then. Throws std::invalid_argument with a message for the user, after
+    // which there is no row.
+    void read(std::string_view text);
+
+    // next_row returns a row of the text; line is left as it is. It holds until the next one.
+    bool next_row(Row& row);
+
+    // is_whole_gateway tells that the text was all of a gateway.
+    [[nodiscard]] bool is_whole_gateway() const { return is_whole_gateway_; }
+
+    // gateway is what the row's column of gateways holds.
+    [[nodiscard]] std::string_view gateway() const { return gateway_; }
+
+ private:
+    void read_json(std::string_view text);
+    void read_row(std::string_view text);
+    [[nodiscard]] const Member& require(std::string_view name) const;
+    [[nodiscard]] std::string_view path_name() const;
+
+    Reading reading_;  // without the map
+    bool is_json_;
+    std::unique_ptr<Reader> reader_;
+    Record record_;
+    FlatJson json_;
+    bool is_whole_gateway_ = false;
+    std::string_view gateway_;
+    std::string_view path_;
+    std::string_view value_;
+    std::size_t next_ = 0;
+    std::size_t count_ = 0;
+};
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,88 @@
+// FlatJson: the values of an object of JSON, each with its path.
+#ifndef OSTREL_TOOLS_MAP_FLAT_JSON_H
+#define OSTREL_TOOLS_MAP_FLAT_JSON_H
+
+#include <rapidjson/encodings.h>
+#include <rapidjson/reader.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "read/encoding.h"
+#include "read/json_parser.h"
+#include "read/record.h"
+
+namespace ostrel::tool {
+
+// A value that is directly in the object under a name without "." is a member. Every other value is a parameter: its
+// path is made of the names that lead to it and, for an element of an array, of its number from 1. null is no value;
+// {"base64": text} is the bytes.
+class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson> {
+ public:
+    explicit FlatJson(Encoding encoding) : encoding_(encoding) {}
+
+    // read reads an object. What it returns holds until the next one. Throws std::invalid_argument with a message for
+    // the user.
+    void read(std::string_view text);
+
+    struct Parameter {
+        std::string_view path;
+        std::string_view value;  // the bytes
+    };
+    [[nodiscard]] std::size_t size() const { return places_.size(); }
+    [[nodiscard]] Parameter parameter(std::size_t index) const;
+    [[nodiscard]] const std::vector<Member>& members() const { return members_; }
+
+    // bytes_of is the value of a member.
+    [[nodiscard]] std::string_view bytes_of(const Member& member);
+
+    // The base calls these of the class that it is told, and has its own for the rest.
+    // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
+    bool Null() { return skip(); }
+    bool Bool(bool value) { return scalar(value ? "true" : "false", true); }
+    bool RawNumber(const char* begin, rapidjson::SizeType size, bool copy);
+    bool String(const char* begin, rapidjson::SizeType size, bool copy);
+    bool Key(const char* begin, rapidjson::SizeType size, bool copy);
+    bool StartObject() { return start(false); }
+    bool EndObject(rapidjson::SizeType members);
+    bool StartArray() { return start(true); }
+    bool EndArray(rapidjson::SizeType elements);
+    // NOLINTEND(bugprone-derived-method-shadowing-base-method)
+
+ private:
+    struct Level {
+        bool is_array;
+        std::size_t count;      // of elements
+        std::size_t path_size;  // of what leads to it
+    };
+    struct Place {  // in texts_
+        std::size_t path;
+        std::size_t path_size;
+        std::size_t value;
+        std::size_t value_size;
+    };
+
+    bool start(bool is_array);
+    bool end();
+    bool skip();
+    bool scalar(std::string_view text, bool is_token);
+    void enter(std::string_view name);
+    bool take_base64(rapidjson::SizeType members);
+
+    Encoding encoding_;
+    JsonParser parser_;
+    std::vector<Level> levels_;
+    std::string path_;
+    std::string_view name_;  // of the member that is read
+    std::string texts_;
+    std::vector<Place> places_;
+    std::vector<Member> members_;
+    std::string scratch_;
+    std::string problem_;
+};
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,88 @@
+// Map: which check judges which parameter of a configuration, and where the check's other arguments come from.
+#ifndef OSTREL_TOOLS_MAP_MAP_H
+#define OSTREL_TOOLS_MAP_MAP_H
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "map/path.h"
+
+namespace ostrel::tool {
+
+struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+};
+
+template <typename T>
+using ByText = std::unordered_map<std::string, T, TextHash, std::equal_to<>>;
+
+// WordTable says what is passed for a value of the model.
+using WordTable = ByText<std::string>;
+
+// Source is where an argument comes from.
+struct Source {
+    enum class Kind {
+        kValue,     // the parameter itself
+        kSibling,   // other parameters of the same gateway; of several, each is one of the argument's texts
+        kConstant,  // always the same text
+    };
+    Kind kind = Kind::kValue;
+    std::vector<Pattern> paths = {};
+    std::optional<WordTable> words = std::nullopt;
+    std::string constant = {};
+    std::string example = {};  // a value for comparisons, before words
+};
+
+// Entry is a parameter and a check that judges it.
+struct Entry {
+    Pattern path;
+    const catalogue::Function* function = nullptr;
+    std::vector<Source> sources = {};       // of each argument that must be given, in order
+    std::vector<std::string> skipped = {};  // values that say nothing
+    std::vector<std::string> tried = {};    // values for comparisons
+    std::string because = {};
+    std::size_t call = 0;   // entries of one number make the same call, each for another of its parameters
+    std::size_t line = 0;   // of the map's file
+    std::size_t value = 0;  // the argument that the value is; where it is none, the number of arguments
+    bool has_siblings = false;  // so that all of a gateway must be known before the call
+};
+
+struct NotMapped {
+    std::string path;
+    std::string check;  // that has a name like it; may be empty
+    std::string because;
+};
+
+// KnownPath is what a map says of the paths that have a general form in common.
+struct KnownPath {
+    std::vector<std::size_t> entries = {};
+    bool is_sibling = false;  // other parameters may need it
+};
+
+struct Map {
+    std::string file;
+    std::string about;
+    std::string root;   // what all paths begin with
+    std::string facts;  // the path of the file of facts; empty: none
+    std::vector<Entry> entries;
+    std::vector<NotMapped> not_mapped;
+    ByText<KnownPath> paths;  // by the general path
+};
+
+// load_map reads a map. Throws std::invalid_argument with the file, the line and the place of what is wrong.
+Map load_map(const std::string& file);
+
+// map_schema is the JSON Schema of a map.
+std::string_view map_schema();
+
+}  // namespace ostrel::tool
+
+#endif

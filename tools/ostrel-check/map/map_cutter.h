@@ -1,0 +1,43 @@
+// MapCutter: cuts a file after whole gateways, and counts what the map does not know.
+#ifndef OSTREL_TOOLS_MAP_MAP_CUTTER_H
+#define OSTREL_TOOLS_MAP_MAP_CUTTER_H
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "map/dump.h"
+#include "read/cutter.h"
+
+namespace ostrel::tool {
+
+class MapCutter : public Cutter {
+ public:
+    // The map and what reading counts must outlive the cutter.
+    MapCutter(FileFormat format, const Reading& reading);
+
+    Cut cut(std::string_view bytes, bool is_end) override;
+
+ private:
+    void look(std::string_view bytes);
+    void read_text(std::string_view text);
+    void look_at(std::string_view text, std::size_t at);
+    void begin_gateway(std::size_t at);
+
+    FileFormat format_;
+    const Reading* reading_;
+    Reading plain_;
+    std::unique_ptr<Cutter> cutter_;
+    std::string preamble_;
+    std::unique_ptr<Dump> dump_;
+    std::string gateway_;
+    bool is_in_gateway_ = false;  // rows of it have been seen, and more may come
+    std::size_t whole_ = 0;       // bytes at the front that are whole texts
+    std::size_t seen_ = 0;        // bytes at the front that were looked at
+    std::size_t begin_ = 0;       // where the gateway that is not complete begins
+};
+
+}  // namespace ostrel::tool
+
+#endif

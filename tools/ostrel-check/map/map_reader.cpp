@@ -1,0 +1,127 @@
+#include "map/map_reader.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace ostrel::tool {
+
+Found MapReader::read(std::string_view text, std::size_t part, Record& record)
+{
+    const bool goes_on =
+        part > 0 && part == next_part_ && text.data() == text_.data() && text.size() == text_.size();
+    if (!goes_on) begin(text);
+    for (; next_part_ < part; ++next_part_) {
+        if (!make_next(record)) return Found::kNothing;
+    }
+    ++next_part_;
+    return make_next(record) ? Found::kMore : Found::kNothing;
+}
+
+void MapReader::begin(std::string_view text)
+{
+    text_ = text;
+    rest_ = text;
+    next_part_ = 0;
+    line_ = 0;
+    next_line_ = 0;
+    is_in_gateway_ = false;
+    is_ending_ = false;
+    has_waiting_ = false;
+    is_read_ = false;
+    mapper_.begin_gateway();
+}
+
+bool MapReader::make_next(Record& record)
+{
+    while (true) {
+        if (mapper_.next(record, lack_)) {
+            record.problem = lack_.text;
+            record.problem_id = lack_.id;
+            record.problem_argument = lack_.argument;
+            record.problem_path = lack_.parameter;
+            return true;
+        }
+        if (is_ending_) {
+            is_ending_ = false;
+            is_in_gateway_ = false;
+            mapper_.begin_gateway();
+            if (std::exchange(has_waiting_, false)) take_row();
+            continue;
+        }
+        switch (read_row()) {
+            case Next::kRow:
+                has_waiting_ = is_in_gateway_ && !is_of_gateway();
+                if (has_waiting_) {
+                    end_gateway();
+                } else {
+                    take_row();
+                }
+                break;
+            case Next::kGatewayEnd:
+                if (is_in_gateway_) end_gateway();
+                break;
+            case Next::kProblem:
+                record.clear();
+                record.line = line_;
+                record.problem = problem_;
+                return true;
+            case Next::kNothing:
+                if (!is_in_gateway_) return false;
+                end_gateway();
+                break;
+        }
+    }
+}
+
+MapReader::Next MapReader::read_row()
+{
+    while (true) {
+        if (is_read_) {
+            row_.line = line_;
+            if (dump_.next_row(row_)) return Next::kRow;
+            is_read_ = false;
+            if (dump_.is_whole_gateway()) return Next::kGatewayEnd;
+        }
+        if (rest_.empty()) return Next::kNothing;
+        try {
+            take_text();
+        } catch (const std::invalid_argument& error) {
+            problem_ = error.what();
+            return Next::kProblem;
+        }
+    }
+}
+
+void MapReader::take_text()
+{
+    const std::string_view text = rest_.substr(0, dump_.next(rest_));
+    rest_.remove_prefix(text.size());
+    line_ = next_line_;
+    next_line_ += static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
+    dump_.read(text);
+    is_read_ = true;
+}
+
+bool MapReader::is_of_gateway() const
+{
+    if (dump_.is_whole_gateway() || is_whole_gateway_) return dump_.is_whole_gateway() == is_whole_gateway_;
+    return dump_.gateway() == gateway_;
+}
+
+void MapReader::take_row()
+{
+    if (!is_in_gateway_) {
+        is_in_gateway_ = true;
+        is_whole_gateway_ = dump_.is_whole_gateway();
+        gateway_ = dump_.gateway();
+    }
+    mapper_.take(row_);
+}
+
+void MapReader::end_gateway()
+{
+    is_ending_ = true;
+    mapper_.end_gateway();
+}
+
+}  // namespace ostrel::tool

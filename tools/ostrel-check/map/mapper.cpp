@@ -1,0 +1,195 @@
+#include "map/mapper.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include "show.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+// argument_of is the argument that a source is for; arguments that are only written have none.
+const catalogue::Argument& argument_of(const catalogue::Function& function, std::size_t index)
+{
+    for (const catalogue::Argument& argument : function.arguments) {
+        if (!argument.output_only && index-- == 0) return argument;
+    }
+    return function.arguments.front();
+}
+
+std::string quoted(std::string_view value)
+{
+    constexpr std::size_t kLongest = 60;
+    std::string text = "\"";
+    append_escaped(text, value, kLongest);
+    return text + "\"";
+}
+
+}  // namespace
+
+std::string_view Mapper::keep(std::string_view text)
+{
+    if (text.empty()) return {};
+    char* copy = static_cast<char*>(memory_.allocate(text.size(), 1));
+    std::memcpy(copy, text.data(), text.size());
+    return {copy, text.size()};
+}
+
+void Mapper::begin_gateway()
+{
+    deferred_.clear();
+    values_.clear();
+    made_.clear();
+    memory_.release();
+    entries_ = nullptr;
+    next_deferred_ = 0;
+    is_complete_ = false;
+}
+
+void Mapper::end_gateway() { is_complete_ = true; }
+
+void Mapper::take(const Row& row)
+{
+    row_ = row;
+    generalise(row.path, general_, numbers_);
+    const auto found = map_->paths.find(general_);
+    const bool is_known = found != map_->paths.end();
+    entries_ = is_known ? &found->second.entries : nullptr;
+    next_entry_ = 0;
+    if (is_known && found->second.is_sibling) {
+        values_.insert_or_assign(keep(row.path), keep(row.value));
+    }
+}
+
+bool Mapper::next(Record& record, Lack& lack)
+{
+    while (entries_ != nullptr && next_entry_ < entries_->size()) {
+        const std::size_t index = (*entries_)[next_entry_++];
+        const Entry& entry = map_->entries[index];
+        if (!entry.path.matches(row_.path, numbers_)) continue;
+        if (std::ranges::find(entry.skipped, row_.value) != entry.skipped.end()) continue;
+        if (entry.has_siblings) {
+            defer(index);
+            continue;
+        }
+        make(entry, row_, numbers_, record, lack);
+        return true;
+    }
+    while (is_complete_ && next_deferred_ < deferred_.size()) {
+        const Deferred& one = deferred_[next_deferred_++];
+        const Entry& entry = map_->entries[one.entry];
+        if (!is_first(entry, one.numbers)) continue;
+        make(entry, one.row, one.numbers, record, lack);
+        return true;
+    }
+    return false;
+}
+
+void Mapper::defer(std::size_t entry)
+{
+    Deferred one{entry, row_, Numbers(&memory_), std::pmr::vector<Member>(&memory_)};
+    one.row.path = keep(row_.path);
+    one.row.value = keep(row_.value);
+    for (const std::string_view number : numbers_) {
+        one.numbers.push_back(
+            one.row.path.substr(static_cast<std::size_t>(number.data() - row_.path.data()), number.size()));
+    }
+    for (const Member& member : row_.members)
+        one.members.push_back({keep(member.name), keep(member.value), member.is_json});
+    one.row.members = one.members;
+    deferred_.push_back(std::move(one));
+}
+
+// is_first tells whether the call was not made for another of its parameters.
+bool Mapper::is_first(const Entry& entry, std::span<const std::string_view> numbers)
+{
+    std::string call = std::to_string(entry.call);
+    for (const Source& source : entry.sources) {
+        if (source.kind == Source::Kind::kValue) entry.path.append(call.append(" "), numbers);
+        for (const Pattern& path : source.paths) path.append(call.append(" "), numbers);
+    }
+    return made_.insert(std::move(call)).second;
+}
+
+void Mapper::make(const Entry& entry, const Row& row, std::span<const std::string_view> numbers,
+                  Record& record, Lack& lack)
+{
+    record.clear();
+    lack = {};
+    record.line = row.line;
+    record.check = entry.function->name;
+    paths_.clear();
+    for (std::size_t i = 0; i < entry.sources.size(); ++i) {
+        if (!add_item(entry, i, row, numbers, record, lack)) {
+            lack.argument = argument_of(*entry.function, i).name;
+            record.items.clear();
+            break;
+        }
+    }
+    add_members(entry, row, record);
+}
+
+bool Mapper::add_item(const Entry& entry, std::size_t argument, const Row& row,
+                      std::span<const std::string_view> numbers, Record& record, Lack& lack)
+{
+    const Source& source = entry.sources[argument];
+    if (source.kind == Source::Kind::kValue) return add_text(source, row.value, row.path, record, lack);
+    if (source.kind == Source::Kind::kConstant) {
+        record.items.push_back({Item::Kind::kText, source.constant});
+        return true;
+    }
+    paths_.append(paths_.empty() ? "{" : ",");
+    append_json_text(paths_, argument_of(*entry.function, argument).name);
+    paths_ += ':';
+    const bool is_several = source.paths.size() > 1;
+    if (is_several) {
+        record.items.push_back({Item::Kind::kTexts, {}, source.paths.size()});
+        paths_ += '[';
+    }
+    for (const Pattern& pattern : source.paths) {
+        path_.clear();
+        pattern.append(path_, numbers);
+        if (&pattern != source.paths.data()) paths_ += ',';
+        append_json_text(paths_, path_);
+        const auto found = values_.find(path_);
+        if (found == values_.end()) {
+            lack.id = "missing_sibling";
+            lack.parameter = path_;
+            lack.text = path_ + " is missing, which the check needs too";
+            return false;
+        }
+        if (!add_text(source, found->second, found->first, record, lack)) return false;
+    }
+    if (is_several) paths_ += ']';
+    return true;
+}
+
+bool Mapper::add_text(const Source& source, std::string_view value, std::string_view path, Record& record,
+                      Lack& lack)
+{
+    if (source.words) {
+        const auto found = source.words->find(value);
+        if (found == source.words->end()) {
+            lack.id = "no_word";
+            lack.parameter = path;
+            lack.text = "the map has no word for " + quoted(value) + " of " + std::string(path);
+            return false;
+        }
+        value = found->second;
+    }
+    record.items.push_back({Item::Kind::kText, value});
+    return true;
+}
+
+void Mapper::add_members(const Entry& entry, const Row& row, Record& record)
+{
+    record.members.assign(row.members.begin(), row.members.end());
+    if (record.find("parameter") == nullptr) record.members.push_back({"parameter", row.path});
+    if (!entry.has_siblings || record.items.empty()) return;
+    paths_ += '}';
+    record.members.push_back({"siblings", paths_, true});
+}
+
+}  // namespace ostrel::tool

@@ -1,0 +1,90 @@
+// Mapper: makes the calls of checks of the parameters of a gateway, as a map says.
+#ifndef OSTREL_TOOLS_MAP_MAPPER_H
+#define OSTREL_TOOLS_MAP_MAPPER_H
+
+#include <cstddef>
+#include <cstdint>
+#include <memory_resource>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "map/map.h"
+#include "read/record.h"
+
+namespace ostrel::tool {
+
+// Lack is why a call cannot be made, although nothing is wrong with the value.
+struct Lack {
+    std::string_view id;        // "missing_sibling" or "no_word"; empty: nothing lacks
+    std::string_view argument;  // the one that cannot be had
+    std::string parameter;      // where it should come from
+    std::string text;           // in a sentence
+};
+
+// Row is a parameter of a gateway. The views need to hold until the next row is taken.
+struct Row {
+    std::string_view path;
+    std::string_view value;
+    std::uint64_t line = 0;
+    std::span<const Member> members = {};  // that results repeat
+};
+
+// A mapper is given the rows of one gateway after the other. Calls of one parameter come at once; those that need
+// others too come at the gateway's end, in the order of their rows. It keeps what belongs to one gateway.
+class Mapper {
+ public:
+    explicit Mapper(const Map& map) : map_(&map) {}
+
+    void begin_gateway();
+    void take(const Row& row);
+    void end_gateway();
+
+    // next makes the next call, or false: another row is needed. The record holds until then. Where something
+    // lacks, the record has no items.
+    bool next(Record& record, Lack& lack);
+
+ private:
+    using Numbers = std::pmr::vector<std::string_view>;
+    struct Deferred {
+        std::size_t entry;
+        Row row;
+        Numbers numbers;
+        std::pmr::vector<Member> members;
+    };
+
+    std::string_view keep(std::string_view text);
+    void defer(std::size_t entry);
+    bool is_first(const Entry& entry, std::span<const std::string_view> numbers);
+    void make(const Entry& entry, const Row& row, std::span<const std::string_view> numbers, Record& record,
+              Lack& lack);
+    bool add_item(const Entry& entry, std::size_t argument, const Row& row,
+                  std::span<const std::string_view> numbers, Record& record, Lack& lack);
+    static bool add_text(const Source& source, std::string_view value, std::string_view path, Record& record,
+                         Lack& lack);
+    void add_members(const Entry& entry, const Row& row, Record& record);
+
+    const Map* map_;
+    Row row_;
+    std::string general_;
+    std::vector<std::string_view> numbers_;
+    const std::vector<std::size_t>* entries_ = nullptr;  // of the row
+    std::size_t next_entry_ = 0;
+
+    std::pmr::monotonic_buffer_resource memory_;
+    std::unordered_map<std::string_view, std::string_view> values_;  // of parameters that others may need
+    std::vector<Deferred> deferred_;
+    std::size_t next_deferred_ = 0;
+    bool is_complete_ = false;
+    std::unordered_set<std::string> made_;
+
+    std::string path_;
+    std::string paths_;  // the member that names the siblings
+};
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,78 @@
+#include "map/path.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ostrel::tool {
+
+namespace {
+
+bool is_number(std::string_view name)
+{
+    return !name.empty() && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+}  // namespace
+
+Pattern::Pattern(std::string text) : text_(std::move(text))
+{
+    std::string_view rest = text_;
+    for (std::size_t at = rest.find(kInstance); at != std::string_view::npos; at = rest.find(kInstance)) {
+        pieces_.emplace_back(rest.substr(0, at));
+        rest.remove_prefix(at + kInstance.size());
+    }
+    pieces_.emplace_back(rest);
+}
+
+std::string Pattern::general() const
+{
+    std::string general;
+    std::vector<std::string_view> numbers;
+    generalise(text_, general, numbers);
+    return general;
+}
+
+void Pattern::append(std::string& out, std::span<const std::string_view> numbers) const
+{
+    for (std::size_t i = 0; i < pieces_.size(); ++i) {
+        if (i > 0) out += numbers[i - 1];
+        out += pieces_[i];
+    }
+}
+
+bool Pattern::matches(std::string_view path, std::span<const std::string_view> numbers) const
+{
+    // Only a pattern that spells a number out has fewer {i} than the path has numbers.
+    if (instances() == numbers.size()) return true;
+    for (std::string_view rest = text_; !rest.empty();) {
+        const std::size_t dot = std::min(rest.find('.'), rest.size());
+        const std::size_t end = std::min(path.find('.'), path.size());
+        const std::string_view name = rest.substr(0, dot);
+        if (name != kInstance && name != path.substr(0, end)) return false;
+        rest.remove_prefix(std::min(dot + 1, rest.size()));
+        path.remove_prefix(std::min(end + 1, path.size()));
+    }
+    return true;
+}
+
+void generalise(std::string_view path, std::string& general, std::vector<std::string_view>& numbers)
+{
+    general = path;
+    numbers.clear();
+    // Numbers are short and rare, so that most of a path is only passed over.
+    std::size_t grown = 0;  // so much longer than the path it has become
+    for (std::size_t begin = 0; begin < path.size(); ++begin) {
+        const bool begins_name = begin == 0 || path[begin - 1] == '.';
+        if (!begins_name || path[begin] < '0' || path[begin] > '9') continue;
+        const std::size_t end = std::min(path.find('.', begin), path.size());
+        const std::string_view name = path.substr(begin, end - begin);
+        if (is_number(name)) {
+            numbers.push_back(name);
+            general.replace(begin + grown, name.size(), kInstance);
+            grown += kInstance.size() - name.size();
+        }
+        begin = end;
+    }
+}
+
+}  // namespace ostrel::tool
