@@ -92,8 +92,8 @@ VARIETY = 4096
 
 def as_csv(value):
     text = io.StringIO()
-    csv.writer(text, lineterminator="").writerow(["", value])
-    return text.getvalue()[1:]
+    csv.writer(text, lineterminator="\n").writerow(["", value])
+    return text.getvalue()[1:-1]
 
 
 def as_json(value):

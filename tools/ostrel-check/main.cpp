@@ -115,7 +115,7 @@ CLI::App* add_list(CLI::App& app, Options& options)
         add_command(app, "list", "Show every check with its arguments and its rule", list_help());
     CLI::Option_group* forms = list->add_option_group("Forms");
     forms->add_flag("--json", options.json, "The catalogue in JSON");
-    forms->add_option("--schema", options.schema, "Its JSON Schema, or that of results, summaries or maps")
+    forms->add_option("--schema", options.schema, "JSON Schema of it, or of what is named")
         ->expected(0, 1)
         ->default_str("catalogue")
         ->check(CLI::IsMember({"catalogue", "result", "summary", "map"}))

@@ -121,7 +121,7 @@ class Surroundings(unittest.TestCase):
         self.assertEqual(["--jobs", "--json"], sorted(self.complete_in_bash("batch", "--j")))
         self.assertEqual(["utf-8"], self.complete_in_bash("batch", "--encoding", "u"))
         self.assertEqual(["text", "json"], self.complete_in_bash("batch", "--summary", ""))
-        self.assertEqual(["catalogue", "result", "summary"], self.complete_in_bash("list", "--schema", ""))
+        self.assertEqual(["catalogue", "result", "summary", "map"], self.complete_in_bash("list", "--schema", ""))
         self.assertEqual(["summarise"], self.complete_in_bash("summ"))
 
     def test_zsh_takes_the_completion(self):

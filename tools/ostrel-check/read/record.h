@@ -38,12 +38,12 @@ struct Record {
     std::string_view path;   // where the value is in nested JSON, its names separated by "."; otherwise empty
     std::vector<Item> items;
     std::vector<Member>
-        members;  // "id" and "parameter" among them, in the order of the record, no name twice
-    std::string_view problem;           // not empty: why there is no call
+        members;               // "id" and "parameter" among them, in the order of the record, no name twice
+    std::string_view problem;  // not empty: why there is no call
     std::string_view problem_id;        // and in a word, where the record itself is not at fault
     std::string_view problem_argument;  // the argument that cannot be had
     std::string_view problem_path;      // and the parameter that it would come from
-    bool may_have_spares = false;  // items that the check does not take and that are empty mean nothing
+    bool may_have_spares = false;       // items that the check does not take and that are empty mean nothing
 
     void clear()
     {
