@@ -150,7 +150,7 @@ CLI::App* add_batch(CLI::App& app, Options& options)
         ->excludes(stream);
     add_call_options(*batch, options.manner, options.channels);
     add_ending_options(*batch, options.ending, options.rules);
-    batch->add_option("--map", options.map, "Judge dumps of gateways, as a map of their parameters says")
+    batch->add_option("--map", options.map, "Dumps of gateways, judged by this map")
         ->excludes(batch->get_option("--check"))
         ->excludes(batch->get_option("--start-line"))
         ->type_name("FILE");

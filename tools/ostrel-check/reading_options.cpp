@@ -47,8 +47,7 @@ void add_reading(CLI::App& batch, Reading& reading)
         ->type_name("COLUMN")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    batch.add_option("--group", reading.group, "With --map: the column of the gateway")
-        ->type_name("COLUMN");
+    batch.add_option("--group", reading.group, "With --map: the column of the gateway")->type_name("COLUMN");
     batch.add_option("--parameter", reading.parameter, "With --map: the column of the path")
         ->type_name("COLUMN");
     batch.add_flag("--strict", reading.is_strict, "Refuse unknown and doubled members and columns");
