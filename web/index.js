@@ -1,5 +1,6 @@
 // The checks of a home gateway, in a page or in Node: the very rules that the gateway judges by.
 
+import {complete, isText, kUnwritten, require} from './arguments.js';
 import {build, checks, codes} from './checks.js';
 import {FailedAssertion, NeverReturns} from './errors.js';
 import {compiled} from './module.js';
@@ -7,7 +8,6 @@ import {most, put, take, taken} from './text.js';
 
 export {FailedAssertion, NeverReturns};
 
-const kUnwritten = -0x80000000;  // a number that no check writes
 const kNoChannel = -1;
 const kPage = 0x10000;
 const kSpare = 2048;  // bytes beyond the texts of the call, for blocks and for what a check writes
@@ -40,34 +40,6 @@ class Verdict {
   get reason() {
     return this.valid === false ? this.#of(false) : Promise.resolve(null);
   }
-}
-
-// complete adds what is only written where the caller leaves it out.
-function complete(check, given) {
-  const values = [...given];
-  for (const {output, kind} of check.arguments.slice(given.length)) {
-    if (output) values.push(kind === 'buffer' ? '' : kUnwritten);
-  }
-  if (values.length === check.arguments.length) return values;
-  throw new TypeError(`${check.name} takes ${check.arguments.map(({name}) => name).join(', ')}`);
-}
-
-const isText = (value) => typeof value === 'string';
-const isInteger = (value) => (value | 0) === value;
-
-const isOf = {
-  text: isText,
-  buffer: isText,
-  blocks: (value, {blocks}) => Array.isArray(value) && value.length === blocks && value.every(isText),
-  integer: isInteger,
-  integer_out: isInteger,
-  unsigned: (value) => value >>> 0 === value,
-};
-
-function require(check, argument, value) {
-  const isNull = value === null && argument.null;
-  if (isNull ? argument.null !== 'read' : isOf[argument.kind](value, argument)) return;
-  throw new TypeError(`${check.name}: ${argument.name} is ${isNull ? 'null' : `no ${argument.kind}`}`);
 }
 
 class Ostrel {
