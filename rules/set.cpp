@@ -28,11 +28,17 @@ constexpr Group kGroups[] = {
     {kBlank, "blanks"},
 };
 
+constexpr std::string_view kNoBytes = "no bytes";
+constexpr std::string_view kBlankAlone = "a blank";
+constexpr std::string_view kQuotationMark = "a quotation mark";
+constexpr std::string_view kAnd = " and ";
+constexpr std::string_view kTo = " to ";
+
 std::string join(const std::vector<std::string>& parts)
 {
     std::string result;
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        if (i > 0) result += i + 1 == parts.size() ? " and " : ", ";
+        if (i > 0) result += i + 1 == parts.size() ? kAnd : ", ";
         result += parts[i];
     }
     return result;
@@ -50,7 +56,7 @@ void add_runs(const std::string& members, std::vector<std::string>& parts)
         }
         const bool is_mark = members[begin] > ' ' && members[begin] < '0';
         if (end - begin >= 4 && !is_mark) {
-            parts.push_back(bare(members[begin]) + " to " + bare(members[end - 1]));
+            parts.push_back(bare(members[begin]).append(kTo).append(bare(members[end - 1])));
         } else {
             for (std::size_t i = begin; i < end; ++i)
                 single += (single.empty() ? "" : " ") + bare(members[i]);
@@ -91,7 +97,7 @@ std::size_t Set::find_outside(std::string_view text) const
 
 std::string in_words(const Set& set)
 {
-    if (set.empty()) return "no bytes";
+    if (set.empty()) return std::string(kNoBytes);
     if (set.size() == 1) return byte_in_words(set.members().front());
     std::vector<std::string> parts;
     Set rest = set;
@@ -112,10 +118,17 @@ std::string bare(char byte)
     return {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
 }
 
+std::vector<std::string_view> set_words()
+{
+    std::vector<std::string_view> words = {kNoBytes, kBlankAlone, kQuotationMark, kAnd, kTo};
+    for (const Group& group : kGroups) words.push_back(group.words);
+    return words;
+}
+
 std::string byte_in_words(char byte)
 {
-    if (byte == ' ') return "a blank";
-    if (byte == '"') return "a quotation mark";
+    if (byte == ' ') return std::string(kBlankAlone);
+    if (byte == '"') return std::string(kQuotationMark);
     if (byte > ' ' && byte <= '~') return "\"" + std::string(1, byte) + "\"";
     return bare(byte);
 }

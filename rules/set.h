@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ostrel::rules {
 
@@ -67,6 +68,9 @@ std::string in_words(const Set& set);
 
 // bare shows a byte by itself, and as \x9F or \x20 where it cannot be seen.
 std::string bare(char byte);
+
+// set_words lists what in_words calls sets of bytes, and what stands between two of them.
+std::vector<std::string_view> set_words();
 
 // byte_in_words shows a byte so that it can stand in a sentence: "x", a blank, a quotation mark, \x9F.
 std::string byte_in_words(char byte);

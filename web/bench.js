@@ -1,5 +1,5 @@
 // Times verdicts beside those of validator, everything included that a page does for one: values go in as strings, and
-// a refused one comes back with its lines and, where it says so, its reason.
+// a refused one comes back, where it says so, with its reason.
 //
 //   OSTREL_WEB_BUILD=build/web/web node web/bench.js
 

@@ -1,22 +1,26 @@
-// Makes checks.js and index.d.ts of the descriptions, and the package's package.json.
+// Makes what the package has of the descriptions: checks.js, constraints.js, index.d.ts, the English sentences; and its
+// package.json.
 //
-//   node generate.js DESCRIBE.WASM RESULT_CODE.H PACKAGE.JSON BUILD FOLDER
+//   node generate.js DESCRIBE.WASM CATALOGUE.JSON RESULT_CODE.H PACKAGE.JSON BUILD FOLDER
 //
-// BUILD is what ostrel.build tells, as JSON.
+// CATALOGUE.JSON is what ostrel-check list --json prints. BUILD is what ostrel.build tells, as JSON.
 
 import {execFileSync} from 'node:child_process';
-import {readFileSync, writeFileSync} from 'node:fs';
+import {mkdirSync, readFileSync, writeFileSync} from 'node:fs';
 import {join} from 'node:path';
 import {fileURLToPath} from 'node:url';
 
-const [describe, header, packageFile, build, folder] = process.argv.slice(2);
+const [describe, catalogueFile, header, packageFile, build, folder] = process.argv.slice(2);
 const write = (name, text) => writeFileSync(join(folder, name), text);
+const template = (name) => readFileSync(new URL(name, import.meta.url), 'utf8');
 
 const runner = fileURLToPath(new URL('run_wasi.js', import.meta.url));
-const printed = execFileSync(process.execPath, ['--no-warnings', runner, describe], {encoding: 'utf8'});
+const printed = execFileSync(process.execPath, ['--no-warnings', runner, describe],
+                             {encoding: 'utf8', maxBuffer: 2 ** 26});
 const described = JSON.parse(printed);
+const catalogue = JSON.parse(readFileSync(catalogueFile, 'utf8'));
 const kWritten = ['buffer', 'blocks', 'integer_out'];
-const checks = described.map((check) => {
+const checks = described.checks.map((check) => {
   const writes = check.arguments.some(({kind}) => kWritten.includes(kind));
   return writes ? {...check, writes} : check;
 });
@@ -28,10 +32,31 @@ for (const [, name, code] of named) codes[code] = name;
 write('checks.js', `// The checks of this build, generated from their descriptions.
 export const build = ${build};
 export const codes = ${JSON.stringify(codes)};
+class Check {
+  constructor(described) {
+    Object.assign(this, described);
+  }
+  get constraints() {
+    return import('./constraints.js').then(({constraints}) => constraints[this.name]);
+  }
+}
 export const checks = [
 ${checks.map((check) => `  ${JSON.stringify(check)},`).join('\n')}
-];
+].map((check) => new Check(check));
 `);
+
+const ofArguments = catalogue.checks.map((check) =>
+  [check.name, check.arguments.map(({constraints}) => constraints ?? null)]);
+write('constraints.js', `// What each argument of each check must be, derived from the descriptions.
+export const constraints = {
+${ofArguments.map(([name, all]) => `  ${name}: ${JSON.stringify(all)},`).join('\n')}
+};
+`);
+
+mkdirSync(join(folder, 'sentences'), {recursive: true});
+write('sentences/en.js', template('sentences/en.js.in')
+  .replace('@SENTENCES@', () => JSON.stringify(described.sentences, null, 4).replace(/\}$/, '  }')));
+write('../phrases.json', JSON.stringify(described.phrases));
 
 const given = {text: 'string', buffer: 'string', integer: 'number', unsigned: 'number', integer_out: 'number'};
 const held = {buffer: 'string | null', integer_out: 'number | null'};
@@ -52,8 +77,7 @@ const writtenOf = (check) =>
 const rows = (some, row) => some.map((check) => `  ${check.name}: ${row(check)};`).join('\n');
 const names = (list) => list.map((name) => `'${name}'`).join(' | ');
 const numbers = checks.filter(({answers}) => answers === 'number').map(({name}) => name);
-const template = readFileSync(new URL('index.d.ts.in', import.meta.url), 'utf8');
-write('index.d.ts', template
+write('index.d.ts', template('index.d.ts.in')
   .replace('@ARGUMENTS@', () => rows(checks, argumentsOf))
   .replace('@WRITTEN@', () => rows(checks.filter(({writes}) => writes), writtenOf))
   .replace('@NUMBERS@', () => names(numbers))

@@ -1,89 +1,45 @@
 // The checks of a home gateway, in a page or in Node: the very rules that the gateway judges by.
 
+import {complete, isText, kUnwritten, require} from './arguments.js';
 import {build, checks, codes} from './checks.js';
-import {reasonsOf} from './reasons.js';
+import {FailedAssertion, NeverReturns} from './errors.js';
+import {compiled} from './module.js';
 import {most, put, take, taken} from './text.js';
 
-// FailedAssertion: the gateway's daemon would have ended here.
-export class FailedAssertion extends Error {
-  constructor(condition, check, module, line) {
-    super(`${module}:${line}: ${check}: Assertion \`${condition}' failed.`);
-    Object.assign(this, {name: 'FailedAssertion', condition, check, module, line});
-  }
-}
+export {FailedAssertion, NeverReturns};
 
-// NeverReturns: the gateway's daemon would have stood still here.
-export class NeverReturns extends Error {
-  name = 'NeverReturns';
-  message = 'the check does not return for this value';
-}
-
-const kUnwritten = -0x80000000;  // a number that no check writes
 const kNoChannel = -1;
 const kPage = 0x10000;
 const kSpare = 2048;  // bytes beyond the texts of the call, for blocks and for what a check writes
-const kNothing = Object.freeze([]);
 const kNothingWritten = Object.freeze({});
 
-async function compiled(given, url) {
-  if (given instanceof WebAssembly.Module) return given;
-  if (given === undefined && url.protocol === 'file:') {
-    given = await (await import('node:fs/promises')).readFile(url);
-  } else if (given === undefined) {
-    const response = await fetch(url);
-    if (!response.ok) throw new Error(`${url}: ${response.status}`);
-    given = await response.arrayBuffer();
-  }
-  return WebAssembly.compile(given);
-}
-
+// Verdict has what was answered. What was printed is learnt by judging once more, for few ask.
 class Verdict {
-  #explain;
+  #of;  // how to learn more: print and explain
+  #printed;
 
-  constructor(valid, code, [, lines, stderr], after, explain) {
+  constructor(valid, code, after, of) {
     this.valid = valid;
     this.code = code;
-    this.lines = lines;
-    this.stderr = stderr;
     this.after = after;
-    this.#explain = explain;
+    this.#of = of;
   }
 
   get name() {
     return this.valid === null ? null : codes[this.code];
   }
 
+  get lines() {
+    return (this.#printed ??= this.#of(true))[1];
+  }
+
+  get stderr() {
+    return (this.#printed ??= this.#of(true))[2];
+  }
+
   get reason() {
-    return this.valid === false ? this.#explain() : Promise.resolve(null);
+    return this.valid === false ? this.#of(false) : Promise.resolve(null);
   }
-}
-
-// complete adds what is only written where the caller leaves it out.
-function complete(check, given) {
-  const values = [...given];
-  for (const {output, kind} of check.arguments.slice(given.length)) {
-    if (output) values.push(kind === 'buffer' ? '' : kUnwritten);
-  }
-  if (values.length === check.arguments.length) return values;
-  throw new TypeError(`${check.name} takes ${check.arguments.map(({name}) => name).join(', ')}`);
-}
-
-const isText = (value) => typeof value === 'string';
-const isInteger = (value) => (value | 0) === value;
-
-const isOf = {
-  text: isText,
-  buffer: isText,
-  blocks: (value, {blocks}) => Array.isArray(value) && value.length === blocks && value.every(isText),
-  integer: isInteger,
-  integer_out: isInteger,
-  unsigned: (value) => value >>> 0 === value,
-};
-
-function require(check, argument, value) {
-  const isNull = value === null && argument.null;
-  if (isNull ? argument.null !== 'read' : isOf[argument.kind](value, argument)) return;
-  throw new TypeError(`${check.name}: ${argument.name} is ${isNull ? 'null' : `no ${argument.kind}`}`);
 }
 
 class Ostrel {
@@ -93,16 +49,19 @@ class Ostrel {
   #stack;
   #view = new Uint8Array();
   #base;
+  #room;  // of each argument of the last call
   #isLatin1;
   #reasons;
+  #reasonOf;
   #loadReasons;
   #numbers = new Map(checks.map(({name}, number) => [name, number]));
   #isBusy = false;
   #message;
-  #printed;  // by the number of the stream
+  #printed = null;  // by the number of the stream, while that is wanted
 
   constructor(module, options) {
-    const {isLatin1, isLong64, channels, compare, convert, loadReasons} = options;
+    const {encoding, isLatin1, isLong64, channels, compare, convert, loadReasons} = options;
+    this.encoding = encoding;
     this.#isLatin1 = isLatin1;
     this.#loadReasons = loadReasons;
     const text = (at) => taken(this.#bytes(), at, Infinity, isLatin1);
@@ -134,19 +93,26 @@ class Ostrel {
   judge(name, ...given) {
     const number = this.#numbers.get(name);
     if (number === undefined) throw new RangeError(`there is no check ${name}`);
-    if (this.#isBusy) throw new Error('called by itself');
     const check = checks[number];
-    const values = given.length === check.arguments.length ? given : complete(check, given);
-    this.#isBusy = true;
+    let values = given.length === check.arguments.length ? given : complete(check, given);
+    // What the caller does with an array later does not matter.
+    if (check.writes) values = values.map((value) => (Array.isArray(value) ? [...value] : value));
+    const code = this.#call(check, values);
+    const valid = check.answers === 'number' ? null : code === 0;
+    return new Verdict(valid, code, check.writes ? this.#after(check, values) : kNothingWritten,
+                       (prints) => (prints ? this.#print(check, values) : this.#explain(check, number, values)));
+  }
+
+  #print(check, values) {
+    const printed = [null, [], []];
+    this.#printed = printed;
+    this.#message = '';
     try {
-      return this.#call(check, number, values);
-    } catch (error) {
-      this.#rules.__stack_pointer.value = this.#stack;
-      if (!(error instanceof WebAssembly.RuntimeError && values.includes(null))) throw error;
-      throw new TypeError(`${name} reads an argument that is null`);
+      this.#call(check, values);
     } finally {
-      this.#isBusy = false;
+      this.#printed = null;
     }
+    return printed;
   }
 
   // #bytes takes the view anew when memory has grown: one that is kept then is empty, and silently stays so.
@@ -156,14 +122,16 @@ class Ostrel {
   }
 
   #write(stream, at, length, ends) {
+    if (!this.#printed) return;
     this.#message += take(this.#bytes(), at, length, this.#isLatin1);
     if (!ends) return;
-    this.#printed[stream] = [...this.#printed[stream], this.#message];
+    this.#printed[stream].push(this.#message);
     this.#message = '';
   }
 
   // #call gives each argument the same room.
-  #call(check, number, values) {
+  #call(check, values) {
+    if (this.#isBusy) throw new Error('called by itself');
     let room = kSpare;
     for (let i = 0; i < values.length; ++i) {
       const value = values[i];
@@ -181,12 +149,17 @@ class Ostrel {
       const at = this.#base + i * room;
       passed.push(this.#put(bytes, at, room, check.arguments[i], values[i]) ? at : values[i]);
     }
-    this.#printed = [null, kNothing, kNothing];
-    this.#message = '';
-    const code = this.#rules[check.name](passed[0], passed[1], passed[2], passed[3]);
-    const valid = check.answers === 'number' ? null : code === 0;
-    const after = check.writes ? this.#after(check, passed, room) : kNothingWritten;
-    return new Verdict(valid, code, this.#printed, after, () => this.#explain(check, number, values));
+    this.#room = room;
+    this.#isBusy = true;
+    try {
+      return this.#rules[check.name](passed[0], passed[1], passed[2], passed[3]);
+    } catch (error) {
+      this.#rules.__stack_pointer.value = this.#stack;
+      if (!(error instanceof WebAssembly.RuntimeError && values.includes(null))) throw error;
+      throw new TypeError(`${check.name} reads an argument that is null`);
+    } finally {
+      this.#isBusy = false;
+    }
   }
 
   // #put tells whether the value is passed in memory.
@@ -206,8 +179,9 @@ class Ostrel {
     return true;
   }
 
-  #after(check, passed, room) {
+  #after(check, values) {
     const bytes = this.#bytes();
+    const room = this.#room;
     const text = (at, size) => taken(bytes, at, size, this.#isLatin1);
     const held = {
       buffer: (at) => text(at, room),
@@ -221,20 +195,22 @@ class Ostrel {
     const after = {};
     check.arguments.forEach((argument, i) => {
       const take = held[argument.kind];
-      if (take) after[argument.name] = passed[i] && take(passed[i], argument);
+      if (take) after[argument.name] = values[i] === null ? null : take(this.#base + i * room, argument);
     });
     return after;
   }
 
   // #explain loads the descriptions the first time, and again where that failed.
   async #explain(check, number, values) {
+    if (this.#reasonOf) return this.#reasonOf(check, number, values);
     try {
       this.#reasons ??= this.#loadReasons();
-      return (await this.#reasons)(check, number, values);
+      this.#reasonOf = await this.#reasons;
     } catch (error) {
       this.#reasons = null;
       throw error;
     }
+    return this.#reasonOf(check, number, values);
   }
 }
 
@@ -242,9 +218,9 @@ export async function load(
     {encoding = 'utf-8', long = 32, channels = [], htmlToText, cmsUtl_strcmp, rules, reasons} = {}) {
   if (encoding !== 'utf-8' && encoding !== 'latin1') throw new RangeError(`encoding: ${encoding}`);
   if (long !== 32 && long !== 64) throw new RangeError(`long: ${long}`);
-  const options = {isLatin1: encoding === 'latin1', isLong64: long === 64, channels: [...channels]};
-  const loadReasons = async () =>
-      reasonsOf(await compiled(reasons, new URL('./reasons.wasm', import.meta.url)), options);
+  const options = {encoding, isLatin1: encoding === 'latin1', isLong64: long === 64, channels: [...channels]};
+  const loadReasons = async () => (await import('./reasons.js'))
+    .reasonsOf(await compiled(reasons, new URL('./reasons.wasm', import.meta.url)), options);
   return new Ostrel(await compiled(rules, new URL('./rules.wasm', import.meta.url)),
                     {...options, compare: cmsUtl_strcmp, convert: htmlToText, loadReasons});
 }

@@ -13,12 +13,24 @@ const kHead = 5;  // a tag and a number
 const longest = (values, isLatin1) => values.flat().reduce(
   (sum, value) => sum + kHead + (typeof value === 'string' ? most(value, isLatin1) : 0), kHead * values.length);
 
+// Views are kept as long as memory does not grow. Then they are empty.
+let viewed;
+let bytes = new Uint8Array();
+let view;
+
+// viewOf has bytes and view show the memory of a module.
+function viewOf(exports) {
+  if (viewed === exports && bytes.length > 0) return;
+  viewed = exports;
+  bytes = new Uint8Array(exports.memory.buffer);
+  view = new DataView(exports.memory.buffer);
+}
+
 // writeCall writes the call where the module reads it, and returns its bytes.
 export function writeCall(exports, check, values, isLatin1) {
   let at = exports.reserve(longest(values, isLatin1));
   const begin = at;
-  const bytes = new Uint8Array(exports.memory.buffer);
-  const view = new DataView(exports.memory.buffer);
+  viewOf(exports);
   const putText = (text) => {
     const end = put(bytes, at + 4, text, isLatin1);
     view.setUint32(at, end - at - 4, true);
@@ -50,16 +62,19 @@ export function reasonsOf(module, {isLatin1, isLong64, channels}) {
     return exports;
   };
   let exports = start();
+  const told = (length) => {
+    viewOf(exports);
+    return length === 0 ? null : JSON.parse(take(bytes, exports.reason(), length, true));
+  };
   return (check, number, values) => {
     try {
       writeCall(exports, check, values, isLatin1);
-      const length = exports.explain(number);
-      return JSON.parse(take(new Uint8Array(exports.memory.buffer), exports.reason(), length) || null);
+      return told(exports.explain(number));
     } catch (error) {
       // A list so long that its reason is not worth the work ends the module.
       if (!(error instanceof WebAssembly.RuntimeError)) throw error;
       exports = start();
-      return null;
+      return told(exports.too_much_work());
     }
   };
 }

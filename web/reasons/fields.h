@@ -1,6 +1,7 @@
 // The fields of a description that its evaluation reads, in one order for packing and unpacking.
 //
-// What only counts or explains is left out: the numbers of steps and conditions, and what is said of arguments.
+// What only counts or explains is left out: the numbers of steps and conditions, and what is said of arguments. Each
+// function names every field, so that it does not compile when there is one more.
 #ifndef OSTREL_WEB_REASONS_FIELDS_H
 #define OSTREL_WEB_REASONS_FIELDS_H
 
@@ -15,81 +16,94 @@ namespace ostrel::web {
 template <typename Archive>
 void fields(Archive& archive, rules::Expression& it)
 {
-    archive(it.kind, it.text, it.number, it.set, it.conversion, it.of, it.part, it.slot);
+    auto& [kind, text, number, set, conversion, of, part, slot] = it;
+    archive(kind, text, number, set, conversion, of, part, slot);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Line::Part& it)
 {
-    archive(it.text, it.value);
+    auto& [text, value] = it;
+    archive(text, value);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Line& it)
 {
-    archive(it.stream, it.is_flushed, it.parts);
+    auto& [text, stream, is_flushed, parts] = it;
+    archive(stream, is_flushed, parts);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Group& it)
 {
-    archive(it.set, it.least, it.most, it.lines);
+    auto& [set, least, most, lines] = it;
+    archive(set, least, most, lines);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Match& it)
 {
-    archive(it.column, it.how, it.value);
+    auto& [column, how, value] = it;
+    archive(column, how, value);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Condition& it)
 {
-    archive(it.kind, it.is_negated, it.operands, it.words, it.ignores_case, it.numbers, it.shapes, it.grammar,
-            it.table, it.matches, it.parts, it.id, it.target);
+    auto& [kind, is_negated, operands, words, ignores_case, numbers, shapes, grammar, table, matches, check,
+           parts, id, number, target] = it;
+    archive(kind, is_negated, operands, words, ignores_case, numbers, shapes, grammar, table, matches, parts,
+            id, target);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Table& it)
 {
-    archive(it.columns, it.rows);
+    auto& [columns, rows] = it;
+    archive(columns, rows);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Write& it)
 {
-    archive(it.target, it.value);
+    auto& [target, value, is_terminated] = it;
+    archive(target, value);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Code& it)
 {
-    archive(it.number, it.is_its, it.exchanges);
+    auto& [number, is_its, exchanges] = it;
+    archive(number, is_its, exchanges);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::List& it)
 {
-    archive(it.of, it.separator, it.trimmed, it.part);
+    auto& [of, separator, trimmed, part] = it;
+    archive(of, separator, trimmed, part);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Step& it)
 {
-    archive(it.kind, it.code, it.condition, it.lines, it.writes, it.name, it.value, it.list, it.steps,
-            it.otherwise, it.slot);
+    auto& [kind, code, condition, lines, writes, name, value, list, steps, otherwise, number, slot] = it;
+    archive(kind, code, condition, lines, writes, name, value, list, steps, otherwise, slot);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Argument& it)
 {
-    archive(it.name, it.kind, it.is_secret, it.is_output, it.asserted, it.blocks, it.block_size);
+    auto& [name, kind, what, unit, is_secret, is_output, asserted, room, blocks, block_size] = it;
+    archive(name, kind, is_secret, is_output, asserted, blocks, block_size);
 }
 
 template <typename Archive>
 void fields(Archive& archive, rules::Check& it)
 {
-    archive(it.name, it.arguments, it.steps, it.is_verdict, it.module, it.slots, it.number);
+    auto& [name, arguments, steps, is_verdict, module, slots, step_count, condition_count, number] = it;
+    archive(name, arguments, steps, is_verdict, module, slots, number);
 }
 
 // Kinds numbers the types that are packed once each, however often they are used.

@@ -65,6 +65,16 @@ OSTREL_EXPORT(explain) std::size_t ostrel_explain(std::size_t check)
     return answer.size();
 }
 
+// ostrel_too_much_work returns the bytes of the reason of a call that explain did not return from.
+OSTREL_EXPORT(too_much_work) std::size_t ostrel_too_much_work()
+{
+    ostrel::rules::Reason reason;
+    reason.id = "too_much_work";
+    answer.clear();
+    ostrel::rules::append_json_reason(answer, reason, descriptions().front());
+    return answer.size();
+}
+
 // ostrel_reason returns the JSON of that reason.
 OSTREL_EXPORT(reason) const char* ostrel_reason() { return answer.data(); }
 }

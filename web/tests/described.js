@@ -32,9 +32,3 @@ export function describedCode(check, values) {
   writeCall(exports, check, values, true);
   return answered(() => exports.code(checks.indexOf(check)));
 }
-
-// writtenCall gives the bytes that the module of reasons reads.
-export function writtenCall(check, values) {
-  const size = writeCall(exports, check, values, true);
-  return Buffer.from(Buffer.from(exports.memory.buffer, exports.reserve(size), size));
-}

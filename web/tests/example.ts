@@ -2,6 +2,10 @@
 
 import {FailedAssertion, NeverReturns, load} from 'ostrel';
 import type {CheckName, CodeName, Reason, Verdict} from 'ostrel';
+import {attach} from 'ostrel/form';
+import {bytesOf, clause, placeOf, sentence} from 'ostrel/sentences';
+import german from 'ostrel/sentences/de';
+import english from 'ostrel/sentences/en';
 
 const ostrel = await load({encoding: 'latin1', long: 64, channels: [1, 6, 11]});
 
@@ -54,4 +58,17 @@ try {
   if (error instanceof NeverReturns) console.log(error.message);
 }
 
-console.log(valid, name, reason?.text, names, account, offset, keys, counted, ostrel.build.model);
+// What a portal does with reasons and forms.
+if (reason) {
+  const said: string = sentence(reason, german, {text: '65536', encoding: ostrel.encoding});
+  console.log(said, clause(reason, english), placeOf('65536', reason.offset ?? 0).character, bytesOf('65536'));
+}
+const longest: number | undefined = (await ostrel.checks[0].constraints)[0]?.max_length;
+const detach: () => void = attach(document.forms[0], ostrel, {sentences: {...german, subject: 'das Feld'}});
+detach();
+// @ts-expect-error it has to be a form
+attach(document.body, ostrel);
+// @ts-expect-error a language says more than that
+attach(document.forms[0], ostrel, {sentences: {locale: 'fr'}});
+
+console.log(longest, valid, name, reason?.text, names, account, offset, keys, counted, ostrel.build.model);

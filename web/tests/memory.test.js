@@ -4,7 +4,6 @@ import assert from 'node:assert/strict';
 import test from 'node:test';
 
 import {FailedAssertion, NeverReturns, checkOf, load, moduleOf} from './files.js';
-import {Bare} from './bare.js';
 
 const kMebibyte = 0x100000;
 
@@ -24,19 +23,24 @@ test('a value that makes the memory grow is the one that is judged', async () =>
   }
 });
 
-test('memory that grows between two calls', async () => {
-  const source = moduleOf('package/rules.wasm');
-  let memory;
+// loaded also gives the exports of the module that the values are judged with.
+async function loaded(options) {
+  let exports;
   const {Instance} = WebAssembly;
   WebAssembly.Instance = class extends Instance {
     constructor(module, imports) {
       super(module, imports);
-      memory = this.exports.memory;
+      exports = this.exports;
     }
   };
-  const ostrel = await load({rules: source}).finally(() => {
+  const ostrel = await load(options).finally(() => {
     WebAssembly.Instance = Instance;
   });
+  return {ostrel, exports};
+}
+
+test('memory that grows between two calls', async () => {
+  const {ostrel, exports: {memory}} = await loaded();
   assert.equal(ostrel.judge('PARAM_check_ip_addr', '192.168.1.1').valid, true);
   memory.grow(1);
   assert.equal(ostrel.judge('PARAM_check_ip_addr', '192.168.1.256').valid, false);
@@ -45,21 +49,11 @@ test('memory that grows between two calls', async () => {
 });
 
 test('memory that grows in a utility of the page', async () => {
-  let memory;
-  const {Instance} = WebAssembly;
-  WebAssembly.Instance = class extends Instance {
-    constructor(module, imports) {
-      super(module, imports);
-      memory = this.exports.memory;
-    }
-  };
-  const ostrel = await load({
+  const {ostrel, exports} = await loaded({
     htmlToText: (text) => {
-      memory.grow(1);
+      exports.memory.grow(1);
       return text.replaceAll('&amp;', '&');
     },
-  }).finally(() => {
-    WebAssembly.Instance = Instance;
   });
   const verdict = ostrel.judge('WLAN_check_ssid', `${'a'.repeat(31)}&amp;`);
   assert.equal(verdict.valid, true);
@@ -69,15 +63,17 @@ test('memory that grows in a utility of the page', async () => {
 });
 
 test('100,000 errors in a row leave the stack where it was', async () => {
-  const bare = new Bare(moduleOf('package/rules.wasm'), {long: 32});
-  const before = bare.exports.__stack_pointer.value;
-  const ostrel = await load();
+  const {ostrel, exports} = await loaded();
+  const stack = exports.__stack_pointer;
+  const before = stack.value;
   for (let i = 0; i < 50000; ++i) {
     assert.throws(() => ostrel.judge('PARAM_check_ui2_value', '8080'), NeverReturns);
+    assert.equal(stack.value, before);
     assert.throws(() => ostrel.judge('PARAM_check_port', null), FailedAssertion);
+    assert.equal(stack.value, before);
   }
   assert.equal(ostrel.judge('PARAM_check_ip_addr', '192.168.1.1').valid, true);
-  assert.equal(bare.exports.__stack_pointer.value, before);
+  assert.equal(stack.value, before);
 });
 
 test('what cannot be passed whole is an error of the caller', async () => {

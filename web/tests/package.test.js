@@ -19,13 +19,15 @@ test('sizes', (t) => {
   const sizes = {
     rules: [zipped('rules.wasm'), 18],
     wrapper: [zipped('index.js'), 3],
-    reasons: [zipped('reasons.wasm'), 80],
+    reasons: [zipped('reasons.wasm', 'reasons.js'), 80],
   };
   for (const [name, [size, most]] of Object.entries(sizes)) {
     t.diagnostic(`${name}: ${size} bytes gzip, at most ${most} KiB`);
     assert.ok(size <= most * 1024, `${name}: ${size} bytes`);
   }
-  t.diagnostic(`list of checks: ${zipped('checks.js')} bytes gzip`);
+  for (const name of ['checks.js', 'constraints.js', 'form.js', 'sentences.js', 'sentences/en.js', 'sentences/de.js']) {
+    t.diagnostic(`${name}: ${zipped(name)} bytes gzip`);
+  }
 });
 
 test('an installed package', async (t) => {
@@ -35,7 +37,9 @@ test('an installed package', async (t) => {
 
   await t.test('holds what a portal needs', () => {
     assert.deepEqual(packed.files.map(({path}) => path).sort(), [
-      'README.md', 'checks.js', 'index.d.ts', 'index.js', 'package.json', 'reasons.wasm', 'rules.wasm']);
+      'README.md', 'checks.js', 'constraints.js', 'form.d.ts', 'form.js', 'index.d.ts', 'index.js', 'package.json',
+      'reasons.js', 'reasons.wasm', 'rules.wasm', 'sentences.d.ts', 'sentences.js', 'sentences/de.js',
+      'sentences/en.js', 'sentences/language.d.ts']);
     const described = JSON.parse(readFileSync(join(packageFolder, 'package.json'), 'utf8'));
     assert.equal(described.dependencies, undefined);
     assert.equal(described.devDependencies, undefined);
@@ -54,9 +58,15 @@ test('an installed package', async (t) => {
   });
 
   await t.test('has types', () => {
+    const readme = readFileSync(join(packageFolder, 'README.md'), 'utf8');
+    const examples = [...readme.matchAll(/```js\n([\s\S]*?)```/g)].map(([, text], i) => {
+      writeFileSync(join(folder, `readme${i}.ts`), text);
+      return `readme${i}.ts`;
+    });
+    assert.ok(examples.length >= 3);
     copyFileSync(new URL('example.ts', import.meta.url), join(folder, 'example.ts'));
     const tsc = join(build, 'node_modules/typescript/bin/tsc');
     run(process.execPath, [tsc, '--strict', '--noEmit', '--target', 'es2022', '--module', 'nodenext', '--lib',
-      'es2022,dom', 'example.ts'], folder);
+      'es2022,dom,dom.iterable', 'example.ts', ...examples], folder);
   });
 });

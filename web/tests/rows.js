@@ -1,42 +1,12 @@
-// The rows of vectors/*.ndjson, as vectors/README.md explains them. Each character of a text is one byte.
+// The rows of vectors/*.ndjson.
 
 import {readFileSync, readdirSync} from 'node:fs';
 import {join} from 'node:path';
 
+import {rowsOf} from './row.js';
+
 const folder = new URL('../../vectors/', import.meta.url).pathname;
 
-function textOf(json) {
-  if (typeof json === 'string') return json;
-  if ('repeat' in json) return textOf(json.repeat).repeat(json.times);
-  return json.join.map(textOf).join('');
-}
-
-function valueOf(json) {
-  if (json === null || typeof json === 'number') return json;
-  return Array.isArray(json) ? json.map(textOf) : textOf(json);
-}
-
-// answerOf gives the answer where long has so many bits; none where the row does not say it.
-function answerOf(row, long) {
-  if (row.overflow && long === 32) return null;
-  const answer = (long === 32 && row.long32) || row;
-  return {
-    code: answer.code,
-    out: textOf(answer.out ?? ''),
-    flushed: answer.flushed ?? true,
-    err: textOf(answer.err ?? ''),
-    after: answer.after?.map(valueOf),
-    reason: answer.reason,
-  };
-}
-
-export const rows = readdirSync(folder).filter((name) => name.endsWith('.ndjson')).sort().flatMap((name) =>
-  readFileSync(join(folder, name), 'utf8').split('\n').filter(Boolean).map((line, i) => {
-    const row = JSON.parse(line);
-    return {
-      place: `${name}:${i + 1}`,
-      check: row.check,
-      values: row.args.map(valueOf),
-      answers: {32: answerOf(row, 32), 64: answerOf(row, 64)},
-    };
-  }));
+export const files = Object.fromEntries(readdirSync(folder).filter((name) => name.endsWith('.ndjson')).sort()
+  .map((name) => [name, readFileSync(join(folder, name), 'utf8')]));
+export const rows = Object.entries(files).flatMap(([name, lines]) => rowsOf(name, lines));

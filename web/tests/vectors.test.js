@@ -1,53 +1,53 @@
-// Every row of the vectors: the module with each value at the edge of its memory, and the wrapper.
+// Every row of the vectors: the module with each value at the edge of its memory, and the wrapper, here and in a browser.
 
 import assert from 'node:assert/strict';
+import {readFileSync} from 'node:fs';
 import test from 'node:test';
 
-import {Bare, completed, edges} from './bare.js';
+import {Bare, edges} from './bare.js';
 import {checkOf, load, moduleOf} from './files.js';
 import {roomOf} from './described.js';
-import {rows} from './rows.js';
+import {checkNetwork, opened, serve, started} from './page.js';
+import {files, rows} from './rows.js';
+import {expectedOf, judgedRows} from './wrapper.js';
 
-const kWritten = ['buffer', 'blocks', 'integer_out'];
-
-// held is what the arguments hold that can be written to, before the call.
-const held = (check, values) => completed(check, values).filter((_, i) => kWritten.includes(check.arguments[i].kind))
-  .map((value) => (value === -0x80000000 ? null : value));
-
-function expectedOf(row, check, long) {
-  const {reason, ...answer} = row.answers[long];
-  return {...answer, after: answer.after ?? held(check, row.values)};
-}
+const saidFor = (long) => rows.filter(({answers}) => answers[long] !== null);
 
 for (const long of [32, 64]) {
   test(`each value at the edge of memory, long ${long}`, (t) => {
     const module = moduleOf('package/rules.wasm');
     const bare = new Bare(module, {long, room: roomOf});
     let calls = 0;
-    const said = rows.filter(({answers}) => answers[long] !== null);
-    for (const row of said) {
+    for (const row of saidFor(long)) {
       const check = checkOf(row.check);
       for (const edge of edges(check, row.values)) {
         assert.deepEqual(bare.call(check, row.values, edge), expectedOf(row, check, long), `${row.place}, ${edge}`);
         ++calls;
       }
     }
-    t.diagnostic(`${said.length} of ${rows.length} rows, ${calls} calls`);
-  });
-
-  test(`the wrapper, long ${long}`, async (t) => {
-    const ostrel = await load({encoding: 'latin1', long});
-    const said = rows.filter(({answers}) => answers[long] !== null);
-    for (const row of said) {
-      const check = checkOf(row.check);
-      const expected = expectedOf(row, check, long);
-      const verdict = ostrel.judge(row.check, ...row.values);
-      assert.deepEqual(
-        {code: verdict.code, out: verdict.lines.join(''), err: verdict.stderr.join(''),
-          after: Object.values(verdict.after)},
-        {code: expected.code, out: expected.out, err: expected.err, after: expected.after}, row.place);
-      assert.equal(verdict.valid, check.answers === 'number' ? null : expected.code === 0);
-    }
-    t.diagnostic(`${said.length} of ${rows.length} rows`);
+    t.diagnostic(`${saidFor(long).length} of ${rows.length} rows, ${calls} calls`);
   });
 }
+
+test('the wrapper', async (t) => {
+  const source = (name) => readFileSync(new URL(name, import.meta.url), 'utf8');
+  const pages = {'/blank.html': '<!doctype html><html lang="en"><title>Blank</title></html>'};
+  for (const name of ['bare.js', 'row.js', 'wrapper.js']) pages[`/tests/${name}`] = source(name);
+  for (const [name, lines] of Object.entries(files)) pages[`/${name}`] = lines;
+  const base = await serve(t, {pages});
+  const browser = await started(t);
+  const page = await opened(t, browser, `${base}/blank.html`);
+  for (const long of [32, 64]) {
+    const here = await judgedRows(load, rows, long);
+    const there = await page.evaluate(async ([names, bits]) => {
+      const [{load: loadThere}, {judgedRows: judgedThere}, {rowsOf}] =
+        await Promise.all(['/ostrel/index.js', '/tests/wrapper.js', '/tests/row.js'].map((name) => import(name)));
+      const all = await Promise.all(names.map(async (name) => rowsOf(name, await (await fetch(`/${name}`)).text())));
+      return judgedThere(loadThere, all.flat(), bits);
+    }, [Object.keys(files), long]);
+    assert.deepEqual(here.faults, []);
+    assert.deepEqual(there, here);
+    t.diagnostic(`long ${long}: ${rows.length} rows in Node and in Chromium, ${here.reasons} reasons`);
+  }
+  checkNetwork(page, base);
+});

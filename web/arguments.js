@@ -1,0 +1,31 @@
+// Arguments: what a caller passes, and what may be passed.
+
+export const kUnwritten = -0x80000000;  // a number that no check writes
+
+// complete adds what is only written where the caller leaves it out.
+export function complete(check, given) {
+  const values = [...given];
+  for (const {output, kind} of check.arguments.slice(given.length)) {
+    if (output) values.push(kind === 'buffer' ? '' : kUnwritten);
+  }
+  if (values.length === check.arguments.length) return values;
+  throw new TypeError(`${check.name} takes ${check.arguments.map(({name}) => name).join(', ')}`);
+}
+
+export const isText = (value) => typeof value === 'string';
+const isInteger = (value) => (value | 0) === value;
+
+const isOf = {
+  text: isText,
+  buffer: isText,
+  blocks: (value, {blocks}) => Array.isArray(value) && value.length === blocks && value.every(isText),
+  integer: isInteger,
+  integer_out: isInteger,
+  unsigned: (value) => value >>> 0 === value,
+};
+
+export function require(check, argument, value) {
+  const isNull = value === null && argument.null;
+  if (isNull ? argument.null !== 'read' : isOf[argument.kind](value, argument)) return;
+  throw new TypeError(`${check.name}: ${argument.name} is ${isNull ? 'null' : `no ${argument.kind}`}`);
+}

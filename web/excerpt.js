@@ -1,0 +1,22 @@
+// Excerpt: a value with the character at fault marked.
+
+import {placeOf} from './sentences.js';
+
+const kAround = 16;  // characters that are shown on each side
+const kHidden = '\u2022';
+
+// excerptOf makes an element that shows it. Of a secret no other character is shown.
+export function excerptOf(value, offset, encoding, isSecret) {
+  const {character, index} = placeOf(value, offset, encoding);
+  const shown = (part) => [...(isSecret ? kHidden.repeat([...part].length) : part)];
+  const before = shown(value.slice(0, index));
+  const after = shown(value.slice(index + character.length));
+  const excerpt = document.createElement('code');
+  excerpt.className = 'ostrel-excerpt';
+  excerpt.setAttribute('aria-hidden', 'true');
+  const mark = document.createElement('mark');
+  mark.textContent = character.replace(' ', '\u2423') || '\u00a0';
+  excerpt.append(before.length > kAround ? '\u2026' : '', before.slice(-kAround).join(''), mark,
+                 after.slice(0, kAround).join(''), after.length > kAround ? '\u2026' : '');
+  return excerpt;
+}

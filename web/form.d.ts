@@ -1,0 +1,13 @@
+import type {Ostrel} from './index.js';
+import type {Language} from './sentences/language.js';
+
+export interface FormOptions {
+  /** The language of what is said: a file of `ostrel/sentences/`. By default English. */
+  sentences?: Language;
+}
+
+/**
+ * Has the fields of a form that name a check judged while people type.
+ * Returns a function that ends it.
+ */
+export function attach(form: HTMLFormElement, ostrel: Ostrel, options?: FormOptions): () => void;

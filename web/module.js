@@ -1,0 +1,17 @@
+// A module of WebAssembly: given, or from beside the package.
+
+export async function compiled(given, url) {
+  if (given instanceof WebAssembly.Module) return given;
+  if (given === undefined && url.protocol === 'file:') {
+    given = await (await import('node:fs/promises')).readFile(url);
+  } else if (given === undefined) {
+    const response = await fetch(url);
+    if (!response.ok) throw new Error(`${url}: ${response.status}`);
+    given = await response.arrayBuffer();
+  }
+  try {
+    return await WebAssembly.compile(given);
+  } catch (cause) {
+    throw new Error("this page's content security policy lacks 'wasm-unsafe-eval'", {cause});
+  }
+}

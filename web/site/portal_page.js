@@ -1,0 +1,3 @@
+import {startPortal} from './portal.js';
+
+await startPortal(document.getElementById('portal'));

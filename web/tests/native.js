@@ -1,0 +1,15 @@
+// What ostrel-check says of calls, natively. OSTREL_CHECK names the program.
+
+import {spawnSync} from 'node:child_process';
+
+// Each character of a text is a byte, as in the rows of the vectors. The driver lists these channels.
+export function judgedNatively(calls, channels = []) {
+  const input = calls.map((call) => JSON.stringify(call)).join('\n');
+  const words = ['batch', '--json', '--encoding', 'latin-1', '--jobs', '2', '--channels', channels.join(' ')];
+  const {stdout, stderr} = spawnSync(process.env.OSTREL_CHECK, words,
+                                     {input, encoding: 'utf8', maxBuffer: 2 ** 30});
+  if (stdout === '') throw new Error(stderr);
+  const results = stdout.trim().split('\n').map((line) => JSON.parse(line)).filter(({check}) => check !== undefined);
+  if (results.length !== calls.length) throw new Error(`${results.length} answers to ${calls.length} calls: ${stderr}`);
+  return results;
+}

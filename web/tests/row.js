@@ -1,0 +1,38 @@
+// A row of vectors/*.ndjson, as vectors/README.md explains it. Each character of a text is one byte.
+
+function textOf(json) {
+  if (typeof json === 'string') return json;
+  if ('repeat' in json) return textOf(json.repeat).repeat(json.times);
+  return json.join.map(textOf).join('');
+}
+
+function valueOf(json) {
+  if (json === null || typeof json === 'number') return json;
+  return Array.isArray(json) ? json.map(textOf) : textOf(json);
+}
+
+// answerOf gives the answer where long has so many bits; none where the row does not say it.
+function answerOf(row, long) {
+  if (row.overflow && long === 32) return null;
+  const answer = (long === 32 && row.long32) || row;
+  return {
+    code: answer.code,
+    out: textOf(answer.out ?? ''),
+    flushed: answer.flushed ?? true,
+    err: textOf(answer.err ?? ''),
+    after: answer.after?.map(valueOf),
+    reason: answer.reason,
+  };
+}
+
+// rowsOf reads the lines of a file.
+export const rowsOf = (name, lines) => lines.split('\n').filter(Boolean).map((line, i) => {
+  const row = JSON.parse(line);
+  return {
+    place: `${name}:${i + 1}`,
+    check: row.check,
+    values: row.args.map(valueOf),
+    depends: row.overflow || row.long32 !== undefined,  // on how many bits a long has
+    answers: {32: answerOf(row, 32), 64: answerOf(row, 64)},
+  };
+});

@@ -1,0 +1,41 @@
+// Every row by the wrapper; the same in Node and in a browser.
+
+import {completed} from './bare.js';
+
+const kWritten = ['buffer', 'blocks', 'integer_out'];
+
+// held is what the arguments hold that can be written to, before the call.
+const held = (check, values) => completed(check, values).filter((_, i) => kWritten.includes(check.arguments[i].kind))
+  .map((value) => (value === -0x80000000 ? null : value));
+
+export function expectedOf(row, check, long) {
+  const {reason, ...answer} = row.answers[long];
+  return {...answer, after: answer.after ?? held(check, row.values)};
+}
+
+// mixed is a number that depends on each character of a text and on the number before.
+function mixed(number, text) {
+  for (let i = 0; i < text.length; ++i) number = Math.imul(number ^ text.charCodeAt(i), 0x01000193);
+  return number;
+}
+
+// judgedRows judges the rows that say what the answer is. It lists those that differ, and sums up the reasons.
+export async function judgedRows(load, rows, long) {
+  const ostrel = await load({encoding: 'latin1', long});
+  const faults = [];
+  let reasons = 0;
+  let sum = 0;
+  for (const row of rows.filter(({answers}) => answers[long] !== null)) {
+    const check = ostrel.checks.find(({name}) => name === row.check);
+    const {code, out, err, after} = expectedOf(row, check, long);
+    const verdict = ostrel.judge(row.check, ...row.values);
+    const found = [verdict.valid, verdict.code, verdict.lines.join(''), verdict.stderr.join(''),
+      Object.values(verdict.after)];
+    const expected = [check.answers === 'number' ? null : code === 0, code, out, err, after];
+    if (JSON.stringify(found) !== JSON.stringify(expected)) faults.push([row.place, found, expected]);
+    const reason = await verdict.reason;
+    if (reason) ++reasons;
+    sum = mixed(sum, JSON.stringify(reason));
+  }
+  return {faults, reasons, sum};
+}
