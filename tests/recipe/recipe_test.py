@@ -75,7 +75,7 @@ L3FORWARDING_check_preference 256
     "CHANGELOG.md": ("\n## ", "\n- `L3FORWARDING_check_preference`.\n"),
 }
 # What makes the rest, as CONTRIBUTING.md has it.
-GENERATORS = ["scripts/hazards", "scripts/abi --accept"]
+GENERATORS = ["scripts/hazards", "scripts/stubs", "scripts/abi --accept"]
 
 
 def run(command, folder):

@@ -1,0 +1,22 @@
+"""The checks of a home gateway's configuration values.
+
+judge, judge_many and checks belong to a session of their own, in UTF-8, whose program ends with the interpreter.
+"""
+
+from ostrel._catalogue import ArgumentOf, Check, Code
+from ostrel._errors import Error, MalformedCall, MissingProgram, OtherVersion, ProgramFailed
+from ostrel._session import DEFAULT, Session
+from ostrel._verdict import CharacterSet, Datum, Outcome, Reason, Verdict, Written
+from ostrel._version import VERSION as __version__
+from ostrel._wire import Argument, Case, Encoding, Text
+
+__all__ = [
+    "Argument", "ArgumentOf", "Case", "CharacterSet", "Check", "Code", "Datum", "Encoding", "Error", "MalformedCall",
+    "MissingProgram", "OtherVersion", "Outcome", "ProgramFailed", "Reason", "Session", "Text", "Verdict", "Written",
+    "__version__", "call", "checks", "judge", "judge_many",
+]
+
+call = DEFAULT.call
+checks = DEFAULT.checks
+judge = DEFAULT.judge
+judge_many = DEFAULT.judge_many

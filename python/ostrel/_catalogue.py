@@ -1,0 +1,100 @@
+"""The checks and what they say of their arguments, as ostrel-check list --json prints them."""
+
+import json
+from collections.abc import Callable, Iterator, Mapping
+from dataclasses import dataclass
+from functools import cached_property
+from types import MappingProxyType
+from typing import Any, Literal
+
+from ostrel._process import output_of, require_version
+
+Kind = Literal["text", "buffer", "blocks", "integer", "unsigned", "integer_out"]
+
+
+@dataclass(frozen=True)
+class ArgumentOf:
+    """ArgumentOf is what a check says of one of its arguments."""
+
+    name: str
+    kind: Kind
+    """text is only read, buffer and blocks are read and written, integer_out is written."""
+    what: str
+    unit: str | None
+    is_secret: bool
+    """Not to be shown or logged."""
+    is_output_only: bool
+    """Nothing needs to be given."""
+    constraints: Mapping[str, Any] | None
+    """What a value must be, as far as the description of the check proves it. The members are those of
+    ostrel-check list --schema; in their texts each character is the byte of the same number."""
+
+
+@dataclass(frozen=True)
+class Code:
+    """Code is a result code."""
+
+    code: int
+    name: str
+    meaning: str
+
+
+@dataclass(frozen=True)
+class Check:
+    """Check is what is known of a check."""
+
+    name: str
+    family: str
+    declaration: str
+    """As C declares it."""
+    rule: str
+    """What is accepted, or what the number answered is."""
+    answers: Literal["code", "number"]
+    arguments: tuple[ArgumentOf, ...]
+    codes: tuple[Code, ...]
+
+
+def _check_of(row: dict[str, Any]) -> Check:
+    arguments = tuple(
+        ArgumentOf(name=argument["name"], kind=argument["kind"], what=argument["what"], unit=argument.get("unit"),
+                   is_secret=argument.get("secret", False), is_output_only=argument["output_only"],
+                   constraints=_frozen(argument.get("constraints")))
+        for argument in row["arguments"])
+    codes = tuple(Code(**code) for code in row["codes"])
+    return Check(name=row["name"], family=row["family"], declaration=row["declaration"], rule=row["rule"],
+                 answers=row["answers"], arguments=arguments, codes=codes)
+
+
+def _frozen(value: Any) -> Any:
+    if isinstance(value, dict):
+        return MappingProxyType({name: _frozen(member) for name, member in value.items()})
+    if isinstance(value, list):
+        return tuple(map(_frozen, value))
+    return value
+
+
+def read_catalogue(program: str) -> dict[str, Check]:
+    """read_catalogue asks the program for all checks."""
+    require_version(program)
+    rows = json.loads(output_of(program, "list", "--json"))["checks"]
+    return {row["name"]: _check_of(row) for row in rows}
+
+
+class Catalogue(Mapping[str, Check]):
+    """Catalogue is every check by its name. The program is asked when the first one is looked up."""
+
+    def __init__(self, find_program: Callable[[], str]) -> None:
+        self._find_program = find_program
+
+    @cached_property
+    def _checks(self) -> dict[str, Check]:
+        return read_catalogue(self._find_program())
+
+    def __getitem__(self, name: str) -> Check:
+        return self._checks[name]
+
+    def __iter__(self) -> Iterator[str]:
+        return iter(self._checks)
+
+    def __len__(self) -> int:
+        return len(self._checks)

@@ -1,0 +1,158 @@
+"""A session: a co-process, for as many threads as there are, and again after it was killed or the caller forked."""
+
+import itertools
+import os
+import threading
+import weakref
+from collections.abc import Iterable, Iterator, Mapping, Sequence
+from functools import partial
+from types import TracebackType
+from typing import Any, Self
+
+from ostrel._calls import Calls
+from ostrel._catalogue import Catalogue, Check
+from ostrel._errors import MalformedCall, ProgramFailed
+from ostrel._process import Ended, Process, find_program
+from ostrel._verdict import Verdict
+from ostrel._wire import Argument, Case, Encoding
+
+_MOST_ATTEMPTS = 3
+
+
+class _Owner:
+    """_Owner keeps the process, and outlives the session that is to end it."""
+
+    def __init__(self) -> None:
+        self.lock = threading.Lock()
+        self.process: Process | None = None
+
+    def close(self) -> None:
+        with self.lock:
+            if self.process is not None:
+                self.process.close()
+            self.process = None
+
+    def begin_again(self) -> None:
+        """begin_again is called in a child: the process is the parent's, and who held the lock is not here."""
+        self.lock = threading.Lock()
+        if self.process is not None:
+            self.process.forget()
+        self.process = None
+
+
+_owners: weakref.WeakSet[_Owner] = weakref.WeakSet()
+
+
+def _begin_again() -> None:
+    for owner in list(_owners):
+        owner.begin_again()
+
+
+os.register_at_fork(after_in_child=_begin_again)
+
+
+class Session(Calls):
+    """Session judges values by a program of its own, which it starts when the first value comes, and again when
+    that program was killed. Threads may share a session; a process that was forked starts a program of its own.
+
+    program     the path or the name of ostrel-check; otherwise that of the environment variable OSTREL_CHECK, or
+                the first on the PATH
+    encoding    how a str becomes the bytes that are judged, and what is printed a str; bytes are passed as they are
+    limit_time  the seconds after which a call is given up; the program's default is 2
+    channels    what the wireless driver would answer, where there is none
+
+    checks has every check by its name, with its arguments and their constraints.
+    """
+
+    def __init__(self, program: str | None = None, *, encoding: Encoding = "utf-8",
+                 limit_time: float | None = None, channels: Iterable[int] | None = None) -> None:
+        if encoding not in ("utf-8", "latin-1"):
+            raise ValueError(f'the encoding is "utf-8" or "latin-1", not {encoding!r}')
+        # What makes another session like this one.
+        self._parameters = {"program": program, "encoding": encoding, "limit_time": limit_time,
+                            "channels": None if channels is None else (channels := tuple(channels))}
+        self._program = program
+        self._encoding: Encoding = encoding
+        self._options: list[str] = []
+        if limit_time is not None:
+            self._options += ["--limit-time", str(limit_time)]
+        if channels is not None:
+            self._options += ["--channels", " ".join(map(str, channels))]
+        self.checks: Mapping[str, Check] = Catalogue(lambda: find_program(program))
+        self._owner = _Owner()
+        _owners.add(self._owner)
+        weakref.finalize(self, self._owner.close)
+
+    def __reduce__(self) -> str | tuple[Any, ...]:
+        """__reduce__ makes a session of another process: the one of the module is that process's own."""
+        return "DEFAULT" if self is DEFAULT else (partial(type(self), **self._parameters), ())
+
+    def __repr__(self) -> str:
+        return f"<{type(self).__name__} of {self._program or 'ostrel-check'}, {self._encoding}>"
+
+    def __enter__(self) -> Self:
+        return self
+
+    def __exit__(self, kind: type[BaseException] | None, error: BaseException | None,
+                 trace: TracebackType | None) -> None:
+        self.close()
+
+    def close(self) -> None:
+        """close ends the program. A later call starts another one."""
+        self._owner.close()
+
+    @property
+    def pid(self) -> int | None:
+        """The process id of the program; None while there is none."""
+        process = self._owner.process
+        return None if process is None else process.pid
+
+    def call(self, check: str, arguments: Iterable[Argument]) -> Verdict:
+        """call is judge for a check whose name is known only when the program runs."""
+        (verdict,) = self._answer([(check, *arguments)])
+        if verdict.verdict == "malformed":
+            raise MalformedCall(verdict.meaning)
+        return verdict
+
+    def judge_many(self, cases: Iterable[Case], *, block: int = 4096) -> Iterator[Verdict]:
+        """judge_many judges cases, each the name of a check and its arguments, and yields the verdicts in their
+        order. It takes a block of them at a time and asks for the next one when those verdicts are used up. A case
+        that cannot be called has the verdict "malformed", so that one bad record does not end all."""
+        if block < 1:
+            raise ValueError("a block has at least one case")
+        return self._answer_blocks(iter(cases), block)
+
+    def _answer_blocks(self, cases: Iterator[Case], size: int) -> Iterator[Verdict]:
+        while block := list(itertools.islice(cases, size)):
+            yield from self._answer(block)
+
+    def _answer(self, cases: Sequence[Case]) -> list[Verdict]:
+        """_answer judges all cases: those that a process left behind when it ended, by another one."""
+        verdicts: list[Verdict] = []
+        attempts = 0
+        owner = self._owner
+        with owner.lock:
+            while len(verdicts) < len(cases):
+                answered = len(verdicts)
+                if owner.process is None:
+                    owner.process = Process(find_program(self._program), self._encoding, self._options)
+                process = owner.process
+                try:
+                    process.answer(cases, verdicts)
+                except Ended:
+                    owner.process = None
+                    ending = process.abandon()
+                    attempts = 1 if len(verdicts) > answered else attempts + 1
+                    if attempts == _MOST_ATTEMPTS:
+                        raise ProgramFailed(f"ostrel-check ended {attempts} times at {cases[len(verdicts)]!r:.200}, "
+                                            f"the last time with {ending}") from None
+                except BaseException:
+                    # Answers to what was asked may still be on their way.
+                    owner.process = None
+                    process.abandon()
+                    raise
+        return verdicts
+
+
+# The session of the module.
+DEFAULT = Session()

@@ -1,0 +1,188 @@
+"""What a check answered, read from a line of ostrel-check."""
+
+import base64
+import json
+import re
+from collections.abc import Mapping
+from dataclasses import dataclass, field
+from types import MappingProxyType
+from typing import Any, Literal, TypeVar
+
+from ostrel._errors import Error, MalformedCall
+
+T = TypeVar("T")
+
+Outcome = Literal["accepted", "refused", "answer", "ended", "no_return", "no_driver", "malformed"]
+
+
+@dataclass(frozen=True)
+class CharacterSet:
+    """CharacterSet is a set of bytes: in words, and its members in one text."""
+
+    text: str
+    members: str
+
+
+Datum = int | str | CharacterSet | tuple[int | str, ...] | None
+Written = int | str | tuple[str, ...] | None
+
+NOTHING: Mapping[str, Written] = MappingProxyType({})
+
+
+@dataclass(frozen=True, repr=False)
+class Reason:
+    """Reason says why a value is refused. What does not apply is None."""
+
+    id: str
+    """What is wrong, as a word that stays the same."""
+    text: str
+    """The sentence for the user."""
+    argument: str | None = None
+    """The name of the argument."""
+    part: str | None = None
+    """The part of it that is meant, in words."""
+    conversion: str | None = None
+    """What was done to the text before it was judged; offset counts in the text that was made."""
+    item: int | None = None
+    """The item of a list, or the key of a block, counted from 0."""
+    item_text: str | None = None
+    """That item, unless it is empty or a secret."""
+    offset: int | None = None
+    """A byte of the text, or of the key, counted from 0."""
+    found: Datum = None
+    """A number, a text, or the byte at offset; None for a secret."""
+    allowed: Datum = None
+    """A limit, two limits, a list, or the members of a set."""
+    read_as: int | None = None
+    """The number that this gateway reads, where the text is more than that number."""
+    limit: str | None = None
+    """The id that the number read has, where an int does not hold the number in the text."""
+
+    def __repr__(self) -> str:
+        members = ", ".join(f"{name}={value!r}" for name, value in self.__dict__.items())
+        return f"Reason({members})"
+
+
+@dataclass(frozen=True, repr=False)
+class Verdict:
+    """Verdict is what a check answered. It is true if the value was accepted, and false if it was refused or the
+    call ended its process or did not return. A number is neither, so that the truth of one raises TypeError; that
+    of a malformed call raises MalformedCall, and that of a channel which was not judged for want of a driver Error."""
+
+    verdict: Outcome
+    code: int | None
+    """The result code, or the number answered. None where the call ended, did not return or was malformed."""
+    reason: Reason | None = None
+    """Why the call was refused, ended or did not return."""
+    lines: tuple[str, ...] = ()
+    """What the check printed, line by line; each has its line end."""
+    err: str = ""
+    """What was written to standard error, such as a failed assertion."""
+    after: Mapping[str, Written] = field(default_factory=lambda: NOTHING, hash=False)
+    """What each argument holds that the check may write to, by its name."""
+    meaning: str = ""
+    """What the code means, or how the call ended."""
+    remarks: tuple[Reason, ...] = ()
+    """The steps that printed a line and went on, before the one that decided."""
+    flushed: bool = True
+    """Whether all that was printed had been flushed when the call returned."""
+    cut: bool = False
+    """Whether more was printed than lines has."""
+
+    def __bool__(self) -> bool:
+        if self.verdict == "answer":
+            raise TypeError(f"the check answers with a number, {self.code}, which is neither true nor false; "
+                            "compare the code")
+        if self.verdict == "malformed":
+            raise MalformedCall(self.meaning)
+        if self.verdict == "no_driver":
+            raise Error(str(self))
+        return self.verdict == "accepted"
+
+    def __repr__(self) -> str:
+        return f"<Verdict {self}>"
+
+    def __str__(self) -> str:
+        if self.verdict == "accepted":
+            return "accepted"
+        if self.verdict == "answer":
+            return f"answer {self.code}"
+        why = "" if self.reason is None else f": {self.reason.text}"
+        if self.verdict == "refused":
+            return f"refused with {self.code}, {self.meaning}{why}"
+        return f"{self.verdict}: {self.meaning}{why}"
+
+    def __reduce__(self) -> tuple[Any, ...]:
+        return _restored, ({**self.__dict__, "after": dict(self.after)},)
+
+
+def _restored(members: dict[str, Any]) -> Verdict:
+    members["after"] = MappingProxyType(members["after"])
+    return _made(Verdict, members)
+
+
+def text_of(value: Any) -> str:
+    """text_of returns a text of a result. Bytes that are not UTF-8 come as base64, and become what the error
+    handler surrogateescape makes of them; an argument takes them back as the same bytes."""
+    if isinstance(value, str):
+        return value
+    return base64.b64decode(value["base64"]).decode("utf-8", "surrogateescape")
+
+
+def _datum(value: Any) -> Any:
+    if isinstance(value, list):
+        return tuple(map(_datum, value))
+    if isinstance(value, dict):
+        return CharacterSet(value["text"], text_of(value["members"])) if "members" in value else text_of(value)
+    return value
+
+
+def _reason(members: dict[str, Any]) -> Reason:
+    for name, value in members.items():
+        if isinstance(value, (dict, list)):
+            members[name] = _datum(value)
+    return _made(Reason, members)
+
+
+def _made(kind: type[T], members: dict[str, Any]) -> T:
+    """_made makes an object of a frozen class. To set each member by a call takes longer than all the rest."""
+    made = object.__new__(kind)
+    object.__setattr__(made, "__dict__", members)
+    return made
+
+
+_LINE = re.compile(r"[^\n]*\n|[^\n]+")
+
+# Verdicts without anything of their own, by their line: at most one for each check.
+_plain: dict[str, Verdict] = {}
+
+
+def verdicts_of(lines: list[str]) -> list[Verdict]:
+    """verdicts_of reads lines of ostrel-check batch --stream. Each begins with the number of the record, without
+    which the results of many records are the same."""
+    lines = ["{" + line[line.index(",") + 1:] for line in lines]
+    known = [_plain.get(line) for line in lines]
+    # One document of many results is read in two thirds of the time that they take one by one.
+    rest = [line for line, verdict in zip(lines, known) if verdict is None]
+    rows = json.loads(f"[{','.join(rest)}]")
+    made = (_verdict(line, row) for line, row in zip(rest, rows, strict=True))
+    return [next(made) if verdict is None else verdict for verdict in known]
+
+
+def _verdict(line: str, row: dict[str, Any]) -> Verdict:
+    row.pop("check", None)
+    out = row.pop("out", "")
+    after = row.get("after")
+    if out:
+        row["lines"] = tuple(_LINE.findall(text_of(out)))
+    row["after"] = MappingProxyType({name: _datum(value) for name, value in after.items()}) if after else NOTHING
+    if row.get("err"):
+        row["err"] = text_of(row["err"])
+    if "reason" in row:
+        row["reason"] = _reason(row["reason"])
+    if "remarks" in row:
+        row["remarks"] = tuple(map(_reason, row["remarks"]))
+    verdict = _made(Verdict, row)
+    if verdict.verdict == "accepted" and not out and not after:
+        _plain[line] = verdict
+    return verdict

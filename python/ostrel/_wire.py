@@ -1,0 +1,64 @@
+"""Cases as lines of JSON, as ostrel-check reads them."""
+
+import base64
+import json
+from collections.abc import Callable, Iterable, Sequence
+from typing import Literal
+
+Encoding = Literal["utf-8", "latin-1"]
+Text = str | bytes
+Texts = list[str] | list[bytes] | tuple[Text, ...]
+Argument = Text | int | Texts | None
+Case = Sequence[Argument]
+Quote = Callable[[str], str]
+
+# Characters beyond ASCII stay as they are: to escape them would take both sides longer.
+_quoted: Quote = json.JSONEncoder(ensure_ascii=False).encode
+_escaped: Quote = json.JSONEncoder().encode
+
+
+def _token_of_bytes(value: bytes) -> str:
+    if value.isascii():
+        return _quoted(value.decode("ascii"))
+    return '{"base64":"%s"}' % base64.b64encode(value).decode("ascii")
+
+
+def _token(value: object, quote: Quote) -> str:
+    if isinstance(value, str):
+        return quote(value)
+    if isinstance(value, (bytes, bytearray)):
+        return _token_of_bytes(value)
+    if value is None:
+        return "null"
+    # The truth of something is a number to Python, and hardly what was meant.
+    if isinstance(value, int) and not isinstance(value, bool):
+        return int.__repr__(value)
+    if isinstance(value, (list, tuple)):
+        return "[%s]" % ",".join([_token(item, quote) for item in value])
+    raise TypeError(f"an argument is str, bytes, int, None or a list of texts, not {type(value).__name__}")
+
+
+def _line(case: Case, quote: Quote) -> str:
+    if not isinstance(case, (tuple, list)) or not case or not isinstance(case[0], str):
+        raise TypeError(f"a case is a tuple of the name of a check and its arguments, not {case!r:.100}")
+    arguments = [_quoted(item) if type(item) is str and quote is _quoted else _token(item, quote)
+                 for item in case[1:]]
+    return '{"check":%s,"args":[%s]}\n' % (quote(case[0]), ",".join(arguments))
+
+
+def _token_of_surrogates(text: str) -> str:
+    """_token_of_surrogates turns what the error handler surrogateescape made of bytes into these bytes again. Any
+    other lone surrogate is left to the program, which says what is wrong with it."""
+    try:
+        return _token_of_bytes(text.encode("utf-8", "surrogateescape"))
+    except UnicodeEncodeError:
+        return _escaped(text)
+
+
+def lines_of(cases: Iterable[Case], encoding: Encoding) -> bytes:
+    """lines_of writes a line for each case."""
+    try:
+        return "".join([_line(case, _quoted) for case in cases]).encode()
+    except UnicodeEncodeError:
+        quote = _token_of_surrogates if encoding == "utf-8" else _escaped
+        return "".join([_line(case, quote) for case in cases]).encode()

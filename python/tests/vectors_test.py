@@ -1,0 +1,91 @@
+"""Every vector, as bytes and as texts of both encodings.
+
+usage: vectors_test.py OSTREL_CHECK SOURCE_DIR
+"""
+
+import unittest
+
+import support
+
+import ostrel
+
+# Texts that are longer say nothing of their encoding, and most of the time would go to them.
+LONG = 1 << 16
+
+
+def carried(value, form):
+    """carried is an argument of a vector as a session takes it."""
+    if isinstance(value, list):
+        return [carried(text, form) for text in value]
+    if not isinstance(value, str) or form == "latin-1":
+        return value
+    content = value.encode("latin-1")
+    return content if form == "bytes" else content.decode("utf-8", "surrogateescape")
+
+
+def plain(value, encoding):
+    """plain is a text of a verdict as the vectors have it."""
+    if isinstance(value, (list, tuple)):
+        return [plain(text, encoding) for text in value]
+    if not isinstance(value, str) or encoding == "latin-1":
+        return value
+    return value.encode("utf-8", "surrogateescape").decode("latin-1")
+
+
+def members(row):
+    """members is what a vector says."""
+    reason = row.get("reason", {})
+    return (row["code"], support.text_of(row.get("out", "")), support.text_of(row.get("err", "")),
+            row.get("flushed", True), support.text_of(row.get("after")), reason)
+
+
+def found(row, verdict, encoding):
+    """found is the same of a verdict, as far as the vector says anything of it."""
+    after = plain(list(verdict.after.values()), encoding) if "after" in row else None
+    reason = {name: plain(getattr(verdict.reason, name), encoding) for name in row.get("reason", {})}
+    return (verdict.code, plain("".join(verdict.lines), encoding), plain(verdict.err, encoding), verdict.flushed,
+            after, reason)
+
+
+class Vectors(unittest.TestCase):
+    def setUp(self):
+        self.rows = [(place, row, [support.text_of(value) for value in row["args"]])
+                     for place, row in support.vectors()]
+        self.assertGreater(len(self.rows), 7000)
+
+    def judge(self, form, encoding, rows):
+        """judge returns the verdicts, each of which agrees with its vector."""
+        with ostrel.Session(encoding=encoding) as session:
+            cases = ((row["check"], *(carried(value, form) for value in values)) for _, row, values in rows)
+            verdicts = list(session.judge_many(cases))
+        self.assertEqual(len(rows), len(verdicts))
+        judged = [(place, row, verdict) for (place, row, _), verdict in zip(rows, verdicts)
+                  if (row["check"], verdict.verdict) != ("WLAN_check_channel", "no_driver")]
+        print(f"{len(rows) - len(judged)} vectors need the wireless driver, and were not judged")
+        self.assertGreaterEqual(len(judged), len(rows) - 108)
+        wrong = [(place, members(row), found(row, verdict, encoding)) for place, row, verdict in judged
+                 if members(row) != found(row, verdict, encoding)]
+        self.assertEqual([], [repr(one)[:1000] for one in wrong])
+        return verdicts
+
+    def test_as_bytes(self):
+        verdicts = self.judge("bytes", "utf-8", self.rows)
+        print(f"all {len(verdicts)} vectors as bytes")
+        self.assertLessEqual({"accepted", "refused", "answer"}, {verdict.verdict for verdict in verdicts})
+        self.assertTrue(any(verdict.after for verdict in verdicts))
+        self.assertTrue(any(verdict.remarks for verdict in verdicts))
+        self.assertTrue(any(isinstance(verdict.reason and verdict.reason.allowed, ostrel.CharacterSet)
+                            for verdict in verdicts))
+
+    def test_as_texts(self):
+        short = [row for row in self.rows if sum(len(value or "") for value in row[2] if not isinstance(value, int))
+                 <= LONG]
+        self.assertGreater(len(short), 6900)
+        for encoding in ("utf-8", "latin-1"):
+            self.judge(encoding, encoding, short)
+            print(f"{len(short)} vectors as texts in {encoding}; {len(self.rows) - len(short)} are longer than "
+                  f"{LONG} characters, which bytes alone carry here")
+
+
+if __name__ == "__main__":
+    support.main()
