@@ -12,7 +12,7 @@ import sys
 import tempfile
 import unittest
 
-PACKAGES = ["libostrel-check", "libostrel-check-dev", "ostrel-check"]
+PACKAGES = ["libostrel-check", "libostrel-check-dev", "ostrel-check", "python3-ostrel"]
 
 
 def run(*command, **variables):
@@ -37,7 +37,8 @@ class Debian(unittest.TestCase):
         (root / "var/lib/dpkg/updates").mkdir(parents=True, exist_ok=True)
         (root / "var/lib/dpkg/info").mkdir(exist_ok=True)
         (root / "var/lib/dpkg/status").touch()
-        return run("dpkg", "--root=%s" % root, "--force-not-root", "--force-depends", "--log=/dev/null", *arguments,
+        return run("dpkg", "--root=%s" % root, "--force-not-root", "--force-depends",
+                   "--force-script-chrootless", "--log=/dev/null", *arguments,
                    PATH=os.environ["PATH"] + ":/usr/sbin:/sbin")
 
     def test_installed_and_removed_again(self):
@@ -47,6 +48,12 @@ class Debian(unittest.TestCase):
         self.assertIn("PARAM_check_port",
                       run(root / "usr/bin/ostrel-check", "list", LD_LIBRARY_PATH=library.parent))
         self.assertTrue((root / "usr/include/ostrel/check.h").is_file())
+        self.assertEqual("accepted\n", run("/usr/bin/python3", "-B", "-c", "import ostrel\n"
+                                           "print(ostrel.judge('PARAM_check_port', '80'))",
+                                           PYTHONPATH=root / "usr/lib/python3/dist-packages",
+                                           OSTREL_CHECK=root / "usr/bin/ostrel-check", LD_LIBRARY_PATH=library.parent))
+        self.assertIn("--ostrel-check=PATH", run("/usr/bin/python3", "-B", "-m", "pytest", "--help",
+                                                 PYTHONPATH=root / "usr/lib/python3/dist-packages"))
         self.dpkg("--purge", *PACKAGES)
         self.assertEqual([], [str(path) for path in root.rglob("*")
                               if path.is_file() and "var/lib/dpkg" not in str(path)])
@@ -59,6 +66,7 @@ class Debian(unittest.TestCase):
         self.assertEqual(["libc6"], depends("libostrel-check"))
         self.assertEqual(["libostrel-check"], depends("libostrel-check-dev"))
         self.assertEqual({"libostrel-check", "libc6", "libgcc-s1", "libstdc++6"}, set(depends("ostrel-check")))
+        self.assertEqual(["ostrel-check", "python3"], depends("python3-ostrel"))
 
     def test_no_search_path_of_its_own(self):
         for name in ("usr/bin/ostrel-check", "usr/lib/libostrel_check.so"):
@@ -71,7 +79,8 @@ class Debian(unittest.TestCase):
                     for file in self.files for package in PACKAGES if file.name.startswith(package + "_")}
         for package, names in {"libostrel-check": ["SECURITY.md", "hazards.md"],
                                "libostrel-check-dev": ["compatibility.md", "reference.md", "examples/configd.c"],
-                               "ostrel-check": ["examples/home-gateway.txt", "examples/trouble/trouble.txt"]}.items():
+                               "ostrel-check": ["examples/home-gateway.txt", "examples/trouble/trouble.txt"],
+                               "python3-ostrel": ["python.md"]}.items():
             for name in [*names, "changelog", "changelog.Debian", "copyright"]:
                 self.assertRegex(contents[package], r"(?m)/usr/share/doc/%s/%s(\.gz)?$" % (package, re.escape(name)))
         for file in self.files:
