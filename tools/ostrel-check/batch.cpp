@@ -163,7 +163,8 @@ class Batch {
             where += " of ";
             append_escaped(where, rules_->files[file_], kLongestText);
         }
-        if (is_within_line_) {
+        // With a map, it cannot go on within a gateway.
+        if (is_within_line_ || rules_->reading.map != nullptr) {
             say(where + ", after " + std::to_string(summary_.tally().sum()) + " records in all\n");
             return exit_code_of_stop();
         }
