@@ -50,8 +50,13 @@ def words(found, text):
             yield token.offset, token.end, SETS[(SETS.index(token.text) + 1) % len(SETS)]
 
 
+def heard(found):
+    """heard gives all tokens but the texts that a refusal does not say."""
+    return [token for i, token in enumerate(found) if token.kind != "string" or callee(found, i) not in SAID_ELSEWHERE]
+
+
 def phrases(found, text):
-    for token in found:
+    for token in heard(found):
         for one, other in PHRASES if token.kind == "string" else []:
             for old, new in ((one, other), (other, one)):
                 for match in re.finditer(r"(?<!\w)%s(?!\w)" % old, token.text):
@@ -59,9 +64,7 @@ def phrases(found, text):
 
 
 def texts(found, text):
-    heard = [token for i, token in enumerate(found)
-             if token.kind != "string" or callee(found, i) not in SAID_ELSEWHERE]
-    yield from strings(heard, text)
+    yield from strings(heard(found), text)
 
 
 def steps(found):
