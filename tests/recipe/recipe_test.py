@@ -132,7 +132,8 @@ class Copy:
             name, *lines = part.splitlines()
             needed = {os.path.normpath(BUILD / line.strip()) for line in lines}
             found = re.match(r"(\S+\.o): #deps .*\(VALID\)", name)
-            if found and not needed & others and not any(path.startswith(str(BUILD)) for path in needed):
+            generated = [path for path in needed if path.startswith(str(BUILD)) and "/cmake_pch." not in path]
+            if found and not needed & others and not generated:
                 (made / found[1]).parent.mkdir(parents=True, exist_ok=True)
                 (made / found[1]).symlink_to(BUILD / found[1])
 
