@@ -127,11 +127,10 @@ CLI::App* add_list(CLI::App& app, Options& options)
     return list;
 }
 
-const std::map<std::string, Format> kFormatsOut = {
-    {"text", Format::kTable}, {"ndjson", Format::kJson}, {"csv", Format::kCsv}};
-
 CLI::App* add_batch(CLI::App& app, Options& options)
 {
+    const std::map<std::string, Format> formats = {
+        {"text", Format::kTable}, {"ndjson", Format::kJson}, {"csv", Format::kCsv}};
     CLI::App* batch =
         add_command(app, "batch", "Judge the cases of files, or of standard input", batch_help());
     CLI::Option* json =
@@ -144,7 +143,7 @@ CLI::App* add_batch(CLI::App& app, Options& options)
     add_reading(*batch, options.rules.reading);
     batch->add_flag("--with-args", options.rules.style.with_args, "Repeat the arguments in JSON and CSV");
     batch->add_option("--format-out", options.rules.style.format, "How results are written (text)")
-        ->transform(CLI::Transformer(kFormatsOut).description(""))
+        ->transform(CLI::Transformer(formats).description(""))
         ->type_name("text|ndjson|csv")
         ->excludes(json)
         ->excludes(stream);

@@ -10,13 +10,6 @@ namespace ostrel::tool {
 
 namespace {
 
-const std::map<std::string, FileFormat> kFormats = {{"words", FileFormat::kWords},
-                                                    {"ndjson", FileFormat::kNdjson},
-                                                    {"csv", FileFormat::kCsv},
-                                                    {"tsv", FileFormat::kTsv},
-                                                    {"json", FileFormat::kJson}};
-const std::map<std::string, Encoding> kEncodings = {{"utf-8", Encoding::kUtf8},
-                                                    {"latin-1", Encoding::kLatin1}};
 std::string one_byte(const std::string& given)
 {
     const std::string delimiter = read_escapes(given);
@@ -29,11 +22,18 @@ std::string one_byte(const std::string& given)
 
 void add_reading(CLI::App& batch, Reading& reading)
 {
+    const std::map<std::string, FileFormat> formats = {{"words", FileFormat::kWords},
+                                                       {"ndjson", FileFormat::kNdjson},
+                                                       {"csv", FileFormat::kCsv},
+                                                       {"tsv", FileFormat::kTsv},
+                                                       {"json", FileFormat::kJson}};
+    const std::map<std::string, Encoding> encodings = {{"utf-8", Encoding::kUtf8},
+                                                       {"latin-1", Encoding::kLatin1}};
     batch.add_option("--format", reading.format, "Of the files; by name or first bytes if not given")
-        ->transform(CLI::Transformer(kFormats).description(""))
+        ->transform(CLI::Transformer(formats).description(""))
         ->type_name("words|ndjson|csv|tsv|json");
     batch.add_option("--encoding", reading.encoding, "Of the values (utf-8)")
-        ->transform(CLI::Transformer(kEncodings).description(""))
+        ->transform(CLI::Transformer(encodings).description(""))
         ->type_name("utf-8|latin-1");
     batch
         .add_option_function<std::string>(

@@ -134,6 +134,8 @@ void explain_lack(Result& result, const Record& record)
     result.why.text = record.problem;
 }
 
+namespace {
+
 // write_lack says why there was no call, although nothing is wrong with the record.
 void write_lack(JsonWriter& json, const Record& record)
 {
@@ -149,6 +151,8 @@ void write_lack(JsonWriter& json, const Record& record)
     write("text", record.problem);
     json.EndObject();
 }
+
+}  // namespace
 
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding)
 {

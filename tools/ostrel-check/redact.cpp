@@ -139,7 +139,7 @@ void Redactor::redact_lines(Result& result)
     result.printed.flushed = is_flushed ? result.printed.out.size() : 0;
 }
 
-void Redactor::redact_reasons(Result& result) const
+void Redactor::redact_reasons(Result& result)
 {
     if (result.why.text.empty()) return;
     const rules::Check& check = *result.function->check;

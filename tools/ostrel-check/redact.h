@@ -23,7 +23,7 @@ class Redactor {
  private:
     void find_secrets(const Result& result, Encoding encoding);
     void redact_lines(Result& result);
-    void redact_reasons(Result& result) const;
+    static void redact_reasons(Result& result);
     void redact_members(Result& result);
     [[nodiscard]] bool mentions_secret(std::string_view text) const;
     [[nodiscard]] bool holds_secret(const Member& member) const;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "reason.h"
 #include "show.h"
 
 namespace ostrel::tool {

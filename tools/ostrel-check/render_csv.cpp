@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "json_writer.h"
-#include "reason.h"
 #include "render.h"
 
 namespace ostrel::tool {

@@ -106,7 +106,8 @@ void Slot::conclude(Verdict verdict, std::string problem)
             cases_.read(text, progress.part);
             result.function = cases_.function();
         } catch (const std::exception&) {
-            // A record that cannot be read ends no worker; should it do so all the same, the verdict stands.
+            // A record that cannot be read ends no worker.
+            result.function = nullptr;
         }
         result.values = &cases_.values();
         result.record = &cases_.record();

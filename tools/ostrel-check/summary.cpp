@@ -23,12 +23,12 @@ void Summary::add(const Counted& counted)
     without_example.example = {};
     auto& parameters = check.parameters;
     const auto found = parameters.find(row.parameter);
-    if (counted.is_others) {
+    const bool is_beyond = found == parameters.end() && parameters.size() == kMostParameters &&
+                           row.parameter > parameters.rbegin()->first;
+    if (counted.is_others || is_beyond) {
         add(check.others, without_example, counted.count);
     } else if (found != parameters.end()) {
         add(found->second, row, counted.count);
-    } else if (parameters.size() == kMostParameters && row.parameter > parameters.rbegin()->first) {
-        add(check.others, without_example, counted.count);
     } else {
         add(parameters[std::string(row.parameter)], row, counted.count);
         if (parameters.size() <= kMostParameters) return;

@@ -3,8 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "driver.h"
 #include "read/cases.h"
@@ -18,9 +18,9 @@ namespace {
 // Judge judges records, with the same memory again and again.
 class Judge {
  public:
-    Judge(Arena& arena, const Style& style, const Reading& reading, const std::vector<std::string>& files)
+    Judge(Arena& arena, Style style, const Reading& reading, const std::vector<std::string>& files)
         : arena_(&arena),
-          style_(style),
+          style_(std::move(style)),
           files_(&files),
           capture_(arena.prints),
           cases_(reading),

@@ -153,56 +153,56 @@ void Document::complain(const std::string& pointer, std::string_view problem) co
                                 (pointer.empty() ? "" : pointer + ": ") + std::string(problem));
 }
 
-void Document::require_members(const std::string& at, const ordered_json& object,
+void Document::require_members(const std::string& pointer, const ordered_json& object,
                                std::initializer_list<std::string_view> names) const
 {
-    if (!object.is_object()) complain(at, "it is not an object");
+    if (!object.is_object()) complain(pointer, "it is not an object");
     for (const auto& [name, value] : object.items()) {
         if (std::ranges::find(names, name) == names.end())
-            complain(at + "/" + name, "there is no such member");
+            complain(pointer + "/" + name, "there is no such member");
     }
 }
 
-std::string Document::text(const std::string& at, const ordered_json& object, const char* name,
+std::string Document::text(const std::string& pointer, const ordered_json& object, const char* name,
                            bool is_needed) const
 {
     const auto found = object.find(name);
     if (found == object.end()) {
-        if (is_needed) complain(at, std::string("\"") + name + "\" is missing");
+        if (is_needed) complain(pointer, std::string("\"") + name + "\" is missing");
         return "";
     }
-    return text_of(at + "/" + name, *found);
+    return text_of(pointer + "/" + name, *found);
 }
 
-std::string Document::text_of(const std::string& at, const ordered_json& value) const
+std::string Document::text_of(const std::string& pointer, const ordered_json& value) const
 {
-    if (!value.is_string()) complain(at, "it is not a text");
+    if (!value.is_string()) complain(pointer, "it is not a text");
     std::string result = value.get<std::string>();
-    if (result.find('\0') != std::string::npos) complain(at, "a value cannot hold U+0000");
+    if (result.find('\0') != std::string::npos) complain(pointer, "a value cannot hold U+0000");
     return result;
 }
 
-const ordered_json& Document::array(const std::string& at, const ordered_json& object, const char* name,
+const ordered_json& Document::array(const std::string& pointer, const ordered_json& object, const char* name,
                                     bool is_needed) const
 {
     static const ordered_json kNone = ordered_json::array();
     const auto found = object.find(name);
     if (found == object.end()) {
-        if (is_needed) complain(at, std::string("\"") + name + "\" is missing");
+        if (is_needed) complain(pointer, std::string("\"") + name + "\" is missing");
         return kNone;
     }
-    if (!found->is_array()) complain(at + "/" + name, "it is not an array");
+    if (!found->is_array()) complain(pointer + "/" + name, "it is not an array");
     return *found;
 }
 
-std::vector<std::string> Document::texts(const std::string& at, const ordered_json& object,
+std::vector<std::string> Document::texts(const std::string& pointer, const ordered_json& object,
                                          const char* name) const
 {
     std::vector<std::string> result;
-    const ordered_json& values = array(at, object, name, false);
+    const ordered_json& values = array(pointer, object, name, false);
     result.reserve(values.size());
     for (std::size_t i = 0; i < values.size(); ++i)
-        result.push_back(text_of(at + "/" + name + "/" + std::to_string(i), values[i]));
+        result.push_back(text_of(pointer + "/" + name + "/" + std::to_string(i), values[i]));
     return result;
 }
 

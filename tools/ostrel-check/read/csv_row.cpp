@@ -16,7 +16,8 @@ std::size_t skip_quoted(std::string_view text, std::size_t at)
     for (++at;; ++at) {
         at = text.find(kQuote, at);
         if (at == std::string_view::npos) return at;
-        if (++at == text.size() || text[at] != kQuote) return at;
+        ++at;
+        if (at == text.size() || text[at] != kQuote) return at;
     }
 }
 

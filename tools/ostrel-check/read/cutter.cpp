@@ -1,7 +1,6 @@
 #include "read/cutter.h"
 
 #include <cstring>
-#include <stdexcept>
 
 #include "map/map_cutter.h"
 #include "read/csv.h"

@@ -1,6 +1,5 @@
 #include "read/encoding.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>

@@ -170,7 +170,7 @@ class JsonCutter : public Cutter {
     }
 
     // complain names the place by its column; the line is known to whoever counts the lines of the file.
-    void complain(Cut& cut, std::string problem, std::size_t at)
+    static void complain(Cut& cut, std::string problem, std::size_t at)
     {
         cut.problem = std::move(problem);
         cut.problem_at = at;

@@ -2,7 +2,6 @@
 
 #include <rapidjson/error/en.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <stdexcept>

@@ -46,7 +46,7 @@ void LineReader::read_words(std::string_view line, Record& record)
         line = encoded_;
     }
     words_.split(line);
-    std::span<const std::string> words = words_.all();
+    const std::span<const std::string> words = words_.all();
     record.check = words.front();
     for (const std::string& word : words.subspan(1)) record.items.push_back(item_of(word));
 }

@@ -2,6 +2,7 @@
 #ifndef OSTREL_TOOLS_READ_RECORD_H
 #define OSTREL_TOOLS_READ_RECORD_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -58,10 +59,8 @@ struct Record {
     // find returns the last member of that name, or NULL.
     [[nodiscard]] const Member* find(std::string_view name) const
     {
-        for (auto member = members.rbegin(); member != members.rend(); ++member) {
-            if (member->name == name) return &*member;
-        }
-        return nullptr;
+        const auto found = std::ranges::find(members.rbegin(), members.rend(), name, &Member::name);
+        return found == members.rend() ? nullptr : &*found;
     }
 };
 
