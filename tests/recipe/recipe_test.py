@@ -132,8 +132,7 @@ class Copy:
             name, *lines = part.splitlines()
             needed = {os.path.normpath(BUILD / line.strip()) for line in lines}
             found = re.match(r"(\S+\.o): #deps .*\(VALID\)", name)
-            generated = [path for path in needed if path.startswith(str(BUILD)) and "/cmake_pch." not in path]
-            if found and not needed & others and not generated:
+            if found and not needed & others and not any(path.startswith(str(BUILD)) for path in needed):
                 (made / found[1]).parent.mkdir(parents=True, exist_ok=True)
                 (made / found[1]).symlink_to(BUILD / found[1])
 
