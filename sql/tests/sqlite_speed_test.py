@@ -13,7 +13,7 @@ import sqlite_test
 
 ROWS = int(sys.argv.pop()) if len(sys.argv) > 1 and sys.argv[-1].isdigit() else 400000
 MOST = 1.5
-ROUNDS = 5
+ROUNDS = 15
 
 
 def address(source):
