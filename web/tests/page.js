@@ -38,7 +38,8 @@ export async function serve(t, {policy = kPolicy, pages = {}} = {}) {
 export async function started(t) {
   const browser = await chromium.launch({
     executablePath: process.env.OSTREL_CHROMIUM || '/usr/bin/chromium',
-    args: process.getuid() === 0 ? ['--no-sandbox'] : [],
+    // The shared memory of a container may be too small for it.
+    args: ['--disable-dev-shm-usage', ...(process.getuid() === 0 ? ['--no-sandbox'] : [])],
   });
   t.after(() => browser.close());
   return browser;
