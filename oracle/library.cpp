@@ -22,9 +22,7 @@ const Build& library_build()
     static const std::string model = chosen("OSTREL_TEST_MODEL", OSTREL_MODEL);
     static const std::string account_realm = chosen("OSTREL_TEST_ACCOUNT_REALM", OSTREL_ACCOUNT_REALM);
     static const std::string setup_realm = chosen("OSTREL_TEST_SETUP_REALM", OSTREL_SETUP_REALM);
-    static const Build build = {model, account_realm, setup_realm,
-                                sizeof(long) == 8 ? Build::Atoi::kLong64 : Build::Atoi::kLong32,
-                                std::nullopt};
+    static const Build build = {model, account_realm, setup_realm, rules::atoi_here(), std::nullopt};
     return build;
 }
 

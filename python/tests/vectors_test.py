@@ -8,6 +8,7 @@ import unittest
 import support
 
 import ostrel
+import vectors
 
 # Texts that are longer say nothing of their encoding, and most of the time would go to them.
 LONG = 1 << 16
@@ -35,8 +36,8 @@ def plain(value, encoding):
 def members(row):
     """members is what a vector says."""
     reason = row.get("reason", {})
-    return (row["code"], support.text_of(row.get("out", "")), support.text_of(row.get("err", "")),
-            row.get("flushed", True), support.text_of(row.get("after")), reason)
+    return (row["code"], vectors.text_of(row.get("out", "")), vectors.text_of(row.get("err", "")),
+            row.get("flushed", True), vectors.text_of(row.get("after")), reason)
 
 
 def found(row, verdict, encoding):
@@ -49,8 +50,8 @@ def found(row, verdict, encoding):
 
 class Vectors(unittest.TestCase):
     def setUp(self):
-        self.rows = [(place, row, [support.text_of(value) for value in row["args"]])
-                     for place, row in support.vectors()]
+        self.rows = [(place, row, [vectors.text_of(value) for value in row["args"]])
+                     for place, row in vectors.rows(support.SOURCE)]
         self.assertGreater(len(self.rows), 7000)
 
     def judge(self, form, encoding, rows):

@@ -17,26 +17,21 @@ import unittest
 
 import jsonschema
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+import vectors  # noqa: E402  it is there
+
 ALPHABET = "".join(map(chr, range(1, 0x7F)))
 TELLING = "\t\n\r\x0b\x01\x1f !\"#$%&'()*+,-./0123456789:;<=>?@AFGZ[\\]^_`afgxz{|}~"
 HIGHEST = 2**31 - 1
 
 
-def text_of(value):
-    if isinstance(value, dict):
-        return value["repeat"] * value["times"] if "repeat" in value else "".join(map(text_of, value["join"]))
-    return value
-
-
 def vector_texts():
     """The first argument of each row, by check: of checks of a single text it is that text."""
     texts = {}
-    for path in sorted((SOURCE / "vectors").glob("*.ndjson")):
-        for line in path.read_text(encoding="utf-8").split("\n"):
-            row = json.loads(line) if line else {}
-            argument = text_of(row["args"][0]) if row.get("args") else None
-            if isinstance(argument, str):
-                texts.setdefault(row["check"], {})[argument] = None
+    for _, row in vectors.rows(SOURCE):
+        argument = vectors.text_of(row["args"][0]) if row.get("args") else None
+        if isinstance(argument, str):
+            texts.setdefault(row["check"], {})[argument] = None
     return {name: list(found) for name, found in texts.items()}
 
 

@@ -10,6 +10,9 @@ import subprocess
 import sys
 import unittest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "support"))
+import vectors  # noqa: E402  it is there
+
 
 def batch(lines, *options):
     """batch judges a line each and gives the results in their order."""
@@ -19,15 +22,6 @@ def batch(lines, *options):
 
 
 LONGEST = 100000  # megabytes of one letter have the reason that kilobytes have
-
-
-def text_of(text):
-    """A text of a vector, without the notation for long ones."""
-    if isinstance(text, dict):
-        if "repeat" in text:
-            return text_of(text["repeat"]) * text["times"]
-        return "".join(map(text_of, text["join"]))
-    return [text_of(one) for one in text] if isinstance(text, list) else text
 
 
 def judged(name, *values):
@@ -45,12 +39,10 @@ class Vectors(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         lines = []
-        for path in sorted((SOURCE / "vectors").glob("*.ndjson")):
-            for row in map(json.loads, path.read_text().rstrip("\n").split("\n")):
-                given = list(map(text_of, row["args"]))
-                line = json.dumps({"check": row["check"], "args": given}) + "\n"
-                if len(line) <= LONGEST:
-                    lines.append(line)
+        for _, row in vectors.rows(SOURCE):
+            line = json.dumps({"check": row["check"], "args": vectors.text_of(row["args"])}) + "\n"
+            if len(line) <= LONGEST:
+                lines.append(line)
         cls.rows = batch("".join(lines), "--encoding", "latin-1", "--channels", "1 6 11")
         assert len(lines) == len(cls.rows)
 

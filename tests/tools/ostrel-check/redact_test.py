@@ -6,14 +6,17 @@ Every check with a secret argument is called with the rows of vectors/, their se
 of its steps is reached: in their place, before, behind and around what stands there.
 """
 
-import glob
 import json
 import os
+import pathlib
 import random
 import subprocess
 import sys
 import tempfile
 import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "support"))
+from vectors import rows, text_of  # noqa: E402  it is there
 
 # Of a marker, nothing of so many characters may be seen.
 PIECE = 6
@@ -23,15 +26,6 @@ MARKERS = ["".join(DICE.choices(letters, k=24))
 FORMS = [[], ["--json"], ["--stream"], ["--only-refused"], ["--stream", "--summary", "text"],
          ["--with-args"], ["--json", "--with-args"], ["--format-out", "csv", "--with-args"], ["--encoding", "latin-1"],
          ["--json", "--with-args", "--encoding", "latin-1"], ["--summary-only"], ["--summary", "json"], ["--summary-only", "--summary", "json"], ["--json", "--jobs", "3"]]
-
-
-def text_of(value):
-    """text_of writes out the notation of the vectors."""
-    if isinstance(value, dict) and "repeat" in value:
-        return text_of(value["repeat"]) * value["times"]
-    if isinstance(value, dict) and "join" in value:
-        return "".join(text_of(part) for part in value["join"])
-    return value
 
 
 def variants(value):
@@ -81,16 +75,13 @@ class Redaction(unittest.TestCase):
 
     def lines(self):
         met = set()
-        for path in sorted(glob.glob(os.path.join(SOURCE, "vectors", "*.ndjson"))):
-            with open(path, encoding="utf-8") as rows:
-                for row in map(json.loads, rows):
-                    for place in self.secrets.get(row["check"], ()):
-                        for secret in variants(row["args"][place]) if place < len(row["args"]) else ():
-                            args = [text_of(value) if not isinstance(value, list) else
-                                    [text_of(part) for part in value] for value in row["args"]]
-                            args[place] = secret
-                            met.add(row["check"])
-                            yield json.dumps({"check": row["check"], "args": args}, ensure_ascii=False)
+        for _, row in rows(pathlib.Path(SOURCE)):
+            for place in self.secrets.get(row["check"], ()):
+                for secret in variants(row["args"][place]) if place < len(row["args"]) else ():
+                    args = text_of(row["args"])
+                    args[place] = secret
+                    met.add(row["check"])
+                    yield json.dumps({"check": row["check"], "args": args}, ensure_ascii=False)
         self.assertEqual(set(self.secrets), met)
 
     def test_every_secret_of_every_check(self):
