@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "arena.h"
+#include "batch/arena.h"
 #include "read/cases.h"
 #include "read/cutter.h"
 

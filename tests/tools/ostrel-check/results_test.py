@@ -30,7 +30,8 @@ class Schema(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         text = subprocess.run([PROGRAM, "list", "--schema", "result"], capture_output=True, text=True, check=True).stdout
-        assert json.loads(text) == json.loads((SOURCE / "tools" / "ostrel-check" / "result.schema.json").read_text())
+        schema = SOURCE / "tools" / "ostrel-check" / "write" / "result.schema.json"
+        assert json.loads(text) == json.loads(schema.read_text())
         jsonschema.Draft202012Validator.check_schema(json.loads(text))
         cls.validator = jsonschema.Draft202012Validator(json.loads(text))
 

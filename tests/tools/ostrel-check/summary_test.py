@@ -28,7 +28,8 @@ class Summary(unittest.TestCase):
         cls.schema = json.loads(run("list", "--schema", "summary").stdout)
 
     def test_suits_its_schema(self):
-        with open(os.path.join(SOURCE, "tools", "ostrel-check", "summary.schema.json"), encoding="utf-8") as file:
+        path = os.path.join(SOURCE, "tools", "ostrel-check", "summary", "summary.schema.json")
+        with open(path, encoding="utf-8") as file:
             self.assertEqual(json.load(file), self.schema)
         jsonschema.Draft202012Validator.check_schema(self.schema)
         validator = jsonschema.Draft202012Validator(self.schema)

@@ -1,4 +1,4 @@
-#include "words.h"
+#include "read/words.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "read/cases.h"
-#include "show.h"
+#include "write/show.h"
 
 namespace ostrel::tool {
 

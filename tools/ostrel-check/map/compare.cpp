@@ -4,10 +4,10 @@
 #include <limits>
 #include <optional>
 
+#include "judge/reason.h"
 #include "map/search.h"
 #include "map/standard.h"
 #include "map/trial.h"
-#include "reason.h"
 #include "rules/acceptance.h"
 #include "rules/language/automaton.h"
 

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <utility>
 
-#include "show.h"
+#include "write/show.h"
 
 namespace ostrel::tool {
 

@@ -4,11 +4,11 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
-#include "page.h"
-#include "reason.h"
+#include "explain/page.h"
+#include "judge/reason.h"
 #include "rules/explain.h"
-#include "show.h"
-#include "style.h"
+#include "terminal/style.h"
+#include "write/show.h"
 
 namespace ostrel::tool {
 

@@ -8,11 +8,11 @@
 #include <stdexcept>
 
 #include "catalogue/caller.h"
-#include "driver.h"
-#include "process.h"
-#include "reason.h"
+#include "judge/driver.h"
+#include "judge/reason.h"
+#include "judge/verdict.h"
 #include "rules/evaluate.h"
-#include "verdict.h"
+#include "system/process.h"
 
 namespace ostrel::tool {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "show.h"
+#include "write/show.h"
 
 namespace ostrel::tool {
 

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "catalogue/case.h"
-#include "show.h"
-#include "words.h"
+#include "read/words.h"
+#include "write/show.h"
 
 namespace ostrel::tool {
 

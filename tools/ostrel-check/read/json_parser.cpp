@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 #include "read/encoding.h"
-#include "show.h"
+#include "write/show.h"
 
 namespace ostrel::tool {
 

@@ -6,7 +6,7 @@
 
 #include "read/json_object.h"
 #include "read/reader.h"
-#include "words.h"
+#include "read/words.h"
 
 namespace ostrel::tool {
 

@@ -1,0 +1,39 @@
+#include "batch/arena.h"
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <new>
+#include <system_error>
+
+namespace ostrel::tool {
+
+std::uint64_t count_lines(std::string_view text)
+{
+    std::uint64_t count = 0;
+    for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1))
+        ++count;
+    return count;
+}
+
+void Unmap::operator()(Arena* arena) const { munmap(arena, sizeof *arena); }
+
+std::unique_ptr<Arena, Unmap> map_arena()
+{
+    void* memory = mmap(nullptr, sizeof(Arena), PROT_READ | PROT_WRITE,
+                        MAP_SHARED | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (memory == MAP_FAILED) throw std::system_error(errno, std::generic_category(), "cannot map memory");
+    return std::unique_ptr<Arena, Unmap>(new (memory) Arena);
+}
+
+void give_back(char* begin, std::size_t capacity, std::size_t size)
+{
+    const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+    const auto address = reinterpret_cast<std::uintptr_t>(begin);
+    const std::uintptr_t from = (address + size + page - 1) / page * page;
+    const std::uintptr_t to = (address + capacity) / page * page;
+    if (from < to) madvise(begin + (from - address), to - from, MADV_REMOVE);
+}
+
+}  // namespace ostrel::tool

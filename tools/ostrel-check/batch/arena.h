@@ -1,0 +1,98 @@
+// Arena: memory that a worker and its supervisor share, so that what a worker has done outlives it.
+#ifndef OSTREL_TOOLS_BATCH_ARENA_H
+#define OSTREL_TOOLS_BATCH_ARENA_H
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "batch/log.h"
+#include "catalogue/capture.h"
+#include "read/cutter.h"
+#include "read/reading.h"
+
+namespace ostrel::tool {
+
+inline constexpr std::size_t kChunk = std::size_t{256} << 10;
+inline constexpr std::size_t kOutput = std::size_t{256} << 20;
+
+// count_lines counts the line ends of a text.
+std::uint64_t count_lines(std::string_view text);
+
+// Progress is how far a worker has come with its chunk.
+struct Progress {
+    std::size_t read = 0;  // bytes of the input
+    std::uint64_t line = 0;
+    std::size_t part = 0;     // records of the text that is being read
+    std::size_t written = 0;  // bytes of the output
+    std::uint64_t cases = 0;  // whose results are there
+    std::uint64_t refused = 0;
+    Log::Size log;
+
+    // advance goes on after a record, to the next one of the same text or to the next text.
+    void advance(std::string_view text, bool has_more)
+    {
+        part = has_more ? part + 1 : 0;
+        if (has_more) return;
+        read += text.size();
+        line += count_lines(text);
+    }
+};
+
+// Arena is mapped whole; of its pages only those that were written to exist.
+class Arena {
+ public:
+    // commit makes known how far the worker has come, in one step: whenever the worker ends, progress() is
+    // either the one before or the new one.
+    void commit(const Progress& progress)
+    {
+        const std::uint64_t next = commits_.load(std::memory_order_relaxed) + 1;
+        progress_[next & 1] = progress;
+        commits_.store(next, std::memory_order_release);
+    }
+
+    [[nodiscard]] std::uint64_t commits() const { return commits_.load(std::memory_order_acquire); }
+    [[nodiscard]] const Progress& progress() const { return progress_[commits() & 1]; }
+
+    std::size_t file = 0;  // which of the files the input is from
+    FileFormat format = FileFormat::kWords;
+    std::size_t preamble_size = 0;  // of the input, which begins with the preamble of the file
+    std::size_t input_size = 0;
+    std::array<char, 2 * kLongestText + kChunk> input;
+    std::array<char, kOutput> output;
+    catalogue::Prints prints;
+    Log log;  // of what has been judged since it was last taken
+
+    // The supervisor asks the worker to stop behind the record that it is at.
+    void ask_to_stop() { is_to_stop_.store(true, std::memory_order_relaxed); }
+    [[nodiscard]] bool is_to_stop() const { return is_to_stop_.load(std::memory_order_relaxed); }
+
+    [[nodiscard]] std::string_view preamble() const { return {input.data(), preamble_size}; }
+
+    [[nodiscard]] std::string_view rest_of_input() const
+    {
+        return std::string_view(input.data(), input_size).substr(progress().read);
+    }
+
+ private:
+    std::atomic<std::uint64_t> commits_;
+    std::atomic<bool> is_to_stop_;
+    std::array<Progress, 2> progress_;
+};
+
+struct Unmap {
+    void operator()(Arena* arena) const;
+};
+
+// map_arena throws std::system_error.
+std::unique_ptr<Arena, Unmap> map_arena();
+
+// give_back gives the system the pages behind the first size bytes of a part of an arena.
+void give_back(char* begin, std::size_t capacity, std::size_t size);
+
+}  // namespace ostrel::tool
+
+#endif

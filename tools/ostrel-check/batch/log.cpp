@@ -1,0 +1,95 @@
+#include "batch/log.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace ostrel::tool {
+
+namespace {
+
+// Head precedes the texts of a row: reason, parameter, example.
+struct Head {
+    std::uint16_t check = 0;
+    std::uint16_t verdict = 0;
+    std::int32_t code = 0;
+    std::uint32_t reason = 0;
+    std::uint32_t parameter = 0;
+    std::uint32_t example = 0;
+};
+
+// A worker that was told more kinds of cases than that forgets them, and tells their examples again.
+constexpr std::size_t kMostKnown = std::size_t{1} << 14;
+
+}  // namespace
+
+void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const Row&)>& visit)
+{
+    std::string_view rest(log.rows.data(), size.bytes);
+    const auto take = [&](std::size_t count) {
+        const std::string_view taken = rest.substr(0, count);
+        rest.remove_prefix(taken.size());
+        return taken;
+    };
+    for (std::uint32_t i = 0; i < size.rows; ++i) {
+        Head head;
+        std::memcpy(&head, take(sizeof head).data(), sizeof head);
+        Row row;
+        row.check = head.check;
+        row.verdict = static_cast<Verdict>(head.verdict);
+        row.code = head.code;
+        row.reason = take(head.reason);
+        row.parameter = take(head.parameter);
+        row.example = take(head.example);
+        visit(row);
+    }
+}
+
+std::uint32_t LogWriter::append(Log::Size& size, const Row& row)
+{
+    Head head;
+    head.check = row.check;
+    head.verdict = static_cast<std::uint16_t>(row.verdict);
+    head.code = row.code;
+    const std::size_t room = Log::kLongestRow - sizeof head;
+    const std::string_view reason = row.reason.substr(0, room);
+    const std::string_view parameter = row.parameter.substr(0, room - reason.size());
+    // An example that does not fit would be cut in the middle of its JSON.
+    const bool fits = row.example.size() <= room - reason.size() - parameter.size();
+    const std::string_view example = fits ? row.example : std::string_view();
+    head.reason = static_cast<std::uint32_t>(reason.size());
+    head.parameter = static_cast<std::uint32_t>(parameter.size());
+    head.example = static_cast<std::uint32_t>(example.size());
+    char* at = log_->rows.data() + size.bytes;
+    std::memcpy(at, &head, sizeof head);
+    at += sizeof head;
+    for (const std::string_view text : {reason, parameter, example}) at = std::ranges::copy(text, at).out;
+    size.bytes = static_cast<std::uint32_t>(at - log_->rows.data());
+    return size.rows++;
+}
+
+void LogWriter::add(Log::Size& size, const Row& row, std::uint32_t lines, std::size_t written,
+                    const std::function<std::string()>& example)
+{
+    key_.assign(reinterpret_cast<const char*>(&row.check), sizeof row.check);
+    key_.append(reinterpret_cast<const char*>(&row.code), sizeof row.code);
+    key_ += static_cast<char>(row.verdict);
+    key_.append(row.reason).append(1, '\0').append(row.parameter);
+    auto found = known_.find(key_);
+    if (found == known_.end()) {
+        if (known_.size() == kMostKnown) known_.clear();
+        const std::string told = example();
+        Row with_example = row;
+        with_example.example = told;
+        found = known_.emplace(key_, Known{round_, append(size, with_example)}).first;
+    } else if (found->second.round != round_) {
+        found->second = {round_, append(size, row)};
+    }
+    log_->entries[size.entries++] = {found->second.row, lines, static_cast<std::uint32_t>(written)};
+}
+
+void LogWriter::add_lines(Log::Size& size, std::uint32_t lines, std::size_t written)
+{
+    log_->entries[size.entries++] = {Log::kNoRow, lines, static_cast<std::uint32_t>(written)};
+}
+
+}  // namespace ostrel::tool

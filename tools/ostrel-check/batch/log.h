@@ -1,0 +1,84 @@
+// Log: what a worker tells its supervisor of the records that it judged, in memory that both share.
+#ifndef OSTREL_TOOLS_BATCH_LOG_H
+#define OSTREL_TOOLS_BATCH_LOG_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "summary/row.h"
+
+namespace ostrel::tool {
+
+// Log holds no pointers. What has been committed in it is not changed until the supervisor has taken it, so that it is
+// whole whenever the worker ends.
+struct Log {
+    static constexpr std::size_t kMostRecords = std::size_t{1} << 16;
+    static constexpr std::size_t kRows = std::size_t{1} << 20;
+    static constexpr std::size_t kLongestRow = std::size_t{16} << 10;
+    static constexpr std::uint32_t kNoRow = 0xFFFFFFFF;
+
+    // Entry is a record, or a line without one.
+    struct Entry {
+        std::uint32_t row = kNoRow;
+        std::uint32_t lines = 0;    // of the input, that end with it
+        std::uint32_t written = 0;  // bytes of the output, behind it
+    };
+
+    // Size is how much of the log is in use.
+    struct Size {
+        std::uint32_t entries = 0;
+        std::uint32_t rows = 0;
+        std::uint32_t bytes = 0;  // of rows
+    };
+
+    std::array<Entry, kMostRecords> entries;
+    std::array<char, kRows> rows;
+
+    // has_room tells that two more entries fit, whatever they are: one of the worker's and the supervisor's on the
+    // record that ended the worker.
+    static bool has_room(const Size& size)
+    {
+        return size.entries + 2 <= kMostRecords && size.bytes + 2 * kLongestRow <= kRows;
+    }
+};
+
+// for_each_row calls visit with each row of a log, in order.
+void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const Row&)>& visit);
+
+// LogWriter adds to a log. It knows which rows are there already, and which examples it has told.
+class LogWriter {
+ public:
+    explicit LogWriter(Log& log) : log_(&log) {}
+
+    // begin forgets the rows: the supervisor has taken them.
+    void begin() { ++round_; }
+
+    // add adds a record. The example is asked for where none of that kind of case was told before.
+    void add(Log::Size& size, const Row& row, std::uint32_t lines, std::size_t written,
+             const std::function<std::string()>& example);
+
+    // add_lines adds a line without a record.
+    void add_lines(Log::Size& size, std::uint32_t lines, std::size_t written);
+
+ private:
+    struct Known {
+        std::uint64_t round = 0;
+        std::uint32_t row = 0;
+    };
+
+    std::uint32_t append(Log::Size& size, const Row& row);
+
+    Log* log_;
+    std::uint64_t round_ = 1;
+    std::unordered_map<std::string, Known> known_;
+    std::string key_;
+};
+
+}  // namespace ostrel::tool
+
+#endif

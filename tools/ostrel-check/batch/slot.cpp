@@ -1,0 +1,222 @@
+#include "batch/slot.h"
+
+#include <poll.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "judge/driver.h"
+#include "judge/reason.h"
+#include "judge/redact.h"
+
+namespace ostrel::tool {
+
+Slot::Slot(const Rules& rules) : rules_(&rules), arena_(map_arena()), cases_(rules.reading) {}
+
+Slot::~Slot() { stop_worker(); }
+
+void Slot::stop_worker()
+{
+    if (worker_ > 0) stop(worker_);
+    worker_ = 0;
+    orders_ = Pipe();
+    answers_ = Pipe();
+}
+
+void Slot::start_worker()
+{
+    orders_ = make_pipe();
+    answers_ = make_pipe();
+    worker_ = fork_guarded();
+    if (worker_ == 0) {
+        orders_.writing.close();
+        answers_.reading.close();
+        run_worker(*arena_, rules_->style, rules_->reading, rules_->files, orders_.reading, answers_.writing);
+    }
+    orders_.reading.close();
+    answers_.writing.close();
+}
+
+void Slot::give(const Chunk& chunk)
+{
+    arena_->file = chunk.file;
+    arena_->format = chunk.format;
+    arena_->preamble_size = chunk.preamble.size();
+    arena_->input_size = chunk.preamble.size() + chunk.text.size();
+    std::ranges::copy(chunk.text, std::ranges::copy(chunk.preamble, arena_->input.data()).out);
+    Progress progress;
+    progress.read = chunk.preamble.size();
+    progress.line = chunk.line;
+    arena_->commit(progress);
+    heading_ = chunk.heading;
+    if (!chunk.problem.empty()) {
+        conclude(Verdict::kMalformed, chunk.problem);
+    } else {
+        start_round();
+    }
+}
+
+void Slot::start_round()
+{
+    is_running_ = true;
+    commits_seen_ = arena_->commits();
+    seen_at_ = Clock::now();
+    if (worker_ == 0) start_worker();
+    // A worker that has ended meanwhile is noticed by look.
+    write_all(orders_.writing.number(), "g");
+}
+
+void Slot::look()
+{
+    if (!is_running_) return;
+    pollfd answered{answers(), POLLIN, 0};
+    if (poll(&answered, 1, 0) > 0) {
+        char answer = 0;
+        is_running_ = false;
+        if (read(answers(), &answer, 1) == 1) return;
+        const Ending ending = wait_for(worker_);
+        worker_ = 0;
+        if (arena_->rest_of_input().empty()) return;
+        conclude(Verdict::kEnded, describe_ending(ending, mentions_assertion(arena_->prints.err.view())));
+        return;
+    }
+    const Clock::time_point now = Clock::now();
+    if (const std::uint64_t commits = arena_->commits(); commits != commits_seen_) {
+        commits_seen_ = commits;
+        seen_at_ = now;
+    } else if (std::chrono::duration<double>(now - seen_at_).count() > rules_->limit) {
+        is_running_ = false;
+        stop_worker();
+        if (arena_->commits() != commits_seen_) return;  // it went on at the last moment
+        conclude(Verdict::kNoReturn, describe_no_return(rules_->limit));
+    }
+}
+
+// conclude gives the verdict on the record at which the worker stopped, and goes on after it.
+void Slot::conclude(Verdict verdict, std::string problem)
+{
+    Progress progress = arena_->progress();
+    const std::string_view rest = arena_->rest_of_input();
+    Result result;
+    std::string_view text;
+    if (verdict != Verdict::kMalformed) {
+        try {
+            cases_.open(arena_->file, arena_->format, arena_->preamble());
+            text = rest.substr(0, cases_.next(rest));
+            cases_.read(text, progress.part);
+            result.function = cases_.function();
+        } catch (const std::exception&) {
+            // A record that cannot be read ends no worker.
+            result.function = nullptr;
+        }
+        result.values = &cases_.values();
+        result.record = &cases_.record();
+    }
+    result.verdict = result.function == nullptr ? Verdict::kMalformed : verdict;
+    if (result.function != nullptr) clean_up_after(*result.function);
+    result.problem = std::move(problem);
+    if (result.verdict != Verdict::kMalformed) {
+        const catalogue::Prints& prints = arena_->prints;
+        result.printed = {prints.out.view(), prints.out.size, prints.err.view(), prints.out.cut};
+    }
+    explain(result);
+    Redactor redactor;
+    if (rules_->style.redacts) redactor.redact(result, rules_->style.encoding);
+    append_result(conclusion_, rules_->style,
+                  {rules_->files[arena_->file], progress.line + cases_.record().line}, result);
+    const std::uint64_t line = progress.line;
+    progress.advance(text, !text.empty() && cases_.has_more());
+    ++progress.cases;
+    std::string parameter;
+    LogWriter(arena_->log)
+        .add(progress.log, row_of(result, parameter), static_cast<std::uint32_t>(progress.line - line),
+             progress.written + conclusion_.size(),
+             [&] { return example_of(result, rules_->style.encoding); });
+    arena_->commit(progress);
+}
+
+// write_out writes what is done, and returns how much of the results was written.
+std::size_t Slot::write_out(int descriptor, int& error)
+{
+    std::size_t written = 0;
+    const std::string_view results(arena_->output.data(), arena_->progress().written);
+    for (const std::string_view text : {std::string_view(heading_), results, std::string_view(conclusion_)}) {
+        const Fitted fitted = write_what_fits(descriptor, text);
+        error = fitted.error;
+        if (text.data() == heading_.data()) {
+            // A heading without results is of no use.
+            if (error != 0) take_back(descriptor, fitted.size);
+        } else {
+            written += fitted.size;
+        }
+        if (error != 0) break;
+    }
+    heading_.clear();
+    conclusion_.clear();
+    return written;
+}
+
+// count adds to a summary what has been written, and returns how many entries of the log that is.
+std::uint32_t Slot::count(std::size_t written, Summary& summary)
+{
+    const Log& log = arena_->log;
+    const Log::Size& size = arena_->progress().log;
+    std::uint32_t done = 0;
+    while (done < size.entries && log.entries[done].written <= written) ++done;
+    if (done < size.entries) {
+        // A line is gone on with from its beginning.
+        while (done > 0 && log.entries[done - 1].lines == 0) --done;
+    }
+    std::vector<std::uint64_t> counts(size.rows);
+    for (std::uint32_t i = 0; i < done; ++i) {
+        if (log.entries[i].row != Log::kNoRow) ++counts[log.entries[i].row];
+    }
+    std::size_t next = 0;
+    for_each_row(log, size, [&](const Row& row) {
+        const std::uint64_t count = counts[next++];
+        if (count > 0) summary.add({row, false, count});
+    });
+    return done;
+}
+
+Taken Slot::take(int descriptor, Summary& summary)
+{
+    Taken taken;
+    Progress progress = arena_->progress();
+    const Log& log = arena_->log;
+    taken.line = progress.line;
+    const std::size_t written = write_out(descriptor, taken.error);
+    const std::uint32_t done = count(written, summary);
+    if (taken.error != 0) {
+        take_back(descriptor, written - (done == 0 ? 0 : log.entries[done - 1].written));
+        for (std::uint32_t i = done; i < progress.log.entries; ++i) taken.line -= log.entries[i].lines;
+    }
+    taken.is_within_line = done > 0 && log.entries[done - 1].lines == 0;
+    // The last line of a file may lack its end.
+    if (taken.is_within_line && taken.error == 0 && is_done() && arena_->format != FileFormat::kJson) {
+        taken.is_within_line = false;
+        ++taken.line;
+    }
+    progress.cases = 0;
+    progress.refused = 0;
+    progress.written = 0;
+    progress.log = {};
+    arena_->commit(progress);
+    if (taken.error != 0 || arena_->is_to_stop()) return taken;
+    if (arena_->rest_of_input().empty()) {
+        give_memory_back();
+    } else {
+        start_round();
+    }
+    return taken;
+}
+
+void Slot::give_memory_back()
+{
+    give_back(arena_->output.data(), arena_->output.size(), kEnoughOutput);
+    give_back(arena_->input.data(), arena_->input.size(), kChunk);
+    give_back(arena_->prints.out.bytes, sizeof arena_->prints.out.bytes, kChunk);
+    give_back(arena_->prints.err.bytes, sizeof arena_->prints.err.bytes, kChunk);
+}
+
+}  // namespace ostrel::tool

@@ -1,0 +1,96 @@
+// Slot: a chunk of input and the worker that judges it, as the supervisor sees them.
+#ifndef OSTREL_TOOLS_BATCH_SLOT_H
+#define OSTREL_TOOLS_BATCH_SLOT_H
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "batch/arena.h"
+#include "batch/worker.h"
+#include "read/cases.h"
+#include "read/input.h"
+#include "summary/summary.h"
+#include "system/process.h"
+
+namespace ostrel::tool {
+
+using Clock = std::chrono::steady_clock;
+
+// Rules are what holds for every line of a batch.
+struct Rules {
+    Style style;
+    Reading reading;
+    double limit = 2;  // seconds that a call may take
+    std::vector<std::string> files;
+    std::uint64_t start_line = 1;  // of the first file, with which the batch begins
+};
+
+// Taken is what became of the results that were to be written out.
+struct Taken {
+    int error = 0;                // why not all of them were: an errno
+    std::uint64_t line = 0;       // behind the last one whose results were
+    bool is_within_line = false;  // results of that line were written, and more are to follow
+};
+
+class Slot {
+ public:
+    explicit Slot(const Rules& rules);
+    Slot(const Slot&) = delete;
+    Slot& operator=(const Slot&) = delete;
+    ~Slot();
+
+    // give has a chunk judged.
+    void give(const Chunk& chunk);
+
+    // look sees whether the worker has answered, has ended or stands still.
+    void look();
+
+    [[nodiscard]] bool is_running() const { return is_running_; }
+
+    // answers is what to wait for while the slot is running.
+    [[nodiscard]] int answers() const { return answers_.reading.number(); }
+
+    // ask_to_stop has the worker stop behind the record that it is at.
+    void ask_to_stop() { arena_->ask_to_stop(); }
+
+    // take writes out what is done and counts what could be written. What is left of the chunk goes on, unless the
+    // worker was asked to stop.
+    Taken take(int descriptor, Summary& summary);
+
+    // judged tells how much of the chunk has been judged and not been taken.
+    [[nodiscard]] const Progress& judged() const { return arena_->progress(); }
+    // left is how many bytes of the chunk have not been judged.
+    [[nodiscard]] std::size_t left() const { return arena_->rest_of_input().size(); }
+
+    [[nodiscard]] std::size_t file() const { return arena_->file; }
+
+    // is_done tells that the chunk has been judged and taken.
+    [[nodiscard]] bool is_done() const { return !is_running_ && arena_->rest_of_input().empty(); }
+
+ private:
+    void start_worker();
+    void stop_worker();
+    void start_round();
+    void conclude(Verdict verdict, std::string problem);
+    std::size_t write_out(int descriptor, int& error);
+    std::uint32_t count(std::size_t written, Summary& summary);
+    void give_memory_back();
+
+    const Rules* rules_;
+    std::unique_ptr<Arena, Unmap> arena_;
+    Cases cases_;       // for the record that ended the worker
+    pid_t worker_ = 0;  // 0: none
+    Pipe orders_;
+    Pipe answers_;
+    bool is_running_ = false;
+    std::uint64_t commits_seen_ = 0;
+    Clock::time_point seen_at_;
+    std::string heading_;     // what precedes the worker's output
+    std::string conclusion_;  // what follows the worker's output: the verdict on the case that ended it
+};
+
+}  // namespace ostrel::tool
+
+#endif

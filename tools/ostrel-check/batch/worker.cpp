@@ -1,0 +1,226 @@
+#include "batch/worker.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <utility>
+
+#include "judge/driver.h"
+#include "judge/reason.h"
+#include "judge/redact.h"
+#include "read/cases.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+// Judge judges records, with the same memory again and again.
+class Judge {
+ public:
+    Judge(Arena& arena, Style style, const Reading& reading, const std::vector<std::string>& files)
+        : arena_(&arena),
+          style_(std::move(style)),
+          files_(&files),
+          capture_(arena.prints),
+          cases_(reading),
+          has_map_(reading.map != nullptr),
+          log_(arena.log)
+    {
+    }
+
+    // round judges records until the input is done, the output or the log is full, or the supervisor asks to stop.
+    void round()
+    {
+        log_.begin();
+        Progress progress = arena_->progress();
+        cases_.open(arena_->file, arena_->format, arena_->preamble());
+        std::string_view rest = arena_->rest_of_input();
+        while (!rest.empty() && has_room(progress) && !arena_->is_to_stop()) {
+            const std::string_view text = rest.substr(0, cases_.next(rest));
+            line_number_ = progress.line;
+            bool has_more = true;
+            while (has_more && has_room(progress)) {
+                has_more = judge(text, progress);
+                progress.advance(text, has_more);
+                note(progress);
+                arena_->commit(progress);
+            }
+            rest.remove_prefix(text.size());
+        }
+    }
+
+ private:
+    static bool has_room(const Progress& progress)
+    {
+        return progress.written < kEnoughOutput && Log::has_room(progress.log);
+    }
+
+    // judge tells whether the text holds another record.
+    bool judge(std::string_view text, Progress& progress)
+    {
+        result_.clear();
+        has_case_ = true;
+        try {
+            if (!cases_.read(text, progress.part)) {
+                if (!has_map_) write_nothing(progress);
+                return false;
+            }
+            caller_.load(*cases_.function(), cases_.values());
+        } catch (const std::exception& error) {
+            refuse_record(error.what(), progress);
+            return cases_.has_more();
+        }
+        result_.function = cases_.function();
+        result_.values = &cases_.values();
+        judge_case(progress);
+        write(progress);
+        return cases_.has_more();
+    }
+
+    void judge_case(const Progress& progress)
+    {
+        const catalogue::Function& function = *result_.function;
+        if (!style_.tries_known && is_known_not_to_return(function, *result_.values)) {
+            answer_at_once(result_);
+            return;
+        }
+        const bool asks = asks_driver(function, *result_.values);
+        if (asks && !style_.driver_problem.empty()) {
+            blame_driver(result_, style_.driver_problem);
+            result_.is_tried = false;
+            return;
+        }
+        if (asks) {
+            call_with_driver(progress);
+            return;
+        }
+        call();
+        if (result_.verdict != Verdict::kRefused) return;
+        // The time that the reason takes is not the call's.
+        arena_->commit(progress);
+        explain(result_);
+    }
+
+    void call()
+    {
+        capture_.clear();
+        const int code = caller_.call();
+        result_.printed = capture_.look();
+        result_.after = caller_.written();
+        tool::judge(result_, code);
+    }
+
+    void call_with_driver(const Progress& progress)
+    {
+        const Turn turn(*result_.function, [&] { arena_->commit(progress); });
+        Listening listening;
+        call();
+        const Heard heard = listening.heard();
+        said_.assign(result_.printed.err).append(heard.said);
+        result_.printed.err = said_;
+        explain_by_driver(result_, heard);
+    }
+
+    void refuse_record(std::string_view problem, Progress& progress)
+    {
+        result_.verdict = Verdict::kMalformed;
+        result_.function = cases_.function();
+        result_.values = &cases_.values();
+        result_.problem = problem;
+        result_.printed = {};
+        explain_lack(result_, cases_.record());
+        write(progress);
+    }
+
+    // write_nothing answers a line without a case: with an empty one where each line is to have its own.
+    void write_nothing(Progress& progress)
+    {
+        has_case_ = false;
+        if (style_.format == Format::kStream && !style_.no_results) arena_->output[progress.written++] = '\n';
+    }
+
+    void write(Progress& progress)
+    {
+        text_.clear();
+        result_.record = &cases_.record();
+        if (style_.redacts) redactor_.redact(result_, style_.encoding);
+        append_result(text_, style_, {(*files_)[arena_->file], progress.line + cases_.record().line},
+                      result_);
+        if (text_.size() > kOutput - kEnoughOutput) {
+            refuse_record("the result is too long to be written", progress);
+            return;
+        }
+        std::memcpy(arena_->output.data() + progress.written, text_.data(), text_.size());
+        progress.written += text_.size();
+        ++progress.cases;
+        if (result_.verdict == Verdict::kRefused) ++progress.refused;
+        if (text_.capacity() > kEnoughOutput) text_ = std::string();
+    }
+
+    // note tells the supervisor of the record that was judged last, behind which the progress is now.
+    void note(Progress& progress)
+    {
+        const auto lines = static_cast<std::uint32_t>(progress.line - line_number_);
+        if (has_case_) {
+            log_.add(progress.log, row_of(result_, parameter_), lines, progress.written,
+                     [&] { return example_of(result_, style_.encoding); });
+        } else {
+            log_.add_lines(progress.log, lines, progress.written);
+        }
+    }
+
+    Arena* arena_;
+    Style style_;
+    const std::vector<std::string>* files_;
+    catalogue::Capture capture_;
+    catalogue::Caller caller_;
+    Cases cases_;
+    bool has_map_;
+    std::uint64_t line_number_ = 0;
+    Result result_;
+    LogWriter log_;
+    bool has_case_ = false;
+    Redactor redactor_;
+    std::string text_;
+    std::string parameter_;
+    std::string said_;  // on standard error, with what the driver said
+};
+
+}  // namespace
+
+void append_result(std::string& out, const Style& style, const Place& place, const Result& result)
+{
+    if (style.no_results) return;
+    const bool is_harmless = exit_code(result.verdict) == kExitAccepted;
+    if (style.only_refused && is_harmless) return;
+    switch (style.format) {
+        case Format::kTable:
+            append_row(out, place, result);
+            break;
+        case Format::kCsv:
+            append_csv(out, style, place, result);
+            break;
+        case Format::kJson:
+        case Format::kStream:
+            append_json(out, style, place, result);
+            break;
+    }
+}
+
+void run_worker(Arena& arena, const Style& style, const Reading& reading,
+                const std::vector<std::string>& files, const Descriptor& orders, const Descriptor& answers)
+{
+    // A check that runs a program must not give it the batch to read, nor a way to write between the results.
+    const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
+    for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nothing, standard);
+    Judge judge(arena, style, reading, files);
+    char order = 0;
+    while (read(orders.number(), &order, 1) == 1) {
+        judge.round();
+        if (write(answers.number(), &order, 1) != 1) break;
+    }
+    _exit(0);
+}
+
+}  // namespace ostrel::tool

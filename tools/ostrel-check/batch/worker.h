@@ -1,0 +1,29 @@
+// Worker: the process that judges the lines of a chunk.
+#ifndef OSTREL_TOOLS_BATCH_WORKER_H
+#define OSTREL_TOOLS_BATCH_WORKER_H
+
+#include <string>
+#include <vector>
+
+#include "batch/arena.h"
+#include "system/process.h"
+#include "write/render.h"
+
+namespace ostrel::tool {
+
+// append_result renders in that style.
+void append_result(std::string& out, const Style& style, const Place& place, const Result& result);
+
+// A worker goes on with the next chunk's rest when it has written so much, and leaves it to the supervisor to
+// take what is there.
+inline constexpr std::size_t kEnoughOutput = std::size_t{4} << 20;
+
+// run_worker serves until its supervisor closes the pipe of orders: for each byte that comes it judges a part
+// of what the arena holds, from where progress stands, and answers with a byte.
+[[noreturn]] void run_worker(Arena& arena, const Style& style, const Reading& reading,
+                             const std::vector<std::string>& files, const Descriptor& orders,
+                             const Descriptor& answers);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,55 @@
+#include "command_line/ending_options.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+void add_summary(CLI::App& app, EndingOptions& options)
+{
+    app.add_option("--summary", options.summary, "By check, parameter and reason: text or json")
+        ->check(CLI::IsMember({"text", "json"}))
+        ->type_name("FORMAT");
+}
+
+}  // namespace
+
+void add_call_options(CLI::App& app, Manner& manner, std::optional<std::string>& channels)
+{
+    app.add_option("--limit-time", manner.limit, "Time that a call may take (2)")
+        ->check(CLI::Range(0.001, 86400.0))
+        ->type_name("SECONDS");
+    app.add_option("--channels", channels, "Answer with these for the wireless driver")->type_name("LIST");
+    app.add_flag("--try", manner.tries_known, "Make calls that are known not to return");
+}
+
+void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules)
+{
+    add_summary(batch, options);
+    batch.add_flag("--summary-only", rules.style.no_results, "No results")->excludes("--stream");
+    batch.add_option("--summary-file", options.closing.file, "Write the summary there")->type_name("FILE");
+    batch.add_flag("--exit-zero", options.closing.exits_with_zero, "Exit with 0 whatever the verdicts are");
+    batch.add_flag("--redact", rules.style.redacts, "Show the length of secret values in their place");
+    batch.add_option("--start-line", rules.start_line, "Line of the first file to begin with (1)")
+        ->check(CLI::PositiveNumber)
+        ->type_name("N");
+}
+
+void add_summarise_options(CLI::App& summarise, EndingOptions& options)
+{
+    add_summary(summarise, options);
+    summarise.add_option("FILE", options.files, "Summaries or results in JSON; - is standard input")
+        ->required()
+        ->type_name("");
+}
+
+Closing closing_of(const EndingOptions& options, const Style& style)
+{
+    Closing closing = options.closing;
+    closing.with_rows = !options.summary.empty() || style.no_results || !closing.file.empty();
+    closing.has_summary = closing.with_rows || style.format != Format::kStream;
+    const bool results_are_json = style.format == Format::kJson || style.format == Format::kStream;
+    closing.as_json = options.summary.empty() ? results_are_json : options.summary == "json";
+    return closing;
+}
+
+}  // namespace ostrel::tool

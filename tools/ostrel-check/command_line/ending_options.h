@@ -1,0 +1,35 @@
+// Options of calls, and those that say where a batch begins, how it is summed up and how it ends.
+#ifndef OSTREL_TOOLS_COMMAND_LINE_ENDING_OPTIONS_H
+#define OSTREL_TOOLS_COMMAND_LINE_ENDING_OPTIONS_H
+
+#include <CLI/CLI.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "batch/batch.h"
+#include "judge/single.h"
+
+namespace ostrel::tool {
+
+struct EndingOptions {
+    std::string summary;  // its format; empty: none was chosen
+    Closing closing;
+    std::vector<std::string> files;  // to be added up
+};
+
+// add_call_options adds those of a call, which single verdicts have as well.
+void add_call_options(CLI::App& app, Manner& manner, std::optional<std::string>& channels);
+
+// add_ending_options is for batch, which has its other options already.
+void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules);
+
+// add_summarise_options is for summarise.
+void add_summarise_options(CLI::App& summarise, EndingOptions& options);
+
+// closing_of says what follows from the options.
+Closing closing_of(const EndingOptions& options, const Style& style);
+
+}  // namespace ostrel::tool
+
+#endif

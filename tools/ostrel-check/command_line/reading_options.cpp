@@ -1,0 +1,56 @@
+#include "command_line/reading_options.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "read/words.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+std::string one_byte(const std::string& given)
+{
+    const std::string delimiter = read_escapes(given);
+    constexpr std::string_view kTaken("\"\r\n\0", 4);
+    if (delimiter.size() == 1 && kTaken.find(delimiter) == std::string_view::npos) return {};
+    return "one byte is needed that is neither \" nor of a line end";
+}
+
+}  // namespace
+
+void add_reading(CLI::App& batch, Reading& reading)
+{
+    const std::map<std::string, FileFormat> formats = {{"words", FileFormat::kWords},
+                                                       {"ndjson", FileFormat::kNdjson},
+                                                       {"csv", FileFormat::kCsv},
+                                                       {"tsv", FileFormat::kTsv},
+                                                       {"json", FileFormat::kJson}};
+    const std::map<std::string, Encoding> encodings = {{"utf-8", Encoding::kUtf8},
+                                                       {"latin-1", Encoding::kLatin1}};
+    batch.add_option("--format", reading.format, "Of the files; by name or first bytes if not given")
+        ->transform(CLI::Transformer(formats).description(""))
+        ->type_name("words|ndjson|csv|tsv|json");
+    batch.add_option("--encoding", reading.encoding, "Of the values (utf-8)")
+        ->transform(CLI::Transformer(encodings).description(""))
+        ->type_name("utf-8|latin-1");
+    batch
+        .add_option_function<std::string>(
+            "--delimiter", [&](const std::string& given) { reading.delimiter = read_escapes(given).front(); },
+            "Between the fields of CSV (,)")
+        ->check(one_byte)
+        ->type_name("BYTE");
+    batch.add_option("--check", reading.check, "The column of the check, or one check for all")
+        ->type_name("COLUMN|NAME");
+    batch.add_option("--value", reading.values, "A column of its arguments; once for each")
+        ->type_name("COLUMN")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    batch.add_option("--group", reading.group, "With --map: the column of the gateway")->type_name("COLUMN");
+    batch.add_option("--parameter", reading.parameter, "With --map: the column of the path")
+        ->type_name("COLUMN");
+    batch.add_flag("--strict", reading.is_strict, "Refuse unknown and doubled members and columns");
+}
+
+}  // namespace ostrel::tool

@@ -1,0 +1,16 @@
+// The options of batch that say how its files are read.
+#ifndef OSTREL_TOOLS_COMMAND_LINE_READING_OPTIONS_H
+#define OSTREL_TOOLS_COMMAND_LINE_READING_OPTIONS_H
+
+#include <CLI/CLI.hpp>
+
+#include "read/reading.h"
+
+namespace ostrel::tool {
+
+// add_reading has the options put into reading, which must outlive the command.
+void add_reading(CLI::App& batch, Reading& reading);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,77 @@
+// The wireless driver's tool, wlctl, which the check of the channel runs.
+#ifndef OSTREL_TOOLS_JUDGE_DRIVER_H
+#define OSTREL_TOOLS_JUDGE_DRIVER_H
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "system/process.h"
+
+namespace ostrel::tool {
+
+// StandIn answers in the driver's place for as long as it lives: a wlctl of its own stands first on the path
+// and lists the channels given. A user who cannot write the driver's answer to /var gets a /var of this process's own.
+// Throws std::invalid_argument for a list that holds anything but numbers and blanks.
+class StandIn {
+ public:
+    explicit StandIn(std::string_view channels);
+    StandIn(const StandIn&) = delete;
+    StandIn& operator=(const StandIn&) = delete;
+    ~StandIn();
+
+    // problem says why it cannot answer; it is empty where it can.
+    [[nodiscard]] const std::string& problem() const { return problem_; }
+
+ private:
+    void make(std::string_view channels);
+
+    std::string folder_;
+    std::string problem_;
+};
+
+// Turn waits until no other process runs a check that asks the driver: such a check uses a file of one fixed
+// name. For any other check it does nothing. still_waiting is called again and again.
+class Turn {
+ public:
+    explicit Turn(
+        const catalogue::Function& function, const std::function<void()>& still_waiting = [] {});
+
+ private:
+    Descriptor lock_;
+};
+
+// Heard is what the driver answered in a call.
+struct Heard {
+    std::vector<int> channels;
+    std::string said;     // on standard error, by the driver's tool or by the shell
+    std::string problem;  // why there is no list; empty: there is one
+};
+
+// Listening hears what the driver answers from its beginning to heard(), in which a check is called.
+class Listening {
+ public:
+    Listening();
+    Listening(const Listening&) = delete;
+    Listening& operator=(const Listening&) = delete;
+    ~Listening() { restore(); }
+
+    Heard heard();
+
+ private:
+    void restore();
+
+    Descriptor list_;  // the file that the driver's answer is written to; the check removes its name
+    int list_error_ = 0;
+    Descriptor said_;
+    Descriptor standard_error_;
+};
+
+// clean_up_after removes what a check leaves behind that was stopped while it asked the driver.
+void clean_up_after(const catalogue::Function& function);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,43 @@
+// Reason: why a check refused, or ended its process, by the description of the check.
+#ifndef OSTREL_TOOLS_JUDGE_REASON_H
+#define OSTREL_TOOLS_JUDGE_REASON_H
+
+#include <string>
+#include <vector>
+
+#include "judge/driver.h"
+#include "judge/verdict.h"
+#include "rules/build.h"
+#include "rules/reason.h"
+#include "write/json_writer.h"
+
+namespace ostrel::tool {
+
+// gateway is the build that this program belongs to. It may be told what the wireless driver lists.
+rules::Build& gateway();
+
+// explain sets the reason of a result that is neither an acceptance nor an answer, by the description of its check.
+void explain(Result& result);
+
+// is_known_not_to_return tells that the description says so of a call. Where it does, answer_at_once sets the verdict.
+bool is_known_not_to_return(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
+void answer_at_once(Result& result);
+
+// asks_driver tells that the wireless driver is asked in a call.
+bool asks_driver(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
+
+// blame_driver sets the verdict on a call for which the driver gave no list, with the reason for that.
+void blame_driver(Result& result, std::string_view problem);
+
+// explain_by_driver sets the reason of a result by what the driver answered in the call.
+void explain_by_driver(Result& result, const Heard& heard);
+
+// write_reasons adds the members "reason" and "remarks" to an object.
+void write_reasons(JsonWriter& json, const Result& result, Encoding encoding);
+
+// explain_lack sets the reason of a record for which no call could be made, although nothing is wrong with it.
+void explain_lack(Result& result, const Record& record);
+
+}  // namespace ostrel::tool
+
+#endif

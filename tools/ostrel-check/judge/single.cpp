@@ -1,0 +1,206 @@
+#include "judge/single.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <optional>
+#include <stdexcept>
+#include <system_error>
+
+#include "catalogue/case.h"
+#include "judge/driver.h"
+#include "judge/reason.h"
+#include "read/words.h"
+#include "system/process.h"
+#include "terminal/style.h"
+#include "write/render.h"
+#include "write/show.h"
+
+namespace ostrel::tool {
+
+using catalogue::Caller;
+
+namespace {
+
+// What the check's own process tells the one that waits, a byte each.
+constexpr std::string_view kReturnMark = "r";
+constexpr std::string_view kAssertionMark = "a";
+
+// last_printed is the last byte that the check's own process has sent to standard output.
+char last_printed = '\n';
+
+// is_shown_on_terminal tells that a value's control bytes must not reach whoever looks at the lines.
+bool is_shown_on_terminal = false;
+
+// append_for_terminal leaves a line's own line breaks and blanks as they are.
+void append_for_terminal(std::string& out, std::string_view text)
+{
+    for (const char& c : text) {
+        if (c == '\n') {
+            out += c;
+        } else {
+            append_escaped(out, {&c, 1}, 1);
+        }
+    }
+}
+
+// pass_on answers as the C library expects it of a stream; no exception may go through it.
+ssize_t pass_on(int descriptor, std::string_view text)
+{
+    try {
+        return write_all(descriptor, text) ? static_cast<ssize_t>(text.size()) : -1;
+    } catch (const std::system_error&) {
+        return -1;
+    }
+}
+
+ssize_t print(void*, const char* bytes, std::size_t size)
+{
+    if (size > 0) last_printed = bytes[size - 1];
+    if (!is_shown_on_terminal) return pass_on(STDOUT_FILENO, {bytes, size});
+    std::string shown;
+    append_for_terminal(shown, {bytes, size});
+    return pass_on(STDOUT_FILENO, shown) < 0 ? -1 : static_cast<ssize_t>(size);
+}
+
+ssize_t print_error(void* news, const char* bytes, std::size_t size)
+{
+    if (mentions_assertion({bytes, size})) {
+        write_all(static_cast<const Descriptor*>(news)->number(), kAssertionMark);
+    }
+    return pass_on(STDERR_FILENO, {bytes, size});
+}
+
+std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int buffering)
+{
+    cookie_io_functions_t functions{};
+    functions.write = write;
+    std::FILE* stream = fopencookie(cookie, "w", functions);
+    if (stream == nullptr) throw std::bad_alloc();
+    std::setvbuf(stream, nullptr, buffering, BUFSIZ);
+    return stream;
+}
+
+// watch_output passes on what is printed as it comes. It lets the verdict begin on a line of its own, and
+// tells an assertion from another abort.
+void watch_output(const Descriptor& news)
+{
+    is_shown_on_terminal = isatty(STDOUT_FILENO) == 1;
+    stdout = open_stream(print, nullptr, is_shown_on_terminal ? _IOLBF : _IOFBF);
+    stderr = open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
+}
+
+// verdict_line is the verdict, its first word in colour where that can be.
+std::string verdict_line(const Result& result)
+{
+    const std::string text = describe(result);
+    const std::size_t end = std::min(text.find(':'), text.size());
+    const bool is_good = exit_code(result.verdict) == kExitAccepted;
+    return painted(text.substr(0, end), is_good ? Colour::kGreen : Colour::kRed,
+                   wants_colours(STDOUT_FILENO)) +
+           text.substr(end) + "\n";
+}
+
+// call_check calls and finds the reason.
+void call_check(Caller& caller, Result& result, const Descriptor& news)
+{
+    std::optional<Listening> listening;
+    if (asks_driver(*result.function, *result.values)) listening.emplace();
+    judge(result, caller.call());
+    write_all(news.number(), kReturnMark);
+    std::fflush(nullptr);
+    if (!listening) {
+        explain(result);
+        return;
+    }
+    const Heard heard = listening->heard();
+    say(heard.said);
+    explain_by_driver(result, heard);
+}
+
+[[noreturn]] void call(Caller& caller, Result& result, const Descriptor& news)
+{
+    const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    dup2(nothing, STDIN_FILENO);
+    watch_output(news);
+    call_check(caller, result, news);
+    result.after = caller.written();
+    std::string text = last_printed == '\n' ? "" : "\n";
+    text += verdict_line(result);
+    append_after(text, "  ", result);
+    write_all(STDOUT_FILENO, text);
+    _exit(exit_code(result.verdict));
+}
+
+// wait_for_news waits for a byte of the check's process: nothing comes when it has ended or the time is over.
+enum class News { kReturned, kAsserted, kEnded, kNone };
+
+News wait_for_news(const Descriptor& news, double seconds)
+{
+    pollfd waiting{news.number(), POLLIN, 0};
+    int ready = 0;
+    do {
+        ready = poll(&waiting, 1, static_cast<int>(seconds * 1000));
+    } while (ready < 0 && errno == EINTR);
+    if (ready <= 0) return News::kNone;
+    char byte = 0;
+    if (read(news.number(), &byte, 1) != 1) return News::kEnded;
+    return byte == kReturnMark.front() ? News::kReturned : News::kAsserted;
+}
+
+int conclude(const Result& result)
+{
+    write_all(STDOUT_FILENO, verdict_line(result));
+    return exit_code(result.verdict);
+}
+
+}  // namespace
+
+int judge_one(std::string_view name, std::span<const std::string> words, const Manner& manner)
+{
+    Result result;
+    result.function = catalogue::find(name);
+    if (result.function == nullptr) throw std::invalid_argument(catalogue::unknown_function(name));
+    std::vector<catalogue::Value> values;
+    read_values(*result.function, words, values);
+    result.values = &values;
+    Caller caller;
+    caller.load(*result.function, values);
+    if (!manner.tries_known && is_known_not_to_return(*result.function, values)) {
+        answer_at_once(result);
+        return conclude(result);
+    }
+    if (!manner.driver_problem.empty() && asks_driver(*result.function, values)) {
+        blame_driver(result, manner.driver_problem);
+        return conclude(result);
+    }
+
+    const Turn turn(*result.function);  // before the time begins to count
+    Pipe pipe = make_pipe();
+    const pid_t child = fork_guarded();
+    if (child == 0) call(caller, result, pipe.writing);
+    pipe.writing.close();
+
+    const News news = wait_for_news(pipe.reading, manner.limit);
+    if (news == News::kReturned) {
+        const Ending ending = wait_for(child);
+        return ending.by_signal ? kExitEnded : ending.number;
+    }
+    if (news == News::kNone) {
+        stop(child);
+        result.verdict = Verdict::kNoReturn;
+        result.problem = describe_no_return(manner.limit);
+    } else {
+        result.verdict = Verdict::kEnded;
+        result.problem = describe_ending(wait_for(child), news == News::kAsserted);
+    }
+    clean_up_after(*result.function);
+    explain(result);
+    return conclude(result);
+}
+
+}  // namespace ostrel::tool

@@ -1,0 +1,93 @@
+// Verdict: what became of a case.
+#ifndef OSTREL_TOOLS_JUDGE_VERDICT_H
+#define OSTREL_TOOLS_JUDGE_VERDICT_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/caller.h"
+#include "catalogue/capture.h"
+#include "catalogue/catalogue.h"
+#include "read/record.h"
+#include "rules/reason.h"
+
+namespace ostrel::tool {
+
+enum class Verdict {
+    kAccepted,
+    kRefused,
+    kAnswer,     // a number that is no verdict
+    kMalformed,  // no case
+    kEnded,      // the check ended its process
+    kNoReturn,
+    kNoDriver,  // the check refused because the wireless driver gave no list of channels
+};
+
+inline constexpr std::size_t kVerdicts = 7;
+
+// name_of gives the verdict in a word or two, json_name in one.
+std::string_view name_of(Verdict verdict);
+std::string_view json_name(Verdict verdict);
+
+// has_code tells that what the check returned says something of the value, is_code that it is a result code.
+bool has_code(Verdict verdict);
+bool is_code(Verdict verdict);
+
+// The exit codes, of which the highest wins.
+inline constexpr int kExitAccepted = 0;
+inline constexpr int kExitRefused = 1;
+inline constexpr int kExitUsage = 2;
+inline constexpr int kExitEnded = 3;
+
+int exit_code(Verdict verdict);
+
+// Tally counts the cases of each verdict.
+struct Tally {
+    std::array<std::uint64_t, kVerdicts> counts{};
+
+    void add(Verdict verdict, std::uint64_t count) { counts[static_cast<std::size_t>(verdict)] += count; }
+    [[nodiscard]] std::uint64_t of(Verdict verdict) const
+    {
+        return counts[static_cast<std::size_t>(verdict)];
+    }
+    [[nodiscard]] int exit_code() const;
+    [[nodiscard]] std::uint64_t sum() const;
+};
+
+// Why is the reason of a refusal, or of a call that did not come back.
+struct Why {
+    std::string text;  // in a sentence; empty: the reason is not known
+    rules::Reason reason;
+    std::vector<rules::Reason> remarks;  // of the steps that printed and went on, in order
+};
+
+// Result is a case and what became of it. The views belong to whoever made it.
+struct Result {
+    Verdict verdict = Verdict::kMalformed;
+    const catalogue::Function* function = nullptr;  // NULL: malformed
+    const std::vector<catalogue::Value>* values = nullptr;
+    const Record* record = nullptr;  // NULL: there is none
+    int code = 0;
+    std::string problem;  // malformed, ended or not returned: in words
+    catalogue::PrintedView printed;
+    std::vector<catalogue::Written> after;
+    bool is_tried = true;  // the check was called
+    Why why = {};
+
+    // clear makes it ready for the next case.
+    void clear();
+};
+
+// judge sets the verdict on a call that returned.
+void judge(Result& result, int code);
+
+// describe says the verdict in a line: "refused: 802, too long (has 34 bytes; at most 32 are allowed)".
+std::string describe(const Result& result);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,54 @@
+// Words: a line split as a shell would split it, and words as the values of a check's arguments.
+#ifndef OSTREL_TOOLS_READ_WORDS_H
+#define OSTREL_TOOLS_READ_WORDS_H
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/caller.h"
+#include "catalogue/catalogue.h"
+#include "read/record.h"
+
+namespace ostrel::tool {
+
+// Words holds the words of a line. It is filled again and again, so that its memory is used again.
+class Words {
+ public:
+    // split takes blanks between words, 'text as it stands', "text with escapes", escapes outside quotation
+    // marks, and # where a word could begin for a comment. Throws std::invalid_argument with a message for
+    // the user.
+    void split(std::string_view line);
+
+    [[nodiscard]] std::span<const std::string> all() const { return {words_.data(), count_}; }
+
+ private:
+    std::size_t read_word(std::string_view line, std::size_t at);
+
+    std::vector<std::string> words_;
+    std::size_t count_ = 0;
+};
+
+// read_escapes reads \xNN, \n, \r, \t, and \ before any other character that is neither letter nor digit for
+// that character. Throws std::invalid_argument.
+std::string read_escapes(std::string_view text);
+
+// kNull is the word that stands for NULL. "@@null" stands for the text "@null", and so on.
+inline constexpr std::string_view kNull = "@null";
+
+// item_of returns what a word stands for; its text is a view into the word.
+Item item_of(std::string_view word);
+
+// read_values gives each argument its words: numbers, texts, NULL, one word for each block. Arguments that
+// are only written may be left out, all together. Throws std::invalid_argument.
+void read_values(const catalogue::Function& function, std::span<const std::string> words,
+                 std::vector<catalogue::Value>& values);
+
+// usage_of names a check and what it takes: "NAME value min:number".
+std::string usage_of(const catalogue::Function& function);
+
+}  // namespace ostrel::tool
+
+#endif

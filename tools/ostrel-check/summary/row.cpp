@@ -1,0 +1,125 @@
+#include "summary/row.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "write/json_writer.h"
+#include "write/show.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+constexpr std::size_t kLongestPath = 256;
+// Of a longer text in an example the beginning is shown, and how long it is.
+constexpr std::size_t kLongestShown = 200;
+
+bool is_instance(std::string_view name)
+{
+    if (name.empty()) return false;
+    if (name.front() == '[' && name.back() == ']') return true;
+    return std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// cut_text is the beginning of a long text, to the end of a character where it has characters.
+std::string_view cut_text(std::string_view text, std::size_t size)
+{
+    if (text.size() <= size) return text;
+    const std::size_t valid = valid_utf8(text.substr(0, size));
+    constexpr std::size_t kLongestCharacter = 4;
+    return text.substr(0, valid + kLongestCharacter > size ? valid : size);
+}
+
+catalogue::Value shortened(const catalogue::Value& value)
+{
+    const auto shorten = [](const std::string& text) {
+        if (text.size() <= kLongestShown) return text;
+        return std::string(cut_text(text, kLongestShown)) + "... (" + std::to_string(text.size()) + " bytes)";
+    };
+    if (const auto* text = std::get_if<std::string>(&value)) return shorten(*text);
+    const auto* texts = std::get_if<std::vector<std::string>>(&value);
+    if (texts == nullptr) return value;
+    std::vector<std::string> result;
+    std::ranges::transform(*texts, std::back_inserter(result), shorten);
+    return result;
+}
+
+// append_valid adds a text, with what is not UTF-8 as \xNN.
+void append_valid(std::string& out, std::string_view text)
+{
+    while (!text.empty()) {
+        const std::size_t valid = valid_utf8(text);
+        out += text.substr(0, valid);
+        text.remove_prefix(valid);
+        if (text.empty()) return;
+        append_escaped(out, text.substr(0, 1), 1);
+        text.remove_prefix(1);
+    }
+}
+
+// member_text is a member of the record as a text; it is empty where the record has none of that name.
+std::string member_text(const Result& result, std::string_view name)
+{
+    const Member* member = result.record == nullptr ? nullptr : result.record->find(name);
+    return member == nullptr ? "" : text_of(*member);
+}
+
+}  // namespace
+
+void append_counted_parameter(std::string& out, std::string_view path)
+{
+    path = cut_text(path, kLongestPath);
+    // What precedes the first dot names the tree.
+    const std::size_t root = std::min(path.find('.'), path.size());
+    append_valid(out, path.substr(0, root));
+    path.remove_prefix(root);
+    while (!path.empty()) {
+        path.remove_prefix(1);
+        const std::string_view name = path.substr(0, path.find('.'));
+        path.remove_prefix(name.size());
+        out += '.';
+        append_valid(out, is_instance(name) ? "{i}" : name);
+    }
+}
+
+Row row_of(const Result& result, std::string& parameter)
+{
+    Row row;
+    if (result.function != nullptr) {
+        const auto position = result.function - catalogue::functions().data();
+        row.check = static_cast<std::uint16_t>(position);
+    }
+    row.verdict = result.verdict;
+    if (is_code(result.verdict)) row.code = result.code;
+    row.reason = result.why.reason.id;
+    parameter.clear();
+    if (result.record != nullptr && !result.record->members.empty())
+        append_counted_parameter(parameter, member_text(result, "parameter"));
+    row.parameter = parameter;
+    return row;
+}
+
+std::string example_of(const Result& result, Encoding encoding)
+{
+    if (exit_code(result.verdict) == kExitAccepted) return "";
+    rapidjson::StringBuffer buffer;
+    JsonWriter json(buffer);
+    json.StartObject();
+    const auto add = [&](std::string_view name, std::string_view text) {
+        if (text.empty()) return;
+        json.plain(name);
+        write_text(json, cut_text(text, 4 * kLongestShown));
+    };
+    add("id", member_text(result, "id"));
+    if (result.verdict != Verdict::kMalformed) {
+        json.plain("args");
+        json.StartArray();
+        for (const catalogue::Value& value : *result.values) write_value(json, shortened(value), encoding);
+        json.EndArray();
+    }
+    add("text", result.why.text.empty() ? std::string_view(result.problem) : result.why.text);
+    json.EndObject();
+    return {buffer.GetString(), buffer.GetSize()};
+}
+
+}  // namespace ostrel::tool

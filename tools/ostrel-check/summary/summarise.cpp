@@ -1,0 +1,203 @@
+#include "summary/summarise.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <deque>
+#include <fstream>
+#include <iostream>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <stdexcept>
+#include <system_error>
+
+#include "system/process.h"
+#include "write/show.h"
+
+namespace ostrel::tool {
+
+namespace {
+
+using nlohmann::ordered_json;
+
+// Rows is what a line holds. Views of its rows are into texts.
+struct Rows {
+    std::vector<Counted> counted;
+    std::deque<std::string> texts;
+
+    std::string_view keep(std::string text) { return texts.emplace_back(std::move(text)); }
+};
+
+[[noreturn]] void refuse(const std::string& problem) { throw std::invalid_argument(problem); }
+
+// text_of is a member's text; of another value, its JSON.
+std::optional<std::string> text_of(const ordered_json& object, const char* name)
+{
+    const auto found = object.find(name);
+    if (found == object.end() || found->is_null()) return {};
+    return found->is_string() ? found->get<std::string>() : found->dump();
+}
+
+Verdict verdict_of(const ordered_json& row)
+{
+    const std::string name = text_of(row, "verdict").value_or("");
+    for (std::size_t i = 0; i < kVerdicts; ++i) {
+        if (json_name(static_cast<Verdict>(i)) == name) return static_cast<Verdict>(i);
+    }
+    refuse("there is no verdict \"" + name + "\"");
+}
+
+std::uint16_t check_of(const ordered_json& row, Verdict verdict)
+{
+    const std::optional<std::string> name = text_of(row, "check");
+    const catalogue::Function* function = name ? catalogue::find(*name) : nullptr;
+    if (function != nullptr) return static_cast<std::uint16_t>(function - catalogue::functions().data());
+    if (name && verdict != Verdict::kMalformed) refuse("there is no check \"" + *name + "\"");
+    if (!name && verdict != Verdict::kMalformed) refuse("\"check\" is missing");
+    return kNoCheck;
+}
+
+std::uint64_t number_of(const ordered_json& object, const char* name)
+{
+    const auto found = object.find(name);
+    if (found == object.end() || !found->is_number_unsigned())
+        refuse(std::string("\"") + name + "\" is not a count");
+    return found->get<std::uint64_t>();
+}
+
+// common_of reads what rows of a summary and results have in common.
+Row common_of(const ordered_json& given)
+{
+    Row row;
+    row.verdict = verdict_of(given);
+    row.check = check_of(given, row.verdict);
+    if (!is_code(row.verdict)) return row;
+    const auto code = given.find("code");
+    if (code == given.end() || !code->is_number_integer()) refuse("\"code\" is not a number");
+    row.code = code->get<int>();
+    if ((row.code == 0) != (row.verdict == Verdict::kAccepted)) refuse("\"code\" does not suit \"verdict\"");
+    return row;
+}
+
+void read_row(Rows& rows, const ordered_json& given)
+{
+    if (!given.is_object()) refuse("a row is not an object");
+    Counted counted;
+    counted.row = common_of(given);
+    counted.is_others = given.contains("other_parameters");
+    counted.row.reason = rows.keep(text_of(given, "reason").value_or(""));
+    counted.row.parameter = rows.keep(text_of(given, "parameter").value_or(""));
+    if (given.contains("example")) counted.row.example = rows.keep(given["example"].dump());
+    counted.count = number_of(given, "count");
+    rows.counted.push_back(counted);
+}
+
+// read_result counts a result as the batch that wrote it would have.
+void read_result(Rows& rows, const ordered_json& result)
+{
+    Counted counted{common_of(result), false, 1};
+    Row& row = counted.row;
+    std::string parameter;
+    append_counted_parameter(parameter, text_of(result, "parameter").value_or(""));
+    row.parameter = rows.keep(parameter);
+    std::optional<std::string> text =
+        row.verdict == Verdict::kRefused ? std::nullopt : text_of(result, "meaning");
+    if (const auto reason = result.find("reason"); reason != result.end() && reason->is_object()) {
+        row.reason = rows.keep(text_of(*reason, "id").value_or(""));
+        text = text_of(*reason, "text");
+    }
+    if (exit_code(row.verdict) != kExitAccepted) {
+        ordered_json example = ordered_json::object();
+        if (const auto id = text_of(result, "id")) example["id"] = *id;
+        if (result.contains("args") && row.verdict != Verdict::kMalformed) example["args"] = result["args"];
+        if (text) example["text"] = *text;
+        row.example = rows.keep(example.dump());
+    }
+    rows.counted.push_back(counted);
+}
+
+void complain(const std::string& file, std::uint64_t line, std::string_view problem)
+{
+    std::string message = "ostrel-check: ";
+    append_escaped(message, file, 2000);
+    if (line > 0) message += ":" + std::to_string(line);
+    message += ": ";
+    append_escaped(message, problem, 500);
+    say(message + "\n");
+}
+
+// add_file says whether all of the file was read.
+bool add_file(Summary& summary, const std::string& file)
+{
+    std::ifstream opened;
+    if (file != "-") opened.open(file, std::ios::binary);
+    std::istream& lines = file == "-" ? std::cin : opened;
+    if (!lines) {
+        complain(file, 0, "cannot read it: " + std::generic_category().message(errno));
+        return false;
+    }
+    bool is_good = true;
+    std::uint64_t number = 0;
+    for (std::string line; std::getline(lines, line);) {
+        ++number;
+        if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
+        try {
+            add_line(summary, line);
+        } catch (const std::invalid_argument& error) {
+            complain(file, number, error.what());
+            is_good = false;
+        }
+    }
+    return is_good;
+}
+
+}  // namespace
+
+void add_line(Summary& summary, const std::string& line)
+{
+    ordered_json given;
+    try {
+        given = ordered_json::parse(line, [](int depth, ordered_json::parse_event_t, const ordered_json&) {
+            constexpr int kDeepest = 16;
+            if (depth > kDeepest) refuse("the JSON is nested too deeply");
+            return true;
+        });
+    } catch (const ordered_json::exception&) {
+        refuse("not JSON; a line is a summary or a result in JSON");
+    }
+    Rows rows;
+    std::uint64_t unreadable_files = 0;
+    if (given.is_object() && given.contains("summary")) {
+        if (!given["summary"].is_object()) refuse("\"summary\" is not an object");
+        if (!given.contains("rows") || !given["rows"].is_array())
+            refuse("a summary without rows; batch --summary json writes one with rows");
+        for (const ordered_json& row : given["rows"]) read_row(rows, row);
+        unreadable_files = number_of(given["summary"], "unreadable_files");
+        Tally tally;
+        for (const Counted& counted : rows.counted) tally.add(counted.row.verdict, counted.count);
+        for (std::size_t i = 0; i < kVerdicts; ++i) {
+            const std::string name(json_name(static_cast<Verdict>(i)));
+            if (number_of(given["summary"], name.c_str()) != tally.counts.at(i))
+                refuse("the rows do not add up to \"" + name + "\"");
+        }
+    } else if (given.is_object() && given.contains("verdict")) {
+        read_result(rows, given);
+    } else {
+        refuse("neither a summary nor a result");
+    }
+    for (const Counted& counted : rows.counted) summary.add(counted);
+    summary.add_unreadable_files(unreadable_files);
+}
+
+int summarise(const std::vector<std::string>& files, bool as_json)
+{
+    Summary summary;
+    int status = kExitAccepted;
+    for (const std::string& file : files) {
+        if (!add_file(summary, file)) status = kExitUsage;
+    }
+    write_all(STDOUT_FILENO, as_json ? summary_json(summary, true) : summary_text(summary, true));
+    return status;
+}
+
+}  // namespace ostrel::tool

@@ -1,0 +1,22 @@
+// Summarise: adds up what batches wrote that judged pieces of one input.
+#ifndef OSTREL_TOOLS_SUMMARY_SUMMARISE_H
+#define OSTREL_TOOLS_SUMMARY_SUMMARISE_H
+
+#include <string>
+#include <vector>
+
+#include "summary/summary.h"
+
+namespace ostrel::tool {
+
+// summarise adds the summaries and the results that the files hold, says on standard error what cannot be read, prints
+// the sum and returns the exit code.
+int summarise(const std::vector<std::string>& files, bool as_json);
+
+// add_line adds a line: a summary in JSON, with rows, or a result in JSON. Throws std::invalid_argument, with a message
+// for the user, for anything else, and has added nothing then.
+void add_line(Summary& summary, const std::string& line);
+
+}  // namespace ostrel::tool
+
+#endif

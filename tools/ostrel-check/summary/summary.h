@@ -1,0 +1,68 @@
+// Summary: what became of the records of a batch, by check, parameter and reason.
+#ifndef OSTREL_TOOLS_SUMMARY_SUMMARY_H
+#define OSTREL_TOOLS_SUMMARY_SUMMARY_H
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+#include "summary/row.h"
+
+namespace ostrel::tool {
+
+// Counted is a row with the number of its records.
+struct Counted {
+    Row row;
+    bool is_others = false;  // of the parameters that are not counted one by one
+    std::uint64_t count = 0;
+};
+
+// Summary has at most so many parameters of a check, the first ones in the order of their bytes; the records of others
+// are counted together. A parameter that is among the others stays there, whatever comes later. So the sum of the
+// summaries of pieces is the summary of the whole.
+class Summary {
+ public:
+    static constexpr std::size_t kMostParameters = 1000;
+
+    Summary();
+
+    void add(const Counted& counted);
+    void add_unreadable_files(std::uint64_t count) { unreadable_files_ += count; }
+
+    [[nodiscard]] const Tally& tally() const { return tally_; }
+    [[nodiscard]] std::uint64_t unreadable_files() const { return unreadable_files_; }
+
+    // for_each visits the rows in the order of the catalogue, of the parameters, and of verdicts, codes and reasons.
+    void for_each(const std::function<void(const Counted&)>& visit) const;
+
+ private:
+    struct Kind {
+        std::uint64_t count = 0;
+        std::string example;
+    };
+    using Kinds = std::map<std::tuple<Verdict, int, std::string>, Kind>;
+    struct OfCheck {
+        std::map<std::string, Kinds, std::less<>> parameters;
+        Kinds others;
+    };
+
+    static void add(Kinds& kinds, const Row& row, std::uint64_t count);
+
+    std::vector<OfCheck> checks_;  // as in the catalogue; and last, what belongs to no check
+    Tally tally_;
+    std::uint64_t unreadable_files_ = 0;
+};
+
+// summary_text and summary_json say what became of the records: of each family of checks, with_rows of each row, and
+// in the last line of the text of all. The JSON is one line.
+std::string summary_text(const Summary& summary, bool with_rows);
+std::string summary_json(const Summary& summary, bool with_rows);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,29 @@
+// Style: colours and widths, for people at a terminal.
+#ifndef OSTREL_TOOLS_TERMINAL_STYLE_H
+#define OSTREL_TOOLS_TERMINAL_STYLE_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace ostrel::tool {
+
+// wants_colours tells that a descriptor is a terminal that can show colours, and that NO_COLOR is not set.
+bool wants_colours(int descriptor);
+
+enum class Colour { kBold, kGreen, kRed };
+
+// painted gives the text in that colour, or as it is where there are to be none.
+std::string painted(std::string_view text, Colour colour, bool with_colours);
+
+// kColumns is the width that everything fits into that is not a value's own text.
+inline constexpr std::size_t kColumns = 80;
+
+// append_wrapped adds a text in lines of at most kColumns, each after so many blanks, and all but the first after some
+// more.
+void append_wrapped(std::string& out, std::string_view text, std::size_t indentation,
+                    std::size_t hanging = 0);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,68 @@
+// Values of calls as JSON, by RapidJSON.
+#ifndef OSTREL_TOOLS_WRITE_JSON_WRITER_H
+#define OSTREL_TOOLS_WRITE_JSON_WRITER_H
+
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "catalogue/caller.h"
+#include "read/encoding.h"
+#include "read/record.h"
+
+namespace ostrel::tool {
+
+// JsonWriter copies what needs no escapes, and the JSON that it is given, at once; RapidJSON's own writer goes through both
+// byte by byte, which takes half of the time that a result takes.
+class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
+ public:
+    using Writer::Writer;
+
+    // plain writes a text that is known to need no escapes: the name of a member, or of a verdict.
+    void plain(std::string_view text)
+    {
+        Prefix(rapidjson::kStringType);
+        char* place = os_->Push(text.size() + 2);
+        *place = '"';
+        std::memcpy(place + 1, text.data(), text.size());
+        place[text.size() + 1] = '"';
+    }
+
+    // members writes some members of an object at once, as they are to be written.
+    void members(std::string_view json)
+    {
+        Prefix(rapidjson::kStringType);
+        ++level_stack_.template Top<Level>()->valueCount;
+        std::memcpy(os_->Push(json.size()), json.data(), json.size());
+    }
+
+    // raw writes JSON.
+    void raw(std::string_view json);
+
+    // text writes a text that is valid UTF-8.
+    void text(std::string_view text);
+};
+
+// write_text writes a text in UTF-8; what is not valid is escaped as \xNN.
+void write_text(JsonWriter& json, std::string_view text);
+
+// write_bytes writes bytes of a value as a text, or as {"base64": text} where they do not decode.
+void write_bytes(JsonWriter& json, std::string_view bytes, Encoding encoding);
+
+void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encoding);
+
+// write_member writes the value of a member that is passed through.
+void write_member(JsonWriter& json, const Member& member);
+
+// text_of returns a member that is passed through as a text: a text as it is, everything else as JSON.
+std::string text_of(const Member& member);
+
+// append_bytes is write_bytes where JSON is made without a writer.
+void append_bytes(std::string& out, std::string_view bytes, Encoding encoding);
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,50 @@
+// Results as rows of a table, as lines of JSON, or as rows of CSV.
+#ifndef OSTREL_TOOLS_WRITE_RENDER_H
+#define OSTREL_TOOLS_WRITE_RENDER_H
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "judge/verdict.h"
+#include "read/encoding.h"
+
+namespace ostrel::tool {
+
+// Format is how results are written: as a table, as JSON, as JSON with a line for each record and without what depends
+// on the file, or as CSV.
+enum class Format { kTable, kJson, kStream, kCsv };
+
+struct Style {
+    Format format = Format::kTable;
+    bool only_refused = false;            // nothing is written for what was accepted, nor for answers
+    bool with_args = false;               // JSON and CSV repeat the arguments
+    Encoding encoding = Encoding::kUtf8;  // of the values, which JSON and CSV write as texts
+    bool no_results = false;              // nothing is written at all
+    bool redacts = false;                 // secret values are replaced by their length
+    bool tries_known = false;             // also calls are made that are known not to return
+    std::string driver_problem;  // why nobody stands in for the wireless driver as was asked for; or empty
+};
+
+// Place is where a case stands.
+struct Place {
+    std::string_view file;
+    std::uint64_t line = 0;
+};
+
+// append_row adds a result to a table.
+void append_row(std::string& out, const Place& place, const Result& result);
+
+// append_json adds a line of JSON.
+void append_json(std::string& out, const Style& style, const Place& place, const Result& result);
+
+// append_csv adds a row of CSV, and csv_header returns the row that precedes all of them.
+void append_csv(std::string& out, const Style& style, const Place& place, const Result& result);
+std::string csv_header(const Style& style);
+
+// append_after adds a line for each argument that the check may have written to.
+void append_after(std::string& out, std::string_view indentation, const Result& result);
+
+}  // namespace ostrel::tool
+
+#endif
