@@ -112,12 +112,14 @@ class OneText(unittest.TestCase):
         self.assertIn("The value é out of range", row["out"])
 
     def test_tokens_are_taken_as_they_are_written(self):
-        tokens = ("1.10", "1e3", "true", "false", "-0", "0.0", "-1", "99999999999999999999", "1E+2")
-        cases = "".join('{"check":"PARAM_check_bool_value","args":[%s],"n":%s}\n' % (token, token) for token in tokens)
-        result = run(cases, "--json", "--with-args")
-        for token, line in zip(tokens, result.stdout.decode().splitlines()):
-            self.assertIn(f'"args":["{token}"]', line)
-            self.assertIn(f'"n":{token},', line)
+        tokens = ("1.10", "1e3", "true", "false", "-0", "0.0", "-1", "99999999999999999999", "1E+2", "1e999", "-1E999",
+                  "9" * 400, "-1" + "0" * 400, "0." + "0" * 400 + "1", "9.99e+000999", "7e" + "9" * 400, "7e-" + "9" * 400)
+        cases = ['{"check":"PARAM_check_bool_value","args":[%s],"n":%s}' % (token, token) for token in tokens]
+        for text, options in (("\n".join(cases), ()), ("[" + ",\n".join(cases) + "]", ("--format", "json"))):
+            result = run(text, "--json", "--with-args", *options)
+            for token, line in zip(tokens, result.stdout.decode().splitlines()[:-1], strict=True):
+                self.assertIn(f'"args":["{token}"]', line)
+                self.assertIn(f'"n":{token},', line)
         for arguments in ('["15",1,20]', '["15","1","20"]', '[15,"0x1","+20"]'):
             row = judged('{"check":"PARAM_check_num_range","args":%s}' % arguments, "--with-args")[0]
             self.assertEqual(("accepted", ["15", 1, 20]), (row["verdict"], row["args"]))
@@ -127,6 +129,14 @@ class OneText(unittest.TestCase):
 
 class Malformed(unittest.TestCase):
     """What is no record is named, and the rest goes on."""
+
+    def test_numbers_are_those_of_json(self):
+        for token in ("01", "-01", "00", "1.", "-", "--1", "+1", ".5", "1.e1", "1e", "1e+", "1e1.5", "1.5.5", "0x1", "1 2",
+                      "Infinity", "NaN", "-Infinity", "1,", ",1", "9" * 400 + "."):
+            with self.subTest(token):
+                row = judged('{"check":"PARAM_check_bool_value","args":[%s]}' % token)[0]
+                self.assertEqual("malformed", row["verdict"])
+                self.assertIn("broken JSON", row["meaning"])
 
     def test_reasons(self):
         for line, meaning in (
