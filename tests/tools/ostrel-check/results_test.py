@@ -79,6 +79,19 @@ class Passed(unittest.TestCase):
                          .splitlines()[0])
         self.assertEqual((3, "accepted"), (row["id"], row["verdict"]))
 
+    def test_a_table_names_the_record(self):
+        table = run("id,parameter,check,value\n7,A.1.B,PARAM_check_port,1\n,A.2,PARAM_check_port,99999\n8,,PARAM_check_port,x\n"
+                    "9\x01,A.3,none,1\n,,PARAM_check_port,2\n")
+        self.assertEqual(["      2  accepted      0  7 A.1.B: PARAM_check_port 1",
+                          "      3  refused     601  A.2: PARAM_check_port 99999",
+                          "      4  accepted      0  8: PARAM_check_port x",
+                          "      6  accepted      0  PARAM_check_port 2"],
+                         [line for line in table.splitlines() if line[:7].strip().isdigit() and "malformed" not in line
+                          and "case" not in line])
+        self.assertIn("      5  malformed       9\\x01 A.3: there is no check", table)
+        table = run('{"id": {"a": [1]}, "parameter": "a\\u00e9", "check": "PARAM_check_port", "args": ["1"]}\n')
+        self.assertTrue(table.startswith('      1  accepted      0  {"a": [1]} a\\xC3\\xA9: PARAM_check_port 1\n'), table)
+
     def test_columns_are_passed_through(self):
         row = json.loads(run('id,check,value,Straße,code\n007,PARAM_check_port,1,"a ""ß""\n",\n', "--json").splitlines()[0])
         self.assertEqual(("007", 'a "ß"\n', {"code": ""}), (row["id"], row["Straße"], row["given"]))

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "write/json_writer.h"
 #include "write/show.h"
 
 namespace ostrel::tool {
@@ -39,6 +40,21 @@ void append_printed(std::string& out, std::string_view text, std::string_view ma
     }
 }
 
+// append_whose names the record as it names itself.
+void append_whose(std::string& out, const Result& result)
+{
+    if (result.record == nullptr) return;
+    bool has_name = false;
+    for (const std::string_view name : {"id", "parameter"}) {
+        const Member* member = result.record->find(name);
+        if (member == nullptr || member->value.empty()) continue;
+        if (has_name) out += ' ';
+        append_escaped(out, text_of(*member), kLongestShown);
+        has_name = true;
+    }
+    if (has_name) out += ": ";
+}
+
 void append_meaning(std::string& out, std::string_view meaning, const Result& result)
 {
     out.append(kIndentation).append(meaning);
@@ -71,12 +87,15 @@ void append_row(std::string& out, const Place& place, const Result& result)
     append_padded(out, name_of(result.verdict), 9, false);
     if (result.verdict == Verdict::kMalformed) {
         out += "       ";
+        append_whose(out, result);
         append_escaped(out, result.problem, kLongestShown);
         out += '\n';
         return;
     }
     append_padded(out, has_code(result.verdict) ? std::to_string(result.code) : "", 6, true);
-    out.append("  ").append(result.function->name);
+    out += "  ";
+    append_whose(out, result);
+    out += result.function->name;
     for (const catalogue::Value& value : *result.values) {
         out += ' ';
         append_value(out, value, kLongestShown);
