@@ -151,7 +151,6 @@ CLI::App* add_batch(CLI::App& app, Options& options)
     add_ending_options(*batch, options.ending, options.rules);
     batch->add_option("--map", options.map, "Dumps of gateways, judged by this map")
         ->excludes(batch->get_option("--check"))
-        ->excludes(batch->get_option("--start-line"))
         ->type_name("FILE");
     batch->add_option("--jobs", options.jobs, "Processes that judge side by side (1)")
         ->check(CLI::Range(1, 64))
@@ -179,9 +178,9 @@ int run_batch_of(Options& options)
     } catch (const std::invalid_argument& error) {
         return complain(error.what(), "ostrel-check list --schema map prints the schema of maps.\n");
     }
-    Unmapped unmapped(*map);
+    SplitGateways split;
     rules.reading.map = &*map;
-    rules.reading.unmapped = &unmapped;
+    rules.reading.split = &split;
     return run_batch(rules, closing, options.jobs);
 }
 

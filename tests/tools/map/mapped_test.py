@@ -1,8 +1,6 @@
 #!/usr/bin/python3
 """mapped_test.py OSTREL_CHECK SOURCE_DIR: dumps of gateways judged by a map."""
 
-import csv
-import io
 import json
 import pathlib
 import subprocess
@@ -10,8 +8,11 @@ import sys
 import tempfile
 import unittest
 
+import jsonschema
+
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
 import gateways  # noqa: E402
+from forms import as_csv, as_rows, as_trees  # noqa: E402
 
 program, source = sys.argv[1:3]
 tr_098 = pathlib.Path(source) / "examples/maps/tr-098.json"
@@ -27,25 +28,6 @@ def batch(text, *options, map_file=tr_098, code=None):
     results = [line for line in lines if "verdict" in line]
     counted = next((line["map"] for line in lines if "map" in line), None)
     return results, counted, run.stderr
-
-
-def as_csv(fleet, delimiter=","):
-    out = io.StringIO()
-    writer = csv.writer(out, delimiter=delimiter, lineterminator="\n")
-    writer.writerow(["gateway", "parameter", "value"])
-    for name, parameters, _ in fleet:
-        writer.writerows([name, path, value] for path, value in parameters.items())
-    return out.getvalue()
-
-
-def as_rows(fleet):
-    return "".join(
-        json.dumps({"gateway": name, "parameter": path, "value": value}) + "\n"
-        for name, parameters, _ in fleet for path, value in parameters.items())
-
-
-def as_trees(fleet):
-    return [{"gateway": name, **gateways.nested(parameters)} for name, parameters, _ in fleet]
 
 
 def place_of(result):
@@ -209,10 +191,6 @@ class Errors(unittest.TestCase):
 
     def test_maps_obey_the_schema(self):
         schema = json.loads(subprocess.run([program, "list", "--schema", "map"], capture_output=True).stdout)
-        try:
-            import jsonschema
-        except ImportError:
-            self.skipTest("there is no validator")
         for path in tr_098.parent.glob("*.json"):
             jsonschema.validate(json.loads(path.read_text()), schema)
 

@@ -135,6 +135,19 @@ class Redaction(unittest.TestCase):
         row = json.loads(self.batch([line], "--redact", "--json", "--with-args").splitlines()[0])
         self.assertEqual([7, "A.1.B", "north", ["<14 bytes>"]], [row[name] for name in ("id", "parameter", "site", "args")])
 
+    def test_values_that_a_map_has_no_word_for(self):
+        """The value may be of another parameter than the one that is judged, and a secret there."""
+        with tempfile.NamedTemporaryFile("w", suffix=".json") as file:
+            json.dump({"parameters": [
+                {"path": "Band", "check": "WLAN_check_radio_id", "words": {"2.4GHz": "RADIO_2.4GHz"}},
+                {"path": "Key", "check": "TcmValidatePSK", "words": {"none": ""}}]}, file)
+            file.flush()
+            lines = [json.dumps({"id": 7, "parameter": path, "value": marker}) for marker in MARKERS for path in ("Band", "Key")]
+            for options in FORMS:
+                shown = self.assert_hidden(lines, "--map", file.name, "--format", "ndjson", *options)
+                if options != ["--summary-only"]:
+                    self.assertIn("Key has a value that the map has no word for: (what the line holds is not shown)", shown)
+
     def test_ends_of_processes_hide_it_too(self):
         lines = [json.dumps({"check": "WLAN_check_preshared_key2", "args": args})
                  for args in ([MARKERS[0], None], [None, MARKERS[1]])]

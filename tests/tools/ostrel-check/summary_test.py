@@ -22,6 +22,10 @@ def summary_of(lines, *options):
     return json.loads(run("batch", "--summary-only", "--summary", "json", *options, text=lines).stdout)
 
 
+DUMPS = {"gateways": 1, "parameters": 1, "skipped": 0, "split_gateways": 0,
+         "unmapped": {"parameters": 0, "paths": []}}
+
+
 class Summary(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -104,6 +108,46 @@ class Sum(unittest.TestCase):
         return json.dumps({"summary": {"cases": 0, **total, "unreadable_files": 0}, "families": {},
                            "rows": list(rows)}) + "\n"
 
+    def mapped(self, dumps):
+        return json.dumps({**json.loads(self.summary(self.row())), "map": dumps}) + "\n"
+
+    def test_of_dumps_is_added_too(self):
+        """Of very many paths those are kept that come first by their bytes, whatever the order of the pieces."""
+        random.seed(2)
+        pieces = []
+        for _ in range(8):
+            paths = [{"path": f"p{number}", "count": 1 + number % 3} for number in random.sample(range(20000), 9000)]
+            paths[0]["because"] = "it says nothing"
+            count = sum(path["count"] for path in paths)
+            pieces.append(self.mapped({"gateways": 2, "parameters": count + 5, "skipped": 1, "split_gateways": 0,
+                                       "unmapped": {"parameters": count, "paths": paths}}))
+        added = json.loads(self.summarise(*pieces).stdout)
+        random.shuffle(pieces)
+        self.assertEqual(added, json.loads(self.summarise("".join(pieces[:3]), *pieces[3:]).stdout))
+        jsonschema.Draft202012Validator(json.loads(run("list", "--schema", "summary").stdout)).validate(added)
+        dumps = added["map"]
+        given = {}
+        for path in (path for piece in pieces for path in json.loads(piece)["map"]["unmapped"]["paths"]):
+            given[path["path"]] = given.get(path["path"], 0) + path["count"]
+        self.assertEqual((16, 8, sum(given.values()), sum(given.values()) + 40),
+                         (dumps["gateways"], dumps["skipped"], dumps["unmapped"]["parameters"], dumps["parameters"]))
+        self.assertEqual({name: given[name] for name in sorted(given)[:10000]},
+                         {path["path"]: path["count"] for path in dumps["unmapped"]["paths"]})
+        text = self.summarise(*pieces, options=()).stdout
+        self.assertIn(f"{dumps['parameters']} parameters of 16 gateways; no check is known for {sum(given.values())}:\n",
+                      text)
+        self.assertIn(": it says nothing\n", text)
+
+    def test_numbers_are_tokens(self):
+        """An id is a text as it is written, also where no double holds the number."""
+        lines = "".join(f'{{"id":{token},"check":"PARAM_check_port","args":["{i}00000"]}}\n'
+                        for i, token in enumerate(("1.10", "1e999", "9" * 400, "-7"), 1))
+        results = run("batch", "--stream", "--with-args", text=lines).stdout.splitlines(keepends=True)
+        for line, expected in zip(results, ("1.10", "1e999", "9" * 400, "-7")):
+            row = json.loads(self.summarise(line).stdout)["rows"][0]
+            self.assertEqual(expected, row["example"]["id"])
+        self.assertEqual(summary_of(lines), json.loads(self.summarise(*results).stdout))
+
     def test_of_pieces_is_that_of_the_whole(self):
         lines = "".join(f"PARAM_check_port {i * 3}\nTcmValidateTime x{i}\nnothing\n" for i in range(4000))
         lines = lines.splitlines(keepends=True)
@@ -158,7 +202,7 @@ class Sum(unittest.TestCase):
 
     def test_what_cannot_be_added_is_left_out_and_named(self):
         good = self.summary(self.row())
-        for bad, why in (("nothing\n", "not JSON; a line is a summary or a result in JSON"),
+        for bad, why in (("nothing\n", "broken JSON: Invalid value; a line is a summary or a result in JSON"),
                          ("[]\n", "neither a summary nor a result"), ("1\n", "neither a summary nor a result"),
                          ('{"summary": {}}\n', "a summary without rows; batch --summary json writes one with rows"),
                          ('{"summary": 1, "rows": []}\n', '"summary" is not an object'),
@@ -170,8 +214,13 @@ class Sum(unittest.TestCase):
                          (good.replace('"accepted": 1', '"accepted": 2'), 'the rows do not add up to "accepted"'),
                          (good.replace('"count": 1', '"count": -1'), '"count" is not a count'),
                          (good.replace('"rows": [', '"rows": [1, '), "a row is not an object"),
-                         ("[" * 100000 + "\n", "the JSON is nested too deeply"),
-                         ('{"verdict": "\x00"}\n', "not JSON; a line is a summary or a result in JSON")):
+                         ("[" * 100000 + "\n", "the JSON is nested too deeply; a line is a summary or a result in JSON"),
+                         ('{"verdict": "\x00"}\n',
+                          "broken JSON: byte 14 is NUL; a line is a summary or a result in JSON"),
+                         (self.mapped({}), '"map" does not list what is unmapped'),
+                         (self.mapped(DUMPS | {"gateways": 1.5}), '"gateways" is not a count'),
+                         (self.mapped(DUMPS | {"unmapped": {"parameters": 1, "paths": [{"path": "a", "count": 2}]}}),
+                          'the paths do not add up to "parameters"')):
             shown = self.summarise(good, "\n" + bad + good)
             self.assertEqual(2, shown.returncode, bad[:100])
             self.assertEqual(f"ostrel-check: {self.folder}/1:2: {why}\n", shown.stderr)

@@ -13,6 +13,7 @@
 #include "catalogue/capture.h"
 #include "read/cutter.h"
 #include "read/reading.h"
+#include "read/record.h"
 
 namespace ostrel::tool {
 
@@ -26,19 +27,26 @@ std::uint64_t count_lines(std::string_view text);
 struct Progress {
     std::size_t read = 0;  // bytes of the input
     std::uint64_t line = 0;
+    std::uint64_t next =
+        0;  // the line to go on with; within a text of several gateways, where one of them begins
     std::size_t part = 0;     // records of the text that is being read
+    bool is_within = false;   // records of a gateway were judged, and others of it were not
     std::size_t written = 0;  // bytes of the output
     std::uint64_t cases = 0;  // whose results are there
     std::uint64_t refused = 0;
     Log::Size log;
 
     // advance goes on after a record, to the next one of the same text or to the next text.
-    void advance(std::string_view text, bool has_more)
+    void advance(std::string_view text, bool has_more, const Record& record)
     {
+        const bool ends_gateway = has_more && record.kind == Record::Kind::kGatewayEnd;
+        if (ends_gateway) next = line + record.end;
+        is_within = has_more && !ends_gateway;
         part = has_more ? part + 1 : 0;
         if (has_more) return;
         read += text.size();
         line += count_lines(text);
+        next = line;
     }
 };
 

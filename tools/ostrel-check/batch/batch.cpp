@@ -137,14 +137,11 @@ class Batch {
     bool skip(Chunk& chunk)
     {
         if (chunk.line >= rules_->start_line) return true;
-        const std::size_t size = chunk.text.size();
         if (skipping_ == nullptr) skipping_ = make_reader(chunk.format, rules_->reading, chunk.preamble);
-        while (chunk.line < rules_->start_line && !chunk.text.empty()) {
-            const std::string_view text = chunk.text.substr(0, skipping_->next(chunk.text));
-            chunk.text.remove_prefix(text.size());
-            chunk.line += count_lines(text);
-        }
-        meter_.skip(size - chunk.text.size());
+        const std::size_t skipped = skipping_->skip(chunk.text, rules_->start_line - chunk.line);
+        chunk.line += count_lines(chunk.text.substr(0, skipped));
+        chunk.text.remove_prefix(skipped);
+        meter_.skip(skipped);
         return !chunk.text.empty();
     }
 
@@ -157,14 +154,17 @@ class Batch {
         }
         sum_up();
         std::string where = "stopped after line " + std::to_string(line_ - 1);
-        // The records of a JSON file may be on one line.
-        if (is_within_line_) where = "stopped within line " + std::to_string(line_);
+        // The records of a JSON file may be on one line, and the results of a gateway too many to be kept back.
+        if (is_within_line_) {
+            where = rules_->reading.map == nullptr ? "stopped within line "
+                                                   : "stopped within the gateways of line ";
+            where += std::to_string(line_);
+        }
         if (rules_->files.size() > 1) {
             where += " of ";
             append_escaped(where, rules_->files[file_], kLongestText);
         }
-        // With a map, it cannot go on within a gateway.
-        if (is_within_line_ || rules_->reading.map != nullptr) {
+        if (is_within_line_) {
             say(where + ", after " + std::to_string(summary_.tally().sum()) + " records in all\n");
             return exit_code_of_stop();
         }
@@ -183,10 +183,6 @@ class Batch {
     int finish()
     {
         meter_.clear();
-        const Unmapped* unmapped = rules_->reading.unmapped;
-        if (unmapped != nullptr && rules_->style.format == Format::kJson)
-            write_all(STDOUT_FILENO, unmapped->json());
-        if (unmapped != nullptr && rules_->style.format != Format::kJson) say(unmapped->text());
         return sum_up() ? exit_code() : kExitUsage;
     }
 
@@ -202,6 +198,11 @@ class Batch {
     bool sum_up()
     {
         summary_.add_unreadable_files(input_.unreadable_files());
+        if (const SplitGateways* split = rules_->reading.split; split != nullptr) {
+            summary_.unmapped().use_map();
+            summary_.unmapped().add_split(split->count(), split->first());
+            if (!closing_->has_summary) say(summary_.unmapped().text());
+        }
         return write_summary(*closing_, summary_, error_ == 0 && is_followed_by_summary());
     }
 

@@ -84,12 +84,13 @@ void LogWriter::add(Log::Size& size, const Row& row, std::uint32_t lines, std::s
     } else if (found->second.round != round_) {
         found->second = {round_, append(size, row)};
     }
-    log_->entries[size.entries++] = {found->second.row, lines, static_cast<std::uint32_t>(written)};
+    log_->entries[size.entries++] = {found->second.row, lines, static_cast<std::uint32_t>(written), {}};
 }
 
-void LogWriter::add_lines(Log::Size& size, std::uint32_t lines, std::size_t written)
+void LogWriter::add_end(Log::Size& size, std::uint32_t lines, std::size_t written,
+                        const GatewayCounts& gateway)
 {
-    log_->entries[size.entries++] = {Log::kNoRow, lines, static_cast<std::uint32_t>(written)};
+    log_->entries[size.entries++] = {Log::kNoRow, lines, static_cast<std::uint32_t>(written), gateway};
 }
 
 }  // namespace ostrel::tool

@@ -22,11 +22,12 @@ struct Log {
     static constexpr std::size_t kLongestRow = std::size_t{16} << 10;
     static constexpr std::uint32_t kNoRow = 0xFFFFFFFF;
 
-    // Entry is a record, or a line without one.
+    // Entry is a record, a line without one, or the end of a gateway.
     struct Entry {
         std::uint32_t row = kNoRow;
-        std::uint32_t lines = 0;    // of the input, that end with it
-        std::uint32_t written = 0;  // bytes of the output, behind it
+        std::uint32_t lines = 0;     // of the input, that end with it
+        std::uint32_t written = 0;   // bytes of the output, behind it
+        GatewayCounts gateway = {};  // without parameters: it is none
     };
 
     // Size is how much of the log is in use.
@@ -40,10 +41,14 @@ struct Log {
     std::array<char, kRows> rows;
 
     // has_room tells that two more entries fit, whatever they are: one of the worker's and the supervisor's on the
-    // record that ended the worker.
+    // record that ended the worker. is_half_full is for who may wait for a better place to stop.
     static bool has_room(const Size& size)
     {
         return size.entries + 2 <= kMostRecords && size.bytes + 2 * kLongestRow <= kRows;
+    }
+    static bool is_half_full(const Size& size)
+    {
+        return size.entries >= kMostRecords / 2 || size.bytes >= kRows / 2;
     }
 };
 
@@ -62,8 +67,8 @@ class LogWriter {
     void add(Log::Size& size, const Row& row, std::uint32_t lines, std::size_t written,
              const std::function<std::string()>& example);
 
-    // add_lines adds a line without a record.
-    void add_lines(Log::Size& size, std::uint32_t lines, std::size_t written);
+    // add_end adds a line without a record, or the end of a gateway.
+    void add_end(Log::Size& size, std::uint32_t lines, std::size_t written, const GatewayCounts& gateway);
 
  private:
     struct Known {

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <span>
 
 #include "judge/driver.h"
 #include "judge/reason.h"
@@ -46,7 +47,7 @@ void Slot::give(const Chunk& chunk)
     std::ranges::copy(chunk.text, std::ranges::copy(chunk.preamble, arena_->input.data()).out);
     Progress progress;
     progress.read = chunk.preamble.size();
-    progress.line = chunk.line;
+    progress.line = progress.next = chunk.line;
     arena_->commit(progress);
     heading_ = chunk.heading;
     if (!chunk.problem.empty()) {
@@ -124,12 +125,12 @@ void Slot::conclude(Verdict verdict, std::string problem)
     if (rules_->style.redacts) redactor.redact(result, rules_->style.encoding);
     append_result(conclusion_, rules_->style,
                   {rules_->files[arena_->file], progress.line + cases_.record().line}, result);
-    const std::uint64_t line = progress.line;
-    progress.advance(text, !text.empty() && cases_.has_more());
+    const std::uint64_t line = progress.next;
+    progress.advance(text, !text.empty() && cases_.has_more(), cases_.record());
     ++progress.cases;
     std::string parameter;
     LogWriter(arena_->log)
-        .add(progress.log, row_of(result, parameter), static_cast<std::uint32_t>(progress.line - line),
+        .add(progress.log, row_of(result, parameter), static_cast<std::uint32_t>(progress.next - line),
              progress.written + conclusion_.size(),
              [&] { return example_of(result, rules_->style.encoding); });
     arena_->commit(progress);
@@ -168,8 +169,10 @@ std::uint32_t Slot::count(std::size_t written, Summary& summary)
         while (done > 0 && log.entries[done - 1].lines == 0) --done;
     }
     std::vector<std::uint64_t> counts(size.rows);
-    for (std::uint32_t i = 0; i < done; ++i) {
-        if (log.entries[i].row != Log::kNoRow) ++counts[log.entries[i].row];
+    for (const Log::Entry& entry : std::span(log.entries).first(done)) {
+        if (entry.row != Log::kNoRow) ++counts[entry.row];
+        if (entry.gateway.parameters > 0)
+            summary.unmapped().add_gateways(1, entry.gateway.parameters, entry.gateway.skipped);
     }
     std::size_t next = 0;
     for_each_row(log, size, [&](const Row& row) {
@@ -184,7 +187,7 @@ Taken Slot::take(int descriptor, Summary& summary)
     Taken taken;
     Progress progress = arena_->progress();
     const Log& log = arena_->log;
-    taken.line = progress.line;
+    taken.line = progress.next;
     const std::size_t written = write_out(descriptor, taken.error);
     const std::uint32_t done = count(written, summary);
     if (taken.error != 0) {
@@ -202,7 +205,7 @@ Taken Slot::take(int descriptor, Summary& summary)
     progress.written = 0;
     progress.log = {};
     arena_->commit(progress);
-    if (taken.error != 0 || arena_->is_to_stop()) return taken;
+    if (taken.error != 0 || (arena_->is_to_stop() && !progress.is_within)) return taken;
     if (arena_->rest_of_input().empty()) {
         give_memory_back();
     } else {

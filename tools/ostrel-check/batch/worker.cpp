@@ -4,11 +4,13 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <optional>
 #include <utility>
 
 #include "judge/driver.h"
 #include "judge/reason.h"
 #include "judge/redact.h"
+#include "map/unmapped.h"
 #include "read/cases.h"
 
 namespace ostrel::tool {
@@ -24,7 +26,7 @@ class Judge {
           files_(&files),
           capture_(arena.prints),
           cases_(reading),
-          has_map_(reading.map != nullptr),
+          map_(reading.map),
           log_(arena.log)
     {
     }
@@ -34,15 +36,15 @@ class Judge {
     {
         log_.begin();
         Progress progress = arena_->progress();
+        noted_line_ = progress.next;
         cases_.open(arena_->file, arena_->format, arena_->preamble());
         std::string_view rest = arena_->rest_of_input();
-        while (!rest.empty() && has_room(progress) && !arena_->is_to_stop()) {
+        while (!rest.empty() && goes_on(progress)) {
             const std::string_view text = rest.substr(0, cases_.next(rest));
-            line_number_ = progress.line;
             bool has_more = true;
-            while (has_more && has_room(progress)) {
+            while (has_more && goes_on(progress)) {
                 has_more = judge(text, progress);
-                progress.advance(text, has_more);
+                progress.advance(text, has_more, cases_.record());
                 note(progress);
                 arena_->commit(progress);
             }
@@ -51,21 +53,26 @@ class Judge {
     }
 
  private:
-    static bool has_room(const Progress& progress)
+    [[nodiscard]] bool goes_on(const Progress& progress) const
     {
-        return progress.written < kEnoughOutput && Log::has_room(progress.log);
+        if (progress.written >= kMostOutput || !Log::has_room(progress.log)) return false;
+        if (progress.is_within) return true;
+        return progress.written < kEnoughOutput && !Log::is_half_full(progress.log) && !arena_->is_to_stop();
     }
 
     // judge tells whether the text holds another record.
     bool judge(std::string_view text, Progress& progress)
     {
         result_.clear();
-        has_case_ = true;
+        kind_ = Record::Kind::kCase;
         try {
             if (!cases_.read(text, progress.part)) {
-                if (!has_map_) write_nothing(progress);
+                kind_.reset();
+                if (map_ == nullptr) write_nothing(progress);
                 return false;
             }
+            kind_ = cases_.record().kind;
+            if (kind_ != Record::Kind::kCase) return cases_.has_more();
             caller_.load(*cases_.function(), cases_.values());
         } catch (const std::exception& error) {
             refuse_record(error.what(), progress);
@@ -136,7 +143,6 @@ class Judge {
     // write_nothing answers a line without a case: with an empty one where each line is to have its own.
     void write_nothing(Progress& progress)
     {
-        has_case_ = false;
         if (style_.format == Format::kStream && !style_.no_results) arena_->output[progress.written++] = '\n';
     }
 
@@ -147,7 +153,7 @@ class Judge {
         if (style_.redacts) redactor_.redact(result_, style_.encoding);
         append_result(text_, style_, {(*files_)[arena_->file], progress.line + cases_.record().line},
                       result_);
-        if (text_.size() > kOutput - kEnoughOutput) {
+        if (text_.size() > kOutput - kMostOutput) {
             refuse_record("the result is too long to be written", progress);
             return;
         }
@@ -158,15 +164,22 @@ class Judge {
         if (text_.capacity() > kEnoughOutput) text_ = std::string();
     }
 
-    // note tells the supervisor of the record that was judged last, behind which the progress is now.
+    // note tells the supervisor of what was read last, behind which the progress is now.
     void note(Progress& progress)
     {
-        const auto lines = static_cast<std::uint32_t>(progress.line - line_number_);
-        if (has_case_) {
+        const auto lines = static_cast<std::uint32_t>(progress.next - noted_line_);
+        noted_line_ = progress.next;
+        // The end of its last gateway was noted.
+        if (map_ != nullptr && !kind_ && lines == 0) return;
+        const Record& record = cases_.record();
+        if (kind_ == Record::Kind::kCase) {
             log_.add(progress.log, row_of(result_, parameter_), lines, progress.written,
                      [&] { return example_of(result_, style_.encoding); });
+        } else if (kind_ == Record::Kind::kUnmapped) {
+            log_.add(progress.log, row_of_unmapped(record, parameter_), lines, progress.written,
+                     [&] { return std::string(why_unmapped(*map_, parameter_)); });
         } else {
-            log_.add_lines(progress.log, lines, progress.written);
+            log_.add_end(progress.log, lines, progress.written, kind_ ? record.counts : GatewayCounts());
         }
     }
 
@@ -176,11 +189,11 @@ class Judge {
     catalogue::Capture capture_;
     catalogue::Caller caller_;
     Cases cases_;
-    bool has_map_;
-    std::uint64_t line_number_ = 0;
+    const Map* map_;  // NULL: there is none
+    std::uint64_t noted_line_ = 0;
     Result result_;
     LogWriter log_;
-    bool has_case_ = false;
+    std::optional<Record::Kind> kind_;  // of what was read last; none: nothing
     Redactor redactor_;
     std::string text_;
     std::string parameter_;

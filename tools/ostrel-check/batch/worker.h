@@ -14,9 +14,10 @@ namespace ostrel::tool {
 // append_result renders in that style.
 void append_result(std::string& out, const Style& style, const Place& place, const Result& result);
 
-// A worker goes on with the next chunk's rest when it has written so much, and leaves it to the supervisor to
-// take what is there.
+// A worker stops when it has written so much, and leaves it to the supervisor to take what is there. Within a gateway it
+// stops later, so that what was taken mostly ends where a batch can go on.
 inline constexpr std::size_t kEnoughOutput = std::size_t{4} << 20;
+inline constexpr std::size_t kMostOutput = 8 * kEnoughOutput;
 
 // run_worker serves until its supervisor closes the pipe of orders: for each byte that comes it judges a part
 // of what the arena holds, from where progress stands, and answers with a byte.

@@ -64,7 +64,8 @@ The map says which check judges which parameter. Rows of several gateways need
 --group, the column that tells them apart, and the rows of a gateway must be
 together: of one whose rows are in several places, each place is judged by
 itself. What the check needs of other parameters comes from the same gateway;
-results that do come at its end. Parameters without a check are counted.
+results that do come at its end. Parameters without a check are counted and
+listed in the summary.
 
 A line ends in a line feed, or in a carriage return and a line feed. A line, a
 row or an element is at most 16 MiB long.
@@ -79,7 +80,9 @@ results, or is written to --summary-file; with --stream and without such a file
 it goes to standard error.
 
 SIGINT and SIGTERM end a batch behind the record that it is at, and so does a
-full disk: standard error says behind which line, and --start-line goes on.
+full disk: standard error says behind which line, and --start-line goes on. With
+--map it is the gateway that is finished, and --start-line begins with the first
+one that begins there or later.
 
 A call that is known not to return is not made, except with --try. A channel
 that is to be looked up with the wireless driver is not judged (no driver) where

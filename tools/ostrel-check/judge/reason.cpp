@@ -137,8 +137,9 @@ void explain_lack(Result& result, const Record& record)
 namespace {
 
 // write_lack says why there was no call, although nothing is wrong with the record.
-void write_lack(JsonWriter& json, const Record& record)
+void write_lack(JsonWriter& json, const Result& result)
 {
+    const Record& record = *result.record;
     const auto write = [&](std::string_view name, std::string_view text) {
         json.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()));
         write_text(json, text);
@@ -148,7 +149,7 @@ void write_lack(JsonWriter& json, const Record& record)
     write("id", record.problem_id);
     write("argument", record.problem_argument);
     write("parameter", record.problem_path);
-    write("text", record.problem);
+    write("text", result.why.text);
     json.EndObject();
 }
 
@@ -157,7 +158,7 @@ void write_lack(JsonWriter& json, const Record& record)
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding)
 {
     if (result.record != nullptr && !result.record->problem_id.empty()) {
-        write_lack(json, *result.record);
+        write_lack(json, result);
         return;
     }
     const Why& why = result.why;

@@ -171,6 +171,7 @@ void Redactor::redact(Result& result, Encoding encoding)
     secrets_.clear();
     if (result.verdict == Verdict::kMalformed) {
         result.problem = without_quotations(result.problem);
+        result.why.text = without_quotations(result.why.text);
         // Any of the values may be the secret.
         if (result.record != nullptr) {
             for (const Item& item : result.record->items) {

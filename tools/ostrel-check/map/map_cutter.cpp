@@ -84,7 +84,6 @@ void MapCutter::look_at(std::string_view text, std::size_t at)
     for (bool is_first = true; dump_->next_row(row); is_first = false) {
         if (is_first && (dump_->is_whole_gateway() || !is_in_gateway_ || dump_->gateway() != gateway_))
             begin_gateway(at);
-        reading_->unmapped->count(row.path, row.value);
     }
     if (dump_->is_whole_gateway()) is_in_gateway_ = false;
     if (!is_in_gateway_) begin_ = seen_;
@@ -95,7 +94,7 @@ void MapCutter::begin_gateway(std::size_t at)
     begin_ = at;
     is_in_gateway_ = true;
     gateway_ = dump_->gateway();
-    reading_->unmapped->begin_gateway(gateway_);
+    reading_->split->begin(gateway_);
 }
 
 }  // namespace ostrel::tool

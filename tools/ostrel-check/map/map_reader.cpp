@@ -17,6 +17,18 @@ Found MapReader::read(std::string_view text, std::size_t part, Record& record)
     return make_next(record) ? Found::kMore : Found::kNothing;
 }
 
+std::size_t MapReader::skip(std::string_view rest, std::uint64_t line)
+{
+    begin(rest);
+    for (Next next = read_row(); next != Next::kNothing; next = read_row()) {
+        if (next == Next::kGatewayEnd) is_in_gateway_ = false;
+        if (next != Next::kRow || (is_in_gateway_ && is_of_gateway())) continue;
+        if (line_ >= line) return begin_;
+        enter_gateway();
+    }
+    return rest.size();
+}
+
 void MapReader::begin(std::string_view text)
 {
     text_ = text;
@@ -42,23 +54,30 @@ bool MapReader::make_next(Record& record)
             return true;
         }
         if (is_ending_) {
+            record.clear();
+            record.kind = Record::Kind::kGatewayEnd;
+            record.counts = mapper_.counts();
+            record.end = end_line_;
             is_ending_ = false;
             is_in_gateway_ = false;
             mapper_.begin_gateway();
-            if (std::exchange(has_waiting_, false)) take_row();
+            return true;
+        }
+        if (std::exchange(has_waiting_, false)) {
+            take_row();
             continue;
         }
         switch (read_row()) {
             case Next::kRow:
                 has_waiting_ = is_in_gateway_ && !is_of_gateway();
                 if (has_waiting_) {
-                    end_gateway();
+                    end_gateway(line_);
                 } else {
                     take_row();
                 }
                 break;
             case Next::kGatewayEnd:
-                if (is_in_gateway_) end_gateway();
+                if (is_in_gateway_) end_gateway(next_line_);
                 break;
             case Next::kProblem:
                 record.clear();
@@ -67,7 +86,7 @@ bool MapReader::make_next(Record& record)
                 return true;
             case Next::kNothing:
                 if (!is_in_gateway_) return false;
-                end_gateway();
+                end_gateway(next_line_);
                 break;
         }
     }
@@ -95,6 +114,7 @@ MapReader::Next MapReader::read_row()
 void MapReader::take_text()
 {
     const std::string_view text = rest_.substr(0, dump_.next(rest_));
+    begin_ = text_.size() - rest_.size();
     rest_.remove_prefix(text.size());
     line_ = next_line_;
     next_line_ += static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
@@ -108,19 +128,23 @@ bool MapReader::is_of_gateway() const
     return dump_.gateway() == gateway_;
 }
 
+void MapReader::enter_gateway()
+{
+    is_in_gateway_ = true;
+    is_whole_gateway_ = dump_.is_whole_gateway();
+    gateway_ = dump_.gateway();
+}
+
 void MapReader::take_row()
 {
-    if (!is_in_gateway_) {
-        is_in_gateway_ = true;
-        is_whole_gateway_ = dump_.is_whole_gateway();
-        gateway_ = dump_.gateway();
-    }
+    if (!is_in_gateway_) enter_gateway();
     mapper_.take(row_);
 }
 
-void MapReader::end_gateway()
+void MapReader::end_gateway(std::uint64_t next_line)
 {
     is_ending_ = true;
+    end_line_ = next_line;
     mapper_.end_gateway();
 }
 

@@ -23,6 +23,9 @@ class MapReader : public Reader {
 
     std::size_t next(std::string_view rest) override { return rest.size(); }
 
+    // skip skips whole gateways.
+    std::size_t skip(std::string_view rest, std::uint64_t line) override;
+
     // read goes on where it was, or begins again: a worker may have to go on where another one ended. Nothing is
     // thrown: what is wrong with a row is its record's problem, and the next row is read.
     Found read(std::string_view text, std::size_t part, Record& record) override;
@@ -35,8 +38,9 @@ class MapReader : public Reader {
     bool make_next(Record& record);
     Next read_row();
     void take_text();
+    void enter_gateway();
     void take_row();
-    void end_gateway();
+    void end_gateway(std::uint64_t next_line);
     [[nodiscard]] bool is_of_gateway() const;
 
     Dump dump_;
@@ -48,11 +52,13 @@ class MapReader : public Reader {
     bool is_in_gateway_ = false;
     bool is_whole_gateway_ = false;  // and it is one text
     bool is_ending_ = false;         // the calls at the end of the gateway are made
+    std::uint64_t end_line_ = 0;     // then: where the next one begins
     bool has_waiting_ = false;       // a row of the next gateway waits for that
     bool is_read_ = false;           // rows are taken of a text
 
     std::string_view text_;
     std::string_view rest_;
+    std::size_t begin_ = 0;  // of the row that was read last, in the text
     std::size_t next_part_ = 0;
     std::uint64_t line_ = 0;  // from the begin of the text
     std::uint64_t next_line_ = 0;

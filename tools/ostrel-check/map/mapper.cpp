@@ -44,6 +44,8 @@ void Mapper::begin_gateway()
     made_.clear();
     memory_.release();
     entries_ = nullptr;
+    use_ = Use::kJudged;
+    counts_ = {};
     next_deferred_ = 0;
     is_complete_ = false;
 }
@@ -58,18 +60,24 @@ void Mapper::take(const Row& row)
     const bool is_known = found != map_->paths.end();
     entries_ = is_known ? &found->second.entries : nullptr;
     next_entry_ = 0;
-    if (is_known && found->second.is_sibling) {
-        values_.insert_or_assign(keep(row.path), keep(row.value));
-    }
+    ++counts_.parameters;
+    const bool is_sibling = is_known && found->second.is_sibling;
+    if (is_sibling) values_.insert_or_assign(keep(row.path), keep(row.value));
+    use_ = is_sibling ? Use::kSibling : Use::kNone;
 }
 
-bool Mapper::next(Record& record, Lack& lack)
+// next_of_row makes the calls of the row that was taken last, and tells of a row that is of no use.
+bool Mapper::next_of_row(Record& record, Lack& lack)
 {
     while (entries_ != nullptr && next_entry_ < entries_->size()) {
         const std::size_t index = (*entries_)[next_entry_++];
         const Entry& entry = map_->entries[index];
         if (!entry.path.matches(row_.path, numbers_)) continue;
-        if (std::ranges::find(entry.skipped, row_.value) != entry.skipped.end()) continue;
+        if (std::ranges::find(entry.skipped, row_.value) != entry.skipped.end()) {
+            use_ = std::max(use_, Use::kSkipped);
+            continue;
+        }
+        use_ = Use::kJudged;
         if (entry.has_siblings) {
             defer(index);
             continue;
@@ -77,6 +85,20 @@ bool Mapper::next(Record& record, Lack& lack)
         make(entry, row_, numbers_, record, lack);
         return true;
     }
+    const Use use = std::exchange(use_, Use::kJudged);
+    if (use == Use::kSkipped) ++counts_.skipped;
+    if (use != Use::kNone) return false;
+    lack = {};
+    record.clear();
+    record.kind = Record::Kind::kUnmapped;
+    record.line = row_.line;
+    record.path = row_.path;
+    return true;
+}
+
+bool Mapper::next(Record& record, Lack& lack)
+{
+    if (next_of_row(record, lack)) return true;
     while (is_complete_ && next_deferred_ < deferred_.size()) {
         const Deferred& one = deferred_[next_deferred_++];
         const Entry& entry = map_->entries[one.entry];
@@ -174,7 +196,7 @@ bool Mapper::add_text(const Source& source, std::string_view value, std::string_
         if (found == source.words->end()) {
             lack.id = "no_word";
             lack.parameter = path;
-            lack.text = "the map has no word for " + quoted(value) + " of " + std::string(path);
+            lack.text = std::string(path) + " has a value that the map has no word for: " + quoted(value);
             return false;
         }
         value = found->second;

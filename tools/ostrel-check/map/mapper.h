@@ -33,8 +33,9 @@ struct Row {
     std::span<const Member> members = {};  // that results repeat
 };
 
-// A mapper is given the rows of one gateway after the other. Calls of one parameter come at once; those that need
-// others too come at the gateway's end, in the order of their rows. It keeps what belongs to one gateway.
+// A mapper is given the rows of one gateway after the other. Calls of one parameter come at once, and so does a
+// parameter without a check; calls that need other parameters too come at the gateway's end, in the order of their rows.
+// It keeps what belongs to one gateway.
 class Mapper {
  public:
     explicit Mapper(const Map& map) : map_(&map) {}
@@ -47,6 +48,9 @@ class Mapper {
     // lacks, the record has no items.
     bool next(Record& record, Lack& lack);
 
+    // counts is of the gateway, so far.
+    [[nodiscard]] const GatewayCounts& counts() const { return counts_; }
+
  private:
     using Numbers = std::pmr::vector<std::string_view>;
     struct Deferred {
@@ -56,6 +60,7 @@ class Mapper {
         std::pmr::vector<Member> members;
     };
 
+    bool next_of_row(Record& record, Lack& lack);
     std::string_view keep(std::string_view text);
     void defer(std::size_t entry);
     bool is_first(const Entry& entry, std::span<const std::string_view> numbers);
@@ -73,7 +78,9 @@ class Mapper {
     std::vector<std::string_view> numbers_;
     const std::vector<std::size_t>* entries_ = nullptr;  // of the row
     std::size_t next_entry_ = 0;
-
+    enum class Use { kNone, kSibling, kSkipped, kJudged };
+    Use use_ = Use::kJudged;  // of the row, so far
+    GatewayCounts counts_;
     std::pmr::monotonic_buffer_resource memory_;
     std::unordered_map<std::string_view, std::string_view> values_;  // of parameters that others may need
     std::vector<Deferred> deferred_;

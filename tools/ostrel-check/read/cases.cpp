@@ -26,6 +26,7 @@ bool Cases::read(std::string_view text, std::size_t part)
         throw;
     }
     if (found_ == Found::kNothing) return false;
+    if (record_.kind != Record::Kind::kCase) return true;
     if (!record_.problem.empty()) {
         function_ = catalogue::find(record_.check);
         throw std::invalid_argument(std::string(record_.problem));

@@ -21,7 +21,8 @@ class Cases {
 
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
-    // read reads a record as a Reader does, and finds the check and its arguments; false: the text holds no record.
+    // read reads a record as a Reader does, and finds the check and the arguments of a case; false: the text holds no
+    // record.
     // Throws std::invalid_argument with a message for the user.
     bool read(std::string_view text, std::size_t part);
 

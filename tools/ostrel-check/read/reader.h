@@ -3,6 +3,7 @@
 #define OSTREL_TOOLS_READ_READER_H
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
@@ -31,6 +32,9 @@ class Reader {
     // next one: a line, a row of CSV with its line ends, an element of an array. rest begins with such a text, holds
     // only whole ones and is not empty.
     virtual std::size_t next(std::string_view rest) = 0;
+
+    // skip returns the size of the texts at the front of rest that begin before that line of it, the first of which is 0.
+    virtual std::size_t skip(std::string_view rest, std::uint64_t line);
 
     // read reads one record of such a text. part tells how many records of the text were read before; only nested
     // JSON has more than one. Throws std::invalid_argument with a message for the user, after which the record shows

@@ -11,7 +11,7 @@
 namespace ostrel::tool {
 
 struct Map;
-class Unmapped;
+class SplitGateways;
 
 enum class FileFormat {
     kWords,   // a line is words, or an object of JSON
@@ -30,7 +30,7 @@ struct Reading {
     bool is_strict = false;           // unknown and doubled members are malformed
     bool needs_check = true;          // a record without a check is malformed
     const Map* map = nullptr;         // the files are dumps of gateways, and it says what judges them
-    Unmapped* unmapped = nullptr;     // counts what the map does not know
+    SplitGateways* split = nullptr;   // counts gateways whose rows are not together
     std::string parameter;            // of rows of a dump: the column that has the path; empty: a usual name
     std::string group;                // and the one that tells the gateways apart; empty: a file is a gateway
 };

@@ -31,12 +31,27 @@ struct Member {
     bool is_json = false;
 };
 
+// GatewayCounts is what the dump of a gateway holds besides values that are judged.
+struct GatewayCounts {
+    std::uint32_t parameters = 0;  // all of them
+    std::uint32_t skipped = 0;     // because the map says that their values say nothing
+};
+
 // Record is filled again and again. Its views belong to the reader and to the text that was read, and hold until
 // the next record is read.
 struct Record {
+    // Kind is what was found. Only what a map reads has other kinds than cases.
+    enum class Kind {
+        kCase,
+        kUnmapped,    // a parameter that the map has no check for
+        kGatewayEnd,  // all of a gateway has been read
+    };
+    Kind kind = Kind::kCase;
     std::uint64_t line = 0;  // where the record begins, counted from the begin of its text
     std::string_view check;  // its name; empty where the record has none
-    std::string_view path;   // where the value is in nested JSON, its names separated by "."; otherwise empty
+    std::string_view path;   // of a parameter without a check
+    GatewayCounts counts;    // at the end of a gateway
+    std::uint64_t end = 0;   // there too: the line where the next gateway begins
     std::vector<Item> items;
     std::vector<Member>
         members;               // "id" and "parameter" among them, in the order of the record, no name twice
@@ -48,6 +63,7 @@ struct Record {
 
     void clear()
     {
+        kind = Kind::kCase;
         check = {};
         path = {};
         items.clear();

@@ -99,6 +99,16 @@ Row row_of(const Result& result, std::string& parameter)
     return row;
 }
 
+Row row_of_unmapped(const Record& record, std::string& parameter)
+{
+    Row row;
+    row.check = kUnmapped;
+    parameter.clear();
+    append_counted_parameter(parameter, record.path);
+    row.parameter = parameter;
+    return row;
+}
+
 std::string example_of(const Result& result, Encoding encoding)
 {
     if (exit_code(result.verdict) == kExitAccepted) return "";

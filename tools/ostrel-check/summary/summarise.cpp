@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "read/json_tree.h"
 #include "system/process.h"
 #include "write/show.h"
 
@@ -23,6 +24,7 @@ using nlohmann::ordered_json;
 // Rows is what a line holds. Views of its rows are into texts.
 struct Rows {
     std::vector<Counted> counted;
+    Unmapped unmapped;
     std::deque<std::string> texts;
 
     std::string_view keep(std::string text) { return texts.emplace_back(std::move(text)); }
@@ -92,6 +94,29 @@ void read_row(Rows& rows, const ordered_json& given)
     rows.counted.push_back(counted);
 }
 
+// read_map reads what a summary says of dumps besides.
+void read_map(Unmapped& unmapped, const ordered_json& given)
+{
+    if (!given.is_object()) refuse("\"map\" is not an object");
+    const auto found = given.find("unmapped");
+    if (found == given.end() || !found->is_object() || !found->contains("paths") ||
+        !(*found)["paths"].is_array())
+        refuse("\"map\" does not list what is unmapped");
+    unmapped.use_map();
+    unmapped.add_gateways(number_of(given, "gateways"), number_of(given, "parameters"),
+                          number_of(given, "skipped"));
+    unmapped.add_split(number_of(given, "split_gateways"), "");
+    std::uint64_t others = number_of(*found, "parameters");
+    for (const ordered_json& row : (*found)["paths"]) {
+        if (!row.is_object()) refuse("a path is not an object");
+        const std::uint64_t count = number_of(row, "count");
+        if (count > others) refuse("the paths do not add up to \"parameters\"");
+        others -= count;
+        unmapped.add(text_of(row, "path").value_or(""), count, text_of(row, "because").value_or(""));
+    }
+    unmapped.add_others(others);
+}
+
 // read_result counts a result as the batch that wrote it would have.
 void read_result(Rows& rows, const ordered_json& result)
 {
@@ -114,6 +139,15 @@ void read_result(Rows& rows, const ordered_json& result)
         row.example = rows.keep(example.dump());
     }
     rows.counted.push_back(counted);
+}
+
+ordered_json read_line(std::string_view line)
+{
+    try {
+        return json_tree(line);
+    } catch (const std::invalid_argument& error) {
+        refuse(std::string(error.what()) + "; a line is a summary or a result in JSON");
+    }
 }
 
 void complain(const std::string& file, std::uint64_t line, std::string_view problem)
@@ -155,16 +189,7 @@ bool add_file(Summary& summary, const std::string& file)
 
 void add_line(Summary& summary, const std::string& line)
 {
-    ordered_json given;
-    try {
-        given = ordered_json::parse(line, [](int depth, ordered_json::parse_event_t, const ordered_json&) {
-            constexpr int kDeepest = 16;
-            if (depth > kDeepest) refuse("the JSON is nested too deeply");
-            return true;
-        });
-    } catch (const ordered_json::exception&) {
-        refuse("not JSON; a line is a summary or a result in JSON");
-    }
+    const ordered_json given = read_line(line);
     Rows rows;
     std::uint64_t unreadable_files = 0;
     if (given.is_object() && given.contains("summary")) {
@@ -173,6 +198,7 @@ void add_line(Summary& summary, const std::string& line)
             refuse("a summary without rows; batch --summary json writes one with rows");
         for (const ordered_json& row : given["rows"]) read_row(rows, row);
         unreadable_files = number_of(given["summary"], "unreadable_files");
+        if (given.contains("map")) read_map(rows.unmapped, given["map"]);
         Tally tally;
         for (const Counted& counted : rows.counted) tally.add(counted.row.verdict, counted.count);
         for (std::size_t i = 0; i < kVerdicts; ++i) {
@@ -187,6 +213,7 @@ void add_line(Summary& summary, const std::string& line)
     }
     for (const Counted& counted : rows.counted) summary.add(counted);
     summary.add_unreadable_files(unreadable_files);
+    summary.unmapped().add(rows.unmapped);
 }
 
 int summarise(const std::vector<std::string>& files, bool as_json)

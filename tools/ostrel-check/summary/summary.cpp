@@ -16,6 +16,10 @@ void Summary::add(Kinds& kinds, const Row& row, std::uint64_t count)
 void Summary::add(const Counted& counted)
 {
     const Row& row = counted.row;
+    if (row.check == kUnmapped) {
+        unmapped_.add(row.parameter, counted.count, row.example);
+        return;
+    }
     tally_.add(row.verdict, counted.count);
     OfCheck& check = checks_[std::min<std::size_t>(row.check, checks_.size() - 1)];
     // An example of the others would depend on the order in which they came.

@@ -11,6 +11,7 @@
 #include <tuple>
 #include <vector>
 
+#include "map/unmapped.h"
 #include "summary/row.h"
 
 namespace ostrel::tool {
@@ -34,6 +35,10 @@ class Summary {
     void add(const Counted& counted);
     void add_unreadable_files(std::uint64_t count) { unreadable_files_ += count; }
 
+    // What a map was used for besides.
+    [[nodiscard]] Unmapped& unmapped() { return unmapped_; }
+    [[nodiscard]] const Unmapped& unmapped() const { return unmapped_; }
+
     [[nodiscard]] const Tally& tally() const { return tally_; }
     [[nodiscard]] std::uint64_t unreadable_files() const { return unreadable_files_; }
 
@@ -55,6 +60,7 @@ class Summary {
 
     std::vector<OfCheck> checks_;  // as in the catalogue; and last, what belongs to no check
     Tally tally_;
+    Unmapped unmapped_;
     std::uint64_t unreadable_files_ = 0;
 };
 

@@ -143,6 +143,7 @@ std::string summary_text(const Summary& summary, bool with_rows)
     const Tally& tally = summary.tally();
     std::string text;
     if (with_rows) text += "By check, parameter and reason:\n" + rows_text(summary);
+    if (summary.unmapped().has_map()) text += summary.unmapped().text();
     if (cases(tally) > 1) text += "By family and code:\n" + families_text(summary);
     text += counted(cases(tally), "case", "cases") + ": " + std::to_string(tally.of(Verdict::kAccepted)) +
             " accepted, " + std::to_string(tally.of(Verdict::kRefused)) + " refused";
@@ -171,6 +172,7 @@ std::string summary_json(const Summary& summary, bool with_rows)
     total["unreadable_files"] = summary.unreadable_files();
     result["families"] = families_json(summary);
     if (with_rows) result["rows"] = rows_json(summary);
+    if (summary.unmapped().has_map()) result["map"] = summary.unmapped().json();
     return result.dump(-1, ' ', false, ordered_json::error_handler_t::replace) + "\n";
 }
 

@@ -64,7 +64,6 @@ class Line {
             json_.text(passed.name);
             write_member(json_, passed);
         }
-        if (!result.record->path.empty()) member("path", result.record->path);
         if (!has_own) return;
         json_.plain("given");
         json_.StartObject();

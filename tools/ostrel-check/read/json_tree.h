@@ -1,0 +1,16 @@
+// JSON as a value, for what is small.
+#ifndef OSTREL_TOOLS_READ_JSON_TREE_H
+#define OSTREL_TOOLS_READ_JSON_TREE_H
+
+#include <nlohmann/json_fwd.hpp>
+#include <string_view>
+
+namespace ostrel::tool {
+
+// json_tree reads a text. A number that is no integer of 64 bits becomes a text, which is its token. Throws
+// std::invalid_argument, with a message for the user, for broken JSON and for JSON that is nested too deeply.
+nlohmann::ordered_json json_tree(std::string_view text);
+
+}  // namespace ostrel::tool
+
+#endif
