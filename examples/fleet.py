@@ -1,18 +1,22 @@
 #!/usr/bin/python3
-"""Makes the saved configurations of a fleet of gateways, for ostrel-check batch: the same values as CSV, as a line of JSON
-for each value, and as nested JSON, an object for each gateway.
+"""Makes the saved configurations of a fleet of gateways, for ostrel-check batch: the same values as CSV and as lines of
+JSON, which name a check for each value, and without checks, for the map of TR-098: as a dump in CSV, a row for each value,
+and as nested JSON, an object for each gateway.
 
 usage: fleet.py [--rows N] [--seed N] [--refused SHARE] FOLDER
 
-FOLDER gets fleet.csv, fleet.ndjson and fleet.json. A gateway has 20 values, in the same order in each file; its name is
+FOLDER gets fleet.csv, fleet.ndjson, fleet-dump.csv and fleet.json. A gateway has 20 values, in the same order in each file; its name is
 the id of each. So many of them are refused as --refused says (0.1), for reasons that support desks meet. The same seed
 makes the same files.
 
   examples/fleet.py --rows 2000 /tmp
   ostrel-check batch --summary-only /tmp/fleet.ndjson
+  ostrel-check batch --summary-only --map examples/maps/tr-098.json /tmp/fleet.json
+  ostrel-check batch --summary-only --map examples/maps/tr-098.json --group id /tmp/fleet-dump.csv
 """
 
 import argparse
+import contextlib
 import csv
 import io
 import json
@@ -80,7 +84,7 @@ PARAMETERS = [
     (WLAN + "MaxBitRate", "WLAN_check_max_bit_rate", words("Auto", "54", "11"), ["55", "300", "auto"]),
     (WLAN + "PreSharedKey.1.PreSharedKey", "WLAN_check_preshared_key", key, ["correct horse battery", "0123456789"]),
     (PPP + "ConnectionType", "PPP_check_connection_type", words("IP_Routed"), ["IP_Bridged", "PPPoE"]),
-    (PPP + "Password", "PPP_check_non_tonline_password", password, [""]),
+    (PPP + "Password", "PPP_check_non_tonline_password", password, ["Geheimstra\u00dfe", "cl\u00e9 secr\u00e8te 42"]),
     (PPP + "ConnectionTrigger", "PPP_check_connection_trigger", words("AlwaysOn", "OnDemand"), ["always", "Manual"]),
     (PPP + "PortMapping.1.PortMappingProtocol", "TcmValidatePortMappingProtocol", words("TCP", "UDP"),
      ["tcp", "both", "TCP/UDP"]),
@@ -115,12 +119,13 @@ def tree_of(cells):
 def forms():
     """forms is what each file has for one gateway, with %s in the place of its name and of each value."""
     csv_lines = "".join(f"%s,InternetGatewayDevice.{path},{check},%s\r\n" for path, check, *_ in PARAMETERS)
+    dump_lines = "".join(f"%s,InternetGatewayDevice.{path},%s\r\n" for path, *_ in PARAMETERS)
     json_lines = "".join(
         f'{{"id": "%s", "parameter": "InternetGatewayDevice.{path}", "check": "{check}", "args": [%s]}}\n'
         for path, check, *_ in PARAMETERS)
     nested = json.dumps({"id": "%s", "InternetGatewayDevice": tree_of(["%s"] * GATEWAY)}, indent=1)
     nested = nested.replace('"%s"', "%s")
-    return csv_lines, json_lines, nested
+    return csv_lines, dump_lines, json_lines, nested
 
 
 def write(folder, rows, seed, refused):
@@ -130,12 +135,14 @@ def write(folder, rows, seed, refused):
         values = [good(dice) for _ in range(VARIETY)] + faults
         weights = [(1 - refused) / VARIETY] * VARIETY + [refused / len(faults)] * len(faults)
         pools.append(([(as_csv(value), as_json(value)) for value in values], weights))
-    csv_lines, json_lines, nested = forms()
+    csv_lines, dump_lines, json_lines, nested = forms()
     gateways = -(-rows // GATEWAY)
-    with open(os.path.join(folder, "fleet.csv"), "w", encoding="utf-8", newline="") as as_rows, \
-            open(os.path.join(folder, "fleet.ndjson"), "w", encoding="utf-8", newline="") as as_lines, \
-            open(os.path.join(folder, "fleet.json"), "w", encoding="utf-8", newline="") as as_tree:
+    with contextlib.ExitStack() as files:
+        as_rows, as_dump, as_lines, as_tree = (
+            files.enter_context(open(os.path.join(folder, name), "w", encoding="utf-8", newline=""))
+            for name in ("fleet.csv", "fleet-dump.csv", "fleet.ndjson", "fleet.json"))
         as_rows.write("id,parameter,check,value\r\n")
+        as_dump.write("id,parameter,value\r\n")
         as_tree.write("[\n")
         block = 2048  # gateways that are made at a time
         for begin in range(0, gateways, block):
@@ -145,6 +152,7 @@ def write(folder, rows, seed, refused):
                 rows_of_one = [part for cell in cells for part in (name, cell[0])]
                 lines_of_one = [part for cell in cells for part in (name, cell[1])]
                 as_rows.write(csv_lines % tuple(rows_of_one))
+                as_dump.write(dump_lines % tuple(rows_of_one))
                 as_lines.write(json_lines % tuple(lines_of_one))
                 separator = "" if name.endswith("-0000000") else ",\n"
                 as_tree.write(separator + nested % (f'"{name}"', *(cell[1] for cell in cells)))
