@@ -5,37 +5,69 @@
 #ifndef OSTREL_SUPPORT_CHAR_SET_H
 #define OSTREL_SUPPORT_CHAR_SET_H
 
+#include <ostrel/character_sets.h>
+
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 namespace ostrel {
 
-// Memberships holds a word for each byte value, in which each of the sets below has its bit.
+// kCharSets lists the sets that have a bit in each word: the first has bit 0.
+constexpr const char* kCharSets[] = {
+    CHARSET_DIGITS,
+    CHARSET_ALNUM,
+    CHARSET_PPP_DIGITS,
+    CHARSET_HEX,
+    CHARSET_ASCII_PRINTABLE,
+    CHARSET_LATIN1_PRINTABLE,
+    CHARSET_IPV4,
+    CHARSET_HOST,
+    CHARSET_URL,
+    CHARSET_HOSTPORT,
+    CHARSET_NAME,
+    CHARSET_MAIL,
+    CHARSET_DESCRIPTION,
+    CHARSET_DEVICE_NAME,
+    CHARSET_ROUTER_NAME,
+    CHARSET_CIS_NAME,
+};
+
+// Memberships holds a word for each byte value, in which each of these sets has its bit.
 struct Memberships {
     std::uint16_t words[256] = {};
 };
+static_assert(sizeof kCharSets / sizeof *kCharSets <= 16, "a set has no bit left");
 
 [[gnu::visibility("hidden")]] extern const Memberships kMemberships;
 
-// CharSet is one of the sets of <ostrel/character_sets.h>, by its bit.
+// CharSet is one of the sets, by its bit.
 enum class CharSet : std::uint16_t {};
 
-constexpr CharSet kDigits{1U << 0U};
-constexpr CharSet kAlnum{1U << 1U};
-constexpr CharSet kPppDigits{1U << 2U};
-constexpr CharSet kHexDigits{1U << 3U};
-constexpr CharSet kAsciiPrintable{1U << 4U};
-constexpr CharSet kLatin1Printable{1U << 5U};
-constexpr CharSet kIpv4{1U << 6U};
-constexpr CharSet kHost{1U << 7U};
-constexpr CharSet kUrl{1U << 8U};
-constexpr CharSet kHostPort{1U << 9U};
-constexpr CharSet kName{1U << 10U};
-constexpr CharSet kMail{1U << 11U};
-constexpr CharSet kDescription{1U << 12U};
-constexpr CharSet kDeviceName{1U << 13U};
-constexpr CharSet kRouterName{1U << 14U};
-constexpr CharSet kCisName{1U << 15U};
+// char_set returns the set that is listed with these members. Another one does not compile.
+consteval CharSet char_set(std::string_view members)
+{
+    unsigned bit = 0;
+    while (members != kCharSets[bit]) ++bit;
+    return CharSet{static_cast<std::uint16_t>(1U << bit)};
+}
+
+constexpr CharSet kDigits = char_set(CHARSET_DIGITS);
+constexpr CharSet kAlnum = char_set(CHARSET_ALNUM);
+constexpr CharSet kPppDigits = char_set(CHARSET_PPP_DIGITS);
+constexpr CharSet kHexDigits = char_set(CHARSET_HEX);
+constexpr CharSet kAsciiPrintable = char_set(CHARSET_ASCII_PRINTABLE);
+constexpr CharSet kLatin1Printable = char_set(CHARSET_LATIN1_PRINTABLE);
+constexpr CharSet kIpv4 = char_set(CHARSET_IPV4);
+constexpr CharSet kHost = char_set(CHARSET_HOST);
+constexpr CharSet kUrl = char_set(CHARSET_URL);
+constexpr CharSet kHostPort = char_set(CHARSET_HOSTPORT);
+constexpr CharSet kName = char_set(CHARSET_NAME);
+constexpr CharSet kMail = char_set(CHARSET_MAIL);
+constexpr CharSet kDescription = char_set(CHARSET_DESCRIPTION);
+constexpr CharSet kDeviceName = char_set(CHARSET_DEVICE_NAME);
+constexpr CharSet kRouterName = char_set(CHARSET_ROUTER_NAME);
+constexpr CharSet kCisName = char_set(CHARSET_CIS_NAME);
 
 inline bool contains(CharSet set, char c)
 {
