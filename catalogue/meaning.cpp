@@ -1,99 +1,62 @@
 #include <ostrel/result_code.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "catalogue/catalogue.h"
 
 namespace ostrel::catalogue {
 
+namespace {
+
+struct ResultCode {
+    int code;
+    std::string_view name;
+    std::string_view meaning;
+};
+
+#define NAMED(code) code, #code
+constexpr ResultCode kResultCodes[] = {
+    {NAMED(OSTREL_VALID), "valid"},
+    {NAMED(OSTREL_INVALID), "invalid"},
+    {NAMED(OSTREL_INVALID_VALUE), "invalid value"},
+    {NAMED(OSTREL_EMPTY), "a required value is empty"},
+    {NAMED(OSTREL_WRONG_FORM), "wrong form or kind"},
+    {NAMED(OSTREL_OUT_OF_RANGE), "out of range"},
+    {NAMED(OSTREL_REPEATED), "the entry would be repeated in the list"},
+    {NAMED(OSTREL_NOT_IN_LIST), "the entry is not in the list"},
+    {NAMED(OSTREL_WILDCARD_EXTERNAL_PORT), "the external port is the wildcard"},
+    {NAMED(OSTREL_LEASE_NOT_PERMANENT), "the lease is not permanent"},
+    {NAMED(OSTREL_REMOTE_HOST_NOT_WILDCARD), "the remote host is not the wildcard"},
+    {NAMED(OSTREL_INVALID_DISTANCE), "invalid distance from the root"},
+    {NAMED(OSTREL_WEP_KEY_LENGTH), "bad or differing WEP key lengths"},
+    {NAMED(OSTREL_TOO_SHORT), "too short"},
+    {NAMED(OSTREL_TOO_LONG), "too long"},
+    {NAMED(OSTREL_FORBIDDEN_CHARACTER), "a character outside the allowed set"},
+    {NAMED(OSTREL_BUFFER_SIZE_TOO_LARGE), "the buffer size is too large"},
+    {NAMED(OSTREL_SECURITY_TYPE_NOT_ALLOWED), "security type not allowed"},
+    {NAMED(OSTREL_ENCRYPTION_MISMATCH), "encryption or key length does not suit the security type"},
+};
+#undef NAMED
+
+const ResultCode* find(int code)
+{
+    const auto* found = std::ranges::find(kResultCodes, code, &ResultCode::code);
+    return found == std::end(kResultCodes) ? nullptr : found;
+}
+
+}  // namespace
+
 std::string_view meaning(int code)
 {
-    switch (code) {
-        case OSTREL_VALID:
-            return "valid";
-        case OSTREL_INVALID:
-            return "invalid";
-        case OSTREL_INVALID_VALUE:
-            return "invalid value";
-        case OSTREL_EMPTY:
-            return "a required value is empty";
-        case OSTREL_WRONG_FORM:
-            return "wrong form or kind";
-        case OSTREL_OUT_OF_RANGE:
-            return "out of range";
-        case OSTREL_REPEATED:
-            return "the entry would be repeated in the list";
-        case OSTREL_NOT_IN_LIST:
-            return "the entry is not in the list";
-        case OSTREL_WILDCARD_EXTERNAL_PORT:
-            return "the external port is the wildcard";
-        case OSTREL_LEASE_NOT_PERMANENT:
-            return "the lease is not permanent";
-        case OSTREL_REMOTE_HOST_NOT_WILDCARD:
-            return "the remote host is not the wildcard";
-        case OSTREL_INVALID_DISTANCE:
-            return "invalid distance from the root";
-        case OSTREL_WEP_KEY_LENGTH:
-            return "bad or differing WEP key lengths";
-        case OSTREL_TOO_SHORT:
-            return "too short";
-        case OSTREL_TOO_LONG:
-            return "too long";
-        case OSTREL_FORBIDDEN_CHARACTER:
-            return "a character outside the allowed set";
-        case OSTREL_BUFFER_SIZE_TOO_LARGE:
-            return "the buffer size is too large";
-        case OSTREL_SECURITY_TYPE_NOT_ALLOWED:
-            return "security type not allowed";
-        case OSTREL_ENCRYPTION_MISMATCH:
-            return "encryption or key length does not suit the security type";
-        default:
-            return "a code that the catalogue does not know";
-    }
+    const ResultCode* known = find(code);
+    return known == nullptr ? "a code that the catalogue does not know" : known->meaning;
 }
 
 std::string_view constant(int code)
 {
-    switch (code) {
-        case OSTREL_VALID:
-            return "OSTREL_VALID";
-        case OSTREL_INVALID:
-            return "OSTREL_INVALID";
-        case OSTREL_INVALID_VALUE:
-            return "OSTREL_INVALID_VALUE";
-        case OSTREL_EMPTY:
-            return "OSTREL_EMPTY";
-        case OSTREL_WRONG_FORM:
-            return "OSTREL_WRONG_FORM";
-        case OSTREL_OUT_OF_RANGE:
-            return "OSTREL_OUT_OF_RANGE";
-        case OSTREL_REPEATED:
-            return "OSTREL_REPEATED";
-        case OSTREL_NOT_IN_LIST:
-            return "OSTREL_NOT_IN_LIST";
-        case OSTREL_WILDCARD_EXTERNAL_PORT:
-            return "OSTREL_WILDCARD_EXTERNAL_PORT";
-        case OSTREL_LEASE_NOT_PERMANENT:
-            return "OSTREL_LEASE_NOT_PERMANENT";
-        case OSTREL_REMOTE_HOST_NOT_WILDCARD:
-            return "OSTREL_REMOTE_HOST_NOT_WILDCARD";
-        case OSTREL_INVALID_DISTANCE:
-            return "OSTREL_INVALID_DISTANCE";
-        case OSTREL_WEP_KEY_LENGTH:
-            return "OSTREL_WEP_KEY_LENGTH";
-        case OSTREL_TOO_SHORT:
-            return "OSTREL_TOO_SHORT";
-        case OSTREL_TOO_LONG:
-            return "OSTREL_TOO_LONG";
-        case OSTREL_FORBIDDEN_CHARACTER:
-            return "OSTREL_FORBIDDEN_CHARACTER";
-        case OSTREL_BUFFER_SIZE_TOO_LARGE:
-            return "OSTREL_BUFFER_SIZE_TOO_LARGE";
-        case OSTREL_SECURITY_TYPE_NOT_ALLOWED:
-            return "OSTREL_SECURITY_TYPE_NOT_ALLOWED";
-        case OSTREL_ENCRYPTION_MISMATCH:
-            return "OSTREL_ENCRYPTION_MISMATCH";
-        default:
-            return "";
-    }
+    const ResultCode* known = find(code);
+    return known == nullptr ? std::string_view() : known->name;
 }
 
 }  // namespace ostrel::catalogue

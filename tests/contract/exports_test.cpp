@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <set>
 #include <string>
 #include <string_view>
@@ -160,6 +161,23 @@ TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
             << info.dli_fname;
     }
     dlclose(library);
+}
+
+// What a refusal is called, and what that means.
+TEST(ResultCodes, HaveTheNamesOfTheHeaderAndAMeaning)
+{
+    const std::string header = contents(OSTREL_SOURCE_DIR "/include/ostrel/result_code.h");
+    const std::regex enumerator("(OSTREL_\\w+) = (-?\\d+)");
+    const std::string_view unknown = catalogue::meaning(1);
+    int count = 0;
+    for (std::sregex_iterator one(header.begin(), header.end(), enumerator), end; one != end; ++one) {
+        const int code = std::stoi(one->str(2));
+        EXPECT_EQ(one->str(1), catalogue::constant(code));
+        EXPECT_NE(unknown, catalogue::meaning(code)) << one->str();
+        ++count;
+    }
+    EXPECT_LT(1, count);
+    EXPECT_EQ("", catalogue::constant(1));
 }
 
 }  // namespace
