@@ -13,42 +13,34 @@
 
 namespace ostrel {
 
-// kCharSets lists the sets that have a bit in each word: the first has bit 0.
-constexpr const char* kCharSets[] = {
-    CHARSET_DIGITS,
-    CHARSET_ALNUM,
-    CHARSET_PPP_DIGITS,
-    CHARSET_HEX,
-    CHARSET_ASCII_PRINTABLE,
-    CHARSET_LATIN1_PRINTABLE,
-    CHARSET_IPV4,
-    CHARSET_HOST,
-    CHARSET_URL,
-    CHARSET_HOSTPORT,
-    CHARSET_NAME,
-    CHARSET_MAIL,
-    CHARSET_DESCRIPTION,
-    CHARSET_DEVICE_NAME,
-    CHARSET_ROUTER_NAME,
-    CHARSET_CIS_NAME,
-};
-
-// Memberships holds a word for each byte value, in which each of these sets has its bit.
+// Memberships holds a word for each byte value, in which each of the sets below has its bit.
 struct Memberships {
     std::uint16_t words[256] = {};
 };
-static_assert(sizeof kCharSets / sizeof *kCharSets <= 16, "a set has no bit left");
 
 [[gnu::visibility("hidden")]] extern const Memberships kMemberships;
 
 // CharSet is one of the sets, by its bit.
 enum class CharSet : std::uint16_t {};
 
-// char_set returns the set that is listed with these members. Another one does not compile.
+// CharSetTexts are the members of all sets, by their bits. One more does not fit.
+struct CharSetTexts {
+    const char* texts[16];
+};
+
+consteval CharSetTexts char_set_texts()
+{
+    return {{CHARSET_DIGITS, CHARSET_ALNUM, CHARSET_PPP_DIGITS, CHARSET_HEX, CHARSET_ASCII_PRINTABLE,
+             CHARSET_LATIN1_PRINTABLE, CHARSET_IPV4, CHARSET_HOST, CHARSET_URL, CHARSET_HOSTPORT,
+             CHARSET_NAME, CHARSET_MAIL, CHARSET_DESCRIPTION, CHARSET_DEVICE_NAME, CHARSET_ROUTER_NAME,
+             CHARSET_CIS_NAME}};
+}
+
+// char_set returns the set that has these members. One that is not among the texts does not compile.
 consteval CharSet char_set(std::string_view members)
 {
     unsigned bit = 0;
-    while (members != kCharSets[bit]) ++bit;
+    while (members != char_set_texts().texts[bit]) ++bit;
     return CharSet{static_cast<std::uint16_t>(1U << bit)};
 }
 
