@@ -202,7 +202,7 @@ Integer Run::number(const Expression& expression, Frame& frame)
     const Number read = read_number(given.text, build_.atoi);
     // A sign alone is no number.
     const bool is_whole =
-        read.end > 0 && read.end - read.begin == given.text.size() && given.text.back() >= '0';
+        !given.text.empty() && read.end - read.begin == given.text.size() && given.text.back() >= '0';
     Integer result{read.value, {}, !is_whole, given.place};
     if (!read.beyond_int) return result;
     answer_.beyond_int = true;

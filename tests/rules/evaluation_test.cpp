@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
+#include "rules/datum.h"
 #include "rules/evaluate.h"
 #include "rules/rules.h"
 #include "rules/words.h"
@@ -30,6 +32,101 @@ TEST(CountsTest, EachStepAndConditionCountsOnceInACall)
     EXPECT_EQ(Times({1, 1}), of.failed);
 }
 
+TEST(CountsTest, CasesAndItemsCountToo)
+{
+    // Empty, a byte outside; the two cases and what refuses in each of them.
+    const Check& host = *find("ValidateURL");
+    // Empty, a byte outside, only digits, too many labels; for each label: empty, too long.
+    const Check& name = *find("TcmValidateDomainName");
+    Counts counts;
+    using Times = std::vector<std::uint64_t>;
+    evaluate(host, std::vector<Value>{"a.b"}, Build(), &counts);
+    EXPECT_EQ(Times({0, 0, 1, 0, 0}), counts.checks[host.number].steps);
+    EXPECT_EQ(Times({0, 0, 0, 0, 2, 0, 0}), counts.checks[name.number].steps);
+    EXPECT_EQ(2U, counts.checks[name.number].held[name.steps[4].condition.number]);
+}
+
+TEST(OutsideTest, SaysWhy)
+{
+    const auto id_of = [](const Answer& answer) { return std::string(answer.reason.id); };
+    EXPECT_EQ("null_asserted", id_of(answer_of("PARAM_check_port", {nullptr})));
+    EXPECT_EQ("null_read", id_of(answer_of("TcmValidatePort", {nullptr})));
+    EXPECT_EQ("driver_asked", id_of(answer_of("WLAN_check_channel", {"1", "RADIO_2.4GHz"})));
+    EXPECT_EQ("too_much_work",
+              id_of(evaluate_within(1, *find("TcmValidatePort"), std::vector<Value>{"80"}, {})));
+    EXPECT_EQ("", id_of(answer_of("TcmValidatePort", {"80"})));
+    for (const char* name : {"PARAM_check_ui2_value", "PARAM_check_ui4_value"}) {
+        EXPECT_EQ("never_returns", id_of(answer_of(name, {"1"}))) << name;
+        EXPECT_EQ("never_returns", id_of(answer_of(name, {"1x"}))) << name;
+        EXPECT_EQ(402, answer_of(name, {"A1"}).code) << name;
+    }
+}
+
+// registered_with makes a check of one text and another, which is a secret and may not be NULL.
+Check registered_with(std::vector<Step> steps)
+{
+    std::vector<ArgumentWords> arguments;
+    arguments.push_back(text("one", "a text"));
+    arguments.push_back(text("two", "a password").secret().asserts("two"));
+    return registered(check("a_check", std::move(arguments), std::move(steps)));
+}
+
+TEST(OutsideTest, EveryArgumentMayAssert)
+{
+    const Check check = registered_with({refuse(1, empty())});
+    EXPECT_EQ(Outside::kAssertion, evaluate(check, std::vector<Value>{"", nullptr}, {}).outside);
+    EXPECT_EQ(Outside::kNo, evaluate(check, std::vector<Value>{"", ""}, {}).outside);
+}
+
+TEST(HidingTest, HidesSecretsAlone)
+{
+    const Check check = registered_with({refuse(1, always(), line("<one> <two>"))});
+    const std::vector<Value> values = {"abc", "def"};
+    EXPECT_EQ("abc def", evaluate(check, values, {}).out);
+    EXPECT_EQ("abc " + length_shown(3), evaluate_hiding(kMostWork, check, values, {}).out);
+}
+
+TEST(WriteTest, WhatIsWrittenIsJudgedFromItsBeginning)
+{
+    const Answer answer = answer_of({write("one", slice(it, 1)), refuse(-1, longer_than(1))}, {"abc"});
+    EXPECT_EQ(0U, answer.reason.judged->begin);
+    EXPECT_EQ(2U, answer.reason.judged->size);
+}
+
+// Nothing is at fault where a condition is asked for.
+TEST(OffsetTest, IsZeroWithoutAFault)
+{
+    EXPECT_EQ(0, answer_of({refuse(1, above("offset", 0)), refuse(2, below("offset", 0))}, {""}).code);
+    EXPECT_EQ("at 0", answer_of({refuse(1, empty(), line("at <offset>"))}, {""}).out);
+}
+
+TEST(CutTest, WithoutASeparatorAllIsAfterIt)
+{
+    EXPECT_EQ(
+        "abc",
+        answer_of({remember("end", after_last(it, ".")), refuse(1, always(), line("<end>"))}, {"abc"}).out);
+}
+
+TEST(DaysTest, AreNoneOutsideTheYear)
+{
+    const auto of = [](const char* month) {
+        return answer_of({remember("days", days(2024, it)), refuse(1, always(), line("<days>"))}, {month})
+            .out;
+    };
+    EXPECT_EQ("31", of("1"));
+    EXPECT_EQ("31", of("12"));
+    for (const char* month : {"0", "-1", "13", "14", "2147483647"}) EXPECT_EQ("0", of(month)) << month;
+}
+
+TEST(WorkTest, ALimitMayBeReached)
+{
+    const std::vector<Value> values = {"80"};
+    std::uint64_t least = 1;
+    while (evaluate_within(least, *find("TcmValidatePort"), values, {}).outside != Outside::kNo) ++least;
+    // Its length, its digits and its number, each of two bytes.
+    EXPECT_EQ(0U, least % 2);
+}
+
 // No reason is asked for where cases are distinguished.
 TEST(WhenTest, TakesEveryCondition)
 {
@@ -45,6 +142,11 @@ TEST(WhenTest, TakesEveryCondition)
         for_each(list_of(it, ','), {when(last_item(), {refuse(6, empty())}, {refuse(7, empty())})})};
     EXPECT_EQ(6, answer_of(is_last, {"a,"}).code);
     EXPECT_EQ(7, answer_of(is_last, {",a"}).code);
+    Build build;
+    build.channels = std::vector<int>{1, 6};
+    const std::vector<Step> is_listed = {when(listed_by_driver(it, 2, 14), refusal)};
+    EXPECT_EQ(5, answer_of(is_listed, {"6"}, build).code);
+    EXPECT_EQ(0, answer_of(is_listed, {"7"}, build).code);
 }
 
 }  // namespace

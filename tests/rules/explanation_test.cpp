@@ -10,6 +10,7 @@
 #include "catalogue/capture.h"
 #include "oracle/library.h"
 #include "rules/explain.h"
+#include "rules/rules.h"
 #include "rules/walk.h"
 #include "tests/rules/rows.h"
 
@@ -186,6 +187,16 @@ TEST_P(Explained, KeywordsAreAccepted)
                 << check_.arguments[i].name << " " << keyword;
         }
     }
+}
+
+// What two have in common is described once, and what sets them apart is not.
+TEST(ExplanationTest, UrlsSayWhatTheyAreOf)
+{
+    const auto what = [](std::string_view name) {
+        return rules::explain(*rules::find(name), oracle::library_build()).arguments[0].what;
+    };
+    EXPECT_EQ("the URL of a management server", what("TcmValidateServerURL"));
+    EXPECT_EQ("the URL of a firmware image", what("TcmValidatefirmwareURL"));
 }
 
 TEST_P(Explained, EachArgumentIsDescribed)

@@ -37,7 +37,11 @@ std::string outcome_in_words(const Function& function, const std::vector<Value>&
         std::fprintf(stderr, "\ncode %d", code);
         return 0;
     });
-    if (end.signal == SIGABRT) return "a failed assertion";
+    if (end.signal == SIGABRT) {
+        std::smatch asserted;
+        std::regex_search(end.err, asserted, std::regex("Assertion `(.*)' failed"));
+        return "a failed assertion of " + asserted.str(1);
+    }
     if (end.signal != 0) return "a memory fault";
     if (end.timed_out) return "does not return";
     const std::string text = end.err.substr(end.err.rfind("\ncode ") + 6);
@@ -48,15 +52,16 @@ std::string outcome_in_words(const Function& function, const std::vector<Value>&
 std::set<std::string> outcomes_in(const std::string& text)
 {
     const std::regex outcome(
-        "a failed assertion|a memory fault|left to the C library|does not return|accepted|"
+        "a failed assertion of [^ ]+( \\*\\)0\\))? != [^ ]+( \\*\\)0\\))?|a memory fault|left to the C "
+        "library|does not return|accepted|"
         "(answers |refused with )(-?[0-9]+((, | or )-?[0-9]+)*)");
     const std::regex number("-?[0-9]+");
     std::set<std::string> result;
     for (std::sregex_iterator one(text.begin(), text.end(), outcome), end; one != end; ++one) {
-        if (!(*one)[1].matched) result.insert(one->str());
-        const std::string codes = one->str(2);
+        if (!(*one)[3].matched) result.insert(one->str());
+        const std::string codes = one->str(4);
         for (std::sregex_iterator code(codes.begin(), codes.end(), number); code != end; ++code)
-            result.insert(one->str(1) + code->str());
+            result.insert(one->str(3) + code->str());
     }
     return result;
 }

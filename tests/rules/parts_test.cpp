@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "tests/rules/told.h"
 
 namespace ostrel::rules {
@@ -30,6 +34,29 @@ TEST(PartsTest, BeginWhereTheOffsetIs)
     EXPECT_EQ(std::nullopt, answer_of({refuse(-1, longer_than(1))}, {"a:7x"}).reason.offset);
 }
 
+TEST(PartsTest, AreWhatIsJudged)
+{
+    const auto judged = [](const Expression& piece) {
+        const auto span = answer_of({refuse(-1, not_empty(piece))}, {"abcdef"}).reason.judged;
+        return std::pair(span->begin, span->size);
+    };
+    EXPECT_EQ(std::pair(0UL, 6UL), judged(it));
+    EXPECT_EQ(std::pair(1UL, 5UL), judged(slice(it, 1)));
+    EXPECT_EQ(std::pair(3UL, 2UL), judged(slice(slice(it, 1), 2, 2)));
+}
+
+TEST(PartsTest, OfBlocksAreJudgedFromTheirBeginning)
+{
+    std::vector<ArgumentWords> arguments;
+    arguments.push_back(blocks("keys", "some keys", 2, 8));
+    const std::vector<Step> steps = {for_each(list_of("keys", ','), {refuse(1, longer_than(2))})};
+    const Check check = registered(rules::check("a_check", std::move(arguments), steps));
+    const std::vector<Value> values = {std::vector<std::string>{"ab", "abc"}};
+    const auto span = evaluate(check, values, {}).reason.judged;
+    EXPECT_EQ(0U, span->begin);
+    EXPECT_EQ(3U, span->size);
+}
+
 TEST(PartsTest, AreCalledTheSameInWhatIsRemembered)
 {
     const std::vector<Step> steps = {remember("port", called("the port", after_first(it, ":"))),
@@ -45,6 +72,7 @@ TEST(PartsTest, LoseTheirNameWhenTheyAreCut)
         return told(answer_of({refuse(-1, above(piece, 6))}, {"a:78"}));
     };
     EXPECT_EQ("the port is 78; at most 6 is allowed", said(slice(port, 0)));
+    EXPECT_EQ("the port is 78; at most 6 is allowed", said(slice(port, 0, 2)));
     EXPECT_EQ("is 8; at most 6 is allowed", said(slice(port, 1)));
     EXPECT_EQ("is 7; at most 6 is allowed", said(slice(port, 0, 1)));
     EXPECT_EQ("its end is 8; at most 6 is allowed", said(called("its end", slice(port, 1))));

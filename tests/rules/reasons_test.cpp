@@ -24,6 +24,12 @@ TEST(KeywordTest, NamesAll)
               said("LAN_check_use_allocated_wan", {"Normal"}));
 }
 
+TEST(KeywordTest, NamesThoseOfAnyCaseAsTheyAreWritten)
+{
+    EXPECT_EQ("value_p is none of TCP, UDP", said("PARAM_check_transport_protocol", {"x"}));
+    EXPECT_EQ("value is none of Default, Network, Host", said("L3FORWARDING_check_ForwardingType", {"x"}));
+}
+
 TEST(KeywordTest, PrefixInAnyCaseSaysHowFarItGoes)
 {
     const Answer answer = answer_of("HNAPCORE_check_timezone", {"uTD+1", ""});
@@ -41,6 +47,10 @@ TEST(NumberTest, TextIsReadAsANumber)
         "value has the number 4294967295, which an int does not hold; this gateway reads it as -1; at least "
         "1 is needed",
         said("L3FORWARDING_check_MTU", {"4294967295 bytes"}));
+    EXPECT_EQ(
+        "value has the number 4294967295, which an int does not hold; this gateway reads it as -1; at least "
+        "1 is needed",
+        said("L3FORWARDING_check_MTU", {" 4294967295 bytes"}));
     EXPECT_EQ(1541, answer_of("L3FORWARDING_check_MTU", {"1541 bytes"}).reason.read_as);
     for (const char* number : {"1541", "01541", "+1541", "-1"}) {
         EXPECT_EQ(std::nullopt, answer_of("L3FORWARDING_check_MTU", {number}).reason.read_as) << number;

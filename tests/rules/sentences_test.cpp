@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <set>
 #include <string>
 #include <string_view>
@@ -65,6 +66,17 @@ TEST(SentencesTest, AreExpectedInEveryForm)
             if (said.reason.id == known.id) shown.merge(forms_of(known.text, said.reason));
         }
         EXPECT_EQ(all_forms_of(known.text), shown) << known.id;
+    }
+}
+
+TEST(SentencesTest, HaveNoOtherFields)
+{
+    const std::regex field(
+        "\\{(found|allowed)(:[^{}|:]*\\|[^{}|:]*)?\\}|\\{(byte|form|item|limit|position|range|read|read_as)"
+        "\\}");
+    for (const Sentence& known : sentences()) {
+        const std::string left = std::regex_replace(std::string(known.text), field, "");
+        EXPECT_EQ(std::string::npos, left.find_first_of("{}|")) << known.id << ": " << left;
     }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 #include <stdexcept>
 #include <string_view>
@@ -34,6 +35,12 @@ TEST(BuildTest, NumbersBeyondAnInt)
     EXPECT_FALSE(read_number("2147483647", Atoi::kLong64).beyond_int);
     EXPECT_FALSE(read_number("-2147483648", Atoi::kLong64).beyond_int);
     EXPECT_TRUE(read_number("-2147483649", Atoi::kLong64).beyond_int);
+}
+
+TEST(BuildTest, NumbersAreReadAsHere)
+{
+    for (const char* number : {"99999999999999999999", "-99999999999999999999", "4294967297", "-4294967297"})
+        EXPECT_EQ(std::atoi(number), read_number(number, atoi_here()).value) << number;
 }
 
 TEST(BuildTest, NumbersAmongOtherBytes)

@@ -1,0 +1,88 @@
+// Registration test: every description is in the module whose header declares the function, and one that names what is
+// not there says so.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "tests/rules/told.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+std::string contents(const std::filesystem::path& path)
+{
+    std::ifstream file(path);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// header_of is the header of the module, with those that it is made of.
+std::string header_of(const Check& check)
+{
+    const std::string folder = OSTREL_SOURCE_DIR "/include/ostrel/" + std::string(check.module);
+    std::string all = contents(folder + ".h");
+    if (!std::filesystem::exists(folder)) return all;
+    for (const auto& piece : std::filesystem::directory_iterator(folder)) all += contents(piece.path());
+    return all;
+}
+
+TEST(RegistrationTest, TheModuleIsThatOfTheHeader)
+{
+    for (const Check& check : checks()) {
+        EXPECT_NE(std::string::npos, header_of(check).find(std::string(check.name) + "("))
+            << check.name << " in " << check.module;
+    }
+}
+
+// fault registers a check with such steps and gives what it says.
+std::string fault(std::vector<Step> steps, std::vector<ArgumentWords> arguments)
+{
+    try {
+        registered(check("a_check", std::move(arguments), std::move(steps)));
+    } catch (const std::logic_error& error) {
+        return error.what();
+    }
+    return "";
+}
+
+std::string fault(std::vector<Step> steps)
+{
+    std::vector<ArgumentWords> arguments;
+    arguments.push_back(text("one", "a text"));
+    return fault(std::move(steps), std::move(arguments));
+}
+
+TEST(RegistrationTest, FaultsAreNamed)
+{
+    EXPECT_EQ("", fault({refuse(1, empty("one"))}));
+    EXPECT_EQ("a_check: an argument has the name one", fault({remember("one", it)}));
+    EXPECT_EQ("a_check: no argument ", fault({refuse(1, empty())}, {}));
+    EXPECT_EQ("a_check: nothing has the name two", fault({refuse(1, empty("two"))}));
+    EXPECT_EQ("a_check: nothing has the name two",
+              fault({for_each(list_of(it, ','), {refuse(1, empty("two"))})}));
+    EXPECT_EQ("a_check: nothing has the name item", fault({refuse(1, empty("item"))}));
+    EXPECT_EQ("a_check: no end of <one", fault({refuse(1, empty(), line("of <one"))}));
+    EXPECT_EQ("a_check: no name in of <>", fault({refuse(1, empty(), line("of <>"))}));
+    EXPECT_EQ("no description of nobody", fault({refuse(1, refused_by("nobody"))}));
+    EXPECT_EQ("another number of arguments for TcmValidatePort",
+              fault({refuse(1, refused_by("TcmValidatePort", {it, it}))}));
+}
+
+TEST(RegistrationTest, ListsHaveNamesOfTheirOwn)
+{
+    const std::vector<Step> steps = {
+        for_each(list_of(it, ','), {refuse(1, empty("item"), line("<index>, before <rest>"))})};
+    EXPECT_EQ("1, before b,c", answer_of(steps, {"a,,b,c"}).out);
+}
+
+}  // namespace
+
+}  // namespace ostrel::rules
