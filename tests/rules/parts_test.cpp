@@ -37,8 +37,9 @@ TEST(PartsTest, BeginWhereTheOffsetIs)
 TEST(PartsTest, AreWhatIsJudged)
 {
     const auto judged = [](const Expression& piece) {
-        const auto span = answer_of({refuse(-1, not_empty(piece))}, {"abcdef"}).reason.judged;
-        return std::pair(span->begin, span->size);
+        const Answer answer = answer_of({refuse(-1, not_empty(piece))}, {"abcdef"});
+        const Span span = answer.reason.judged.value_or(Span{9, 9});
+        return std::pair(span.begin, span.size);
     };
     EXPECT_EQ(std::pair(0UL, 6UL), judged(it));
     EXPECT_EQ(std::pair(1UL, 5UL), judged(slice(it, 1)));
@@ -52,9 +53,9 @@ TEST(PartsTest, OfBlocksAreJudgedFromTheirBeginning)
     const std::vector<Step> steps = {for_each(list_of("keys", ','), {refuse(1, longer_than(2))})};
     const Check check = registered(rules::check("a_check", std::move(arguments), steps));
     const std::vector<Value> values = {std::vector<std::string>{"ab", "abc"}};
-    const auto span = evaluate(check, values, {}).reason.judged;
-    EXPECT_EQ(0U, span->begin);
-    EXPECT_EQ(3U, span->size);
+    const Span judged = evaluate(check, values, {}).reason.judged.value_or(Span{9, 9});
+    EXPECT_EQ(0U, judged.begin);
+    EXPECT_EQ(3U, judged.size);
 }
 
 TEST(PartsTest, AreCalledTheSameInWhatIsRemembered)
