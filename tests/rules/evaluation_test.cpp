@@ -3,12 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "rules/datum.h"
 #include "rules/evaluate.h"
 #include "rules/rules.h"
+#include "rules/sets.h"
 #include "rules/words.h"
 #include "tests/rules/told.h"
 
@@ -128,6 +132,24 @@ TEST(WorkTest, ALimitMayBeReached)
     EXPECT_EQ(0U, least % 2);
 }
 
+// Where a search begins to compare, it compares little at most places.
+TEST(WorkTest, OfASearchIsLittleMoreThanOneOfTheText)
+{
+    const Check check = registered_with({refuse(1, contains("one", literal("abc")))});
+    const std::vector<Value> values = {std::string(1000, 'x'), ""};
+    EXPECT_EQ(Outside::kNo, evaluate_within(4096, check, values, {}).outside);
+}
+
+// Of another model, what only one model has is refused.
+TEST(ModelTest, OfAnotherModel)
+{
+    Build other;
+    other.model = "M2841";
+    EXPECT_EQ(-1, answer_of("WLAN_check_radio_id", {"RADIO_5GHz"}, other).code);
+    EXPECT_EQ(0, answer_of("WLAN_check_radio_id", {"radio_2.4ghz"}, other).code);
+    EXPECT_EQ(1001, answer_of("WLAN_check_HNAP_SecurityType", {"1", "auto", "x", "AES"}, other).code);
+}
+
 // No reason is asked for where cases are distinguished.
 TEST(WhenTest, TakesEveryCondition)
 {
@@ -148,6 +170,21 @@ TEST(WhenTest, TakesEveryCondition)
     const std::vector<Step> is_listed = {when(listed_by_driver(it, 2, 14), refusal)};
     EXPECT_EQ(5, answer_of(is_listed, {"6"}, build).code);
     EXPECT_EQ(0, answer_of(is_listed, {"7"}, build).code);
+    static const Grammar kNoX = {
+        "a text without x", {}, {}, {}, [](std::string_view text, const Build& /*build*/) {
+            std::optional<GrammarFault> fault;
+            if (text == "x") fault = GrammarFault{"x"};
+            return fault;
+        }};
+    const std::vector<Step> is_failing = {when(fails(kNoX), refusal)};
+    EXPECT_EQ(5, answer_of(is_failing, {"x"}).code);
+    EXPECT_EQ(0, answer_of(is_failing, {"y"}).code);
+    for (const bool is_negated : {false, true}) {
+        const Condition shaped = has_shape({{some(kDigits, 2)}});
+        const std::vector<Step> is_shaped = {when(is_negated ? not_(shaped) : shaped, refusal)};
+        EXPECT_EQ(is_negated ? 0 : 5, answer_of(is_shaped, {"12"}).code);
+        EXPECT_EQ(is_negated ? 5 : 0, answer_of(is_shaped, {"1"}).code);
+    }
 }
 
 }  // namespace

@@ -189,14 +189,36 @@ TEST_P(Explained, KeywordsAreAccepted)
     }
 }
 
-// What two have in common is described once, and what sets them apart is not.
-TEST(ExplanationTest, UrlsSayWhatTheyAreOf)
+// What several have in common is described once, and what sets them apart is not.
+TEST(ExplanationTest, ThoseThatAreDescribedTogetherAreToldApart)
 {
-    const auto what = [](std::string_view name) {
-        return rules::explain(*rules::find(name), oracle::library_build()).arguments[0].what;
+    const auto what = [](std::string_view name, std::size_t argument = 0) {
+        return rules::explain(*rules::find(name), oracle::library_build()).arguments[argument].what;
     };
     EXPECT_EQ("the URL of a management server", what("TcmValidateServerURL"));
     EXPECT_EQ("the URL of a firmware image", what("TcmValidatefirmwareURL"));
+    EXPECT_EQ("the offset of the local time zone", what("TIME_check_local_time_zone"));
+    EXPECT_EQ("the name of the local time zone", what("TIME_check_local_time_zone_name"));
+    EXPECT_EQ("when daylight saving starts or ends", what("TIME_check_daylight_saving_start_or_end"));
+    EXPECT_EQ("the other channel of the pair; 0: none", what("WLAN_check_second_channel", 1));
+    EXPECT_EQ("the centre of the pair; 0: none", what("WLAN_check_5g_second_channel", 1));
+}
+
+TEST(ExplanationTest, KeywordsOfAnyCaseAreAsTheyAreWritten)
+{
+    for (const char* name : {"WLAN_check_IEEE11_mode", "WLAN_check_wide_channel"}) {
+        const rules::Explanation explanation = rules::explain(*rules::find(name), oracle::library_build());
+        EXPECT_TRUE(std::ranges::any_of(explanation.steps, [](const rules::Said& step) {
+            return step.kind == rules::Step::Kind::kWhen &&
+                   step.text.find("RADIO_2.4GHz") != std::string::npos;
+        })) << name;
+    }
+}
+
+TEST(ExplanationTest, ColumnsHaveNames)
+{
+    const rules::Table& zones = *rules::tables(*rules::find("Time_validate_tzone_and_tzone_name")).at(0);
+    EXPECT_EQ((std::vector<std::string_view>{"offset", "name"}), zones.columns);
 }
 
 TEST_P(Explained, EachArgumentIsDescribed)

@@ -116,6 +116,9 @@ TEST(ShapesTest, MayEndWhereTheyAreAtFault)
     EXPECT_EQ("byte 2 is \"Z\"; digits are expected there", said({brief, signed_so}, "1Z"));
     EXPECT_EQ("byte 3 is \"Z\"; digits or the end is expected there", said({{some(kDigits, 1, 3)}}, "12Z"));
     EXPECT_EQ("ends where digits are expected as byte 2", said({brief, signed_so}, "1"));
+    const Shape marked = {some(kDigits, 1, 2), some(kUpper, 2)};
+    EXPECT_EQ("ends where upper-case letters and digits are expected as byte 2", said({marked}, "1"));
+    EXPECT_EQ("ends where upper-case letters are expected as byte 3", said({marked}, "1A"));
 }
 
 }  // namespace

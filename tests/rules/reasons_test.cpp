@@ -30,12 +30,33 @@ TEST(KeywordTest, NamesThoseOfAnyCaseAsTheyAreWritten)
     EXPECT_EQ("value is none of Default, Network, Host", said("L3FORWARDING_check_ForwardingType", {"x"}));
 }
 
+TEST(PreSharedKeyTest, LengthIsToldFirst)
+{
+    const auto said_of = [](const std::string& key) {
+        return said("WLAN_check_keys", {key, "WPA2-PSK", "AES"});
+    };
+    EXPECT_EQ("key has 7 bytes; at least 8 are needed", said_of("123456\x01"));
+    EXPECT_EQ("key has 65 bytes; at most 64 are allowed", said_of(std::string(65, 'a')));
+}
+
 TEST(KeywordTest, PrefixInAnyCaseSaysHowFarItGoes)
 {
     const Answer answer = answer_of("HNAPCORE_check_timezone", {"uTD+1", ""});
     EXPECT_EQ("wrong_prefix", answer.reason.id);
     EXPECT_EQ(2U, answer.reason.offset);
     EXPECT_EQ("value does not begin with UTC", said("HNAPCORE_check_timezone", {"UT", ""}));
+}
+
+TEST(AddressTest, OfWhatWouldBeOneTheLastOctetIsLower)
+{
+    const char* const kRouter = "TcmValidateIPRouter";
+    EXPECT_EQ("value octet 4 is 256; at most 255 is allowed",
+              said("TcmValidateIPAddress", {"192.168.100.256"}));
+    EXPECT_EQ("address the last octet is 256; at most 254 is allowed", said(kRouter, {"192.168.100.256"}));
+    EXPECT_EQ("address has 16 bytes; at most 15 are allowed", said(kRouter, {"192.168.1000.256"}));
+    EXPECT_EQ("address does not begin with 192.168.", said(kRouter, {"10.0.0.1"}));
+    EXPECT_EQ("startAddress byte 1 is \"x\"; digits and . are allowed",
+              said("TcmValidateAddressRange", {"x", "192.168.1.256", "192.168.1.1"}));
 }
 
 TEST(NumberTest, TextIsReadAsANumber)

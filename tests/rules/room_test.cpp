@@ -133,6 +133,15 @@ TEST(OffsetTest, NeedsItsLastByte)
     }
 }
 
+TEST(RoomTest, OfATimeZoneIsForWhatIsGivenAndForWhatIsFilledIn)
+{
+    const char* const kCheck = "Time_validate_tzone_and_tzone_name";
+    EXPECT_EQ(7U, room_of(kCheck, 0, {"", "Lima"}));
+    EXPECT_EQ(11U, room_of(kCheck, 0, {"1234567890", "Lima"}));
+    EXPECT_EQ(55U, room_of(kCheck, 1, {"-05:00", ""}));
+    EXPECT_EQ(61U, room_of(kCheck, 1, {"-05:00", std::string(60, 'a')}));
+}
+
 TEST(RoomTest, IsNotSaidWhereItDependsOnNull)
 {
     const rules::Check& check = *rules::find("LAN_check_add_allowedMACAddress");

@@ -2,15 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <regex>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
+#include "rules/rules.h"
 #include "rules/sentences.h"
 #include "rules/sets.h"
+#include "rules/words.h"
 #include "tests/rules/said.h"
 
 namespace ostrel::rules {
@@ -80,6 +84,123 @@ TEST(SentencesTest, HaveNoOtherFields)
     }
 }
 
+Reason of(std::string_view id, std::size_t argument = 0)
+{
+    Reason reason;
+    reason.id = id;
+    reason.argument = argument;
+    reason.name = argument == 0 ? "one" : "two";
+    return reason;
+}
+
+// What was found may be hidden; a reason without a place or a limit is said all the same.
+TEST(SentencesTest, SayWhatIsNotShown)
+{
+    EXPECT_EQ("should end before byte ", sentence(of("too_much")));
+    Reason reason = of("not_in_set");
+    reason.allowed = kDigits;
+    EXPECT_EQ("byte  is a byte that is not shown; digits are allowed", sentence(reason));
+    reason.found = std::string();
+    EXPECT_EQ("byte  is a byte that is not shown; digits are allowed", sentence(reason));
+    EXPECT_EQ("is a value that is not shown;  are allowed", sentence(of("number_out_of_range")));
+    EXPECT_EQ(
+        "has the number a value that is not shown, which an int does not hold; this gateway reads it as ",
+        sentence(of("number_beyond_int")));
+}
+
+Check check_of(std::vector<ArgumentWords> arguments)
+{
+    return registered(check("a_check", std::move(arguments), {}));
+}
+
+Check of_one()
+{
+    std::vector<ArgumentWords> arguments;
+    arguments.push_back(text("one", "a text"));
+    arguments.push_back(integer_out("type", "the type"));
+    arguments.push_back(buffer("offset", "the offset").output());
+    return check_of(std::move(arguments));
+}
+
+// The second one is a secret.
+Check of_two()
+{
+    std::vector<ArgumentWords> arguments;
+    arguments.push_back(text("one", "a text"));
+    arguments.push_back(text("two", "a password").secret());
+    return check_of(std::move(arguments));
+}
+
+Reason of_item(Reason reason, std::string text)
+{
+    reason.item = 1;
+    reason.item_text = std::move(text);
+    return reason;
+}
+
+// An argument is named where a user gives several, and one that is only written is not given.
+TEST(FullSentencesTest, NameWhatTheySpeakOf)
+{
+    EXPECT_EQ("is empty", full_sentence(of("empty"), of_one()));
+    EXPECT_EQ("one is empty", full_sentence(of("empty"), of_two()));
+    EXPECT_EQ("item 2 is empty", full_sentence(of_item(of("empty"), ""), of_one()));
+    EXPECT_EQ("item 2 (\"a\") is empty", full_sentence(of_item(of("empty"), "a"), of_one()));
+    EXPECT_EQ("item 2 (\"a\") of two is empty", full_sentence(of_item(of("empty", 1), "a"), of_two()));
+    Reason of_none = of("empty");
+    of_none.argument.reset();
+    EXPECT_EQ("is empty", full_sentence(of_none, of_two()));
+    EXPECT_EQ("", full_sentence(of(""), of_two()));
+}
+
+TEST(FullSentencesTest, HaveAColonBeforeASubject)
+{
+    EXPECT_EQ("two: the values are too long for a reason to be worked out",
+              full_sentence(of("too_much_work", 1), of_two()));
+    Reason of_part = of("empty");
+    of_part.part = "the host";
+    EXPECT_EQ("one: the host is empty", full_sentence(of_part, of_two()));
+}
+
+TEST(SecretsTest, AreTakenOut)
+{
+    Reason reason = of_item(of("not_equal", 1), "ab");
+    reason.found = std::string("ab");
+    const Reason without = without_secret(reason, of_two());
+    EXPECT_EQ(Datum(), without.found);
+    EXPECT_EQ("", without.item_text);
+    reason.found = std::string("a");
+    EXPECT_EQ(Datum(std::string("a")), without_secret(reason, of_two()).found);
+    reason.found = 7;
+    EXPECT_EQ(Datum(7), without_secret(reason, of_two()).found);
+    reason.found = std::string("ab");
+    for (const std::optional<std::size_t> argument :
+         {std::optional<std::size_t>(0), std::optional<std::size_t>()}) {
+        reason.argument = argument;
+        EXPECT_EQ(Datum(std::string("ab")), without_secret(reason, of_two()).found);
+        EXPECT_EQ("ab", without_secret(reason, of_two()).item_text);
+    }
+}
+
+TEST(SecretsTest, LeaveNoTrace)
+{
+    const auto left_of = [](Reason reason, const Datum& found) {
+        reason.found = found;
+        return without_trace_of_secret(reason, of_two()).found;
+    };
+    EXPECT_EQ(Datum(7), left_of(of("too_long", 1), 7));
+    EXPECT_EQ(Datum(), left_of(of("too_long", 1), std::string("a")));
+    EXPECT_EQ(Datum(), left_of(of("number_too_high", 1), 7));
+    Reason read = of("not_equal", 1);
+    read.read_as = 7;
+    EXPECT_EQ(Datum(), left_of(read, 7));
+    EXPECT_EQ(std::nullopt, without_trace_of_secret(read, of_two()).read_as);
+    EXPECT_EQ("", without_trace_of_secret(of_item(of("empty", 1), "a"), of_two()).item_text);
+    EXPECT_EQ(Datum(std::string("a")), left_of(of("not_equal", 0), std::string("a")));
+    Reason of_none = of("not_equal", 1);
+    of_none.argument.reset();
+    EXPECT_EQ(Datum(std::string("a")), left_of(of_none, std::string("a")));
+}
+
 TEST(SetsTest, AreNamed)
 {
     EXPECT_EQ("printable Latin-1 characters", in_words(kLatin1));
@@ -98,6 +219,9 @@ TEST(SetsTest, AreNamed)
     EXPECT_EQ("! \" # $", in_words(Set("!\"#$")));
     EXPECT_EQ("a blank", in_words(kBlank));
     EXPECT_EQ("a quotation mark", in_words(Set("\"")));
+    EXPECT_EQ("blanks and \\x1D \\x1E \\x1F", in_words(Set("\x1D\x1E\x1F ")));
+    EXPECT_EQ("\"~\"", byte_in_words('~'));
+    EXPECT_EQ("\\x7F", byte_in_words('\x7F'));
 }
 
 TEST(QuotedTest, CanBePrinted)
