@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
-#include <numeric>
 #include <stdexcept>
+
+#include "catalogue/names.h"
 
 namespace ostrel::catalogue {
 
@@ -85,21 +86,6 @@ void append_text(std::string& result, const json& text, int depth)
     }
 }
 
-std::size_t edit_distance(std::string_view a, std::string_view b)
-{
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-    std::vector<std::size_t> row(b.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t i = 1; i <= a.size(); ++i) {
-        std::size_t diagonal = std::exchange(row[0], i);
-        for (std::size_t j = 1; j <= b.size(); ++j) {
-            const std::size_t change = diagonal + (lower(a[i - 1]) == lower(b[j - 1]) ? 0 : 1);
-            diagonal = std::exchange(row[j], std::min({row[j] + 1, row[j - 1] + 1, change}));
-        }
-    }
-    return row.back();
-}
-
 }  // namespace
 
 std::string utf8_from_bytes(std::string_view bytes)
@@ -171,24 +157,6 @@ Case case_from_json(const json& row)
     if (args->size() > kMostArguments) throw std::invalid_argument("no check takes that many arguments");
     for (const json& arg : *args) result.values.push_back(value_from_json(arg));
     return result;
-}
-
-std::string unknown_function(std::string_view name)
-{
-    constexpr std::size_t kLongestName = 64;  // no name is longer; the comparison below is not linear
-    name = name.substr(0, kLongestName);
-    std::vector<std::pair<std::size_t, std::string_view>> nearest;
-    for (const Function& function : functions()) {
-        nearest.emplace_back(edit_distance(name, function.name), function.name);
-    }
-    const std::size_t shown = std::min<std::size_t>(3, nearest.size());
-    std::partial_sort(nearest.begin(), nearest.begin() + static_cast<std::ptrdiff_t>(shown), nearest.end());
-    std::string message = "there is no check \"" + std::string(name) + "\"; the nearest names are ";
-    for (std::size_t i = 0; i < shown; ++i) {
-        if (i > 0) message += i + 1 == shown ? " and " : ", ";
-        message += nearest[i].second;
-    }
-    return message;
 }
 
 }  // namespace ostrel::catalogue

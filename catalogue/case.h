@@ -35,9 +35,6 @@ nlohmann::json json_from_value(const Value& value);
 // utf8_from_bytes writes each byte as the code point of the same number.
 std::string utf8_from_bytes(std::string_view bytes);
 
-// unknown_function is the message for a name that the catalogue does not hold, with the nearest names.
-std::string unknown_function(std::string_view name);
-
 }  // namespace ostrel::catalogue
 
 #endif

@@ -1,13 +1,21 @@
-# Completion of ostrel-check for bash: names of checks, keywords, commands and options. The program itself
-# knows them.
+# Completion of ostrel-check for bash: names of checks in any case, keywords, commands, options and paths. The program
+# itself knows them.
 _ostrel_check()
 {
-    local words=("${COMP_WORDS[@]:1:COMP_CWORD}")
-    local candidates
-    candidates=$("${COMP_WORDS[0]}" complete -- "${words[@]}" 2>/dev/null) || candidates=
-    mapfile -t COMPREPLY < <(printf '%s' "${candidates:+$candidates$'\n'}")
-    if [[ ${COMP_WORDS[1]} == @(batch|summarise) ]] && [ ${#COMPREPLY[@]} -eq 0 ]; then
-        mapfile -t COMPREPLY < <(compgen -f -- "${COMP_WORDS[COMP_CWORD]}")
+    local words=() word
+    # bash takes --option=value apart.
+    for word in "${COMP_WORDS[@]:1:COMP_CWORD}"; do
+        if [ ${#words[@]} -gt 0 ] && { [ "$word" = "=" ] || [[ ${words[-1]} == --*= ]]; }; then
+            words[-1]+=$word
+        else
+            words+=("$word")
+        fi
+    done
+    mapfile -t COMPREPLY < <("${COMP_WORDS[0]}" complete -- "${words[@]}" 2>/dev/null)
+    if [ "${COMPREPLY[*]}" = @files ]; then
+        # Without candidates, the shell completes paths as it does everywhere.
+        COMPREPLY=()
+        compopt -o default -o filenames 2>/dev/null
     fi
 }
 complete -F _ostrel_check ostrel-check

@@ -45,7 +45,7 @@ def test_reason(ostrel):
 
 
 def test_typing_error(ostrel):
-    with pytest.raises(ValueError, match="the nearest names are PARAM_check_port"):
+    with pytest.raises(ValueError, match="did you mean PARAM_check_port\\?"):
         ostrel.accepts("PARAM_check_prot", "80")
 
 

@@ -142,7 +142,7 @@ class Refused(unittest.TestCase):
         self.addCleanup(self.session.close)
 
     def test_a_malformed_call_is_an_error(self):
-        for case, message in {("PARAM_check_prot", "1"): "the nearest names are PARAM_check_port",
+        for case, message in {("PARAM_check_prot", "1"): "did you mean PARAM_check_port\\?",
                               ("PARAM_check_port",): "0 values were given",
                               ("PARAM_check_port", "1", "2"): "2 values were given",
                               ("PARAM_check_port", "8\x000"): "U\\+0000",

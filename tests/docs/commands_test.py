@@ -27,7 +27,7 @@ SKIPPED = 77
 # and know the options that it is shown with.
 LONG = {"scripts/quickstart", "scripts/test", "scripts/test-everywhere", "scripts/prove", "scripts/fuzz",
         "scripts/mutate", "scripts/coverage", "scripts/bench", "scripts/hazards",
-        "scripts/abi", "scripts/footprint", "scripts/stubs", "sql/generate.py"}
+        "scripts/abi", "scripts/footprint", "scripts/manual", "scripts/stubs", "sql/generate.py"}
 # So does what builds or tests a preset, which must be there.
 LONG_BUILD = re.compile(r"(cmake --preset|cmake --build --preset|ctest --test-dir build)[ /](\S+)( -\S+ \S+)*")
 # Programs that the text speaks of and does not tell anybody to run.

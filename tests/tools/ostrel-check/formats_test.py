@@ -35,7 +35,7 @@ def in_words(text):
     quoted = "".join("\\" + c if c in '"\\' else c for c in text)
     for c, escape in (("\n", "\\n"), ("\r", "\\r"), ("\0", "\\x00")):
         quoted = quoted.replace(c, escape)
-    return '"@@null"' if text == "@null" else f'"{quoted}"'
+    return f'"{quoted}"'
 
 
 def in_rows(rows, delimiter):

@@ -1,4 +1,4 @@
-"""The catalogue in JSON, the manual page, completion, and a batch that is cut into pieces.
+"""The catalogue in JSON, the manual page, help, and a batch that is cut into pieces.
 
 usage: pages_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -56,6 +56,10 @@ class Catalogue(unittest.TestCase):
                     is_allowed = all(chr(byte) in form["characters"] for byte in c.encode(encoding))
                     self.assertEqual("accepted" if is_allowed else "refused", verdict, (encoding, c))
 
+    def test_explain_has_what_the_catalogue_has(self):
+        for name in ("PARAM_check_port", "WLAN_check_wepkeys", "countChar"):
+            self.assertEqual(self.checks[name], json.loads(output_of(PROGRAM, "explain", "--json", name)))
+
     def test_declarations_are_those_of_the_headers(self):
         declared = set()
         for header in (SOURCE / "include").rglob("*.h"):
@@ -100,37 +104,27 @@ class Surroundings(unittest.TestCase):
     def test_manual_page_is_clean(self):
         page = str(SOURCE / "docs" / "ostrel-check.1")
         self.assertEqual("", output_of("mandoc", "-T", "lint", "-W", "style", page))
-        text = re.sub(".\b", "", output_of("mandoc", "-T", "ascii", page))
-        for option in ("json", "schema", "json-schema", "stream", "only-refused", "jobs", "limit-time", "channels", "format",
-                       "format-out", "encoding", "delimiter", "check", "value", "strict", "with-args", "try", "summary",
-                       "summary-only", "summary-file", "exit-zero", "redact", "start-line"):
-            self.assertIn("--" + option, text)
 
-    def complete_in_bash(self, *words):
-        script = ('PATH=$1:$PATH; . "$2"; shift 2; COMP_WORDS=(ostrel-check "$@"); COMP_CWORD=$#; '
-                  '_ostrel_check; printf "%s\\n" "${COMPREPLY[@]}"')
-        completion = str(SOURCE / "packaging" / "completion" / "ostrel-check.bash")
-        return output_of("bash", "-c", script, "bash", os.path.dirname(PROGRAM), completion, *words).split()
+    def test_manual_page_knows_every_option(self):
+        page = re.sub(".\b", "", output_of("mandoc", "-T", "ascii", str(SOURCE / "docs" / "ostrel-check.1")))
+        for command in ([], ["explain"], ["list"], ["batch"], ["summarise"], ["compare"], ["complete"]):
+            options = re.findall(r"^  (?:-\w,)?(--[a-z-]+)", output_of(PROGRAM, *command, "--help"), re.MULTILINE)
+            self.assertIn("--help", options)
+            for option in options:
+                self.assertRegex(page, r"(?m)%s(?![a-z-])" % option)
 
-    def test_bash_completes_names_and_keywords(self):
-        self.assertEqual(["PARAM_check_port"], self.complete_in_bash("PARAM_check_po"))
-        self.assertEqual(["explain"], self.complete_in_bash("ex"))
-        self.assertEqual(["WLAN_check_wepkeys"], self.complete_in_bash("explain", "WLAN_check_we"))
-        self.assertEqual(["WPA", "WPAand11i"], self.complete_in_bash("WLAN_check_beacon_type", "W"))
-        self.assertEqual(["RADIO_2.4GHz", "RADIO_5GHz"], self.complete_in_bash("WLAN_check_channel", "6", ""))
-        self.assertEqual(["--jobs", "--json"], sorted(self.complete_in_bash("batch", "--j")))
-        self.assertEqual(["utf-8"], self.complete_in_bash("batch", "--encoding", "u"))
-        self.assertEqual(["text", "json"], self.complete_in_bash("batch", "--summary", ""))
-        self.assertEqual(["catalogue", "result", "summary", "map"], self.complete_in_bash("list", "--schema", ""))
-        self.assertEqual(["summarise"], self.complete_in_bash("summ"))
+    def test_help_that_cannot_be_written_fails(self):
+        for option in ("--help", "--version"):
+            with open("/dev/full", "w", encoding="utf-8") as full:
+                result = subprocess.run([PROGRAM, option], stdout=full, stderr=subprocess.PIPE, text=True, check=False)
+            self.assertEqual(2, result.returncode)
+            self.assertIn("No space left on device", result.stderr)
 
-    def test_zsh_takes_the_completion(self):
-        output_of("zsh", "-n", str(SOURCE / "packaging" / "completion" / "_ostrel-check"))
-        script = ('words=(ostrel-check WLAN_check_beacon_type W); CURRENT=3; compadd() { shift; print -l -- "$@"; }; '
-                  'path=($1 $path); . $2')
-        shown = output_of("zsh", "-f", "-c", script, "zsh", os.path.dirname(PROGRAM),
-                          str(SOURCE / "packaging" / "completion" / "_ostrel-check"))
-        self.assertEqual(["WPA", "WPAand11i"], shown.split())
+    def test_help_has_no_brackets_of_the_parser(self):
+        for command in ("explain", "list", "batch", "summarise", "compare", "complete"):
+            options = output_of(PROGRAM, command, "--help").partition("Options:")[2].partition("\n\n")[0]
+            self.assertIn("--help", options)
+            self.assertNotRegex(options, r"[][{}]|Excludes|FLOAT|INT")
 
     def test_doxygen_has_no_warning(self):
         with tempfile.TemporaryDirectory() as folder:

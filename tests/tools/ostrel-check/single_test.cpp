@@ -28,7 +28,7 @@ TEST(Single, RefusedIsOneBehindTheReport)
 {
     const auto refused = [](const std::string& reason) {
         return Outcome{1,
-                       "Error in PARAM_check_port: The port shoud be between 0~65535\n"
+                       "library: Error in PARAM_check_port: The port shoud be between 0~65535\n"
                        "refused: 601, out of range (" +
                            reason + ")\n",
                        ""};
@@ -42,8 +42,8 @@ TEST(Single, RefusedIsOneBehindTheReport)
 TEST(Single, WhatBeginsLikeAnOptionIsAValueBehindTheName)
 {
     EXPECT_EQ(1, run({"PARAM_check_bool_value", "--help"}).status);
-    EXPECT_EQ("Error in PARAM_check_bool_value: The value --version out of range[0,1]\n",
-              run({"PARAM_check_bool_value", "--version"}).out.substr(0, 71));
+    EXPECT_EQ("library: Error in PARAM_check_bool_value: The value --version out of range[0,1]\n",
+              run({"PARAM_check_bool_value", "--version"}).out.substr(0, 80));
     EXPECT_EQ(0, run({"PARAM_check_printable_ascii_string", "--"}).status);
     EXPECT_EQ(0, run({"PARAM_check_printable_ascii_string", "-e"}).status);
     EXPECT_EQ(0, run({"PARAM_check_printable_ascii_string", "batch"}).status);
@@ -52,8 +52,10 @@ TEST(Single, WhatBeginsLikeAnOptionIsAValueBehindTheName)
 
 TEST(Single, VerdictBeginsALineWhateverWasPrinted)
 {
-    EXPECT_EQ((Outcome{1, "-\nrefused: 402, invalid value (byte 3 is \"-\"; \":\" is expected there)\n", ""}),
-              run({"PARAM_check_MACAddress", "00-11-22-33-44-55"}));
+    EXPECT_EQ(
+        (Outcome{1, "library: -\nrefused: 402, invalid value (byte 3 is \"-\"; \":\" is expected there)\n",
+                 ""}),
+        run({"PARAM_check_MACAddress", "00-11-22-33-44-55"}));
 }
 
 TEST(Single, NumberThatIsNoVerdictIsAnAnswer)
@@ -119,8 +121,8 @@ TEST(Single, EscapesAreReadOnRequest)
 TEST(Single, RawBytesReachTheCheckAsTheyAre)
 {
     EXPECT_EQ(0, run({"TcmValidatePPPPassword", "caf\xE9"}).status);
-    EXPECT_EQ("Error in PARAM_check_bool_value: The value \xE9\x1B[1m out of range[0,1]\n",
-              run({"PARAM_check_bool_value", "\xE9\x1B[1m"}).out.substr(0, 67));
+    EXPECT_EQ("library: Error in PARAM_check_bool_value: The value \xE9\x1B[1m out of range[0,1]\n",
+              run({"PARAM_check_bool_value", "\xE9\x1B[1m"}).out.substr(0, 76));
 }
 
 TEST(Single, FailedAssertionIsThree)
@@ -130,8 +132,10 @@ TEST(Single, FailedAssertionIsThree)
     EXPECT_EQ(
         "ended: an assertion ended the process (SIGABRT) (is NULL, which fails an assertion of the check)\n",
         outcome.out);
-    EXPECT_NE(std::string::npos,
-              outcome.err.find("PARAM_check_bool_value: Assertion `value_p != ((void *)0)' failed.\n"));
+    EXPECT_TRUE(outcome.err.starts_with("library: ostrel-check: parameter_check:")) << outcome.err;
+    EXPECT_TRUE(
+        outcome.err.ends_with(": PARAM_check_bool_value: Assertion `value_p != ((void *)0)' failed.\n"))
+        << outcome.err;
     EXPECT_EQ(1, run({"PARAM_check_bool_value", "@@null"}).status);
 }
 
@@ -148,9 +152,9 @@ TEST(Single, CallThatDoesNotReturnIsThree)
 TEST(Single, WrongUsageIsTwo)
 {
     EXPECT_EQ((Outcome{2, "",
-                       "ostrel-check: there is no check \"PARAM_check_prot\"; the nearest names are "
-                       "PARAM_check_port, PARAM_check_ip_addr and PARAM_check_number\n"
-                       "ostrel-check list shows every check.\n"}),
+                       "ostrel-check: there is no check and no command \"PARAM_check_prot\"; did you mean "
+                       "PARAM_check_port?\n"
+                       "ostrel-check list WORD finds checks by a word of their names or rules.\n"}),
               run({"PARAM_check_prot", "1"}));
     EXPECT_EQ(
         (Outcome{2, "",
@@ -170,19 +174,20 @@ TEST(Single, WrongUsageIsTwo)
               run({"PARAM_check_num_range", "1", "2147483648", "3"}));
     EXPECT_EQ((Outcome{2, "", value_error("argument min takes a number", "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1", "@null", "3"}));
-    EXPECT_EQ((Outcome{2, "", usage_error("a check's NAME, explain, list or batch is missing")}), run({}));
+    EXPECT_EQ((Outcome{2, "", usage_error("the NAME of a check, or a command, is missing")}), run({"-e"}));
     EXPECT_EQ((Outcome{2, "", usage_error("there is no option --limit")}),
               run({"--limit", "PARAM_check_port"}));
     EXPECT_EQ(2, run({"--limit-time", "0", "PARAM_check_port", "1"}).status);
     EXPECT_EQ(2, run({"batch", "--nothing"}).status);
-    EXPECT_EQ(2, run({"list", "more"}).status);
+    EXPECT_EQ(2, run({"explain", "PARAM_check_port", "more"}).status);
 }
 
 TEST(Single, UnknownNamesAreShownSafely)
 {
     const Outcome outcome = run({"\x1B[1m\xE9", "1"});
     EXPECT_EQ(2, outcome.status);
-    EXPECT_EQ("ostrel-check: there is no check \"\\x1B[1m\\xE9\";", outcome.err.substr(0, 46));
+    EXPECT_EQ("ostrel-check: there is no check and no command \"\\x1B[1m\\xE9\"\n",
+              outcome.err.substr(0, 61));
 }
 
 TEST(Single, HelpAndVersion)
@@ -190,6 +195,37 @@ TEST(Single, HelpAndVersion)
     EXPECT_EQ((Outcome{0, "ostrel-check " OSTREL_VERSION "\n", ""}), run({"--version"}));
     EXPECT_NE(std::string::npos, run({"--help"}).out.find("ostrel-check PARAM_check_port 8080"));
     EXPECT_NE(std::string::npos, run({"batch", "--help"}).out.find("--json"));
+}
+
+TEST(Single, AloneTheProgramShowsItsUsage)
+{
+    const Outcome outcome = run({});
+    EXPECT_EQ(2, outcome.status);
+    EXPECT_TRUE(outcome.err.starts_with("Usage: ostrel-check [OPTIONS] NAME VALUE...\n")) << outcome.err;
+    EXPECT_TRUE(outcome.err.ends_with("\nostrel-check --help says more.\n")) << outcome.err;
+}
+
+TEST(Single, JsonIsThatOfABatch)
+{
+    const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
+        {{"PARAM_check_port", "8080"}, R"(["8080"])"},
+        {{"PARAM_check_port", "65536"}, R"(["65536"])"},
+        {{"PARAM_check_port"}, "[]"},
+        {{"PARAM_check_bool_value", "@null"}, "[null]"},
+        {{"PARAM_check_bool_value", "@@null"}, R"(["@null"])"},
+        {{"PARAM_check_num_range", "15", "1", "0x14"}, R"(["15", 1, 20])"},
+        {{"TcmValidatePPPPassword", "caf\xE9\"\n"}, R"([{"base64": "Y2Fm6SIK"}])"},
+        {{"WLAN_check_wepkeys", "0123456789", "abc", "", ""}, R"([["0123456789", "abc", "", ""]])"},
+        {{"PARAM_check_ui2_value", "1"}, R"(["1"])"}};
+    for (const auto& [words, args] : cases) {
+        std::vector<std::string> arguments = {"--json"};
+        arguments.insert(arguments.end(), words.begin(), words.end());
+        const std::string line = R"({"check": ")" + words.front() + R"(", "args": )" + args + "}";
+        EXPECT_EQ(run({"batch", "--stream"}, line), run(arguments)) << line;
+    }
+    EXPECT_EQ(run({"--json", "TcmValidatePPPPassword", "caf\xE9"}),
+              run({"--json", "-e", "TcmValidatePPPPassword", "caf\\xE9"}));
+    EXPECT_EQ(run({"--limit-time", "0.2", "--json", "--try", "PARAM_check_ui2_value", "1"}).status, 3);
 }
 
 TEST(Single, ListShowsArgumentsAndRule)

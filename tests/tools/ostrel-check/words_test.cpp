@@ -185,6 +185,24 @@ TEST(Lines, EndInALineFeedWithOrWithoutACarriageReturn)
     EXPECT_FALSE(cases.read("\n", 0));
 }
 
+TEST(Lines, NullIsAWordWithoutQuotationMarks)
+{
+    const Reading reading;
+    Cases cases(reading);
+    cases.open(0, FileFormat::kWords, "");
+    for (const auto& [word, value] : std::vector<std::pair<std::string, Value>>{{"@null", nullptr},
+                                                                                {"\"@null\"", "@null"},
+                                                                                {"'@null'", "@null"},
+                                                                                {"@\"null\"", "@null"},
+                                                                                {"\\@null", "@null"},
+                                                                                {"@@null", "@null"},
+                                                                                {"\"@@null\"", "@@null"},
+                                                                                {"@@@null", "@@null"}}) {
+        EXPECT_TRUE(cases.read("PARAM_check_port " + word + "\n", 0));
+        EXPECT_EQ(std::vector<Value>{value}, cases.values()) << word;
+    }
+}
+
 TEST(Lines, OfJsonKeepEveryMember)
 {
     Reading reading;

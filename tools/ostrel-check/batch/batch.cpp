@@ -36,6 +36,7 @@ class Batch {
         // Chunks are given out in order, and taken back in that order.
         while (true) {
             if (StopSignals::number() != 0) {
+                if (!std::exchange(is_interrupted_, true)) meter_.clear_keys();
                 for (const auto& slot : busy_) slot->ask_to_stop();
             }
             take_finished();
@@ -224,6 +225,7 @@ class Batch {
     std::uint64_t line_;
     int error_ = 0;  // why results could not be written
     bool has_begun_ = false;
+    bool is_interrupted_ = false;
     bool is_within_line_ = false;  // records of the line were written, and others were not
     std::unique_ptr<Reader> skipping_;
     Meter meter_;

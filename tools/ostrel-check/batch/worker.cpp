@@ -209,7 +209,7 @@ void append_result(std::string& out, const Style& style, const Place& place, con
     if (style.only_refused && is_harmless) return;
     switch (style.format) {
         case Format::kTable:
-            append_row(out, place, result);
+            append_row(out, style, place, result);
             break;
         case Format::kCsv:
             append_csv(out, style, place, result);

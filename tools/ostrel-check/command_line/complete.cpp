@@ -1,9 +1,13 @@
 #include "command_line/complete.h"
 
-#include <string>
+#include <algorithm>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/names.h"
+#include "command_line/choice.h"
+#include "command_line/formatter.h"
 #include "judge/reason.h"
+#include "rules/explain.h"
 #include "rules/walk.h"
 
 namespace ostrel::tool {
@@ -13,90 +17,175 @@ using catalogue::Function;
 
 namespace {
 
-using Words = std::vector<std::string>;
+using Candidates = std::vector<Candidate>;
 
-void add_names(Words& candidates)
+void add_names(Candidates& candidates)
 {
-    for (const Function& function : catalogue::functions()) candidates.emplace_back(function.name);
+    for (const Function& function : catalogue::functions())
+        candidates.push_back({std::string(function.name), rules::accepted(*function.check, gateway())});
 }
 
-Words options_of(std::string_view command)
+void add_families(Candidates& candidates)
 {
-    if (command == "list")
-        return {"--json", "--schema", "--json-schema", "--reference", "--hazards", "--help"};
-    if (command == "batch") {
-        return {"--json",       "--stream",    "--only-refused", "--format",       "--format-out",
-                "--encoding",   "--delimiter", "--check",        "--value",        "--strict",
-                "--with-args",  "--jobs",      "--limit-time",   "--channels",     "--try",
-                "--summary",    "--redact",    "--summary-only", "--summary-file", "--exit-zero",
-                "--start-line", "--map",       "--group",        "--parameter",    "--help"};
+    for (const Function& function : catalogue::functions()) {
+        if (candidates.empty() || candidates.back().word != function.family)
+            candidates.push_back({std::string(function.family), ""});
     }
-    if (command == "summarise") return {"--summary", "--help"};
-    if (command == "compare") return {"--json", "--markdown", "--help"};
-    return {"--help"};
 }
 
-// after_option returns the values that an option takes, or else the options.
-Words after_option(std::string_view option, std::string_view command)
+// values_of returns what a type stands for: words are written in small letters, kinds of words in capital ones.
+Candidates values_of(const std::string& type)
 {
-    if (option == "--schema") return {"catalogue", "result", "summary", "map"};
-    if (option == "--summary") return {"text", "json"};
-    if (option == "--format") return {"words", "ndjson", "csv", "tsv", "json"};
-    if (option == "--format-out") return {"text", "ndjson", "csv"};
-    if (option == "--encoding") return {"utf-8", "latin-1"};
-    return options_of(command);
+    Candidates candidates;
+    for (const std::string& word : CLI::detail::split(type, kOr)) {
+        if (word == "FILE") {
+            candidates.push_back({std::string(kFiles), ""});
+        } else if (word == "NAME") {
+            add_names(candidates);
+        } else if (word == "FAMILY") {
+            add_families(candidates);
+        } else if (word == catalogue::in_lower_case(word)) {
+            candidates.push_back({word, ""});
+        }
+    }
+    return candidates;
 }
 
-// keywords_at gives the keywords of the argument that the value of that number belongs to.
-Words keywords_at(const Function& function, std::size_t value)
+Candidates long_options_of(const CLI::App& app)
 {
-    for (std::size_t i = 0; i < function.arguments.size(); ++i) {
-        const Argument& argument = function.arguments[i];
+    Candidates candidates;
+    for (const CLI::Option* option : options_of(app)) {
+        for (const std::string& name : option->get_lnames())
+            candidates.push_back({"--" + name, option->get_description()});
+    }
+    return candidates;
+}
+
+// keywords_at returns the keywords of the argument that the value of that number belongs to.
+Candidates keywords_at(std::string_view name, std::size_t value)
+{
+    const Function* function = catalogue::find_in_any_case(name);
+    if (function == nullptr) return {};
+    for (std::size_t i = 0; i < function->arguments.size(); ++i) {
+        const Argument& argument = function->arguments[i];
         if (argument.output_only) continue;
-        if (value < argument.blocks) return rules::keywords(*function.check, i, gateway());
+        if (value < argument.blocks) {
+            Candidates candidates;
+            for (std::string& keyword : rules::keywords(*function->check, i, gateway()))
+                candidates.push_back({std::move(keyword), ""});
+            return candidates;
+        }
         value -= argument.blocks;
     }
     return {};
 }
 
-Words candidates_for(std::span<const std::string> words)
-{
-    // Options of the program itself, of which some take a value.
-    std::size_t first = 0;
-    while (first + 1 < words.size() && words[first].starts_with('-')) {
-        const bool takes_value = words[first] == "--limit-time" || words[first] == "--channels";
-        first += takes_value ? 2 : 1;
-    }
-    if (first >= words.size()) return {};
-    if (first + 1 == words.size()) {
-        if (words[first].starts_with('-')) {
-            return {"--escapes", "--limit-time", "--channels", "--try", "--version", "--help"};
+// Parser goes through the words as the parser does, up to the one that is to be completed.
+class Parser {
+ public:
+    explicit Parser(const CLI::App& app) : app_(&app) {}
+
+    void pass(const std::string& word)
+    {
+        if (!check_.empty()) {
+            ++values_;
+        } else if (option_ != nullptr && (needs_value() || !word.starts_with('-'))) {
+            option_ = nullptr;
+        } else if (!only_words_ && word.starts_with('-') && word != "-") {
+            option_ = word.find('=') == std::string::npos ? takes_value(word) : nullptr;
+            only_words_ = word == "--";
+        } else {
+            option_ = nullptr;
+            pass_positional(word);
         }
-        Words candidates = {"explain", "list", "batch", "summarise", "compare"};
-        add_names(candidates);
-        return candidates;
     }
-    const std::string& command = words[first];
-    const bool has_options =
-        command == "list" || command == "batch" || command == "summarise" || command == "compare";
-    if (has_options) return after_option(words[words.size() - 2], command);
-    if (command == "explain") {
-        Words candidates;
-        if (first + 2 == words.size()) add_names(candidates);
-        return candidates;
+
+    [[nodiscard]] Candidates candidates(const std::string& word) const
+    {
+        if (!check_.empty()) return keywords_at(check_, values_);
+        if (!only_words_ && word.starts_with("--")) {
+            const std::size_t end = word.find('=');
+            if (end != std::string::npos) return values_of(type_of(takes_value(word.substr(0, end))));
+        }
+        if (option_ != nullptr && needs_value()) return values_of(option_->get_type_name());
+        if (!only_words_ && word.starts_with('-')) return long_options_of(*app_);
+        Candidates all = option_ == nullptr ? Candidates() : values_of(option_->get_type_name());
+        if (app_->get_parent() == nullptr) {
+            if (!only_words_) add_commands(all);
+            add_names(all);
+            return all;
+        }
+        for (Candidate& candidate : positionals()) all.push_back(std::move(candidate));
+        return all.empty() && word.empty() ? long_options_of(*app_) : all;
     }
-    const Function* function = catalogue::find(command);
-    return function == nullptr ? Words() : keywords_at(*function, words.size() - first - 2);
-}
+
+ private:
+    // takes_value returns the option if it takes a value, else NULL.
+    [[nodiscard]] const CLI::Option* takes_value(const std::string& name) const
+    {
+        const CLI::Option* option = app_->get_option_no_throw(name);
+        return option != nullptr && option->get_items_expected_max() > 0 ? option : nullptr;
+    }
+
+    static std::string type_of(const CLI::Option* option)
+    {
+        return option == nullptr ? "" : option->get_type_name();
+    }
+
+    [[nodiscard]] bool needs_value() const { return option_->get_items_expected_min() > 0; }
+
+    void pass_positional(const std::string& word)
+    {
+        if (app_->get_parent() != nullptr) {
+            ++values_;
+            return;
+        }
+        const std::vector<const CLI::App*> commands = commands_of(*app_);
+        const auto found = std::ranges::find(commands, word, &CLI::App::get_name);
+        if (found != commands.end() && !only_words_) {
+            app_ = *found;
+        } else {
+            check_ = word;
+        }
+    }
+
+    void add_commands(Candidates& candidates) const
+    {
+        for (const CLI::App* command : commands_of(*app_))
+            candidates.push_back({command->get_name(), command->get_description()});
+    }
+
+    [[nodiscard]] Candidates positionals() const
+    {
+        const std::vector<const CLI::Option*> all = positionals_of(*app_);
+        if (all.empty()) return {};
+        const bool takes_more = all.back()->get_items_expected_max() >= CLI::detail::expected_max_vector_size;
+        if (values_ >= all.size() && !takes_more) return {};
+        return values_of(all[std::min(values_, all.size() - 1)]->get_name(true));
+    }
+
+    const CLI::App* app_;                  // the program, or one of its commands
+    const CLI::Option* option_ = nullptr;  // which waits for its value
+    bool only_words_ = false;              // after "--"
+    std::string check_;
+    std::size_t values_ = 0;  // of the check, or of the command
+};
 
 }  // namespace
 
-std::vector<std::string> complete(std::span<const std::string> words)
+std::vector<Candidate> complete(const CLI::App& app, std::span<const std::string> words)
 {
-    std::vector<std::string> result;
+    Candidates result;
     if (words.empty()) return result;
-    for (std::string& candidate : candidates_for(words)) {
-        if (candidate.starts_with(words.back())) result.push_back(std::move(candidate));
+    Parser parser(app);
+    for (const std::string& word : words.first(words.size() - 1)) parser.pass(word);
+    const std::string& last = words.back();
+    const std::size_t begin = last.starts_with("--") ? last.find('=') : std::string::npos;
+    const std::string wanted =
+        catalogue::in_lower_case(begin == std::string::npos ? last : last.substr(begin + 1));
+    for (Candidate& candidate : parser.candidates(last)) {
+        const bool fits = catalogue::in_lower_case(candidate.word).starts_with(wanted);
+        if (fits || candidate.word == kFiles) result.push_back(std::move(candidate));
     }
     return result;
 }

@@ -2,14 +2,25 @@
 #ifndef OSTREL_TOOLS_COMMAND_LINE_COMPLETE_H
 #define OSTREL_TOOLS_COMMAND_LINE_COMPLETE_H
 
+#include <CLI/CLI.hpp>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ostrel::tool {
 
-// complete gives the candidates for the last of the words, which are those behind the program's name.
-std::vector<std::string> complete(std::span<const std::string> words);
+// kFiles is the candidate that stands for the path of any file; no name or keyword begins with "@".
+inline constexpr std::string_view kFiles = "@files";
+
+struct Candidate {
+    std::string word;
+    std::string what;  // in a few words; may be empty
+};
+
+// complete returns the candidates for the last of the words, which are those after the program's name. Names are
+// completed in any case. After --option= a candidate is the value alone.
+std::vector<Candidate> complete(const CLI::App& app, std::span<const std::string> words);
 
 }  // namespace ostrel::tool
 

@@ -1,14 +1,18 @@
 #include "command_line/ending_options.h"
 
+#include <cstdint>
+#include <limits>
+
+#include "command_line/choice.h"
+
 namespace ostrel::tool {
 
 namespace {
 
 void add_summary(CLI::App& app, EndingOptions& options)
 {
-    app.add_option("--summary", options.summary, "By check, parameter and reason: text or json")
-        ->check(CLI::IsMember({"text", "json"}))
-        ->type_name("FORMAT");
+    choose_from(app.add_option("--summary", options.summary, "By check, parameter and reason"),
+                {"text", "json"});
 }
 
 }  // namespace
@@ -16,7 +20,7 @@ void add_summary(CLI::App& app, EndingOptions& options)
 void add_call_options(CLI::App& app, Manner& manner, std::optional<std::string>& channels)
 {
     app.add_option("--limit-time", manner.limit, "Time that a call may take (2)")
-        ->check(CLI::Range(0.001, 86400.0))
+        ->check(CLI::Range(0.001, 86400.0).description(""))
         ->type_name("SECONDS");
     app.add_option("--channels", channels, "Answer with these for the wireless driver")->type_name("LIST");
     app.add_flag("--try", manner.tries_known, "Make calls that are known not to return");
@@ -30,7 +34,7 @@ void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules)
     batch.add_flag("--exit-zero", options.closing.exits_with_zero, "Exit with 0 whatever the verdicts are");
     batch.add_flag("--redact", rules.style.redacts, "Show the length of secret values in their place");
     batch.add_option("--start-line", rules.start_line, "Line of the first file to begin with (1)")
-        ->check(CLI::PositiveNumber)
+        ->check(CLI::Range(std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max()).description(""))
         ->type_name("N");
 }
 

@@ -1,16 +1,14 @@
 #include "command_line/help.h"
 
-#include "catalogue/catalogue.h"
-
 namespace ostrel::tool {
 
 std::string_view main_help()
 {
-    return R"(A value is passed as it stands, with everything behind NAME, a leading "-"
+    return R"(A value is passed as it stands, with everything after NAME, a leading "-"
 included. The word @null passes NULL, and @@null passes the text "@null". With
 --escapes, \xNN, \n, \r, \t and \\ are read in values. Arguments marked :number
-take a decimal number, or a hexadecimal one behind 0x. Options stand before
-NAME.
+take a decimal number, or a hexadecimal one after 0x. Options stand before
+NAME. A line after "library:" is one that the library itself printed.
 
 Examples:
   ostrel-check PARAM_check_port 8080
@@ -19,8 +17,9 @@ Examples:
   ostrel-check --escapes TcmValidatePPPPassword 'caf\xE9'
   ostrel-check PARAM_check_num_range 15 1 20
   ostrel-check --channels "1 6 11" WLAN_check_channel 6 RADIO_2.4GHz
+  ostrel-check --json PARAM_check_port 65536
   ostrel-check explain PARAM_check_port
-  ostrel-check list
+  ostrel-check list port
   ostrel-check batch settings.txt
   some-program | ostrel-check batch --json
 
@@ -38,7 +37,8 @@ format.
 
 words: each line is a case. Empty lines and comments (#) are passed over. Words
 are quoted as for a shell, with the escapes \xNN, \n, \r, \t, \\ outside of
-'single quotes', and @null for NULL. A line may also be an object of JSON:
+'single quotes'. @null is NULL, and "@null" the text. A line may also be an
+object of JSON:
 
   PARAM_check_port 8080             # a comment
   TcmValidatePPPPassword "two words"
@@ -79,8 +79,8 @@ Numbers of instances in a parameter's path count as {i}. The summary follows the
 results, or is written to --summary-file; with --stream and without such a file
 it goes to standard error.
 
-SIGINT and SIGTERM end a batch behind the record that it is at, and so does a
-full disk: standard error says behind which line, and --start-line goes on. With
+SIGINT and SIGTERM end a batch after the record that it is at, and so does a
+full disk: standard error says after which line, and --start-line goes on. With
 --map it is the gateway that is finished, and --start-line begins with the first
 one that begins there or later.
 
@@ -123,7 +123,10 @@ Examples:
 
 std::string_view list_help()
 {
-    return R"(With --json the whole catalogue: arguments, rules, codes, steps with what is
+    return R"(Each PATTERN must be in the name of a check, in what it accepts, or in the name
+or the description of an argument; case does not matter.
+
+With --json the catalogue: arguments, rules, codes, steps with what is
 printed, what an accepted value may contain, and the constraints of each
 argument for programs and forms. --schema prints the JSON Schema of that, and
 --schema result that of a line of batch --json, --schema map that of maps.
@@ -134,6 +137,8 @@ the check.
 
 Examples:
   ostrel-check list
+  ostrel-check list port
+  ostrel-check list --family wlan key
   ostrel-check list --json >catalogue.json
   ostrel-check list --schema >catalogue.schema.json
   ostrel-check list --json-schema >values.schema.json)";
@@ -149,7 +154,7 @@ of one, or for what a step keeps under that name.
 
 Examples:
   ostrel-check explain PARAM_check_port
-  ostrel-check explain WLAN_check_wepkeys | less)";
+  ostrel-check explain --json WLAN_check_wepkeys)";
 }
 
 std::string_view compare_help()
@@ -167,17 +172,11 @@ Examples:
 std::string_view complete_help()
 {
     return R"(For the completion of a shell: prints what the last WORD may become, a line
-each. The words are those behind "ostrel-check".
+each, or @files for any path. The words are those after "ostrel-check".
 
 Examples:
   ostrel-check complete -- PARAM_check_p
   ostrel-check complete -- WLAN_check_beacon_type "")";
-}
-
-std::string advice_for(std::string_view name)
-{
-    if (catalogue::find(name) == nullptr) return "ostrel-check list shows every check.\n";
-    return "ostrel-check explain " + std::string(name) + " says what it takes.\n";
 }
 
 }  // namespace ostrel::tool

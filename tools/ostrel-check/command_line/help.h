@@ -1,8 +1,7 @@
-// Help: what --help says behind the options.
+// Help: what --help says after the options.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_HELP_H
 #define OSTREL_TOOLS_COMMAND_LINE_HELP_H
 
-#include <string>
 #include <string_view>
 
 namespace ostrel::tool {
@@ -14,9 +13,6 @@ std::string_view list_help();
 std::string_view explain_help();
 std::string_view compare_help();
 std::string_view complete_help();
-
-// advice_for says what to do about a problem with a check's name or its values.
-std::string advice_for(std::string_view name);
 
 }  // namespace ostrel::tool
 

@@ -1,9 +1,10 @@
 #include "command_line/reading_options.h"
 
-#include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "command_line/choice.h"
 #include "read/words.h"
 
 namespace ostrel::tool {
@@ -22,19 +23,16 @@ std::string one_byte(const std::string& given)
 
 void add_reading(CLI::App& batch, Reading& reading)
 {
-    const std::map<std::string, FileFormat> formats = {{"words", FileFormat::kWords},
+    add_choice<std::optional<FileFormat>, FileFormat>(batch, "--format", reading.format,
+                                                      {{"words", FileFormat::kWords},
                                                        {"ndjson", FileFormat::kNdjson},
                                                        {"csv", FileFormat::kCsv},
                                                        {"tsv", FileFormat::kTsv},
-                                                       {"json", FileFormat::kJson}};
-    const std::map<std::string, Encoding> encodings = {{"utf-8", Encoding::kUtf8},
-                                                       {"latin-1", Encoding::kLatin1}};
-    batch.add_option("--format", reading.format, "Of the files; by name or first bytes if not given")
-        ->transform(CLI::Transformer(formats).description(""))
-        ->type_name("words|ndjson|csv|tsv|json");
-    batch.add_option("--encoding", reading.encoding, "Of the values (utf-8)")
-        ->transform(CLI::Transformer(encodings).description(""))
-        ->type_name("utf-8|latin-1");
+                                                       {"json", FileFormat::kJson}},
+                                                      "Of the files; by name or first bytes if not given");
+    add_choice<Encoding, Encoding>(batch, "--encoding", reading.encoding,
+                                   {{"utf-8", Encoding::kUtf8}, {"latin-1", Encoding::kLatin1}},
+                                   "Of the values (utf-8)");
     batch
         .add_option_function<std::string>(
             "--delimiter", [&](const std::string& given) { reading.delimiter = read_escapes(given).front(); },

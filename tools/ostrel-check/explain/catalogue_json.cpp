@@ -139,9 +139,21 @@ ordered_json json_of(const Function& function, const ordered_json& constraints)
     return result;
 }
 
+ordered_json constraints_of(const Function& function, const ordered_json& all)
+{
+    const auto found = all.find(function.name);
+    return found == all.end() ? ordered_json() : *found;
+}
+
 }  // namespace
 
-std::string list_json()
+std::string explain_json(const Function& function)
+{
+    const ordered_json all = ordered_json::parse(constraints());
+    return json_of(function, constraints_of(function, all)).dump(1) + "\n";
+}
+
+std::string list_json(const Selection& selection)
 {
     ordered_json result = {{"version", OSTREL_VERSION}};
     result["texts"] =
@@ -150,10 +162,8 @@ std::string list_json()
         "same number: \u00e9 is 0xE9. In UTF-8, \u00e9 is the two bytes 0xC3 and 0xA9, here \u00c3\u00a9.";
     result["checks"] = ordered_json::array();
     const ordered_json all = ordered_json::parse(constraints());
-    for (const Function& function : catalogue::functions()) {
-        const auto found = all.find(function.name);
-        result["checks"].push_back(json_of(function, found == all.end() ? ordered_json() : *found));
-    }
+    for (const Function* function : selection)
+        result["checks"].push_back(json_of(*function, constraints_of(*function, all)));
     return result.dump(1) + "\n";
 }
 

@@ -68,7 +68,8 @@ void write_codes(Page& page, const rules::Check& check, const rules::Explanation
 
 std::string label_of(const rules::SaidLine& line)
 {
-    std::string label = line.stream == rules::Line::Stream::kErr ? "standard error" : "prints";
+    std::string label = "library prints";
+    if (line.stream == rules::Line::Stream::kErr) label += " to standard error";
     if (!line.is_flushed && line.stream == rules::Line::Stream::kOut) label += ", without a flush";
     return line.when.empty() ? label : label + ", " + line.when;
 }
@@ -146,52 +147,54 @@ std::string declaration_of(const Function& function)
     return text + ")";
 }
 
-std::string explain(const Function& function, bool with_colours)
+std::string explain(const Function& function, const Look& look)
 {
-    TextPage page(with_colours);
+    TextPage page(look);
     page.title(std::string(function.name).append(" (").append(function.family).append(")"));
     write_check(page, function);
     return page.text();
 }
 
-std::string list_checks(bool with_colours)
+std::string list_checks(const Selection& selection, const Look& look)
 {
     std::string text;
     std::string_view family;
-    for (const Function& function : catalogue::functions()) {
-        if (function.family != family) {
-            family = function.family;
+    for (const Function* function : selection) {
+        if (function->family != family) {
+            family = function->family;
             text.append(text.empty() ? "" : "\n")
-                .append(painted(family, Colour::kBold, with_colours))
+                .append(painted(family, Colour::kBold, look.with_colours))
                 .append("\n");
         }
-        text.append("  ").append(usage_of(function)).append("\n");
-        append_wrapped(text, rules::accepted(*function.check, gateway()), 6);
-        for (const Argument& argument : function.arguments) {
-            if (argument.output_only) append_wrapped(text, "fills in " + std::string(argument.name), 6);
+        text.append("  ").append(usage_of(*function)).append("\n");
+        append_wrapped(text, rules::accepted(*function->check, gateway()), 6, 0, look.columns);
+        for (const Argument& argument : function->arguments) {
+            if (argument.output_only)
+                append_wrapped(text, "fills in " + std::string(argument.name), 6, 0, look.columns);
         }
     }
     return text;
 }
 
-std::string reference()
+std::string reference(const Selection& selection)
 {
     std::string text =
         "# Reference\n\n"
-        "Every check, from its description. In what is printed, `\\n` is a line end and `<name>` stands for "
+        "The checks, from their descriptions. In what is printed, `\\n` is a line end and `<name>` stands "
+        "for "
         "an\nargument, for a part of one, or for what a step keeps under that name.\n\n";
     std::string_view family;
-    for (const Function& function : catalogue::functions()) {
-        if (function.family == family) continue;
-        family = function.family;
+    for (const Function* function : selection) {
+        if (function->family == family) continue;
+        family = function->family;
         text.append("- [").append(family).append("](#").append(family).append(")\n");
     }
     family = "";
-    for (const Function& function : catalogue::functions()) {
-        if (function.family != family) text.append("\n## ").append(family = function.family).append("\n");
+    for (const Function* function : selection) {
+        if (function->family != family) text.append("\n## ").append(family = function->family).append("\n");
         MarkdownPage page;
-        page.title(function.name);
-        write_check(page, function);
+        page.title(function->name);
+        write_check(page, *function);
         text += page.text();
     }
     return text;

@@ -6,23 +6,26 @@
 #include <string_view>
 
 #include "catalogue/catalogue.h"
+#include "explain/select.h"
+#include "terminal/style.h"
 
 namespace ostrel::tool {
 
 // declaration_of gives the function as a C host declares it.
 std::string declaration_of(const catalogue::Function& function);
 
-// explain gives the page of a check, for a terminal.
-std::string explain(const catalogue::Function& function, bool with_colours);
+// explain returns the page of a check, for a terminal; explain_json what the catalogue says of it.
+std::string explain(const catalogue::Function& function, const Look& look);
+std::string explain_json(const catalogue::Function& function);
 
-// list_checks shows every check with its arguments and what it accepts.
-std::string list_checks(bool with_colours);
+// list_checks shows the checks with their arguments and what they accept.
+std::string list_checks(const Selection& selection, const Look& look);
 
-// list_json gives the catalogue in JSON, as catalogue.schema.json describes it.
-std::string list_json();
+// list_json returns the catalogue in JSON, as catalogue.schema.json describes it.
+std::string list_json(const Selection& selection);
 
-// reference gives the pages of all checks in Markdown, hazards_page what their accepted values may contain.
-std::string reference();
+// reference returns the pages of the checks in Markdown, hazards_page what accepted values of all may contain.
+std::string reference(const Selection& selection);
 std::string hazards_page();
 
 }  // namespace ostrel::tool

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "terminal/style.h"
-
 namespace ostrel::tool {
 
 namespace {
@@ -15,41 +13,43 @@ constexpr std::size_t kMarkdownDepth = 2;
 
 }  // namespace
 
-void TextPage::title(std::string_view text)
+void TextPage::wrap(std::string_view text, std::size_t indentation, std::size_t hanging)
 {
-    out().append(painted(text, Colour::kBold, with_colours_)).append("\n");
+    append_wrapped(out(), text, indentation, hanging, look_.columns);
 }
 
-void TextPage::declaration(std::string_view text) { append_wrapped(out(), text, kItem); }
+void TextPage::title(std::string_view text)
+{
+    out().append(painted(text, Colour::kBold, look_.with_colours)).append("\n");
+}
+
+void TextPage::declaration(std::string_view text) { wrap(text, kItem); }
 
 void TextPage::heading(std::string_view text)
 {
-    out().append("\n").append(painted(text, Colour::kBold, with_colours_)).append("\n");
+    out().append("\n").append(painted(text, Colour::kBold, look_.with_colours)).append("\n");
 }
 
-void TextPage::paragraph(std::string_view text) { append_wrapped(out(), text, kItem); }
+void TextPage::paragraph(std::string_view text) { wrap(text, kItem); }
 
 void TextPage::item(std::string_view label, std::string_view text)
 {
-    append_wrapped(out(), std::string(label).append(": ").append(text), kItem);
+    wrap(std::string(label).append(": ").append(text), kItem);
 }
 
-void TextPage::detail(std::string_view text) { append_wrapped(out(), text, kDetail); }
+void TextPage::detail(std::string_view text) { wrap(text, kDetail); }
 
 void TextPage::step(std::size_t depth, std::string_view number, std::string_view text)
 {
     const std::string label = std::string(number) + ". ";
-    append_wrapped(out(), label + std::string(text), kItem + kDepth * depth, label.size());
+    wrap(label + std::string(text), kItem + kDepth * depth, label.size());
 }
 
-void TextPage::note(std::size_t depth, std::string_view text)
-{
-    append_wrapped(out(), text, kDetail + kDepth * depth);
-}
+void TextPage::note(std::size_t depth, std::string_view text) { wrap(text, kDetail + kDepth * depth); }
 
 void TextPage::line(std::size_t depth, std::string_view label, std::string_view text)
 {
-    out().append(kDetail + kDepth * depth, ' ').append(label).append(": ").append(text).append("\n");
+    wrap(std::string(label).append(": ").append(text), kDetail + kDepth * depth, 2);
 }
 
 std::string in_markdown(std::string_view text)

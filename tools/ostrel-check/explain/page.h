@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "terminal/style.h"
+
 namespace ostrel::tool {
 
 class Page {
@@ -39,7 +41,7 @@ class Page {
 
 class TextPage : public Page {
  public:
-    explicit TextPage(bool with_colours) : with_colours_(with_colours) {}
+    explicit TextPage(const Look& look) : look_(look) {}
     void title(std::string_view text) override;
     void declaration(std::string_view text) override;
     void heading(std::string_view text) override;
@@ -51,7 +53,9 @@ class TextPage : public Page {
     void line(std::size_t depth, std::string_view label, std::string_view text) override;
 
  private:
-    bool with_colours_;
+    void wrap(std::string_view text, std::size_t indentation, std::size_t hanging = 0);
+
+    Look look_;
 };
 
 class MarkdownPage : public Page {

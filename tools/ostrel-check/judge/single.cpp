@@ -8,10 +8,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <optional>
-#include <stdexcept>
 #include <system_error>
 
-#include "catalogue/case.h"
 #include "judge/driver.h"
 #include "judge/reason.h"
 #include "read/words.h"
@@ -30,42 +28,74 @@ namespace {
 constexpr std::string_view kReturnMark = "r";
 constexpr std::string_view kAssertionMark = "a";
 
-// last_printed is the last byte that the check's own process has sent to standard output.
-char last_printed = '\n';
+constexpr std::size_t kHanging = 2;
 
-// is_shown_on_terminal tells that a value's control bytes must not reach whoever looks at the lines.
-bool is_shown_on_terminal = false;
+// Marker marks what the library prints as it comes, so that it is not taken for what this program says.
+class Marker {
+ public:
+    explicit Marker(int descriptor)
+        : is_terminal_(isatty(descriptor) == 1), columns_(columns_of(descriptor, kAnyWidth))
+    {
+    }
 
-// append_for_terminal leaves a line's own line breaks and blanks as they are.
-void append_for_terminal(std::string& out, std::string_view text)
-{
-    for (const char& c : text) {
-        if (c == '\n') {
-            out += c;
+    std::string marked(std::string_view text)
+    {
+        std::string result;
+        while (!text.empty()) {
+            const std::string_view line = text.substr(0, text.find('\n'));
+            const bool is_ended = line.size() < text.size();
+            text.remove_prefix(line.size() + (is_ended ? 1 : 0));
+            append(result, line, is_ended);
+            begins_line_ = is_ended;
+        }
+        return result;
+    }
+
+    [[nodiscard]] bool begins_line() const { return begins_line_; }
+
+ private:
+    void append(std::string& out, std::string_view line, bool is_ended) const
+    {
+        // A line that is empty is the end of the one before.
+        std::string shown(begins_line_ && !line.empty() ? kLibrary : "");
+        const bool is_whole = !shown.empty() && is_ended;
+        // A value's control bytes must not reach whoever looks at a terminal.
+        if (is_terminal_) {
+            append_escaped(shown, line, line.size());
         } else {
-            append_escaped(out, {&c, 1}, 1);
+            shown += line;
+        }
+        if (is_whole) {
+            append_wrapped(out, shown, 0, kHanging, columns_);
+        } else {
+            out.append(shown).append(is_ended ? "\n" : "");
         }
     }
+
+    bool is_terminal_;
+    std::size_t columns_;
+    bool begins_line_ = true;
+};
+
+Marker& marker_of(int descriptor)
+{
+    static Marker out(STDOUT_FILENO);
+    static Marker error(STDERR_FILENO);
+    return descriptor == STDOUT_FILENO ? out : error;
 }
 
 // pass_on answers as the C library expects it of a stream; no exception may go through it.
 ssize_t pass_on(int descriptor, std::string_view text)
 {
     try {
-        return write_all(descriptor, text) ? static_cast<ssize_t>(text.size()) : -1;
+        const bool is_written = write_all(descriptor, marker_of(descriptor).marked(text));
+        return is_written ? static_cast<ssize_t>(text.size()) : -1;
     } catch (const std::system_error&) {
         return -1;
     }
 }
 
-ssize_t print(void*, const char* bytes, std::size_t size)
-{
-    if (size > 0) last_printed = bytes[size - 1];
-    if (!is_shown_on_terminal) return pass_on(STDOUT_FILENO, {bytes, size});
-    std::string shown;
-    append_for_terminal(shown, {bytes, size});
-    return pass_on(STDOUT_FILENO, shown) < 0 ? -1 : static_cast<ssize_t>(size);
-}
+ssize_t print(void*, const char* bytes, std::size_t size) { return pass_on(STDOUT_FILENO, {bytes, size}); }
 
 ssize_t print_error(void* news, const char* bytes, std::size_t size)
 {
@@ -89,20 +119,20 @@ std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int bufferi
 // tells an assertion from another abort.
 void watch_output(const Descriptor& news)
 {
-    is_shown_on_terminal = isatty(STDOUT_FILENO) == 1;
-    stdout = open_stream(print, nullptr, is_shown_on_terminal ? _IOLBF : _IOFBF);
+    stdout = open_stream(print, nullptr, isatty(STDOUT_FILENO) == 1 ? _IOLBF : _IOFBF);
     stderr = open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
 }
 
 // verdict_line is the verdict, its first word in colour where that can be.
 std::string verdict_line(const Result& result)
 {
-    const std::string text = describe(result);
-    const std::size_t end = std::min(text.find(':'), text.size());
+    std::string text;
+    append_wrapped(text, describe(result), 0, kHanging, columns_of(STDOUT_FILENO, kAnyWidth));
+    const std::size_t end = std::min(text.find_first_of(":\n"), text.size());
     const bool is_good = exit_code(result.verdict) == kExitAccepted;
     return painted(text.substr(0, end), is_good ? Colour::kGreen : Colour::kRed,
                    wants_colours(STDOUT_FILENO)) +
-           text.substr(end) + "\n";
+           text.substr(end);
 }
 
 // call_check calls and finds the reason.
@@ -129,9 +159,9 @@ void call_check(Caller& caller, Result& result, const Descriptor& news)
     watch_output(news);
     call_check(caller, result, news);
     result.after = caller.written();
-    std::string text = last_printed == '\n' ? "" : "\n";
+    std::string text = marker_of(STDOUT_FILENO).begins_line() ? "" : "\n";
     text += verdict_line(result);
-    append_after(text, "  ", result);
+    append_after(text, result, kHanging, columns_of(STDOUT_FILENO, kAnyWidth));
     write_all(STDOUT_FILENO, text);
     _exit(exit_code(result.verdict));
 }
@@ -160,11 +190,10 @@ int conclude(const Result& result)
 
 }  // namespace
 
-int judge_one(std::string_view name, std::span<const std::string> words, const Manner& manner)
+int judge_one(const catalogue::Function& function, std::span<const std::string> words, const Manner& manner)
 {
     Result result;
-    result.function = catalogue::find(name);
-    if (result.function == nullptr) throw std::invalid_argument(catalogue::unknown_function(name));
+    result.function = &function;
     std::vector<catalogue::Value> values;
     read_values(*result.function, words, values);
     result.values = &values;

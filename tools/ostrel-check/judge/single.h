@@ -4,7 +4,8 @@
 
 #include <span>
 #include <string>
-#include <string_view>
+
+#include "catalogue/catalogue.h"
 
 namespace ostrel::tool {
 
@@ -15,9 +16,9 @@ struct Manner {
     std::string driver_problem;  // why nobody stands in for the wireless driver as was asked for; or empty
 };
 
-// judge_one judges the values, prints the verdict and gives the exit code. Throws std::invalid_argument, with
-// a message for the user, when the name or the values do not suit.
-int judge_one(std::string_view name, std::span<const std::string> words, const Manner& manner);
+// judge_one judges the values, prints the verdict and returns the exit code. Throws std::invalid_argument, with
+// a message for the user, when the values do not suit.
+int judge_one(const catalogue::Function& function, std::span<const std::string> words, const Manner& manner);
 
 }  // namespace ostrel::tool
 

@@ -5,7 +5,7 @@
 #include <set>
 #include <utility>
 
-#include "catalogue/case.h"
+#include "catalogue/names.h"
 #include "map/document.h"
 #include "map/map.h"
 

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "catalogue/case.h"
+#include "catalogue/names.h"
 #include "read/words.h"
 #include "write/show.h"
 

@@ -1,7 +1,6 @@
 #include "read/lines.h"
 
 #include <algorithm>
-#include <span>
 #include <stdexcept>
 
 #include "read/encoding.h"
@@ -46,9 +45,8 @@ void LineReader::read_words(std::string_view line, Record& record)
         line = encoded_;
     }
     words_.split(line);
-    const std::span<const std::string> words = words_.all();
-    record.check = words.front();
-    for (const std::string& word : words.subspan(1)) record.items.push_back(item_of(word));
+    record.check = words_.all().front();
+    for (std::size_t i = 1; i < words_.all().size(); ++i) record.items.push_back(words_.item(i));
 }
 
 }  // namespace ostrel::tool

@@ -84,9 +84,13 @@ void Words::split(std::string_view line)
 
 std::size_t Words::read_word(std::string_view line, std::size_t at)
 {
-    if (count_ == words_.size()) words_.emplace_back();
+    if (count_ == words_.size()) {
+        words_.emplace_back();
+        are_plain_.push_back(true);
+    }
     std::string& word = words_[count_];
     word.clear();
+    are_plain_[count_] = true;
     while (at < line.size() && !is_blank(line[at])) {
         std::size_t plain = at;
         while (plain < line.size() && !is_blank(line[plain]) && line[plain] != '\'' && line[plain] != '"' &&
@@ -96,6 +100,7 @@ std::size_t Words::read_word(std::string_view line, std::size_t at)
         word.append(line, at, plain - at);
         at = plain;
         if (at == line.size() || is_blank(line[at])) break;
+        are_plain_[count_] = false;
         at = line[at] == '\\' ? read_escape(line, at + 1, word) : read_quoted(line, at, word);
     }
     ++count_;
@@ -113,6 +118,12 @@ std::string read_escapes(std::string_view text)
         }
     }
     return result;
+}
+
+Item Words::item(std::size_t word) const
+{
+    if (are_plain_[word]) return item_of(words_[word]);
+    return {Item::Kind::kText, words_[word], 0};
 }
 
 Item item_of(std::string_view word)

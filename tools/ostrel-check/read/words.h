@@ -24,10 +24,14 @@ class Words {
 
     [[nodiscard]] std::span<const std::string> all() const { return {words_.data(), count_}; }
 
+    // item returns what a word stands for. One that has quotation marks or escapes is the text that it is.
+    [[nodiscard]] Item item(std::size_t word) const;
+
  private:
     std::size_t read_word(std::string_view line, std::size_t at);
 
     std::vector<std::string> words_;
+    std::vector<bool> are_plain_;
     std::size_t count_ = 0;
 };
 

@@ -79,6 +79,11 @@ void Meter::show(const Advance& advance)
     shown_at_ = Clock::now();
 }
 
+void Meter::clear_keys() const
+{
+    if (is_wanted_) say("\r\x1B[K");
+}
+
 void Meter::clear()
 {
     if (is_shown_) say("\r\x1B[K");

@@ -37,6 +37,9 @@ class Meter {
     void show(const Advance& advance);
     void clear();
 
+    // clear_keys takes away what the terminal shows of the keys that interrupt.
+    void clear_keys() const;
+
     // is_due tells that it is time to show something.
     [[nodiscard]] bool is_due() const;
     [[nodiscard]] bool is_wanted() const { return is_wanted_; }

@@ -1,5 +1,6 @@
 #include "terminal/style.h"
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -28,12 +29,23 @@ std::string painted(std::string_view text, Colour colour, bool with_colours)
     return result.append(text).append("\x1B[0m");
 }
 
-void append_wrapped(std::string& out, std::string_view text, std::size_t indentation, std::size_t hanging)
+std::size_t columns_of(int descriptor, std::size_t otherwise)
+{
+    constexpr std::size_t kFewest = 40;
+    winsize size = {};
+    if (ioctl(descriptor, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return otherwise;
+    return std::max<std::size_t>(size.ws_col, kFewest);
+}
+
+Look look_of(int descriptor) { return {wants_colours(descriptor), columns_of(descriptor, kColumns)}; }
+
+void append_wrapped(std::string& out, std::string_view text, std::size_t indentation, std::size_t hanging,
+                    std::size_t columns)
 {
     while (!text.empty()) {
-        const std::size_t width = kColumns - indentation;
         std::size_t size = text.size();
-        if (size > width) {
+        const std::size_t width = columns > indentation ? columns - indentation : 1;
+        if (columns != kAnyWidth && size > width) {
             size = text.substr(0, width + 1).rfind(' ');
             if (size == std::string_view::npos || size == 0) size = std::min(text.find(' '), text.size());
         }

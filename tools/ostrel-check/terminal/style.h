@@ -16,13 +16,27 @@ enum class Colour { kBold, kGreen, kRed };
 // painted gives the text in that colour, or as it is where there are to be none.
 std::string painted(std::string_view text, Colour colour, bool with_colours);
 
-// kColumns is the width that everything fits into that is not a value's own text.
+// kColumns is the width where no terminal has another one.
 inline constexpr std::size_t kColumns = 80;
 
-// append_wrapped adds a text in lines of at most kColumns, each after so many blanks, and all but the first after some
-// more.
-void append_wrapped(std::string& out, std::string_view text, std::size_t indentation,
-                    std::size_t hanging = 0);
+// kAnyWidth has nothing wrapped.
+inline constexpr std::size_t kAnyWidth = 0;
+
+// columns_of returns the width of a terminal, or otherwise what is said.
+std::size_t columns_of(int descriptor, std::size_t otherwise);
+
+// Look is how a page is shown.
+struct Look {
+    bool with_colours = false;
+    std::size_t columns = kColumns;
+};
+
+Look look_of(int descriptor);
+
+// append_wrapped adds a text in lines of at most so many columns, each after so many blanks, and all but the first after
+// some more.
+void append_wrapped(std::string& out, std::string_view text, std::size_t indentation, std::size_t hanging = 0,
+                    std::size_t columns = kColumns);
 
 }  // namespace ostrel::tool
 

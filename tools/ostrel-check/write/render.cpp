@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "terminal/style.h"
 #include "write/json_writer.h"
 #include "write/show.h"
 
@@ -13,7 +14,9 @@ namespace {
 constexpr std::size_t kLongestShown = 200;
 constexpr int kMostLinesShown = 8;
 
-constexpr std::string_view kIndentation = "                          ";
+// Where the verdict begins.
+constexpr std::size_t kIndentation = 9;
+constexpr std::size_t kHanging = 2;
 
 void append_padded(std::string& out, std::string_view text, std::size_t width, bool to_the_right)
 {
@@ -23,20 +26,20 @@ void append_padded(std::string& out, std::string_view text, std::size_t width, b
     if (!to_the_right) out += blanks;
 }
 
-// append_printed shows what was printed line by line, each behind a mark.
-void append_printed(std::string& out, std::string_view text, std::string_view mark)
+// append_printed shows what was printed line by line, each after a mark.
+void append_printed(std::string& out, std::string_view text, std::string_view mark, std::size_t columns)
 {
     for (int shown = 0; !text.empty(); ++shown) {
-        if (shown == kMostLinesShown) {
-            out.append(kIndentation).append(mark).append("...\n");
-            return;
-        }
+        std::string marked(mark);
         const std::string_view line = text.substr(0, text.find('\n'));
         text.remove_prefix(std::min(text.size(), line.size() + 1));
+        if (shown == kMostLinesShown) {
+            append_wrapped(out, marked.append("..."), kIndentation);
+            return;
+        }
         if (line.empty()) continue;
-        out.append(kIndentation).append(mark);
-        append_escaped(out, line, kLongestShown);
-        out += '\n';
+        append_escaped(marked, line, kLongestShown);
+        append_wrapped(out, marked, kIndentation, kHanging, columns);
     }
 }
 
@@ -55,60 +58,53 @@ void append_whose(std::string& out, const Result& result)
     if (has_name) out += ": ";
 }
 
-void append_meaning(std::string& out, std::string_view meaning, const Result& result)
-{
-    out.append(kIndentation).append(meaning);
-    const std::string& text = result.why.text;
-    if (!text.empty()) out.append(": ").append(text);
-    out += '\n';
-}
-
 }  // namespace
 
-void append_after(std::string& out, std::string_view indentation, const Result& result)
+void append_after(std::string& out, const Result& result, std::size_t indentation, std::size_t columns)
 {
     for (const catalogue::Written& written : result.after) {
-        out.append(indentation).append(written.argument->name).append(" after the call: ");
+        std::string line = std::string(written.argument->name).append(" after the call: ");
         const bool is_unwritten = written.argument->kind == catalogue::Kind::kIntegerOut &&
                                   std::holds_alternative<std::nullptr_t>(written.value);
         if (is_unwritten) {
-            out += "not written";
+            line += "not written";
         } else {
-            append_value(out, written.value, kLongestShown);
+            append_value(line, written.value, kLongestShown);
         }
-        out += '\n';
+        append_wrapped(out, line, indentation, kHanging, columns);
     }
 }
 
-void append_row(std::string& out, const Place& place, const Result& result)
+void append_row(std::string& out, const Style& style, const Place& place, const Result& result)
 {
-    append_padded(out, std::to_string(place.line), 7, true);
-    out += "  ";
-    append_padded(out, name_of(result.verdict), 9, false);
+    std::string row;
+    append_padded(row, std::to_string(place.line), 7, true);
+    row += "  ";
+    append_padded(row, name_of(result.verdict), 9, false);
     if (result.verdict == Verdict::kMalformed) {
-        out += "       ";
-        append_whose(out, result);
-        append_escaped(out, result.problem, kLongestShown);
-        out += '\n';
+        row += "       ";
+        append_whose(row, result);
+        append_escaped(row, result.problem, kLongestShown);
+        append_wrapped(out, row, 0, kIndentation + kHanging, style.columns);
         return;
     }
-    append_padded(out, has_code(result.verdict) ? std::to_string(result.code) : "", 6, true);
-    out += "  ";
-    append_whose(out, result);
-    out += result.function->name;
+    append_padded(row, has_code(result.verdict) ? std::to_string(result.code) : "", 6, true);
+    row += "  ";
+    append_whose(row, result);
+    row += result.function->name;
     for (const catalogue::Value& value : *result.values) {
-        out += ' ';
-        append_value(out, value, kLongestShown);
+        row += ' ';
+        append_value(row, value, kLongestShown);
     }
-    out += '\n';
-    if (result.verdict == Verdict::kRefused) {
-        append_meaning(out, catalogue::meaning(result.code), result);
-    } else if (!has_code(result.verdict)) {
-        append_meaning(out, result.problem, result);
+    append_wrapped(out, row, 0, kIndentation + kHanging, style.columns);
+    if (result.verdict == Verdict::kRefused || !has_code(result.verdict)) {
+        std::string meaning(has_code(result.verdict) ? catalogue::meaning(result.code) : result.problem);
+        if (!result.why.text.empty()) meaning.append(": ").append(result.why.text);
+        append_wrapped(out, meaning, kIndentation, kHanging, style.columns);
     }
-    append_printed(out, result.printed.out, "| ");
-    append_printed(out, result.printed.err, "! ");
-    append_after(out, kIndentation, result);
+    append_printed(out, result.printed.out, kLibrary, style.columns);
+    append_printed(out, result.printed.err, "library, to standard error: ", style.columns);
+    append_after(out, result, kIndentation, style.columns);
 }
 
 }  // namespace ostrel::tool

@@ -2,6 +2,7 @@
 #ifndef OSTREL_TOOLS_WRITE_RENDER_H
 #define OSTREL_TOOLS_WRITE_RENDER_H
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -23,6 +24,7 @@ struct Style {
     bool no_results = false;              // nothing is written at all
     bool redacts = false;                 // secret values are replaced by their length
     bool tries_known = false;             // also calls are made that are known not to return
+    std::size_t columns = 0;              // of the terminal that a table is for; 0: nothing is wrapped
     std::string driver_problem;  // why nobody stands in for the wireless driver as was asked for; or empty
 };
 
@@ -33,7 +35,7 @@ struct Place {
 };
 
 // append_row adds a result to a table.
-void append_row(std::string& out, const Place& place, const Result& result);
+void append_row(std::string& out, const Style& style, const Place& place, const Result& result);
 
 // append_json adds a line of JSON.
 void append_json(std::string& out, const Style& style, const Place& place, const Result& result);
@@ -43,7 +45,10 @@ void append_csv(std::string& out, const Style& style, const Place& place, const 
 std::string csv_header(const Style& style);
 
 // append_after adds a line for each argument that the check may have written to.
-void append_after(std::string& out, std::string_view indentation, const Result& result);
+void append_after(std::string& out, const Result& result, std::size_t indentation, std::size_t columns);
+
+// kLibrary precedes each line that the library itself printed.
+inline constexpr std::string_view kLibrary = "library: ";
 
 }  // namespace ostrel::tool
 

@@ -1,0 +1,18 @@
+// A batch of one case, for a verdict in JSON.
+#ifndef OSTREL_TOOLS_BATCH_ONE_CASE_H
+#define OSTREL_TOOLS_BATCH_ONE_CASE_H
+
+#include <span>
+#include <string>
+
+#include "batch/batch.h"
+#include "catalogue/catalogue.h"
+
+namespace ostrel::tool {
+
+// judge_in_json prints what batch --stream prints for the check and the words, and returns the exit code.
+int judge_in_json(const catalogue::Function& function, std::span<const std::string> words, Rules rules);
+
+}  // namespace ostrel::tool
+
+#endif

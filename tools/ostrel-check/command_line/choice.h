@@ -1,0 +1,45 @@
+// Options that take one of a few words. The words are the type that help, manual page and completion show.
+#ifndef OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
+#define OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace ostrel::tool {
+
+// kOr is between the words in the name of the type.
+inline constexpr char kOr = '|';
+
+// refuse_others has an option refuse what is none of the words.
+inline CLI::Option* refuse_others(CLI::Option* option, const std::vector<std::string>& words)
+{
+    return option->check([words](const std::string& given) {
+        if (std::ranges::find(words, given) != words.end()) return std::string();
+        return "\"" + given + "\" is not one of " + CLI::detail::join(words, ", ");
+    });
+}
+
+inline CLI::Option* choose_from(CLI::Option* option, const std::vector<std::string>& words)
+{
+    return refuse_others(option, words)->type_name(CLI::detail::join(words, std::string(1, kOr)));
+}
+
+// add_choice adds an option that stores what its word stands for; target must outlive the command.
+template <typename Target, typename Value>
+CLI::Option* add_choice(CLI::App& app, const char* name, Target& target,
+                        const std::vector<std::pair<std::string, Value>>& choices, const char* what)
+{
+    std::vector<std::string> words;
+    for (const auto& choice : choices) words.push_back(choice.first);
+    const auto store = [&target, choices](const std::string& given) {
+        target = std::ranges::find(choices, given, &std::pair<std::string, Value>::first)->second;
+    };
+    return choose_from(app.add_option_function<std::string>(name, store, what), words);
+}
+
+}  // namespace ostrel::tool
+
+#endif

@@ -1,0 +1,34 @@
+// Formatter: help as the command line has it; the parser knows nothing of NAME and VALUE.
+#ifndef OSTREL_TOOLS_COMMAND_LINE_FORMATTER_H
+#define OSTREL_TOOLS_COMMAND_LINE_FORMATTER_H
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <vector>
+
+namespace ostrel::tool {
+
+// commands_of returns the commands that help and completion show, in order.
+std::vector<const CLI::App*> commands_of(const CLI::App& app);
+
+// options_of returns the options that begin with "-".
+std::vector<const CLI::Option*> options_of(const CLI::App& app);
+
+// positionals_of returns the others.
+std::vector<const CLI::Option*> positionals_of(const CLI::App& app);
+
+// synopses_of returns the ways to call the program, a line each.
+std::vector<std::string> synopses_of(const CLI::App& app);
+
+// usage_of returns those lines as help begins with them.
+std::string usage_of(const CLI::App& app);
+
+class Formatter : public CLI::Formatter {
+ public:
+    std::string make_usage(const CLI::App* app, std::string name) const override;
+    std::string make_option_opts(const CLI::Option* option) const override;
+};
+
+}  // namespace ostrel::tool
+
+#endif
