@@ -32,8 +32,8 @@ template <typename Target, typename Value>
 CLI::Option* add_choice(CLI::App& app, const char* name, Target& target,
                         const std::vector<std::pair<std::string, Value>>& choices, const char* what)
 {
-    std::vector<std::string> words;
-    for (const auto& choice : choices) words.push_back(choice.first);
+    std::vector<std::string> words(choices.size());
+    std::ranges::transform(choices, words.begin(), &std::pair<std::string, Value>::first);
     const auto store = [&target, choices](const std::string& given) {
         target = std::ranges::find(choices, given, &std::pair<std::string, Value>::first)->second;
     };

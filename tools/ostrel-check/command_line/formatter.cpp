@@ -1,7 +1,5 @@
 #include "command_line/formatter.h"
 
-#include <string_view>
-
 namespace ostrel::tool {
 
 namespace {
