@@ -9,72 +9,28 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "batch/batch.h"
 #include "batch/one_case.h"
-#include "catalogue/names.h"
-#include "catalogue/texts.h"
-#include "command_line/complete.h"
+#include "command_line/complain.h"
 #include "command_line/formatter.h"
 #include "command_line/options.h"
-#include "explain/constraints.h"
-#include "explain/explain.h"
-#include "explain/schemas.h"
-#include "explain/select.h"
+#include "command_line/show_commands.h"
 #include "judge/driver.h"
 #include "judge/single.h"
 #include "map/map.h"
-#include "map/report.h"
 #include "map/unmapped.h"
 #include "read/words.h"
 #include "summary/summarise.h"
 #include "system/process.h"
-#include "terminal/pager.h"
 #include "terminal/style.h"
-#include "write/show.h"
 
 namespace ostrel::tool {
 
 namespace {
-
-constexpr std::string_view kAdviceOnNames =
-    "ostrel-check list WORD finds checks by a word of their names or rules.\n";
-
-int complain(std::string_view problem, std::string_view advice)
-{
-    std::string message = "ostrel-check: ";
-    append_escaped(message, problem, 2000);
-    say(message.append("\n").append(advice));
-    return kExitUsage;
-}
-
-int complain_of_usage(std::string_view problem)
-{
-    return complain(problem, "ostrel-check --help shows how to use it.\n");
-}
-
-// complain_of_name asks what was meant by a word that is neither a command nor a check.
-int complain_of_name(const CLI::App& app, const std::string& name)
-{
-    std::vector<std::string_view> names;
-    for (const CLI::App* command : commands_of(app)) names.emplace_back(command->get_name());
-    for (const catalogue::Function& function : catalogue::functions()) names.push_back(function.name);
-    return complain(
-        "there is no check and no command \"" + name + "\"" + catalogue::did_you_mean(name, names),
-        kAdviceOnNames);
-}
-
-// find_meant returns the check of that name. It says so where the name has another case.
-const catalogue::Function* find_meant(const std::string& name)
-{
-    const catalogue::Function* function = catalogue::find_in_any_case(name);
-    if (function != nullptr && function->name != name)
-        say("ostrel-check: \"" + name + "\" is taken as " + std::string(function->name) + "\n");
-    return function;
-}
 
 // rules_of returns what the options say of judging.
 Rules& rules_of(Options& options)
@@ -132,82 +88,6 @@ int run_batch_of(Options& options)
     rules.reading.map = &*map;
     rules.reading.split = &split;
     return run_batch(rules, closing, options.jobs);
-}
-
-int show_comparison(const Options& options)
-{
-    ReportFormat format = options.json ? ReportFormat::kJson : ReportFormat::kText;
-    if (options.markdown) format = ReportFormat::kMarkdown;
-    try {
-        write_all(STDOUT_FILENO, report_of(options.name, format));
-    } catch (const std::invalid_argument& error) {
-        return complain(error.what(), "ostrel-check list --schema map prints the schema of maps.\n");
-    }
-    return kExitAccepted;
-}
-
-std::string_view schema_of(std::string_view what)
-{
-    if (what == "map") return map_schema();
-    if (what == "result") return result_schema();
-    return what == "summary" ? summary_schema() : catalogue::schema();
-}
-
-int show_list(const Options& options)
-{
-    const Selection selection = select(options.family, options.patterns);
-    if (selection.empty()) {
-        std::string words;
-        for (const std::string& pattern : options.patterns) words += " " + pattern;
-        return complain("no check matches" + words, "ostrel-check list shows every check.\n");
-    }
-    if (options.json) {
-        write_all(STDOUT_FILENO, list_json(selection));
-    } else if (options.schema) {
-        write_all(STDOUT_FILENO, schema_of(*options.schema));
-    } else if (options.json_schema) {
-        write_all(STDOUT_FILENO, json_schema());
-    } else if (options.reference) {
-        write_all(STDOUT_FILENO, reference(selection));
-    } else if (options.hazards) {
-        write_all(STDOUT_FILENO, hazards_page());
-    } else {
-        show_page(list_checks(selection, look_of(STDOUT_FILENO)));
-    }
-    return kExitAccepted;
-}
-
-int show_explanation(const Options& options)
-{
-    const catalogue::Function* function = find_meant(options.name);
-    if (function == nullptr) return complain(catalogue::unknown_function(options.name), kAdviceOnNames);
-    if (options.json) {
-        write_all(STDOUT_FILENO, explain_json(*function));
-    } else {
-        show_page(explain(*function, look_of(STDOUT_FILENO)));
-    }
-    return kExitAccepted;
-}
-
-int show_candidates(const CLI::App& app, const Options& options)
-{
-    std::string text;
-    for (const Candidate& candidate : complete(app, options.words)) {
-        text += candidate.word;
-        if (options.described) text.append("\t").append(candidate.what);
-        text += '\n';
-    }
-    write_all(STDOUT_FILENO, text);
-    return kExitAccepted;
-}
-
-// show_help shows what was asked for: help or the version.
-int show_help(const CLI::App& app, const CLI::Success& success)
-{
-    std::ostringstream text;
-    app.exit(success, text);
-    write_all(STDOUT_FILENO, text.str());
-    return kExitAccepted;
 }
 
 int run(int argc, char** argv)

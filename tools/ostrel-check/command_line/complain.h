@@ -1,0 +1,29 @@
+// Complain: wrong usage, on standard error, with what to do about it.
+#ifndef OSTREL_TOOLS_COMMAND_LINE_COMPLAIN_H
+#define OSTREL_TOOLS_COMMAND_LINE_COMPLAIN_H
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <string_view>
+
+#include "catalogue/catalogue.h"
+
+namespace ostrel::tool {
+
+inline constexpr std::string_view kAdviceOnNames =
+    "ostrel-check list WORD finds checks by a word of their names or rules.\n";
+
+// complain says what is wrong, and returns the exit code. The advice is a line.
+int complain(std::string_view problem, std::string_view advice);
+
+int complain_of_usage(std::string_view problem);
+
+// complain_of_name asks what was meant by a word that is neither a command nor a check.
+int complain_of_name(const CLI::App& app, const std::string& name);
+
+// find_meant returns the check of that name, or NULL. It says so where the name has another case.
+const catalogue::Function* find_meant(const std::string& name);
+
+}  // namespace ostrel::tool
+
+#endif
