@@ -92,8 +92,9 @@ std::vector<Similar> names_like(std::string_view word, const std::vector<std::st
     std::vector<Similar> found;
     std::size_t fewest = most;
     const auto errors = [&](std::string_view other) {
-        const auto [shorter, longer] = std::minmax(word.size(), other.size());
-        return longer - shorter > most ? most + 1 : typing_errors(word, in_lower_case(other));
+        const std::size_t difference =
+            std::max(word.size(), other.size()) - std::min(word.size(), other.size());
+        return difference > most ? most + 1 : typing_errors(word, in_lower_case(other));
     };
     for (const std::string_view name : names) {
         std::size_t least = errors(name);
