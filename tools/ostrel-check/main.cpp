@@ -80,7 +80,7 @@ int run_batch_of(Options& options)
     if (options.map.empty()) return run_batch(rules, closing, options.jobs);
     std::optional<Map> map;
     try {
-        map = load_map(options.map);
+        map = load_map(options.map, rules.reading.encoding);
     } catch (const std::invalid_argument& error) {
         return complain(error.what(), "ostrel-check list --schema map prints the schema of maps.\n");
     }

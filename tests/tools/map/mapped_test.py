@@ -145,6 +145,20 @@ class Rows(unittest.TestCase):
                           ("refused", "too_long")])
         self.assertEqual((counted["skipped"], counted["unmapped"]["paths"]), (1, [{"path": "Other", "count": 1}]))
 
+    def test_texts_of_the_map_are_in_the_encoding_of_the_values(self):
+        parameters = [{"path": "A", "check": "TcmValidatePPPPassword", "words": {"ä": "Straße"}, "skip": ["ß"]},
+                      {"path": "B", "check": "LAN_check_dhcp_reserved_addr", "value": "lanAddress",
+                       "with": {"reservedList": {"constant": "ä"}}}]
+        rows = ["a,A,ä", "a,A,ß", "a,B,1"]
+        for encoding, verdict in (("utf-8", "refused"), ("latin-1", "accepted")):
+            results, counted, _ = self.judge(parameters, rows, "--encoding", encoding, "--with-args")
+            self.assertEqual(([["Straße"], ["ä", "1"]], verdict),
+                             ([one["args"] for one in results], results[0]["verdict"]))
+            self.assertEqual(counted["skipped"], 1)
+        parameters[0]["words"]["日"] = ""
+        _, _, error = self.judge(parameters, rows, "--encoding", "latin-1")
+        self.assertIn("/parameters/0/words/日: a text holds U+65E5, which Latin-1 does not have", error)
+
     def test_malformed_rows(self):
         parameters = [{"path": "Port", "check": "PARAM_check_port"}]
         results, _, _ = self.judge(parameters, ["a,Port,1", "a,Port", "a,Port,70000"])

@@ -93,6 +93,7 @@ void add_batch(CLI::App& app, Options& options)
     add_ending_options(batch, options.ending, options.rules);
     batch.add_option("--map", options.map, "Dumps of gateways, judged by this map")
         ->excludes(batch.get_option("--check"))
+        ->excludes(batch.get_option("--strict"))
         ->type_name("FILE");
     batch.add_option("--jobs", options.jobs, "Processes that judge side by side (1)")
         ->check(CLI::Range(1, 64).description(""))

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <set>
+#include <stdexcept>
 #include <utility>
 
 #include "catalogue/names.h"
@@ -30,7 +31,7 @@ bool is_number(const Argument& argument)
 
 class Loader {
  public:
-    explicit Loader(const std::string& file) : document_(file) {}
+    Loader(const std::string& file, Encoding encoding) : document_(file), encoding_(encoding) {}
 
     Map load()
     {
@@ -58,10 +59,22 @@ class Loader {
     }
 
  private:
+    // bytes_of is a text as values have it.
+    std::string bytes_of(const std::string& at, std::string_view text)
+    {
+        std::string bytes;
+        try {
+            encode(bytes, text, encoding_);
+        } catch (const std::invalid_argument& error) {
+            document_.complain(at, error.what());
+        }
+        return bytes;
+    }
+
     // argument_of takes a number as its digits.
     std::string argument_of(const std::string& at, const ordered_json& value)
     {
-        return value.is_number_integer() ? value.dump() : document_.text_of(at, value);
+        return value.is_number_integer() ? value.dump() : bytes_of(at, document_.text_of(at, value));
     }
 
     std::optional<WordTable> words(const std::string& at, const ordered_json& object)
@@ -70,8 +83,10 @@ class Loader {
         if (found == object.end()) return std::nullopt;
         if (!found->is_object()) document_.complain(at + "/words", "it is not an object");
         WordTable result;
-        for (const auto& [word, value] : found->items())
-            result.emplace(word, argument_of(at + "/words/" + word, value));
+        for (const auto& [word, value] : found->items()) {
+            const std::string place = at + "/words/" + word;
+            result.emplace(bytes_of(place, word), argument_of(place, value));
+        }
         return result;
     }
 
@@ -110,7 +125,8 @@ class Loader {
         entry.function = catalogue::find(name);
         if (entry.function == nullptr) document_.complain(at + "/check", catalogue::unknown_function(name));
         entry.because = document_.text(at, object, "because");
-        entry.skipped = document_.texts(at, object, "skip");
+        for (const std::string& text : document_.texts(at, object, "skip"))
+            entry.skipped.push_back(bytes_of(at + "/skip", text));
         entry.tried = document_.texts(at, object, "try");
         add_sources(at, object, entry);
         if (!known_.insert(entry.path.general() + "\n" + name).second)
@@ -223,6 +239,7 @@ class Loader {
     }
 
     Document document_;
+    Encoding encoding_;
     Map map_;
     std::set<std::string> known_;
     std::unordered_map<std::string, std::size_t> calls_;
@@ -230,6 +247,6 @@ class Loader {
 
 }  // namespace
 
-Map load_map(const std::string& file) { return Loader(file).load(); }
+Map load_map(const std::string& file, Encoding encoding) { return Loader(file, encoding).load(); }
 
 }  // namespace ostrel::tool

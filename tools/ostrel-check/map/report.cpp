@@ -227,7 +227,7 @@ std::string markdown_of(const Map& map, const std::vector<Comparison>& all)
 
 std::string report_of(const std::string& file, ReportFormat format)
 {
-    const Map map = load_map(file);
+    const Map map = load_map(file, Encoding::kUtf8);
     if (map.facts.empty())
         throw std::invalid_argument(file + ": it names no \"facts\", without which nothing can be compared");
     const Model model = read_facts(map.facts);
