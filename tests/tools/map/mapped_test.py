@@ -157,7 +157,18 @@ class Rows(unittest.TestCase):
             self.assertEqual(counted["skipped"], 1)
         parameters[0]["words"]["日"] = ""
         _, _, error = self.judge(parameters, rows, "--encoding", "latin-1")
-        self.assertIn("/parameters/0/words/日: a text holds U+65E5, which Latin-1 does not have", error)
+        self.assertIn("/parameters/0/words/\\xE6\\x97\\xA5: a text holds U+65E5, which Latin-1 does not have", error)
+
+    def test_the_first_bytes_tell_the_format(self):
+        gateway = {"id": 1, "A": {"Port": "1"}}
+        for text in (json.dumps(gateway), json.dumps(gateway, indent=1), json.dumps([gateway]), "path,value\nA.Port,1\n",
+                     json.dumps({"path": "A.Port", "value": 1})):
+            with tempfile.NamedTemporaryFile("w") as file:
+                json.dump({"parameters": [{"path": "A.Port", "check": "PARAM_check_port"}]}, file)
+                file.flush()
+                results, _, error = batch(text, map_file=file.name, code=0)
+            self.assertEqual([(one["parameter"] if "parameter" in one else one["path"], one["verdict"]) for one in results],
+                             [("A.Port", "accepted")], text)
 
     def test_malformed_rows(self):
         parameters = [{"path": "Port", "check": "PARAM_check_port"}]

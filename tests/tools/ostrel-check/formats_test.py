@@ -172,7 +172,9 @@ class Malformed(unittest.TestCase):
                               (text.encode("utf-16"), "the file is UTF-16"),
                               (text.encode("utf-16-le"), "the file is UTF-16"),
                               (text.encode("utf-16-be"), "the file is UTF-16"),
-                              (b"\xfe\xff" + text.encode("utf-16-be"), "the file is UTF-16")):
+                              (b"\xfe\xff" + text.encode("utf-16-be"), "the file is UTF-16"),
+                              (text.encode("utf-32"), "the file is UTF-32"),
+                              (b"\0\0\xfe\xff" + text.encode("utf-32-be"), "the file is UTF-32")):
             for options in ((), ("--format", "csv"), ("--format", "json"), ("--jobs", "3")):
                 rows = judged(data, *options)
                 self.assertEqual([("malformed", 1)], [(row["verdict"], row["line"]) for row in rows])
@@ -299,6 +301,12 @@ class Choice(unittest.TestCase):
                     rows = judged("", "--with-args", str(name))
                     self.assertEqual([("accepted", ["1"]), ("refused", ["x,y"])],
                                      [(row["verdict"], row["args"]) for row in rows], name)
+
+    def test_objects_that_go_on_after_their_brace(self):
+        for text in ("".join(json.dumps({"check": "PARAM_check_port", "args": [port]}, indent=2) + "\n" for port in "1x"),
+                     '\r\n {\t\r\n"check": "PARAM_check_port", "args": ["1"]}{"check": "PARAM_check_port", "args": ["x"]}'):
+            self.assertEqual(["accepted", "accepted"], [row["verdict"] for row in judged(text)])
+        self.assertEqual("accepted", judged('{ "check": "PARAM_check_port", "args": [1]}\nPARAM_check_port 1\n')[1]["verdict"])
 
     def test_given_over_name(self):
         with tempfile.NamedTemporaryFile(suffix=".csv", mode="w", encoding="utf-8") as file:

@@ -22,6 +22,7 @@ constexpr std::array<Ending, 7> kEndings = {{{".ndjson", FileFormat::kNdjson},
                                              {".words", FileFormat::kWords}}};
 
 constexpr std::string_view kUtf16 = "the file is UTF-16; convert it with iconv -f UTF-16 -t UTF-8";
+constexpr std::string_view kUtf32 = "the file is UTF-32; convert it with iconv -f UTF-32 -t UTF-8";
 
 // Front is how files of a kind begin.
 struct Front {
@@ -29,13 +30,17 @@ struct Front {
     std::string_view problem;
 };
 
-constexpr std::array<Front, 6> kFronts = {{
+using namespace std::string_view_literals;
+
+constexpr std::array<Front, 8> kFronts = {{
     {"\x1F\x8B", "the file is compressed with gzip; judge what gzip -cd writes"},
     {"\xFD"
      "7zXZ",
      "the file is compressed with xz; judge what xz -cd writes"},
     {"\x28\xB5\x2F\xFD", "the file is compressed with Zstandard; judge what zstd -cd writes"},
     {"PK\x03\x04", "the file is a ZIP archive, as those of spreadsheets are; export it as CSV"},
+    {"\xFF\xFE\0\0"sv, kUtf32},
+    {"\0\0\xFE\xFF"sv, kUtf32},
     {"\xFF\xFE", kUtf16},
     {"\xFE\xFF", kUtf16},
 }};
@@ -71,6 +76,12 @@ FileFormat format_of_bytes(std::string_view front, const Reading& reading)
     const std::size_t begin = front.find_first_not_of(" \t\r\n");
     if (begin != std::string_view::npos && front[begin] == '[') return FileFormat::kJson;
     const std::string_view line = front.substr(0, front.find('\n'));
+    if (begin != std::string_view::npos && front[begin] == '{') {
+        // An object that goes on after its opening brace is on no line of its own.
+        const std::size_t next = front.find_first_not_of(" \t\r", begin + 1);
+        if (next != std::string_view::npos && front[next] == '\n') return FileFormat::kJson;
+        return reading.map == nullptr ? FileFormat::kWords : FileFormat::kNdjson;
+    }
     if (is_header(line, '\t', reading)) return FileFormat::kTsv;
     return is_header(line, reading.delimiter.value_or(','), reading) ? FileFormat::kCsv : FileFormat::kWords;
 }
