@@ -22,7 +22,7 @@ GATEWAY = 20  # values
 # Of the program and of its workers, each on its own, however many values there are.
 MOST_MEMORY = 64 << 20
 
-FORMS = ("fleet.ndjson", "fleet.csv", "fleet-dump.csv", "fleet.json")
+FORMS = {"fleet.ndjson": "ndjson", "fleet.csv": "csv", "fleet-dump.csv": "csv", "fleet.json": "json"}
 LINE = re.compile(rb'"line":\d+,')
 
 
@@ -40,18 +40,35 @@ def options_of(name):
     return options + (["--group", "id"] if name == "fleet-dump.csv" else [])
 
 
-def pieces_of(name, text):
-    """pieces_of cuts a form after whole gateways and returns eight files."""
+def ends_row(name, line):
+    """ends_row tells that a row of a form ends with that line, or a gateway in nested JSON."""
     if name == "fleet.json":
-        gateways = re.split(rb"(?m)(?<=^}),\n", text.removeprefix(b"[\n").removesuffix(b"\n]\n"))
-        size = -(-len(gateways) // PIECES)
-        return [b"[" + b",\n".join(gateways[i * size:(i + 1) * size]) + b"]" for i in range(PIECES)]
-    is_csv = name.endswith(".csv")
-    end = b"\r\n" if is_csv else b"\n"  # a value may hold the latter
-    rows = [row + end for row in text.removesuffix(end).split(end)]
-    header = rows.pop(0) if is_csv else b""
-    size = -(-len(rows) // (PIECES * GATEWAY)) * GATEWAY
-    return [header + b"".join(rows[i * size:(i + 1) * size]) for i in range(PIECES)]
+        return line.startswith(b"}")
+    return line.endswith(b"\r\n") or not name.endswith(".csv")  # a value of CSV may hold the other end
+
+
+def write_pieces(name, whole, piece):
+    """write_pieces cuts a form after whole gateways and writes the pieces to files, the names of which it yields.
+
+    It keeps a line, for the memory of this process would count as that of the program.
+    """
+    gateways = -(-ROWS // (PIECES * GATEWAY))
+    is_tree = name == "fleet.json"
+    with open(whole, "rb") as lines:
+        header = next(lines) if is_tree or name.endswith(".csv") else b""
+        for number in range(PIECES):
+            rows = 0
+            with open(f"{piece}{number}", "wb") as file:
+                file.write(header)
+                while rows < gateways * (1 if is_tree else GATEWAY):
+                    line = next(lines, b"]\n")
+                    if line == b"]\n":
+                        break
+                    rows += ends_row(name, line)
+                    is_last = is_tree and line.startswith(b"}") and rows == gateways
+                    file.write(b"}\n" if is_last else line)
+                file.write(b"]\n" if is_tree else b"")
+            yield f"{piece}{number}"
 
 
 class Fleet(unittest.TestCase):
@@ -166,13 +183,9 @@ class Fleet(unittest.TestCase):
                 self.add_up(name)
 
     def add_up(self, name):
-        with open(self.path(name), "rb") as file:
-            pieces = pieces_of(name, file.read())
-        results = []
-        for i, text in enumerate(pieces):
-            with open(self.path("piece-" + name), "wb") as piece:
-                piece.write(text)
-            results.append(self.judge(f"piece{i}", self.path("piece-" + name), *options_of(name)))
+        pieces = write_pieces(name, self.path(name), self.path("piece-"))
+        results = [self.judge(f"piece{i}", piece, *options_of(name), "--format", FORMS[name])
+                   for i, piece in enumerate(pieces)]
         self.same(self.path(name + ".whole.summary"), self.summarise(*[result + ".summary" for result in results]))
         # Lines are numbered in the piece.
         with open(self.whole, "rb") as whole:
