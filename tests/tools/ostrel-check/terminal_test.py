@@ -22,8 +22,8 @@ COLOUR = re.compile(r"\x1b\[[0-9]*m")
 
 
 def at_terminal(*arguments, text=(), columns=80, keys=(), **environment):
-    """at_terminal runs the program at a terminal, types keys after as many seconds, and returns its status and all that
-    appears."""
+    """at_terminal runs the program at a terminal, types each of the keys when what belongs to it has appeared, and returns
+    its status and all that appears."""
     # The program starts when the terminal has its width.
     start, starting = os.pipe()
     child, terminal = pty.fork()
@@ -53,10 +53,8 @@ def at_terminal(*arguments, text=(), columns=80, keys=(), **environment):
     fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 24, columns, 0, 0))
     os.write(starting, b"s")
     os.close(starting)
-    for seconds, key in keys:
-        time.sleep(seconds)
-        os.write(terminal, key.encode())
     shown = b""
+    waiting = list(keys)
     while True:
         try:
             part = os.read(terminal, 65536)
@@ -65,6 +63,8 @@ def at_terminal(*arguments, text=(), columns=80, keys=(), **environment):
         if not part:
             break
         shown += part
+        while waiting and waiting[0][0].encode() in shown:
+            os.write(terminal, waiting.pop(0)[1].encode())
     os.close(terminal)
     return os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]), shown.decode("latin-1").replace("\r\n", "\n")
 
@@ -218,7 +218,7 @@ class Pager(unittest.TestCase):
 
 class Waiting(unittest.TestCase):
     def test_batch_says_what_it_waits_for(self):
-        shown = at_terminal("batch", keys=[(1.0, "PARAM_check_port 80\n"), (0.5, "\x04")])[1]
+        shown = at_terminal("batch", keys=[("ends them.", "PARAM_check_port 80\n"), ("accepted", "\x04")])[1]
         self.assertTrue(shown.startswith("Reading cases from the terminal: NAME VALUE... on each line; Ctrl-D ends them.\n"),
                         shown)
         self.assertIn("1 case: 1 accepted, 0 refused\n", shown)
@@ -226,7 +226,7 @@ class Waiting(unittest.TestCase):
 
     def test_an_interrupted_batch_leaves_no_half_line(self):
         slow = ["PARAM_check_port 1\n", 1.6, "PARAM_check_port 70000\n", 60.0]
-        status, shown = at_terminal("batch", text=slow, keys=[(3.0, "\x03")])
+        status, shown = at_terminal("batch", text=slow, keys=[("between 0~65535", "\x03")])
         self.assertEqual(130, status)
         # What the terminal shows after it has done what is written for it.
         lines = [re.split(r"\r(?:\x1b\[K)?", line)[-1].replace("\x1b[K", "") for line in COLOUR.sub("", shown).split("\n")]
