@@ -110,6 +110,15 @@ class Rows(unittest.TestCase):
                                 ("c", "accepted", None)])
         self.assertEqual(counted["split_gateways"], 1)
 
+    def test_gateways_that_are_not_told_apart(self):
+        pool = [{"path": "Start", "check": "TIME_check_sync_daylight_saving_time", "value": "start",
+                 "with": {"end": {"path": "End"}}}]
+        rows = ["a,Start,x", "a,End,", "b,Start,", "b,End,", "c,Start,x", "c,End,y"]
+        results, counted, _ = self.judge(pool, rows)
+        self.assertEqual((1, 2), (len(results), counted["repeated"]))
+        results, counted, _ = self.judge(pool, rows, "--group", "gateway")
+        self.assertEqual((3, 0), (len(results), counted["repeated"]))
+
     def test_a_file_is_a_gateway(self):
         pool = [{"path": "Pool.{i}.Start", "check": "TIME_check_sync_daylight_saving_time", "value": "start",
                  "with": {"end": {"path": "Pool.{i}.End"}}}]

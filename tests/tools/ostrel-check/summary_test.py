@@ -22,7 +22,7 @@ def summary_of(lines, *options):
     return json.loads(run("batch", "--summary-only", "--summary", "json", *options, text=lines).stdout)
 
 
-DUMPS = {"gateways": 1, "parameters": 1, "skipped": 0, "split_gateways": 0,
+DUMPS = {"gateways": 1, "parameters": 1, "skipped": 0, "repeated": 0, "split_gateways": 0,
          "unmapped": {"parameters": 0, "paths": []}}
 
 
@@ -119,7 +119,7 @@ class Sum(unittest.TestCase):
             paths = [{"path": f"p{number}", "count": 1 + number % 3} for number in random.sample(range(20000), 9000)]
             paths[0]["because"] = "it says nothing"
             count = sum(path["count"] for path in paths)
-            pieces.append(self.mapped({"gateways": 2, "parameters": count + 5, "skipped": 1, "split_gateways": 0,
+            pieces.append(self.mapped({"gateways": 2, "parameters": count + 5, "skipped": 1, "repeated": 2, "split_gateways": 0,
                                        "unmapped": {"parameters": count, "paths": paths}}))
         added = json.loads(self.summarise(*pieces).stdout)
         random.shuffle(pieces)
@@ -129,8 +129,8 @@ class Sum(unittest.TestCase):
         given = {}
         for path in (path for piece in pieces for path in json.loads(piece)["map"]["unmapped"]["paths"]):
             given[path["path"]] = given.get(path["path"], 0) + path["count"]
-        self.assertEqual((16, 8, sum(given.values()), sum(given.values()) + 40),
-                         (dumps["gateways"], dumps["skipped"], dumps["unmapped"]["parameters"], dumps["parameters"]))
+        self.assertEqual((16, 8, 16, sum(given.values()), sum(given.values()) + 40),
+                         (dumps["gateways"], dumps["skipped"], dumps["repeated"], dumps["unmapped"]["parameters"], dumps["parameters"]))
         self.assertEqual({name: given[name] for name in sorted(given)[:10000]},
                          {path["path"]: path["count"] for path in dumps["unmapped"]["paths"]})
         text = self.summarise(*pieces, options=()).stdout

@@ -201,7 +201,8 @@ class Batch {
         summary_.add_unreadable_files(input_.unreadable_files());
         if (const SplitGateways* split = rules_->reading.split; split != nullptr) {
             summary_.unmapped().use_map();
-            summary_.unmapped().add_split(split->count(), split->first());
+            summary_.unmapped().add({0, 0, 0, 0, split->count()});
+            summary_.unmapped().note_split(split->first());
             if (!closing_->has_summary) say(summary_.unmapped().text());
         }
         return write_summary(*closing_, summary_, error_ == 0 && is_followed_by_summary());

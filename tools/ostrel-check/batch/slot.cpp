@@ -171,8 +171,9 @@ std::uint32_t Slot::count(std::size_t written, Summary& summary)
     std::vector<std::uint64_t> counts(size.rows);
     for (const Log::Entry& entry : std::span(log.entries).first(done)) {
         if (entry.row != Log::kNoRow) ++counts[entry.row];
-        if (entry.gateway.parameters > 0)
-            summary.unmapped().add_gateways(1, entry.gateway.parameters, entry.gateway.skipped);
+        const GatewayCounts& gateway = entry.gateway;
+        if (gateway.parameters > 0)
+            summary.unmapped().add({1, gateway.parameters, gateway.skipped, gateway.repeated, 0});
     }
     std::size_t next = 0;
     for_each_row(log, size, [&](const Row& row) {

@@ -62,7 +62,7 @@ void Mapper::take(const Row& row)
     next_entry_ = 0;
     ++counts_.parameters;
     const bool is_sibling = is_known && found->second.is_sibling;
-    if (is_sibling) values_.insert_or_assign(keep(row.path), keep(row.value));
+    if (is_sibling && !values_.insert_or_assign(keep(row.path), keep(row.value)).second) ++counts_.repeated;
     use_ = is_sibling ? Use::kSibling : Use::kNone;
 }
 

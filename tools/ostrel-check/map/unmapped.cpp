@@ -13,11 +13,6 @@ namespace {
 
 constexpr std::size_t kLongestShown = 1000;
 
-std::string counted(std::uint64_t number, std::string_view one, std::string_view many)
-{
-    return std::to_string(number).append(" ").append(number == 1 ? one : many);
-}
-
 }  // namespace
 
 std::string_view why_unmapped(const Map& map, std::string_view path)
@@ -36,11 +31,13 @@ void SplitGateways::begin(std::string_view gateway)
     if (has_returned && count_++ == 0) first_ = gateway;
 }
 
-void Unmapped::add_gateways(std::uint64_t gateways, std::uint64_t parameters, std::uint64_t skipped)
+void Unmapped::add(const DumpCounts& counts)
 {
-    gateways_ += gateways;
-    parameters_ += parameters;
-    skipped_ += skipped;
+    counts_.gateways += counts.gateways;
+    counts_.parameters += counts.parameters;
+    counts_.skipped += counts.skipped;
+    counts_.repeated += counts.repeated;
+    counts_.split += counts.split;
 }
 
 void Unmapped::add(std::string_view path, std::uint64_t count, std::string_view because)
@@ -62,19 +59,19 @@ void Unmapped::add(std::string_view path, std::uint64_t count, std::string_view 
     paths_.erase(last);
 }
 
-void Unmapped::add_split(std::uint64_t count, std::string_view first)
+// note_split names one of the gateways whose rows are not together.
+void Unmapped::note_split(std::string_view first)
 {
-    split_ += count;
     if (first_split_.empty()) first_split_ = first;
 }
 
 void Unmapped::add(const Unmapped& other)
 {
     has_map_ = has_map_ || other.has_map_;
-    add_gateways(other.gateways_, other.parameters_, other.skipped_);
+    add(other.counts_);
     for (const auto& [path, of_path] : other.paths_) add(path, of_path.count, of_path.because);
     add_others(other.others_);
-    add_split(other.split_, other.first_split_);
+    note_split(other.first_split_);
 }
 
 // sorted has the most frequent paths first.
@@ -95,8 +92,8 @@ std::uint64_t Unmapped::count() const
 
 std::string Unmapped::text() const
 {
-    std::string text =
-        counted(parameters_, "parameter of ", "parameters of ") + counted(gateways_, "gateway", "gateways");
+    std::string text = counted(counts_.parameters, "parameter of ", "parameters of ") +
+                       counted(counts_.gateways, "gateway", "gateways");
     const std::uint64_t unmapped = count();
     if (unmapped > 0) text += "; no check is known for " + std::to_string(unmapped) + ":";
     text += '\n';
@@ -108,9 +105,16 @@ std::string Unmapped::text() const
         text += '\n';
     }
     if (others_ > 0) text += std::to_string(others_) + " of other paths\n";
-    if (skipped_ > 0) text += std::to_string(skipped_) + " were skipped, because the value says nothing\n";
-    if (split_ == 0) return text;
-    text += "The rows of " + counted(split_, "gateway", "gateways") + " are not together";
+    if (counts_.skipped > 0)
+        text += std::to_string(counts_.skipped) + " were skipped, because the value says nothing\n";
+    if (counts_.repeated > 0) {
+        text +=
+            std::to_string(counts_.repeated) +
+            " came again in the same gateway, and calls that need them were made with the last value alone; "
+            "--group tells the gateways of a file apart\n";
+    }
+    if (counts_.split == 0) return text;
+    text += "The rows of " + counted(counts_.split, "gateway", "gateways") + " are not together";
     if (!first_split_.empty()) {
         text += ", such as those of \"";
         append_escaped(text, first_split_, kLongestShown);
@@ -128,10 +132,11 @@ nlohmann::ordered_json Unmapped::json() const
         if (!row->second.because.empty()) path["because"] = row->second.because;
         paths.push_back(std::move(path));
     }
-    return {{"gateways", gateways_},
-            {"parameters", parameters_},
-            {"skipped", skipped_},
-            {"split_gateways", split_},
+    return {{"gateways", counts_.gateways},
+            {"parameters", counts_.parameters},
+            {"skipped", counts_.skipped},
+            {"repeated", counts_.repeated},
+            {"split_gateways", counts_.split},
             {"unmapped", {{"parameters", count()}, {"paths", std::move(paths)}}}};
 }
 

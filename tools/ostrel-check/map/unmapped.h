@@ -34,6 +34,15 @@ class SplitGateways {
     std::array<std::size_t, 4096> known_{};  // hashes of gateways, by their last bits
 };
 
+// DumpCounts is of gateways and their parameters.
+struct DumpCounts {
+    std::uint64_t gateways = 0;
+    std::uint64_t parameters = 0;
+    std::uint64_t skipped = 0;
+    std::uint64_t repeated = 0;
+    std::uint64_t split = 0;
+};
+
 // Unmapped has at most so many paths, the first ones in the order of their bytes; parameters of others are counted
 // together, also when they come again. So the sum of those of pieces is that of the whole.
 class Unmapped {
@@ -44,10 +53,10 @@ class Unmapped {
     [[nodiscard]] bool has_map() const { return has_map_; }
     void use_map() { has_map_ = true; }
 
-    void add_gateways(std::uint64_t gateways, std::uint64_t parameters, std::uint64_t skipped);
+    void add(const DumpCounts& counts);
     void add(std::string_view path, std::uint64_t count, std::string_view because);
     void add_others(std::uint64_t count) { others_ += count; }
-    void add_split(std::uint64_t count, std::string_view first);
+    void note_split(std::string_view first);
     void add(const Unmapped& other);
 
     // text says what was counted, a line each; json is the same as an object.
@@ -65,10 +74,7 @@ class Unmapped {
     [[nodiscard]] std::uint64_t count() const;
 
     bool has_map_ = false;
-    std::uint64_t gateways_ = 0;
-    std::uint64_t parameters_ = 0;
-    std::uint64_t skipped_ = 0;
-    std::uint64_t split_ = 0;
+    DumpCounts counts_;
     std::string first_split_;
     Paths paths_;
     std::uint64_t others_ = 0;

@@ -35,6 +35,7 @@ struct Member {
 struct GatewayCounts {
     std::uint32_t parameters = 0;  // all of them
     std::uint32_t skipped = 0;     // because the map says that their values say nothing
+    std::uint32_t repeated = 0;    // siblings that came before, the values of which are lost
 };
 
 // Record is filled again and again. Its views belong to the reader and to the text that was read, and hold until

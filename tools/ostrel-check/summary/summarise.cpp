@@ -103,9 +103,8 @@ void read_map(Unmapped& unmapped, const ordered_json& given)
         !(*found)["paths"].is_array())
         refuse("\"map\" does not list what is unmapped");
     unmapped.use_map();
-    unmapped.add_gateways(number_of(given, "gateways"), number_of(given, "parameters"),
-                          number_of(given, "skipped"));
-    unmapped.add_split(number_of(given, "split_gateways"), "");
+    unmapped.add({number_of(given, "gateways"), number_of(given, "parameters"), number_of(given, "skipped"),
+                  number_of(given, "repeated"), number_of(given, "split_gateways")});
     std::uint64_t others = number_of(*found, "parameters");
     for (const ordered_json& row : (*found)["paths"]) {
         if (!row.is_object()) refuse("a path is not an object");

@@ -129,11 +129,6 @@ ordered_json rows_json(const Summary& summary)
     return rows;
 }
 
-std::string counted(std::uint64_t number, std::string_view one, std::string_view many)
-{
-    return std::to_string(number).append(" ").append(number == 1 ? one : many);
-}
-
 std::uint64_t cases(const Tally& tally) { return tally.sum() - tally.of(Verdict::kMalformed); }
 
 }  // namespace

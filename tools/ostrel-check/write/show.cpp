@@ -94,4 +94,9 @@ void append_value(std::string& out, const Value& value, std::size_t limit)
     }
 }
 
+std::string counted(std::uint64_t number, std::string_view one, std::string_view many)
+{
+    return std::to_string(number).append(" ").append(number == 1 ? one : many);
+}
+
 }  // namespace ostrel::tool

@@ -3,6 +3,7 @@
 #define OSTREL_TOOLS_WRITE_SHOW_H
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,9 @@ void append_word(std::string& out, std::string_view text, std::size_t limit);
 
 // append_value shows an argument as words.
 void append_value(std::string& out, const catalogue::Value& value, std::size_t limit);
+
+// counted is a number with its noun.
+std::string counted(std::uint64_t number, std::string_view one, std::string_view many);
 
 using rules::append_json_text;
 
