@@ -134,6 +134,21 @@ class Interruption(Cases):
         table = batch("--start-line", "9", one, two).stdout.decode()
         self.assertTrue(table.startswith(two + ":\n      1  accepted"), table)
 
+    def test_pieces_have_the_numbers_of_the_whole(self):
+        with open(self.cases, "rb") as file:
+            lines = file.readlines()
+        one, two = (os.path.join(self.folder, name) for name in "ab")
+        for name, part in (one, lines[:50000]), (two, lines[50000:]):
+            with open(name, "wb") as file:
+                file.writelines(part)
+        whole = batch("--stream", self.cases).stdout
+        second = batch("--stream", "--number-lines-from", "50001", two).stdout
+        self.assertTrue(whole == batch("--stream", one).stdout + second)
+        rest = batch("--stream", "--number-lines-from", "50001", "--start-line", "50003", two).stdout
+        self.assertTrue(second.split(b"\n", 2)[2] == rest)
+        rows = batch("--json", "--number-lines-from", "50001", two, one).stdout.splitlines()[:-1]
+        self.assertEqual({one: 1, two: 50001}, {row["file"]: row["line"] for row in map(json.loads, reversed(rows))})
+
 
 class FullDisk(Cases):
     def assert_goes_on(self, output, *options, room):

@@ -23,7 +23,7 @@ class Batch {
     Batch(const Rules& rules, const Closing& closing, unsigned jobs)
         : rules_(&rules),
           closing_(&closing),
-          input_(rules.files, rules.reading),
+          input_(rules.files, rules.reading, rules.first_number),
           line_(rules.start_line),
           meter_(size_of(rules.files))
     {

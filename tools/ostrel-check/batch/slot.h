@@ -24,7 +24,8 @@ struct Rules {
     Reading reading;
     double limit = 2;  // seconds that a call may take
     std::vector<std::string> files;
-    std::uint64_t start_line = 1;  // of the first file, with which the batch begins
+    std::uint64_t start_line = 1;    // of the first file, with which the batch begins
+    std::uint64_t first_number = 1;  // that of the first file's first line
 };
 
 // Taken is what became of the results that were to be written out.

@@ -36,6 +36,9 @@ void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules)
     batch.add_option("--start-line", rules.start_line, "Line of the first file to begin with (1)")
         ->check(CLI::Range(std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max()).description(""))
         ->type_name("N");
+    batch.add_option("--number-lines-from", rules.first_number, "Number of the first file's first line (1)")
+        ->check(CLI::Range(std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max()).description(""))
+        ->type_name("N");
 }
 
 void add_summarise_options(CLI::App& summarise, EndingOptions& options)

@@ -16,8 +16,8 @@
 
 namespace ostrel::tool {
 
-Input::Input(const std::vector<std::string>& files, const Reading& reading)
-    : files_(&files), reading_(&reading), buffer_(kChunk)
+Input::Input(const std::vector<std::string>& files, const Reading& reading, std::uint64_t first_number)
+    : files_(&files), reading_(&reading), first_number_(first_number), buffer_(kChunk)
 {
 }
 
@@ -42,7 +42,7 @@ bool Input::open_file()
     file_ = Descriptor(number);
     cutter_.reset();
     preamble_.clear();
-    line_ = 1;
+    line_ = next_ == 1 ? first_number_ : 1;
     starts_file_ = true;
     is_file_read_ = false;
     taken_ = 0;
@@ -99,7 +99,7 @@ bool Input::begin_file()
     format_ = by_name ? *by_name : format_of_bytes(rest(), *reading_);
     cutter_ = make_cutter(format_, *reading_);
     problem_ = why_not_text(rest());
-    problem_line_ = 1;
+    problem_line_ = line_;
     ends_file_ = !problem_.empty();
     return true;
 }

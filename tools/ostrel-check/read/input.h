@@ -30,8 +30,9 @@ struct Chunk {
 
 class Input {
  public:
-    // The files are named as the user names them; "-" is standard input.
-    Input(const std::vector<std::string>& files, const Reading& reading);
+    // The files are named as the user names them; "-" is standard input. The lines of the first one are numbered from
+    // first_number.
+    Input(const std::vector<std::string>& files, const Reading& reading, std::uint64_t first_number);
 
     // is_at_end tells that every file has been read. It opens the next file where one has ended, and says on
     // standard error what cannot be read.
@@ -63,6 +64,7 @@ class Input {
 
     const std::vector<std::string>* files_;
     const Reading* reading_;
+    std::uint64_t first_number_;
     std::size_t next_ = 0;  // of the files: the one after that which is open
     Descriptor file_;
     FileFormat format_ = FileFormat::kWords;
