@@ -1,0 +1,108 @@
+"""The parts of a run on Dask: what may judge, who judges what, and what came of it."""
+# Most of Dask has no types.
+# mypy: allow-untyped-calls
+
+import asyncio
+import concurrent.futures
+import contextlib
+import functools
+import logging
+import os
+import queue
+from collections.abc import Callable, Iterator, Sequence
+
+import distributed
+import ostrel_part
+import ostrel_program
+from distributed import Client, Future, LocalCluster
+from distributed.diagnostics.plugin import UploadFile
+from ostrel_part import Job, Outcome, Part
+from progress import Failed
+
+_SECONDS_TO_CONNECT = 10
+_SECONDS_BETWEEN_LOOKS = 0.2
+
+
+@contextlib.contextmanager
+def connect(address: str | None, jobs: int) -> Iterator[Client]:
+    """connect reaches a scheduler, or begins a cluster of this process alone: what judges are processes anyway."""
+    # A timer of a cluster that is closed complains to nobody.
+    logging.getLogger("asyncio").setLevel(logging.CRITICAL)
+    if address is None:
+        with LocalCluster(n_workers=1, threads_per_worker=jobs, processes=False, memory_limit=0,
+                          dashboard_address="127.0.0.1:0") as cluster, Client(cluster) as client:
+            yield client
+        return
+    try:
+        client = Client(address, timeout=_SECONDS_TO_CONNECT)
+    except (OSError, ValueError) as error:
+        raise Failed(f"the scheduler at {address} cannot be reached: {error}") from error
+    try:
+        for module in ostrel_program, ostrel_part:
+            client.register_worker_plugin(UploadFile(module.__file__), module.__name__)
+        yield client
+    finally:
+        client.close(timeout=2)
+
+
+def require_program(client: Client, job: Job) -> None:
+    """require_program asks each worker for its program, before anything is judged."""
+    try:
+        client.wait_for_workers(1, timeout=_SECONDS_TO_CONNECT)
+    except (TimeoutError, asyncio.TimeoutError) as error:
+        raise Failed("the scheduler has no worker") from error
+    answers = client.run(ostrel_program.identity_of, job.program, on_error="return")
+    wrong = [f"{address}: " + (str(answer) if isinstance(answer, Exception) else
+                               f"{job.program} is {answer}, and not {job.identity}")
+             for address, answer in sorted(answers.items()) if answer != job.identity]
+    if wrong:
+        raise Failed("\n".join(wrong))
+
+
+def judge_all(client: Client, job: Job, parts: Sequence[Part], tell: Callable[[Part, Outcome], None],
+              look: Callable[[int], None]) -> None:
+    """judge_all judges the parts, tells what becomes of each, and lets look be called in between."""
+    keys = {f"judge-{part.name}-{os.path.basename(part.file)}-{job.number}": part for part in parts}
+    finished: queue.SimpleQueue[Future] = queue.SimpleQueue()
+    futures = client.map(functools.partial(ostrel_part.judge, job), parts, key=list(keys), pure=False)
+    try:
+        for future in futures:
+            future.add_done_callback(finished.put)
+        while keys:
+            try:
+                future = finished.get(timeout=_SECONDS_BETWEEN_LOOKS)
+            except queue.Empty:
+                look(len(client.scheduler_info()["workers"]))
+                if client.status != "running":
+                    raise Failed("the scheduler is lost") from None
+                continue
+            part = keys.pop(future.key)
+            outcome = _outcome_of(future, part)
+            tell(part, outcome)
+            if outcome.kind == "stop":
+                raise Failed(outcome.problem)
+            future.release()
+    except BaseException:
+        _stop(client, job, futures)
+        raise
+
+
+def _outcome_of(future: Future, part: Part) -> Outcome:
+    if future.cancelled():
+        raise Failed("the scheduler is lost")
+    try:
+        outcome = future.result()
+    except (asyncio.CancelledError, concurrent.futures.CancelledError) as error:
+        raise Failed("the scheduler is lost") from error
+    except distributed.scheduler.KilledWorker as error:
+        return Outcome("missing", f"{part.file}: each worker that judged it died, {error.last_worker} the last")
+    except Exception as error:
+        return Outcome("missing", f"{part.file}: {type(error).__name__}: {error}")
+    return Outcome(**outcome)
+
+
+def _stop(client: Client, job: Job, futures: Sequence[Future]) -> None:
+    """_stop leaves no part running: workers outlive the run, and what they do not finish is to be removed."""
+    with contextlib.suppress(Exception):
+        client.cancel(futures)
+        client.run(ostrel_program.abandon, job.number, on_error="ignore")

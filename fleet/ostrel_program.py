@@ -1,0 +1,108 @@
+"""The program ostrel-check where a part is judged: which one it is, a batch of it, and what ends those of a run that was
+interrupted. The runner sends this module to the workers, so it needs nothing but Python's own library."""
+
+import asyncio
+import contextlib
+import functools
+import hashlib
+import os
+import shutil
+import subprocess
+import tempfile
+import threading
+from collections.abc import Callable, Sequence
+from typing import IO, BinaryIO
+
+_PIPE = 1 << 20
+
+
+class Stopped(Exception):
+    """Stopped: nothing can be judged here."""
+
+
+def output_of(program: str, *arguments: str) -> bytes:
+    try:
+        result = subprocess.run([program, *arguments], stdin=subprocess.DEVNULL, capture_output=True, check=False)
+    except OSError as error:
+        raise Stopped(f"{program} cannot be run: {error.strerror}") from error
+    if result.returncode != 0:
+        said = result.stderr.decode("utf-8", "replace").strip()
+        raise Stopped(f"{program} {' '.join(arguments)} ended with status {result.returncode}: {said}")
+    return result.stdout
+
+
+@functools.lru_cache
+def _identity(program: str, _state: tuple[int, int]) -> str:
+    catalogue = hashlib.sha256(output_of(program, "list", "--json")).hexdigest()
+    return f"{output_of(program, '--version').decode().strip()} with the catalogue {catalogue[:12]}"
+
+
+def identity_of(program: str) -> str:
+    """identity_of returns the version of the program, and a sum of its catalogue: programs that were built for other
+    models and realms have the same version."""
+    found = shutil.which(program)
+    if found is None:
+        raise Stopped(f"there is no program {program}")
+    status = os.stat(found)
+    return _identity(found, (status.st_size, status.st_mtime_ns))
+
+
+def require_identity(program: str, wanted: str) -> None:
+    identity = identity_of(program)
+    if identity != wanted:
+        raise Stopped(f"{program} is {identity}, and not {wanted}")
+
+
+# The programs that run here, with the numbers of their runs, and the runs that are to start no other. They are kept when
+# the module is loaded again, which each start of the runner makes the workers do.
+_running: dict[subprocess.Popen[bytes], str] = globals().get("_running", {})
+_stopped: set[str] = globals().get("_stopped", set())
+_lock: threading.Lock = globals().get("_lock", threading.Lock())
+
+
+async def abandon(number: str) -> None:
+    """abandon ends what a run judges here, and returns when that has ended."""
+    with _lock:
+        _stopped.add(number)
+        for child in [child for child, its_number in _running.items() if its_number == number]:
+            child.kill()
+    for _ in range(100):
+        if number in _running.values():
+            await asyncio.sleep(0.05)
+
+
+def judge(number: str, words: Sequence[str], out: BinaryIO, send: Callable[[int], None]) -> tuple[str, str]:
+    """judge lets a program judge what send writes to its pipe, and returns what it said, and the summary."""
+    with tempfile.TemporaryFile() as complaints:
+        child = _start(number, words, out, complaints)
+        try:
+            assert child.stdin is not None
+            with child.stdin as pipe, contextlib.suppress(BrokenPipeError):  # its status says why it has ended
+                send(pipe.fileno())
+        except BaseException:
+            child.kill()
+            raise
+        finally:
+            status = child.wait()
+            with _lock:
+                del _running[child]
+        complaints.seek(0)
+        said, _, summary = complaints.read().decode("utf-8", "replace").strip().rpartition("\n")
+    if number in _stopped:
+        raise Stopped("the run was interrupted")
+    if status != 0:
+        raise Stopped(f"ostrel-check ended with status {status}: {said} {summary}")
+    return said, summary + "\n"
+
+
+def _start(number: str, words: Sequence[str], out: BinaryIO, complaints: IO[bytes]) -> subprocess.Popen[bytes]:
+    """_start gives the program a pipe, and not the file: when this process is killed, the pipe ends, and with it the
+    program. In a process group of its own, it does not get the interrupt of a terminal."""
+    words = [*words, "--stream", "--exit-zero", "--summary", "json"]
+    with _lock:
+        if number in _stopped:
+            raise Stopped("the run was interrupted")
+        child = subprocess.Popen(words, stdin=subprocess.PIPE, stdout=out, stderr=complaints, pipesize=_PIPE,
+                                 process_group=0)
+        _running[child] = number
+    return child

@@ -1,0 +1,165 @@
+"""What the tests of the runner share. The arguments of each are OSTREL_CHECK and SOURCE_DIR."""
+
+import contextlib
+import json
+import os
+import pathlib
+import signal
+import socket
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+PROGRAM, SOURCE = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
+RUNNER = SOURCE / "fleet" / "ostrel-fleet"
+PATH = f"{PROGRAM.parent}:/usr/bin:/bin"
+ENVIRONMENT = {**os.environ, "PATH": PATH, "PYTHONDONTWRITEBYTECODE": "1"}
+
+# A program that does not begin to read a part, so that something can happen to it in the meantime.
+SLOW = f"""#!/bin/sh
+[ "$1" != batch ] || [ ! -p /dev/stdin ] || while [ -e "$SLOW_WHILE" ]; do sleep 0.02; done
+exec {PROGRAM} "$@"
+"""
+
+
+def wait_until(condition, seconds=60):
+    end = time.monotonic() + seconds
+    while not (value := condition()):
+        if time.monotonic() > end:
+            raise AssertionError("it did not come to pass")
+        time.sleep(0.02)
+    return value
+
+
+class Processes(unittest.TestCase):
+    """Processes is a test with a folder, and processes that end with it."""
+
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.scratch = pathlib.Path(scratch.name)
+
+    def start(self, *words, **options):
+        process = subprocess.Popen(list(map(str, words)), stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                   stderr=subprocess.STDOUT, text=True, **{"env": ENVIRONMENT, **options})
+        self.addCleanup(self.end, process)
+        return process
+
+    def end(self, process):
+        process.kill()
+        process.communicate()
+
+
+class Folder(Processes):
+    """Folder is a test with files of cases, and a folder for results."""
+
+    PARTS = 4
+    ROWS = 300
+
+    def setUp(self):
+        super().setUp()
+        self.out = self.scratch / "out"
+        self.hold = self.scratch / "hold"
+        self.files = [self.make(number) for number in range(self.PARTS)]
+
+    def make(self, number):
+        path = self.scratch / f"cases {number}.ndjson"
+        path.write_text("".join(
+            f'{{"id": "gateway {number}", "check": "PARAM_check_port", "args": ["{64000 + row * 10 + number}"]}}\n'
+            for row in range(self.ROWS)))
+        return path
+
+    def make_fleet(self):
+        """make_fleet returns the same cases in rows and in nested JSON, which is for maps."""
+        subprocess.run([SOURCE / "examples/fleet.py", "--rows", "400", self.scratch], check=True)
+        return self.scratch / "fleet.csv", self.scratch / "fleet.json"
+
+    def slow_program(self):
+        """slow_program is a program that judges nothing as long as the file hold is there, and what it needs."""
+        self.hold.touch()
+        slow = self.scratch / "slow"
+        slow.write_text(SLOW)
+        slow.chmod(0o755)
+        return slow, {**ENVIRONMENT, "SLOW_WHILE": str(self.hold)}
+
+    def fleet(self, *words, **options):
+        """fleet returns the exit code of the runner, and all that it printed."""
+        process = self.start(RUNNER, *words, **options)
+        said, _ = process.communicate(timeout=120)
+        return process.returncode, said
+
+    def judged(self, *words):
+        """judged is what a single batch prints, and the summary that it writes."""
+        summary = self.scratch / "summary"
+        result = subprocess.run([PROGRAM, "batch", "--stream", "--summary-file", summary, *words], check=False,
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        return result.stdout, summary.read_bytes()
+
+    def joined(self):
+        return b"".join(path.read_bytes() for path in sorted((self.out / "results").glob("*.ndjson")))
+
+    def summary(self):
+        return json.loads((self.out / "summary.json").read_bytes())
+
+    def assert_whole(self, files, *options):
+        """assert_whole: the results and the summary are those of a single batch, and nothing else was left."""
+        results, summary = self.judged(*options, *files)
+        self.assertGreater(len(results), 0)
+        self.assertTrue(results == self.joined())
+        given = self.summary()
+        given.pop("missing", None)
+        expected = json.loads(summary)
+        expected["summary"]["unreadable_files"] = given["summary"]["unreadable_files"]
+        self.assertEqual(expected, given)
+        self.assert_nothing_is_left()
+
+    def assert_nothing_is_left(self):
+        self.assertEqual([], sorted(self.out.rglob(".*")))
+        self.assertEqual([], sorted(self.out.rglob("*.tmp")))
+
+    def at_work(self, process=None):
+        """at_work returns the files that are being written, by a process or by any."""
+        number = "*" if process is None else f"*-{process.pid}-*"
+        return sorted((self.out / "results").glob(f".{number}.tmp"))
+
+
+class Cluster(Folder):
+    """Cluster is a test with a scheduler and workers, which are processes."""
+
+    def setUp(self):
+        super().setUp()
+        with contextlib.closing(socket.create_server(("127.0.0.1", 0))) as free:
+            self.address = f"tcp://127.0.0.1:{free.getsockname()[1]}"
+        self.scheduler = self.start("/usr/bin/dask-scheduler", "--host", "127.0.0.1", "--port",
+                                    self.address.rpartition(":")[2], "--no-dashboard")
+        self.workers = []
+
+    def start_worker(self, **environment):
+        """start_worker returns a worker that the scheduler knows."""
+        log = self.scratch / f"worker {len(self.workers)}"
+        with open(log, "wb") as output:
+            worker = subprocess.Popen(
+                ["/usr/bin/dask-worker", "--no-nanny", "--nthreads", "1", "--no-dashboard", "--host", "127.0.0.1",
+                 "--local-directory", self.scratch / "dask", self.address], env={**ENVIRONMENT, **environment},
+                stdin=subprocess.DEVNULL, stdout=output, stderr=output)
+        self.addCleanup(worker.wait)
+        self.addCleanup(worker.kill)
+        wait_until(lambda: "Starting established connection" in log.read_text() or worker.poll())
+        self.workers.append(worker)
+        return worker
+
+    def on_cluster(self, *words, **options):
+        return self.fleet("--scheduler", self.address, *words, **options)
+
+
+
+def interrupt(process, number=signal.SIGINT):
+    process.send_signal(number)
+    said, _ = process.communicate(timeout=60)
+    return process.returncode, said
+
+
+def main():
+    unittest.main(argv=sys.argv[:1])
