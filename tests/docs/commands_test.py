@@ -31,7 +31,7 @@ LONG = {"scripts/quickstart", "scripts/test", "scripts/test-everywhere", "script
 # So does what builds or tests a preset, which must be there.
 LONG_BUILD = re.compile(r"(cmake --preset|cmake --build --preset|ctest --test-dir build)[ /](\S+)( -\S+ \S+)*")
 # Programs that the text speaks of and does not tell anybody to run.
-FILES = {"packaging/wlctl"}
+FILES = {"packaging/wlctl", "fleet/ostrel-fleet"}
 # Words with blanks between them that are no command.
 TEXTS = {"lan_check: refuse an address without a dot"}
 # What stands for something else, and an example of it.
