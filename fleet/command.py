@@ -28,6 +28,8 @@ from ostrel_program import Stopped
 from plan import Manifest, Refused
 from progress import Failed, Progress
 
+PROGRAM = "ostrel-check"
+
 USAGE = 2
 INCOMPLETE = 4
 # What the exit code of a batch is for a case of each verdict; the highest wins.
@@ -65,7 +67,7 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
     parser.add_argument("--map", metavar="FILE", help="the files are dumps of gateways, judged by this map")
     parser.add_argument("--block", metavar="SIZE", type=size_of, default="256M",
                         help="files of lines that are larger are cut into blocks of about this size (256M)")
-    parser.add_argument("--program", metavar="PATH", default="ostrel-check", help="ostrel-check, on each worker")
+    parser.add_argument("--program", metavar="PATH", default=PROGRAM, help="ostrel-check, on each worker")
     parser.add_argument("--exit-zero", action="store_true", help="exit with 0 whatever the verdicts are")
     given = parser.parse_args(words[:at])
     if given.jobs < 1:
@@ -138,43 +140,35 @@ class Run:
     def how_far(self) -> str:
         done = sum(ostrel_part.is_finished(self._job, part) for part in self._parts)
         words = [sys.argv[0], "--resume"]
-        for name in "scheduler", "program":
-            if value := getattr(self._given, name):
-                words += ["--" + name, value]
+        words += ["--scheduler", self._given.scheduler] if self._given.scheduler else []
+        words += ["--program", self._given.program] if self._given.program != PROGRAM else []
         words.append(str(self._given.folder))
         return f"{done} of {len(self._parts)} parts are done; go on with\n  {shlex.join(words)}"
 
     def sum_up(self) -> int:
         """sum_up writes the summary and returns the exit code."""
-        summaries, said = [], []
-        for part in self._parts:
-            mark = ostrel_part.read_mark(ostrel_part.mark_of(self._job, part))
-            if mark:
-                summaries.append(str(mark["summary"]))
-            if mark.get("said"):
-                said.append(f"{part.file}, from line {part.line}:\n{mark['said']}\n")
+        marks = [ostrel_part.read_mark(ostrel_part.mark_of(self._job, part)) for part in self._parts]
+        summaries = [str(mark["summary"]) for mark in marks if mark]
         missing = [self._missing[name] for name in sorted(self._missing)]
         unread = len({part.file for part, _ in missing if not ostrel_part.mark_of(self._job, part).exists()})
         text = self._summarise([*summaries, *([self._nothing(unread)] if unread else [])], "json")
         counts = json.loads(text)["summary"]
         self._write_summary(text, missing)
-        if said:
-            plan.write_whole(self._folder / "messages.txt", "".join(said))
-            print(f"{self._given.folder / 'messages.txt'} has what ostrel-check said besides")
         print(self._summarise([text], "text").splitlines()[-1])
-        print(f"By check, parameter and reason: ostrel-check summarise {shlex.quote(str(self._given.folder))}/summary.json")
+        print(f"By check, parameter and reason: ostrel-check summarise {shlex.quote(str(self._given.folder / plan.SUMMARY))}")
         for _, problem in missing:
             print(f"missing: {problem}")
         if missing:
             print(self.how_far())
             return INCOMPLETE
-        return 0 if self._given.exit_zero else max(EXIT_CODES.get(verdict, 0) for verdict in counts if counts[verdict])
+        codes = [EXIT_CODES.get(verdict, 0) for verdict in counts if counts[verdict]]
+        return 0 if self._given.exit_zero else max(codes, default=0)
 
     def _write_summary(self, text: str, missing: Sequence[tuple[Part, str]]) -> None:
         if missing:
             names = [{"file": part.file, "line": part.line, "problem": problem} for part, problem in missing]
             text = f"{text.rstrip()[:-1]},\"missing\":{json.dumps(names)}}}\n"
-        plan.write_whole(self._folder / "summary.json", text)
+        plan.write_whole(self._folder / plan.SUMMARY, text)
 
     def _nothing(self, unread: int) -> str:
         """_nothing is the summary of files that could not be read."""

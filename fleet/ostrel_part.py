@@ -132,12 +132,12 @@ def _judge(job: Job, part: Part) -> str:
     words += ["--number-lines-from", str(part.line)] if part.line > 1 else []
     with _open(part) as source, whole(results_of(job, part)) as out:
         _require_unchanged(part, source)
-        said, summary = ostrel_program.judge(job.number, words, out, functools.partial(_send, part, source.fileno()))
+        summary = ostrel_program.judge(job.number, words, out, functools.partial(_send, part, source.fileno()))
         _require_unchanged(part, source)
         problem, note = _end_of(part, source, out)
         size = os.fstat(out.fileno()).st_size
     with whole(mark_of(job, part)) as mark:
-        mark.write(json.dumps({"part": dataclasses.asdict(part), "bytes": size, "problem": problem, "said": said,
+        mark.write(json.dumps({"part": dataclasses.asdict(part), "bytes": size, "problem": problem,
                                "summary": summary}).encode())
     return note
 

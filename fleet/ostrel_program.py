@@ -71,8 +71,8 @@ async def abandon(number: str) -> None:
             await asyncio.sleep(0.05)
 
 
-def judge(number: str, words: Sequence[str], out: BinaryIO, send: Callable[[int], None]) -> tuple[str, str]:
-    """judge lets a program judge what send writes to its pipe, and returns what it said, and the summary."""
+def judge(number: str, words: Sequence[str], out: BinaryIO, send: Callable[[int], None]) -> str:
+    """judge lets a program judge what send writes to its pipe, and returns the summary."""
     with tempfile.TemporaryFile() as complaints:
         child = _start(number, words, out, complaints)
         try:
@@ -87,12 +87,13 @@ def judge(number: str, words: Sequence[str], out: BinaryIO, send: Callable[[int]
             with _lock:
                 del _running[child]
         complaints.seek(0)
-        said, _, summary = complaints.read().decode("utf-8", "replace").strip().rpartition("\n")
+        said = complaints.read().decode("utf-8", "replace")
     if number in _stopped:
         raise Stopped("the run was interrupted")
     if status != 0:
-        raise Stopped(f"ostrel-check ended with status {status}: {said} {summary}")
-    return said, summary + "\n"
+        complaint = " ".join(line for line in said.splitlines() if not line.startswith("{"))
+        raise Stopped(f"ostrel-check ended with status {status}: {complaint}")
+    return said
 
 
 def _start(number: str, words: Sequence[str], out: BinaryIO, complaints: IO[bytes]) -> subprocess.Popen[bytes]:

@@ -13,6 +13,7 @@ import ostrel_part
 from ostrel_part import Job, Part
 
 MANIFEST = "run.json"
+SUMMARY = "summary.json"
 FOLDERS = ("results", "done")
 
 # Formats by the ends of names, as ostrel-check has them.
@@ -173,6 +174,7 @@ def sweep(job: Job, parts: Sequence[Part]) -> tuple[list[Part], list[str]]:
     and says why those are among them that had been judged."""
     folder = pathlib.Path(job.folder)
     remove_temporary(folder)
+    (folder / SUMMARY).unlink(missing_ok=True)
     marks = {path.stem: ostrel_part.read_mark(path) for path in (folder / "done").glob("*.json")}
     left, notes = [], []
     for part in parts:

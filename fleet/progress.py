@@ -21,6 +21,7 @@ class Progress:
         self._begin = time.monotonic()
         self._next = self._begin + 1
         self._width = 0
+        self._waits = False
 
     def add(self, size: int, cases: int, refused: int) -> None:
         self._done += 1
@@ -36,6 +37,9 @@ class Progress:
         return text
 
     def show(self, workers: int) -> None:
+        if workers == 0 and not self._waits:
+            self.say("no worker is left; the run waits for one")
+        self._waits = workers == 0
         now = time.monotonic()
         if not self._is_shown or now < self._next:
             return

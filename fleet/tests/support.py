@@ -72,9 +72,9 @@ class Folder(Processes):
         return path
 
     def make_fleet(self):
-        """make_fleet returns the same cases in rows and in nested JSON, which is for maps."""
+        """make_fleet returns the same cases in rows, and what is for a map: in rows without checks, and in nested JSON."""
         subprocess.run([SOURCE / "examples/fleet.py", "--rows", "400", self.scratch], check=True)
-        return self.scratch / "fleet.csv", self.scratch / "fleet.json"
+        return self.scratch / "fleet.csv", self.scratch / "fleet-dump.csv", self.scratch / "fleet.json"
 
     def slow_program(self):
         """slow_program is a program that judges nothing as long as the file hold is there, and what it needs."""
