@@ -58,6 +58,16 @@ TEST(Single, VerdictBeginsALineWhateverWasPrinted)
         run({"PARAM_check_MACAddress", "00-11-22-33-44-55"}));
 }
 
+TEST(Single, EmptyLinesAreLeftOut)
+{
+    EXPECT_EQ((Outcome{1,
+                       "library: Error in WLAN_check_beacon_type: Error beacon type:a\n"
+                       "library: b\n"
+                       "refused: 402, invalid value (is none of None, Basic, WPA, 11i, WPAand11i)\n",
+                       ""}),
+              run({"WLAN_check_beacon_type", "a\n\nb"}));
+}
+
 TEST(Single, NumberThatIsNoVerdictIsAnAnswer)
 {
     EXPECT_EQ((Outcome{0, "answer 2\n", ""}), run({"countChar", "a,b,c", "44"}));

@@ -36,7 +36,7 @@ class Batch {
         // Chunks are given out in order, and taken back in that order.
         while (true) {
             if (StopSignals::number() != 0) {
-                if (!std::exchange(is_interrupted_, true)) meter_.clear_keys();
+                clear_keys();
                 for (const auto& slot : busy_) slot->ask_to_stop();
             }
             take_finished();
@@ -146,10 +146,18 @@ class Batch {
         return !chunk.text.empty();
     }
 
+    // clear_keys takes away, once, what the terminal shows of the keys that interrupt.
+    void clear_keys()
+    {
+        if (!std::exchange(is_interrupted_, true)) meter_.clear_keys();
+    }
+
     // stop ends a batch that has not come to its end.
     int stop()
     {
         meter_.clear();
+        // The signal may have come since the batch last looked for one.
+        if (StopSignals::number() != 0) clear_keys();
         if (error_ != 0) {
             say("ostrel-check: cannot write the results: " + std::generic_category().message(error_) + "\n");
         }

@@ -56,8 +56,8 @@ class Marker {
  private:
     void append(std::string& out, std::string_view line, bool is_ended) const
     {
-        // A line that is empty is the end of the one before.
-        std::string shown(begins_line_ && !line.empty() ? kLibrary : "");
+        if (begins_line_ && line.empty()) return;  // many lines end in two line feeds
+        std::string shown(begins_line_ ? kLibrary : "");
         const bool is_whole = !shown.empty() && is_ended;
         // A value's control bytes must not reach whoever looks at a terminal.
         if (is_terminal_) {
