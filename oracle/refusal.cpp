@@ -79,7 +79,8 @@ std::vector<long long> Refusal::allowed_numbers() const
 
 std::vector<std::string> Refusal::allowed_texts() const
 {
-    if (const auto* all = std::get_if<std::vector<std::string>>(&reason().allowed)) return *all;
+    if (const auto* all = std::get_if<std::vector<std::string_view>>(&reason().allowed))
+        return {all->begin(), all->end()};
     const auto* one = std::get_if<std::string>(&reason().allowed);
     return one == nullptr ? std::vector<std::string>() : std::vector<std::string>{*one};
 }

@@ -20,9 +20,9 @@ bool Run::same(std::string_view a, std::string_view b, bool ignores_case)
     return std::ranges::equal(a, b, {}, lower, lower);
 }
 
-void Run::tell(Reason& reason, const Place& where, std::string_view id, Datum found, Datum allowed) const
+void Run::tell(Reason& reason, const Place& where, std::string_view id, Datum&& found, Datum&& allowed) const
 {
-    reason = {};
+    reason.clear();
     reason.id = id;
     reason.argument = where.argument;
     if (called_.arguments.size() == 1) reason.argument = 0;
@@ -96,7 +96,8 @@ bool Run::holds_at_all(const Condition& condition, Frame& frame, Reason* reason)
 
 bool Run::length_holds(const Condition& condition, Frame& frame, Reason* reason)
 {
-    const Operand judged = text(condition.operands[0], frame);
+    Operand room;
+    const Operand& judged = text(condition.operands[0], frame, room);
     const auto size = static_cast<long long>(judged.text.size());
     const bool is_negated = condition.is_negated;
     if (condition.kind == Kind::kLength) {
@@ -106,7 +107,7 @@ bool Run::length_holds(const Condition& condition, Frame& frame, Reason* reason)
                  condition.numbers);
         return result;
     }
-    const long long limit = number(condition.operands[1], frame).value;
+    const long long limit = number(condition.operands[1], frame);
     const bool is_shorter = condition.kind == Kind::kShorter;
     const bool result = is_shorter ? size < limit : size > limit;
     if (reason != nullptr && result != is_negated)
@@ -120,9 +121,10 @@ bool Run::row_holds(const Condition& condition, Frame& frame, Reason* reason)
         return std::ranges::all_of(matches, [&](const Match& match) {
             const std::string_view cell = row[match.column];
             if (match.how == Match::How::kNumber) {
-                return number(match.value, frame).value == read_number(cell, build_.atoi).value;
+                return number(match.value, frame) == read_number(cell, build_.atoi).value;
             }
-            const std::string_view given = text(match.value, frame).text;
+            Operand room;
+            const std::string_view given = text(match.value, frame, room).text;
             return match.how == Match::How::kEqual ? cell == given
                                                    : cell.find(given) != std::string_view::npos;
         });
@@ -134,12 +136,13 @@ bool Run::row_holds(const Condition& condition, Frame& frame, Reason* reason)
     if (result) frame.row = &*found;
     if (reason == nullptr || result == condition.is_negated) return result;
     const Match& first = all.front();
-    const Operand judged = text(first.value, frame);
-    std::vector<std::string> cells;
+    Operand room;
+    const Operand& judged = text(first.value, frame, room);
+    std::vector<std::string_view> cells;
     for (const auto& row : condition.table->rows) {
         const std::string_view cell = row[first.column];
         const bool is_new = std::ranges::find(cells, cell) == cells.end();
-        if (is_new && suits(row, all.subspan(1))) cells.emplace_back(cell);
+        if (is_new && suits(row, all.subspan(1))) cells.push_back(cell);
     }
     tell(*reason, judged.place, condition.is_negated ? "not_in_table" : "in_table", std::string(judged.text),
          std::move(cells));
@@ -152,7 +155,8 @@ bool Run::others_hold(const Condition& condition, Frame& frame, Reason* reason)
     const auto tells = [&] { return reason != nullptr && result != condition.is_negated; };
     switch (condition.kind) {
         case Kind::kNull: {
-            const Operand judged = operand(condition.operands[0], frame);
+            Operand room;
+            const Operand& judged = operand(condition.operands[0], frame, room);
             result = judged.kind == Operand::Kind::kNull;
             if (tells()) tell(*reason, judged.place, condition.is_negated ? "not_null" : "null", {}, {});
             return result;
@@ -169,7 +173,10 @@ bool Run::others_hold(const Condition& condition, Frame& frame, Reason* reason)
 bool Run::is_refused_by(const Condition& condition, Frame& frame, Reason* reason)
 {
     Frame inner{*condition.target, {}};
-    for (const Expression& argument : condition.operands) inner.slots.push_back(operand(argument, frame));
+    inner.slots.reserve(inner.check.slots);
+    Operand room;
+    for (const Expression& argument : condition.operands)
+        inner.slots.push_back(operand(argument, frame, room));
     inner.slots.resize(inner.check.slots);
     for (std::size_t i = 0; i < inner.check.arguments.size(); ++i) {
         const bool is_null = inner.slots[i].kind == Operand::Kind::kNull;
@@ -179,7 +186,7 @@ bool Run::is_refused_by(const Condition& condition, Frame& frame, Reason* reason
     run(inner.check.steps, inner);
     fault_lines_ = nullptr;
     its_code_ = inner.code;
-    if (reason != nullptr) *reason = std::move(inner.reason);
+    if (!inner.is_refusal) reason_.clear();
     if (reason != nullptr && condition.is_negated) tell(*reason, inner.slots[0].place, "accepted", {}, {});
     return inner.code != 0;
 }

@@ -13,7 +13,10 @@ template <typename T, typename F>
 std::string joined(const std::vector<T>& values, F shown)
 {
     std::string result;
-    for (const T& value : values) result += (result.empty() ? "" : ", ") + shown(value);
+    for (const T& value : values) {
+        if (!result.empty()) result += ", ";
+        result += shown(value);
+    }
     return result;
 }
 
@@ -23,12 +26,14 @@ bool same_letter(char a, char b)
     return lower(a) == lower(b);
 }
 
-// in_common counts the bytes of the longest text that occurs in both.
-std::size_t in_common(std::string_view one, std::string_view other)
+// in_common counts the bytes of the longest text that occurs in both, where it is longer than that.
+std::size_t in_common(std::string_view one, std::string_view other, std::size_t longest)
 {
-    std::size_t longest = 0;
-    for (std::size_t i = 0; i < one.size(); ++i) {
-        for (std::size_t j = 0; j < other.size(); ++j) {
+    for (std::size_t i = 0; i + longest < one.size(); ++i) {
+        for (std::size_t j = 0; j + longest < other.size(); ++j) {
+            if (i + longest == one.size()) return longest;
+            // What is no longer is not looked at.
+            if (!same_letter(one[i + longest], other[j + longest])) continue;
             const std::string_view rest = other.substr(j);
             const auto differing = std::ranges::mismatch(one.substr(i), rest, same_letter);
             longest = std::max(longest, static_cast<std::size_t>(differing.in2 - rest.begin()));
@@ -37,14 +42,19 @@ std::size_t in_common(std::string_view one, std::string_view other)
     return longest;
 }
 
-std::string in_words(const std::vector<std::string>& words, const Datum& found)
+std::string in_words(const std::vector<std::string_view>& words, const Datum& found)
 {
     if (words.size() <= kMostWords) return joined(words, keyword_in_words);
     constexpr std::size_t kLongest = 64;
     const auto* text = std::get_if<std::string>(&found);
     const std::string_view judged = text == nullptr ? std::string_view() : *text;
-    const std::string& nearest = *std::ranges::max_element(
-        words, {}, [&](const std::string& word) { return in_common(judged.substr(0, kLongest), word); });
+    std::string_view nearest = words.front();
+    std::size_t longest = 0;
+    for (const std::string_view word : words) {
+        const std::size_t common = in_common(judged.substr(0, kLongest), word, longest);
+        if (common > longest) nearest = word;
+        longest = common;
+    }
     return std::to_string(words.size()) + " texts, of which " + quoted(nearest) + " is most like it";
 }
 
@@ -56,7 +66,8 @@ std::string in_words(const Datum& datum, const Datum& found)
     if (const auto* number = std::get_if<long long>(&datum)) return std::to_string(*number);
     if (const auto* text = std::get_if<std::string>(&datum)) return quoted(*text);
     if (const auto* set = std::get_if<Set>(&datum)) return in_words(*set);
-    if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) return in_words(*words, found);
+    if (const auto* words = std::get_if<std::vector<std::string_view>>(&datum))
+        return in_words(*words, found);
     return joined(std::get<std::vector<long long>>(datum),
                   [](long long number) { return std::to_string(number); });
 }
@@ -65,7 +76,7 @@ bool is_one(const Datum& datum)
 {
     if (const auto* number = std::get_if<long long>(&datum)) return *number == 1;
     if (const auto* set = std::get_if<Set>(&datum)) return set->size() == 1;
-    if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) return words->size() == 1;
+    if (const auto* words = std::get_if<std::vector<std::string_view>>(&datum)) return words->size() == 1;
     if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) return numbers->size() == 1;
     return true;
 }
@@ -82,12 +93,19 @@ std::string keyword_in_words(std::string_view word)
 std::string quoted(std::string_view text)
 {
     constexpr std::size_t kLongest = 64;
-    std::string result = "\"";
-    for (const char c : text.substr(0, kLongest)) {
+    const std::string_view shown = text.substr(0, kLongest);
+    std::string result;
+    result.reserve(shown.size() + 5);
+    result += '"';
+    for (const char c : shown) {
         if (c == '"' || c == '\\') result += '\\';
-        result += c == ' ' ? " " : bare(c);
+        if (c >= ' ' && c <= '~') {
+            result += c;
+        } else {
+            result += bare(c);
+        }
     }
-    return result + (text.size() > kLongest ? "...\"" : "\"");
+    return result.append(text.size() > kLongest ? "...\"" : "\"");
 }
 
 std::string length_shown(std::size_t size)

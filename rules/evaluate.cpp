@@ -62,30 +62,52 @@ Counts::Counts()
 
 Answer evaluate(const Check& check, std::span<const Value> values, const Build& build, Counts* counts)
 {
-    return Run(check, build, counts).evaluate(values);
+    Answer answer;
+    Run(check, build, counts, answer).evaluate(values);
+    return answer;
 }
 
 Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build)
 {
-    Run run(check, build, nullptr);
+    Answer answer;
+    Run run(check, build, nullptr, answer);
     run.limit_work(bytes);
-    return run.evaluate(values);
+    run.evaluate(values);
+    return answer;
+}
+
+void explain_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
+                    const Build& build, Answer& answer)
+{
+    answer.code = 0;
+    answer.is_refusal = false;
+    answer.outside = Outside::kNo;
+    answer.beyond_int = false;
+    answer.reason.clear();
+    answer.printed.clear();
+    Run run(check, build, nullptr, answer);
+    run.limit_work(bytes);
+    run.keep_silent();
+    run.evaluate(values);
 }
 
 Answer evaluate_hiding(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build)
 {
-    Run run(check, build, nullptr);
+    Answer answer;
+    Run run(check, build, nullptr, answer);
     run.limit_work(bytes);
     run.hide_secrets();
-    return run.evaluate(values);
+    run.evaluate(values);
+    return answer;
 }
 
 Frame Run::called_with(std::span<const Value> values)
 {
     Frame frame{called_, {}};
     frame.is_called = true;
+    frame.slots.reserve(called_.slots);
     for (std::size_t i = 0; i < values.size(); ++i) {
         frame.slots.push_back(slot_of(values[i], i));
         if (const auto* texts = std::get_if<std::vector<std::string>>(&values[i])) {
@@ -96,7 +118,7 @@ Frame Run::called_with(std::span<const Value> values)
     return frame;
 }
 
-Answer Run::evaluate(std::span<const Value> values)
+void Run::evaluate(std::span<const Value> values)
 {
     Frame frame = called_with(values);
     try {
@@ -108,16 +130,15 @@ Answer Run::evaluate(std::span<const Value> values)
         run(called_.steps, frame);
     } catch (const Ended& ended) {
         answer_.outside = ended.outside;
-        tell(answer_.reason, ended.place, id_of(ended.outside), {}, {});
-        return std::move(answer_);
+        tell(reason_, ended.place, id_of(ended.outside), {}, {});
+        return;
     }
     answer_.code = frame.code;
     answer_.is_refusal = frame.is_refusal;
-    answer_.reason = std::move(frame.reason);
-    for (std::size_t i = 0; i < values.size(); ++i) {
+    if (!frame.is_refusal) reason_.clear();
+    for (std::size_t i = 0; i < values.size() && !is_silent_; ++i) {
         if (is_written(called_.arguments[i])) answer_.after.push_back(value_of(frame.slots[i]));
     }
-    return std::move(answer_);
 }
 
 Value Run::value_of(const Operand& slot) const
@@ -145,7 +166,6 @@ Run::Flow Run::run(const std::vector<Step>& steps, Frame& frame)
 
 Run::Flow Run::run(const Step& step, Frame& frame)
 {
-    Reason reason;
     switch (step.kind) {
         case Step::Kind::kForEach:
             return run_list(step, frame);
@@ -157,30 +177,36 @@ Run::Flow Run::run(const Step& step, Frame& frame)
             break;
     }
     fault_lines_ = nullptr;
-    if (!holds(step.condition, frame, &reason)) return Flow::kOn;
+    reason_.clear();
+    if (!holds(step.condition, frame, &reason_)) return Flow::kOn;
     if (counts_ != nullptr) ++counts_->checks[frame.check.number].steps[step.number];
     switch (step.kind) {
         case Step::Kind::kRefuse:
         case Step::Kind::kAccept:
-            return decide(step, frame, std::move(reason));
-        case Step::Kind::kRemember:
-            frame.slots[step.slot] = operand(*step.value, frame);
+            return decide(step, frame);
+        case Step::Kind::kRemember: {
+            Operand room;
+            frame.slots[step.slot] = operand(*step.value, frame, room);
             return Flow::kOn;
-        case Step::Kind::kReads:
-            if (const Operand read = operand(*step.value, frame); read.kind == Operand::Kind::kNull)
+        }
+        case Step::Kind::kReads: {
+            Operand room;
+            const Operand& read = operand(*step.value, frame, room);
+            if (read.kind == Operand::Kind::kNull)
                 throw Ended{step.name.empty() ? Outside::kNull : Outside::kAssertion, read.place};
             return Flow::kOn;
+        }
         case Step::Kind::kNeverReturns:
             throw Ended{Outside::kNeverReturns,
-                        {reason.argument, reason.item, reason.item_text, reason.offset}};
+                        {reason_.argument, reason_.item, keep(reason_.item_text), reason_.offset}};
         default:
-            act(step, frame, reason);
-            if (step.kind != Step::Kind::kWrite) answer_.printed.push_back(std::move(reason));
+            act(step, frame);
+            if (step.kind != Step::Kind::kWrite) answer_.printed.push_back(std::move(reason_));
             return step.kind == Step::Kind::kSkip ? Flow::kNextItem : Flow::kOn;
     }
 }
 
-Run::Flow Run::decide(const Step& step, Frame& frame, Reason reason)
+Run::Flow Run::decide(const Step& step, Frame& frame)
 {
     if (step.code.is_its) {
         frame.code = its_code_;
@@ -188,32 +214,33 @@ Run::Flow Run::decide(const Step& step, Frame& frame, Reason reason)
             if (its_code_ == from) frame.code = to;
         }
     } else {
-        frame.code = static_cast<int>(number(step.code.number, frame).value);
+        frame.code = static_cast<int>(number(step.code.number, frame));
     }
-    act(step, frame, reason);
+    act(step, frame);
     frame.is_refusal = step.kind == Step::Kind::kRefuse;
-    if (frame.is_refusal) frame.reason = std::move(reason);
     return Flow::kEnd;
 }
 
-void Run::act(const Step& step, Frame& frame, const Reason& reason)
+void Run::act(const Step& step, Frame& frame)
 {
-    if (fault_lines_ != nullptr) print(*fault_lines_, frame, reason);
-    print(step.lines, frame, reason);
+    if (fault_lines_ != nullptr) print(*fault_lines_, frame);
+    print(step.lines, frame);
     for (const Write& one : step.writes) write(one, frame);
 }
 
-void Run::print(const std::vector<Line>& lines, Frame& frame, const Reason& reason)
+void Run::print(const std::vector<Line>& lines, Frame& frame)
 {
-    fault_ = &reason;
+    is_printing_ = true;
     for (const Line& line : lines) {
         std::string& stream = line.stream == Line::Stream::kOut ? answer_.out : answer_.err;
         for (const Line::Part& part : line.parts) {
             if (!part.value) {
-                stream += part.text;
+                if (!is_silent_) stream += part.text;
                 continue;
             }
-            const Operand value = text(*part.value, frame);
+            Operand room;
+            const Operand& value = text(*part.value, frame, room);
+            if (is_silent_) continue;
             const bool is_secret = value.place.argument && called_.arguments[*value.place.argument].is_secret;
             if (value.kind == Operand::Kind::kNumber) {
                 stream += std::to_string(value.number);
@@ -225,7 +252,7 @@ void Run::print(const std::vector<Line>& lines, Frame& frame, const Reason& reas
         }
         if (line.is_flushed) answer_.flushed = answer_.out.size();
     }
-    fault_ = nullptr;
+    is_printing_ = false;
 }
 
 void Run::write(const Write& write, Frame& frame)
@@ -233,7 +260,8 @@ void Run::write(const Write& write, Frame& frame)
     const bool is_item = write.target.kind == Expression::Kind::kItem;
     Operand& target = is_item ? frame.item : frame.slots[write.target.slot];
     if (target.kind == Operand::Kind::kNull) throw Ended{Outside::kNull, target.place};
-    const Operand value = operand(write.value, frame);
+    Operand room;
+    const Operand& value = operand(write.value, frame, room);
     if (!frame.is_called) return;
     target.kind = value.kind;
     target.number = value.number;

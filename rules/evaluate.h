@@ -65,6 +65,11 @@ inline constexpr std::uint64_t kMostWork = std::uint64_t{128} << 20U;
 Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 
+// explain_within is evaluate_within without what is printed and what arguments hold afterwards. The answer may have
+// been that of another call.
+void explain_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
+                    const Build& build, Answer& answer);
+
 // evaluate_hiding is evaluate_within with lines in which the value of a secret argument is shown as its length.
 Answer evaluate_hiding(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);

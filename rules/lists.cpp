@@ -19,32 +19,32 @@ std::string_view trim(std::string_view text, const Set& set)
     return text;
 }
 
-// part_of gives a piece of a text its place.
-Operand part_of(const Operand& whole, std::string_view piece)
-{
-    Operand part = whole;
-    part.text = piece;
-    part.place.call({});
-    const auto begin = static_cast<std::size_t>(piece.data() - whole.text.data());
-    if (part.place.offset) *part.place.offset += begin;
-    if (part.place.judged) part.place.judged = Span{part.place.judged->begin + begin, piece.size()};
-    return part;
-}
-
 }  // namespace
+
+void place_piece(Operand& piece, const Operand& whole, std::string_view text)
+{
+    piece.text = text;
+    piece.place.call({});
+    const auto begin = static_cast<std::size_t>(text.data() - whole.text.data());
+    if (whole.place.offset) piece.place.offset = *whole.place.offset + begin;
+    if (whole.place.judged) piece.place.judged = Span{whole.place.judged->begin + begin, text.size()};
+}
 
 // run_list keeps the item of a list that it stands in.
 Run::Flow Run::run_list(const Step& step, Frame& frame)
 {
     const List& list = *step.list;
-    const Operand whole = text(list.of, frame);
+    Operand room;
+    const Operand whole = text(list.of, frame, room);
     const Operand outer_item = frame.item;
-    const Operand outer_rest = frame.rest;
+    const Operand* const outer_list = frame.list;
+    const std::string_view outer_rest = frame.rest;
     const long long outer_index = frame.index;
     const bool outer_is_last = frame.is_last_item;
     Flow flow = Flow::kOn;
     std::string_view rest = whole.text;
     frame.index = 0;
+    frame.item = whole;
     for (bool goes_on = true; goes_on; ++frame.index) {
         const auto index = static_cast<std::size_t>(frame.index);
         if (whole.kind == Operand::Kind::kBlocks) {
@@ -57,14 +57,15 @@ Run::Flow Run::run_list(const Step& step, Frame& frame)
         } else {
             const std::size_t end = rest.find(list.separator);
             frame.is_last_item = end == std::string_view::npos;
-            frame.item = part_of(whole, trim(rest.substr(0, end), list.trimmed));
+            place_piece(frame.item, whole, trim(rest.substr(0, end), list.trimmed));
             rest = frame.is_last_item ? rest.substr(rest.size())
                                       : trim_front(rest.substr(end + 1), list.trimmed);
-            frame.rest = part_of(whole, rest);
+            frame.list = &whole;
+            frame.rest = rest;
         }
         if (!list.part.empty()) {
             frame.item.place.call(list.part, index + 1);
-        } else if (!frame.item.place.item) {
+        } else if (!whole.place.item) {
             frame.item.place.item = index;
             frame.item.place.item_text = frame.item.text;
         }
@@ -79,6 +80,7 @@ Run::Flow Run::run_list(const Step& step, Frame& frame)
         flow = Flow::kOn;
     }
     frame.item = outer_item;
+    frame.list = outer_list;
     frame.rest = outer_rest;
     frame.index = outer_index;
     frame.is_last_item = outer_is_last;

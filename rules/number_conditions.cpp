@@ -18,10 +18,11 @@ bool contains(const std::vector<long long>& members, long long number)
 
 }  // namespace
 
-void Run::tell(Reason& reason, const Integer& judged, std::string_view id, Datum allowed) const
+void Run::tell(Reason& reason, const Integer& judged, std::string_view id, Datum&& allowed) const
 {
-    tell(reason, judged.place, id, judged.value, std::move(allowed));
-    reason.offset = judged.place.offset;
+    const Place place = judged.place();
+    tell(reason, place, id, judged.value, std::move(allowed));
+    reason.offset = place.offset;
     if (judged.is_read || !judged.beyond_int.empty()) reason.read_as = judged.value;
     if (judged.beyond_int.empty()) return;
     reason.limit = id;
@@ -31,22 +32,20 @@ void Run::tell(Reason& reason, const Integer& judged, std::string_view id, Datum
 
 bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
 {
-    const Integer judged = number(condition.operands[0], frame);
+    Operand room;
+    const Integer judged = number(condition.operands[0], frame, room);
     const bool is_negated = condition.is_negated;
     std::string_view id;
-    Datum allowed;
+    long long limit = 0;  // of a condition that has one
     bool result = false;
     if (condition.kind == Kind::kAmong) {
         id = is_negated ? "number_not_allowed" : "number_forbidden";
-        allowed = condition.numbers;
         result = contains(condition.numbers, judged.value);
     } else if (condition.kind == Kind::kBetween) {
         id = is_negated ? "number_out_of_range" : "number_in_range";
-        allowed = condition.numbers;
         result = judged.value >= condition.numbers[0] && judged.value <= condition.numbers[1];
     } else {
-        const long long limit = number(condition.operands[1], frame).value;
-        allowed = limit;
+        limit = number(condition.operands[1], frame);
         if (condition.kind == Kind::kMultiple) {
             id = is_negated ? "not_a_multiple" : "a_multiple";
             result = judged.value % limit == 0;
@@ -56,14 +55,16 @@ bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
             result = is_below ? judged.value < limit : judged.value > limit;
         }
     }
-    if (reason != nullptr && result != is_negated) tell(*reason, judged, id, std::move(allowed));
+    if (reason != nullptr && result != is_negated)
+        tell(*reason, judged, id, condition.numbers.empty() ? Datum(limit) : condition.numbers);
     return result;
 }
 
 bool Run::driver_lists(const Condition& condition, Frame& frame, Reason* reason)
 {
-    const Integer judged = number(condition.operands[0], frame);
-    if (!build_.channels) throw Ended{Outside::kDriver, judged.place};
+    Operand room;
+    const Integer judged = number(condition.operands[0], frame, room);
+    if (!build_.channels) throw Ended{Outside::kDriver, judged.place()};
     const std::span<const int> all = *build_.channels;
     const auto first = static_cast<std::size_t>(condition.numbers[0]);
     std::vector<long long> listed;
@@ -80,8 +81,10 @@ bool Run::driver_lists(const Condition& condition, Frame& frame, Reason* reason)
 
 bool Run::equality_holds(const Condition& condition, Frame& frame, Reason* reason)
 {
-    const Operand one = text(condition.operands[0], frame);
-    const Operand other = text(condition.operands[1], frame);
+    Operand room;
+    Operand other_room;
+    const Operand& one = text(condition.operands[0], frame, room);
+    const Operand& other = text(condition.operands[1], frame, other_room);
     const std::string_view id = condition.is_negated ? "not_equal" : "equal";
     if (one.kind == Operand::Kind::kText && other.kind == Operand::Kind::kText) {
         const bool result = same(one.text, other.text, condition.ignores_case);
@@ -89,10 +92,10 @@ bool Run::equality_holds(const Condition& condition, Frame& frame, Reason* reaso
             tell(*reason, one.place, id, std::string(one.text), std::string(other.text));
         return result;
     }
-    const Integer left = number(condition.operands[0], frame);
-    const Integer right = number(condition.operands[1], frame);
-    const bool result = left.value == right.value;
-    if (reason != nullptr && result != condition.is_negated) tell(*reason, left, id, right.value);
+    const Integer left = number(condition.operands[0], frame, room);
+    const long long right = number(condition.operands[1], frame);
+    const bool result = left.value == right;
+    if (reason != nullptr && result != condition.is_negated) tell(*reason, left, id, right);
     return result;
 }
 

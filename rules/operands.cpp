@@ -48,14 +48,17 @@ long long days_of(long long year, long long month)
 
 }  // namespace
 
-Operand Run::operand(const Expression& expression, Frame& frame)
+const Operand& Run::operand(const Expression& expression, Frame& frame, Operand& room)
 {
-    Operand result = uncalled(expression, frame);
-    if (!expression.part.empty()) result.place.call(expression.part);
-    return result;
+    const bool has_name = !expression.part.empty();
+    if (expression.kind == Kind::kName && !has_name) return frame.slots[expression.slot];
+    if (expression.kind == Kind::kItem && !has_name) return frame.item;
+    room = made(expression, frame);
+    if (has_name) room.place.call(expression.part);
+    return room;
 }
 
-Operand Run::uncalled(const Expression& expression, Frame& frame)
+Operand Run::made(const Expression& expression, Frame& frame)
 {
     switch (expression.kind) {
         case Kind::kName:
@@ -67,7 +70,7 @@ Operand Run::uncalled(const Expression& expression, Frame& frame)
         case Kind::kSet: {
             Operand result;
             result.kind = Operand::Kind::kSet;
-            result.set = expression.set;
+            result.set = &expression.set;
             return result;
         }
         case Kind::kModel:
@@ -86,13 +89,18 @@ Operand Run::uncalled(const Expression& expression, Frame& frame)
         case Kind::kIndex:
             return of_number(frame.index);
         case Kind::kRest:
-            return frame.rest;
+            if (frame.list != nullptr) {
+                Operand rest = *frame.list;
+                place_piece(rest, *frame.list, frame.rest);
+                return rest;
+            }
+            return {};
         case Kind::kByte: {
-            const auto* byte = fault_ == nullptr ? nullptr : std::get_if<std::string>(&fault_->found);
+            const auto* byte = is_printing_ ? std::get_if<std::string>(&reason_.found) : nullptr;
             return of_text(byte == nullptr ? std::string_view() : *byte);
         }
         case Kind::kOffset:
-            return of_number(fault_ == nullptr ? 0 : static_cast<long long>(fault_->offset.value_or(0)));
+            return of_number(is_printing_ ? static_cast<long long>(reason_.offset.value_or(0)) : 0);
         case Kind::kBeforeFirst:
         case Kind::kBeforeLast:
         case Kind::kAfterFirst:
@@ -119,7 +127,8 @@ Operand Run::uncalled(const Expression& expression, Frame& frame)
 Operand Run::cut(const Expression& expression, Frame& frame)
 {
     constexpr auto kMissing = std::string_view::npos;
-    const Operand whole = text(expression.of[0], frame);
+    Operand room;
+    const Operand& whole = text(expression.of[0], frame, room);
     const std::string_view separator = expression.of[1].text;
     const std::size_t first = whole.text.find(separator);
     const std::size_t last = whole.text.rfind(separator);
@@ -140,26 +149,30 @@ Operand Run::cut(const Expression& expression, Frame& frame)
 Operand Run::computed(const Expression& expression, Frame& frame)
 {
     if (expression.kind == Kind::kDays) {
-        const Integer year = number(expression.of[0], frame);
-        const Integer month = number(expression.of[1], frame);
-        return of_number(days_of(year.value, month.value), month.place);
+        const long long year = number(expression.of[0], frame);
+        Operand room;
+        const Integer month = number(expression.of[1], frame, room);
+        return of_number(days_of(year, month.value), month.place());
     }
     if (expression.kind == Kind::kSum || expression.kind == Kind::kLarger) {
-        Integer result = number(expression.of[0], frame);
+        Operand room;
+        const Integer first = number(expression.of[0], frame, room);
+        long long result = first.value;
+        Place place = first.place();
         for (std::size_t i = 1; i < expression.of.size(); ++i) {
-            const Integer next = number(expression.of[i], frame);
-            result.value = expression.kind == Kind::kSum ? result.value + next.value
-                                                         : std::max(result.value, next.value);
-            if (!result.place.argument) result.place = next.place;
+            const Integer next = number(expression.of[i], frame, room);
+            result = expression.kind == Kind::kSum ? result + next.value : std::max(result, next.value);
+            if (!place.argument) place = next.place();
         }
-        return of_number(result.value, result.place);
+        return of_number(result, place);
     }
+    Operand room;
     if (expression.kind == Kind::kJoined) {
         std::string joined;
-        for (const Expression& one : expression.of) joined += text(one, frame).text;
+        for (const Expression& one : expression.of) joined += text(one, frame, room).text;
         return of_text(keep(std::move(joined)));
     }
-    const Operand whole = text(expression.of[0], frame);
+    const Operand& whole = text(expression.of[0], frame, room);
     if (expression.kind == Kind::kConverted) {
         Operand result = of_text(keep(expression.conversion->convert(whole.text)));
         result.place = whole.place;
@@ -170,20 +183,21 @@ Operand Run::computed(const Expression& expression, Frame& frame)
     if (expression.kind == Kind::kLength)
         return of_number(static_cast<long long>(whole.text.size()), whole.place);
     if (expression.kind == Kind::kSlice) {
-        const auto begin = static_cast<std::size_t>(number(expression.of[1], frame).value);
+        const auto begin = static_cast<std::size_t>(number(expression.of[1], frame));
         if (expression.of.size() < 3) return part(whole, begin);
-        return part(whole, begin, static_cast<std::size_t>(number(expression.of[2], frame).value));
+        return part(whole, begin, static_cast<std::size_t>(number(expression.of[2], frame)));
     }
-    const Operand byte = operand(expression.of[1], frame);
+    Operand other_room;
+    const Operand& byte = operand(expression.of[1], frame, other_room);
     const char wanted = byte.kind == Operand::Kind::kNumber
                             ? static_cast<char>(static_cast<unsigned char>(byte.number & 0xFF))
                             : byte.text.front();
     return of_number(std::ranges::count(whole.text, wanted), whole.place);
 }
 
-Operand Run::text(const Expression& expression, Frame& frame)
+const Operand& Run::text(const Expression& expression, Frame& frame, Operand& room)
 {
-    Operand result = operand(expression, frame);
+    const Operand& result = operand(expression, frame, room);
     if (result.kind == Operand::Kind::kNull) throw Ended{Outside::kNull, result.place};
     work(result.text.size());
     return result;
@@ -195,20 +209,25 @@ void Run::work(std::uint64_t bytes)
     bytes_left_ -= bytes;
 }
 
-Integer Run::number(const Expression& expression, Frame& frame)
+long long Run::number(const Expression& expression, Frame& frame)
 {
-    const Operand given = text(expression, frame);
-    if (given.kind == Operand::Kind::kNumber) return {given.number, {}, false, given.place};
+    if (expression.kind == Kind::kNumber) return expression.number;
+    Operand room;
+    return number(expression, frame, room).value;
+}
+
+Integer Run::number(const Expression& expression, Frame& frame, Operand& room)
+{
+    const Operand& given = text(expression, frame, room);
+    if (given.kind == Operand::Kind::kNumber) return {given.number, {}, false, &given.place};
     const Number read = read_number(given.text, build_.atoi);
     // A sign alone is no number.
     const bool is_whole =
         !given.text.empty() && read.end - read.begin == given.text.size() && given.text.back() >= '0';
-    Integer result{read.value, {}, !is_whole, given.place};
-    if (!read.beyond_int) return result;
+    if (!read.beyond_int) return {read.value, {}, !is_whole, &given.place};
     answer_.beyond_int = true;
-    result.beyond_int = given.text.substr(read.begin, read.end - read.begin);
-    if (result.place.offset) *result.place.offset += read.begin;
-    return result;
+    const std::string_view beyond_int = given.text.substr(read.begin, read.end - read.begin);
+    return {read.value, beyond_int, !is_whole, &given.place, read.begin};
 }
 
 }  // namespace ostrel::rules

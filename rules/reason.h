@@ -14,8 +14,9 @@
 
 namespace ostrel::rules {
 
-// Datum is a number, a text, a set of bytes, or a list of texts or numbers; or nothing.
-using Datum = std::variant<std::monostate, long long, std::string, Set, std::vector<std::string>,
+// Datum is a number, a text, a set of bytes, or a list of texts or numbers; or nothing. A list of texts is of the
+// description, which outlives it.
+using Datum = std::variant<std::monostate, long long, std::string, Set, std::vector<std::string_view>,
                            std::vector<long long>>;
 
 // Span is a piece of a text.
@@ -38,6 +39,20 @@ struct Reason {
     Datum allowed;
     std::optional<long long> read_as;  // what this build's atoi makes of a text that is not just an int
     std::string_view limit;            // of a number beyond an int: the id that the number read has
+
+    // clear makes it ready for the next one. One without an id is empty.
+    void clear()
+    {
+        if (id.empty()) return;
+        id = name = conversion = limit = {};
+        argument = item = offset = std::nullopt;
+        judged.reset();
+        read_as.reset();
+        part.clear();
+        item_text.clear();
+        found = std::monostate();
+        allowed = std::monostate();
+    }
 };
 
 }  // namespace ostrel::rules

@@ -1,10 +1,40 @@
 #include "rules/reason_json.h"
 
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
 #include "rules/sentences.h"
 
 namespace ostrel::rules {
 
 namespace {
+
+bool is_plain(char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; }
+
+// are_plain looks at eight bytes at once.
+bool are_plain(const char* begin)
+{
+    constexpr std::uint64_t kOnes = 0x0101010101010101;
+    constexpr std::uint64_t kHighs = 0x80 * kOnes;
+    constexpr std::uint64_t kDelete = 0x7F;
+    std::uint64_t eight = 0;
+    std::memcpy(&eight, begin, sizeof eight);
+    const auto below = [&](std::uint64_t bytes, std::uint64_t limit) {
+        return (bytes - limit * kOnes) & ~bytes;
+    };
+    const auto has = [&](std::uint64_t byte) { return below(eight ^ byte * kOnes, 1); };
+    return ((eight | below(eight, ' ') | has('"') | has('\\') | has(kDelete)) & kHighs) == 0;
+}
+
+// plain_size is how many bytes a text begins with that stand in JSON as they are.
+std::size_t plain_size(std::string_view bytes)
+{
+    std::size_t size = 0;
+    while (size + 8 <= bytes.size() && are_plain(bytes.data() + size)) size += 8;
+    while (size < bytes.size() && is_plain(bytes[size])) ++size;
+    return size;
+}
 
 template <typename T, typename F>
 void append_list(std::string& out, const std::vector<T>& values, F append)
@@ -17,10 +47,17 @@ void append_list(std::string& out, const std::vector<T>& values, F append)
     out += ']';
 }
 
-void append_datum(std::string& out, std::string_view name, const Datum& datum, AppendBytes append_bytes)
+void append_member(std::string& out, std::string_view name, const Datum& datum, AppendBytes append_bytes)
 {
     if (std::holds_alternative<std::monostate>(datum)) return;
     out.append(",\"").append(name).append("\":");
+    append_json_datum(out, datum, append_bytes);
+}
+
+}  // namespace
+
+void append_json_datum(std::string& out, const Datum& datum, AppendBytes append_bytes)
+{
     if (const auto* number = std::get_if<long long>(&datum)) {
         out += std::to_string(*number);
     } else if (const auto* text = std::get_if<std::string>(&datum)) {
@@ -31,23 +68,19 @@ void append_datum(std::string& out, std::string_view name, const Datum& datum, A
         out += ",\"members\":";
         append_bytes(out, set->members());
         out += '}';
-    } else if (const auto* words = std::get_if<std::vector<std::string>>(&datum)) {
-        append_list(out, *words, [&](const std::string& word) { append_bytes(out, word); });
+    } else if (const auto* words = std::get_if<std::vector<std::string_view>>(&datum)) {
+        append_list(out, *words, [&](std::string_view word) { append_bytes(out, word); });
     } else if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) {
         append_list(out, *numbers, [&](long long one) { out += std::to_string(one); });
     }
 }
 
-}  // namespace
-
 void append_json_text(std::string& out, std::string_view bytes)
 {
     constexpr std::string_view kHexDigits = "0123456789ABCDEF";
-    const auto is_plain = [](char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; };
     out += '"';
     while (!bytes.empty()) {
-        std::size_t plain = 0;
-        while (plain < bytes.size() && is_plain(bytes[plain])) ++plain;
+        const std::size_t plain = plain_size(bytes);
         out.append(bytes.substr(0, plain));
         bytes.remove_prefix(plain);
         if (bytes.empty()) break;
@@ -68,9 +101,9 @@ void append_json_text(std::string& out, std::string_view bytes)
     out += '"';
 }
 
-void append_json_reason(std::string& out, const Reason& given, const Check& check)
+void append_json_reason(std::string& out, Reason given, const Check& check)
 {
-    const Reason reason = without_secret(given, check);
+    const Reason reason = without_secret(std::move(given), check);
     append_json_told(out, reason, full_sentence(reason, check), append_json_text);
 }
 
@@ -96,8 +129,8 @@ void append_json_told(std::string& out, const Reason& reason, std::string_view s
         append_bytes(out, reason.item_text);
     }
     add_number("offset", reason.offset);
-    append_datum(out, "found", reason.found, append_bytes);
-    append_datum(out, "allowed", reason.allowed, append_bytes);
+    append_member(out, "found", reason.found, append_bytes);
+    append_member(out, "allowed", reason.allowed, append_bytes);
     add_number("read_as", reason.read_as);
     add_text("limit", reason.limit);
     out += ",\"text\":";

@@ -1,8 +1,10 @@
-#include "rules/sentences.h"
-
+// The table of sentences.
 #include <algorithm>
+#include <array>
+#include <iterator>
+#include <stdexcept>
 
-#include "rules/datum.h"
+#include "rules/sentence_pieces.h"
 
 namespace ostrel::rules {
 
@@ -83,127 +85,65 @@ constexpr Sentence kSentences[] = {
     {"wrong_suffix", "does not end with {allowed}"},
 };
 
-std::string counted(const std::optional<std::size_t>& from_zero)
-{
-    return from_zero ? std::to_string(*from_zero + 1) : "";
-}
+struct Named {
+    std::string_view name;
+    Field field;
+};
 
-std::string range(const Datum& datum)
-{
-    const auto* limits = std::get_if<std::vector<long long>>(&datum);
-    return limits == nullptr ? "" : std::to_string(limits->front()) + " to " + std::to_string(limits->back());
-}
+constexpr Named kFields[] = {
+    {"found", Field::kFound},       {"allowed", Field::kAllowed}, {"form", Field::kForm},
+    {"byte", Field::kByte},         {"item", Field::kItem},       {"range", Field::kRange},
+    {"position", Field::kPosition}, {"read", Field::kRead},       {"read_as", Field::kReadAs},
+    {"limit", Field::kLimit},
+};
 
-std::string limit_of(const Reason& reason);
-
-std::string value_of(std::string_view name, const Reason& reason)
+// taken_apart is called by the compiler, which refuses what is not a name.
+constexpr Pieces taken_apart(std::string_view text)
 {
-    const std::size_t colon = name.find(':');
-    if (colon != std::string_view::npos) {
-        const std::string_view forms = name.substr(colon + 1);
-        const std::size_t bar = forms.find('|');
-        const bool is_found = name.substr(0, colon) == "found";
-        return std::string(is_one(is_found ? reason.found : reason.allowed) ? forms.substr(0, bar)
-                                                                            : forms.substr(bar + 1));
+    Pieces pieces;
+    const auto add = [&](Field field, std::size_t begin, std::size_t end) {
+        pieces.all.at(pieces.count++) = {field, static_cast<unsigned char>(begin),
+                                         static_cast<unsigned char>(end - begin)};
+    };
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t begin = std::min(text.find('{', at), text.size());
+        if (begin > at) add(Field::kText, at, begin);
+        if (begin == text.size()) break;
+        const std::size_t end = text.find('}', begin);
+        const std::size_t colon = text.find(':', begin);
+        const std::string_view name = text.substr(begin + 1, std::min(colon, end) - begin - 1);
+        const auto* const known = std::ranges::find(kFields, name, &Named::name);
+        if (known == std::end(kFields)) throw std::logic_error("no field");
+        if (colon > end) {
+            add(known->field, 0, 0);
+        } else {
+            const bool is_found = known->field == Field::kFound;
+            add(is_found ? Field::kFoundForms : Field::kAllowedForms, colon + 1, end);
+        }
+        at = end + 1;
     }
-    if (name == "found") {
-        const std::string found = in_words(reason.found);
-        const bool is_quoted = reason.id == "number_beyond_int" && found.starts_with('"');
-        return is_quoted ? found.substr(1, found.size() - 2) : found;
-    }
-    if (name == "allowed") return in_words(reason.allowed, reason.found);
-    if (name == "limit") return limit_of(reason);
-    if (name == "form") return std::get<std::string>(reason.allowed);
-    if (name == "position") return counted(reason.offset);
-    if (name == "item") return counted(reason.item);
-    if (name == "range") return range(reason.allowed);
-    if (name == "read") return reason.read_as ? "read as " : "";
-    if (name == "read_as") return reason.read_as ? std::to_string(*reason.read_as) : "";
-    const auto* byte = std::get_if<std::string>(&reason.found);
-    return byte == nullptr || byte->empty() ? "a byte that is not shown" : byte_in_words(byte->front());
+    return pieces;
 }
 
-const Sentence* find(std::string_view id)
-{
-    const auto* known = std::ranges::lower_bound(kSentences, id, {}, &Sentence::id);
-    return known != std::end(kSentences) && known->id == id ? known : nullptr;
-}
-
-std::string filled_in(std::string_view text, const Reason& reason)
-{
-    std::string result;
-    while (true) {
-        const std::size_t begin = std::min(text.find('{'), text.size());
-        result += text.substr(0, begin);
-        text.remove_prefix(begin);
-        if (text.empty()) return result;
-        const std::size_t end = text.find('}');
-        result += value_of(text.substr(1, end - 1), reason);
-        text.remove_prefix(end + 1);
-    }
-}
-
-std::string limit_of(const Reason& reason)
-{
-    const Sentence* known = find(reason.limit);
-    const std::size_t begin = known == nullptr ? std::string_view::npos : known->text.find(';');
-    return begin == std::string_view::npos ? "" : filled_in(known->text.substr(begin), reason);
-}
+constexpr auto kPieces = [] {
+    std::array<Pieces, std::size(kSentences)> all{};
+    for (std::size_t i = 0; i < all.size(); ++i) all.at(i) = taken_apart(kSentences[i].text);
+    return all;
+}();
 
 }  // namespace
 
 std::span<const Sentence> sentences() { return kSentences; }
 
-std::string sentence(const Reason& reason)
+const Sentence* find_sentence(std::string_view id)
 {
-    const Sentence* known = find(reason.id);
-    if (known == nullptr) return "";
-    std::string result;
-    if (!reason.part.empty()) result = known->has_subject ? "in " + reason.part + ", " : reason.part + " ";
-    result += filled_in(known->text, reason);
-    if (!reason.conversion.empty()) result += " (" + std::string(reason.conversion) + ")";
-    return result;
+    const auto* known = std::ranges::lower_bound(kSentences, id, {}, &Sentence::id);
+    return known != std::end(kSentences) && known->id == id ? known : nullptr;
 }
 
-std::string full_sentence(const Reason& reason, const Check& check)
+const Pieces& pieces_of(const Sentence& sentence)
 {
-    const bool names_argument =
-        std::ranges::count_if(check.arguments, [](const Argument& argument) {
-            return argument.kind != Argument::Kind::kIntegerOut && !argument.is_output;
-        }) > 1;
-    std::string said = sentence(reason);
-    std::string subject;
-    if (reason.item) {
-        subject = "item " + counted(reason.item);
-        if (!reason.item_text.empty()) subject += " (" + quoted(reason.item_text) + ")";
-    }
-    if (names_argument && reason.argument) {
-        subject.append(subject.empty() ? "" : " of ").append(reason.name);
-    }
-    if (said.empty() || subject.empty()) return said;
-    const bool has_subject = find(reason.id)->has_subject || !reason.part.empty();
-    return subject + (has_subject ? ": " : " ") + said;
-}
-
-Reason without_trace_of_secret(Reason reason, const Check& check)
-{
-    const bool is_secret = reason.argument && check.arguments[*reason.argument].is_secret;
-    if (!is_secret) return reason;
-    // Of numbers only those are left that count something; others were read in the text.
-    const bool is_read = reason.read_as || reason.id.starts_with("number_");
-    if (is_read || !std::holds_alternative<long long>(reason.found)) reason.found = std::monostate();
-    reason.read_as.reset();
-    reason.item_text.clear();
-    return reason;
-}
-
-Reason without_secret(Reason reason, const Check& check)
-{
-    const auto* found = std::get_if<std::string>(&reason.found);
-    const bool is_secret = reason.argument && check.arguments[*reason.argument].is_secret;
-    if (is_secret && found != nullptr && found->size() > 1) reason.found = std::monostate();
-    if (is_secret) reason.item_text.clear();
-    return reason;
+    return kPieces.at(static_cast<std::size_t>(&sentence - kSentences));
 }
 
 }  // namespace ostrel::rules

@@ -42,7 +42,8 @@ std::string sentence(const Reason& reason);
 // full_sentence begins with what it speaks of: the item of a list, and the argument where a user gives several.
 std::string full_sentence(const Reason& reason, const Check& check);
 
-// without_secret takes the value out that was found, where that is of an argument not to be shown; single bytes stay.
+// hide_secret takes the value out that was found, where that is of an argument not to be shown; single bytes stay.
+void hide_secret(Reason& reason, const Check& check);
 Reason without_secret(Reason reason, const Check& check);
 
 // without_trace_of_secret takes out single bytes as well, and numbers that were read in the value; lengths stay.

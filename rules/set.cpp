@@ -1,6 +1,7 @@
 #include "rules/set.h"
 
 #include <bit>
+#include <utility>
 #include <vector>
 
 #include "rules/sets.h"
@@ -32,20 +33,34 @@ constexpr std::string_view kNoBytes = "no bytes";
 constexpr std::string_view kBlankAlone = "a blank";
 constexpr std::string_view kQuotationMark = "a quotation mark";
 constexpr std::string_view kAnd = " and ";
+constexpr std::string_view kComma = ", ";
 constexpr std::string_view kTo = " to ";
 
-std::string join(const std::vector<std::string>& parts)
-{
-    std::string result;
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-        if (i > 0) result += i + 1 == parts.size() ? kAnd : ", ";
-        result += parts[i];
+// Parts lists some: "letters, digits and -".
+class Parts {
+ public:
+    void add(std::string_view part)
+    {
+        if (!text_.empty()) {
+            last_ = text_.size();
+            text_ += kComma;
+        }
+        text_ += part;
     }
-    return result;
-}
+
+    std::string take()
+    {
+        if (last_ > 0) text_.replace(last_, kComma.size(), kAnd);
+        return std::move(text_);
+    }
+
+ private:
+    std::string text_;
+    std::size_t last_ = 0;  // where the last comma is
+};
 
 // add_runs names single bytes, and runs of at least four by their ends. A run is said as a part of its own.
-void add_runs(const std::string& members, std::vector<std::string>& parts)
+void add_runs(const std::string& members, Parts& parts)
 {
     std::string single;
     for (std::size_t begin = 0; begin < members.size();) {
@@ -56,14 +71,14 @@ void add_runs(const std::string& members, std::vector<std::string>& parts)
         }
         const bool is_mark = members[begin] > ' ' && members[begin] < '0';
         if (end - begin >= 4 && !is_mark) {
-            parts.push_back(bare(members[begin]).append(kTo).append(bare(members[end - 1])));
+            parts.add(bare(members[begin]).append(kTo).append(bare(members[end - 1])));
         } else {
             for (std::size_t i = begin; i < end; ++i)
                 single += (single.empty() ? "" : " ") + bare(members[i]);
         }
         begin = end;
     }
-    if (!single.empty()) parts.push_back(single);
+    if (!single.empty()) parts.add(single);
 }
 
 }  // namespace
@@ -99,15 +114,15 @@ std::string in_words(const Set& set)
 {
     if (set.empty()) return std::string(kNoBytes);
     if (set.size() == 1) return byte_in_words(set.members().front());
-    std::vector<std::string> parts;
+    Parts parts;
     Set rest = set;
     for (const Group& group : kGroups) {
         if (!rest.contains(group.set)) continue;
-        parts.emplace_back(group.words);
+        parts.add(group.words);
         rest = rest - group.set;
     }
     add_runs(rest.members(), parts);
-    return join(parts);
+    return parts.take();
 }
 
 std::string bare(char byte)

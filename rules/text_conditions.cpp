@@ -15,11 +15,6 @@ constexpr auto kMissing = std::string_view::npos;
 // A search compares so many bytes with the part at once, and at worst at every place.
 constexpr std::size_t kQuickBytes = 16;
 
-std::vector<std::string> all(const std::vector<std::string_view>& words)
-{
-    return {words.begin(), words.end()};
-}
-
 std::string one_byte(std::string_view text, std::size_t offset)
 {
     return std::string(text.substr(offset, 1));
@@ -72,12 +67,13 @@ std::size_t Run::common(std::string_view text, const Condition& prefixes)
 
 bool Run::text_holds(const Condition& condition, Frame& frame, Reason* reason)
 {
-    const Operand judged = text(condition.operands[0], frame);
+    Operand room;
+    const Operand& judged = text(condition.operands[0], frame, room);
     const std::string_view whole = judged.text;
     const bool is_negated = condition.is_negated;
     bool result = false;
     const auto tells = [&] { return reason != nullptr && result != is_negated; };
-    const auto say = [&](std::string_view id, Datum found, Datum allowed, std::size_t offset = kMissing) {
+    const auto say = [&](std::string_view id, Datum&& found, Datum&& allowed, std::size_t offset = kMissing) {
         tell(*reason, judged.place, id, std::move(found), std::move(allowed));
         if (offset != kMissing && judged.place.offset) reason->offset = *judged.place.offset + offset;
     };
@@ -87,8 +83,9 @@ bool Run::text_holds(const Condition& condition, Frame& frame, Reason* reason)
             if (tells()) say(is_negated ? "not_empty" : "empty", static_cast<long long>(whole.size()), {});
             return result;
         case Kind::kOutside: {
-            const Operand given = text(condition.operands[1], frame);
-            const Set set = given.kind == Operand::Kind::kSet ? given.set : Set(given.text);
+            Operand other_room;
+            const Operand& given = text(condition.operands[1], frame, other_room);
+            const Set set = given.kind == Operand::Kind::kSet ? *given.set : Set(given.text);
             const std::size_t offset = set.find_outside(whole);
             result = offset != kMissing;
             if (!tells()) return result;
@@ -104,19 +101,19 @@ bool Run::text_holds(const Condition& condition, Frame& frame, Reason* reason)
                 return same(whole, word, condition.ignores_case);
             });
             if (tells())
-                say(is_negated ? "not_a_keyword" : "forbidden_keyword", std::string(whole),
-                    all(condition.words));
+                say(is_negated ? "not_a_keyword" : "forbidden_keyword", std::string(whole), condition.words);
             return result;
         case Kind::kPrefix:
             result = std::ranges::any_of(condition.words, [&](std::string_view word) {
                 return same(whole.substr(0, word.size()), word, condition.ignores_case);
             });
             if (tells())
-                say(is_negated ? "wrong_prefix" : "forbidden_prefix", std::string(whole),
-                    all(condition.words), is_negated ? common(whole, condition) : 0);
+                say(is_negated ? "wrong_prefix" : "forbidden_prefix", std::string(whole), condition.words,
+                    is_negated ? common(whole, condition) : 0);
             return result;
         case Kind::kSuffix: {
-            const std::string_view suffix = text(condition.operands[1], frame).text;
+            Operand other_room;
+            const std::string_view suffix = text(condition.operands[1], frame, other_room).text;
             result = whole.size() > suffix.size() && whole.ends_with(suffix);
             if (tells())
                 say(is_negated ? "wrong_suffix" : "forbidden_suffix", std::string(whole),
@@ -124,7 +121,8 @@ bool Run::text_holds(const Condition& condition, Frame& frame, Reason* reason)
             return result;
         }
         case Kind::kContains: {
-            const Operand part = text(condition.operands[1], frame);
+            Operand other_room;
+            const Operand& part = text(condition.operands[1], frame, other_room);
             work(std::uint64_t{whole.size()} / kQuickBytes * part.text.size());
             const std::size_t offset = whole.find(part.text);
             result = offset != kMissing;
@@ -151,7 +149,8 @@ bool Run::text_holds(const Condition& condition, Frame& frame, Reason* reason)
 
 bool Run::shape_holds(const Condition& condition, Frame& frame, Reason* reason)
 {
-    const Operand judged = text(condition.operands[0], frame);
+    Operand room;
+    const Operand& judged = text(condition.operands[0], frame, room);
     const bool tells = reason != nullptr;
     Progress furthest;
     for (const Shape& shape : condition.shapes) {

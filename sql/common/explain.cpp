@@ -109,15 +109,16 @@ std::string reason(const OstrelCheck& called, const OstrelText* given, const Ost
                    OstrelWish wish, int code)
 {
     const Check& check = *ostrel::rules::find(called.name);
-    const Answer told = ostrel::rules::evaluate_within(ostrel::rules::kMostWork, check,
-                                                       values_of(called, given, slots), this_build());
+    Answer told;
+    ostrel::rules::explain_within(ostrel::rules::kMostWork, check, values_of(called, given, slots),
+                                  this_build(), told);
     const bool is_explained = told.is_refusal && told.code == code;
     std::string out;
     if (wish == kReason) {
-        if (is_explained) append_json_reason(out, told.reason, check);
+        if (is_explained) append_json_reason(out, std::move(told.reason), check);
         return is_explained ? out : "{}";
     }
-    return is_explained ? full_sentence(without_secret(told.reason, check), check) : out;
+    return is_explained ? full_sentence(without_secret(std::move(told.reason), check), check) : out;
 }
 
 }  // namespace

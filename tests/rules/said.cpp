@@ -9,7 +9,7 @@ namespace ostrel::rules {
 
 namespace {
 
-using Texts = std::vector<std::string>;
+using Texts = std::vector<std::string_view>;
 using Numbers = std::vector<long long>;
 
 Reason reason(std::string_view id, Datum found = {}, Datum allowed = {})

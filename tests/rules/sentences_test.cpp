@@ -31,7 +31,7 @@ TEST(SentencesTest, AreAsExpected)
 bool is_of_one(const Datum& datum)
 {
     if (const auto* number = std::get_if<long long>(&datum)) return *number == 1;
-    if (const auto* texts = std::get_if<std::vector<std::string>>(&datum)) return texts->size() == 1;
+    if (const auto* texts = std::get_if<std::vector<std::string_view>>(&datum)) return texts->size() == 1;
     if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) return numbers->size() == 1;
     const auto* set = std::get_if<Set>(&datum);
     return set == nullptr || set->size() == 1;

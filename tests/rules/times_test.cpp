@@ -54,13 +54,13 @@ TEST(TimeZoneTest, OffsetsAndNames)
     const Answer unknown = answered("+00:00", "London");
     EXPECT_EQ("tzone", unknown.reason.name);
     EXPECT_TRUE(told(unknown).starts_with("is none of -12:00, -11:00, -10:00, "));
-    EXPECT_EQ(32, std::get<std::vector<std::string>>(unknown.reason.allowed).size());
+    EXPECT_EQ(32, std::get<std::vector<std::string_view>>(unknown.reason.allowed).size());
     const Answer no_name = answered("+00:00", "");
     EXPECT_EQ("tzone", no_name.reason.name);
     EXPECT_TRUE(told(no_name).starts_with("is not part of any of -12:00, -11:00, "));
     const Answer no_offset = answered("", "tokyo");
     EXPECT_EQ("tzone_name", no_offset.reason.name);
-    EXPECT_EQ(75, std::get<std::vector<std::string>>(no_offset.reason.allowed).size());
+    EXPECT_EQ(75, std::get<std::vector<std::string_view>>(no_offset.reason.allowed).size());
 }
 
 TEST(TimeZoneTest, BothOrNone)

@@ -140,12 +140,12 @@ TEST(WordsTest, Tables)
     EXPECT_EQ("38", looked_up("6").out);
     EXPECT_EQ("3", looked_up("").out);
     EXPECT_EQ("not_in_table", looked_up("7").reason.id);
-    EXPECT_EQ(Datum(std::vector<std::string>{"1", "36", "40"}), looked_up("7").reason.allowed);
+    EXPECT_EQ(Datum(std::vector<std::string_view>{"1", "36", "40"}), looked_up("7").reason.allowed);
     const Answer unpaired = answer_of(
         {refuse(-1,
                 not_(in_table(kPairs, {{0, Match::How::kNumber, "one"}, {1, Match::How::kNumber, "two"}})))},
         {"1", "38"});
-    EXPECT_EQ(Datum(std::vector<std::string>{"36", "40"}), unpaired.reason.allowed);
+    EXPECT_EQ(Datum(std::vector<std::string_view>{"36", "40"}), unpaired.reason.allowed);
     const Step equal_cell = refuse(-1, not_(in_table(kPairs, {{0, Match::How::kEqual, "one"}})));
     EXPECT_EQ(0, answer_of({equal_cell}, {"36"}).code);
     EXPECT_EQ(-1, answer_of({equal_cell}, {"036"}).code);

@@ -17,8 +17,13 @@ constexpr std::string_view kNoDriverList = "no_driver_list";
 
 Answer answer_of(const catalogue::Function& function, const std::vector<catalogue::Value>& values)
 {
-    return rules::evaluate_within(rules::kMostWork, *function.check, catalogue::completed(function, values),
-                                  gateway());
+    Answer answer;
+    const auto explain = [&](std::span<const catalogue::Value> all) {
+        rules::explain_within(rules::kMostWork, *function.check, all, gateway(), answer);
+    };
+    values.size() == function.arguments.size() ? explain(values)
+                                               : explain(catalogue::completed(function, values));
+    return answer;
 }
 
 std::size_t position_of(const catalogue::Function& function)
