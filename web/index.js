@@ -15,14 +15,17 @@ const kNothingWritten = Object.freeze({});
 
 // Verdict has what was answered. What was printed is learnt by judging once more, for few ask.
 class Verdict {
-  #of;  // how to learn more: print and explain
-  #printed;
+  #asked;  // print and explain
+  #judged;
+  #values;
 
-  constructor(valid, code, after, of) {
-    this.valid = valid;
+  constructor(code, after, asked, judged, values) {
+    this.valid = judged.isVerdict ? code === 0 : null;
     this.code = code;
     this.after = after;
-    this.#of = of;
+    this.#asked = asked;
+    this.#judged = judged;
+    this.#values = values;
   }
 
   get name() {
@@ -30,15 +33,15 @@ class Verdict {
   }
 
   get lines() {
-    return (this.#printed ??= this.#of(true))[1];
+    return this.#asked.print(this.#judged, this.#values)[1];
   }
 
   get stderr() {
-    return (this.#printed ??= this.#of(true))[2];
+    return this.#asked.print(this.#judged, this.#values)[2];
   }
 
   get reason() {
-    return this.valid === false ? this.#of(false) : Promise.resolve(null);
+    return this.valid === false ? this.#asked.explain(this.#judged, this.#values) : Promise.resolve(null);
   }
 }
 
@@ -49,12 +52,13 @@ class Ostrel {
   #stack;
   #view = new Uint8Array();
   #base;
-  #room;  // of each argument of the last call
+  #step;  // from an argument of the last call to the next
   #isLatin1;
   #reasons;
   #reasonOf;
   #loadReasons;
-  #numbers = new Map(checks.map(({name}, number) => [name, number]));
+  #judged;  // by the name of the check, what is known of it for every call
+  #asked = {print: (...call) => this.#print(...call), explain: (...call) => this.#explain(...call)};  // by verdicts
   #isBusy = false;
   #message;
   #printed = null;  // by the number of the stream, while that is wanted
@@ -88,27 +92,29 @@ class Ostrel {
     this.#stack = exports.__stack_pointer.value;
     this.#base = exports.__heap_base.value;
     exports.ostrel_configure(isLong64, compare !== undefined, convert !== undefined);
+    this.#judged = new Map(checks.map((check, number) => [check.name, {
+      check, number, run: exports[check.name], isVerdict: check.answers !== 'number',
+      takesText: check.arguments.length === 1 && check.arguments[0].kind === 'text'}]));
   }
 
   judge(name, ...given) {
-    const number = this.#numbers.get(name);
-    if (number === undefined) throw new RangeError(`there is no check ${name}`);
-    const check = checks[number];
+    const judged = this.#judged.get(name);
+    if (judged === undefined) throw new RangeError(`there is no check ${name}`);
+    const {check} = judged;
     let values = given.length === check.arguments.length ? given : complete(check, given);
     // What the caller does with an array later does not matter.
     if (check.writes) values = values.map((value) => (Array.isArray(value) ? [...value] : value));
-    const code = this.#call(check, values);
-    const valid = check.answers === 'number' ? null : code === 0;
-    return new Verdict(valid, code, check.writes ? this.#after(check, values) : kNothingWritten,
-                       (prints) => (prints ? this.#print(check, values) : this.#explain(check, number, values)));
+    const code = judged.takesText && isText(values[0]) ? this.#callWithText(judged, values)
+                                                       : this.#call(judged, values);
+    return new Verdict(code, check.writes ? this.#after(check, values) : kNothingWritten, this.#asked, judged, values);
   }
 
-  #print(check, values) {
+  #print(judged, values) {
     const printed = [null, [], []];
     this.#printed = printed;
     this.#message = '';
     try {
-      this.#call(check, values);
+      this.#call(judged, values);
     } finally {
       this.#printed = null;
     }
@@ -129,9 +135,16 @@ class Ostrel {
     this.#message = '';
   }
 
+  // #callWithText is #call where there is one argument, a text: most calls are.
+  #callWithText(judged, values) {
+    const text = values[0];
+    put(this.#room(kSpare + most(text, this.#isLatin1)), this.#base, text, this.#isLatin1);
+    return this.#run(judged, values, this.#base);
+  }
+
   // #call gives each argument the same room.
-  #call(check, values) {
-    if (this.#isBusy) throw new Error('called by itself');
+  #call(judged, values) {
+    const {check} = judged;
     let room = kSpare;
     for (let i = 0; i < values.length; ++i) {
       const value = values[i];
@@ -140,19 +153,20 @@ class Ostrel {
       if (isText(value)) room += most(value, this.#isLatin1);
       else if (value?.length) for (const text of value) room += most(text, this.#isLatin1);
     }
-    const missing = this.#base + room * values.length - this.#bytes().length;
-    if (missing > 0) this.#rules.memory.grow(Math.ceil(missing / kPage));
-
-    const bytes = this.#bytes();
+    const bytes = this.#room(room * values.length);
     const passed = [];
     for (let i = 0; i < values.length; ++i) {
       const at = this.#base + i * room;
       passed.push(this.#put(bytes, at, room, check.arguments[i], values[i]) ? at : values[i]);
     }
-    this.#room = room;
+    this.#step = room;
+    return this.#run(judged, values, passed[0], passed[1], passed[2], passed[3]);
+  }
+
+  #run({check, run}, values, first, second, third, fourth) {
     this.#isBusy = true;
     try {
-      return this.#rules[check.name](passed[0], passed[1], passed[2], passed[3]);
+      return run(first, second, third, fourth);
     } catch (error) {
       this.#rules.__stack_pointer.value = this.#stack;
       if (!(error instanceof WebAssembly.RuntimeError && values.includes(null))) throw error;
@@ -160,6 +174,14 @@ class Ostrel {
     } finally {
       this.#isBusy = false;
     }
+  }
+
+  // #room returns the memory, with room for so many bytes of a call.
+  #room(size) {
+    if (this.#isBusy) throw new Error('called by itself');
+    const missing = this.#base + size - this.#bytes().length;
+    if (missing > 0) this.#rules.memory.grow(Math.ceil(missing / kPage));
+    return this.#bytes();
   }
 
   // #put tells whether the value is passed in memory.
@@ -181,7 +203,7 @@ class Ostrel {
 
   #after(check, values) {
     const bytes = this.#bytes();
-    const room = this.#room;
+    const room = this.#step;
     const text = (at, size) => taken(bytes, at, size, this.#isLatin1);
     const held = {
       buffer: (at) => text(at, room),
@@ -201,8 +223,8 @@ class Ostrel {
   }
 
   // #explain loads the descriptions the first time, and again where that failed.
-  async #explain(check, number, values) {
-    if (this.#reasonOf) return this.#reasonOf(check, number, values);
+  async #explain(judged, values) {
+    if (this.#reasonOf) return this.#reasonOf(judged, values);
     try {
       this.#reasons ??= this.#loadReasons();
       this.#reasonOf = await this.#reasons;
@@ -210,7 +232,7 @@ class Ostrel {
       this.#reasons = null;
       throw error;
     }
-    return this.#reasonOf(check, number, values);
+    return this.#reasonOf(judged, values);
   }
 }
 

@@ -9,72 +9,213 @@ const kUnsigned = 3;
 const kBlocks = 4;
 const kHead = 5;  // a tag and a number
 
+// Which of the numbers is what of a reason (reasons/told.h). A text has two: where it begins, and its bytes.
+const kId = 0;
+const kPart = 2;
+const kConversion = 4;
+const kItemText = 6;
+const kLimit = 8;
+const kArgument = 10;
+const kItem = 11;
+const kOffset = 12;
+const kFound = 13;
+const kAllowed = 16;
+const kReadAs = 19;
+const kSentence = 22;
+
+// What a datum is, of which two numbers follow.
+const kNothing = 0;
+const kNumber = 1;
+const kDatumText = 2;
+const kNumbers = 3;
+const kTexts = 4;
+const kKeptJson = 6;
+
+const decoder = new TextDecoder();
+
 // longest is how many bytes a call may take: each value a head, and each text of it another.
-const longest = (values, isLatin1) => values.flat().reduce(
-  (sum, value) => sum + kHead + (typeof value === 'string' ? most(value, isLatin1) : 0), kHead * values.length);
-
-// Views are kept as long as memory does not grow. Then they are empty.
-let viewed;
-let bytes = new Uint8Array();
-let view;
-
-// viewOf has bytes and view show the memory of a module.
-function viewOf(exports) {
-  if (viewed === exports && bytes.length > 0) return;
-  viewed = exports;
-  bytes = new Uint8Array(exports.memory.buffer);
-  view = new DataView(exports.memory.buffer);
+function longest(values, isLatin1) {
+  let sum = 0;
+  for (const value of values) {
+    sum += kHead;
+    if (typeof value === 'string') sum += most(value, isLatin1);
+    else if (value?.length) for (const text of value) sum += kHead + most(text, isLatin1);
+  }
+  return sum;
 }
 
-// writeCall writes the call where the module reads it, and returns its bytes.
-export function writeCall(exports, check, values, isLatin1) {
-  let at = exports.reserve(longest(values, isLatin1));
-  const begin = at;
-  viewOf(exports);
-  const putText = (text) => {
-    const end = put(bytes, at + 4, text, isLatin1);
-    view.setUint32(at, end - at - 4, true);
-    at = end;
-  };
-  check.arguments.forEach(({kind}, i) => {
-    const value = values[i];
-    if (value === null) {
-      bytes[at++] = kNull;
-    } else if (typeof value === 'string') {
-      bytes[at++] = kText;
-      putText(value);
-    } else {
-      bytes[at++] = kind === 'blocks' ? kBlocks : kind === 'unsigned' ? kUnsigned : kInteger;
-      view.setUint32(at, kind === 'blocks' ? value.length : value, true);
-      at += 4;
-      if (kind === 'blocks') value.forEach(putText);
+// Memory is that of a module, with the place where it reads calls.
+export class Memory {
+  #exports;
+  #isLatin1;
+  #bytes = new Uint8Array();
+  #view;
+  #numbers;
+  #room = 0;
+  #begin;
+
+  constructor(exports, isLatin1) {
+    this.#exports = exports;
+    this.#isLatin1 = isLatin1;
+  }
+
+  // #look takes the views anew when memory has grown: those that are kept then are empty, and silently stay so.
+  #look() {
+    if (this.#bytes.length > 0) return;
+    const {buffer} = this.#exports.memory;
+    this.#bytes = new Uint8Array(buffer);
+    this.#view = new DataView(buffer);
+    this.#numbers = new Int32Array(buffer);
+  }
+
+  // write writes a call.
+  write(check, values) {
+    const size = longest(values, this.#isLatin1);
+    if (size > this.#room) {
+      this.#begin = this.#exports.reserve(size);
+      this.#room = size;
     }
-  });
-  exports.reserve(at - begin);
-  return at - begin;
+    this.#look();
+    const bytes = this.#bytes;
+    let at = this.#begin;
+    for (let i = 0; i < values.length; ++i) {
+      const value = values[i];
+      if (value === null) {
+        bytes[at++] = kNull;
+      } else if (typeof value === 'string') {
+        bytes[at++] = kText;
+        at = this.#put(at, value);
+      } else {
+        const {kind} = check.arguments[i];
+        bytes[at++] = kind === 'blocks' ? kBlocks : kind === 'unsigned' ? kUnsigned : kInteger;
+        this.#view.setUint32(at, kind === 'blocks' ? value.length : value, true);
+        at += 4;
+        if (kind === 'blocks') for (const text of value) at = this.#put(at, text);
+      }
+    }
+  }
+
+  #put(at, text) {
+    const end = put(this.#bytes, at + 4, text, this.#isLatin1);
+    this.#view.setUint32(at, end - at - 4, true);
+    return end;
+  }
+
+  // numbers returns the memory as numbers, until a call is written.
+  numbers() {
+    this.#look();
+    return this.#numbers;
+  }
+
+  text(at, length) {
+    return take(this.#bytes, at, length, true);
+  }
+
+  // sentence is a text in ASCII, for which the decoder is the quickest.
+  sentence(at, length) {
+    return decoder.decode(this.#bytes.subarray(at, at + length));
+  }
 }
 
-export function reasonsOf(module, {isLatin1, isLong64, channels}) {
-  const start = () => {
+const asText = (text) => text;
+const asData = (json) => Object.freeze(JSON.parse(json));
+
+// whole puts a number of 64 bits together.
+const whole = (low, high) => (low >> 31 === high ? low : high * 2 ** 32 + (low >>> 0));
+
+// Reasons is a module that runs. What stays at its place there is read once.
+class Reasons {
+  #exports;
+  #memory;
+  #told;  // which of the numbers in memory is the first of a reason
+  #keptData = new Map();
+
+  constructor(module, {isLatin1, isLong64, channels}) {
     const {exports} = new WebAssembly.Instance(module);
+    this.#exports = exports;
+    this.#memory = new Memory(exports, isLatin1);
+    this.#told = exports.told() / 4;
     exports.configure(isLong64);
     channels.forEach((channel) => exports.add_channel(channel));
-    return exports;
-  };
-  let exports = start();
-  const told = (length) => {
-    viewOf(exports);
-    return length === 0 ? null : JSON.parse(take(bytes, exports.reason(), length, true));
-  };
-  return (check, number, values) => {
+  }
+
+  #kept(at, length, made) {
+    let kept = this.#keptData.get(at);
+    if (kept === undefined) this.#keptData.set(at, kept = made(this.#memory.text(at, length)));
+    return kept;
+  }
+
+  #keptText(at, length) {
+    return this.#kept(at, length, asText);
+  }
+
+  #datum(numbers, field) {
+    const first = numbers[field + 1];
+    const second = numbers[field + 2];
+    switch (numbers[field]) {
+      case kNumber:
+        return whole(first, second);
+      case kDatumText:
+        return this.#memory.text(first, second);
+      case kNumbers:
+      case kTexts: {
+        const list = [];
+        const isText = numbers[field] === kTexts;
+        for (let at = first >> 2, left = second; left > 0; --left, at += 2) {
+          list.push(isText ? this.#keptText(numbers[at], numbers[at + 1]) : whole(numbers[at], numbers[at + 1]));
+        }
+        return list;
+      }
+      case kKeptJson:
+        return this.#kept(first, second, asData);
+      default:
+        return JSON.parse(this.#memory.text(first, second));
+    }
+  }
+
+  explain({check, number}, values) {
+    this.#memory.write(check, values);
+    return this.#exports.explain(number) === 0 ? null : this.#reason(check);
+  }
+
+  #reason(check) {
+    const memory = this.#memory;
+    const numbers = memory.numbers();
+    const at = this.#told;
+    const textAt = (field) => this.#keptText(numbers[at + field], numbers[at + field + 1]);
+    const reason = {id: textAt(kId)};
+    if (numbers[at + kArgument] >= 0) reason.argument = check.arguments[numbers[at + kArgument]].name;
+    if (numbers[at + kPart + 1] > 0) reason.part = memory.text(numbers[at + kPart], numbers[at + kPart + 1]);
+    if (numbers[at + kConversion + 1] > 0) reason.conversion = textAt(kConversion);
+    if (numbers[at + kItem] >= 0) reason.item = numbers[at + kItem];
+    if (numbers[at + kItemText + 1] > 0) {
+      reason.item_text = memory.text(numbers[at + kItemText], numbers[at + kItemText + 1]);
+    }
+    if (numbers[at + kOffset] >= 0) reason.offset = numbers[at + kOffset];
+    if (numbers[at + kFound] !== kNothing) reason.found = this.#datum(numbers, at + kFound);
+    if (numbers[at + kAllowed] !== kNothing) reason.allowed = this.#datum(numbers, at + kAllowed);
+    if (numbers[at + kReadAs] !== kNothing) reason.read_as = this.#datum(numbers, at + kReadAs);
+    if (numbers[at + kLimit + 1] > 0) reason.limit = textAt(kLimit);
+    reason.text = memory.sentence(numbers[at + kSentence], numbers[at + kSentence + 1]);
+    return reason;
+  }
+
+  tooMuchWork() {
+    this.#exports.too_much_work();
+    return this.#reason();
+  }
+}
+
+export function reasonsOf(module, options) {
+  let reasons = new Reasons(module, options);
+  return (judged, values) => {
     try {
-      writeCall(exports, check, values, isLatin1);
-      return told(exports.explain(number));
+      return reasons.explain(judged, values);
     } catch (error) {
       // A list so long that its reason is not worth the work ends the module.
       if (!(error instanceof WebAssembly.RuntimeError)) throw error;
-      exports = start();
-      return told(exports.too_much_work());
+      reasons = new Reasons(module, options);
+      return reasons.tooMuchWork();
     }
   };
 }

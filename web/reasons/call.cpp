@@ -17,56 +17,61 @@ std::string call;
 
 class Reader {
  public:
-    explicit Reader(std::string_view rest) : rest_(rest) {}
+    explicit Reader(const char* begin) : next_(begin) {}
 
-    [[nodiscard]] bool is_at_end() const { return rest_.empty(); }
-
-    Value value()
+    // read sets a value, in the memory of the one before where both are texts.
+    void read(Value& value)
     {
-        const char tag = rest_.front();
-        rest_.remove_prefix(1);
-        if (tag == kNull) return nullptr;
-        if (tag == kText) return text();
-        const std::uint32_t number = this->number();
-        if (tag == kInteger) return static_cast<long long>(static_cast<std::int32_t>(number));
-        if (tag == kUnsigned) return static_cast<long long>(number);
-        std::vector<std::string> blocks;
-        for (std::uint32_t i = 0; i < number; ++i) blocks.push_back(text());
-        return blocks;
+        const char tag = *next_++;
+        if (tag == kNull) {
+            value = nullptr;
+        } else if (tag == kText) {
+            auto* const before = std::get_if<std::string>(&value);
+            (before == nullptr ? value.emplace<std::string>() : *before).assign(text());
+        } else if (tag == kInteger) {
+            value = static_cast<long long>(static_cast<std::int32_t>(number()));
+        } else if (tag == kUnsigned) {
+            value = static_cast<long long>(number());
+        } else {
+            const std::uint32_t count = number();
+            auto& blocks = value.emplace<std::vector<std::string>>();
+            for (std::uint32_t i = 0; i < count; ++i) blocks.emplace_back(text());
+        }
     }
 
  private:
     std::uint32_t number()
     {
         std::uint32_t number = 0;
-        std::memcpy(&number, rest_.data(), sizeof number);
-        rest_.remove_prefix(sizeof number);
+        std::memcpy(&number, next_, sizeof number);
+        next_ += sizeof number;
         return number;
     }
 
-    std::string text()
+    std::string_view text()
     {
         const std::uint32_t length = number();
-        std::string text(rest_.substr(0, length));
-        rest_.remove_prefix(length);
-        return text;
+        next_ += length;
+        return {next_ - length, length};
     }
 
-    std::string_view rest_;
+    const char* next_;
 };
 
 }  // namespace
 
-std::vector<Value> written_call()
+const std::vector<Value>& written_call(const rules::Check& check)
 {
-    std::vector<Value> values;
-    for (Reader reader(call); !reader.is_at_end();) values.push_back(reader.value());
+    static std::vector<Value> values;
+    values.resize(check.arguments.size());
+    Reader reader(call.data());
+    for (Value& value : values) reader.read(value);
     return values;
 }
 
 char* room_for_call(std::size_t size)
 {
-    call.resize(size);
+    if (size > call.size()) call.resize(size);
     return call.data();
 }
 

@@ -4,17 +4,22 @@
 #include <string>
 
 #include "rules/evaluate.h"
-#include "rules/reason_json.h"
 #include "rules/rules.h"
+#include "rules/sentences.h"
 #include "web/reasons/call.h"
 #include "web/reasons/memory.h"
 #include "web/reasons/pack.h"
+#include "web/reasons/told.h"
 
 namespace {
 
 using ostrel::rules::Build;
+using ostrel::web::Told;
 
-std::string answer;
+Told told;
+ostrel::rules::Answer answer;
+const ostrel::rules::Check* called = nullptr;
+std::string sentence;
 
 Build gateway = {OSTREL_MODEL, OSTREL_ACCOUNT_REALM, OSTREL_SETUP_REALM, Build::Atoi::kLong32,
                  std::vector<int>()};
@@ -26,6 +31,12 @@ const std::vector<ostrel::rules::Check>& descriptions()
 {
     static const auto checks = ostrel::web::unpack(packed);
     return checks;
+}
+
+void tell()
+{
+    sentence = full_sentence(answer.reason, *called);
+    ostrel::web::tell(told, answer.reason, sentence);
 }
 
 }  // namespace
@@ -54,27 +65,25 @@ OSTREL_EXPORT(add_channel) void ostrel_add_channel(int channel) { gateway.channe
 
 OSTREL_EXPORT(reserve) char* ostrel_reserve(std::size_t size) { return ostrel::web::room_for_call(size); }
 
-// ostrel_explain returns the bytes of the reason of the call that was written; 0 where it is no refusal.
-OSTREL_EXPORT(explain) std::size_t ostrel_explain(std::size_t check)
+// ostrel_told returns where explain tells the reason.
+OSTREL_EXPORT(told) const Told* ostrel_told() { return &told; }
+
+// ostrel_explain tells the reason of the call that was written; it returns false where the call is no refusal.
+OSTREL_EXPORT(explain) bool ostrel_explain(std::size_t check)
 {
-    answer.clear();
-    const ostrel::rules::Check& called = descriptions()[check];
-    const auto told = ostrel::rules::evaluate_within(ostrel::rules::kMostWork, called,
-                                                     ostrel::web::written_call(), gateway);
-    if (told.is_refusal) ostrel::rules::append_json_reason(answer, told.reason, called);
-    return answer.size();
+    called = &descriptions()[check];
+    explain_within(ostrel::rules::kMostWork, *called, ostrel::web::written_call(*called), gateway, answer);
+    if (!answer.is_refusal) return false;
+    hide_secret(answer.reason, *called);
+    tell();
+    return true;
 }
 
-// ostrel_too_much_work returns the bytes of the reason of a call that explain did not return from.
-OSTREL_EXPORT(too_much_work) std::size_t ostrel_too_much_work()
+// ostrel_too_much_work tells the reason of a call that explain did not return from.
+OSTREL_EXPORT(too_much_work) void ostrel_too_much_work()
 {
-    ostrel::rules::Reason reason;
-    reason.id = "too_much_work";
-    answer.clear();
-    ostrel::rules::append_json_reason(answer, reason, descriptions().front());
-    return answer.size();
+    called = &descriptions().front();
+    answer.reason.id = "too_much_work";
+    tell();
 }
-
-// ostrel_reason returns the JSON of that reason.
-OSTREL_EXPORT(reason) const char* ostrel_reason() { return answer.data(); }
 }

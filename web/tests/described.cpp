@@ -14,8 +14,8 @@ __attribute__((export_name("reserve"))) char* ostrel_reserve(std::size_t size)
 // ostrel_room returns the bytes that a buffer must have, -1 where the text that is in it is all.
 __attribute__((export_name("room"))) int ostrel_room(std::size_t check, std::size_t argument)
 {
-    const auto values = ostrel::web::written_call();
-    const auto room = ostrel::rules::room(ostrel::rules::checks().at(check), argument, values);
+    const auto& described = ostrel::rules::checks().at(check);
+    const auto room = ostrel::rules::room(described, argument, ostrel::web::written_call(described));
     return room ? static_cast<int>(*room) : -1;
 }
 
@@ -25,7 +25,7 @@ __attribute__((export_name("code"))) int ostrel_code(std::size_t check)
     ostrel::rules::Build build;
     build.atoi = ostrel::rules::Build::Atoi::kLong32;
     build.channels.emplace();
-    return ostrel::rules::evaluate(ostrel::rules::checks().at(check), ostrel::web::written_call(), build)
-        .code;
+    const auto& described = ostrel::rules::checks().at(check);
+    return ostrel::rules::evaluate(described, ostrel::web::written_call(described), build).code;
 }
 }

@@ -1,12 +1,13 @@
 // What the descriptions say of a call besides the reason.
 
-import {writeCall} from '../reasons.js';
+import {Memory} from '../reasons.js';
 import {checks, moduleOf} from './files.js';
 
 // What ends a program is never called.
 const noWasi = {wasi_snapshot_preview1: new Proxy({}, {get: () => () => 0})};
 const {exports} = new WebAssembly.Instance(moduleOf('described.wasm'), noWasi);
 exports._initialize();
+const memory = new Memory(exports, true);
 const stackPointer = exports.__stack_pointer.value;
 
 // answered gives what the call of an export answers, and null where the description reads NULL, fails an assertion or
@@ -23,12 +24,12 @@ function answered(call) {
 
 // roomOf gives the bytes that a buffer must have; -1: those of the text in it.
 export function roomOf(check, argument, values) {
-  writeCall(exports, check, values, true);
+  memory.write(check, values);
   return answered(() => exports.room(checks.indexOf(check), argument)) ?? -1;
 }
 
 // describedCode gives the answer; null: the contract says nothing of the call.
 export function describedCode(check, values) {
-  writeCall(exports, check, values, true);
+  memory.write(check, values);
   return answered(() => exports.code(checks.indexOf(check)));
 }

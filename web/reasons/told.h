@@ -1,0 +1,56 @@
+// What the page reads of a reason, without JSON.
+#ifndef OSTREL_WEB_REASONS_TOLD_H
+#define OSTREL_WEB_REASONS_TOLD_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "rules/reason.h"
+
+namespace ostrel::web {
+
+// Told is memory that the page reads as numbers of 32 bits, in this order (reasons.js).
+struct Told {
+    static constexpr std::int32_t kNone = -1;
+
+    struct Text {
+        const char* begin = nullptr;
+        std::size_t size = 0;
+    };
+
+    struct Datum {
+        enum Kind : std::int32_t {
+            kNothing,
+            kNumber,   // the low and the high 32 bits
+            kText,     // where it begins, and its bytes; and so on
+            kNumbers,  // each the low and the high 32 bits
+            kTexts,    // each where it begins and its bytes, which stay there
+            kJson,
+            kKeptJson,  // which stays there
+        };
+        Kind kind = kNothing;
+        std::int32_t first = 0;
+        std::int32_t second = 0;
+    };
+
+    Text id;
+    Text part;
+    Text conversion;
+    Text item_text;
+    Text limit;
+    std::int32_t argument = kNone;
+    std::int32_t item = kNone;
+    std::int32_t offset = kNone;
+    Datum found;
+    Datum allowed;
+    Datum read_as;
+    Text sentence;
+};
+
+// tell shows a reason and its sentence, which must stay as long as the page reads them.
+void tell(Told& told, const rules::Reason& reason, std::string_view sentence);
+
+}  // namespace ostrel::web
+
+#endif
