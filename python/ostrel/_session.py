@@ -114,7 +114,7 @@ class Session(Calls):
             raise MalformedCall(verdict.meaning)
         return verdict
 
-    def judge_many(self, cases: Iterable[Case], *, block: int = 4096) -> Iterator[Verdict]:
+    def judge_many(self, cases: Iterable[Case], *, block: int = 1024) -> Iterator[Verdict]:
         """judge_many judges cases, each the name of a check and its arguments, and yields the verdicts in their
         order. It takes a block of them at a time and asks for the next one when those verdicts are used up. A case
         that cannot be called has the verdict "malformed", so that one bad record does not end all."""

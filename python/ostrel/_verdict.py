@@ -2,7 +2,6 @@
 
 import base64
 import json
-import re
 from collections.abc import Mapping
 from dataclasses import dataclass, field
 from types import MappingProxyType
@@ -129,19 +128,46 @@ def text_of(value: Any) -> str:
     return base64.b64decode(value["base64"]).decode("utf-8", "surrogateescape")
 
 
+# Sets of the descriptions, by their words. There are few of them, and to make one takes longer than to find it.
+_sets: dict[str, CharacterSet] = {}
+_MOST_SETS = 256
+
+
+def _set(value: dict[str, Any]) -> CharacterSet:
+    known = _sets.get(value["text"])
+    members = text_of(value["members"])
+    if known is None or known.members != members:
+        known = CharacterSet(value["text"], members)
+        if len(_sets) < _MOST_SETS:
+            _sets[known.text] = known
+    return known
+
+
 def _datum(value: Any) -> Any:
-    if isinstance(value, list):
-        return tuple(map(_datum, value))
-    if isinstance(value, dict):
-        return CharacterSet(value["text"], text_of(value["members"])) if "members" in value else text_of(value)
+    kind = type(value)
+    if kind is list:
+        return tuple(map(_datum, value)) if dict in map(type, value) else tuple(value)
+    if kind is dict:
+        return _set(value) if "members" in value else text_of(value)
     return value
 
 
 def _reason(members: dict[str, Any]) -> Reason:
-    for name, value in members.items():
-        if isinstance(value, (dict, list)):
-            members[name] = _datum(value)
+    # Only these may be more than a text or a number.
+    for name in ("item_text", "found", "allowed"):
+        if name in members and type(members[name]) in (dict, list):
+            members[name] = _datum(members[name])
     return _made(Reason, members)
+
+
+def _lines(out: str) -> tuple[str, ...]:
+    """_lines splits what was printed after each line end."""
+    lines = out.split("\n")
+    last = lines.pop()
+    printed = [line + "\n" for line in lines]
+    if last:
+        printed.append(last)
+    return tuple(printed)
 
 
 def _made(kind: type[T], members: dict[str, Any]) -> T:
@@ -150,8 +176,6 @@ def _made(kind: type[T], members: dict[str, Any]) -> T:
     object.__setattr__(made, "__dict__", members)
     return made
 
-
-_LINE = re.compile(r"[^\n]*\n|[^\n]+")
 
 # Verdicts without anything of their own, by their line: at most one for each check.
 _plain: dict[str, Verdict] = {}
@@ -174,7 +198,7 @@ def _verdict(line: str, row: dict[str, Any]) -> Verdict:
     out = row.pop("out", "")
     after = row.get("after")
     if out:
-        row["lines"] = tuple(_LINE.findall(text_of(out)))
+        row["lines"] = _lines(text_of(out))
     row["after"] = MappingProxyType({name: _datum(value) for name, value in after.items()}) if after else NOTHING
     if row.get("err"):
         row["err"] = text_of(row["err"])
