@@ -50,9 +50,6 @@ void append_piece(std::string& out, Field field, std::string_view text, const Re
         case Field::kPosition:
             out += counted(reason.offset);
             break;
-        case Field::kItem:
-            out += counted(reason.item);
-            break;
         case Field::kRange:
             out += range(reason.allowed);
             break;

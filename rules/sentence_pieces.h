@@ -20,7 +20,6 @@ enum class Field : unsigned char {
     kForm,
     kByte,
     kPosition,
-    kItem,
     kRange,
     kRead,
     kReadAs,

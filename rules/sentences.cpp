@@ -91,10 +91,9 @@ struct Named {
 };
 
 constexpr Named kFields[] = {
-    {"found", Field::kFound},       {"allowed", Field::kAllowed}, {"form", Field::kForm},
-    {"byte", Field::kByte},         {"item", Field::kItem},       {"range", Field::kRange},
-    {"position", Field::kPosition}, {"read", Field::kRead},       {"read_as", Field::kReadAs},
-    {"limit", Field::kLimit},
+    {"found", Field::kFound}, {"allowed", Field::kAllowed}, {"form", Field::kForm},
+    {"byte", Field::kByte},   {"range", Field::kRange},     {"position", Field::kPosition},
+    {"read", Field::kRead},   {"read_as", Field::kReadAs},  {"limit", Field::kLimit},
 };
 
 // taken_apart is called by the compiler, which refuses what is not a name.

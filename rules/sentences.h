@@ -17,7 +17,7 @@ namespace ostrel::rules {
 //                        how many there are and which is most like what was found
 //   {form}               what the text is, which stands in what is allowed
 //   {byte}               the byte that was found, shown so that it can be printed
-//   {position} {item}    the offset and the item, counted from 1
+//   {position}           the offset, counted from 1
 //   {range}              the two limits that are allowed
 //   {read}               "read as " where the text is not just the number that is found
 //   {read_as}            the number that was made of one beyond an int

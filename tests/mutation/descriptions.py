@@ -17,7 +17,8 @@ from tokens import closing
 
 # What evaluates descriptions and tells reasons. The descriptions themselves are the files that list checks.
 EVALUATION = {"build", "character_references", "condition_words", "conditions", "evaluate", "expression_words", "lists",
-              "number_conditions", "operands", "register", "sentences", "set", "step_words", "text_conditions"}
+              "number_conditions", "operands", "register", "say", "sentences", "set", "step_words",
+              "text_conditions"}
 
 # Words of which each stands where the other could.
 PAIRS = [("below", "above"), ("shorter_than", "longer_than"), ("one_of", "none_of"), ("empty", "not_empty"),

@@ -76,7 +76,7 @@ TEST(SentencesTest, AreExpectedInEveryForm)
 TEST(SentencesTest, HaveNoOtherFields)
 {
     const std::regex field(
-        "\\{(found|allowed)(:[^{}|:]*\\|[^{}|:]*)?\\}|\\{(byte|form|item|limit|position|range|read|read_as)"
+        "\\{(found|allowed)(:[^{}|:]*\\|[^{}|:]*)?\\}|\\{(byte|form|limit|position|range|read|read_as)"
         "\\}");
     for (const Sentence& known : sentences()) {
         const std::string left = std::regex_replace(std::string(known.text), field, "");
