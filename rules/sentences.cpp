@@ -1,8 +1,9 @@
 // The table of sentences.
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "rules/sentence_pieces.h"
 
@@ -96,8 +97,8 @@ constexpr Named kFields[] = {
     {"read", Field::kRead},   {"read_as", Field::kReadAs},  {"limit", Field::kLimit},
 };
 
-// taken_apart is called by the compiler, which refuses what is not a name.
-constexpr Pieces taken_apart(std::string_view text)
+// Throws std::logic_error for a field that there is not.
+Pieces taken_apart(std::string_view text)
 {
     Pieces pieces;
     const auto add = [&](Field field, std::size_t begin, std::size_t end) {
@@ -112,7 +113,7 @@ constexpr Pieces taken_apart(std::string_view text)
         const std::size_t colon = text.find(':', begin);
         const std::string_view name = text.substr(begin + 1, std::min(colon, end) - begin - 1);
         const auto* const known = std::ranges::find(kFields, name, &Named::name);
-        if (known == std::end(kFields)) throw std::logic_error("no field");
+        if (known == std::end(kFields)) throw std::logic_error("no field: " + std::string(name));
         if (colon > end) {
             add(known->field, 0, 0);
         } else {
@@ -123,12 +124,6 @@ constexpr Pieces taken_apart(std::string_view text)
     }
     return pieces;
 }
-
-constexpr auto kPieces = [] {
-    std::array<Pieces, std::size(kSentences)> all{};
-    for (std::size_t i = 0; i < all.size(); ++i) all.at(i) = taken_apart(kSentences[i].text);
-    return all;
-}();
 
 }  // namespace
 
@@ -142,6 +137,11 @@ const Sentence* find_sentence(std::string_view id)
 
 const Pieces& pieces_of(const Sentence& sentence)
 {
+    static const auto kPieces = [] {
+        std::vector<Pieces> all;
+        for (const Sentence& one : kSentences) all.push_back(taken_apart(one.text));
+        return all;
+    }();
     return kPieces.at(static_cast<std::size_t>(&sentence - kSentences));
 }
 
