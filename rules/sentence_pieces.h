@@ -40,6 +40,9 @@ struct Pieces {
     std::size_t count = 0;
 };
 
+// taken_apart throws std::logic_error for a field that there is not.
+Pieces taken_apart(std::string_view text);
+
 // find_sentence returns the one of that id, or NULL.
 const Sentence* find_sentence(std::string_view id);
 

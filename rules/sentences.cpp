@@ -97,7 +97,10 @@ constexpr Named kFields[] = {
     {"read", Field::kRead},   {"read_as", Field::kReadAs},  {"limit", Field::kLimit},
 };
 
-// Throws std::logic_error for a field that there is not.
+}  // namespace
+
+std::span<const Sentence> sentences() { return kSentences; }
+
 Pieces taken_apart(std::string_view text)
 {
     Pieces pieces;
@@ -124,10 +127,6 @@ Pieces taken_apart(std::string_view text)
     }
     return pieces;
 }
-
-}  // namespace
-
-std::span<const Sentence> sentences() { return kSentences; }
 
 const Sentence* find_sentence(std::string_view id)
 {

@@ -90,6 +90,25 @@ TEST(HidingTest, HidesSecretsAlone)
     EXPECT_EQ("abc " + length_shown(3), evaluate_hiding(kMostWork, check, values, {}).out);
 }
 
+// The answer that is given is that of the call before.
+TEST(ExplainTest, NothingIsLeftOfAnotherCall)
+{
+    const std::vector<Value> refused = {"65536"};
+    const std::vector<Value> is_null = {nullptr};
+    const Check& port = *find("PARAM_check_port");
+    Answer answer;
+    explain_within(kMostWork, port, refused, {}, answer);
+    EXPECT_EQ(601, answer.code);
+    EXPECT_TRUE(answer.is_refusal);
+    EXPECT_EQ("number_too_high", answer.reason.id);
+    EXPECT_EQ("", answer.out);
+    explain_within(kMostWork, port, is_null, {}, answer);
+    EXPECT_EQ(0, answer.code);
+    EXPECT_FALSE(answer.is_refusal);
+    EXPECT_EQ(Outside::kAssertion, answer.outside);
+    EXPECT_EQ("null_asserted", answer.reason.id);
+}
+
 TEST(WriteTest, WhatIsWrittenIsJudgedFromItsBeginning)
 {
     const Answer answer = answer_of({write("one", slice(it, 1)), refuse(-1, longer_than(1))}, {"abc"});

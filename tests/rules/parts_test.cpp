@@ -93,6 +93,13 @@ TEST(PartsTest, OfTheSameNameAreNumbered)
     EXPECT_EQ(2, item.reason.item);
 }
 
+TEST(PartsTest, MayBeItems)
+{
+    const std::vector<Step> steps = {
+        for_each(list_of(it, ','), {refuse(-1, empty(called("the entry", "item")))})};
+    EXPECT_EQ("the entry is empty", told(answer_of(steps, {"a,,b"})));
+}
+
 // An address in a list is an item, and its octets are parts of that.
 TEST(PartsTest, OfItems)
 {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <regex>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,6 +13,7 @@
 #include <vector>
 
 #include "rules/rules.h"
+#include "rules/sentence_pieces.h"
 #include "rules/sentences.h"
 #include "rules/sets.h"
 #include "rules/words.h"
@@ -201,6 +203,16 @@ TEST(SecretsTest, LeaveNoTrace)
     EXPECT_EQ(Datum(std::string("a")), left_of(of_none, std::string("a")));
 }
 
+TEST(SentencesTest, RefuseAnotherField)
+{
+    try {
+        taken_apart("is {nobody}");
+        FAIL();
+    } catch (const std::logic_error& error) {
+        EXPECT_STREQ("no field: nobody", error.what());
+    }
+}
+
 TEST(SetsTest, AreNamed)
 {
     EXPECT_EQ("printable Latin-1 characters", in_words(kLatin1));
@@ -220,6 +232,7 @@ TEST(SetsTest, AreNamed)
     EXPECT_EQ("a blank", in_words(kBlank));
     EXPECT_EQ("a quotation mark", in_words(Set("\"")));
     EXPECT_EQ("blanks and \\x1D \\x1E \\x1F", in_words(Set("\x1D\x1E\x1F ")));
+    EXPECT_EQ("! ~", in_words(Set("!~")));
     EXPECT_EQ("\"~\"", byte_in_words('~'));
     EXPECT_EQ("\\x7F", byte_in_words('\x7F'));
 }
