@@ -34,7 +34,7 @@ class Shell:
         self.shown = ""
         for line in set_up:
             self.send(line + "\n")
-        self.after("echo set-$((40+2))\n", "set-42")
+        self.at_prompt("echo set-$((40+2))\n", "set-42")
 
     def close(self):
         os.kill(self.child, signal.SIGKILL)
@@ -59,15 +59,20 @@ class Shell:
             self.read(1.0)
         return self.shown
 
+    def at_prompt(self, keys, wanted):
+        """at_prompt waits for the prompt after what is wanted: keys that come before it are the terminal's, not the
+        shell's."""
+        return self.after(keys, "(?s)" + wanted + ".*" + self.PROMPT)
+
     def completed(self, line):
         """completed returns the words of a line after the tabulator."""
         # ^A goes to the beginning of the line. What is shown is the line of the command, and then its output.
-        shown = self.after(line + "\t\x01show_words \n", r"(?s)<<(.*?)>>")
+        shown = self.at_prompt(line + "\t\x01show_words \n", "<<.*?>>")
         return re.search(r"(?s)<<(.*?)>>", shown)[1].replace("\r", "").strip("\n").split("\n")
 
     def offered(self, line):
         """offered returns all that appears when the tabulator is pressed twice; ^U takes the line away."""
-        return self.after(line + "\t\t\x15echo end-$((40+2))\n", "end-42")
+        return self.at_prompt(line + "\t\t\x15echo end-$((40+2))\n", "end-42")
 
 
 class Completion:

@@ -79,7 +79,7 @@ class Vectors(unittest.TestCase):
     def test_ids_are_those_of_the_manual_page(self):
         manual = (SOURCE / "docs" / "ostrel-check.1").read_text()
         listed = set(re.findall(r"^\.Li (\w+)(?: ,)?$", manual, re.MULTILINE))
-        sentences = (SOURCE / "rules" / "sentences.cpp").read_text().split("kSentences[] = {")[1].split("};")[0]
+        sentences = (SOURCE / "rules" / "sentences.cpp").read_text().split("kSentences[] = {")[1].split("\n};")[0]
         table = set(re.findall(r'^    \{"(\w+)",', sentences, re.MULTILINE))
         self.assertEqual(table, listed)
         self.assertLessEqual({reason["id"] for _, reason in self.reasons()}, listed)
