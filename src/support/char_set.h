@@ -9,7 +9,6 @@
 
 #include <cstdint>
 #include <cstring>
-#include <string_view>
 
 namespace ostrel {
 
@@ -36,11 +35,19 @@ consteval CharSetTexts char_set_texts()
              CHARSET_CIS_NAME}};
 }
 
+consteval bool is_same_text(const char* one, const char* other)
+{
+    for (; *one == *other; ++one, ++other) {
+        if (*one == '\0') return true;
+    }
+    return false;
+}
+
 // char_set returns the set that has these members. One that is not among the texts does not compile.
-consteval CharSet char_set(std::string_view members)
+consteval CharSet char_set(const char* members)
 {
     unsigned bit = 0;
-    while (members != char_set_texts().texts[bit]) ++bit;
+    while (!is_same_text(members, char_set_texts().texts[bit])) ++bit;
     return CharSet{static_cast<std::uint16_t>(1U << bit)};
 }
 
