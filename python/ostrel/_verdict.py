@@ -155,8 +155,8 @@ def _datum(value: Any) -> Any:
 def _reason(members: dict[str, Any]) -> Reason:
     # Only these may be more than a text or a number.
     for name in ("item_text", "found", "allowed"):
-        if name in members and type(members[name]) in (dict, list):
-            members[name] = _datum(members[name])
+        if type(value := members.get(name)) in (dict, list):
+            members[name] = _datum(value)
     return _made(Reason, members)
 
 
