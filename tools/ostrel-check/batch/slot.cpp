@@ -44,7 +44,9 @@ void Slot::give(const Chunk& chunk)
     arena_->format = chunk.format;
     arena_->preamble_size = chunk.preamble.size();
     arena_->input_size = chunk.preamble.size() + chunk.text.size();
-    std::ranges::copy(chunk.text, std::ranges::copy(chunk.preamble, arena_->input.data()).out);
+    // Not std::ranges::copy, which g++ 12 makes a loop over bytes.
+    chunk.preamble.copy(arena_->input.data(), chunk.preamble.size());
+    chunk.text.copy(arena_->input.data() + chunk.preamble.size(), chunk.text.size());
     Progress progress;
     progress.read = chunk.preamble.size();
     progress.line = progress.next = chunk.line;
