@@ -3,7 +3,7 @@
 
 namespace ostrel::rules {
 
-std::vector<Check> branding_checks()
+std::vector<Check> branding_check()
 {
     return {
         check("Param_check_ispname_value", {text("value", "the name of the provider")},

@@ -19,7 +19,7 @@ Check destination()
 
 }  // namespace
 
-std::vector<Check> forwarding_checks()
+std::vector<Check> l3forwarding_check()
 {
     return {
         check(

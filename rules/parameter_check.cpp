@@ -106,6 +106,6 @@ std::vector<Check> numbers()
 
 }  // namespace
 
-std::vector<Check> parameter_checks() { return joined_checks({lengths(), addresses_and_words(), numbers()}); }
+std::vector<Check> parameter_check() { return joined_checks({lengths(), addresses_and_words(), numbers()}); }
 
 }  // namespace ostrel::rules

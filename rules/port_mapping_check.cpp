@@ -32,7 +32,7 @@ Check port_available()
 
 }  // namespace
 
-std::vector<Check> port_mapping_checks()
+std::vector<Check> port_mapping_check()
 {
     return {
         check("PORTMAPPING_check_remote_host", {text("value_p", "the host that the mapping is open to")},

@@ -3,7 +3,7 @@
 
 namespace ostrel::rules {
 
-std::vector<Check> ppp_checks()
+std::vector<Check> ppp_check()
 {
     return {
         check("PPP_check_connection_type", {text("value", "the type of the connection")},

@@ -27,22 +27,24 @@ std::vector<Check> addresses();
 std::vector<Check> accounts();
 std::vector<Check> subnets();
 std::vector<Check> wireless();
-std::vector<Check> parameter_checks();
-std::vector<Check> ppp_checks();
-std::vector<Check> lan_checks();
-std::vector<Check> wlan_checks();
-std::vector<Check> wlan_modes();  // the four that wlan_checks is made of
-std::vector<Check> wlan_keys();
-std::vector<Check> wlan_radio();
-std::vector<Check> wlan_settings();
+std::vector<Check> parameter_check();
+std::vector<Check> ppp_check();
+std::vector<Check> lan_check_host_configuration();
+std::vector<Check> lan_check_list_editing();
+std::vector<Check> wlan_check_security_modes();
+std::vector<Check> wlan_check_keys();
+std::vector<Check> wlan_check_radio();
+std::vector<Check> wlan_check_settings();
 std::vector<Check> hosts();
 std::vector<Check> date_time();
 std::vector<Check> names();
-std::vector<Check> port_mapping_checks();
-std::vector<Check> forwarding_checks();
-std::vector<Check> management_checks();
-std::vector<Check> time_checks();
-std::vector<Check> branding_checks();
+std::vector<Check> port_mapping_check();
+std::vector<Check> l3forwarding_check();
+std::vector<Check> mgtserver_check_management_server();
+std::vector<Check> mgtserver_check_guest_access();
+std::vector<Check> mgtserver_check_hnap_core();
+std::vector<Check> time_check();
+std::vector<Check> branding_check();
 
 }  // namespace ostrel::rules
 

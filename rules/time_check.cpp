@@ -167,7 +167,7 @@ Check printable(std::string_view name, std::string_view what, Step refusal)
 
 }  // namespace
 
-std::vector<Check> time_checks()
+std::vector<Check> time_check()
 {
     const Effects out_of_range =
         line("Error in TIME_check_ntpserver_length: <value> is out of range for the value of NTPServer\n");

@@ -3,9 +3,9 @@
 
 #include <cstring>
 
-#include "support/char_set.h"
-#include "support/keywords.h"
-#include "support/report.h"
+#include "src/support/char_set.h"
+#include "src/support/keywords.h"
+#include "src/support/report.h"
 
 using namespace ostrel;
 

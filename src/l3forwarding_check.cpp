@@ -4,11 +4,11 @@
 
 #include <climits>
 
-#include "support/keywords.h"
-#include "support/number.h"
-#include "support/report.h"
-#include "support/text.h"
-#include "verdict.h"
+#include "src/support/keywords.h"
+#include "src/support/number.h"
+#include "src/support/report.h"
+#include "src/support/text.h"
+#include "src/verdict.h"
 
 using namespace ostrel;
 

@@ -3,16 +3,16 @@
 
 #include <cstring>
 
-#include "primitives/accounts.h"
-#include "primitives/addresses.h"
-#include "primitives/strings.h"
-#include "support/assertion.h"
-#include "support/char_set.h"
-#include "support/keywords.h"
-#include "support/number.h"
-#include "support/report.h"
-#include "support/text.h"
-#include "verdict.h"
+#include "src/accounts.h"
+#include "src/addresses.h"
+#include "src/strings.h"
+#include "src/support/assertion.h"
+#include "src/support/char_set.h"
+#include "src/support/keywords.h"
+#include "src/support/number.h"
+#include "src/support/report.h"
+#include "src/support/text.h"
+#include "src/verdict.h"
 
 using namespace ostrel;
 

@@ -2,11 +2,11 @@
 #include <ostrel/port_mapping_check.h>
 #include <ostrel/result_code.h>
 
-#include "primitives/names.h"
-#include "support/assertion.h"
-#include "support/number.h"
-#include "support/report.h"
-#include "verdict.h"
+#include "src/names.h"
+#include "src/support/assertion.h"
+#include "src/support/number.h"
+#include "src/support/report.h"
+#include "src/verdict.h"
 
 using namespace ostrel;
 

@@ -3,12 +3,12 @@
 
 #include <climits>
 
-#include "primitives/accounts.h"
-#include "primitives/strings.h"
-#include "support/char_set.h"
-#include "support/keywords.h"
-#include "support/report.h"
-#include "verdict.h"
+#include "src/accounts.h"
+#include "src/strings.h"
+#include "src/support/char_set.h"
+#include "src/support/keywords.h"
+#include "src/support/report.h"
+#include "src/verdict.h"
 
 using namespace ostrel;
 

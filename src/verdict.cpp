@@ -1,10 +1,10 @@
-#include "verdict.h"
+#include "src/verdict.h"
 
 #include <cstring>
 
-#include "support/keywords.h"
-#include "support/number.h"
-#include "support/report.h"
+#include "src/support/keywords.h"
+#include "src/support/number.h"
+#include "src/support/report.h"
 
 namespace ostrel {
 

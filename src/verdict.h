@@ -2,12 +2,12 @@
 //
 // Each returns OSTREL_VALID for a value that the rule accepts. For any other it prints the line, in which the name of
 // the check and the value stand, flushes every output stream and returns the code of the refusal.
-#ifndef OSTREL_VERDICT_H
-#define OSTREL_VERDICT_H
+#ifndef OSTREL_SRC_VERDICT_H
+#define OSTREL_SRC_VERDICT_H
 
 #include <ostrel/result_code.h>
 
-#include "primitives/strings.h"
+#include "src/strings.h"
 
 namespace ostrel {
 

@@ -87,7 +87,7 @@ std::string json_of(const Check& check)
 {
     std::string out = "{\"name\":";
     append_json_text(out, check.name);
-    append_member(out, "module", check.module);
+    append_member(out, "module", check.module.substr(0, check.module.find('/')));
     append_member(out, "answers", check.is_verdict ? "code" : "number");
     out += ",\"arguments\":[";
     for (std::size_t i = 0; i < check.arguments.size(); ++i) {

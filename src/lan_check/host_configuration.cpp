@@ -1,19 +1,19 @@
 #include <ostrel/character_sets.h>
-#include <ostrel/lan_check.h>
+#include <ostrel/lan_check/host_configuration.h>
 #include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
 
 #include <cstdint>
 
-#include "primitives/accounts.h"
-#include "primitives/names.h"
-#include "primitives/strings.h"
-#include "primitives/subnets.h"
-#include "support/assertion.h"
-#include "support/char_set.h"
-#include "support/keywords.h"
-#include "support/report.h"
-#include "verdict.h"
+#include "src/accounts.h"
+#include "src/names.h"
+#include "src/strings.h"
+#include "src/subnets.h"
+#include "src/support/assertion.h"
+#include "src/support/char_set.h"
+#include "src/support/keywords.h"
+#include "src/support/report.h"
+#include "src/verdict.h"
 
 using namespace ostrel;
 

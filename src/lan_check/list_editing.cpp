@@ -1,12 +1,12 @@
-#include <ostrel/lan_check.h>
+#include <ostrel/lan_check/list_editing.h>
 #include <ostrel/result_code.h>
 
 #include <cstring>
 #include <string_view>
 
-#include "primitives/addresses.h"
-#include "support/report.h"
-#include "support/text.h"
+#include "src/addresses.h"
+#include "src/support/report.h"
+#include "src/support/text.h"
 
 using namespace ostrel;
 

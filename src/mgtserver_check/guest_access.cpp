@@ -1,11 +1,11 @@
-#include <ostrel/mgtserver_check.h>
+#include <ostrel/mgtserver_check/guest_access.h>
 #include <ostrel/result_code.h>
 
-#include "primitives/strings.h"
-#include "support/char_set.h"
-#include "support/number.h"
-#include "support/report.h"
-#include "verdict.h"
+#include "src/strings.h"
+#include "src/support/char_set.h"
+#include "src/support/number.h"
+#include "src/support/report.h"
+#include "src/verdict.h"
 
 using namespace ostrel;
 

@@ -1,13 +1,13 @@
-#include <ostrel/mgtserver_check.h>
+#include <ostrel/mgtserver_check/hnap_core.h>
 #include <ostrel/result_code.h>
 
 #include <cstring>
 
-#include "primitives/strings.h"
-#include "support/char_set.h"
-#include "support/keywords.h"
-#include "support/text.h"
-#include "verdict.h"
+#include "src/strings.h"
+#include "src/support/char_set.h"
+#include "src/support/keywords.h"
+#include "src/support/text.h"
+#include "src/verdict.h"
 
 using namespace ostrel;
 

@@ -1,13 +1,13 @@
-#include <ostrel/mgtserver_check.h>
+#include <ostrel/mgtserver_check/management_server.h>
 #include <ostrel/result_code.h>
 
 #include <climits>
 
-#include "primitives/date_time.h"
-#include "primitives/hosts.h"
-#include "support/assertion.h"
-#include "support/report.h"
-#include "verdict.h"
+#include "src/date_time.h"
+#include "src/hosts.h"
+#include "src/support/assertion.h"
+#include "src/support/report.h"
+#include "src/verdict.h"
 
 using namespace ostrel;
 

@@ -1,4 +1,4 @@
-#include "support/assertion.h"
+#include "src/support/assertion.h"
 
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-#include "support/char_set.h"
+#include "src/support/char_set.h"
 
 namespace ostrel {
 

@@ -1,8 +1,8 @@
-#include "support/character_references.h"
+#include "src/support/character_references.h"
 
 #include <string_view>
 
-#include "support/text.h"
+#include "src/support/text.h"
 
 namespace ostrel {
 

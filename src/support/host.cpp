@@ -1,10 +1,10 @@
-#include "support/host.h"
+#include "src/support/host.h"
 
 #include <cstddef>
 #include <cstring>
 
-#include "support/character_references.h"
-#include "support/text.h"
+#include "src/support/character_references.h"
+#include "src/support/text.h"
 
 // Weak, so that a host without them can load the library; visible, so that the loader may bind them to the
 // host's.

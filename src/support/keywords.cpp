@@ -1,6 +1,6 @@
-#include "support/keywords.h"
+#include "src/support/keywords.h"
 
-#include "support/text.h"
+#include "src/support/text.h"
 
 namespace ostrel {
 

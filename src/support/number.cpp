@@ -1,4 +1,4 @@
-#include "support/number.h"
+#include "src/support/number.h"
 
 #include <cstddef>
 #include <cstdlib>

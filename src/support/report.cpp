@@ -1,4 +1,4 @@
-#include "support/report.h"
+#include "src/support/report.h"
 
 #include <cstdarg>
 #include <cstdio>

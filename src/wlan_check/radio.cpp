@@ -6,10 +6,10 @@
 #include <cstdlib>
 #include <span>
 
-#include "support/keywords.h"
-#include "support/number.h"
-#include "support/text.h"
-#include "wlan_check/rules.h"
+#include "src/support/keywords.h"
+#include "src/support/number.h"
+#include "src/support/text.h"
+#include "src/wlan_check/rules.h"
 
 using namespace ostrel;
 

@@ -1,6 +1,6 @@
-#include "wlan_check/rules.h"
+#include "src/wlan_check/rules.h"
 
-#include "support/keywords.h"
+#include "src/support/keywords.h"
 
 namespace ostrel {
 

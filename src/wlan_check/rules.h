@@ -2,7 +2,7 @@
 #ifndef OSTREL_WLAN_CHECK_RULES_H
 #define OSTREL_WLAN_CHECK_RULES_H
 
-#include "support/host.h"
+#include "src/support/host.h"
 
 namespace ostrel {
 

@@ -3,16 +3,16 @@
 
 #include <cstring>
 
-#include "primitives/strings.h"
-#include "primitives/wireless.h"
-#include "support/char_set.h"
-#include "support/host.h"
-#include "support/keywords.h"
-#include "support/number.h"
-#include "support/report.h"
-#include "support/text.h"
-#include "verdict.h"
-#include "wlan_check/rules.h"
+#include "src/strings.h"
+#include "src/support/char_set.h"
+#include "src/support/host.h"
+#include "src/support/keywords.h"
+#include "src/support/number.h"
+#include "src/support/report.h"
+#include "src/support/text.h"
+#include "src/verdict.h"
+#include "src/wireless.h"
+#include "src/wlan_check/rules.h"
 
 using namespace ostrel;
 

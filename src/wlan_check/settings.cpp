@@ -4,12 +4,12 @@
 #include <climits>
 #include <cstring>
 
-#include "primitives/wireless.h"
-#include "support/char_set.h"
-#include "support/host.h"
-#include "support/keywords.h"
-#include "support/report.h"
-#include "verdict.h"
+#include "src/support/char_set.h"
+#include "src/support/host.h"
+#include "src/support/keywords.h"
+#include "src/support/report.h"
+#include "src/verdict.h"
+#include "src/wireless.h"
 
 using namespace ostrel;
 

@@ -34,7 +34,7 @@ class Workshop:
             output = words[words.index("-o") + 1]
             if output.startswith(OBJECTS):
                 kept = [word for word in words[:words.index("-o")] if not word.startswith("-W")]
-                file = "rules/" + pathlib.Path(entry["file"]).name
+                file = "rules/" + output.removeprefix(OBJECTS).removesuffix(".o")
                 self.commands[file] = (kept[1:] if "ccache" in kept[0] else kept) + ["-w"]
         done = run(["ninja", "-C", str(build), PROGRAM])
         if done.returncode != 0:
@@ -96,7 +96,7 @@ class Workshop:
                 left = {number: mutant for number, mutant in left.items() if number not in wrong}
 
     def environment(self, file, **more):
-        return dict(os.environ, OSTREL_TEST_FIRST=pathlib.Path(file).stem, **more)
+        return dict(os.environ, OSTREL_TEST_FIRST=file.removeprefix("rules/").removesuffix(".cpp"), **more)
 
     def notices(self, program, file, more, *options):
         """notices tells whether a test of the program fails."""
@@ -136,7 +136,7 @@ class Workshop:
         made, errors = self.compile(mutant.file, text)
         if errors:
             return "broken"
-        if made.read_bytes() == (self.build / OBJECTS / made.name).read_bytes():
+        if made.read_bytes() == (self.build / OBJECTS / (mutant.file.removeprefix("rules/") + ".o")).read_bytes():
             return "same"
         program = self.linked(made)
         noticed = self.notices(program, mutant.file, SHORT) or \

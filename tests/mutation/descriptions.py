@@ -17,7 +17,7 @@ from tokens import closing
 
 # What evaluates descriptions and tells reasons. The descriptions themselves are the files that list checks.
 EVALUATION = {"build", "character_references", "condition_words", "conditions", "evaluate", "expression_words", "lists",
-              "number_conditions", "operands", "register", "say", "sentences", "set", "step_words",
+              "number_conditions", "operands", "register", "say", "sentences", "set", "shared", "step_words",
               "text_conditions"}
 
 # Words of which each stands where the other could.
@@ -121,7 +121,7 @@ def try_all(waiting, texts, workshop, jobs):
 
 def main():
     given = arguments("scripts/mutate rules", __doc__.splitlines()[0], "rules/")
-    texts = {str(path.relative_to(ROOT)): path.read_text() for path in sorted((ROOT / "rules").glob("*.cpp"))}
+    texts = {str(path.relative_to(ROOT)): path.read_text() for path in sorted((ROOT / "rules").rglob("*.cpp"))}
     texts = {file: text for file, text in texts.items()
              if pathlib.Path(file).stem in EVALUATION or "std::vector<Check> " in text}
     build = (ROOT / given.build).resolve()

@@ -35,7 +35,7 @@ class Sources:
         while waiting:
             name = waiting.pop()
             for file in self.files:
-                if name.removeprefix("src/") in self.includes[file] and file not in seen:
+                if name in self.includes[file] and file not in seen:
                     seen.add(file)
                     waiting.append(file)
         return sorted(file for file in seen if file.endswith(".cpp"))
@@ -47,10 +47,10 @@ class Sources:
             name = waiting.pop()
             path = pathlib.PurePath(name)
             headers = [str(path.with_suffix(".h"))]
-            exported = "ostrel/%s.h" % path.stem
+            exported = "ostrel/%s.h" % path.relative_to("src").with_suffix("")
             users = {user for header in headers for user in self.including(header)}
             users |= {user for user in self.files if exported in self.includes[user]
-                      and pathlib.PurePath(user).stem != path.stem and user.endswith(".cpp")}
+                      and user != name and user.endswith(".cpp")}
             waiting.extend(users - found)
             found |= users
         return sorted(found)
@@ -131,7 +131,7 @@ class Workshop:
             objects[file] = self.compile(changed, file)
         else:
             for user in self.build.sources.including(file):
-                objects[user] = self.compile(self.build.sources.root / user, user, ["-I", str(overlay / "src")])
+                objects[user] = self.compile(self.build.sources.root / user, user, ["-I", str(overlay)])
                 if objects[user] is None:
                     break
         if None in objects.values():

@@ -39,7 +39,7 @@ class Results:
     def __init__(self, path, texts, programs):
         self.path = path
         self.sources = {file: digest(text.encode()) for file, text in texts.items()}
-        tests = [*sorted((ROOT / "vectors").glob("*.ndjson")), *programs]
+        tests = [*sorted((ROOT / "vectors").rglob("*.ndjson")), *programs]
         self.tests = digest(b"".join(digest(test.read_bytes()).encode() for test in tests))
         self.known = json.loads(path.read_text()) if path.exists() else {}
         self.saved = time.monotonic()

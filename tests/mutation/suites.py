@@ -25,9 +25,9 @@ class Suites:
     def __init__(self, build, sources):
         self.build = build
         self.sources = sources
-        self.vectors = {path.stem for path in (sources.root / "vectors").glob("*.ndjson")}
-        self.checks = {check for module in self.vectors for check in re.findall(
-            r'"check": "(\w+)"', (sources.root / "vectors" / (module + ".ndjson")).read_text())}
+        folder = sources.root / "vectors"
+        self.vectors = {str(path.relative_to(folder).with_suffix("")): set(re.findall(r'"check": "(\w+)"', path.read_text()))
+                        for path in sorted(folder.rglob("*.ndjson"))}
         self.programs = {path.name for path in (build.folder / "bin").glob("*_test")}
         self.programs &= {program for file in sources.files for program in self.programs_of(file)}
         self.programs.add("vectors_test")
@@ -44,17 +44,17 @@ class Suites:
         return programs
 
     def own(self, file):
-        """own gives those that bear the name of the file or of its folder."""
-        path = pathlib.PurePath(file)
-        found = [("vectors_test", "vectors_%s.*" % name) for name in (path.stem, path.parent.name)
-                 if name in self.vectors]
+        """own returns those of the module, and of the modules in the same folder of src/."""
+        module = pathlib.PurePath(file).relative_to("src").with_suffix("")
+        names = [str(module), *(name for name in self.vectors if name.startswith(f"{module.parent}/"))]
+        found = [("vectors_test", name + ".*") for name in names if name in self.vectors]
         found.extend((name, "*") for name in self.programs_of(file) if name in self.programs)
         return list(dict.fromkeys(found))
 
     def nearest(self, mutant):
-        """nearest gives the vectors of the exported function in which the change stands."""
-        return [("vectors_test", suite[1].replace("*", mutant.function + "_line_*")) for suite in self.own(mutant.file)
-                if suite[0] == "vectors_test" and mutant.function in self.checks]
+        """nearest returns the vectors of the exported function that is changed."""
+        return [("vectors_test", f"{module}.{mutant.function}") for module, checks in self.vectors.items()
+                if mutant.function in checks]
 
     def of(self, file):
         """of gives those that can notice a change of the file."""
@@ -87,9 +87,9 @@ class Suites:
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
             resource.setrlimit(resource.RLIMIT_FSIZE, (1 << 29, 1 << 29))
 
-        module = re.match(r"vectors_(\w+)\.", tests)
+        module = [tests.split(".")[0]] if program == "vectors_test" and tests != "*" else []
         process = subprocess.Popen(
-            [str(path), *(module.groups() if module else ()), "--gtest_fail_fast", "--gtest_brief=1", "--gtest_filter=" + tests],
+            [str(path), *module, "--gtest_fail_fast", "--gtest_brief=1", "--gtest_filter=" + tests],
             stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, env=environment,
             cwd=workshop.folder / "cwd", start_new_session=True, preexec_fn=limit)
         try:

@@ -25,7 +25,7 @@ LIMITS = {"OSTREL_LONGEST_TEXT": "9000"}
 PRINTED = "Error in L3FORWARDING_check_preference: Invalid preference:%s, RANGE[1, 255]\n"
 
 # The tests of the preset that look at every check, or at what is made of all, and what they need.
-TESTS = ("vectors_test|exports_test|misuse_test|abi|headers|shared_object|rules_test|constraints_test|json_schema|"
+TESTS = ("vectors_test|paths|exports_test|misuse_test|abi|headers|shared_object|rules_test|constraints_test|json_schema|"
          "assertions_test|pages|terminal|explain|reasons|examples_test|packed_vectors|sql.table")
 TARGETS = ["ostrel_check", "ostrel_check_O0", "ostrel_empty", "ostrel-check", "find_hazards", "fuzz_replay", "vectors_test",
            "exports_test", "misuse_test", "rules_test", "constraints_test", "assertions_test", "examples_test",

@@ -1,6 +1,6 @@
 // The numbers that the library reads itself, against atoi's answers.
 
-#include "support/number.h"
+#include "src/support/number.h"
 
 #include <gtest/gtest.h>
 

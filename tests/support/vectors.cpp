@@ -71,6 +71,13 @@ std::size_t limit_of_texts()
     return limit != nullptr ? std::stoul(limit) : std::string::npos;
 }
 
+const std::filesystem::path kFolder = OSTREL_SOURCE_DIR "/vectors";
+
+std::string module_of(const std::filesystem::path& path)
+{
+    return path.lexically_relative(kFolder).replace_extension().string();
+}
+
 void append_file(std::vector<Row>& rows, const std::filesystem::path& path)
 {
     const std::size_t longest = limit_of_texts();
@@ -82,6 +89,7 @@ void append_file(std::vector<Row>& rows, const std::filesystem::path& path)
         if (line.empty()) continue;
         Row& row = rows.emplace_back();
         row.file = path;
+        row.module = module_of(path);
         row.line = number;
         row.text = line;
         try {
@@ -109,16 +117,19 @@ std::vector<Value> values_of(const std::vector<Written>& written)
 
 std::vector<Row> read_rows(const std::set<std::string>& modules)
 {
-    const std::filesystem::path folder = OSTREL_SOURCE_DIR "/vectors";
     std::set<std::filesystem::path> files;
-    for (const std::string& module : modules) files.insert(folder / (module + ".ndjson"));
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        if (modules.empty() && entry.path().extension() == ".ndjson") files.insert(entry.path());
+    for (const std::string& module : modules) {
+        if (!std::filesystem::is_directory(kFolder / module)) files.insert(kFolder / (module + ".ndjson"));
+    }
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(kFolder)) {
+        const std::string folder = entry.path().parent_path().lexically_relative(kFolder).string();
+        if (entry.path().extension() == ".ndjson" && (modules.empty() || modules.contains(folder)))
+            files.insert(entry.path());
     }
     // What is wrong with that module then shows before the other rows are judged.
     const char* const first = std::getenv("OSTREL_TEST_FIRST");  // NOLINT(concurrency-mt-unsafe)
     const auto comes_first = [&](const std::filesystem::path& file) {
-        return first != nullptr && std::string_view(first).starts_with(file.stem().string());
+        return first != nullptr && module_of(file) == first;
     };
     std::vector<std::filesystem::path> ordered(files.begin(), files.end());
     std::ranges::stable_partition(ordered, comes_first);

@@ -53,6 +53,7 @@ void PrintTo(const RowReason& reason, std::ostream* stream);
 // why.
 struct Row {
     std::filesystem::path file;
+    std::string module;  // the path of the file in vectors/, without the ending
     int line = 0;
     std::string text;
     std::string fault;
@@ -62,9 +63,10 @@ struct Row {
     std::optional<RowReason> reason;
 };
 
-// read_rows gives every row of every file, in order, but those of the module that OSTREL_TEST_FIRST in the environment
-// begins with before all others, and without those that have a longer text than OSTREL_LONGEST_TEXT says. Where modules
-// are named only their files are read. Throws std::invalid_argument where a file has no row or is not there.
+// read_rows returns every row of every file, in order, but those of the module that OSTREL_TEST_FIRST in the environment
+// names before all others, and without those that have a longer text than OSTREL_LONGEST_TEXT says. Where modules or
+// folders are named, only their files are read. Throws std::invalid_argument where a file has no row, or where there is
+// no such file.
 std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 
 // read_cases gives every row of every file. Throws std::invalid_argument for one with a fault.

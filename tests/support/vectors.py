@@ -12,7 +12,8 @@ def text_of(value):
 
 def rows(source):
     """rows yields each row of a source tree with the place where it stands."""
-    for path in sorted((source / "vectors").glob("*.ndjson")):
+    folder = source / "vectors"
+    for path in sorted(folder.rglob("*.ndjson")):
         for number, line in enumerate(path.read_text(encoding="utf-8").split("\n"), 1):
             if line:
-                yield f"{path.name}:{number}", json.loads(line)
+                yield f"{path.relative_to(folder)}:{number}", json.loads(line)

@@ -1,0 +1,38 @@
+/*
+ * HNAP core.
+ *
+ * Read <ostrel/mgtserver_check.h> first, for what these checks have in common.
+ */
+#ifndef OSTREL_MGTSERVER_CHECK_HNAP_CORE_H
+#define OSTREL_MGTSERVER_CHECK_HNAP_CORE_H
+
+#include <ostrel/api.h>
+
+/*
+ * HNAPCORE_check_username: the administrator's name, 1 to 16 bytes of CHARSET_LATIN1_PRINTABLE.
+ *
+ * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
+ * "Error in %s: Error max allowed number:%s\n\n" (the value), which speaks of a number here too.
+ */
+OSTREL_API int HNAPCORE_check_username(const char* value);
+
+/*
+ * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, and anything behind it. Silent.
+ *
+ * offset_out: the caller's buffer; receives what follows "UTC", or "+00:00" where nothing does, with the
+ *             terminator. It must have room for 7 bytes, and for what follows "UTC" with its terminator.
+ *             What follows "UTC" is not examined. Left as it is on failure; must not overlap the value.
+ *
+ * 0; OSTREL_INVALID.
+ */
+OSTREL_API int HNAPCORE_check_timezone(const char* value, char* offset_out);
+
+/*
+ * HNAPCORE_check_locale: a locale of the user interface, in any mixture of upper and lower case: en-us,
+ * fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th (tags of RFC 5646). Silent.
+ *
+ * 0; OSTREL_INVALID.
+ */
+OSTREL_API int HNAPCORE_check_locale(const char* value);
+
+#endif

@@ -1,0 +1,34 @@
+#include "rules/rules.h"
+#include "rules/words.h"
+
+namespace ostrel::rules {
+
+namespace {
+
+// What is malformed but above 0 prints the first line and answers for that; what is not above 0 answers for the
+// number, whether it is malformed or not.
+Check guests()
+{
+    const Condition is_malformed = refused_by("ValidateString", {1, 2, kDigits, "value"});
+    return check(
+        "GUESTACCESS_check_max_allowed_number", {text("value", "how many guests are allowed")},
+        {print(line("Error in GUESTACCESS_check_max_allowed_number: Error max allowed number:<value>\n\n"),
+               is_malformed),
+         refuse(402, below(1),
+                line("Error in GUESTACCESS_check_max_allowed_number: Error min allowed number:<value>\n\n")),
+         refuse(its_code(), is_malformed)});
+}
+
+}  // namespace
+
+std::vector<Check> mgtserver_check_guest_access()
+{
+    return {
+        guests(),
+        check("GUESTACCESS_check_password", {text("value", "the password of the guests").secret()},
+              {refuse(its_code(), refused_by("ValidateString", {4, 32, kAlnum, "value"}),
+                      line("Error in GUESTACCESS_check_password: Error max allowed number:<value>\n\n"))}),
+    };
+}
+
+}  // namespace ostrel::rules
