@@ -11,7 +11,7 @@
 #include "oracle/harvest.h"
 #include "oracle/library.h"
 #include "rules/rules.h"
-#include "tests/support/vectors.h"
+#include "vectors/rows.h"
 
 namespace ostrel::fuzz {
 
@@ -58,14 +58,14 @@ void write_dictionary(const std::filesystem::path& file, const std::set<std::str
     }
 }
 
-void make_seeds(const Target& target, const std::vector<tests::Row>& rows, const std::filesystem::path& out)
+void make_seeds(const Target& target, const std::vector<vectors::Row>& rows, const std::filesystem::path& out)
 {
     const Judge judge(target);
     const std::filesystem::path folder = out / target.name;
     std::filesystem::create_directories(folder);
     std::set<std::string> words;
     std::size_t count = 0;
-    for (const tests::Row& row : rows) {
+    for (const vectors::Row& row : rows) {
         const catalogue::Case& given = row.given;
         const auto input = judge.encode(*given.function, given.values);
         if (!input) continue;
@@ -94,7 +94,7 @@ int main(int argc, char** argv)
         return 2;
     }
     try {
-        const auto rows = ostrel::tests::read_cases();
+        const auto rows = ostrel::vectors::read_cases();
         for (const auto& target : ostrel::fuzz::targets()) ostrel::fuzz::make_seeds(target, rows, argv[1]);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "fuzz_seeds: %s\n", error.what());

@@ -82,10 +82,10 @@ class Replay {
         }
     }
 
-    void run(const Function& function, const std::vector<tests::Row>& rows, std::size_t random,
+    void run(const Function& function, const std::vector<vectors::Row>& rows, std::size_t random,
              std::size_t refusals)
     {
-        for (const tests::Row& row : rows) {
+        for (const vectors::Row& row : rows) {
             if (row.given.function != &function) continue;
             const auto input = judge_.encode(function, row.given.values);
             if (input && !judge_.decodes(*input, function, row.given.values))
@@ -196,7 +196,7 @@ bool are_met(const rules::Counts& counts, const rules::Counts& further, const Op
 
 bool run_all(const Options& options)
 {
-    const auto vectors = tests::read_cases();
+    const auto vectors = vectors::read_cases();
     require_targets();
     rules::Counts counts;
     rules::Counts further;

@@ -78,17 +78,17 @@ class Seeds {
 }  // namespace
 
 std::vector<std::string> seeds(const Judge& judge, const Function& function,
-                               const std::vector<tests::Row>& rows)
+                               const std::vector<vectors::Row>& rows)
 {
     constexpr std::size_t kLong = 256;
     Seeds result(judge, function);
     std::size_t varied = 0;
     for (const bool is_accepted : {true, false}) {
-        for (const tests::Row& row : rows) {
+        for (const vectors::Row& row : rows) {
             if (row.given.function != &function || (row.promise.outcome.code == 0) != is_accepted) continue;
             const std::vector<Value> values = catalogue::completed(function, row.given.values);
             result.add(values);
-            const bool is_varied = tests::longest_text(row.given) < kLong && varied < kMostVaried;
+            const bool is_varied = vectors::longest_text(row.given) < kLong && varied < kMostVaried;
             if (is_varied) result.vary(values);
             varied += is_varied ? 1 : 0;
         }

@@ -18,13 +18,16 @@
 #include <vector>
 
 #include "tests/support/run_tests.h"
-#include "tests/support/vectors.h"
+#include "vectors/rows.h"
 
 namespace ostrel::tests {
 
 using catalogue::Caller;
 using catalogue::Capture;
 using catalogue::Edge;
+using vectors::Outcome;
+using vectors::Row;
+using vectors::shown;
 
 namespace {
 
@@ -64,7 +67,7 @@ class VectorTest : public testing::Test {
             Outcome actual;
             {
                 Capture capture;
-                actual = actual_outcome(caller, capture);
+                actual = vectors::actual_outcome(caller, capture);
             }
             EXPECT_EQ(expected, actual);
         }
@@ -76,7 +79,7 @@ class VectorTest : public testing::Test {
 void register_rows(const std::set<std::string>& modules)
 {
     static std::map<std::pair<std::string, std::string>, std::vector<Row>> tests;
-    for (Row& row : read_rows(modules)) {
+    for (Row& row : vectors::read_rows(modules)) {
         const std::string name(row.fault.empty() ? row.given.function->name : "faults");
         tests[{row.module, name}].push_back(std::move(row));
     }

@@ -11,7 +11,7 @@ PACKAGE = SOURCE / "python"
 ENVIRONMENT = {**os.environ, "OSTREL_CHECK": str(PROGRAM), "PYTHONPATH": str(PACKAGE), "PYTHONDONTWRITEBYTECODE": "1"}
 
 os.environ["OSTREL_CHECK"] = str(PROGRAM)
-sys.path[:0] = [str(PACKAGE), str(SOURCE / "tests" / "support")]
+sys.path[:0] = [str(PACKAGE), str(SOURCE / "vectors")]
 
 
 def run(*command, **options):

@@ -68,7 +68,7 @@ def answers(row):
 class Vectors(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.rows, cls.left_out = rows.rows(shared.CHECKS, shared.VECTORS, shared.NOT_CALLED)
+        cls.rows, cls.left_out = rows.rows(shared.CHECKS, shared.NOT_CALLED)
 
     def test_as_bytes(self):
         printed = SERVER.lines("".join(map(answers, self.rows)))

@@ -1,7 +1,11 @@
 """Reads the vectors as SQL can carry them."""
 
 import collections
-import json
+import pathlib
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
+import vectors  # noqa: E402  it is there
 
 # Row is a row that SQL can carry. Values are bytes and numbers, in the order in which SQL gives them; after lists
 # what is right; reason is None where the row says nothing of it.
@@ -70,26 +74,24 @@ def held(check, row):
             for values in ({**unwritten, **before}, {**before, **unwritten})]
 
 
-def rows(checks, files, not_called):
+def rows(checks, not_called):
     """rows returns the rows and a count of those left out, by the reason."""
     by_name = {check["name"]: check for check in checks}
     found, left_out = [], collections.Counter()
-    for file in sorted(files):
-        for number, line in enumerate(file.read_text(encoding="utf-8").strip().split("\n"), 1):
-            row = json.loads(line)
-            check = by_name[row["check"]]
-            if row["check"] in not_called:
-                left_out[NOT_CALLED] += 1
-                continue
-            if None in row["args"]:
-                left_out[NULL] += 1
-                continue
-            pairs, values = given(check, row["args"]), []
-            for argument, value in pairs:
-                values += [value_of(one) for one in value] if argument["kind"] == "blocks" else [value_of(value)]
-            found.append(Row("%s:%d" % (file.name, number), row["check"], values, row["code"],
-                             text_of(row.get("out", "")), held(check, row), row.get("reason"),
-                             check["answers"] == "code"))
+    for place, row in vectors.rows():
+        check = by_name[row["check"]]
+        if row["check"] in not_called:
+            left_out[NOT_CALLED] += 1
+            continue
+        if None in row["args"]:
+            left_out[NULL] += 1
+            continue
+        pairs, values = given(check, row["args"]), []
+        for argument, value in pairs:
+            values += [value_of(one) for one in value] if argument["kind"] == "blocks" else [value_of(value)]
+        found.append(Row(place, row["check"], values, row["code"],
+                         text_of(row.get("out", "")), held(check, row), row.get("reason"),
+                         check["answers"] == "code"))
     return found, left_out
 
 

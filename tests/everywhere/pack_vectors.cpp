@@ -1,7 +1,7 @@
-// Writes vectors/*.ndjson in the form that packed_vectors_test reads, which runs where there is neither a JSON
+// Writes the vectors in the form that packed_vectors_test reads, which runs where there is neither a JSON
 // library nor a C++ run-time library.
 //
-// usage: pack_vectors OUTPUT VECTORS...
+// usage: pack_vectors OUTPUT
 //
 // The file begins with "ostrel vectors 2\n" and the number of rows. Numbers are 32 bits, least significant byte
 // first; a string is its length and its bytes; a text is the number of its parts, and for each how often it is
@@ -16,7 +16,6 @@
 
 #include <cstdint>
 #include <exception>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <nlohmann/json.hpp>
@@ -27,13 +26,14 @@
 
 #include "catalogue/caller.h"
 #include "catalogue/case.h"
-#include "tests/support/answers.h"
+#include "vectors/answers.h"
+#include "vectors/rows.h"
 
 namespace ostrel::catalogue {
 
 using nlohmann::json;
-using tests::Atoi;
-using tests::kAtois;
+using vectors::Atoi;
+using vectors::kAtois;
 
 namespace {
 
@@ -169,42 +169,29 @@ std::uint32_t append_row(std::string& rows, const json& row, const std::string& 
     std::uint32_t count = 1;
     std::uint32_t others = 0;
     for (const Atoi atoi : kAtois) {
-        const auto bit = static_cast<std::uint32_t>(atoi);
-        if (!tests::has_answer_for(row, atoi)) {
+        const std::uint32_t bit = 1U << static_cast<unsigned>(atoi);
+        if (!vectors::has_answer_for(row, atoi)) {
             others |= bit;
             continue;
         }
-        rows += packed_row(tests::answered(row, atoi), label, bit);
+        rows += packed_row(vectors::answered(row, atoi), label, bit);
         ++count;
     }
-    rows += packed_row(tests::answered(row, Atoi::kLong64), label, others);
+    rows += packed_row(vectors::answered(row, Atoi::kLong64), label, others);
     return count;
 }
 
-int pack(const std::vector<std::filesystem::path>& paths, const char* output)
+void pack(const char* output)
 {
     std::string rows;
     std::uint32_t count = 0;
-    for (const std::filesystem::path& path : paths) {
-        std::ifstream file(path);
-        if (!file) throw std::runtime_error("cannot read " + path.string());
-        std::string line;
-        for (int number = 1; std::getline(file, line); ++number) {
-            if (line.empty()) continue;
-            const std::string label = path.stem().string() + ":" + std::to_string(number);
-            try {
-                count += append_row(rows, json::parse(line), label);
-            } catch (const std::exception& error) {
-                throw std::runtime_error(label + ": " + error.what());
-            }
-        }
-    }
+    for (const vectors::Row& row : vectors::read_cases())
+        count += append_row(rows, json::parse(row.text), row.module + ":" + std::to_string(row.line));
     std::string head = "ostrel vectors 2\n";
     put(head, count);
     std::ofstream file(output, std::ios::binary);
     file << head << rows << std::flush;
     if (!file) throw std::runtime_error(std::string("cannot write ") + output);
-    return 0;
 }
 
 }  // namespace
@@ -214,8 +201,9 @@ int pack(const std::vector<std::filesystem::path>& paths, const char* output)
 int main(int argc, char** argv)
 {
     try {
-        if (argc < 3) throw std::runtime_error("usage: pack_vectors OUTPUT VECTORS...");
-        return ostrel::catalogue::pack({argv + 2, argv + argc}, argv[1]);
+        if (argc != 2) throw std::runtime_error("usage: pack_vectors OUTPUT");
+        ostrel::catalogue::pack(argv[1]);
+        return 0;
     } catch (const std::exception& error) {
         std::cerr << error.what() << "\n";
         return 1;

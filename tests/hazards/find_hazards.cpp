@@ -13,7 +13,7 @@
 #include "catalogue/hazards.h"
 #include "rules/evaluate.h"
 #include "rules/walk.h"
-#include "tests/support/vectors.h"
+#include "vectors/rows.h"
 
 namespace ostrel::tests {
 
@@ -25,6 +25,8 @@ using catalogue::kPlaces;
 using catalogue::Place;
 using catalogue::Value;
 using catalogue::Witness;
+using vectors::read_cases;
+using vectors::Row;
 
 namespace {
 

@@ -21,7 +21,7 @@
 #include <vector>
 
 #include "tests/support/hostile.h"
-#include "tests/support/vectors.h"
+#include "vectors/rows.h"
 
 extern "C" {
 // The C library's own allocator, under the names that no program defines.
@@ -196,6 +196,8 @@ namespace ostrel::tests {
 using catalogue::Caller;
 using catalogue::Function;
 using catalogue::Value;
+using vectors::read_cases;
+using vectors::Row;
 
 namespace {
 

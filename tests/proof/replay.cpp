@@ -13,12 +13,12 @@
 #include <limits>
 #include <string>
 
-#include "tests/support/vectors.h"
+#include "vectors/rows.h"
 
 namespace {
 
 using namespace ostrel;
-using namespace ostrel::tests;
+using namespace ostrel::vectors;
 
 // is_as_promised runs the case at the edge, and says so where the outcome is another.
 bool is_as_promised(const Row& row, catalogue::Caller& caller, catalogue::Capture& capture)

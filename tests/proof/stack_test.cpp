@@ -25,7 +25,7 @@
 #include "catalogue/entry.h"
 #include "rules/rules.h"
 #include "tests/support/hostile.h"
-#include "tests/support/vectors.h"
+#include "vectors/rows.h"
 
 namespace {
 
@@ -112,6 +112,8 @@ namespace ostrel::tests {
 using catalogue::Caller;
 using catalogue::Function;
 using catalogue::Value;
+using vectors::read_cases;
+using vectors::Row;
 
 namespace {
 

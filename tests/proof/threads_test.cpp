@@ -27,11 +27,15 @@
 #include <thread>
 #include <vector>
 
-#include "tests/support/vectors.h"
+#include "vectors/rows.h"
 
 namespace ostrel::tests {
 
 using catalogue::Caller;
+using vectors::Outcome;
+using vectors::read_cases;
+using vectors::Row;
+using vectors::shown;
 
 namespace {
 

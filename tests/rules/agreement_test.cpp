@@ -12,7 +12,6 @@
 #include "rules/rules.h"
 #include "rules/sentences.h"
 #include "rules/walk.h"
-#include "tests/rules/atois.h"
 #include "tests/rules/rows.h"
 
 namespace ostrel::tests {
@@ -22,6 +21,10 @@ using catalogue::Function;
 using rules::Answer;
 using rules::Build;
 using rules::Check;
+using vectors::Atoi;
+using vectors::kAtois;
+using vectors::Outcome;
+using vectors::RowReason;
 
 namespace {
 
@@ -66,7 +69,7 @@ TEST(AgreementTest, VectorsAndDescriptions)
         caller.load(function, row.given.values);
         for (const Atoi atoi : kAtois) {
             Build build = oracle::library_build();
-            build.atoi = build_atoi(atoi);
+            build.atoi = atoi;
             const Answer answer =
                 rules::evaluate(*check, catalogue::completed(function, row.given.values), build, &counts);
             EXPECT_EQ(rules::Outside::kNo, answer.outside);

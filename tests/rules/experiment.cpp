@@ -21,6 +21,7 @@ using rules::Check;
 using rules::Constraints;
 using rules::NullOutcome;
 using rules::Outside;
+using vectors::shown;
 
 namespace {
 

@@ -11,7 +11,6 @@
 
 #include "rules/constraints.h"
 #include "tests/rules/obedience.h"
-#include "tests/support/vectors.h"
 
 namespace ostrel::tests {
 

@@ -1,6 +1,6 @@
 """What list --json-schema prints, compared with the library by validators of JSON Schema.
 
-usage: json_schema_test.py OSTREL_CHECK SOURCE_DIR COUNT [FOLDER]
+usage: json_schema_test.py OSTREL_CHECK COUNT [FOLDER]
 
 COUNT values are made for each definition, besides the vectors. In FOLDER is judge.mjs, with ajv installed beside it.
 """
@@ -17,7 +17,7 @@ import unittest
 
 import jsonschema
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
 import vectors  # noqa: E402  it is there
 
 ALPHABET = "".join(map(chr, range(1, 0x7F)))
@@ -28,7 +28,7 @@ HIGHEST = 2**31 - 1
 def vector_texts():
     """The first argument of each row, by check: of checks of a single text it is that text."""
     texts = {}
-    for _, row in vectors.rows(SOURCE):
+    for _, row in vectors.rows():
         argument = vectors.text_of(row["args"][0]) if row.get("args") else None
         if isinstance(argument, str):
             texts.setdefault(row["check"], {})[argument] = None
@@ -172,7 +172,7 @@ class JsonSchema(unittest.TestCase):
         if {"minLength", "maxLength", "enum", "pattern"} & set(self.definitions[name]):
             self.assertIn(False, verdicts, name)
 
-    @unittest.skipIf(len(sys.argv) < 5, "without ajv")
+    @unittest.skipIf(len(sys.argv) < 4, "without ajv")
     def test_ajv_agrees_with_python(self):
         cases = {}
         for name, definition in self.definitions.items():
@@ -187,7 +187,7 @@ class JsonSchema(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    PROGRAM, SOURCE, COUNT = sys.argv[1], pathlib.Path(sys.argv[2]), int(sys.argv[3])
-    FOLDER = sys.argv[4] if len(sys.argv) > 4 else None
+    PROGRAM, COUNT = sys.argv[1], int(sys.argv[2])
+    FOLDER = sys.argv[3] if len(sys.argv) > 3 else None
     VECTORS = vector_texts()
     unittest.main(argv=sys.argv[:1])

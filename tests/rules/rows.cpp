@@ -8,7 +8,7 @@ using catalogue::Function;
 
 const std::vector<Row>& all_rows()
 {
-    static const std::vector<Row> all = read_cases();
+    static const std::vector<Row> all = vectors::read_cases();
     return all;
 }
 

@@ -5,9 +5,11 @@
 #include <functional>
 #include <vector>
 
-#include "tests/support/vectors.h"
+#include "vectors/rows.h"
 
 namespace ostrel::tests {
+
+using vectors::Row;
 
 const std::vector<Row>& all_rows();
 

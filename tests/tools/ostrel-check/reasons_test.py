@@ -10,7 +10,7 @@ import subprocess
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "support"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[3] / "vectors"))
 import vectors  # noqa: E402  it is there
 
 
@@ -39,7 +39,7 @@ class Vectors(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         lines = []
-        for _, row in vectors.rows(SOURCE):
+        for _, row in vectors.rows():
             line = json.dumps({"check": row["check"], "args": vectors.text_of(row["args"])}) + "\n"
             if len(line) <= LONGEST:
                 lines.append(line)

@@ -1,6 +1,6 @@
-// Vectors: the rows of vectors/*.ndjson, and what a call leaves behind compared with what a row promises.
-#ifndef OSTREL_TESTS_SUPPORT_VECTORS_H
-#define OSTREL_TESTS_SUPPORT_VECTORS_H
+// Rows: the lines of the files in this folder, and what they promise of a call.
+#ifndef OSTREL_VECTORS_ROWS_H
+#define OSTREL_VECTORS_ROWS_H
 
 #include <filesystem>
 #include <iosfwd>
@@ -10,25 +10,11 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/caller.h"
-#include "catalogue/capture.h"
 #include "catalogue/case.h"
-#include "tests/support/answers.h"
+#include "vectors/answers.h"
+#include "vectors/outcome.h"
 
-namespace ostrel::tests {
-
-// Outcome is all that a call leaves behind. Two outcomes print readably when they differ.
-struct Outcome {
-    int code = 0;
-    std::string out;
-    std::string err;
-    bool flushed = true;
-    std::vector<catalogue::Value> after;
-
-    bool operator==(const Outcome&) const = default;
-};
-
-void PrintTo(const Outcome& outcome, std::ostream* stream);
+namespace ostrel::vectors {
 
 // Promise is what a row says of the call.
 struct Promise {
@@ -75,16 +61,10 @@ std::vector<Row> read_cases();
 // longest_text gives the length of the longest text that is passed.
 std::size_t longest_text(const catalogue::Case& given);
 
-// shown quotes a text as JSON does; of a long one only the ends are shown.
-std::string shown(const std::string& text);
-
 // expected_outcome is what a row promises where the caller holds before, with the C library at hand or another one.
 Outcome expected_outcome(const Row& row, const std::vector<catalogue::Written>& before,
-                         Atoi atoi = atoi_at_hand());
+                         Atoi atoi = rules::atoi_here());
 
-// actual_outcome calls what is loaded.
-Outcome actual_outcome(catalogue::Caller& caller, catalogue::Capture& capture);
-
-}  // namespace ostrel::tests
+}  // namespace ostrel::vectors
 
 #endif

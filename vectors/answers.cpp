@@ -1,12 +1,11 @@
-#include "tests/support/answers.h"
+#include "vectors/answers.h"
 
-#include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <stdexcept>
 #include <string>
 
-namespace ostrel::tests {
+namespace ostrel::vectors {
 
 using nlohmann::json;
 
@@ -34,23 +33,6 @@ const std::set<std::string>& answer_members()
 
 }  // namespace
 
-Atoi atoi_at_hand()
-{
-    static const Atoi atoi = [] {
-        switch (std::atoi("99999999999999999999")) {
-            case -1:
-                return Atoi::kLong64;
-            case 2147483647:
-                return Atoi::kLong32;
-            case 1661992959:
-                return Atoi::kWrapping;
-            default:
-                throw std::logic_error("vectors know no C library with such an atoi");
-        }
-    }();
-    return atoi;
-}
-
 bool has_answer_for(const json& row, Atoi atoi) { return row.contains(member_of(atoi)); }
 
 json answered(const json& row, Atoi atoi)
@@ -68,4 +50,4 @@ json answered(const json& row, Atoi atoi)
     return result;
 }
 
-}  // namespace ostrel::tests
+}  // namespace ostrel::vectors

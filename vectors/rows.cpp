@@ -1,4 +1,4 @@
-#include "tests/support/vectors.h"
+#include "vectors/rows.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <string_view>
 
-namespace ostrel::tests {
+namespace ostrel::vectors {
 
 using catalogue::Value;
 using catalogue::Written;
@@ -105,14 +105,6 @@ void append_file(std::vector<Row>& rows, const std::filesystem::path& path)
     if (rows.size() == before) throw std::invalid_argument("no row in " + path.string());
 }
 
-std::vector<Value> values_of(const std::vector<Written>& written)
-{
-    std::vector<Value> values;
-    values.reserve(written.size());
-    for (const Written& one : written) values.push_back(one.value);
-    return values;
-}
-
 }  // namespace
 
 std::vector<Row> read_rows(const std::set<std::string>& modules)
@@ -158,24 +150,6 @@ std::size_t longest_text(const catalogue::Case& given)
     return longest;
 }
 
-std::string shown(const std::string& text)
-{
-    using catalogue::utf8_from_bytes;
-    constexpr std::size_t kEnds = 200;
-    if (text.size() <= 2 * kEnds) return json(utf8_from_bytes(text)).dump();
-    return json(utf8_from_bytes(text.substr(0, kEnds))).dump() + "...(" + std::to_string(text.size()) +
-           " bytes)..." + json(utf8_from_bytes(text.substr(text.size() - kEnds))).dump();
-}
-
-void PrintTo(const Outcome& outcome, std::ostream* stream)
-{
-    json after = json::array();
-    for (const Value& value : outcome.after) after.push_back(catalogue::json_from_value(value));
-    *stream << "\n  code    " << outcome.code << "\n  out     " << shown(outcome.out) << "\n  flushed "
-            << std::boolalpha << outcome.flushed << "\n  err     " << shown(outcome.err) << "\n  after   "
-            << shown(after.dump()) << "\n";
-}
-
 void PrintTo(const RowReason& reason, std::ostream* stream)
 {
     *stream << reason.id << " " << reason.argument;
@@ -193,16 +167,4 @@ Outcome expected_outcome(const Row& row, const std::vector<Written>& before, Ato
     return expected;
 }
 
-Outcome actual_outcome(catalogue::Caller& caller, catalogue::Capture& capture)
-{
-    Outcome outcome;
-    outcome.code = caller.call();
-    catalogue::Printed printed = capture.take();
-    outcome.flushed = printed.flushed == printed.out.size();
-    outcome.out = std::move(printed.out);
-    outcome.err = std::move(printed.err);
-    outcome.after = values_of(caller.written());
-    return outcome;
-}
-
-}  // namespace ostrel::tests
+}  // namespace ostrel::vectors

@@ -1,6 +1,9 @@
-"""The rows of vectors/, for tests in Python. Each character of a text is a byte."""
+"""The rows of the files in this folder. Each character of a text is a byte."""
 
 import json
+import pathlib
+
+FOLDER = pathlib.Path(__file__).resolve().parent
 
 
 def text_of(value):
@@ -10,10 +13,9 @@ def text_of(value):
     return [text_of(text) for text in value] if isinstance(value, list) else value
 
 
-def rows(source):
-    """rows yields each row of a source tree with the place where it stands."""
-    folder = source / "vectors"
-    for path in sorted(folder.rglob("*.ndjson")):
+def rows():
+    """rows yields each row with its module and line: hosts:12."""
+    for path in sorted(FOLDER.rglob("*.ndjson")):
         for number, line in enumerate(path.read_text(encoding="utf-8").split("\n"), 1):
             if line:
-                yield f"{path.relative_to(folder)}:{number}", json.loads(line)
+                yield f"{path.relative_to(FOLDER).with_suffix('')}:{number}", json.loads(line)

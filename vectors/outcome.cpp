@@ -1,0 +1,53 @@
+#include "vectors/outcome.h"
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <utility>
+
+#include "catalogue/case.h"
+
+namespace ostrel::vectors {
+
+using catalogue::Value;
+using catalogue::Written;
+using nlohmann::json;
+
+std::vector<Value> values_of(const std::vector<Written>& written)
+{
+    std::vector<Value> values;
+    values.reserve(written.size());
+    for (const Written& one : written) values.push_back(one.value);
+    return values;
+}
+
+Outcome actual_outcome(catalogue::Caller& caller, catalogue::Capture& capture)
+{
+    Outcome outcome;
+    outcome.code = caller.call();
+    catalogue::Printed printed = capture.take();
+    outcome.flushed = printed.flushed == printed.out.size();
+    outcome.out = std::move(printed.out);
+    outcome.err = std::move(printed.err);
+    outcome.after = values_of(caller.written());
+    return outcome;
+}
+
+void PrintTo(const Outcome& outcome, std::ostream* stream)
+{
+    json after = json::array();
+    for (const Value& value : outcome.after) after.push_back(catalogue::json_from_value(value));
+    *stream << "\n  code    " << outcome.code << "\n  out     " << shown(outcome.out) << "\n  flushed "
+            << std::boolalpha << outcome.flushed << "\n  err     " << shown(outcome.err) << "\n  after   "
+            << shown(after.dump()) << "\n";
+}
+
+std::string shown(const std::string& text)
+{
+    using catalogue::utf8_from_bytes;
+    constexpr std::size_t kEnds = 200;
+    if (text.size() <= 2 * kEnds) return json(utf8_from_bytes(text)).dump();
+    return json(utf8_from_bytes(text.substr(0, kEnds))).dump() + "...(" + std::to_string(text.size()) +
+           " bytes)..." + json(utf8_from_bytes(text.substr(text.size() - kEnds))).dump();
+}
+
+}  // namespace ostrel::vectors
