@@ -11,7 +11,7 @@
 #include "src/support/report.h"
 #include "src/support/text.h"
 
-namespace ostrel {
+using namespace ostrel;
 
 namespace {
 
@@ -67,7 +67,7 @@ bool cut_realm(std::string_view& name, std::string_view realm)
 
 }  // namespace
 
-int validate_provisioning_code(const char* value)
+int TcmValidateProvisioningCode(const char* value)
 {
     const std::string_view code = value;
     if (code.size() != 15) return OSTREL_INVALID_VALUE;
@@ -86,7 +86,7 @@ int validate_provisioning_code(const char* value)
     return OSTREL_VALID;
 }
 
-int validate_ppp_user_name(const char* value, int* type_out)
+int TcmValidatePPPUsername(const char* value, int* type_out)
 {
     std::string_view part = value;
     const bool is_account = cut_realm(part, kAccountRealm);
@@ -107,17 +107,6 @@ int validate_ppp_user_name(const char* value, int* type_out)
     if (type == kNoType) return OSTREL_INVALID_VALUE;
     *type_out = type;
     return OSTREL_VALID;
-}
-
-}  // namespace ostrel
-
-using namespace ostrel;
-
-int TcmValidateProvisioningCode(const char* value) { return validate_provisioning_code(value); }
-
-int TcmValidatePPPUsername(const char* value, int* account_type)
-{
-    return validate_ppp_user_name(value, account_type);
 }
 
 int TcmValidatePPPPassword(const char* value) { return validate_string(value, kPppPassword); }

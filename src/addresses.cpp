@@ -51,7 +51,7 @@ inline bool goes_on(const char* value, int at)
     return is_octet(value + at + 1);
 }
 
-bool judge_mac_address(const char* value, bool station_only)
+bool is_mac_address(const char* value, bool station_only)
 {
     if (value == nullptr || !is_octet(value)) return false;
     if (station_only && is_group_digit(value[1])) return refuse_group_address(value);
@@ -89,22 +89,16 @@ const char* skip_ipv4_address(const char* text)
     return end != nullptr && end - text <= kLongestIpv4Address ? end : nullptr;
 }
 
-bool is_ipv4_address(const char* value)
-{
-    const char* end = skip_ipv4_address(value);
-    return end != nullptr && *end == '\0';
-}
-
-bool is_mac_address(const char* value) { return judge_mac_address(value, false); }
-
-bool is_station_address(const char* value) { return judge_mac_address(value, true); }
-
 }  // namespace ostrel
 
 using namespace ostrel;
 
-int TcmValidateIPAddress(const char* value) { return judge(is_ipv4_address(value)); }
+int TcmValidateIPAddress(const char* value)
+{
+    const char* end = skip_ipv4_address(value);
+    return judge(end != nullptr && *end == '\0');
+}
 
-int TcmValidateMACaddress(const char* value) { return judge(is_mac_address(value)); }
+int TcmValidateMACaddress(const char* value) { return judge(is_mac_address(value, false)); }
 
-int isValidOrdinaryMACAddress(const char* value) { return judge(is_station_address(value)); }
+int isValidOrdinaryMACAddress(const char* value) { return judge(is_mac_address(value, true)); }

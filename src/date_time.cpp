@@ -1,11 +1,9 @@
-#include "src/date_time.h"
-
 #include <ostrel/date_time.h>
 
 #include "src/support/judge.h"
 #include "src/support/number.h"
 
-namespace ostrel {
+using namespace ostrel;
 
 namespace {
 
@@ -117,33 +115,23 @@ bool is_date(const Date& date)
 
 }  // namespace
 
-int validate_date_time(const char* value)
+int ValidateDay(int year, unsigned month, int day) { return judge(is_day(year, month, day)); }
+
+int TcmValidateTime(const char* value)
 {
     Date date;
     return judge(read_date_time(Reader(value), date) && date.year >= 1970 && is_date(date));
 }
 
-int validate_switch_over(const char* value)
+int TcmValidateDaylightSavingsTime(const char* value)
 {
-    if (validate_date_time(value) == OSTREL_VALID) return OSTREL_VALID;
+    if (TcmValidateTime(value) == OSTREL_VALID) return OSTREL_VALID;
     Date date;  // year 0 is a leap year: 29 February is a day of every form without a year
     return judge(read_yearless(Reader(value), date) && is_date(date));
 }
 
-int validate_zone_offset(const char* value)
+int TcmValidateTimeZoneFormate(const char* value)
 {
     Reader reader(value);
     return judge(read_offset(reader, kLastZoneHour));
 }
-
-}  // namespace ostrel
-
-using namespace ostrel;
-
-int ValidateDay(int year, unsigned month, int day) { return judge(is_day(year, month, day)); }
-
-int TcmValidateTime(const char* value) { return validate_date_time(value); }
-
-int TcmValidateDaylightSavingsTime(const char* value) { return validate_switch_over(value); }
-
-int TcmValidateTimeZoneFormate(const char* value) { return validate_zone_offset(value); }

@@ -1,5 +1,3 @@
-#include "src/hosts.h"
-
 #include <ostrel/hosts.h>
 #include <ostrel/result_code.h>
 
@@ -11,7 +9,7 @@
 #include "src/support/judge.h"
 #include "src/support/number.h"
 
-namespace ostrel {
+using namespace ostrel;
 
 namespace {
 
@@ -75,53 +73,41 @@ bool is_url(const char* value, const char* scheme)
     return rest - value <= kLongestUrl;
 }
 
-bool is_email(const char* value)
-{
-    const char* at = std::strchr(value, '@');
-    const char* dot = std::strrchr(value, '.');
-    if (at == nullptr || dot == nullptr) return false;
-    return at != value && dot - at >= 2 && dot[1] != '\0';
-}
-
 }  // namespace
-
-int validate_host(const char* value) { return judge(is_whole(skip_host(value))); }
-
-int validate_server_url(const char* value) { return judge(is_url(value, "x-dslf_cwmp")); }
-
-int validate_firmware_url(const char* value) { return judge(is_url(value, "http")); }
-
-}  // namespace ostrel
-
-using namespace ostrel;
 
 int TcmValidateDomainName(const char* value) { return judge(is_whole(skip_domain_name(value))); }
 
-int ValidateURL(const char* value) { return validate_host(value); }
+int ValidateURL(const char* value) { return judge(is_whole(skip_host(value))); }
 
-int TcmValidateServerURL(const char* value) { return validate_server_url(value); }
+int TcmValidateServerURL(const char* value) { return judge(is_url(value, "x-dslf_cwmp")); }
 
 int TcmValidatefirmwareURL(const char* value)
 {
-    return validate_firmware_url(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
+    return is_url(value, "http") ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
-int isEmail(const char* value) { return judge(is_email(value)); }
+int isEmail(const char* value)
+{
+    const char* at = std::strchr(value, '@');
+    const char* dot = std::strrchr(value, '.');
+    if (at == nullptr || dot == nullptr) return OSTREL_INVALID;
+    return judge(at != value && dot - at >= 2 && dot[1] != '\0');
+}
 
 int TcmValidateEmailAddress(const char* value)
 {
     if (const int code = validate_string(value, text(5, 64, kMail)); code != OSTREL_VALID) return code;
-    return is_email(value) ? OSTREL_VALID : OSTREL_WRONG_FORM;
+    return isEmail(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
 int TcmValidateVoIPRegistrar(const char* value)
 {
     if (const int code = validate_string(value, text(3, 64, kName)); code != OSTREL_VALID) return code;
-    return validate_host(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
+    return ValidateURL(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }
 
 int TcmValidateVoIPSTUNServer(const char* value)
 {
     if (const int code = validate_string(value, text(0, 64, kHostPort)); code != OSTREL_VALID) return code;
-    return value[0] == '\0' || validate_host(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
+    return value[0] == '\0' || ValidateURL(value) == OSTREL_VALID ? OSTREL_VALID : OSTREL_WRONG_FORM;
 }

@@ -1,10 +1,10 @@
+#include <ostrel/accounts.h>
+#include <ostrel/addresses.h>
 #include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
 
 #include <cstring>
 
-#include "src/accounts.h"
-#include "src/addresses.h"
 #include "src/strings.h"
 #include "src/support/assertion.h"
 #include "src/support/char_set.h"
@@ -67,17 +67,17 @@ int PARAM_check_port(const char* value_p)
 
 int PARAM_check_ip_addr(const char* value_p)
 {
-    return is_ipv4_address(value_p) ? OSTREL_VALID : OSTREL_INVALID_VALUE;
+    return TcmValidateIPAddress(value_p) == OSTREL_VALID ? OSTREL_VALID : OSTREL_INVALID_VALUE;
 }
 
 int PARAM_check_Ordinary_MACAddress(const char* value_p)
 {
-    return is_station_address(value_p) ? OSTREL_VALID : OSTREL_INVALID_VALUE;
+    return isValidOrdinaryMACAddress(value_p) == OSTREL_VALID ? OSTREL_VALID : OSTREL_INVALID_VALUE;
 }
 
 int PARAM_check_MACAddress(const char* value_p)
 {
-    return is_mac_address(value_p) ? OSTREL_VALID : OSTREL_INVALID_VALUE;
+    return TcmValidateMACaddress(value_p) == OSTREL_VALID ? OSTREL_VALID : OSTREL_INVALID_VALUE;
 }
 
 int PARAM_check_transport_protocol(const char* value_p)
@@ -99,10 +99,12 @@ int PARAM_check_hexa_string(const char* value_p)
 
 int PARAM_check_printable_ascii_string(const char* value_p)
 {
-    return is_printable(value_p) ? OSTREL_VALID : OSTREL_INVALID;
+    const bool is_printable =
+        value_p != nullptr && value_p[0] != '\0' && contains_all(kAsciiPrintable, value_p);
+    return is_printable ? OSTREL_VALID : OSTREL_INVALID;
 }
 
-int PARAM_check_provisioning_code(const char* value_p) { return validate_provisioning_code(value_p); }
+int PARAM_check_provisioning_code(const char* value_p) { return TcmValidateProvisioningCode(value_p); }
 
 int PARAM_check_ui2_value(const char* value_p)
 {

@@ -1,3 +1,4 @@
+#include <ostrel/accounts.h>
 #include <ostrel/ppp_check.h>
 #include <ostrel/result_code.h>
 
@@ -34,7 +35,7 @@ int PPP_check_connection_type(const char* value)
 int PPP_check_user_name(const char* value)
 {
     int any_type = 0;
-    return code_or_refuse(validate_ppp_user_name(value, &any_type), value,
+    return code_or_refuse(TcmValidatePPPUsername(value, &any_type), value,
                           line("Error in %s: Error ppp user name:%s\n\n", __func__, value));
 }
 

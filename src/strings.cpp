@@ -58,11 +58,6 @@ int validate_number(const char* value, int min, int max)
     return *value == '\0' ? judge_number(number, min, max) : OSTREL_FORBIDDEN_CHARACTER;
 }
 
-bool is_printable(const char* value)
-{
-    return value != nullptr && value[0] != '\0' && contains_all(kAsciiPrintable, value);
-}
-
 }  // namespace ostrel
 
 using namespace ostrel;

@@ -30,10 +30,6 @@ int validate_string(const char* value, Text rule);
 // validate_number is ValidateNum with the set of digits.
 int validate_number(const char* value, int min, int max);
 
-// is_printable tells whether every byte is one of 0x20 to 0x7E. Neither NULL nor the empty value is
-// printable.
-bool is_printable(const char* value);
-
 }  // namespace ostrel
 
 #endif

@@ -1,5 +1,4 @@
-#include "src/subnets.h"
-
+#include <ostrel/addresses.h>
 #include <ostrel/subnets.h>
 
 #include <cstring>
@@ -10,7 +9,7 @@
 #include "src/support/number.h"
 #include "src/support/text.h"
 
-namespace ostrel {
+using namespace ostrel;
 
 namespace {
 
@@ -71,9 +70,15 @@ bool is_repeated(std::string_view item, std::string_view rest)
 
 }  // namespace
 
-int validate_address_range(const char* start_address, const char* end_address, const char* lan_address)
+int isInSameSubnet(const char* reference, const char* address)
 {
-    if (!is_ipv4_address(start_address) || !is_ipv4_address(end_address)) return OSTREL_INVALID;
+    return judge(is_in(address, subnet_of(reference)));
+}
+
+int TcmValidateAddressRange(const char* start_address, const char* end_address, const char* lan_address)
+{
+    if (TcmValidateIPAddress(start_address) != OSTREL_VALID) return OSTREL_INVALID;
+    if (TcmValidateIPAddress(end_address) != OSTREL_VALID) return OSTREL_INVALID;
     const std::string_view subnet = subnet_of(lan_address);
     if (subnet.empty() || !is_in(start_address, subnet) || !is_in(end_address, subnet)) return OSTREL_INVALID;
     const int start = host_number(start_address);
@@ -81,7 +86,7 @@ int validate_address_range(const char* start_address, const char* end_address, c
     return judge(start <= end && is_host_number(start) && is_host_number(end));
 }
 
-int validate_reserved_addresses(const char* list, const char* lan_address)
+int TcmValidateReservedAddress(const char* list, const char* lan_address)
 {
     const std::string_view subnet = subnet_of(lan_address);
     std::string_view rest = list;
@@ -96,13 +101,13 @@ int validate_reserved_addresses(const char* list, const char* lan_address)
     }
 }
 
-int validate_router_address(const char* address)
+int TcmValidateIPRouter(const char* address)
 {
-    return judge(is_ipv4_address(address) && is_in(address, "192.168.") &&
+    return judge(TcmValidateIPAddress(address) == OSTREL_VALID && is_in(address, "192.168.") &&
                  is_host_number(host_number(address)));
 }
 
-int validate_offered_dns(const char* list)
+int TcmValidateofferDNS(const char* list)
 {
     for (int servers = 1; servers <= kMostOfferedServers; ++servers) {
         const char* end = skip_ipv4_address(skip_blanks(list));
@@ -114,26 +119,3 @@ int validate_offered_dns(const char* list)
     }
     return OSTREL_INVALID;
 }
-
-}  // namespace ostrel
-
-using namespace ostrel;
-
-int isInSameSubnet(const char* reference, const char* address)
-{
-    return judge(is_in(address, subnet_of(reference)));
-}
-
-int TcmValidateAddressRange(const char* startAddress, const char* endAddress, const char* lanAddress)
-{
-    return validate_address_range(startAddress, endAddress, lanAddress);
-}
-
-int TcmValidateReservedAddress(const char* reservedList, const char* lanAddress)
-{
-    return validate_reserved_addresses(reservedList, lanAddress);
-}
-
-int TcmValidateIPRouter(const char* address) { return validate_router_address(address); }
-
-int TcmValidateofferDNS(const char* dnsList) { return validate_offered_dns(dnsList); }

@@ -1,11 +1,11 @@
+#include <ostrel/date_time.h>
+#include <ostrel/hosts.h>
 #include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
 #include <ostrel/time_check.h>
 
 #include <cstring>
 
-#include "src/date_time.h"
-#include "src/hosts.h"
 #include "src/support/report.h"
 #include "src/support/text.h"
 #include "src/time_zone_table.h"
@@ -75,13 +75,13 @@ bool is_empty(const char* value) { return value[0] == '\0'; }
 
 int check_timezone_formate(const char* value)
 {
-    return rule_or_refuse(value, validate_zone_offset,
+    return rule_or_refuse(TcmValidateTimeZoneFormate(value), value,
                           line("Error in %s: %s is not validate timezone formate\n", __func__, value));
 }
 
 int check_daylight_saving_time(const char* value)
 {
-    return rule_or_refuse(value, validate_switch_over,
+    return rule_or_refuse(TcmValidateDaylightSavingsTime(value), value,
                           line("Error in %s: %s is not validate daylight saving time\n", __func__, value));
 }
 
@@ -146,7 +146,7 @@ int TIME_check_ntpserver_length(const char* value)
 
 int TIME_check_url(const char* value)
 {
-    return rule_or_refuse(value, validate_host,
+    return rule_or_refuse(ValidateURL(value), value,
                           line("Error in %s: %s is not validate URL\n", __func__, value));
 }
 

@@ -48,9 +48,8 @@ int text_or_refuse(const char* value, Text rule, const char* line, const char* c
     return code_or_refuse(validate_string(value, rule), value, line, check);
 }
 
-int rule_or_refuse(const char* value, int (*rule)(const char*), const char* line, const char* check)
+int rule_or_refuse(int code, const char* value, const char* line, const char* check)
 {
-    const int code = rule(value);
     return code_or_refuse(code == OSTREL_INVALID ? OSTREL_INVALID_VALUE : code, value, line, check);
 }
 

@@ -42,9 +42,8 @@ int keyword_or_refuse(const char* value, const char* keywords, const char* line,
 // text_or_refuse refuses with the code of validate_string.
 int text_or_refuse(const char* value, Text rule, const char* line, const char* check = __builtin_FUNCTION());
 
-// rule_or_refuse refuses with the code of the rule, or with OSTREL_INVALID_VALUE where that is OSTREL_INVALID.
-int rule_or_refuse(const char* value, int (*rule)(const char*), const char* line,
-                   const char* check = __builtin_FUNCTION());
+// rule_or_refuse is code_or_refuse with OSTREL_INVALID_VALUE in place of OSTREL_INVALID.
+int rule_or_refuse(int code, const char* value, const char* line, const char* check = __builtin_FUNCTION());
 
 }  // namespace ostrel
 

@@ -1,5 +1,3 @@
-#include "src/wireless.h"
-
 #include <ostrel/result_code.h>
 #include <ostrel/wireless.h>
 
@@ -11,7 +9,7 @@
 #include "src/support/report.h"
 #include "src/support/text.h"
 
-namespace ostrel {
+using namespace ostrel;
 
 namespace {
 
@@ -58,24 +56,30 @@ inline bool is_rate(Packed text)
 
 }  // namespace
 
-int validate_pre_shared_key(const char* key)
+int TcmValueisValid(const char* value, const char* allowed)
+{
+    return contains_all(OwnSet(allowed), value) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
+}
+
+int TcmValidatePSK(const char* key)
 {
     const int code = validate_string(key, kPreSharedKey);
     return code == OSTREL_VALID || code == OSTREL_FORBIDDEN_CHARACTER ? code : OSTREL_WRONG_FORM;
 }
 
-int validate_rate(const char* value) { return judge(equals(value, "Auto") || is_rate(pack(value))); }
+int TcmValidateKPP(const char* value) { return validate_string(value, text(8, 63, kAsciiPrintable)); }
 
-int validate_beacon_type(const char* value) { return judge(is_one_of(value, kBeaconTypes)); }
+int TcmValidateRate(const char* value) { return judge(equals(value, "Auto") || is_rate(pack(value))); }
 
-int validate_ssid(const char* ssid)
+int TcmValidateBeaconType(const char* value) { return judge(is_one_of(value, kBeaconTypes)); }
+
+int TcmValidateSSID(const char* ssid)
 {
-    inform("Info in %s: The lenght of SSID is %d\n\n", "TcmValidateSSID",
-           static_cast<int>(std::strlen(ssid)));
+    inform("Info in %s: The lenght of SSID is %d\n\n", __func__, static_cast<int>(std::strlen(ssid)));
     return validate_string(ssid, kSsid);
 }
 
-int validate_rate_set(const char* value)
+int TcmValidateDataTransmitRates(const char* value)
 {
     // An empty item is no rate, which refuses the empty value and a comma that leads, ends or follows
     // another.
@@ -90,24 +94,3 @@ int validate_rate_set(const char* value)
     }
     return judge(is_rate(item) || is_one_of(value, kNamedRateSets));
 }
-
-}  // namespace ostrel
-
-using namespace ostrel;
-
-int TcmValueisValid(const char* value, const char* allowed)
-{
-    return contains_all(OwnSet(allowed), value) ? OSTREL_VALID : OSTREL_FORBIDDEN_CHARACTER;
-}
-
-int TcmValidatePSK(const char* value) { return validate_pre_shared_key(value); }
-
-int TcmValidateKPP(const char* value) { return validate_string(value, kPassPhrase); }
-
-int TcmValidateRate(const char* value) { return validate_rate(value); }
-
-int TcmValidateBeaconType(const char* value) { return validate_beacon_type(value); }
-
-int TcmValidateSSID(const char* value) { return validate_ssid(value); }
-
-int TcmValidateDataTransmitRates(const char* value) { return validate_rate_set(value); }

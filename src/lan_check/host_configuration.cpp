@@ -2,13 +2,13 @@
 #include <ostrel/lan_check/host_configuration.h>
 #include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
+#include <ostrel/subnets.h>
 
 #include <cstdint>
 
 #include "src/accounts.h"
 #include "src/names.h"
 #include "src/strings.h"
-#include "src/subnets.h"
 #include "src/support/assertion.h"
 #include "src/support/char_set.h"
 #include "src/support/keywords.h"
@@ -43,7 +43,7 @@ int LAN_check_ipinterface_enabled(const char* value_p)
 
 int LAN_check_ip_router(const char* value_p)
 {
-    return rule_or_refuse(require_value(value_p, kModule), validate_router_address,
+    return rule_or_refuse(TcmValidateIPRouter(require_value(value_p, kModule)), value_p,
                           line("Error in %s: Error ip interface IP:%s\n\n", __func__, value_p));
 }
 
@@ -70,21 +70,21 @@ int LAN_check_dhcp_addr_range(const char* startAddress, const char* endAddress, 
 {
     inform("Info in %s: Check dhcp addr range: start ip%s, end ip:%s, lan ip:%s\n\n", __func__, startAddress,
            endAddress, lanAddress);
-    if (validate_address_range(startAddress, endAddress, lanAddress) == OSTREL_VALID) return OSTREL_VALID;
+    if (TcmValidateAddressRange(startAddress, endAddress, lanAddress) == OSTREL_VALID) return OSTREL_VALID;
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error dhcp addr range: start ip%s, end ip:%s\n\n",
                   __func__, startAddress, endAddress);
 }
 
 int LAN_check_dns_servers(const char* value_p)
 {
-    return rule_or_refuse(require_value(value_p, kModule), validate_offered_dns,
+    return rule_or_refuse(TcmValidateofferDNS(require_value(value_p, kModule)), value_p,
                           line("Error in %s: Error dns server:%s\n\n", __func__, value_p));
 }
 
 int LAN_check_dhcp_reserved_addr(const char* reservedList, const char* lanAddress)
 {
     inform("Info in %s: Dhcp reserved addr: %s, lan ip:%s\n\n", __func__, reservedList, lanAddress);
-    int code = validate_reserved_addresses(reservedList, lanAddress);
+    int code = TcmValidateReservedAddress(reservedList, lanAddress);
     if (code == OSTREL_VALID) return OSTREL_VALID;
     if (code == OSTREL_INVALID) code = OSTREL_INVALID_VALUE;
     return refuse(code, "Error in %s: Error dhcp reserved addr: %s\n\n", __func__, reservedList);

@@ -1,10 +1,10 @@
+#include <ostrel/addresses.h>
 #include <ostrel/lan_check/list_editing.h>
 #include <ostrel/result_code.h>
 
 #include <cstring>
 #include <string_view>
 
-#include "src/addresses.h"
 #include "src/support/report.h"
 #include "src/support/text.h"
 
@@ -84,7 +84,7 @@ int LAN_check_add_dns_servers(const char* newServers, const char* existingServer
 
 int LAN_check_delete_dns_server(const char* serverAddress, const char* existingServers)
 {
-    if (!is_ipv4_address(serverAddress)) {
+    if (TcmValidateIPAddress(serverAddress) != OSTREL_VALID) {
         return refuse(OSTREL_INVALID_VALUE, "Error in %s: Not a valid IP addr: %s\n\n", __func__,
                       serverAddress);
     }

@@ -1,10 +1,10 @@
+#include <ostrel/date_time.h>
+#include <ostrel/hosts.h>
 #include <ostrel/mgtserver_check/management_server.h>
 #include <ostrel/result_code.h>
 
 #include <climits>
 
-#include "src/date_time.h"
-#include "src/hosts.h"
 #include "src/support/assertion.h"
 #include "src/support/report.h"
 #include "src/verdict.h"
@@ -24,14 +24,14 @@ constexpr Limits kIntervals{1, INT_MAX};
 
 int MGTSERVER_check_server_url(const char* value_p)
 {
-    return rule_or_refuse(require_value(value_p, kModule, 41), validate_server_url,
+    return rule_or_refuse(TcmValidateServerURL(require_value(value_p, kModule, 41)), value_p,
                           line("Error in %s: Error server url:%s\n\n", __func__, value_p));
 }
 
 int MGTSERVER_check_firmware_url(const char* value_p)
 {
-    return rule_or_refuse(require_value(value_p, kModule, 75), validate_firmware_url,
-                          line("Error in %s: Error server url:%s\n\n", __func__, value_p));
+    if (TcmValidatefirmwareURL(require_value(value_p, kModule, 75)) == OSTREL_VALID) return OSTREL_VALID;
+    return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error server url:%s\n\n", __func__, value_p);
 }
 
 int MGTSERVER_check_server_password(const char* value_p)
@@ -59,7 +59,7 @@ int MGTSERVER_check_periodic_inform(const char* value_p)
 
 int MGTSERVER_check_periodic_inform_time(const char* value_p)
 {
-    return rule_or_refuse(require_value(value_p, kModule, 210), validate_date_time,
+    return rule_or_refuse(TcmValidateTime(require_value(value_p, kModule, 210)), value_p,
                           line("Error in %s: Error periodic inform time:%s\n\n", __func__, value_p));
 }
 

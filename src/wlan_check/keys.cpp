@@ -1,4 +1,6 @@
+#include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
+#include <ostrel/wireless.h>
 #include <ostrel/wlan_check/keys.h>
 
 #include <cstdio>
@@ -11,7 +13,6 @@
 #include "src/support/report.h"
 #include "src/support/text.h"
 #include "src/verdict.h"
-#include "src/wireless.h"
 #include "src/wlan_check/rules.h"
 
 using namespace ostrel;
@@ -41,7 +42,7 @@ int trace_code(int code)
 
 int check_wep_key(const char* key, const char* encryption)
 {
-    if (!is_printable(key) && !contains_all(kHexDigits, key)) {
+    if (PARAM_check_printable_ascii_string(key) != OSTREL_VALID && !contains_all(kHexDigits, key)) {
         std::fprintf(stderr, "The key should not be empty or non printable ascii string: %s\n", key);
         std::fprintf(stderr, "The key should not contain non hexa char: %s\n", key);
         return OSTREL_FORBIDDEN_CHARACTER;
@@ -57,20 +58,19 @@ int check_wep_key(const char* key, const char* encryption)
 
 int WLAN_check_preshared_key(const char* value)
 {
-    return rule_or_refuse(value, validate_pre_shared_key,
+    return rule_or_refuse(TcmValidatePSK(value), value,
                           line("Error in %s: Error key pass phrase:%s\n\n", __func__, value));
 }
 
 int WLAN_check_preshared_key2(const char* psk, const char* passphrase)
 {
     if (psk[0] != '\0') {
-        return rule_or_refuse(psk, validate_pre_shared_key,
+        return rule_or_refuse(TcmValidatePSK(psk), psk,
                               line("Error in %s: Error PreSharedKey:%s\n\n", __func__, psk));
     }
     if (passphrase[0] != '\0') {
         // What is judged as a pass phrase is the key, which is empty: a pass phrase alone is always refused.
-        return refuse(validate_string(psk, kPassPhrase), "Error in %s: Error KeyPassphrase:%s\n\n", __func__,
-                      passphrase);
+        return refuse(TcmValidateKPP(psk), "Error in %s: Error KeyPassphrase:%s\n\n", __func__, passphrase);
     }
     inform("Error in %s: Error PreSharedKey:%s\n\n", __func__, psk);
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: Error KeyPassphrase:%s\n\n", __func__, passphrase);
@@ -82,7 +82,7 @@ int WLAN_check_wepkeys(char* keys)
     std::size_t kept_length = 0;
     for (std::size_t i = 0; i < kWepKeys; ++i) {
         char* key = keys + i * kWepKeyDistance;
-        if (!is_printable(key)) {
+        if (PARAM_check_printable_ascii_string(key) != OSTREL_VALID) {
             inform("Error in %s: The key should not be empty or non printable ascii string: %s\n\n", __func__,
                    key);
             key[0] = '\0';
@@ -124,8 +124,7 @@ int WLAN_check_wepkeys(char* keys)
 int WLAN_check_keys(const char* key, const char* type, const char* encryption)
 {
     if (is_pass_phrase_type(type)) {
-        const bool is_key =
-            validate_pre_shared_key(key) == OSTREL_VALID || validate_string(key, kPassPhrase) == OSTREL_VALID;
+        const bool is_key = TcmValidatePSK(key) == OSTREL_VALID || TcmValidateKPP(key) == OSTREL_VALID;
         return trace_code(is_key ? OSTREL_VALID : OSTREL_INVALID);
     }
     if (is_wep_type(type)) return check_wep_key(key, encryption);

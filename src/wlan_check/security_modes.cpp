@@ -1,4 +1,5 @@
 #include <ostrel/result_code.h>
+#include <ostrel/wireless.h>
 #include <ostrel/wlan_check/security_modes.h>
 
 #include <cstring>
@@ -11,7 +12,6 @@
 #include "src/support/report.h"
 #include "src/support/text.h"
 #include "src/verdict.h"
-#include "src/wireless.h"
 #include "src/wlan_check/rules.h"
 
 using namespace ostrel;
@@ -85,7 +85,7 @@ int check_11i_mode(const char* value, int readwrite_mode, bool is_listed(const c
 
 int WLAN_check_beacon_type(const char* value)
 {
-    return rule_or_refuse(value, validate_beacon_type,
+    return rule_or_refuse(TcmValidateBeaconType(value), value,
                           line("Error in %s: Error beacon type:%s\n\n", __func__, value));
 }
 

@@ -1,4 +1,5 @@
 #include <ostrel/result_code.h>
+#include <ostrel/wireless.h>
 #include <ostrel/wlan_check/settings.h>
 
 #include <climits>
@@ -9,7 +10,6 @@
 #include "src/support/keywords.h"
 #include "src/support/report.h"
 #include "src/verdict.h"
-#include "src/wireless.h"
 
 using namespace ostrel;
 
@@ -44,18 +44,19 @@ bool is_operation_mode(const char* value, int readwrite_mode)
 int WLAN_check_ssid(char* value)
 {
     resolve_references(value);
-    return rule_or_refuse(value, validate_ssid, line("Error in %s: Error SSID:%s\n", __func__, value));
+    return rule_or_refuse(TcmValidateSSID(value), value,
+                          line("Error in %s: Error SSID:%s\n", __func__, value));
 }
 
 int WLAN_check_max_bit_rate(const char* value)
 {
-    return rule_or_refuse(value, validate_rate,
+    return rule_or_refuse(TcmValidateRate(value), value,
                           line("Error in %s: Error max bit rate:%s\n\n", __func__, value));
 }
 
 int WLAN_check_basic_data_transmit_rate(const char* value)
 {
-    return rule_or_refuse(value, validate_rate_set,
+    return rule_or_refuse(TcmValidateDataTransmitRates(value), value,
                           line("Error in %s: Error basic data transmit rate:%s\n\n", __func__, value));
 }
 
