@@ -25,7 +25,6 @@ inline constexpr Set kMail = kAlnum | Set("-.@");
 inline constexpr Set kHostPort = kAlnum | Set("-._:");
 inline constexpr Set kRouterName = kAlnum | Set("!()*-/;?_");
 inline constexpr Set kDeviceName = kAlnum | Set(" -");
-inline constexpr Set kIdentLetters = kLetters | Set("_");
 
 }  // namespace ostrel::rules
 

@@ -1,6 +1,4 @@
-#include <ostrel/character_sets.h>
 #include <ostrel/lan_check/host_configuration.h>
-#include <ostrel/parameter_check.h>
 #include <ostrel/result_code.h>
 #include <ostrel/subnets.h>
 
@@ -138,6 +136,6 @@ int LAN_check_cis_dev_name(const char* value_p)
     const int code = text_or_refuse(require_value(value_p, kModule), kDeviceNameText,
                                     line("Error in %s: Error dev name:%s\n\n", __func__, value_p));
     if (code != OSTREL_VALID) return code;
-    if (PARAM_check_string_prefix(value_p, CHARSET_IDENT_LETTERS) == OSTREL_VALID) return OSTREL_VALID;
+    if (contains(kIdentLetters, value_p[0])) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: Error domain name prefix:%s\n\n", __func__, value_p);
 }

@@ -22,32 +22,35 @@ struct Memberships {
 // CharSet is one of the sets, by its bit.
 enum class CharSet : std::uint16_t {};
 
-// CharSetTexts are the members of all sets, by their bits. One more does not fit.
+// CharSetTexts are the members of all sets, by their bits.
 struct CharSetTexts {
-    const char* texts[16];
+    const char* texts[15];
 };
+static_assert(sizeof(CharSetTexts::texts) / sizeof(const char*) <= 16, "a word has no bit for another set");
 
 consteval CharSetTexts char_set_texts()
 {
     return {{CHARSET_DIGITS, CHARSET_ALNUM, CHARSET_PPP_DIGITS, CHARSET_HEX, CHARSET_ASCII_PRINTABLE,
              CHARSET_LATIN1_PRINTABLE, CHARSET_IPV4, CHARSET_HOST, CHARSET_URL, CHARSET_HOSTPORT,
-             CHARSET_NAME, CHARSET_MAIL, CHARSET_DESCRIPTION, CHARSET_DEVICE_NAME, CHARSET_ROUTER_NAME,
-             CHARSET_CIS_NAME}};
+             CHARSET_NAME, CHARSET_MAIL, CHARSET_ROUTER_NAME, CHARSET_CIS_NAME, CHARSET_IDENT_LETTERS}};
 }
 
-consteval bool is_same_text(const char* one, const char* other)
+consteval bool is_subset(const char* members, const char* of)
 {
-    for (; *one == *other; ++one, ++other) {
-        if (*one == '\0') return true;
+    for (; *members != '\0'; ++members) {
+        const char* same = of;
+        while (*same != *members && *same != '\0') ++same;
+        if (*same == '\0') return false;
     }
-    return false;
+    return true;
 }
 
-// char_set returns the set that has these members. One that is not among the texts does not compile.
+// char_set returns the set that has these members, in whatever order. One that is not among the texts does not compile.
 consteval CharSet char_set(const char* members)
 {
     unsigned bit = 0;
-    while (!is_same_text(members, char_set_texts().texts[bit])) ++bit;
+    const CharSetTexts all = char_set_texts();
+    while (!is_subset(members, all.texts[bit]) || !is_subset(all.texts[bit], members)) ++bit;
     return CharSet{static_cast<std::uint16_t>(1U << bit)};
 }
 
@@ -67,6 +70,7 @@ constexpr CharSet kDescription = char_set(CHARSET_DESCRIPTION);
 constexpr CharSet kDeviceName = char_set(CHARSET_DEVICE_NAME);
 constexpr CharSet kRouterName = char_set(CHARSET_ROUTER_NAME);
 constexpr CharSet kCisName = char_set(CHARSET_CIS_NAME);
+constexpr CharSet kIdentLetters = char_set(CHARSET_IDENT_LETTERS);
 
 inline bool contains(CharSet set, char c)
 {
