@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/caller.h"
+#include "catalogue/capture.h"
 #include "rules/constraints.h"
 #include "tests/rules/obedience.h"
 
