@@ -1,9 +1,10 @@
 """Judges files of cases on many machines, or on all processors of this one, with ostrel-check.
 
-Each part, a file or a block of its lines, is a task of Dask. Its results are in FOLDER/results, in files whose names sort
-as the parts do: joined, they are what one ostrel-check batch --stream prints for all files. FOLDER/summary.json adds up.
+Each part, a file or a block of its lines, is a Dask task. Its results go to FOLDER/results, in files whose names sort
+as the parts do: joined, they are what one ostrel-check batch --stream prints for all files. FOLDER/summary.json is the
+sum.
 
-The exit code is that of ostrel-check batch, or 4 where parts are missing; --resume judges these, and no others.
+The exit code is that of ostrel-check batch, or 4 if parts are missing; --resume judges only those.
 """
 
 import argparse
@@ -58,7 +59,8 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
         prog="ostrel-fleet", description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter,
         fromfile_prefix_chars="@", usage="ostrel-fleet [OPTIONS] FOLDER FILE... [-- OPTIONS OF ostrel-check batch]\n"
         "       ostrel-fleet --resume [--scheduler ADDRESS] FOLDER")
-    parser.add_argument("folder", metavar="FOLDER", type=pathlib.Path, help="where results go; each worker has it there")
+    parser.add_argument("folder", metavar="FOLDER", type=pathlib.Path,
+                        help="where results go; the same path on each worker")
     parser.add_argument("files", metavar="FILE", nargs="*", help="as batch reads it; @LIST has the names, a line each")
     parser.add_argument("--resume", action="store_true", help="judge what is missing of the run that FOLDER has")
     parser.add_argument("--scheduler", metavar="ADDRESS", help="of a Dask cluster; otherwise this machine judges alone")
@@ -82,10 +84,10 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
 
 
 def require_options(program: str, manifest: Manifest) -> None:
-    """require_options lets the program judge nothing, so that it complains once of options that it does not take."""
+    """require_options lets the program judge nothing, so that it complains once about options that it does not take."""
     said = ostrel_program.output_of(program, "batch", "--stream", "--exit-zero", "--summary", "json", *manifest.words())
     if said:
-        raise Refused(f"{shlex.join(manifest.options)}: a file stands among the options of ostrel-check")
+        raise Refused(f"{shlex.join(manifest.options)}: a file is among the options of ostrel-check")
 
 
 def manifest_of(given: argparse.Namespace, options: Sequence[str]) -> Manifest:
@@ -155,7 +157,8 @@ class Run:
         counts = json.loads(text)["summary"]
         self._write_summary(text, missing)
         print(self._summarise([text], "text").splitlines()[-1])
-        print(f"By check, parameter and reason: ostrel-check summarise {shlex.quote(str(self._given.folder / plan.SUMMARY))}")
+        summary = shlex.quote(str(self._given.folder / plan.SUMMARY))
+        print(f"By check, parameter and reason: ostrel-check summarise {summary}")
         for _, problem in missing:
             print(f"missing: {problem}")
         if missing:

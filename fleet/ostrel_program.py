@@ -1,5 +1,5 @@
-"""The program ostrel-check where a part is judged: which one it is, a batch of it, and what ends those of a run that was
-interrupted. The runner sends this module to the workers, so it needs nothing but Python's own library."""
+"""The program ostrel-check on a worker: its identity, a batch of it, and how the programs of an interrupted run are
+ended. The runner sends this module to the workers, so it needs nothing but Python's own library."""
 
 import asyncio
 import contextlib
@@ -53,8 +53,8 @@ def require_identity(program: str, wanted: str) -> None:
         raise Stopped(f"{program} is {identity}, and not {wanted}")
 
 
-# The programs that run here, with the numbers of their runs, and the runs that are to start no other. They are kept when
-# the module is loaded again, which each start of the runner makes the workers do.
+# The programs that run here, with the numbers of their runs, and the runs that may not start another one. They are kept
+# when the module is loaded again, which each start of the runner makes the workers do.
 _running: dict[subprocess.Popen[bytes], str] = globals().get("_running", {})
 _stopped: set[str] = globals().get("_stopped", set())
 _lock: threading.Lock = globals().get("_lock", threading.Lock())
@@ -97,8 +97,8 @@ def judge(number: str, words: Sequence[str], out: BinaryIO, send: Callable[[int]
 
 
 def _start(number: str, words: Sequence[str], out: BinaryIO, complaints: IO[bytes]) -> subprocess.Popen[bytes]:
-    """_start gives the program a pipe, and not the file: when this process is killed, the pipe ends, and with it the
-    program. In a process group of its own, it does not get the interrupt of a terminal."""
+    """_start passes a pipe to the program, not the file: when this process is killed, the pipe ends, and the program
+    with it. In a process group of its own, it does not get the interrupt of a terminal."""
     words = [*words, "--stream", "--exit-zero", "--summary", "json"]
     with _lock:
         if number in _stopped:

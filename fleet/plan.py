@@ -1,4 +1,4 @@
-"""The folder of a run: what was planned, what is finished, and what an earlier run left behind."""
+"""The folder of a run: what was planned, what is finished, and what an earlier run left there."""
 
 import dataclasses
 import fcntl
@@ -88,7 +88,8 @@ def require_same(begun: Manifest, now: Manifest) -> None:
         before, after = getattr(begun, field.name), getattr(now, field.name)
         if before != after:
             name = {"map_sum": "contents of the map"}.get(field.name, field.name)
-            raise Refused(f"the run was begun with other {name}: {before}, and not {after}; begin one in another folder")
+            raise Refused(f"the run was begun with other {name}: {before}, and not {after}; "
+                          "begin one in another folder")
 
 
 def lock(folder: pathlib.Path) -> int:
@@ -157,7 +158,8 @@ def _parts_of(number: int, file: str, manifest: Manifest) -> Iterator[Part]:
             with open(file, "rb") as opened:
                 if _begins_as_text(opened):
                     for index, (begin, end, line) in enumerate(_blocks(opened, status.st_size, manifest.block), 1):
-                        yield dataclasses.replace(whole, name=f"{number:06}.{index:04}", begin=begin, end=end, line=line)
+                        yield dataclasses.replace(whole, name=f"{number:06}.{index:04}", begin=begin, end=end,
+                                                  line=line)
                     return
     except OSError:
         pass  # who is to judge it will say so
@@ -170,8 +172,8 @@ def make_plan(manifest: Manifest) -> list[Part]:
 
 
 def sweep(job: Job, parts: Sequence[Part]) -> tuple[list[Part], list[str]]:
-    """sweep removes what is not whole, or not of the files as they are now. It returns the parts that are left to judge,
-    and says why those are among them that had been judged."""
+    """sweep removes results that are incomplete or of files that have changed since. It returns the parts that are left
+    to judge, and says why any that had been judged are among them."""
     folder = pathlib.Path(job.folder)
     remove_temporary(folder)
     (folder / SUMMARY).unlink(missing_ok=True)
@@ -185,7 +187,7 @@ def sweep(job: Job, parts: Sequence[Part]) -> tuple[list[Part], list[str]]:
         if mark is not None and not mark.get("problem"):
             changed = mark and mark["part"] != part
             notes.append(f"{part.file} has changed since it was judged" if changed else
-                         f"{ostrel_part.results_of(job, part)} is not whole") 
+                         f"{ostrel_part.results_of(job, part)} is not whole")
     keep = {part.name for part in parts} - {part.name for part in left}
     for name in FOLDERS:
         for path in (folder / name).iterdir():

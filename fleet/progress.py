@@ -30,7 +30,8 @@ class Progress:
         self.refused += refused
 
     def line(self, workers: int, seconds: float) -> str:
-        text = f"{self._done:,} of {self._parts:,} parts, {self.cases:,} cases, {self.refused:,} refused, {workers} workers"
+        text = (f"{self._done:,} of {self._parts:,} parts, {self.cases:,} cases, {self.refused:,} refused, "
+                f"{workers} workers")
         if self._done_size > 0:
             left = seconds * (self._size - self._done_size) / self._done_size
             text += f", {int(left) // 60}:{int(left) % 60:02} left"

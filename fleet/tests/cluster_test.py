@@ -39,7 +39,8 @@ class Programs(support.Cluster):
         self.start_worker(PATH="/usr/bin:/bin")
         code, said = self.on_cluster(self.out, *self.files)
         self.assertEqual(4, code, said)
-        self.assertRegex(said, r"ostrel-fleet: tcp://127.0.0.1:\d+: there is no program ostrel-check\n0 of 4 parts are done")
+        self.assertRegex(said, r"ostrel-fleet: tcp://127.0.0.1:\d+: there is no program ostrel-check\n"
+                               "0 of 4 parts are done")
         self.assertEqual([], list((self.out / "results").iterdir()))
         self.workers[1].terminate()
         self.workers[1].wait()
@@ -48,7 +49,8 @@ class Programs(support.Cluster):
 
     def test_another_program_stops_the_run(self):
         """One has another version, and one another catalogue. The second comes when the run has begun."""
-        for number, change in enumerate(("s/^ostrel-check .*/ostrel-check 9.9.9/", "s/PARAM_check_port/PARAM_check_prot/")):
+        changes = "s/^ostrel-check .*/ostrel-check 9.9.9/", "s/PARAM_check_port/PARAM_check_prot/"
+        for number, change in enumerate(changes):
             folder = self.scratch / str(number)
             folder.mkdir()
             program = folder / "ostrel-check"
@@ -57,7 +59,8 @@ class Programs(support.Cluster):
         other = self.start_worker(PATH=f"{self.scratch / '0'}:/usr/bin:/bin")
         code, said = self.on_cluster(self.out, *self.files)
         self.assertEqual(4, code, said)
-        self.assertRegex(said, r"tcp://127.0.0.1:\d+: ostrel-check is ostrel-check 9.9.9 with .* and not ostrel-check \d")
+        self.assertRegex(said, r"tcp://127.0.0.1:\d+: ostrel-check is ostrel-check 9.9.9 with .* "
+                               r"and not ostrel-check \d")
         self.assertEqual([], list((self.out / "results").iterdir()))
         other.terminate()
         other.wait()

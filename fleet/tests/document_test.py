@@ -1,4 +1,4 @@
-"""The commands of docs/fleets.md, as they stand there.
+"""The commands of docs/fleets.md, as they are there.
 
 usage: document_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -12,7 +12,9 @@ import unittest
 import support
 
 sys.path.insert(0, str(support.SOURCE / "tests" / "docs"))
-import documents  # noqa: E402  it is in another folder
+sys.path.insert(0, str(support.SOURCE / "fleet"))
+import documents  # noqa: E402  these are in other folders
+import plan  # noqa: E402
 
 TEXT = (support.SOURCE / "docs" / "fleets.md").read_text(encoding="utf-8")
 MARK = "--- the next command ---\n"
@@ -39,6 +41,11 @@ class Document(support.Processes):
         self.assertGreater(len(paths), 5)
         for path in paths:
             self.assertTrue((support.SOURCE / path.split()[0]).exists(), path)
+
+    def test_formats_are_those_of_the_program(self):
+        source = (support.SOURCE / "tools/ostrel-check/read/file_format.cpp").read_text()
+        known = {ending: name.lower() for ending, name in re.findall(r'\{"(\.\w+)", FileFormat::k(\w+)\}', source)}
+        self.assertEqual(known, plan.FORMATS)
 
     def test_numbers_are_those_of_the_source(self):
         self.assertIn("allowed-failures: 3",

@@ -18,7 +18,7 @@ class Whole(support.Folder):
     def test_files_of_every_form(self):
         files = [*self.files, *self.make_fleet()]
         code, said = self.fleet(self.out, *files)
-        self.assertEqual(2, code, said)  # the objects of nested JSON are no cases
+        self.assertEqual(2, code, said)  # the objects of nested JSON are not cases
         self.assert_whole(files)
 
     def test_blocks_have_the_lines_of_their_file(self):
@@ -44,8 +44,8 @@ class Whole(support.Folder):
     def test_options_and_a_map_reach_the_program(self):
         files = self.make_fleet()[1:]
         options = ["--redact", "--with-args"]
-        code, said = self.fleet("--map", os.path.relpath(support.SOURCE / "examples/maps/tr-098.json"), self.out, *files,
-                                "--", *options)
+        tr_098 = os.path.relpath(support.SOURCE / "examples/maps/tr-098.json")
+        code, said = self.fleet("--map", tr_098, self.out, *files, "--", *options)
         self.assertIn(code, (1, 2), said)
         self.assert_whole(files, "--map", str(support.SOURCE / "examples/maps/tr-098.json"), *options)
         self.assertIn(b" bytes>", self.joined())
@@ -189,7 +189,7 @@ class Refusals(support.Folder):
         self.assert_refused("--stream cannot be given to ostrel-check here", self.out, "x", "--", "--stream")
         self.assert_refused("--start-line=2 cannot be given", self.out, "x", "--", "--start-line=2")
         self.assert_refused("--wrong", self.out, "x", "--", "--wrong")
-        self.assert_refused("a file stands among the options", self.out, "x", "--", self.files[0])
+        self.assert_refused("a file is among the options", self.out, "x", "--", self.files[0])
         self.assert_refused("there is no program nowhere", "--program", "nowhere", self.out, "x")
         self.assert_refused("No such file", "--map", "nowhere", self.out, "x")
         self.assertFalse(self.out.exists())

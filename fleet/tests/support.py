@@ -28,7 +28,7 @@ def wait_until(condition, seconds=60):
     end = time.monotonic() + seconds
     while not (value := condition()):
         if time.monotonic() > end:
-            raise AssertionError("it did not come to pass")
+            raise AssertionError("the condition did not become true")
         time.sleep(0.02)
     return value
 
@@ -72,7 +72,7 @@ class Folder(Processes):
         return path
 
     def make_fleet(self):
-        """make_fleet returns the same cases in rows, and what is for a map: in rows without checks, and in nested JSON."""
+        """make_fleet returns the same cases as rows, and for a map: as rows without checks, and as nested JSON."""
         subprocess.run([SOURCE / "examples/fleet.py", "--rows", "400", self.scratch], check=True)
         return self.scratch / "fleet.csv", self.scratch / "fleet-dump.csv", self.scratch / "fleet.json"
 

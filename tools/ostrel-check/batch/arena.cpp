@@ -27,7 +27,7 @@ std::unique_ptr<Arena, Unmap> map_arena()
     return std::unique_ptr<Arena, Unmap>(new (memory) Arena);
 }
 
-void give_back(char* begin, std::size_t capacity, std::size_t size)
+void release_pages(char* begin, std::size_t capacity, std::size_t size)
 {
     const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
     const auto address = reinterpret_cast<std::uintptr_t>(begin);

@@ -27,8 +27,8 @@ std::uint64_t count_lines(std::string_view text);
 struct Progress {
     std::size_t read = 0;  // bytes of the input
     std::uint64_t line = 0;
-    std::uint64_t next =
-        0;  // the line to go on with; within a text of several gateways, where one of them begins
+    // The line to go on with; in a text of several gateways, where one of them begins.
+    std::uint64_t next = 0;
     std::size_t part = 0;     // records of the text that is being read
     bool is_within = false;   // records of a gateway were judged, and others of it were not
     std::size_t written = 0;  // bytes of the output
@@ -74,7 +74,7 @@ class Arena {
     catalogue::Prints prints;
     Log log;  // of what has been judged since it was last taken
 
-    // The supervisor asks the worker to stop behind the record that it is at.
+    // The supervisor asks the worker to stop after the current record.
     void ask_to_stop() { is_to_stop_.store(true, std::memory_order_relaxed); }
     [[nodiscard]] bool is_to_stop() const { return is_to_stop_.load(std::memory_order_relaxed); }
 
@@ -98,8 +98,8 @@ struct Unmap {
 // map_arena throws std::system_error.
 std::unique_ptr<Arena, Unmap> map_arena();
 
-// give_back gives the system the pages behind the first size bytes of a part of an arena.
-void give_back(char* begin, std::size_t capacity, std::size_t size);
+// release_pages returns to the system the pages after the first size bytes of a part of an arena.
+void release_pages(char* begin, std::size_t capacity, std::size_t size);
 
 }  // namespace ostrel::tool
 

@@ -131,7 +131,7 @@ class Batch {
         }
         busy_.push_back(std::move(idle_.back()));
         idle_.pop_back();
-        busy_.back()->give(*chunk);
+        busy_.back()->judge(*chunk);
     }
 
     // skip takes the texts that begin before the first line off a chunk, and says whether something is left.
@@ -203,7 +203,7 @@ class Batch {
     }
 
     // sum_up says whether the summary could be written. Among the lines of a stream or the rows of CSV it would be one
-    // too many, and behind results that could not be written there is no room for it.
+    // too many, and after results that could not be written there is no room for it.
     bool sum_up()
     {
         summary_.add_unreadable_files(input_.unreadable_files());

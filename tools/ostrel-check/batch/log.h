@@ -26,7 +26,7 @@ struct Log {
     struct Entry {
         std::uint32_t row = kNoRow;
         std::uint32_t lines = 0;     // of the input, that end with it
-        std::uint32_t written = 0;   // bytes of the output, behind it
+        std::uint32_t written = 0;   // bytes of the output, up to its end
         GatewayCounts gateway = {};  // without parameters: it is none
     };
 

@@ -38,7 +38,7 @@ void Slot::start_worker()
     answers_.writing.close();
 }
 
-void Slot::give(const Chunk& chunk)
+void Slot::judge(const Chunk& chunk)
 {
     arena_->file = chunk.file;
     arena_->format = chunk.format;
@@ -95,7 +95,7 @@ void Slot::look()
     }
 }
 
-// conclude gives the verdict on the record at which the worker stopped, and goes on after it.
+// conclude decides on the record at which the worker ended, and goes on after it.
 void Slot::conclude(Verdict verdict, std::string problem)
 {
     Progress progress = arena_->progress();
@@ -167,7 +167,7 @@ std::uint32_t Slot::count(std::size_t written, Summary& summary)
     std::uint32_t done = 0;
     while (done < size.entries && log.entries[done].written <= written) ++done;
     if (done < size.entries) {
-        // A line is gone on with from its beginning.
+        // The batch resumes at the beginning of a line.
         while (done > 0 && log.entries[done - 1].lines == 0) --done;
     }
     std::vector<std::uint64_t> counts(size.rows);
@@ -210,19 +210,19 @@ Taken Slot::take(int descriptor, Summary& summary)
     arena_->commit(progress);
     if (taken.error != 0 || (arena_->is_to_stop() && !progress.is_within)) return taken;
     if (arena_->rest_of_input().empty()) {
-        give_memory_back();
+        return_memory();
     } else {
         start_round();
     }
     return taken;
 }
 
-void Slot::give_memory_back()
+void Slot::return_memory()
 {
-    give_back(arena_->output.data(), arena_->output.size(), kEnoughOutput);
-    give_back(arena_->input.data(), arena_->input.size(), kChunk);
-    give_back(arena_->prints.out.bytes, sizeof arena_->prints.out.bytes, kChunk);
-    give_back(arena_->prints.err.bytes, sizeof arena_->prints.err.bytes, kChunk);
+    release_pages(arena_->output.data(), arena_->output.size(), kEnoughOutput);
+    release_pages(arena_->input.data(), arena_->input.size(), kChunk);
+    release_pages(arena_->prints.out.bytes, sizeof arena_->prints.out.bytes, kChunk);
+    release_pages(arena_->prints.err.bytes, sizeof arena_->prints.err.bytes, kChunk);
 }
 
 }  // namespace ostrel::tool

@@ -31,7 +31,7 @@ struct Rules {
 // Taken is what became of the results that were to be written out.
 struct Taken {
     int error = 0;                // why not all of them were: an errno
-    std::uint64_t line = 0;       // behind the last one whose results were
+    std::uint64_t line = 0;       // after the last one whose results were
     bool is_within_line = false;  // results of that line were written, and more are to follow
 };
 
@@ -42,10 +42,10 @@ class Slot {
     Slot& operator=(const Slot&) = delete;
     ~Slot();
 
-    // give has a chunk judged.
-    void give(const Chunk& chunk);
+    // judge starts to have a chunk judged.
+    void judge(const Chunk& chunk);
 
-    // look sees whether the worker has answered, has ended or stands still.
+    // look sees whether the worker has answered, has ended or makes no progress.
     void look();
 
     [[nodiscard]] bool is_running() const { return is_running_; }
@@ -53,7 +53,7 @@ class Slot {
     // answers is what to wait for while the slot is running.
     [[nodiscard]] int answers() const { return answers_.reading.number(); }
 
-    // ask_to_stop has the worker stop behind the record that it is at.
+    // ask_to_stop has the worker stop after the current record.
     void ask_to_stop() { arena_->ask_to_stop(); }
 
     // take writes out what is done and counts what could be written. What is left of the chunk goes on, unless the
@@ -77,7 +77,7 @@ class Slot {
     void conclude(Verdict verdict, std::string problem);
     std::size_t write_out(int descriptor, int& error);
     std::uint32_t count(std::size_t written, Summary& summary);
-    void give_memory_back();
+    void return_memory();
 
     const Rules* rules_;
     std::unique_ptr<Arena, Unmap> arena_;

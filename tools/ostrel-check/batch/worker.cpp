@@ -164,7 +164,7 @@ class Judge {
         if (text_.capacity() > kEnoughOutput) text_ = std::string();
     }
 
-    // note tells the supervisor of what was read last, behind which the progress is now.
+    // note logs the record that was read last, at whose end the progress is now.
     void note(Progress& progress)
     {
         const auto lines = static_cast<std::uint32_t>(progress.next - noted_line_);
@@ -224,7 +224,7 @@ void append_result(std::string& out, const Style& style, const Place& place, con
 void run_worker(Arena& arena, const Style& style, const Reading& reading,
                 const std::vector<std::string>& files, const Descriptor& orders, const Descriptor& answers)
 {
-    // A check that runs a program must not give it the batch to read, nor a way to write between the results.
+    // A program that a check runs must not read the batch, nor write between the results.
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nothing, standard);
     Judge judge(arena, style, reading, files);
