@@ -124,7 +124,7 @@ std::vector<Row> read_rows(const std::set<std::string>& modules)
         return first != nullptr && module_of(file) == first;
     };
     std::vector<std::filesystem::path> ordered(files.begin(), files.end());
-    std::ranges::stable_partition(ordered, comes_first);
+    std::stable_partition(ordered.begin(), ordered.end(), comes_first);
     std::vector<Row> rows;
     for (const auto& file : ordered) append_file(rows, file);
     return rows;
