@@ -4,8 +4,8 @@
 #include <map>
 #include <nlohmann/json.hpp>
 
-#include "catalogue/case.h"
 #include "catalogue/texts.h"
+#include "catalogue/value_json.h"
 
 namespace ostrel::catalogue {
 

@@ -34,7 +34,7 @@ void add_words(const std::string& text, std::set<std::string>& words)
     if (text.size() > 1 && text.size() <= kLongestWord) words.insert(text);
 }
 
-void add_words(const catalogue::Case& given, std::set<std::string>& words)
+void add_words(const calling::Case& given, std::set<std::string>& words)
 {
     for (const catalogue::Value& value : given.values) {
         if (const auto* text = std::get_if<std::string>(&value)) add_words(*text, words);
@@ -66,7 +66,7 @@ void make_seeds(const Target& target, const std::vector<vectors::Row>& rows, con
     std::set<std::string> words;
     std::size_t count = 0;
     for (const vectors::Row& row : rows) {
-        const catalogue::Case& given = row.given;
+        const calling::Case& given = row.given;
         const auto input = judge.encode(*given.function, given.values);
         if (!input) continue;
         add_words(given, words);

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/caller.h"
+#include "calling/caller.h"
 
 namespace ostrel::oracle {
 

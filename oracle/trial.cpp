@@ -4,13 +4,13 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 
-#include "catalogue/case.h"
+#include "catalogue/value_json.h"
 
 namespace ostrel::oracle {
 
-using catalogue::Caller;
+using calling::Caller;
+using calling::Written;
 using catalogue::Function;
-using catalogue::Written;
 using nlohmann::ordered_json;
 using rules::Answer;
 using rules::Value;
@@ -72,7 +72,7 @@ bool Trial::agrees_at(Caller& caller, const Function& function, const std::vecto
     capture_.clear();
     ++calls_;
     const int code = caller.call();
-    const catalogue::PrintedView printed = capture_.look();
+    const calling::PrintedView printed = capture_.look();
     std::vector<Written> written;
     if (!expected.after.empty()) written = caller.written();
     if (code == expected.code && printed.out == expected.out && printed.err == expected.err &&

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/caller.h"
-#include "catalogue/capture.h"
+#include "calling/caller.h"
+#include "calling/capture.h"
 #include "rules/evaluate.h"
 
 namespace ostrel::oracle {
@@ -27,12 +27,12 @@ class Trial {
     [[nodiscard]] std::size_t calls() const { return calls_; }
 
  private:
-    bool agrees_at(catalogue::Caller& caller, const catalogue::Function& function,
+    bool agrees_at(calling::Caller& caller, const catalogue::Function& function,
                    const std::vector<rules::Value>& values, const rules::Answer& expected);
 
-    catalogue::Caller at_end_{catalogue::Edge::kEnd};
-    catalogue::Caller at_begin_{catalogue::Edge::kBegin};
-    catalogue::Capture capture_;
+    calling::Caller at_end_{calling::Edge::kEnd};
+    calling::Caller at_begin_{calling::Edge::kBegin};
+    calling::Capture capture_;
     std::string difference_;
     std::size_t calls_ = 0;
 };

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 #include "tests/support/described.h"
 
 namespace ostrel::tests {
@@ -99,12 +99,12 @@ class MacAddress : public testing::Test {
     Verdict verdict(int (*check)(const char*), const std::string& text)
     {
         const int code = check(text.c_str());
-        const catalogue::Printed printed = capture_.take();
+        const calling::Printed printed = capture_.take();
         EXPECT_EQ(0U, printed.flushed) << "nothing is flushed";
         return {code, printed.out};
     }
 
-    catalogue::Capture capture_;
+    calling::Capture capture_;
 };
 
 TEST_F(MacAddress, EveryByteInEveryPosition)

@@ -5,13 +5,13 @@
 
 #include <string>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 
 namespace ostrel::tests {
 
 TEST(BrandingColor, EveryByteInEveryPlace)
 {
-    catalogue::Capture capture;
+    calling::Capture capture;
     for (std::size_t place = 0; place < 6; ++place) {
         for (int byte = 1; byte < 256; ++byte) {
             std::string color = "0aF9cE";

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 #include "tests/support/byte_ranges.h"
 
 namespace ostrel::tests {
@@ -148,7 +148,7 @@ constexpr std::array<SetUser, 17> kSetUsers = {{
 TEST(CharacterSets, EveryByteThroughEveryCheckThatUsesASet)
 {
     for (const SetUser& user : kSetUsers) {
-        const catalogue::Capture printed;
+        const calling::Capture printed;
         for (int byte = 0x01; byte <= 0xFF; ++byte) {
             std::string value = user.before;
             value += static_cast<char>(byte);

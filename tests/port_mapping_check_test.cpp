@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 
 namespace ostrel::tests {
 
@@ -20,7 +20,7 @@ TEST(PortAvailable, EveryPort)
     Codes tcp;
     Codes udp;
     {
-        const catalogue::Capture capture;
+        const calling::Capture capture;
         for (int port = -1; port <= 65536; ++port) {
             const std::string text = std::to_string(port);
             if (const int code = PORTMAPPING_check_port_available(text.c_str(), 0)) tcp[port] = code;

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 #include "rules/rules.h"
 #include "src/time_zone_table.h"
 
@@ -92,7 +92,7 @@ int validate(const std::string& tzone, const std::string& name, const std::strin
 {
     Buffer tzone_buffer(tzone);
     Buffer name_buffer(name);
-    const catalogue::Capture capture;
+    const calling::Capture capture;
     const int code = Time_validate_tzone_and_tzone_name(tzone_buffer.data(), name_buffer.data());
     EXPECT_EQ(Buffer(tzone_after), tzone_buffer);
     EXPECT_EQ(Buffer(name_after), name_buffer);

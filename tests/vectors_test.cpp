@@ -22,9 +22,9 @@
 
 namespace ostrel::tests {
 
-using catalogue::Caller;
-using catalogue::Capture;
-using catalogue::Edge;
+using calling::Caller;
+using calling::Capture;
+using calling::Edge;
 using vectors::Outcome;
 using vectors::Row;
 using vectors::shown;

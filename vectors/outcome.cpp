@@ -4,12 +4,12 @@
 #include <ostream>
 #include <utility>
 
-#include "catalogue/case.h"
+#include "catalogue/value_json.h"
 
 namespace ostrel::vectors {
 
+using calling::Written;
 using catalogue::Value;
-using catalogue::Written;
 using nlohmann::json;
 
 std::vector<Value> values_of(const std::vector<Written>& written)
@@ -20,11 +20,11 @@ std::vector<Value> values_of(const std::vector<Written>& written)
     return values;
 }
 
-Outcome actual_outcome(catalogue::Caller& caller, catalogue::Capture& capture)
+Outcome actual_outcome(calling::Caller& caller, calling::Capture& capture)
 {
     Outcome outcome;
     outcome.code = caller.call();
-    catalogue::Printed printed = capture.take();
+    calling::Printed printed = capture.take();
     outcome.flushed = printed.flushed == printed.out.size();
     outcome.out = std::move(printed.out);
     outcome.err = std::move(printed.err);

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/caller.h"
-#include "catalogue/capture.h"
+#include "calling/caller.h"
+#include "calling/capture.h"
 
 namespace ostrel::vectors {
 
@@ -25,10 +25,10 @@ struct Outcome {
 void PrintTo(const Outcome& outcome, std::ostream* stream);
 
 // values_of returns what is in the memory of a call.
-std::vector<catalogue::Value> values_of(const std::vector<catalogue::Written>& written);
+std::vector<catalogue::Value> values_of(const std::vector<calling::Written>& written);
 
 // actual_outcome calls what is loaded.
-Outcome actual_outcome(catalogue::Caller& caller, catalogue::Capture& capture);
+Outcome actual_outcome(calling::Caller& caller, calling::Capture& capture);
 
 // shown quotes a text as JSON does; of a long one only the ends are shown.
 std::string shown(const std::string& text);

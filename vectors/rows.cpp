@@ -9,10 +9,12 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "catalogue/value_json.h"
+
 namespace ostrel::vectors {
 
+using calling::Written;
 using catalogue::Value;
-using catalogue::Written;
 using nlohmann::json;
 
 namespace {
@@ -55,7 +57,7 @@ Promise promise_from(const json& row)
 
 void read(const json& json_row, Row& row)
 {
-    row.given = catalogue::case_from_json(json_row);
+    row.given = calling::case_from_json(json_row);
     row.promise = promise_from(answered(json_row, Atoi::kLong64));
     if (json_row.contains("reason")) row.reason = reason_from_json(json_row["reason"]);
     if (row.reason && row.promise.outcome.code == 0)
@@ -140,7 +142,7 @@ std::vector<Row> read_cases()
     return rows;
 }
 
-std::size_t longest_text(const catalogue::Case& given)
+std::size_t longest_text(const calling::Case& given)
 {
     std::size_t longest = 0;
     for (const catalogue::Value& value : given.values) {

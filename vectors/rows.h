@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/case.h"
+#include "calling/case.h"
 #include "vectors/answers.h"
 #include "vectors/outcome.h"
 
@@ -43,7 +43,7 @@ struct Row {
     int line = 0;
     std::string text;
     std::string fault;
-    catalogue::Case given;
+    calling::Case given;
     Promise promise;
     std::map<Atoi, Promise> elsewhere;  // with such a C library it is this one
     std::optional<RowReason> reason;
@@ -59,10 +59,10 @@ std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 std::vector<Row> read_cases();
 
 // longest_text gives the length of the longest text that is passed.
-std::size_t longest_text(const catalogue::Case& given);
+std::size_t longest_text(const calling::Case& given);
 
 // expected_outcome is what a row promises where the caller holds before, with the C library at hand or another one.
-Outcome expected_outcome(const Row& row, const std::vector<catalogue::Written>& before,
+Outcome expected_outcome(const Row& row, const std::vector<calling::Written>& before,
                          Atoi atoi = rules::atoi_here());
 
 }  // namespace ostrel::vectors

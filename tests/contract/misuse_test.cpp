@@ -11,16 +11,16 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/caller.h"
+#include "calling/caller.h"
 #include "catalogue/catalogue.h"
 #include "tests/support/child.h"
 #include "tests/support/hostile.h"
 
 namespace ostrel::tests {
 
+using calling::Caller;
+using calling::Edge;
 using catalogue::Argument;
-using catalogue::Caller;
-using catalogue::Edge;
 using catalogue::Function;
 using catalogue::Value;
 

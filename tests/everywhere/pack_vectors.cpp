@@ -24,13 +24,16 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/caller.h"
-#include "catalogue/case.h"
+#include "calling/caller.h"
+#include "calling/case.h"
+#include "catalogue/value_json.h"
 #include "vectors/answers.h"
 #include "vectors/rows.h"
 
 namespace ostrel::catalogue {
 
+using calling::Caller;
+using calling::Case;
 using nlohmann::json;
 using vectors::Atoi;
 using vectors::kAtois;
@@ -113,7 +116,7 @@ void put_buffers(std::string& packed, std::size_t size, const json& before, cons
 
 std::string packed_row(const json& row, const std::string& label, std::uint32_t atois)
 {
-    const Case given = case_from_json(row);
+    const Case given = calling::case_from_json(row);
     Caller().load(*given.function, given.values);  // refuses what does not suit the function
     const std::vector<Argument>& arguments = given.function->arguments;
     const json& args = row["args"];

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 
 namespace ostrel::tests {
 
@@ -39,7 +39,7 @@ TEST(DeviceName, EveryFirstAndEveryLaterByte)
         const bool other = (byte >= '0' && byte <= '9') || byte == ' ' || byte == '-';
         const std::string first(1, static_cast<char>(byte));
         const std::string later = "a" + first;
-        const catalogue::Capture capture;
+        const calling::Capture capture;
         const int first_code = LAN_check_cis_dev_name(first.c_str());
         const int later_code = LAN_check_cis_dev_name(later.c_str());
         EXPECT_EQ(letter ? 0 : other ? -1 : 803, first_code) << byte;

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 #include "tests/support/described.h"
 #include "tests/support/random_lists.h"
 
@@ -53,12 +53,12 @@ void expect_as_described(const char* name, Edit edit, int code)
     Answer actual{};
     {
         // One for all rounds, as each costs much; what differs is told when it is gone.
-        catalogue::Capture capture;
+        calling::Capture capture;
         for (int round = 0; round < 100000 && expected == actual; ++round) {
             one = random_text(random, server_parts(), 4);
             other = random_text(random, server_parts(), 4);
             actual.code = edit(one.c_str(), other.c_str());
-            const catalogue::Printed printed = capture.take();
+            const calling::Printed printed = capture.take();
             actual.out = printed.flushed == printed.out.size() ? printed.out : "not flushed";
             const rules::Answer answer = described(name, {one, other});
             expected = {answer.code, answer.is_flushed() ? answer.out : "not flushed"};
@@ -104,7 +104,7 @@ TEST(AllowedMacAddresses, ARefusalLeavesEveryByte)
     };
     for (const auto& [address, list] : refused) {
         std::string buffer = unfilled(list);
-        const catalogue::Capture capture;
+        const calling::Capture capture;
         EXPECT_EQ(-1, LAN_check_add_allowedMACAddress(address.c_str(), buffer.data()));
         EXPECT_EQ(unfilled(list), buffer) << address;
     }

@@ -9,7 +9,7 @@
 #include <csignal>
 #include <string>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 
 namespace ostrel::tests {
 
@@ -100,7 +100,7 @@ TEST(HnapKeywords, IgnoreTheCaseOfAsciiLettersAlone)
 
 TEST(GuestNumber, EveryNumberOfUpToThreeDigits)
 {
-    const catalogue::Capture capture;
+    const calling::Capture capture;
     for (int number = 0; number < 1000; ++number) {
         const std::string text = std::to_string(number);
         const int long_text = number > 99 ? 802 : 0;

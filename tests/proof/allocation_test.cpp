@@ -193,7 +193,7 @@ int unlink(const char* name) noexcept
 
 namespace ostrel::tests {
 
-using catalogue::Caller;
+using calling::Caller;
 using catalogue::Function;
 using catalogue::Value;
 using vectors::read_cases;

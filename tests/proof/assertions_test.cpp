@@ -17,7 +17,7 @@
 
 namespace ostrel::tests {
 
-using catalogue::Caller;
+using calling::Caller;
 using catalogue::Function;
 using catalogue::Kind;
 using catalogue::Value;

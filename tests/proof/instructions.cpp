@@ -23,6 +23,7 @@
 
 namespace {
 
+using namespace ostrel::calling;
 using namespace ostrel::catalogue;
 using namespace ostrel::tests;
 

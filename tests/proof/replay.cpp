@@ -21,7 +21,7 @@ using namespace ostrel;
 using namespace ostrel::vectors;
 
 // is_as_promised runs the case at the edge, and says so where the outcome is another.
-bool is_as_promised(const Row& row, catalogue::Caller& caller, catalogue::Capture& capture)
+bool is_as_promised(const Row& row, calling::Caller& caller, calling::Capture& capture)
 {
     caller.load(*row.given.function, row.given.values);
     const Outcome expected = expected_outcome(row, caller.written());
@@ -47,9 +47,9 @@ int main(int argc, char** argv)
         return 2;
     }
     std::size_t failures = 0;
-    catalogue::Capture capture;
-    catalogue::Caller at_end(catalogue::Edge::kEnd);
-    catalogue::Caller at_begin(catalogue::Edge::kBegin);
+    calling::Capture capture;
+    calling::Caller at_end(calling::Edge::kEnd);
+    calling::Caller at_begin(calling::Edge::kBegin);
     for (const Row& row : rows) {
         if (!is_as_promised(row, at_end, capture)) ++failures;
         if (!is_as_promised(row, at_begin, capture)) ++failures;

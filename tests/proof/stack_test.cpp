@@ -109,7 +109,7 @@ int atoi(const char* nptr) noexcept
 
 namespace ostrel::tests {
 
-using catalogue::Caller;
+using calling::Caller;
 using catalogue::Function;
 using catalogue::Value;
 using vectors::read_cases;
@@ -140,7 +140,7 @@ Function of_text(const char* name)
 class PaintedStack {
  public:
     PaintedStack()
-        : words_(reinterpret_cast<std::uint64_t*>(memory_.place(kStackSize, catalogue::Edge::kBegin)))
+        : words_(reinterpret_cast<std::uint64_t*>(memory_.place(kStackSize, calling::Edge::kBegin)))
     {
         std::fill_n(words_, kWords, kPaint);
         zero_ = depth_of_nothing();
@@ -187,7 +187,7 @@ class PaintedStack {
         return static_cast<std::size_t>(end - deepest) * sizeof(std::uint64_t);
     }
 
-    catalogue::GuardedMemory memory_;
+    calling::GuardedMemory memory_;
     std::uint64_t* words_;
     std::size_t zero_ = 0;
 };

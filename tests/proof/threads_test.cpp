@@ -31,7 +31,7 @@
 
 namespace ostrel::tests {
 
-using catalogue::Caller;
+using calling::Caller;
 using vectors::Outcome;
 using vectors::read_cases;
 using vectors::Row;
@@ -112,10 +112,9 @@ bool asks_the_driver(const Row& row)
            row.text.find("2.4") != std::string::npos;
 }
 
-bool is_as_promised(const Outcome& expected, const std::vector<catalogue::Written>& written, int code)
+bool is_as_promised(const Outcome& expected, const std::vector<calling::Written>& written, int code)
 {
-    return code == expected.code &&
-           std::ranges::equal(written, expected.after, {}, &catalogue::Written::value);
+    return code == expected.code && std::ranges::equal(written, expected.after, {}, &calling::Written::value);
 }
 
 // judge_all runs every case, beginning somewhere else in each thread, and gives how many went wrong.

@@ -16,7 +16,7 @@
 
 namespace ostrel::tests {
 
-using catalogue::Caller;
+using calling::Caller;
 using catalogue::Function;
 using rules::Answer;
 using rules::Build;

@@ -13,7 +13,7 @@
 
 namespace ostrel::tests {
 
-using catalogue::Capture;
+using calling::Capture;
 using rules::Check;
 using rules::Constraints;
 using rules::NullOutcome;

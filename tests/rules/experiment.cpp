@@ -13,7 +13,7 @@
 
 namespace ostrel::tests {
 
-using catalogue::Capture;
+using calling::Capture;
 using catalogue::Function;
 using catalogue::Kind;
 using catalogue::Value;

@@ -21,14 +21,14 @@ class Experiment {
     Experiment(const catalogue::Function& function, const rules::Check& check);
 
     // change makes so many calls of changed rows: what is accepted must obey.
-    void change(std::size_t times, catalogue::Capture& capture);
+    void change(std::size_t times, calling::Capture& capture);
 
     // vary puts candidates for an argument in accepted rows: what is accepted must obey and, where that is said to
     // be enough, the reverse. Recommended values must be accepted, too.
-    void vary(std::size_t argument, catalogue::Capture& capture);
+    void vary(std::size_t argument, calling::Capture& capture);
 
     // pass_null tells what NULL does there, by the description and, where the call can be made, by the library.
-    std::set<rules::NullOutcome> pass_null(std::size_t argument, catalogue::Capture& capture);
+    std::set<rules::NullOutcome> pass_null(std::size_t argument, calling::Capture& capture);
 
     // constraints gives what is said of an argument, or NULL.
     [[nodiscard]] const rules::Constraints* constraints(std::size_t argument) const
@@ -45,7 +45,7 @@ class Experiment {
     using Values = std::vector<catalogue::Value>;
 
     // call tells whether the library accepts the values. Nothing: the call must not be made, or builds differ.
-    std::optional<bool> call(const Values& values, catalogue::Capture& capture);
+    std::optional<bool> call(const Values& values, calling::Capture& capture);
     void tell(std::string_view what, const Values& values, std::size_t argument);
     void compare(const Values& values, std::size_t argument, bool is_accepted);
     [[nodiscard]] Values candidates_for(std::size_t argument) const;
@@ -56,7 +56,7 @@ class Experiment {
     bool reads_number_ = false;                              // of any argument
     std::vector<Values> rows_;
     Obedience obedience_;
-    catalogue::Caller caller_;
+    calling::Caller caller_;
 };
 
 }  // namespace ostrel::tests

@@ -7,7 +7,7 @@
 #include <regex>
 #include <set>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 #include "oracle/library.h"
 #include "rules/explain.h"
 #include "rules/rules.h"
@@ -165,8 +165,8 @@ bool is_accepted(const Function& function, const std::vector<Value>& values)
 {
     const auto answer = rules::evaluate(*function.check, values, oracle::library_build());
     if (answer.outside != rules::Outside::kNo || answer.code != 0) return false;
-    const catalogue::Capture capture;
-    catalogue::Caller caller;
+    const calling::Capture capture;
+    calling::Caller caller;
     caller.load(function, values);
     return caller.call() == 0;
 }

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
-#include "catalogue/caller.h"
-#include "catalogue/capture.h"
+#include "calling/caller.h"
+#include "calling/capture.h"
 #include "catalogue/hazards.h"
 #include "oracle/contents.h"
 #include "rules/walk.h"
@@ -27,18 +27,18 @@ class Hazards : public testing::Test {
     std::vector<std::string> held(const Function& function, const Exposure& exposure,
                                   const std::vector<Value>& values)
     {
-        const catalogue::Capture capture;
+        const calling::Capture capture;
         caller_.load(function, values);
         if (caller_.call() != 0) return {};
         if (!exposure.is_after) return oracle::texts_of(values[exposure.argument]);
-        for (const catalogue::Written& written : caller_.written()) {
+        for (const calling::Written& written : caller_.written()) {
             if (written.argument == &function.arguments[exposure.argument])
                 return oracle::texts_of(written.value);
         }
         return {};
     }
 
-    catalogue::Caller caller_;
+    calling::Caller caller_;
 };
 
 TEST_F(Hazards, EachWitnessIsAccepted)

@@ -31,7 +31,7 @@ std::string outcome_in_words(const Function& function, const std::vector<Value>&
 {
     int code = 0;
     const ChildEnd end = run_in_child(std::chrono::seconds(5), [&] {
-        catalogue::Caller caller;
+        calling::Caller caller;
         caller.load(function, values);
         code = caller.call();
         std::fprintf(stderr, "\ncode %d", code);

@@ -11,7 +11,7 @@
 #include <cstring>
 #include <string>
 
-#include "catalogue/caller.h"
+#include "calling/caller.h"
 #include "rules/evaluate.h"
 #include "rules/rules.h"
 
@@ -28,7 +28,7 @@ bool died(int status) { return WIFSIGNALED(status) ? WTERMSIG(status) != SIGABRT
 // Buffer is memory that ends at an unreadable page.
 class Buffer {
  public:
-    explicit Buffer(std::size_t size) : size_(size), begin_(memory_.place(size, catalogue::Edge::kEnd))
+    explicit Buffer(std::size_t size) : size_(size), begin_(memory_.place(size, calling::Edge::kEnd))
     {
         std::memset(begin_, kOther, size);
     }
@@ -45,7 +45,7 @@ class Buffer {
     [[nodiscard]] std::string text() const { return {begin_, strnlen(begin_, size_)}; }
 
  private:
-    catalogue::GuardedMemory memory_;
+    calling::GuardedMemory memory_;
     std::size_t size_;
     char* begin_;
 };

@@ -9,15 +9,15 @@
 #include <cstring>
 #include <string>
 
-#include "catalogue/caller.h"
-#include "catalogue/capture.h"
+#include "calling/caller.h"
+#include "calling/capture.h"
 #include "tests/support/reference_names.h"
 
 namespace ostrel::tests {
 
 namespace {
 
-using catalogue::Edge;
+using calling::Edge;
 
 constexpr int kSubstitute = 0x1A;
 
@@ -77,8 +77,8 @@ class CharacterReferences : public testing::TestWithParam<Edge> {
     void expect_unchanged(const std::string& text) { EXPECT_EQ(text, convert(text)); }
 
  private:
-    catalogue::GuardedMemory memory_;
-    catalogue::Capture capture_;
+    calling::GuardedMemory memory_;
+    calling::Capture capture_;
 };
 
 TEST_P(CharacterReferences, EveryName)

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 
 namespace {
 
@@ -56,7 +56,7 @@ class Host : public testing::Test {
 
     static int check_ssid(char* value)
     {
-        const catalogue::Capture capture;
+        const calling::Capture capture;
         return WLAN_check_ssid(value);
     }
 };
@@ -97,7 +97,7 @@ TEST_F(Host, DecidesAboutTheSettings)
 
 TEST_F(Host, IsNotAskedToCompareKeywords)
 {
-    const catalogue::Capture capture;
+    const calling::Capture capture;
     WLAN_check_wide_channel("20", "RADIO_2.4GHz");
     WLAN_check_beacon_type("WPA");
     WLAN_check_HNAP_KeyRenewal("true", "600", "WPA2-PSK");

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/caller.h"
+#include "calling/caller.h"
 #include "catalogue/catalogue.h"
 
 namespace ostrel::tests {

@@ -7,12 +7,12 @@
 #include <cstdlib>
 #include <string>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 #include "tests/support/child.h"
 
 namespace ostrel::tests {
 
-using catalogue::Capture;
+using calling::Capture;
 
 namespace {
 

@@ -13,12 +13,12 @@
 #include <iterator>
 #include <string>
 
-#include "catalogue/own_var.h"
+#include "calling/own_var.h"
 
 namespace ostrel::tests {
 
-using catalogue::can_list_channels;
-using catalogue::kChannelList;
+using calling::can_list_channels;
+using calling::kChannelList;
 
 namespace {
 

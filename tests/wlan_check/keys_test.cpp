@@ -8,7 +8,7 @@
 #include <cstring>
 #include <string>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 
 namespace ostrel::tests {
 
@@ -42,7 +42,7 @@ int check(const Keys& keys, const std::array<bool, 4>& emptied)
     }
     int code = 0;
     {
-        const catalogue::Capture capture;
+        const calling::Capture capture;
         code = WLAN_check_wepkeys(block.data());
     }
     EXPECT_TRUE(block == expected);

@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 
 namespace ostrel::tests {
 
@@ -48,7 +48,7 @@ TEST(Radio, EveryChannelOf5GHz)
 
 TEST(Settings, EveryByteOfARegulatoryDomain)
 {
-    const catalogue::Capture capture;
+    const calling::Capture capture;
     for (int byte = 0; byte < 256; ++byte) {
         const char c = static_cast<char>(byte);
         const int digit = byte >= '0' && byte <= '9' ? OSTREL_VALID : OSTREL_INVALID_VALUE;

@@ -9,12 +9,12 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/own_var.h"
+#include "calling/own_var.h"
 #include "run.h"
 
 namespace ostrel::tool {
 
-using catalogue::kChannelList;
+using calling::kChannelList;
 
 namespace {
 
@@ -23,7 +23,7 @@ class Driver : public testing::Test {
     // Each test has a folder for temporary files of its own, so that it can see that none is left.
     void SetUp() override
     {
-        if (!catalogue::can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
+        if (!calling::can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
         ASSERT_NE(nullptr, mkdtemp(folder_.data()));
         setenv("TMPDIR", folder_.c_str(), 1);
     }

@@ -10,7 +10,7 @@
 #include <string_view>
 
 #include "batch/log.h"
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 #include "read/cutter.h"
 #include "read/reading.h"
 #include "read/record.h"
@@ -71,7 +71,7 @@ class Arena {
     std::size_t input_size = 0;
     std::array<char, 2 * kLongestText + kChunk> input;
     std::array<char, kOutput> output;
-    catalogue::Prints prints;
+    calling::Prints prints;
     Log log;  // of what has been judged since it was last taken
 
     // The supervisor asks the worker to stop after the current record.

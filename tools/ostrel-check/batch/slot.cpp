@@ -119,7 +119,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
     if (result.function != nullptr) clean_up_after(*result.function);
     result.problem = std::move(problem);
     if (result.verdict != Verdict::kMalformed) {
-        const catalogue::Prints& prints = arena_->prints;
+        const calling::Prints& prints = arena_->prints;
         result.printed = {prints.out.view(), prints.out.size, prints.err.view(), prints.out.cut};
     }
     explain(result);

@@ -186,8 +186,8 @@ class Judge {
     Arena* arena_;
     Style style_;
     const std::vector<std::string>* files_;
-    catalogue::Capture capture_;
-    catalogue::Caller caller_;
+    calling::Capture capture_;
+    calling::Caller caller_;
     Cases cases_;
     const Map* map_;  // NULL: there is none
     std::uint64_t noted_line_ = 0;

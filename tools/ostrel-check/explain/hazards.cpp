@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-#include "catalogue/case.h"
 #include "catalogue/hazards.h"
 #include "catalogue/texts.h"
+#include "catalogue/value_json.h"
 #include "explain/explain.h"
 #include "write/show.h"
 

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
-#include "catalogue/case.h"
+#include "catalogue/value_json.h"
 #include "rules/constraints.h"
 #include "rules/language/pattern.h"
 #include "rules/rules.h"

@@ -14,13 +14,13 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "catalogue/own_var.h"
+#include "calling/own_var.h"
 #include "rules/walk.h"
 
 namespace ostrel::tool {
 
-using catalogue::kChannelFolder;
-using catalogue::kChannelList;
+using calling::kChannelFolder;
+using calling::kChannelList;
 
 namespace {
 
@@ -45,7 +45,7 @@ StandIn::StandIn(std::string_view channels)
 
 void StandIn::make(std::string_view channels)
 {
-    if (access(kChannelFolder, W_OK) != 0 && !catalogue::move_to_own_var()) {
+    if (access(kChannelFolder, W_OK) != 0 && !calling::move_to_own_var()) {
         problem_ = std::string("--channels needs to write ") + kChannelList +
                    ", which this user must not, and this system allows no mount namespace in which it could";
         return;

@@ -186,7 +186,7 @@ void Redactor::redact(Result& result, Encoding encoding)
     if (!has_secret) return;
     find_secrets(result, encoding);
     if (!result.printed.out.empty() || !result.printed.err.empty()) redact_lines(result);
-    for (catalogue::Written& written : result.after) {
+    for (calling::Written& written : result.after) {
         const auto argument = static_cast<std::size_t>(written.argument - result.function->arguments.data());
         written.value = shown(written.value, check.arguments[argument].is_secret);
     }

@@ -20,7 +20,7 @@
 
 namespace ostrel::tool {
 
-using catalogue::Caller;
+using calling::Caller;
 
 namespace {
 

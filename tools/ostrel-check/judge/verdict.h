@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/caller.h"
-#include "catalogue/capture.h"
+#include "calling/caller.h"
+#include "calling/capture.h"
 #include "catalogue/catalogue.h"
 #include "read/record.h"
 #include "rules/reason.h"
@@ -73,8 +73,8 @@ struct Result {
     const Record* record = nullptr;  // NULL: there is none
     int code = 0;
     std::string problem;  // malformed, ended or not returned: in words
-    catalogue::PrintedView printed;
-    std::vector<catalogue::Written> after;
+    calling::PrintedView printed;
+    std::vector<calling::Written> after;
     bool is_tried = true;  // the check was called
     Why why = {};
 

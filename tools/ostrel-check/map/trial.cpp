@@ -7,7 +7,7 @@
 #include <charconv>
 #include <stdexcept>
 
-#include "catalogue/caller.h"
+#include "calling/caller.h"
 #include "judge/driver.h"
 #include "judge/reason.h"
 #include "judge/verdict.h"
@@ -106,7 +106,7 @@ std::optional<int> Trial::judge(const std::string& value) const
 {
     const auto values = values_with(value);
     if (!values) return std::nullopt;
-    catalogue::Caller caller;
+    calling::Caller caller;
     caller.load(*entry_->function, *values);
     const Turn turn(*entry_->function);
     Pipe pipe = make_pipe();

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/caller.h"
+#include "calling/caller.h"
 #include "catalogue/catalogue.h"
 #include "read/record.h"
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/caller.h"
+#include "calling/caller.h"
 #include "read/encoding.h"
 #include "read/record.h"
 

@@ -62,7 +62,7 @@ void append_whose(std::string& out, const Result& result)
 
 void append_after(std::string& out, const Result& result, std::size_t indentation, std::size_t columns)
 {
-    for (const catalogue::Written& written : result.after) {
+    for (const calling::Written& written : result.after) {
         std::string line = std::string(written.argument->name).append(" after the call: ");
         const bool is_unwritten = written.argument->kind == catalogue::Kind::kIntegerOut &&
                                   std::holds_alternative<std::nullptr_t>(written.value);

@@ -113,7 +113,7 @@ class Line {
 
     void write_effects(const Result& result)
     {
-        const catalogue::PrintedView& printed = result.printed;
+        const calling::PrintedView& printed = result.printed;
         if (printed.out.empty() && printed.err.empty() && !printed.cut && result.after.empty()) {
             json_.members(R"("out":"","flushed":true,"err":"","after":{})");
             return;
@@ -130,7 +130,7 @@ class Line {
         }
         json_.plain("after");
         json_.StartObject();
-        for (const catalogue::Written& written : result.after) {
+        for (const calling::Written& written : result.after) {
             json_.plain(written.argument->name);
             write_value(json_, written.value, encoding_);
         }

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/caller.h"
+#include "calling/caller.h"
 #include "rules/reason_json.h"
 
 namespace ostrel::tool {

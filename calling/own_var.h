@@ -1,8 +1,8 @@
 // A /var of this process's own, for the list of channels, which is a file of one fixed name there.
-#ifndef OSTREL_CATALOGUE_OWN_VAR_H
-#define OSTREL_CATALOGUE_OWN_VAR_H
+#ifndef OSTREL_CALLING_OWN_VAR_H
+#define OSTREL_CALLING_OWN_VAR_H
 
-namespace ostrel::catalogue {
+namespace ostrel::calling {
 
 inline constexpr char kChannelFolder[] = "/var";
 inline constexpr char kChannelList[] = "/var/hnapwl0chlist";
@@ -16,6 +16,6 @@ bool move_to_own_var();
 // first call moves this process there.
 bool can_list_channels();
 
-}  // namespace ostrel::catalogue
+}  // namespace ostrel::calling
 
 #endif

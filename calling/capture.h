@@ -1,13 +1,13 @@
 // Capture collects what is printed, without a file and without a system call.
-#ifndef OSTREL_CATALOGUE_CAPTURE_H
-#define OSTREL_CATALOGUE_CAPTURE_H
+#ifndef OSTREL_CALLING_CAPTURE_H
+#define OSTREL_CALLING_CAPTURE_H
 
 #include <cstddef>
 #include <cstdio>
 #include <string>
 #include <string_view>
 
-namespace ostrel::catalogue {
+namespace ostrel::calling {
 
 // Prints is memory for what is printed. It is meant for untouched, zeroed memory of mmap, of which only what
 // is written to counts. Shared with another process it shows that process what was printed, even when this
@@ -68,6 +68,6 @@ class Capture {
     std::FILE* stream_err_;
 };
 
-}  // namespace ostrel::catalogue
+}  // namespace ostrel::calling
 
 #endif

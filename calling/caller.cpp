@@ -1,4 +1,4 @@
-#include "catalogue/caller.h"
+#include "calling/caller.h"
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -9,7 +9,13 @@
 #include <stdexcept>
 #include <utility>
 
-namespace ostrel::catalogue {
+namespace ostrel::calling {
+
+using catalogue::Argument;
+using catalogue::Function;
+using catalogue::Kind;
+using catalogue::Raw;
+using catalogue::Value;
 
 namespace {
 
@@ -112,7 +118,8 @@ void Caller::load_argument(std::size_t index, const Value& value)
         return;
     }
     const std::string& text = text_of(argument, value);
-    const std::size_t size = values_.empty() ? text.size() + 1 : room_of(*function_, index, values_);
+    const std::size_t size =
+        values_.empty() ? text.size() + 1 : catalogue::room_of(*function_, index, values_);
     char* place = memory.place(size, edge_);
     std::memcpy(place, text.data(), text.size());
     std::memset(place + text.size(), 0, size - text.size());
@@ -144,14 +151,14 @@ void Caller::load(const Function& function, const std::vector<Value>& values)
     values_.clear();
     const bool has_formula = std::ranges::any_of(
         function.check->arguments, [](const rules::Argument& argument) { return argument.room.has_value(); });
-    if (has_formula) values_ = completed(function, values);
+    if (has_formula) values_ = catalogue::completed(function, values);
     std::size_t next = 0;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (outputs_given || !arguments[i].output_only) {
             load_argument(i, values[next++]);
         } else {
-            load_argument(i,
-                          arguments[i].kind == Kind::kIntegerOut ? Value(kUnwritten) : Value(std::string()));
+            load_argument(i, arguments[i].kind == Kind::kIntegerOut ? Value(catalogue::kUnwritten)
+                                                                    : Value(std::string()));
         }
     }
 }
@@ -172,7 +179,7 @@ std::vector<Written> Caller::written() const
         } else if (argument.kind == Kind::kIntegerOut) {
             int number = 0;
             std::memcpy(&number, begin, sizeof number);
-            if (number != kUnwritten) value = static_cast<long long>(number);
+            if (number != catalogue::kUnwritten) value = static_cast<long long>(number);
         } else if (argument.kind == Kind::kBuffer) {
             value = text_at(begin, capacity_.at(i));
         } else {
@@ -188,4 +195,4 @@ std::vector<Written> Caller::written() const
     return result;
 }
 
-}  // namespace ostrel::catalogue
+}  // namespace ostrel::calling

@@ -1,6 +1,6 @@
 // Caller passes given values to a function and shows what it wrote, with an unreadable page at each argument.
-#ifndef OSTREL_CATALOGUE_CALLER_H
-#define OSTREL_CATALOGUE_CALLER_H
+#ifndef OSTREL_CALLING_CALLER_H
+#define OSTREL_CALLING_CALLER_H
 
 #include <array>
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 #include "catalogue/catalogue.h"
 
-namespace ostrel::catalogue {
+namespace ostrel::calling {
 
 // Edge says which end of each argument's memory lies against an unreadable page.
 enum class Edge { kEnd, kBegin };
@@ -35,8 +35,8 @@ class GuardedMemory {
 // Written is what an argument that the function may write to holds after the call; NULL for a number that was
 // not written, and for a buffer that was NULL.
 struct Written {
-    const Argument* argument;
-    Value value;
+    const catalogue::Argument* argument;
+    catalogue::Value value;
 };
 
 class Caller {
@@ -46,7 +46,7 @@ class Caller {
     // load takes the values of all arguments, or of all that are not only written. Throws
     // std::invalid_argument, with a message for the user, when their number, kinds or ranges do not suit the
     // function.
-    void load(const Function& function, const std::vector<Value>& values);
+    void load(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 
     // call calls the function with what was loaded.
     int call() { return function_->invoke(raw_); }
@@ -55,16 +55,16 @@ class Caller {
     [[nodiscard]] std::vector<Written> written() const;
 
  private:
-    void load_argument(std::size_t index, const Value& value);
+    void load_argument(std::size_t index, const catalogue::Value& value);
 
     Edge edge_;
-    const Function* function_ = nullptr;
+    const catalogue::Function* function_ = nullptr;
     std::array<GuardedMemory, 4> memory_;
     std::array<std::size_t, 4> capacity_{};
-    std::vector<Value> values_;  // of all arguments, where the room of a buffer depends on others
-    std::vector<Raw> raw_;
+    std::vector<catalogue::Value> values_;  // of all arguments, where the room of a buffer depends on others
+    std::vector<catalogue::Raw> raw_;
 };
 
-}  // namespace ostrel::catalogue
+}  // namespace ostrel::calling
 
 #endif

@@ -1,10 +1,8 @@
-#include "catalogue/case.h"
+#include "catalogue/value_json.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
-
-#include "catalogue/names.h"
 
 namespace ostrel::catalogue {
 
@@ -15,7 +13,6 @@ namespace {
 // A few bytes of JSON can describe a very long text, or nest very deeply.
 constexpr std::size_t kLongestText = std::size_t{16} << 20;
 constexpr int kDeepest = 8;
-constexpr std::size_t kMostArguments = 4;
 constexpr std::size_t kMostBlocks = 16;
 constexpr json::number_unsigned_t kLargestNumber = 0xFFFFFFFF;
 
@@ -140,23 +137,6 @@ json json_from_value(const Value& value)
         }
     };
     return std::visit(Visitor(), value);
-}
-
-Case case_from_json(const json& row)
-{
-    if (!row.is_object()) throw std::invalid_argument("a case is an object with \"check\" and \"args\"");
-    const auto name = row.find("check");
-    if (name == row.end() || !name->is_string()) {
-        throw std::invalid_argument("\"check\" must be the name of a check");
-    }
-    const auto args = row.find("args");
-    if (args == row.end() || !args->is_array()) throw std::invalid_argument("\"args\" must be an array");
-    Case result;
-    result.function = find(name->get_ref<const std::string&>());
-    if (result.function == nullptr) throw std::invalid_argument(unknown_function(name->get<std::string>()));
-    if (args->size() > kMostArguments) throw std::invalid_argument("no check takes that many arguments");
-    for (const json& arg : *args) result.values.push_back(value_from_json(arg));
-    return result;
 }
 
 }  // namespace ostrel::catalogue

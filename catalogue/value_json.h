@@ -1,25 +1,14 @@
-// Case: which function is called with what, in the notation of the conformance vectors.
-#ifndef OSTREL_CATALOGUE_CASE_H
-#define OSTREL_CATALOGUE_CASE_H
+// Values in the notation of the conformance vectors.
+#ifndef OSTREL_CATALOGUE_VALUE_JSON_H
+#define OSTREL_CATALOGUE_VALUE_JSON_H
 
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "catalogue/caller.h"
 #include "catalogue/catalogue.h"
 
 namespace ostrel::catalogue {
-
-struct Case {
-    const Function* function = nullptr;
-    std::vector<Value> values;
-};
-
-// case_from_json reads {"check": name, "args": [...]}; other members are not looked at. Throws
-// std::invalid_argument with a message for the user.
-Case case_from_json(const nlohmann::json& row);
 
 // text_from_json reads a text: a string; {"repeat": text, "times": n}; or {"join": [text, ...]}. Each
 // character of a string is one byte, the one that its code point numbers; code points above 0xFF are refused,

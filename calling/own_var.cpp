@@ -1,4 +1,4 @@
-#include "catalogue/own_var.h"
+#include "calling/own_var.h"
 
 #include <fcntl.h>
 #include <sched.h>
@@ -9,7 +9,7 @@
 #include <fstream>
 #include <string>
 
-namespace ostrel::catalogue {
+namespace ostrel::calling {
 
 namespace {
 
@@ -77,4 +77,4 @@ bool can_list_channels()
     return can;
 }
 
-}  // namespace ostrel::catalogue
+}  // namespace ostrel::calling

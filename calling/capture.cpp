@@ -1,4 +1,4 @@
-#include "catalogue/capture.h"
+#include "calling/capture.h"
 
 #include <sys/mman.h>
 #include <sys/types.h>
@@ -7,7 +7,7 @@
 #include <cstring>
 #include <new>
 
-namespace ostrel::catalogue {
+namespace ostrel::calling {
 
 namespace {
 
@@ -95,4 +95,4 @@ Printed Capture::take()
     return printed;
 }
 
-}  // namespace ostrel::catalogue
+}  // namespace ostrel::calling
