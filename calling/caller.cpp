@@ -9,6 +9,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "rules/walk.h"
+
 namespace ostrel::calling {
 
 using catalogue::Argument;
@@ -78,8 +80,9 @@ char* GuardedMemory::place(std::size_t size, Edge edge)
     return edge == Edge::kBegin ? begin : begin + usable_ - size;
 }
 
-void Caller::load_argument(std::size_t index, const Value& value)
+void Caller::load_argument(std::size_t index, const std::vector<Value>& values)
 {
+    const Value& value = values[index];
     const Argument& argument = function_->arguments[index];
     Raw& raw = raw_[index];
     if (argument.kind == Kind::kInteger) {
@@ -118,8 +121,7 @@ void Caller::load_argument(std::size_t index, const Value& value)
         return;
     }
     const std::string& text = text_of(argument, value);
-    const std::size_t size =
-        values_.empty() ? text.size() + 1 : catalogue::room_of(*function_, index, values_);
+    const std::size_t size = catalogue::room_of(*function_, index, values);
     char* place = memory.place(size, edge_);
     std::memcpy(place, text.data(), text.size());
     std::memset(place + text.size(), 0, size - text.size());
@@ -129,14 +131,17 @@ void Caller::load_argument(std::size_t index, const Value& value)
 
 void Caller::load(const Function& function, const std::vector<Value>& values)
 {
-    const auto& arguments = function.arguments;
-    const auto inputs = static_cast<std::size_t>(
-        std::ranges::count_if(arguments, [](const Argument& argument) { return !argument.output_only; }));
-    const bool outputs_given = values.size() == arguments.size();
-    if (!outputs_given && values.size() != inputs) {
+    const auto arguments = function.arguments;
+    if (values.size() != arguments.size()) {
+        const auto inputs =
+            static_cast<std::size_t>(std::ranges::count(arguments, false, &Argument::is_only_written));
+        if (values.size() == inputs) {
+            load(function, catalogue::completed(function, values));
+            return;
+        }
         std::string expected;
         for (const Argument& argument : arguments) {
-            if (argument.output_only) continue;
+            if (argument.is_only_written()) continue;
             expected.append(expected.empty() ? "" : ", ").append(argument.name);
             if (argument.blocks > 1)
                 expected += " (an array of " + std::to_string(argument.blocks) + " texts)";
@@ -148,19 +153,25 @@ void Caller::load(const Function& function, const std::vector<Value>& values)
     }
     function_ = &function;
     raw_.assign(arguments.size(), Raw());
-    values_.clear();
-    const bool has_formula = std::ranges::any_of(
-        function.check->arguments, [](const rules::Argument& argument) { return argument.room.has_value(); });
-    if (has_formula) values_ = catalogue::completed(function, values);
-    std::size_t next = 0;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (outputs_given || !arguments[i].output_only) {
-            load_argument(i, values[next++]);
-        } else {
-            load_argument(i, arguments[i].kind == Kind::kIntegerOut ? Value(catalogue::kUnwritten)
-                                                                    : Value(std::string()));
-        }
+    for (std::size_t i = 0; i < arguments.size(); ++i) load_argument(i, values);
+}
+
+Value Caller::held(std::size_t index) const
+{
+    const Argument& argument = function_->arguments[index];
+    const char* begin = static_cast<const char*>(raw_[index].pointer);
+    if (begin == nullptr) return nullptr;
+    if (argument.kind == Kind::kIntegerOut) {
+        int number = 0;
+        std::memcpy(&number, begin, sizeof number);
+        return number == catalogue::kUnwritten ? Value(nullptr) : Value(static_cast<long long>(number));
     }
+    if (argument.kind == Kind::kBuffer) return text_at(begin, capacity_.at(index));
+    std::vector<std::string> texts;
+    for (std::size_t block = 0; block < argument.blocks; ++block) {
+        texts.push_back(text_at(begin + block * argument.block_size, argument.block_size));
+    }
+    return texts;
 }
 
 std::vector<Written> Caller::written() const
@@ -168,29 +179,7 @@ std::vector<Written> Caller::written() const
     std::vector<Written> result;
     for (std::size_t i = 0; i < raw_.size(); ++i) {
         const Argument& argument = function_->arguments[i];
-        const char* begin = static_cast<const char*>(raw_[i].pointer);
-        if (argument.kind != Kind::kBuffer && argument.kind != Kind::kBlocks &&
-            argument.kind != Kind::kIntegerOut) {
-            continue;
-        }
-        Value value = nullptr;
-        if (begin == nullptr) {
-            value = nullptr;
-        } else if (argument.kind == Kind::kIntegerOut) {
-            int number = 0;
-            std::memcpy(&number, begin, sizeof number);
-            if (number != catalogue::kUnwritten) value = static_cast<long long>(number);
-        } else if (argument.kind == Kind::kBuffer) {
-            value = text_at(begin, capacity_.at(i));
-        } else {
-            std::vector<std::string> texts;
-            texts.reserve(argument.blocks);
-            for (std::size_t block = 0; block < argument.blocks; ++block) {
-                texts.push_back(text_at(begin + block * argument.block_size, argument.block_size));
-            }
-            value = std::move(texts);
-        }
-        result.push_back({&argument, std::move(value)});
+        if (rules::is_written(argument)) result.push_back({&argument, held(i)});
     }
     return result;
 }

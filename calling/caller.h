@@ -55,13 +55,13 @@ class Caller {
     [[nodiscard]] std::vector<Written> written() const;
 
  private:
-    void load_argument(std::size_t index, const catalogue::Value& value);
+    [[nodiscard]] catalogue::Value held(std::size_t index) const;
+    void load_argument(std::size_t index, const std::vector<catalogue::Value>& values);
 
     Edge edge_;
     const catalogue::Function* function_ = nullptr;
     std::array<GuardedMemory, 4> memory_;
     std::array<std::size_t, 4> capacity_{};
-    std::vector<catalogue::Value> values_;  // of all arguments, where the room of a buffer depends on others
     std::vector<catalogue::Raw> raw_;
 };
 

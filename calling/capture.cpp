@@ -21,16 +21,6 @@ ssize_t append(void* cookie, const char* bytes, std::size_t size)
     return static_cast<ssize_t>(size);
 }
 
-std::FILE* open_stream(Prints::Text& text, int buffering)
-{
-    cookie_io_functions_t functions{};
-    functions.write = append;
-    std::FILE* stream = fopencookie(&text, "w", functions);
-    if (stream == nullptr) throw std::bad_alloc();
-    std::setvbuf(stream, nullptr, buffering, BUFSIZ);
-    return stream;
-}
-
 Prints& map_prints()
 {
     void* memory = mmap(nullptr, sizeof(Prints), PROT_READ | PROT_WRITE,
@@ -49,14 +39,24 @@ Prints& own_prints()
 
 }  // namespace
 
+std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int buffering)
+{
+    cookie_io_functions_t functions{};
+    functions.write = write;
+    std::FILE* stream = fopencookie(cookie, "w", functions);
+    if (stream == nullptr) throw std::bad_alloc();
+    std::setvbuf(stream, nullptr, buffering, BUFSIZ);
+    return stream;
+}
+
 Capture::Capture() : Capture(own_prints()) {}
 
 Capture::Capture(Prints& prints)
     : prints_(&prints),
       saved_out_(stdout),
       saved_err_(stderr),
-      stream_out_(open_stream(prints.out, _IOFBF)),
-      stream_err_(open_stream(prints.err, _IONBF))
+      stream_out_(open_stream(append, &prints.out, _IOFBF)),
+      stream_err_(open_stream(append, &prints.err, _IONBF))
 {
     clear();
     // glibc's standard streams are variables that a program may set.

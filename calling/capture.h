@@ -9,6 +9,9 @@
 
 namespace ostrel::calling {
 
+// open_stream opens a stream that passes the cookie and what is written to a function, as fopencookie does.
+std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int buffering);
+
 // Prints is memory for what is printed. It is meant for untouched, zeroed memory of mmap, of which only what
 // is written to counts. Shared with another process it shows that process what was printed, even when this
 // one has come to its end.

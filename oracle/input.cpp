@@ -201,7 +201,7 @@ std::optional<std::string> encode_arguments(const catalogue::Function& function,
     const bool all_given = values.size() == function.arguments.size();
     for (std::size_t i = 0; i < function.arguments.size(); ++i) {
         if (i > 0) fields += '\0';
-        if (!all_given && function.arguments[i].output_only) continue;
+        if (!all_given && function.arguments[i].is_only_written()) continue;
         if (!std::visit(Encoder{fields}, values.at(next++))) return std::nullopt;
     }
     return fields;

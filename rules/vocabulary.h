@@ -91,6 +91,9 @@ struct Argument {
     std::optional<Expression> room = {};  // bytes that a buffer must have; none: those of the text in it
     std::size_t blocks = 1;
     std::size_t block_size = 0;  // bytes from one text to the next
+
+    // is_only_written tells that a caller need not give a value.
+    [[nodiscard]] bool is_only_written() const { return is_output || kind == Kind::kIntegerOut; }
 };
 
 // Check describes one exported function. After the last step it answers 0.

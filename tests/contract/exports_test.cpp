@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/result_codes.h"
 
 namespace ostrel::tests {
 

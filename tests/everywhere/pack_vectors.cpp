@@ -118,7 +118,7 @@ std::string packed_row(const json& row, const std::string& label, std::uint32_t 
 {
     const Case given = calling::case_from_json(row);
     Caller().load(*given.function, given.values);  // refuses what does not suit the function
-    const std::vector<Argument>& arguments = given.function->arguments;
+    const auto arguments = given.function->arguments;
     const json& args = row["args"];
     const std::vector<catalogue::Value> values = catalogue::completed(*given.function, given.values);
 
@@ -137,7 +137,7 @@ std::string packed_row(const json& row, const std::string& label, std::uint32_t 
     std::size_t next = 0;
     std::size_t next_after = 0;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const bool is_given = args.size() == arguments.size() || !arguments[i].output_only;
+        const bool is_given = args.size() == arguments.size() || !arguments[i].is_only_written();
         const json value = is_given          ? args.at(next++)
                            : kinds[i] == 'n' ? json(catalogue::kUnwritten)
                                              : json("");

@@ -22,7 +22,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/entry.h"
+#include "catalogue/catalogue.h"
 #include "rules/rules.h"
 #include "tests/support/hostile.h"
 #include "vectors/rows.h"
@@ -128,10 +128,11 @@ int do_nothing(const char* /*value*/) { return 0; }
 template <int (*F)(const char*)>
 Function of_text(const char* name)
 {
+    const rules::Check* const check = rules::find("isEmail");
     return {name,
             "",
-            {{"value", catalogue::Kind::kText}},
-            rules::find("isEmail"),
+            check->arguments,
+            check,
             reinterpret_cast<const void*>(F),
             catalogue::detail::Signature<F>::invoke};
 }

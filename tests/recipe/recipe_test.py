@@ -68,7 +68,7 @@ int L3FORWARDING_check_preference(const char* value)
                refuse(402, above(255),
                       line("Error in L3FORWARDING_check_preference: Invalid preference:<value>, RANGE[1, 255]\\n"))}),
 """),
-    "catalogue/functions.cpp": ("             check<L3FORWARDING_check_MTU>", """             check<L3FORWARDING_check_preference>("L3FORWARDING_check_preference"),
+    "catalogue/catalogue.cpp": ("    list.add<L3FORWARDING_check_MTU>", """    list.add<L3FORWARDING_check_preference>("L3FORWARDING_check_preference");
 """),
     "examples/routes.txt": ("", """
 L3FORWARDING_check_preference 1

@@ -111,31 +111,9 @@ TEST(AgreementTest, AnswersForSomeLibrariesDiffer)
     EXPECT_EQ(2U, count.size());
 }
 
-TEST(AgreementTest, ArgumentsAreThoseOfTheHeaders)
+TEST(AgreementTest, EachDescriptionIsOfAnExportedFunction)
 {
-    for (const Check& check : rules::checks()) {
-        const Function* function = catalogue::find(check.name);
-        ASSERT_NE(nullptr, function) << check.name;
-        ASSERT_EQ(function->arguments.size(), check.arguments.size()) << check.name;
-        for (std::size_t i = 0; i < check.arguments.size(); ++i) {
-            EXPECT_EQ(function->arguments[i].name, check.arguments[i].name) << check.name;
-            EXPECT_EQ(static_cast<int>(function->arguments[i].kind),
-                      static_cast<int>(check.arguments[i].kind))
-                << check.name;
-        }
-    }
-}
-
-// What is not described yet is listed.
-TEST(AgreementTest, DescribedFunctions)
-{
-    std::map<std::string, std::string> missing;
-    for (const Function& function : catalogue::functions()) {
-        if (rules::find(function.name) == nullptr)
-            missing[std::string(function.family)] += " " + std::string(function.name);
-    }
-    for (const auto& [family, names] : missing)
-        std::printf("not described, %s:%s\n", family.c_str(), names.c_str());
+    for (const Check& check : rules::checks()) EXPECT_NE(nullptr, catalogue::find(check.name)) << check.name;
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ std::string repeated(std::string_view part, std::size_t size)
 
 bool is_text(const Argument& argument)
 {
-    return !argument.output_only && (argument.kind == Kind::kText || argument.kind == Kind::kBuffer);
+    return !argument.is_only_written() && (argument.kind == Kind::kText || argument.kind == Kind::kBuffer);
 }
 
 Value neutral(const Argument& argument, long long number)

@@ -21,7 +21,7 @@
 #include "command_line/show_commands.h"
 #include "judge/driver.h"
 #include "judge/single.h"
-#include "map/map.h"
+#include "map/load.h"
 #include "map/unmapped.h"
 #include "read/words.h"
 #include "summary/summarise.h"

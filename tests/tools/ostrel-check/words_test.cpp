@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
+#include <span>
 #include <stdexcept>
 
 #include "read/cases.h"
@@ -94,11 +96,11 @@ TEST(Words, ALongTextIsShownWithItsLength)
 }
 
 // A function that is only described and never called.
-Function described(std::vector<catalogue::Argument> arguments)
+Function described(std::span<const catalogue::Argument> arguments)
 {
     Function function;
     function.name = "f";
-    function.arguments = std::move(arguments);
+    function.arguments = arguments;
     return function;
 }
 
@@ -111,7 +113,8 @@ std::vector<Value> values_of(const Function& function, const Texts& words)
 
 std::vector<Value> value_of(Kind kind, const std::string& word)
 {
-    return values_of(described({{"a", kind}}), {word});
+    const catalogue::Argument argument = {"a", kind};
+    return values_of(described({&argument, 1}), {word});
 }
 
 TEST(Values, NullHasAWordAndItsTextAnother)
@@ -148,7 +151,9 @@ TEST(Values, NumbersAreDecimalOrHexadecimal)
 
 TEST(Values, EachBlockIsAWord)
 {
-    const Function function = described({{"keys", Kind::kBlocks, 2, 8}, {"n", Kind::kInteger}});
+    const std::array<catalogue::Argument, 2> arguments = {
+        {{.name = "keys", .kind = Kind::kBlocks, .blocks = 2, .block_size = 8}, {"n", Kind::kInteger}}};
+    const Function function = described(arguments);
     EXPECT_EQ("f keys_1 keys_2 n:number", usage_of(function));
     EXPECT_EQ((std::vector<Value>{Texts{"a", "@null"}, 1LL}), values_of(function, {"a", "@@null", "1"}));
     EXPECT_EQ((std::vector<Value>{nullptr, 1LL}), values_of(function, {"@null", "1"}));
@@ -158,8 +163,9 @@ TEST(Values, EachBlockIsAWord)
 
 TEST(Values, WhatIsOnlyWrittenMayBeLeftOut)
 {
-    const Function function =
-        described({{"value", Kind::kText}, {"type", Kind::kIntegerOut, 1, 0, true}, {"n", Kind::kInteger}});
+    const std::array<catalogue::Argument, 3> arguments = {
+        {{"value", Kind::kText}, {"type", Kind::kIntegerOut}, {"n", Kind::kInteger}}};
+    const Function function = described(arguments);
     EXPECT_EQ("f value n:number", usage_of(function));
     EXPECT_EQ((std::vector<Value>{"a", 1LL}), values_of(function, {"a", "1"}));
     EXPECT_EQ((std::vector<Value>{"a", 7LL, 1LL}), values_of(function, {"a", "7", "1"}));

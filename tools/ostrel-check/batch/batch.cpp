@@ -12,6 +12,7 @@
 #include "map/unmapped.h"
 #include "system/stop_signals.h"
 #include "terminal/progress.h"
+#include "write/render_csv.h"
 #include "write/show.h"
 
 namespace ostrel::tool {

@@ -202,25 +202,6 @@ class Judge {
 
 }  // namespace
 
-void append_result(std::string& out, const Style& style, const Place& place, const Result& result)
-{
-    if (style.no_results) return;
-    const bool is_harmless = exit_code(result.verdict) == kExitAccepted;
-    if (style.only_refused && is_harmless) return;
-    switch (style.format) {
-        case Format::kTable:
-            append_row(out, style, place, result);
-            break;
-        case Format::kCsv:
-            append_csv(out, style, place, result);
-            break;
-        case Format::kJson:
-        case Format::kStream:
-            append_json(out, style, place, result);
-            break;
-    }
-}
-
 void run_worker(Arena& arena, const Style& style, const Reading& reading,
                 const std::vector<std::string>& files, const Descriptor& orders, const Descriptor& answers)
 {

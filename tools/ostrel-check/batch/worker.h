@@ -11,9 +11,6 @@
 
 namespace ostrel::tool {
 
-// append_result renders in that style.
-void append_result(std::string& out, const Style& style, const Place& place, const Result& result);
-
 // A worker stops when it has written so much, and leaves it to the supervisor to take what is there. Within a gateway it
 // stops later, so that what was taken mostly ends where a batch can go on.
 inline constexpr std::size_t kEnoughOutput = std::size_t{4} << 20;

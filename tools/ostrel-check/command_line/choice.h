@@ -14,7 +14,8 @@ namespace ostrel::tool {
 inline constexpr char kOr = '|';
 
 // refuse_others has an option refuse what is none of the words.
-inline CLI::Option* refuse_others(CLI::Option* option, const std::vector<std::string>& words)
+template <typename Word>
+CLI::Option* refuse_others(CLI::Option* option, const std::vector<Word>& words)
 {
     return option->check([words](const std::string& given) {
         if (std::ranges::find(words, given) != words.end()) return std::string();

@@ -25,14 +25,6 @@ void add_names(Candidates& candidates)
         candidates.push_back({std::string(function.name), rules::accepted(*function.check, gateway())});
 }
 
-void add_families(Candidates& candidates)
-{
-    for (const Function& function : catalogue::functions()) {
-        if (candidates.empty() || candidates.back().word != function.family)
-            candidates.push_back({std::string(function.family), ""});
-    }
-}
-
 // values_of returns what a type stands for: words are written in small letters, kinds of words in capital ones.
 Candidates values_of(const std::string& type)
 {
@@ -43,7 +35,8 @@ Candidates values_of(const std::string& type)
         } else if (word == "NAME") {
             add_names(candidates);
         } else if (word == "FAMILY") {
-            add_families(candidates);
+            for (const std::string_view family : catalogue::families())
+                candidates.push_back({std::string(family), ""});
         } else if (word == catalogue::in_lower_case(word)) {
             candidates.push_back({word, ""});
         }
@@ -68,7 +61,7 @@ Candidates keywords_at(std::string_view name, std::size_t value)
     if (function == nullptr) return {};
     for (std::size_t i = 0; i < function->arguments.size(); ++i) {
         const Argument& argument = function->arguments[i];
-        if (argument.output_only) continue;
+        if (argument.is_only_written()) continue;
         if (value < argument.blocks) {
             Candidates candidates;
             for (std::string& keyword : rules::keywords(*function->check, i, gateway()))

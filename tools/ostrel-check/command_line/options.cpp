@@ -36,15 +36,6 @@ void exclude_each_other(const std::vector<CLI::Option*>& options)
     }
 }
 
-std::vector<std::string> families()
-{
-    std::vector<std::string> names;
-    for (const catalogue::Function& function : catalogue::functions()) {
-        if (names.empty() || names.back() != function.family) names.emplace_back(function.family);
-    }
-    return names;
-}
-
 void add_explain(CLI::App& app, Options& options)
 {
     CLI::App& explain = add_command(app, "explain", "Say what a check wants", explain_help());
@@ -58,7 +49,7 @@ void add_list(CLI::App& app, Options& options)
     CLI::Option* patterns = add_positional(list, "PATTERN", options.patterns,
                                            "Words that a check's name, rule or arguments have");
     CLI::Option* family = list.add_option("--family", options.family, "The checks of one family");
-    refuse_others(family, families())->type_name("FAMILY");
+    refuse_others(family, catalogue::families())->type_name("FAMILY");
     CLI::Option* json = list.add_flag("--json", options.json, "The catalogue in JSON");
     CLI::Option* schema =
         list.add_option("--schema", options.schema, "JSON Schema of it, or of what is named");

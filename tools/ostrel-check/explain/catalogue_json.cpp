@@ -1,5 +1,9 @@
+#include "explain/catalogue_json.h"
+
+#include <array>
 #include <nlohmann/json.hpp>
 
+#include "catalogue/result_codes.h"
 #include "explain/constraints.h"
 #include "explain/explain.h"
 #include "explain/hazards.h"
@@ -19,45 +23,16 @@ namespace {
 
 std::string_view name_of(Kind kind)
 {
-    switch (kind) {
-        case Kind::kText:
-            return "text";
-        case Kind::kBuffer:
-            return "buffer";
-        case Kind::kBlocks:
-            return "blocks";
-        case Kind::kInteger:
-            return "integer";
-        case Kind::kUnsigned:
-            return "unsigned";
-        case Kind::kIntegerOut:
-            break;
-    }
-    return "integer_out";
+    constexpr std::array<std::string_view, 6> kNames = {"text",    "buffer",   "blocks",
+                                                        "integer", "unsigned", "integer_out"};
+    return kNames.at(static_cast<std::size_t>(kind));
 }
 
 std::string_view name_of(rules::Step::Kind kind)
 {
-    switch (kind) {
-        case rules::Step::Kind::kRefuse:
-            return "refuse";
-        case rules::Step::Kind::kAccept:
-            return "accept";
-        case rules::Step::Kind::kPrint:
-            return "print";
-        case rules::Step::Kind::kSkip:
-            return "skip";
-        case rules::Step::Kind::kWrite:
-            return "write";
-        case rules::Step::Kind::kRemember:
-            return "keep";
-        case rules::Step::Kind::kWhen:
-            return "case";
-        case rules::Step::Kind::kForEach:
-            return "each";
-        default:
-            return "never_return";
-    }
+    constexpr std::array<std::string_view, 10> kNames = {
+        "refuse", "accept", "print", "skip", "write", "keep", "case", "each", "reads", "never_return"};
+    return kNames.at(static_cast<std::size_t>(kind));
 }
 
 ordered_json json_of(const std::vector<Said>& steps);
@@ -90,12 +65,12 @@ ordered_json json_of(const std::vector<Said>& steps)
     return result;
 }
 
-ordered_json json_of(const rules::Argument& argument, const rules::SaidArgument& said, bool is_output_only)
+ordered_json json_of(const rules::Argument& argument, const rules::SaidArgument& said)
 {
     ordered_json result = {{"name", argument.name},
                            {"kind", name_of(argument.kind)},
                            {"what", argument.what},
-                           {"output_only", is_output_only}};
+                           {"output_only", argument.is_only_written()}};
     if (!argument.unit.empty()) result["unit"] = argument.unit;
     if (argument.is_secret) result["secret"] = true;
     if (!said.room.empty()) result["room"] = said.room;
@@ -120,8 +95,7 @@ ordered_json json_of(const Function& function, const ordered_json& constraints)
                            {"reads_numbers", !explanation.numbers.empty()}};
     result["arguments"] = ordered_json::array();
     for (std::size_t i = 0; i < check.arguments.size(); ++i) {
-        ordered_json argument =
-            json_of(check.arguments[i], explanation.arguments[i], function.arguments[i].output_only);
+        ordered_json argument = json_of(check.arguments[i], explanation.arguments[i]);
         add_hazards(argument, function, i);
         if (!constraints.is_null() && !constraints[i].is_null()) argument["constraints"] = constraints[i];
         result["arguments"].push_back(std::move(argument));

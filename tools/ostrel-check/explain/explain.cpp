@@ -1,7 +1,9 @@
 #include "explain/explain.h"
 
+#include <array>
 #include <span>
 
+#include "catalogue/result_codes.h"
 #include "explain/hazards.h"
 #include "explain/page.h"
 #include "judge/reason.h"
@@ -21,20 +23,9 @@ namespace {
 
 std::string_view type_of(Kind kind)
 {
-    switch (kind) {
-        case Kind::kText:
-            return "const char* ";
-        case Kind::kBuffer:
-        case Kind::kBlocks:
-            return "char* ";
-        case Kind::kInteger:
-            return "int ";
-        case Kind::kUnsigned:
-            return "unsigned ";
-        case Kind::kIntegerOut:
-            break;
-    }
-    return "int* ";
+    constexpr std::array<std::string_view, 6> kTypes = {"const char* ", "char* ",    "char* ",
+                                                        "int ",         "unsigned ", "int* "};
+    return kTypes.at(static_cast<std::size_t>(kind));
 }
 
 void write_arguments(Page& page, const rules::Check& check, const rules::Explanation& explanation)
@@ -113,6 +104,11 @@ void write_tables(Page& page, const rules::Check& check)
     }
 }
 
+constexpr std::string_view kOfDriver =
+    "The check asks the wireless driver through the command wlctl, which /bin/sh finds on PATH. Whatever "
+    "either "
+    "of them writes to standard error appears there, for example that wlctl was not found.";
+
 void write_check(Page& page, const Function& function)
 {
     const rules::Check& check = *function.check;
@@ -124,12 +120,9 @@ void write_check(Page& page, const Function& function)
     write_codes(page, check, explanation);
     page.heading("Steps");
     write_steps(page, explanation.steps, "", 0);
-    if (check.is_verdict) page.paragraph("What comes to the end of the steps is accepted.");
+    if (check.is_verdict) page.paragraph("A call that reaches the end of the steps is accepted.");
     if (rules::asks_driver(check)) {
-        page.paragraph(
-            "The wireless driver is asked by the command wlctl, which /bin/sh looks up on PATH. What either "
-            "of them "
-            "writes to standard error, such as that there is no wlctl, appears there.");
+        page.paragraph(kOfDriver);
     }
     if (!rules::prints(check)) page.paragraph("The check itself prints nothing.");
     write_tables(page, check);
@@ -169,7 +162,7 @@ std::string list_checks(const Selection& selection, const Look& look)
         text.append("  ").append(usage_of(*function)).append("\n");
         append_wrapped(text, rules::accepted(*function->check, gateway()), 6, 0, look.columns);
         for (const Argument& argument : function->arguments) {
-            if (argument.output_only)
+            if (argument.is_only_written())
                 append_wrapped(text, "fills in " + std::string(argument.name), 6, 0, look.columns);
         }
     }
@@ -179,10 +172,12 @@ std::string list_checks(const Selection& selection, const Look& look)
 std::string reference(const Selection& selection)
 {
     std::string text =
-        "# Reference\n\n"
-        "The checks, from their descriptions. In what is printed, `\\n` is a line end and `<name>` stands "
-        "for "
-        "an\nargument, for a part of one, or for what a step keeps under that name.\n\n";
+        R"(# Reference
+
+The checks, from their descriptions. In printed lines, `\n` is a line end and `<name>` is an argument, a part of one, or
+what a step keeps under that name.
+
+)";
     std::string_view family;
     for (const Function* function : selection) {
         if (function->family == family) continue;

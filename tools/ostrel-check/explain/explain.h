@@ -11,22 +11,17 @@
 
 namespace ostrel::tool {
 
-// declaration_of gives the function as a C host declares it.
+// declaration_of returns the function as a C host declares it.
 std::string declaration_of(const catalogue::Function& function);
 
-// explain returns the page of a check, for a terminal; explain_json what the catalogue says of it.
+// explain returns the page of a check, for a terminal.
 std::string explain(const catalogue::Function& function, const Look& look);
-std::string explain_json(const catalogue::Function& function);
 
 // list_checks shows the checks with their arguments and what they accept.
 std::string list_checks(const Selection& selection, const Look& look);
 
-// list_json returns the catalogue in JSON, as catalogue.schema.json describes it.
-std::string list_json(const Selection& selection);
-
-// reference returns the pages of the checks in Markdown, hazards_page what accepted values of all may contain.
+// reference returns the pages of the checks in Markdown.
 std::string reference(const Selection& selection);
-std::string hazards_page();
 
 }  // namespace ostrel::tool
 

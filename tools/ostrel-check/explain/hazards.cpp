@@ -6,7 +6,6 @@
 #include "catalogue/hazards.h"
 #include "catalogue/texts.h"
 #include "catalogue/value_json.h"
-#include "explain/explain.h"
 #include "write/show.h"
 
 namespace ostrel::tool {
@@ -102,6 +101,26 @@ ordered_json json_of(const Exposure& exposure)
     return kinds;
 }
 
+constexpr std::string_view kHead = R"(# What an accepted value may contain
+
+Made by `scripts/hazards`. Quote the bytes of a value's row before you paste the value into a shell command, a page or a
+configuration file. `-`: never; `any`: anywhere; otherwise where: `f` first, `i` inside, `l` last. A row is about the
+value that is passed or, for a buffer "after the call", about the text that the buffer then holds; bytes that were in a
+buffer after its new terminator stay there. `ostrel-check explain` lists the bytes of each kind.
+
+A check that answers 0 says that a value suits its parameter. It does not say that the value is harmless.
+)";
+
+constexpr std::string_view kWitnesses = R"(
+## Witnesses
+
+For each argument and each place, calls that are accepted with each of some bytes: the bytes, as the names of their
+kinds and, after a `=`, the others; the values; the number of the value that holds the byte, of its text where it has
+several, and the offset. The tests make each of these calls, and many others in which no other byte may appear.
+
+```json
+)";
+
 }  // namespace
 
 void write_hazards(Page& page, const Function& function)
@@ -132,19 +151,7 @@ void add_hazards(ordered_json& argument, const Function& function, std::size_t i
 
 std::string hazards_page()
 {
-    std::string text =
-        "# What an accepted value may contain\n\n"
-        "Made by `scripts/hazards`. Whoever pastes a value into a shell command, a page or a configuration "
-        "file "
-        "must quote\nwhat stands in its row. `-`: never; `any`: anywhere; otherwise where: `f` first, `i` "
-        "inside, "
-        "`l` last. What is meant is\nthe value that is passed, or, of a buffer \"after the call\", the text "
-        "that it "
-        "then holds; bytes that a buffer held after\nits new terminator stay there. Which bytes of a kind "
-        "are "
-        "meant says `ostrel-check explain`.\n\n"
-        "A check that answers 0 says that a value suits its parameter. It does not say that the value is "
-        "harmless.\n";
+    std::string text(kHead);
     std::string_view family;
     for (const Function& function : catalogue::functions()) {
         for (const Exposure& exposure : catalogue::exposures_of(function)) {
@@ -160,17 +167,7 @@ std::string hazards_page()
             text += "\n";
         }
     }
-    text +=
-        "\n## Witnesses\n\n"
-        "For each argument, and each place, calls that are accepted with each of some bytes: the bytes, by "
-        "the "
-        "names of their\nkinds and after a `=`; the values; in which of them the byte is put, in which text "
-        "of "
-        "several, and at which offset.\nThe tests make each of these calls, and many others in which no "
-        "other "
-        "byte may turn up.\n\n"
-        "```json\n";
-    return text.append(catalogue::found_hazards()).append("```\n");
+    return text.append(kWitnesses).append(catalogue::found_hazards()).append("```\n");
 }
 
 }  // namespace ostrel::tool

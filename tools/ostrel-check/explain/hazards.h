@@ -3,6 +3,7 @@
 #define OSTREL_TOOLS_EXPLAIN_HAZARDS_H
 
 #include <nlohmann/json_fwd.hpp>
+#include <string>
 
 #include "catalogue/catalogue.h"
 #include "explain/page.h"
@@ -14,6 +15,9 @@ void write_hazards(Page& page, const catalogue::Function& function);
 
 // add_hazards adds the members "may_contain" and "may_contain_after" to an argument that is a text.
 void add_hazards(nlohmann::ordered_json& argument, const catalogue::Function& function, std::size_t index);
+
+// hazards_page returns docs/hazards.md.
+std::string hazards_page();
 
 }  // namespace ostrel::tool
 

@@ -3,6 +3,7 @@
 // It takes longer than a command may, so it is run by the build.
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
@@ -33,36 +34,16 @@ rules::Build this_build()
 
 std::string_view name_of(Limit::Kind kind)
 {
-    switch (kind) {
-        case Limit::Kind::kMinLength:
-            return "min_length";
-        case Limit::Kind::kMaxLength:
-            return "max_length";
-        case Limit::Kind::kMinimum:
-            return "minimum";
-        case Limit::Kind::kMaximum:
-            return "maximum";
-        case Limit::Kind::kCharacters:
-            break;
-    }
-    return "characters";
+    constexpr std::array<std::string_view, 5> kNames = {"min_length", "max_length", "minimum", "maximum",
+                                                        "characters"};
+    return kNames.at(static_cast<std::size_t>(kind));
 }
 
 std::string_view name_of(NullOutcome outcome)
 {
-    switch (outcome) {
-        case NullOutcome::kAccepted:
-            return "accepted";
-        case NullOutcome::kRefused:
-            return "refused";
-        case NullOutcome::kAssertion:
-            return "assertion";
-        case NullOutcome::kFault:
-            return "fault";
-        case NullOutcome::kDepends:
-            break;
-    }
-    return "depends";
+    constexpr std::array<std::string_view, 5> kNames = {"accepted", "refused", "assertion", "fault",
+                                                        "depends"};
+    return kNames.at(static_cast<std::size_t>(outcome));
 }
 
 ordered_json json_of(const std::vector<std::string>& texts)
@@ -160,12 +141,9 @@ ordered_json definition_of(const Constraints& constraints, const rules::Argument
 bool judges_text(const rules::Check& check, std::size_t argument)
 {
     using Kind = rules::Argument::Kind;
-    const auto is_given = [](const rules::Argument& one) {
-        return one.kind != Kind::kIntegerOut && !one.is_output;
-    };
     const Kind kind = check.arguments[argument].kind;
     return (kind == Kind::kText || kind == Kind::kBuffer) &&
-           std::ranges::count_if(check.arguments, is_given) == 1;
+           std::ranges::count(check.arguments, false, &rules::Argument::is_only_written) == 1;
 }
 
 struct Derived {

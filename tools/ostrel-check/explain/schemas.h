@@ -7,6 +7,7 @@
 namespace ostrel::tool {
 
 std::string_view result_schema();   // result.schema.json
+std::string_view map_schema();      // map.schema.json
 std::string_view summary_schema();  // summary.schema.json
 
 }  // namespace ostrel::tool

@@ -15,7 +15,7 @@ std::string said_of(const catalogue::Function& function)
 {
     std::string text(function.name);
     text.append("\n").append(rules::accepted(*function.check, gateway()));
-    for (const rules::Argument& argument : function.check->arguments)
+    for (const rules::Argument& argument : function.arguments)
         text.append("\n").append(argument.name).append("\n").append(argument.what);
     return catalogue::in_lower_case(text);
 }

@@ -25,8 +25,8 @@ std::vector<const rules::Argument*> arguments_of(const Result& result)
     const bool all_given = result.values->size() == function.arguments.size();
     std::vector<const rules::Argument*> arguments;
     for (std::size_t i = 0; i < function.arguments.size(); ++i) {
-        if (all_given || !function.arguments[i].output_only)
-            arguments.push_back(&function.check->arguments[i]);
+        if (all_given || !function.arguments[i].is_only_written())
+            arguments.push_back(&function.arguments[i]);
     }
     return arguments;
 }
@@ -181,15 +181,11 @@ void Redactor::redact(Result& result, Encoding encoding)
         redact_members(result);
         return;
     }
-    const rules::Check& check = *result.function->check;
-    const bool has_secret = std::ranges::any_of(check.arguments, &rules::Argument::is_secret);
-    if (!has_secret) return;
+    if (std::ranges::none_of(result.function->arguments, &rules::Argument::is_secret)) return;
     find_secrets(result, encoding);
     if (!result.printed.out.empty() || !result.printed.err.empty()) redact_lines(result);
-    for (calling::Written& written : result.after) {
-        const auto argument = static_cast<std::size_t>(written.argument - result.function->arguments.data());
-        written.value = shown(written.value, check.arguments[argument].is_secret);
-    }
+    for (calling::Written& written : result.after)
+        written.value = shown(written.value, written.argument->is_secret);
     if (result.verdict != Verdict::kNoDriver) redact_reasons(result);
     const std::vector<const rules::Argument*> arguments = arguments_of(result);
     values_.clear();

@@ -15,7 +15,7 @@
 #include "read/words.h"
 #include "system/process.h"
 #include "terminal/style.h"
-#include "write/render.h"
+#include "write/render_table.h"
 #include "write/show.h"
 
 namespace ostrel::tool {
@@ -105,22 +105,12 @@ ssize_t print_error(void* news, const char* bytes, std::size_t size)
     return pass_on(STDERR_FILENO, {bytes, size});
 }
 
-std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int buffering)
-{
-    cookie_io_functions_t functions{};
-    functions.write = write;
-    std::FILE* stream = fopencookie(cookie, "w", functions);
-    if (stream == nullptr) throw std::bad_alloc();
-    std::setvbuf(stream, nullptr, buffering, BUFSIZ);
-    return stream;
-}
-
 // watch_output passes on what is printed as it comes. It lets the verdict begin on a line of its own, and
 // tells an assertion from another abort.
 void watch_output(const Descriptor& news)
 {
-    stdout = open_stream(print, nullptr, isatty(STDOUT_FILENO) == 1 ? _IOLBF : _IOFBF);
-    stderr = open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
+    stdout = calling::open_stream(print, nullptr, isatty(STDOUT_FILENO) == 1 ? _IOLBF : _IOFBF);
+    stderr = calling::open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
 }
 
 // verdict_line is the verdict, its first word in colour where that can be.

@@ -1,28 +1,17 @@
 #include "judge/verdict.h"
 
 #include <algorithm>
+#include <numeric>
+
+#include "catalogue/result_codes.h"
 
 namespace ostrel::tool {
 
 std::string_view name_of(Verdict verdict)
 {
-    switch (verdict) {
-        case Verdict::kAccepted:
-            return "accepted";
-        case Verdict::kRefused:
-            return "refused";
-        case Verdict::kAnswer:
-            return "answer";
-        case Verdict::kMalformed:
-            return "malformed";
-        case Verdict::kEnded:
-            return "ended";
-        case Verdict::kNoDriver:
-            return "no driver";
-        case Verdict::kNoReturn:
-            break;
-    }
-    return "no return";
+    constexpr std::array<std::string_view, kVerdicts> kNames = {
+        "accepted", "refused", "answer", "malformed", "ended", "no return", "no driver"};
+    return kNames.at(static_cast<std::size_t>(verdict));
 }
 
 std::string_view json_name(Verdict verdict)
@@ -37,20 +26,9 @@ bool is_code(Verdict verdict) { return verdict == Verdict::kAccepted || verdict 
 
 int exit_code(Verdict verdict)
 {
-    switch (verdict) {
-        case Verdict::kAccepted:
-        case Verdict::kAnswer:
-            return kExitAccepted;
-        case Verdict::kRefused:
-            return kExitRefused;
-        case Verdict::kMalformed:
-        case Verdict::kNoDriver:
-            return kExitUsage;
-        case Verdict::kEnded:
-        case Verdict::kNoReturn:
-            break;
-    }
-    return kExitEnded;
+    constexpr std::array<int, kVerdicts> kCodes = {kExitAccepted, kExitRefused, kExitAccepted, kExitUsage,
+                                                   kExitEnded,    kExitEnded,   kExitUsage};
+    return kCodes.at(static_cast<std::size_t>(verdict));
 }
 
 int Tally::exit_code() const
@@ -62,12 +40,7 @@ int Tally::exit_code() const
     return highest;
 }
 
-std::uint64_t Tally::sum() const
-{
-    std::uint64_t sum = 0;
-    for (const std::uint64_t count : counts) sum += count;
-    return sum;
-}
+std::uint64_t Tally::sum() const { return std::accumulate(counts.begin(), counts.end(), std::uint64_t{0}); }
 
 void Result::clear()
 {
@@ -87,11 +60,8 @@ void Result::clear()
 void judge(Result& result, int code)
 {
     result.code = code;
-    if (!result.function->check->is_verdict) {
-        result.verdict = Verdict::kAnswer;
-    } else {
-        result.verdict = code == 0 ? Verdict::kAccepted : Verdict::kRefused;
-    }
+    const bool is_verdict = result.function->check->is_verdict;
+    result.verdict = !is_verdict ? Verdict::kAnswer : code == 0 ? Verdict::kAccepted : Verdict::kRefused;
 }
 
 namespace {

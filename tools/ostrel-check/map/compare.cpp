@@ -1,6 +1,7 @@
 #include "map/compare.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <optional>
 
@@ -71,7 +72,7 @@ class Comparer {
         const rules::Check& check = *entry_.function->check;
         std::size_t target = 0;
         for (std::size_t left = entry_.value;; ++target) {
-            if (entry_.function->arguments[target].output_only) continue;
+            if (entry_.function->arguments[target].is_only_written()) continue;
             if (left-- == 0) break;
         }
         const rules::Argument::Kind kind = check.arguments[target].kind;
@@ -225,19 +226,8 @@ class Comparer {
 
 std::string_view name_of(Relation relation)
 {
-    switch (relation) {
-        case Relation::kSame:
-            return "same";
-        case Relation::kNarrower:
-            return "narrower";
-        case Relation::kWider:
-            return "wider";
-        case Relation::kOther:
-            return "other";
-        case Relation::kUnknown:
-            break;
-    }
-    return "unknown";
+    constexpr std::array<std::string_view, 5> kNames = {"same", "narrower", "wider", "other", "unknown"};
+    return kNames.at(static_cast<std::size_t>(relation));
 }
 
 Comparison compare(const Map& map, const Entry& entry, const Facts& facts)

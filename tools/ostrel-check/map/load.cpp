@@ -1,4 +1,5 @@
-// Reading a map: each problem is told with the file, the line and the place.
+#include "map/load.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <nlohmann/json.hpp>
@@ -8,7 +9,7 @@
 
 #include "catalogue/names.h"
 #include "map/document.h"
-#include "map/map.h"
+#include "read/bind.h"
 
 namespace ostrel::tool {
 
@@ -19,14 +20,9 @@ using nlohmann::ordered_json;
 
 std::vector<Argument> given_arguments(const catalogue::Function& function)
 {
-    std::vector<Argument> given = function.arguments;
-    std::erase_if(given, [](const Argument& one) { return one.output_only; });
+    std::vector<Argument> given(function.arguments.begin(), function.arguments.end());
+    std::erase_if(given, [](const Argument& one) { return one.is_only_written(); });
     return given;
-}
-
-bool is_number(const Argument& argument)
-{
-    return argument.kind == catalogue::Kind::kInteger || argument.kind == catalogue::Kind::kUnsigned;
 }
 
 class Loader {

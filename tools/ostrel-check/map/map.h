@@ -13,7 +13,6 @@
 
 #include "catalogue/catalogue.h"
 #include "map/path.h"
-#include "read/encoding.h"
 
 namespace ostrel::tool {
 
@@ -77,13 +76,6 @@ struct Map {
     std::vector<NotMapped> not_mapped;
     ByText<KnownPath> paths;  // by the general path
 };
-
-// load_map reads a map, whose texts become bytes of that encoding where they are compared with values or passed. Throws
-// std::invalid_argument with the file, the line and the place of what is wrong.
-Map load_map(const std::string& file, Encoding encoding);
-
-// map_schema is the JSON Schema of a map.
-std::string_view map_schema();
 
 }  // namespace ostrel::tool
 

@@ -14,7 +14,7 @@ namespace {
 const catalogue::Argument& argument_of(const catalogue::Function& function, std::size_t index)
 {
     for (const catalogue::Argument& argument : function.arguments) {
-        if (!argument.output_only && index-- == 0) return argument;
+        if (!argument.is_only_written() && index-- == 0) return argument;
     }
     return function.arguments.front();
 }

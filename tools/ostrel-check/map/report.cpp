@@ -6,6 +6,7 @@
 
 #include "explain/page.h"
 #include "judge/reason.h"
+#include "map/load.h"
 #include "rules/explain.h"
 #include "terminal/style.h"
 #include "write/show.h"
@@ -19,15 +20,9 @@ using Kind = Difference::Kind;
 
 std::string_view name_of(Kind kind)
 {
-    switch (kind) {
-        case Kind::kRefused:
-            return "allowed and refused";
-        case Kind::kAccepted:
-            return "not allowed and accepted";
-        case Kind::kForeign:
-            break;
-    }
-    return "not of the form and accepted";
+    constexpr std::array<std::string_view, 3> kNames = {"allowed and refused", "not allowed and accepted",
+                                                        "not of the form and accepted"};
+    return kNames.at(static_cast<std::size_t>(kind));
 }
 
 // shown has escapes for control bytes; other characters stay as they are.
@@ -61,8 +56,6 @@ std::string brief(const std::string& value)
     return "\"" + shown(value) + "\"";
 }
 
-std::string in_code(const std::string& text) { return as_code(text); }
-
 // standing says what is known of an entry in a few words.
 std::string standing(const Comparison& one)
 {
@@ -77,34 +70,23 @@ std::string standing(const Comparison& one)
     return text;
 }
 
-std::string sentence(const Difference& one, std::string (*show)(const std::string&))
+std::string sentence(const Difference& one, bool is_markdown)
 {
-    std::string text = show(brief(one.value)) + " is ";
-    switch (one.kind) {
-        case Kind::kRefused:
-            text += "refused";
-            break;
-        case Kind::kAccepted:
-            text += "accepted";
-            break;
-        case Kind::kForeign:
-            text += "accepted, although it does not have the form of the type";
-            break;
-    }
-    if (!one.reason.empty()) text += ": " + (show == in_code ? in_markdown(one.reason) : one.reason);
+    const auto show = [&](const std::string& value) {
+        return is_markdown ? as_code(brief(value)) : brief(value);
+    };
+    std::string text = show(one.value) + " is ";
+    text += one.kind == Kind::kRefused ? "refused" : "accepted";
+    if (one.kind == Kind::kForeign) text += ", although it does not have the form of the type";
+    if (!one.reason.empty()) text += ": " + (is_markdown ? in_markdown(one.reason) : one.reason);
     if (!one.with.empty()) {
         std::string others;
         for (const auto& [name, value] : one.with)
-            others.append(others.empty() ? "" : ", ")
-                .append(name)
-                .append(" being ")
-                .append(show(brief(value)));
+            others += (others.empty() ? "" : ", ") + name + " being " + show(value);
         text += " (" + others + ")";
     }
     return text;
 }
-
-std::string plain(const std::string& text) { return text; }
 
 std::string type_of(const Facts& facts)
 {
@@ -138,16 +120,16 @@ std::string text_of(const Map& map, const std::vector<Comparison>& all)
 {
     std::string text;
     for (const Comparison& one : all) {
-        text += plain(one.entry->path.text()) + "\n";
+        text += one.entry->path.text() + "\n";
         append_wrapped(text, std::string(one.entry->function->name) + ": " + standing(one), 2, 4);
-        append_wrapped(text, "the model: " + plain(type_of(*one.facts)), 4, 2);
-        append_wrapped(text, "the gateway: " + plain(rule_of(*one.entry)), 4, 2);
+        append_wrapped(text, "the model: " + type_of(*one.facts), 4, 2);
+        append_wrapped(text, "the gateway: " + rule_of(*one.entry), 4, 2);
         for (const Difference& difference : one.differences)
-            append_wrapped(text, sentence(difference, plain), 4, 2);
+            append_wrapped(text, sentence(difference, false), 4, 2);
     }
     for (const NotMapped& one : map.not_mapped) {
-        text += plain(one.path) + "\n";
-        append_wrapped(text, "not mapped: " + plain(one.because), 2, 4);
+        text += one.path + "\n";
+        append_wrapped(text, "not mapped: " + one.because, 2, 4);
     }
     append_wrapped(text, summary(all), 0, 2);
     return text;
@@ -212,7 +194,7 @@ std::string markdown_of(const Map& map, const std::vector<Comparison>& all)
         std::string more = standing(one).substr(name_of(one.relation).size());
         if (one.relation == Relation::kUnknown) more = ": " + standing(one);
         text += more;
-        for (const Difference& difference : one.differences) text += "; " + sentence(difference, in_code);
+        for (const Difference& difference : one.differences) text += "; " + sentence(difference, true);
         text += " |\n";
     }
     text += "\n## Not mapped\n\n| parameter | check | because |\n|---|---|---|\n";

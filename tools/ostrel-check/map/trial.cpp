@@ -11,6 +11,7 @@
 #include "judge/driver.h"
 #include "judge/reason.h"
 #include "judge/verdict.h"
+#include "read/bind.h"
 #include "rules/evaluate.h"
 #include "system/process.h"
 
@@ -19,11 +20,6 @@ namespace ostrel::tool {
 namespace {
 
 constexpr int kPatience = 2000;  // milliseconds
-
-bool is_number(const catalogue::Argument& argument)
-{
-    return argument.kind == catalogue::Kind::kInteger || argument.kind == catalogue::Kind::kUnsigned;
-}
 
 // as_argument is none where a number is needed and there is none.
 std::optional<catalogue::Value> as_argument(const catalogue::Argument& argument, const std::string& text)
@@ -41,7 +37,7 @@ Trial::Trial(const Map& map, const Entry& entry) : entry_(&entry)
 {
     std::size_t index = 0;
     for (const catalogue::Argument& argument : entry.function->arguments) {
-        if (argument.output_only) continue;
+        if (argument.is_only_written()) continue;
         const Source& source = entry.sources[index++];
         if (source.kind == Source::Kind::kValue) {
             values_.emplace_back(std::string());
@@ -71,7 +67,7 @@ std::optional<std::vector<catalogue::Value>> Trial::values_with(const std::strin
     std::vector<catalogue::Value> values = values_;
     std::size_t index = 0;
     for (const catalogue::Argument& argument : entry_->function->arguments) {
-        if (argument.output_only) continue;
+        if (argument.is_only_written()) continue;
         const std::size_t here = index++;
         if (here == entry_->value) {
             std::string text = value;

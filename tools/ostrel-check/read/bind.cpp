@@ -78,7 +78,7 @@ bool take(const Function& function, std::span<const Item> items, bool outputs_gi
 {
     std::size_t count = 0;
     for (const Argument& argument : function.arguments) {
-        if (argument.output_only && !outputs_given) continue;
+        if (argument.is_only_written() && !outputs_given) continue;
         if (items.empty()) return false;
         if (count == values.size()) values.emplace_back();
         Value& value = values[count++];
@@ -132,7 +132,8 @@ std::span<const Item> without_spares(const Function& function, const Record& rec
     std::span<const Item> items = record.items;
     if (!record.may_have_spares) return items;
     std::size_t taken = 0;
-    for (const Argument& argument : function.arguments) taken += argument.output_only ? 0 : argument.blocks;
+    for (const Argument& argument : function.arguments)
+        taken += argument.is_only_written() ? 0 : argument.blocks;
     while (items.size() > taken && items.back().kind == Item::Kind::kText && items.back().text.empty()) {
         items = items.first(items.size() - 1);
     }

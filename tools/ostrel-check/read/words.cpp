@@ -145,7 +145,7 @@ std::string usage_of(const Function& function)
 {
     std::string usage(function.name);
     for (const Argument& argument : function.arguments) {
-        if (argument.output_only) continue;
+        if (argument.is_only_written()) continue;
         const std::string name(argument.name);
         if (argument.kind == Kind::kBlocks) {
             for (std::size_t i = 1; i <= argument.blocks; ++i) usage += " " + name + "_" + std::to_string(i);

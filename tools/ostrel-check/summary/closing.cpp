@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <system_error>
 
+#include "summary/summary_form.h"
 #include "system/process.h"
 
 namespace ostrel::tool {

@@ -12,6 +12,7 @@
 #include <system_error>
 
 #include "read/json_tree.h"
+#include "summary/summary_form.h"
 #include "system/process.h"
 #include "write/show.h"
 

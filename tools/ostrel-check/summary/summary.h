@@ -64,11 +64,6 @@ class Summary {
     std::uint64_t unreadable_files_ = 0;
 };
 
-// summary_text and summary_json say what became of the records: of each family of checks, with_rows of each row, and
-// in the last line of the text of all. The JSON is one line.
-std::string summary_text(const Summary& summary, bool with_rows);
-std::string summary_json(const Summary& summary, bool with_rows);
-
 }  // namespace ostrel::tool
 
 #endif

@@ -1,9 +1,8 @@
-// The forms of a summary: for people and for programs.
+#include "summary/summary_form.h"
 
 #include <nlohmann/json.hpp>
 #include <utility>
 
-#include "summary/summary.h"
 #include "write/show.h"
 
 namespace ostrel::tool {

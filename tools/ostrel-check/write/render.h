@@ -1,4 +1,4 @@
-// Results as rows of a table, as lines of JSON, or as rows of CSV.
+// Results in the format that the user chose.
 #ifndef OSTREL_TOOLS_WRITE_RENDER_H
 #define OSTREL_TOOLS_WRITE_RENDER_H
 
@@ -34,21 +34,8 @@ struct Place {
     std::uint64_t line = 0;
 };
 
-// append_row adds a result to a table.
-void append_row(std::string& out, const Style& style, const Place& place, const Result& result);
-
-// append_json adds a line of JSON.
-void append_json(std::string& out, const Style& style, const Place& place, const Result& result);
-
-// append_csv adds a row of CSV, and csv_header returns the row that precedes all of them.
-void append_csv(std::string& out, const Style& style, const Place& place, const Result& result);
-std::string csv_header(const Style& style);
-
-// append_after adds a line for each argument that the check may have written to.
-void append_after(std::string& out, const Result& result, std::size_t indentation, std::size_t columns);
-
-// kLibrary precedes each line that the library itself printed.
-inline constexpr std::string_view kLibrary = "library: ";
+// append_result adds a result in that style.
+void append_result(std::string& out, const Style& style, const Place& place, const Result& result);
 
 }  // namespace ostrel::tool
 

@@ -1,7 +1,9 @@
+#include "write/render_csv.h"
+
 #include <algorithm>
 
+#include "catalogue/result_codes.h"
 #include "write/json_writer.h"
-#include "write/render.h"
 
 namespace ostrel::tool {
 

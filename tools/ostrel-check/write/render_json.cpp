@@ -1,9 +1,11 @@
+#include "write/render_json.h"
+
 #include <algorithm>
 #include <array>
 
+#include "catalogue/result_codes.h"
 #include "judge/reason.h"
 #include "write/json_writer.h"
-#include "write/render.h"
 
 namespace ostrel::tool {
 

@@ -1,9 +1,9 @@
+#include "catalogue/result_codes.h"
+
 #include <ostrel/result_code.h>
 
 #include <algorithm>
 #include <iterator>
-
-#include "catalogue/catalogue.h"
 
 namespace ostrel::catalogue {
 

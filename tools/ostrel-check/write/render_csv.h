@@ -1,0 +1,17 @@
+// Results as rows of CSV.
+#ifndef OSTREL_TOOLS_WRITE_RENDER_CSV_H
+#define OSTREL_TOOLS_WRITE_RENDER_CSV_H
+
+#include <string>
+
+#include "write/render.h"
+
+namespace ostrel::tool {
+
+// append_csv adds a row, and csv_header returns the row that precedes all of them.
+void append_csv(std::string& out, const Style& style, const Place& place, const Result& result);
+std::string csv_header(const Style& style);
+
+}  // namespace ostrel::tool
+
+#endif

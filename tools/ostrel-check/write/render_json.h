@@ -1,0 +1,15 @@
+// Results as lines of JSON.
+#ifndef OSTREL_TOOLS_WRITE_RENDER_JSON_H
+#define OSTREL_TOOLS_WRITE_RENDER_JSON_H
+
+#include <string>
+
+#include "write/render.h"
+
+namespace ostrel::tool {
+
+void append_json(std::string& out, const Style& style, const Place& place, const Result& result);
+
+}  // namespace ostrel::tool
+
+#endif
