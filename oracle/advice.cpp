@@ -103,8 +103,8 @@ bool is_same(const Answer& answer, const Reason& reason)
 std::string data_fault(const Refusal& refusal)
 {
     const Reason& reason = refusal.reason();
-    const auto known = std::ranges::lower_bound(rules::sentences(), reason.id, {}, &rules::Sentence::id);
-    if (known == rules::sentences().end() || known->id != reason.id) return "has no sentence";
+    const rules::Sentence* known = rules::find_sentence(reason.id);
+    if (known == nullptr) return "has no sentence";
     const std::string sentence = rules::sentence(reason);
     for (const auto& [place, datum] :
          {std::pair("{found}", &reason.found), std::pair("{allowed}", &reason.allowed)}) {

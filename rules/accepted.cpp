@@ -11,12 +11,12 @@ namespace {
 
 using Kind = Step::Kind;
 
-// Nothing is what a part of a check accepts that refuses everything.
+// kNothing stands for steps that refuse everything.
 constexpr std::string_view kNothing = "nothing";
 
 class Summary {
  public:
-    // phrase says what the steps from that one on accept; nothing is said where they accept everything.
+    // phrase says what these steps accept; it is empty if they accept everything.
     std::string phrase(std::span<const Step> steps, const Speaker& speaker)
     {
         std::vector<Clause> clauses;
@@ -39,7 +39,7 @@ class Summary {
                     break;
                 case Kind::kAccept: {
                     const bool is_null = step.condition.kind == Condition::Kind::kNull;
-                    if (is_null || (known && !*known)) break;  // what NULL does is said of the argument
+                    if (is_null || (known && !*known)) break;  // NULL is described with the argument
                     if (known) return all("");
                     const std::string rest = phrase(steps.subspan(i + 1), speaker);
                     if (rest.empty()) return all("");
@@ -78,7 +78,7 @@ class Summary {
         if (!part.empty()) text.append(text.empty() ? "" : "; ").append(part);
     }
 
-    // enclosed shows where a phrase ends that has several parts.
+    // enclosed puts a phrase of several parts in parentheses.
     static std::string enclosed(const std::string& phrase)
     {
         return phrase.find("; ") == std::string::npos ? phrase : "(" + phrase + ")";
@@ -98,17 +98,18 @@ class Summary {
         ++depth_;
         const std::string one = phrase(step.steps, speaker);
         const std::string other = phrase(step.otherwise, speaker);
-        if (--depth_ > 0) is_plain_ = false;  // nobody could tell where the inner cases end
+        if (--depth_ > 0) is_plain_ = false;  // the end of the inner cases would be unclear
         if (one.empty() && other.empty()) return "";
         if (one.empty()) {
-            return "where " + speaker.clause(step.condition, false).text() + ": " + enclosed(other);
+            return "if " + speaker.clause(step.condition, false).text() + ": " + enclosed(other);
         }
-        std::string text = "where " + speaker.when(step.condition) + ": " + enclosed(one);
+        std::string text = "if " + speaker.when(step.condition) + ": " + enclosed(one);
         if (!other.empty()) text += "; otherwise: " + enclosed(other);
         return text;
     }
 
-    // refuse adds what must hold for a step not to refuse; false: it refuses whatever is left.
+    // refuse adds what must hold for a step not to refuse. It returns false if the step refuses everything that is
+    // left.
     bool refuse(std::vector<Clause>& clauses, const Condition& condition, const Speaker& speaker)
     {
         const bool is_use = condition.kind == Condition::Kind::kRefusedBy && !condition.is_negated;
@@ -131,10 +132,10 @@ class Summary {
             clauses.push_back({speaker.value(condition.operands[0]), is});
             return true;
         }
-        if (condition.kind == Condition::Kind::kNull) return true;  // what NULL does is said of the argument
+        if (condition.kind == Condition::Kind::kNull) return true;  // NULL is described with the argument
         const Clause refused = speaker.clause(condition);
         const Clause wanted = speaker.clause(condition, false);
-        // What is refused where something holds and where it does not leaves nothing.
+        // If both a condition and its opposite are refused, nothing is left.
         if (std::ranges::any_of(clauses, [&](const Clause& one) { return one.text() == refused.text(); }))
             return false;
         if (std::ranges::any_of(clauses, [&](Clause& one) { return includes(one, wanted); })) return true;
@@ -149,7 +150,7 @@ class Summary {
         });
     }
 
-    // is_flat tells a check that refuses and does nothing else.
+    // is_flat recognizes a check that only refuses.
     static bool is_flat(const Check& check)
     {
         return std::ranges::all_of(check.steps, [](const Step& step) {
@@ -161,7 +162,7 @@ class Summary {
     int depth_ = 0;
 };
 
-// remembers_twice tells whether something is kept under a name in several places.
+// remembers_twice reports whether several steps keep something under the same name.
 bool remembers_twice(const std::vector<Step>& steps, std::vector<int>& counts)
 {
     return std::ranges::any_of(steps, [&](const Step& step) {
@@ -178,7 +179,7 @@ std::string answered(const Check& check, const Speaker& speaker)
         const bool always = speaker.known(step.condition).value_or(false);
         text += text.empty() ? "" : "; ";
         text += (always && !text.empty() ? "otherwise " : "") + speaker.number(step.code.number);
-        if (!always) text += " where " + speaker.when(step.condition);
+        if (!always) text += " if " + speaker.when(step.condition);
     }
     return text;
 }

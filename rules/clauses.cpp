@@ -30,6 +30,7 @@ std::string in_plural(std::string predicate)
 {
     if (predicate.starts_with("has ")) return "have " + predicate.substr(4);
     if (predicate.starts_with("is ")) return "are " + predicate.substr(3);
+    if (predicate.starts_with("contains ")) return "contain " + predicate.substr(9);
     return predicate;
 }
 
@@ -152,11 +153,11 @@ Clause Speaker::text_clause(const Condition& condition, bool holds) const
                             joined_words(lengths, holds ? "or" : "nor") + (is_one ? " byte" : " bytes"));
         }
         case Kind::kKeyword: {
-            const std::string any = condition.ignores_case ? ", in upper or lower case or a mixture" : "";
+            const std::string any = condition.ignores_case ? ", ignoring case" : "";
             return {value(judged), choice(all_of_them(condition.words), holds) + any};
         }
         case Kind::kPrefix: {
-            const std::string any = condition.ignores_case ? ", in upper or lower case or a mixture" : "";
+            const std::string any = condition.ignores_case ? ", ignoring case" : "";
             return say_with("begins with ", "does not begin with ",
                             joined_words(all_of_them(condition.words), "or") + any);
         }
@@ -201,7 +202,7 @@ Clause Speaker::outside_clause(const Condition& condition, bool holds) const
             offset != nullptr && offset->number == 0 ? value(judged.of[0]) + " is empty or " : "";
         return {(holds ? "" : none) + value(judged), among(condition.operands[1], !holds)};
     }
-    return {value(judged), (holds ? "has a byte other than " : "has only ") + allowed};
+    return {value(judged), (holds ? "contains a byte other than " : "contains only ") + allowed};
 }
 
 // is_beginning tells a comparison with as many bytes at the beginning of a text as the other has.

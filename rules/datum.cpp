@@ -6,7 +6,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// More words than that nobody reads.
+// A longer list of words is too long to read.
 constexpr std::size_t kMostWords = 40;
 
 template <typename T, typename F>
@@ -26,13 +26,13 @@ bool same_letter(char a, char b)
     return lower(a) == lower(b);
 }
 
-// in_common counts the bytes of the longest text that occurs in both, where it is longer than that.
+// in_common returns the length of the longest text that occurs in both, if it is longer than longest.
 std::size_t in_common(std::string_view one, std::string_view other, std::size_t longest)
 {
     for (std::size_t i = 0; i + longest < one.size(); ++i) {
         for (std::size_t j = 0; j + longest < other.size(); ++j) {
             if (i + longest == one.size()) return longest;
-            // What is no longer is not looked at.
+            // Skips what cannot be longer.
             if (!same_letter(one[i + longest], other[j + longest])) continue;
             const std::string_view rest = other.substr(j);
             const auto differing = std::ranges::mismatch(one.substr(i), rest, same_letter);
@@ -55,7 +55,7 @@ std::string in_words(const std::vector<std::string_view>& words, const Datum& fo
         if (common > longest) nearest = word;
         longest = common;
     }
-    return std::to_string(words.size()) + " texts, of which " + quoted(nearest) + " is most like it";
+    return std::to_string(words.size()) + " texts; the closest is " + quoted(nearest);
 }
 
 }  // namespace
@@ -81,7 +81,6 @@ bool is_one(const Datum& datum)
     return true;
 }
 
-// A keyword stands without quotation marks where it cannot be taken for something else.
 std::string keyword_in_words(std::string_view word)
 {
     const bool is_plain = !word.empty() && std::ranges::all_of(word, [](char c) {

@@ -1,4 +1,4 @@
-// Datum in words: what a reason has found or allows, and texts so that they can be printed.
+// Datum in words: what a reason has found or allows, and texts in printable form.
 #ifndef OSTREL_RULES_DATUM_H
 #define OSTREL_RULES_DATUM_H
 
@@ -10,19 +10,19 @@
 
 namespace ostrel::rules {
 
-// in_words shows a datum. Of a long list it says how many there are, and which is most like what was found.
+// in_words shows a datum; a long list as its size and the text that is closest to what was found.
 std::string in_words(const Datum& datum, const Datum& found = {});
 
-// is_one tells that one thing is spoken of.
+// is_one reports whether the singular applies.
 bool is_one(const Datum& datum);
 
-// keyword_in_words shows a keyword, quoted where it could be taken for something else.
+// keyword_in_words shows a keyword, quoted if it could be mistaken for something else.
 std::string keyword_in_words(std::string_view word);
 
-// quoted shows a text so that it can be printed: between quotation marks, cut, with \x9F for what is not printable.
+// quoted shows a text in printable form: in quotation marks, cut if long, with \x9F for an unprintable byte.
 std::string quoted(std::string_view text);
 
-// length_shown is what is shown in the place of a secret: "<12 bytes>".
+// length_shown replaces a secret: "<12 bytes>".
 std::string length_shown(std::size_t size);
 
 }  // namespace ostrel::rules

@@ -13,17 +13,17 @@ namespace {
 
 using Kind = Step::Kind;
 
-// missing says what a part of a text is where there is no separator.
+// missing says what a part of a text is if there is no separator.
 std::string missing(const Expression& expression)
 {
     switch (expression.kind) {
         case Expression::Kind::kBeforeFirst:
         case Expression::Kind::kBeforeLast:
         case Expression::Kind::kAfterLast:
-            return "; all of it where there is none";
+            return "; all of it if there is none";
         case Expression::Kind::kAfterFirst:
         case Expression::Kind::kThroughLast:
-            return "; nothing where there is none";
+            return "; nothing if there is none";
         default:
             return "";
     }
@@ -34,7 +34,7 @@ class Explainer {
     std::vector<int> codes;  // besides 0, in the order of the steps
     bool reads_numbers = false;
 
-    // steps says what can happen, and whether it always comes to an end there.
+    // steps describes what can happen. It returns true if every call ends there.
     bool steps(const std::vector<Step>& steps, Speaker& speaker, bool is_called, std::vector<Said>& result)
     {
         for (const Step& step : steps) {
@@ -57,13 +57,13 @@ class Explainer {
                step.kind == Kind::kSkip;
     }
 
-    // is_nowhere tells a step that writes to nothing that this check has.
+    // is_nowhere recognizes a step that writes to nothing that this check has.
     static bool is_nowhere(const Step& step, const Speaker& speaker)
     {
         return step.kind == Kind::kWrite && speaker.value(step.writes[0].target).empty();
     }
 
-    // say adds a step, and tells that nothing goes on after it.
+    // say adds a step. It returns true if no call goes on after it.
     bool say(const Step& step, Speaker& speaker, bool is_called, std::vector<Said>& all)
     {
         Said& result = all.emplace_back();
@@ -116,14 +116,14 @@ class Explainer {
         }
     }
 
-    static std::string where(const Step& step, const Speaker& speaker)
+    static std::string if_it_holds(const Step& step, const Speaker& speaker)
     {
-        return speaker.known(step.condition) ? "" : " where " + speaker.when(step.condition);
+        return speaker.known(step.condition) ? "" : " if " + speaker.when(step.condition);
     }
 
     static std::string text(const Step& step, const Speaker& speaker, bool is_called)
     {
-        const std::string condition = where(step, speaker);
+        const std::string condition = if_it_holds(step, speaker);
         switch (step.kind) {
             case Kind::kRefuse:
                 return verdict(step, speaker, is_called) + condition;
@@ -140,7 +140,7 @@ class Explainer {
                 return "keeps " + speaker.value(*step.value) + " as " + std::string(step.name) +
                        missing(*step.value);
             case Kind::kWhen:
-                return "where " + speaker.when(step.condition);
+                return "if " + speaker.when(step.condition);
             case Kind::kForEach:
                 return "for " + speaker.list(*step.list);
             default:
@@ -153,7 +153,7 @@ class Explainer {
         const std::string target = speaker.value(write.target);
         if (target.empty()) return "";
         return target + " becomes " + speaker.value(write.value) +
-               (write.is_terminated ? "" : ", copied without a terminator and without a bound");
+               (write.is_terminated ? "" : ", copied without a terminator or a bounds check");
     }
 
     static std::string code(const Step& step, const Speaker& speaker)
@@ -189,7 +189,7 @@ class Explainer {
         return {speaker.line(line), when, line.stream, line.is_flushed};
     }
 
-    // add says of a group's line where it is printed; groups may have the same one.
+    // add says when a group's line is printed; several groups may share a line.
     static void add(std::vector<SaidLine>& lines, const Group& group, const Line& line,
                     const Speaker& speaker)
     {
@@ -203,8 +203,7 @@ class Explainer {
         }
     }
 
-    // uses says what the other checks do that a condition asks, and what they answer. What is said already is not said
-    // again.
+    // uses describes, once each, the other checks that a condition calls; its_codes are the codes that they return.
     std::vector<Said> uses(const Condition& condition, const Speaker& speaker, bool always,
                            std::vector<int>& its_codes)
     {

@@ -18,12 +18,12 @@ std::string unit_of(const Argument& argument)
 std::string room_of(const Argument& argument, const Speaker& speaker)
 {
     if (argument.kind == Argument::Kind::kBlocks) {
-        return std::to_string(argument.blocks) + " texts, each " + std::to_string(argument.block_size) +
-               " bytes after the one before";
+        return std::to_string(argument.blocks) + " texts, " + std::to_string(argument.block_size) +
+               " bytes apart";
     }
     if (argument.kind != Argument::Kind::kBuffer) return "";
     if (argument.room) return speaker.value(*argument.room) + ", in bytes";
-    return "the bytes of the text in it and the terminator";
+    return "the length of its text and the terminator";
 }
 
 // written lists what an argument may become.
@@ -35,8 +35,9 @@ void add_written(const std::vector<Step>& steps, std::size_t argument, const Spe
         for (const Write& write : step.writes) {
             const bool is_it = write.target.kind == Expression::Kind::kName && write.target.slot == argument;
             if (!is_it && write.target.kind != Expression::Kind::kItem) continue;
-            const std::string value = inner.value(write.value) +
-                                      (write.is_terminated ? "" : " (without a terminator, without a bound)");
+            const std::string value =
+                inner.value(write.value) +
+                (write.is_terminated ? "" : " (without a terminator or a bounds check)");
             if (std::ranges::find(values, value) == values.end()) values.push_back(value);
         }
         add_written(step.steps, argument, inner, values);
@@ -48,7 +49,7 @@ std::string written(const Argument& argument, const std::vector<std::string>& va
 {
     const bool is_text = argument.kind != Argument::Kind::kIntegerOut;
     return joined_words(values, "or") +
-           (is_text && !values.empty() ? "; bytes after a new terminator stay as they were" : "");
+           (is_text && !values.empty() ? "; bytes after a new terminator are unchanged" : "");
 }
 
 }  // namespace
@@ -72,9 +73,10 @@ std::string how_numbers_are_read(const Build& build)
     const auto read = [&](const char* text) {
         return std::string(text) + " as " + std::to_string(read_number(text, build.atoi).value);
     };
-    return "A number is read from the beginning of a text as atoi does: white space before it and whatever "
-           "follows its digits are passed over, and a text without one is 0. What an int does not hold is "
-           "read in different ways on different gateways; this one reads " +
+    return "Numbers are read as atoi reads them: leading white space and whatever follows the digits are "
+           "ignored, and a text without digits is 0. Gateways differ in how they read a number that does not "
+           "fit "
+           "in an int; this one reads " +
            read("2147483648") + ", and " + read("99999999999999999999") + ".";
 }
 

@@ -30,16 +30,16 @@ std::string in_words(const NullEnd& end)
         case NullEnd::Kind::kPrinted:
             return "left to the C library, which prints it or ends the process";
         case NullEnd::Kind::kFault:
-            return "ends the process, by a memory fault";
+            return "ends the process (memory fault)";
         case NullEnd::Kind::kAsserted:
-            return "ends the process, by a failed assertion of " + std::string(end.assertion);
+            return "ends the process (failed assertion " + std::string(end.assertion) + ")";
         case NullEnd::Kind::kStays:
             return "does not return";
     }
     return "";
 }
 
-// in_words says when a call comes to which end, as long as that is not too much to be read.
+// in_words says which call ends how, or lists the ends alone if that would be too long or the conditions are unknown.
 std::string in_words(const std::vector<NullEnd>& ends, const std::set<std::string>& sources)
 {
     constexpr std::size_t kLongest = 200;
@@ -61,11 +61,13 @@ std::string in_words(const std::vector<NullEnd>& ends, const std::set<std::strin
         const std::string outcome = in_words(ends[i]);
         std::string when;
         for (; i < ends.size() && in_words(ends[i]) == outcome; ++i)
-            when.append(when.empty() ? " where " : ", or where ").append(ends[i].when);
+            when.append(when.empty() ? " if " : ", or if ").append(ends[i].when);
         text += (text.empty() ? "" : "; ") + (i < ends.size() ? outcome + when : "otherwise " + outcome);
     }
     const std::string names = joined_words(std::vector<std::string>(sources.begin(), sources.end()), "and");
-    if (text.size() > kLongest) text = joined_words(outcomes, "or");
+    const bool is_known = std::all_of(ends.begin(), std::prev(ends.end()),
+                                      [](const NullEnd& end) { return !end.when.empty(); });
+    if (text.size() > kLongest || !is_known) text = joined_words(outcomes, "or");
     return "depends on " + names + ": " + text;
 }
 

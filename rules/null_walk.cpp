@@ -197,6 +197,7 @@ class Walk {
         Walk walk;
         bool accepts = walk.run(condition.target->steps, inner, where);
         is_printed = is_printed || walk.is_printed;
+        sources.merge(walk.sources);
         its_codes_.clear();
         for (const NullEnd& end : walk.ends) {
             if (end.kind == NullEnd::Kind::kRefused) {

@@ -154,8 +154,8 @@ std::string Speaker::list(const List& list) const
 {
     const std::string items = of_items(list).item().substr(4);
     std::string text = "each " + items + " of " + value(list.of);
-    if (list.separator != '\0') text += ", between " + quoted({&list.separator, 1});
-    if (!list.trimmed.empty()) text += ", without " + bytes_in_words(list.trimmed) + " around it";
+    if (list.separator != '\0') text += " separated by " + quoted({&list.separator, 1});
+    if (!list.trimmed.empty()) text += ", without surrounding " + bytes_in_words(list.trimmed);
     return text;
 }
 
@@ -182,7 +182,7 @@ std::string Speaker::line(const Line& line) const
     return text;
 }
 
-std::string bytes_in_words(const Set& set) { return set == Set(" ") ? "blanks" : in_words(set); }
+std::string bytes_in_words(const Set& set) { return set == Set(" ") ? "spaces" : in_words(set); }
 
 std::string joined_words(const std::vector<std::string>& words, std::string_view last)
 {

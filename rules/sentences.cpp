@@ -1,74 +1,70 @@
-// The table of sentences.
+#include "rules/sentences.h"
+
 #include <algorithm>
 #include <iterator>
-#include <stdexcept>
-#include <string>
-#include <vector>
-
-#include "rules/sentence_pieces.h"
 
 namespace ostrel::rules {
 
 namespace {
 
 constexpr Sentence kSentences[] = {
-    {"a_multiple", "is {read}{found}; a multiple of {allowed} is not allowed"},
-    {"accepted", "is of a form that is not allowed here"},
-    {"already_listed", "is {found}, which occurs in the list already"},
+    {"a_multiple", "is {read}{found}; multiples of {allowed} are not allowed"},
+    {"accepted", "has a form that is not allowed here"},
+    {"already_listed", "is {found}, which is already in the list"},
     {"another_length", "has {found} {found:byte|bytes}; earlier ones have {allowed}"},
-    {"another_subnet", "does not begin with {allowed}, the subnet"},
+    {"another_subnet", "does not begin with {allowed}, the prefix of the subnet"},
     {"colon_in_path",
      "has a \":\" in the path that begins at byte {position}; that is allowed only after a port"},
-    {"contains", "byte {position} is where {found} begins, which is not allowed", true},
-    {"driver_asked", "is looked up with the wireless driver, whose answer is not known here"},
+    {"contains", "{found} at byte {position} is not allowed", true},
+    {"driver_asked", "depends on the wireless driver, whose answer is not known here"},
     {"empty", "is empty"},
-    {"empty_as_listed", "is empty, and so is one in the list"},
-    {"end_before_start", "is {found}; at least {allowed}, the last octet of the start, is needed"},
+    {"empty_as_listed", "is empty, and the list already has an empty entry"},
+    {"end_before_start", "is {found}; at least {allowed}, the last octet of the start address, is needed"},
     {"equal", "is {read}{found}, which is not allowed"},
     {"first_server", "is the first server, which cannot be deleted"},
     {"forbidden_form", "is {form}, which is not allowed here"},
-    {"forbidden_keyword", "is {found}; none of {allowed} is allowed"},
+    {"forbidden_keyword", "is {found}; {allowed} {allowed:is|are} not allowed"},
     {"forbidden_length", "has {found} {found:byte|bytes}, which is not allowed"},
     {"forbidden_prefix", "begins with {allowed:|one of }{allowed}, which is not allowed"},
-    {"forbidden_shape", "is of a form that is not allowed here"},
+    {"forbidden_shape", "has a form that is not allowed here"},
     {"forbidden_suffix", "ends with {allowed}, which is not allowed"},
     {"group_address",
-     "byte {position} is {byte}, which makes it the address of a group; {allowed} are allowed there", true},
+     "byte {position} is {byte}, which makes this a group address; {allowed} are allowed there", true},
     {"in_table", "is {found}, which is not allowed"},
-    {"incomplete", "ends where {allowed} {allowed:is|are} expected as byte {position}"},
-    {"lacks", "has no {allowed}"},
+    {"incomplete", "ends before byte {position}, where {allowed} {allowed:is|are} expected"},
+    {"lacks", "does not contain {allowed}"},
     {"last_item", "is the last one"},
     {"list_full", "has {found} bytes together with the list; at most {allowed} are allowed"},
     {"listed_by_driver", "is {read}{found}, which the wireless driver lists"},
     {"neither_server", "is neither the first nor the second server"},
     {"never_returns", "is a value for which the check does not return"},
-    {"no_channel_listed", "is {read}{found}; the wireless driver lists no channel that is allowed"},
+    {"no_channel_listed", "is {read}{found}; the wireless driver lists no allowed channel"},
     {"no_key_left", "has no key that is printable and not empty"},
     {"not_a_keyword", "is {allowed:not|none of} {allowed}"},
     {"not_a_multiple", "is {read}{found}; a multiple of {allowed} is needed"},
-    {"not_empty", "is not empty; only the empty value is allowed"},
-    {"not_equal", "is {read}{found}; {allowed} is allowed"},
+    {"not_empty", "is not empty; it must be empty"},
+    {"not_equal", "is {read}{found}; {allowed} is expected"},
     {"not_in_set", "byte {position} is {byte}; {allowed} {allowed:is|are} allowed", true},
-    {"not_in_table", "{found} goes with none of the known rows", true},
+    {"not_in_table", "{found} matches no known entry", true},
     {"not_listed", "is {found}, which is not in the list"},
     {"not_listed_by_driver",
      "is {read}{found}; of the channels that the wireless driver lists, {allowed} {allowed:is|are} allowed"},
     {"not_null", "is not NULL"},
-    {"not_of_offset", "is not part of any name that goes with the offset: {allowed}"},
+    {"not_of_offset", "is not part of any name for this offset: {allowed}"},
     {"not_part_of_any", "is not part of any of {allowed}"},
     {"null", "is NULL"},
-    {"null_asserted", "is NULL, which fails an assertion of the check"},
+    {"null_asserted", "is NULL, which fails an assertion in the check"},
     {"null_read", "is NULL, and the check reads it"},
     {"number_beyond_int",
-     "has the number {found}, which an int does not hold; this gateway reads it as {read_as}{limit}"},
-    {"number_forbidden", "is {read}{found}; none of {allowed} is allowed"},
+     "has the number {found}, which does not fit in an int; this gateway reads it as {read_as}{limit}"},
+    {"number_forbidden", "is {read}{found}; {allowed} {allowed:is|are} not allowed"},
     {"number_in_range", "is {read}{found}; {range} are not allowed"},
     {"number_not_allowed", "is {read}{found}; only {allowed} {allowed:is|are} allowed"},
-    {"number_out_of_range", "is {read}{found}; {range} are allowed"},
+    {"number_out_of_range", "is {read}{found}; the allowed range is {range}"},
     {"number_too_high", "is {read}{found}; at most {allowed} is allowed"},
     {"number_too_low", "is {read}{found}; at least {allowed} is needed"},
-    {"numeric_name", "is made of digits and dots alone; a letter or \"-\" is needed"},
-    {"only_of_set", "is made of {allowed} alone"},
+    {"numeric_name", "contains only digits and dots; a letter or \"-\" is needed"},
+    {"only_of_set", "contains only {allowed}; at least one other byte is needed"},
     {"only_other_set", "is empty, but the other one is not"},
     {"pass_phrase_alone", "is given without a pre-shared key; a pass phrase alone is not accepted"},
     {"repeated_item", "is {found}, which occurs again later in the list"},
@@ -76,7 +72,7 @@ constexpr Sentence kSentences[] = {
     {"too_many_items", "has {found} items; at most {allowed} {allowed:is|are} allowed"},
     {"too_many_labels", "has {found} labels; at most {allowed} are allowed"},
     {"too_much", "should end before byte {position}"},
-    {"too_much_work", "the values are too long for a reason to be worked out", true},
+    {"too_much_work", "the values are too long to work out a reason", true},
     {"too_short", "has {found} {found:byte|bytes}; at least {allowed} {allowed:is|are} needed"},
     {"wrong_item_count", "has {found} {found:part|parts}; {allowed} are needed"},
     {"wrong_length", "has {found} {found:byte|bytes}; {allowed:|one of }{allowed} {allowed:are|is} needed"},
@@ -86,47 +82,91 @@ constexpr Sentence kSentences[] = {
     {"wrong_suffix", "does not end with {allowed}"},
 };
 
-struct Named {
-    std::string_view name;
-    Field field;
-};
+std::string counted(const std::optional<std::size_t>& from_zero)
+{
+    return from_zero ? std::to_string(*from_zero + 1) : "";
+}
 
-constexpr Named kFields[] = {
-    {"found", Field::kFound}, {"allowed", Field::kAllowed}, {"form", Field::kForm},
-    {"byte", Field::kByte},   {"range", Field::kRange},     {"position", Field::kPosition},
-    {"read", Field::kRead},   {"read_as", Field::kReadAs},  {"limit", Field::kLimit},
-};
+std::string range(const Datum& datum)
+{
+    const auto* limits = std::get_if<std::vector<long long>>(&datum);
+    return limits == nullptr ? "" : std::to_string(limits->front()) + " to " + std::to_string(limits->back());
+}
+
+void append_filled_in(std::string& out, std::string_view text, const Reason& reason);
+
+void append_found(std::string& out, const Reason& reason)
+{
+    const std::string found = in_words(reason.found);
+    const bool is_quoted = reason.id == "number_beyond_int" && found.starts_with('"');
+    out += is_quoted ? std::string_view(found).substr(1, found.size() - 2) : std::string_view(found);
+}
+
+void append_byte(std::string& out, const Reason& reason)
+{
+    const auto* byte = std::get_if<std::string>(&reason.found);
+    out += byte == nullptr || byte->empty() ? "a byte that is not shown" : byte_in_words(byte->front());
+}
+
+void append_limit(std::string& out, const Reason& reason)
+{
+    const Sentence* known = find_sentence(reason.limit);
+    if (known == nullptr) return;
+    const std::size_t semicolon = std::min(known->text.find(';'), known->text.size());
+    append_filled_in(out, known->text.substr(semicolon), reason);
+}
+
+void append_field(std::string& out, std::string_view field, const Reason& reason)
+{
+    if (const std::size_t colon = field.find(':'); colon != std::string_view::npos) {
+        const std::size_t bar = field.find('|');
+        const bool is_singular = is_one(field.starts_with("found") ? reason.found : reason.allowed);
+        out += is_singular ? field.substr(colon + 1, bar - colon - 1) : field.substr(bar + 1);
+    } else if (field == "found") {
+        append_found(out, reason);
+    } else if (field == "allowed") {
+        out += in_words(reason.allowed, reason.found);
+    } else if (field == "form") {
+        out += std::get<std::string>(reason.allowed);
+    } else if (field == "byte") {
+        append_byte(out, reason);
+    } else if (field == "range") {
+        out += range(reason.allowed);
+    } else if (field == "position") {
+        out += counted(reason.offset);
+    } else if (field == "read") {
+        if (reason.read_as) out += "read as ";
+    } else if (field == "read_as") {
+        if (reason.read_as) out += std::to_string(*reason.read_as);
+    } else {
+        append_limit(out, reason);
+    }
+}
+
+void append_filled_in(std::string& out, std::string_view text, const Reason& reason)
+{
+    for (;;) {
+        const std::size_t begin = text.find('{');
+        out += text.substr(0, begin);
+        if (begin == std::string_view::npos) return;
+        const std::size_t end = text.find('}', begin);
+        append_field(out, text.substr(begin + 1, end - begin - 1), reason);
+        text.remove_prefix(end + 1);
+    }
+}
+
+void append_sentence(std::string& out, const Sentence& known, const Reason& reason)
+{
+    const bool has_part = !reason.part.empty();
+    if (has_part && known.has_subject) out += "in ";
+    if (has_part) out.append(reason.part).append(known.has_subject ? ", " : " ");
+    append_filled_in(out, known.text, reason);
+    if (!reason.conversion.empty()) out.append(" (").append(reason.conversion).append(")");
+}
 
 }  // namespace
 
 std::span<const Sentence> sentences() { return kSentences; }
-
-Pieces taken_apart(std::string_view text)
-{
-    Pieces pieces;
-    const auto add = [&](Field field, std::size_t begin, std::size_t end) {
-        pieces.all.at(pieces.count++) = {field, static_cast<unsigned char>(begin),
-                                         static_cast<unsigned char>(end - begin)};
-    };
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t begin = std::min(text.find('{', at), text.size());
-        if (begin > at) add(Field::kText, at, begin);
-        if (begin == text.size()) break;
-        const std::size_t end = text.find('}', begin);
-        const std::size_t colon = text.find(':', begin);
-        const std::string_view name = text.substr(begin + 1, std::min(colon, end) - begin - 1);
-        const auto* const known = std::ranges::find(kFields, name, &Named::name);
-        if (known == std::end(kFields)) throw std::logic_error("no field: " + std::string(name));
-        if (colon > end) {
-            add(known->field, 0, 0);
-        } else {
-            const bool is_found = known->field == Field::kFound;
-            add(is_found ? Field::kFoundForms : Field::kAllowedForms, colon + 1, end);
-        }
-        at = end + 1;
-    }
-    return pieces;
-}
 
 const Sentence* find_sentence(std::string_view id)
 {
@@ -134,14 +174,59 @@ const Sentence* find_sentence(std::string_view id)
     return known != std::end(kSentences) && known->id == id ? known : nullptr;
 }
 
-const Pieces& pieces_of(const Sentence& sentence)
+std::string sentence(const Reason& reason)
 {
-    static const auto kPieces = [] {
-        std::vector<Pieces> all;
-        for (const Sentence& one : kSentences) all.push_back(taken_apart(one.text));
-        return all;
-    }();
-    return kPieces.at(static_cast<std::size_t>(&sentence - kSentences));
+    std::string result;
+    if (const Sentence* known = find_sentence(reason.id)) append_sentence(result, *known, reason);
+    return result;
+}
+
+std::string full_sentence(const Reason& reason, const Check& check)
+{
+    constexpr std::size_t kUsual = 128;
+    std::string result;
+    const Sentence* known = find_sentence(reason.id);
+    if (known == nullptr) return result;
+    result.reserve(kUsual);
+    const bool names_argument =
+        std::ranges::count_if(check.arguments, [](const Argument& argument) {
+            return argument.kind != Argument::Kind::kIntegerOut && !argument.is_output;
+        }) > 1;
+    if (reason.item) {
+        result.append("item ").append(counted(reason.item));
+        if (!reason.item_text.empty()) result.append(" (").append(quoted(reason.item_text)).append(")");
+    }
+    if (names_argument && reason.argument) result.append(result.empty() ? "" : " of ").append(reason.name);
+    const bool has_subject = known->has_subject || !reason.part.empty();
+    if (!result.empty()) result += has_subject ? ": " : " ";
+    append_sentence(result, *known, reason);
+    return result;
+}
+
+Reason without_trace_of_secret(Reason reason, const Check& check)
+{
+    const bool is_secret = reason.argument && check.arguments[*reason.argument].is_secret;
+    if (!is_secret) return reason;
+    // A number stays only if it counts something; others were read in the text.
+    const bool is_read = reason.read_as || reason.id.starts_with("number_");
+    if (is_read || !std::holds_alternative<long long>(reason.found)) reason.found = std::monostate();
+    reason.read_as.reset();
+    reason.item_text.clear();
+    return reason;
+}
+
+void hide_secret(Reason& reason, const Check& check)
+{
+    const auto* found = std::get_if<std::string>(&reason.found);
+    const bool is_secret = reason.argument && check.arguments[*reason.argument].is_secret;
+    if (is_secret && found != nullptr && found->size() > 1) reason.found = std::monostate();
+    if (is_secret) reason.item_text.clear();
+}
+
+Reason without_secret(Reason reason, const Check& check)
+{
+    hide_secret(reason, check);
+    return reason;
 }
 
 }  // namespace ostrel::rules

@@ -15,7 +15,7 @@ struct Group {
     std::string_view words;
 };
 
-// In the order in which they are said. What a group takes is not said again.
+// In the order in which they are named. A group leaves its members out of the later ones.
 constexpr Group kGroups[] = {
     {kLatin1, "printable Latin-1 characters"},
     {kPrintable, "printable ASCII characters"},
@@ -26,17 +26,17 @@ constexpr Group kGroups[] = {
     {kDigits, "digits"},
     {Set::range('A', 'F'), "A to F"},
     {Set::range('a', 'f'), "a to f"},
-    {kBlank, "blanks"},
+    {kBlank, "spaces"},
 };
 
 constexpr std::string_view kNoBytes = "no bytes";
-constexpr std::string_view kBlankAlone = "a blank";
+constexpr std::string_view kSpace = "a space";
 constexpr std::string_view kQuotationMark = "a quotation mark";
 constexpr std::string_view kAnd = " and ";
 constexpr std::string_view kComma = ", ";
 constexpr std::string_view kTo = " to ";
 
-// Parts lists some: "letters, digits and -".
+// Parts joins names: "letters, digits and -".
 class Parts {
  public:
     void add(std::string_view part)
@@ -59,7 +59,7 @@ class Parts {
     std::size_t last_ = 0;  // where the last comma is
 };
 
-// add_runs names single bytes, and runs of at least four by their ends. A run is said as a part of its own.
+// add_runs adds runs of at least four bytes by their ends, one part each, and the other bytes as one part.
 void add_runs(const std::string& members, Parts& parts)
 {
     std::string single;
@@ -135,14 +135,14 @@ std::string bare(char byte)
 
 std::vector<std::string_view> set_words()
 {
-    std::vector<std::string_view> words = {kNoBytes, kBlankAlone, kQuotationMark, kAnd, kTo};
+    std::vector<std::string_view> words = {kNoBytes, kSpace, kQuotationMark, kAnd, kTo};
     for (const Group& group : kGroups) words.push_back(group.words);
     return words;
 }
 
 std::string byte_in_words(char byte)
 {
-    if (byte == ' ') return std::string(kBlankAlone);
+    if (byte == ' ') return std::string(kSpace);
     if (byte == '"') return std::string(kQuotationMark);
     if (byte > ' ' && byte <= '~') return "\"" + std::string(1, byte) + "\"";
     return bare(byte);

@@ -72,7 +72,7 @@ std::string bare(char byte);
 // set_words lists what in_words calls sets of bytes, and what stands between two of them.
 std::vector<std::string_view> set_words();
 
-// byte_in_words shows a byte so that it can stand in a sentence: "x", a blank, a quotation mark, \x9F.
+// byte_in_words shows a byte in a sentence: "x", a space, a quotation mark, \x9F.
 std::string byte_in_words(char byte);
 
 }  // namespace ostrel::rules

@@ -1,4 +1,5 @@
 // Shapes in words.
+#include "rules/datum.h"
 #include "rules/phrases.h"
 
 namespace ostrel::rules {
@@ -17,7 +18,11 @@ std::string group_in_words(const Group& group)
     const std::string count = group.least == group.most
                                   ? std::to_string(group.least)
                                   : std::to_string(group.least) + " to " + std::to_string(group.most);
-    if (group.set.size() == 1) return is_one ? set : count + " times " + set;
+    if (is_one && group.set.size() == 1) return set;
+    if (group.set.size() == 1 && group.least == group.most) {
+        return quoted(std::string(group.least, group.set.members()[0]));
+    }
+    if (group.set.size() == 1) return count + " times " + set;
     if (is_one) return "one of " + set;
     const bool is_plain =
         set.find_first_of(",\\") == std::string::npos && set.find(" and ") == std::string::npos;
@@ -55,8 +60,8 @@ std::string in_words(const Shape& shape)
 {
     const Shape groups = merged(shape);
     if (alternates(groups)) {
-        return std::to_string(groups.size() / 2 + 1) + " times " + group_in_words(groups[0]) + ", with " +
-               group_in_words(groups[1]) + " between";
+        return std::to_string(groups.size() / 2 + 1) + " groups of " + group_in_words(groups[0]) +
+               ", separated by " + group_in_words(groups[1]);
     }
     std::string text;
     for (const Group& group : groups) text += (text.empty() ? "" : ", ") + group_in_words(group);

@@ -8,6 +8,12 @@ namespace {
 
 using Kind = Expression::Kind;
 
+// bracketed shows where an operand begins and ends, unless it is a literal number.
+std::string bracketed(const std::string& operand)
+{
+    return operand[0] >= '0' && operand[0] <= '9' ? operand : "(" + operand + ")";
+}
+
 }  // namespace
 
 std::string Speaker::number(const Expression& expression) const
@@ -16,7 +22,7 @@ std::string Speaker::number(const Expression& expression) const
     return (is_named ? "" : "the number in ") + value(expression);
 }
 
-// A part that has a name is said with what it is.
+// A part that has a name is followed by what it is.
 std::string Speaker::value(const Expression& expression) const
 {
     const std::string_view part = expression.part;
@@ -62,7 +68,7 @@ std::string Speaker::unnamed(const Expression& expression) const
         case Kind::kAfterLast:
             return part(" after its last ");
         case Kind::kThroughLast:
-            return part(" up to and with its last ");
+            return part(" up to and including its last ");
         case Kind::kSlice:
             return slice(expression);
         default:
@@ -101,7 +107,7 @@ std::string Speaker::computed(const Expression& expression) const
     for (const Expression& one : expression.of) operands.push_back(value(one));
     switch (expression.kind) {
         case Kind::kJoined:
-            return joined_words(operands, "and") + ", one after the other";
+            return joined_words(operands, "and") + ", concatenated";
         case Kind::kConverted:
             return operands[0] + " " + std::string(expression.conversion->what);
         case Kind::kLength:
@@ -113,7 +119,7 @@ std::string Speaker::computed(const Expression& expression) const
             const bool counts_items =
                 operands.size() == 2 && operands[1] == "1" && first.kind == Kind::kCount;
             if (counts_items) {
-                return "the number of parts of " + value(first.of[0]) + " between " + value(first.of[1]);
+                return "the number of parts of " + value(first.of[0]) + " separated by " + value(first.of[1]);
             }
             std::string sum = operands[0];
             for (std::size_t i = 1; i < operands.size(); ++i) {
@@ -125,7 +131,8 @@ std::string Speaker::computed(const Expression& expression) const
         case Kind::kLarger:
             return "the larger of " + joined_words(operands, "and");
         case Kind::kDays:
-            return "the days of month " + operands[1] + " in year " + operands[0];
+            return "the number of days in month " + bracketed(operands[1]) + " of year " +
+                   bracketed(operands[0]);
         case Kind::kCell:
             return "the " + std::string(table_->columns[static_cast<std::size_t>(expression.of[0].number)]) +
                    " of the first such row";

@@ -76,7 +76,7 @@ class Teller {
 
   // shown makes a character such that it can stand in a sentence. One that is a byte alone has no other form.
   shown(character, isByte) {
-    if (character === ' ') return this.phrased('a blank');
+    if (character === ' ') return this.phrased('a space');
     if (character === '"') return this.phrased('a quotation mark');
     if (isPrintable(character) || (!isByte && character > '\xa0' && character !== '\xad')) {
       return filledIn(this.language.quoted, () => character);

@@ -12,18 +12,18 @@
  * TcmValidateProvisioningCode: "000.00d.00d.ddd" with four groups of three: the digits at positions 6 and 10
  * are 0 to 4, those at positions 12 to 14 are any, every other one is 0.
  *
- * 0; OSTREL_INVALID_VALUE. A value of 15 characters that is refused has the first faulty position printed,
- * not flushed: "TcmValidateProvisioningCode  pCode[%d] error\n", or at the positions 6, 10, 12, 13 and 14
- * "TcmValidateProvisioningCode  pCode[%d] error \n". Any other length prints nothing.
+ * Returns 0; OSTREL_INVALID_VALUE. For a refused value of 15 characters the first wrong position is printed,
+ * without a flush: "TcmValidateProvisioningCode  pCode[%d] error\n", or at the positions 6, 10, 12, 13 and 14
+ * "TcmValidateProvisioningCode  pCode[%d] error \n". For any other length nothing is printed.
  */
 OSTREL_API int TcmValidateProvisioningCode(const char* value);
 
 /*
  * TcmValidatePPPUsername: the user name of a PPP account.
  *
- * A name that ends in one of the ISP's two realms (build options, by default "@example.net" and
- * "@setup.example.net", compared case-sensitively, with at least one character before them) is judged by the
- * part before the realm, which holds digits and "#" only:
+ * If a name ends in one of the ISP's two realms (build options, by default "@example.net" and
+ * "@setup.example.net", compared case-sensitively, with at least one character before them), the part before
+ * the realm is judged. It contains only digits and "#":
  *
  *   type  realm    characters before the realm
  *   1     account  28, no "#"
@@ -34,19 +34,19 @@ OSTREL_API int TcmValidateProvisioningCode(const char* value);
  *   6     set-up   17, one "#", at index 12
  *
  * The part is 18 to 30 characters before the account realm, 16 to 17 before the set-up realm. With three or
- * more "#" it is accepted whatever their places, and the type is not written. Any other user name is type 0:
+ * more "#" it is accepted wherever they are, and the type is not written. Any other user name is type 0:
  * 1 to 131 characters of CHARSET_LATIN1_PRINTABLE.
  *
- * account_type: receives the type when the name is accepted, save as said; otherwise it is left as it was.
+ * account_type: receives the type if the name is accepted, except as stated above; otherwise it is unchanged.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER for the part before the realm or for the
- * whole name of type 0; OSTREL_INVALID_VALUE: the part has none of the forms.
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER for the part before the realm or
+ * for the whole name of type 0; OSTREL_INVALID_VALUE: the part has none of the forms.
  */
 OSTREL_API int TcmValidatePPPUsername(const char* value, int* account_type);
 
 /*
- * The fields below answer 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, in the order of
- * the tests. The sets are those of character_sets.h.
+ * The fields below return 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, in the order of
+ * the tests. The sets are defined in character_sets.h.
  */
 
 /* TcmValidatePPPPassword: 1 to 67 bytes of CHARSET_LATIN1_PRINTABLE. */
@@ -74,10 +74,10 @@ OSTREL_API int TcmValidateVoIPPassword(const char* value);
 OSTREL_API int TcmValidateVoIPAreaCode(const char* value);
 
 /*
- * TcmValidatePort: a TCP or UDP port that can be used, 1 to 65535 as atoi reads it; what follows the digits
- * is ignored. Port 0 and the empty value are refused.
+ * TcmValidatePort: a usable TCP or UDP port, 1 to 65535 as atoi reads it; what follows the digits is ignored.
+ * Port 0 and the empty value are refused.
  *
- * 0; OSTREL_INVALID.
+ * Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int TcmValidatePort(const char* value);
 

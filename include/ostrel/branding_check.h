@@ -1,9 +1,9 @@
 /*
  * Branding of the web portal.
  *
- * value is a NUL-terminated byte string of any length; only Param_check_datetime_value takes NULL. A check
- * writes one line to standard output when it refuses a value, "%s" first being its own name, and then flushes
- * all output streams.
+ * value is a NUL-terminated byte string of any length; only Param_check_datetime_value accepts NULL. A check
+ * writes one line to standard output when it refuses a value, in which the first %s is its own name, and then
+ * flushes all output streams.
  */
 #ifndef OSTREL_BRANDING_CHECK_H
 #define OSTREL_BRANDING_CHECK_H
@@ -11,11 +11,11 @@
 #include <ostrel/api.h>
 
 /*
- * The first eight are upper limits of the length; any bytes are accepted, the empty value too.
+ * The first eight checks limit the length; any bytes are accepted, and so is the empty value.
  *
- * 0; OSTREL_TOO_LONG, with "Error in %s: The length of string :%s shoud not be less than %d\n" (the value,
- * the limit). The limit printed is one above the longest value that is accepted, and the message means "must
- * be less than".
+ * Returns 0; OSTREL_TOO_LONG, with "Error in %s: The length of string :%s shoud not be less than %d\n" (the
+ * value, the limit). The limit printed is one above the longest value that is accepted, and the message means
+ * "must be less than".
  */
 
 /* Param_check_ispname_value: at most 31 bytes; the limit printed is 32. */
@@ -43,10 +43,10 @@ OSTREL_API int Param_check_login_value(const char* value);
 OSTREL_API int Param_check_pword_value(const char* value);
 
 /*
- * Param_check_color_value: a colour as red, green and blue of two hexadecimal digits each, of either case; no
- * "#" before them.
+ * Param_check_color_value: a colour: two hexadecimal digits of either case for each of red, green and blue,
+ * without a leading "#".
  *
- * 0; OSTREL_OUT_OF_RANGE: not 6 bytes, with
+ * Returns 0; OSTREL_OUT_OF_RANGE: not 6 bytes, with
  *   "Error in %s: The length of color :%s shoud not be equal to %d\n" (the value, 6), which means "must be";
  * OSTREL_WRONG_FORM: another character, with
  *   "Error in %s: color :%s contain invalid char %c\n" (the value, the first such byte as it is).
@@ -56,12 +56,11 @@ OSTREL_API int Param_check_color_value(const char* value);
 /*
  * Param_check_bool_value: "0" or "1".
  *
- * 0; OSTREL_OUT_OF_RANGE, with "Error in %s: bool value :%s out of range\n" (the value).
+ * Returns 0; OSTREL_OUT_OF_RANGE, with "Error in %s: bool value :%s out of range\n" (the value).
  */
 OSTREL_API int Param_check_bool_value(const char* value);
 
-/* Param_check_datetime_value: accepts everything, NULL included, and does not look at it. Always 0. Silent.
- */
+/* Param_check_datetime_value: always returns 0, also for NULL; the value is not examined. Silent. */
 OSTREL_API int Param_check_datetime_value(const char* value);
 
 #endif

@@ -1,7 +1,8 @@
 /*
  * The character-class table: a class mask for each byte, by ISO 8859-1 (Latin-1).
  *
- * Unlike <ctype.h> it knows no locale, has no slot for EOF, and is indexed by the byte as an unsigned char.
+ * Unlike <ctype.h> it does not depend on the locale, has no slot for EOF, and is indexed by the byte as an
+ * unsigned char.
  */
 #ifndef OSTREL_CHARACTER_CLASS_H
 #define OSTREL_CHARACTER_CLASS_H

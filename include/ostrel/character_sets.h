@@ -1,8 +1,8 @@
 /*
- * Character sets: the texts of allowed characters that ValidateString and the checks judge a value against.
+ * Character sets: strings of the characters that ValidateString and the checks allow.
  *
- * Only membership counts; order and repeats have no effect. The texts are byte strings: the Latin-1 set holds
- * single bytes of ISO 8859-1, not UTF-8.
+ * Only membership counts; order and repetition have no effect. The strings consist of bytes: the Latin-1 set
+ * contains single bytes of ISO 8859-1, not UTF-8.
  */
 #ifndef OSTREL_CHARACTER_SETS_H
 #define OSTREL_CHARACTER_SETS_H
@@ -13,7 +13,7 @@
 /* CHARSET_ALNUM: the 62 digits and letters. */
 #define CHARSET_ALNUM "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
 
-/* CHARSET_PPP_DIGITS: the local part of an ISP account name; "#" parts its fields. */
+/* CHARSET_PPP_DIGITS: the local part of an ISP account name; "#" separates its fields. */
 #define CHARSET_PPP_DIGITS "0123456789#"
 
 /* CHARSET_HEX: the 22 hexadecimal digits of either case. */
@@ -59,7 +59,7 @@
     " \"|/\\+'@!%#$&()*,.:;<=>?[]^_`" \
     "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz{}~-"
 
-/* CHARSET_DEVICE_NAME: every printable ASCII character; "@", "!" and "%" stand twice, 98 bytes. */
+/* CHARSET_DEVICE_NAME: every printable ASCII character; "@", "!" and "%" occur twice, 98 bytes. */
 #define CHARSET_DEVICE_NAME           \
     " \"|/\\+'@!%#$&()*,.:;<=>?[]^_`" \
     "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz@!%{}~-"
@@ -67,7 +67,7 @@
 /* CHARSET_ROUTER_NAME: letters, digits and the marks ! ( ) * - / ; ? and _. */
 #define CHARSET_ROUTER_NAME "!()*-/0123456789;?ABCDEFGHIJKLMNOPQRSTUVWXYZ_abcdefghijklmnopqrstuvwxyz"
 
-/* CHARSET_CIS_NAME: a device name on the LAN: blank, digits, letters and "-". */
+/* CHARSET_CIS_NAME: a device name on the LAN: space, digits, letters and "-". */
 #define CHARSET_CIS_NAME " 0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-abcdefghijklmnopqrstuvwxyz"
 
 /* CHARSET_IDENT_LETTERS: what a device name may begin with. */

@@ -1,7 +1,7 @@
 /*
  * Dates, times and time-zone offsets, in the compact and the extended notation of ISO 8601.
  *
- * All answer 0 or OSTREL_INVALID and print nothing. value is a NUL-terminated byte string of any length and
+ * All return 0 or OSTREL_INVALID and print nothing. value is a NUL-terminated byte string of any length and
  * must not be NULL; the empty value is invalid.
  *
  * The letters stand for decimal digits, every other character for itself; "T" is a capital:
@@ -16,9 +16,9 @@
  * Year 1970 to 9999, month 1 to 12, day as for ValidateDay, hour 0 to 24, minute and second 0 to 59; hours
  * and minutes of the offset of a date-time 0 to 59 each.
  *
- * It departs from ISO 8601: the time is extended in every form; hour 24 may have minutes and seconds; day 0
- * is valid; the offset of a date-time may have any hours up to 59; "-00:00" is valid; "Z", fractions of a
- * second and the second 60 are not.
+ * Differences from ISO 8601: the time is in extended notation in every form; hour 24 may have minutes and
+ * seconds; day 0 is valid; the offset of a date-time may have any hours up to 59; "-00:00" is valid; "Z",
+ * fractions of a second and the second 60 are not.
  */
 #ifndef OSTREL_DATE_TIME_H
 #define OSTREL_DATE_TIME_H
@@ -26,10 +26,10 @@
 #include <ostrel/api.h>
 
 /*
- * ValidateDay: a day of a month of a year of the Gregorian calendar, which is taken to hold for every year,
- * negative ones included.
+ * ValidateDay: a day of a month of a year of the Gregorian calendar, which is applied to every year,
+ * including negative ones.
  *
- * month: 1 to 12; any other is refused. A negative number passed here is a huge one.
+ * month: 1 to 12; any other is refused. A negative number becomes a huge one.
  * day:   at most the month's length. There is no lower bound: 0 and negative days are valid.
  */
 OSTREL_API int ValidateDay(int year, unsigned month, int day);

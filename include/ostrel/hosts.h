@@ -1,9 +1,9 @@
 /*
- * Host names, the URLs of the management service, e-mail addresses, VoIP servers.
+ * Host names, URLs of the management service, e-mail addresses and VoIP servers.
  *
  * value is a NUL-terminated byte string of any length and must not be NULL; it is not changed. Nothing is
- * printed. Where OSTREL_TOO_SHORT, OSTREL_TOO_LONG and OSTREL_FORBIDDEN_CHARACTER are answers, they are
- * tested in this order and before the form. The sets are those of character_sets.h.
+ * printed. Functions that return OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER test for
+ * them in this order, before the form. The sets are defined in character_sets.h.
  */
 #ifndef OSTREL_HOSTS_H
 #define OSTREL_HOSTS_H
@@ -11,22 +11,22 @@
 #include <ostrel/api.h>
 
 /*
- * TcmValidateDomainName: a host name in the style of RFC 952 and RFC 1123: 1 to 6 labels between dots, each
- * of 1 to 20 characters of CHARSET_HOST (letters, digits, "-").
+ * TcmValidateDomainName: a host name in the style of RFC 952 and RFC 1123: 1 to 6 labels separated by dots,
+ * each of 1 to 20 characters of CHARSET_HOST (letters, digits, "-").
  *
- * Narrower than RFC 1123, whose labels have up to 63 characters and whose number is not limited; wider in
+ * Narrower than RFC 1123, which allows labels of up to 63 characters and any number of labels; wider in
  * that a label may begin or end with "-". A single label such as "localhost" is valid; a final dot is not. A
- * value of digits and dots only is no name but a number. The empty value is refused.
+ * value of only digits and dots is not a name but a number. The empty value is refused.
  *
- * 0; OSTREL_INVALID.
+ * Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int TcmValidateDomainName(const char* value);
 
 /*
  * ValidateURL: a bare host, despite its name: a domain name (TcmValidateDomainName) or an IPv4 address
- * (TcmValidateIPAddress). Neither a scheme nor a port nor a path; the empty value is refused.
+ * (TcmValidateIPAddress). A scheme, a port or a path is refused, and so is the empty value.
  *
- * 0; OSTREL_INVALID.
+ * Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int ValidateURL(const char* value);
 
@@ -35,16 +35,15 @@ OSTREL_API int ValidateURL(const char* value);
  *
  *   "x-dslf_cwmp://" or "x-dslf_cwmps://" (case-sensitive), host, [":" port], ["/" path]
  *
- * host: as for ValidateURL. port: digits only, 0 to 65535 as atoi reads them; it may be empty, which is 0,
- * and what atoi makes of a number that does not fit is the C library's affair. path: not examined any
- * further.
+ * host: as for ValidateURL. port: digits only, 0 to 65535 as atoi reads them; an empty port is 0, and
+ * how atoi reads a number that does not fit in an int is left to the C library. path: not examined further.
  *
- * Narrower than RFC 3986: none of "@", "%", "=", "&", "#" and "~" is allowed anywhere, there is no user
- * information and no IPv6 address, and the first ":" behind the scheme parts host and port wherever it
- * stands, so that a URL without a port that has a ":" in its path is refused. A "?" directly behind the host
- * belongs to the host, which it makes invalid.
+ * Narrower than RFC 3986: none of "@", "%", "=", "&", "#" and "~" is allowed anywhere, user
+ * information and IPv6 addresses are not supported, and the first ":" after the scheme separates host and
+ * port wherever it is, so that a URL without a port is refused if its path contains a ":". A "?" directly
+ * after the host is taken as part of the host, which makes it invalid.
  *
- * 0; OSTREL_INVALID.
+ * Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int TcmValidateServerURL(const char* value);
 
@@ -52,17 +51,18 @@ OSTREL_API int TcmValidateServerURL(const char* value);
  * TcmValidatefirmwareURL: the URL of a firmware image: TcmValidateServerURL with the schemes "http://" and
  * "https://".
  *
- * 0; OSTREL_WRONG_FORM, for every fault.
+ * Returns 0; OSTREL_WRONG_FORM, for every fault.
  */
 OSTREL_API int TcmValidatefirmwareURL(const char* value);
 
 /*
- * isEmail: 5 or more bytes with a character before the first "@", and the last "." at least two places behind
- * that "@" and not at the end.
+ * isEmail: 5 or more bytes with at least one character before the first "@", at least one between it and the
+ * last ".", and at least one after that.
  *
- * Only the outline of an address of RFC 5321 and RFC 5322: no character is refused, a second "@" neither.
+ * This is only the outline of an address of RFC 5321 and RFC 5322: no character is refused, not even a second
+ * "@".
  *
- * 0; OSTREL_INVALID. Mind that 0, which C takes for false, is the answer for an address.
+ * Returns 0; OSTREL_INVALID. Note that an address returns 0, which is false in C.
  */
 OSTREL_API int isEmail(const char* value);
 
@@ -71,16 +71,16 @@ OSTREL_API int isEmail(const char* value);
  *
  * The set has far fewer characters than RFC 5321 allows in a local part: neither "_" nor "+", for example.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER; OSTREL_WRONG_FORM.
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER; OSTREL_WRONG_FORM.
  */
 OSTREL_API int TcmValidateEmailAddress(const char* value);
 
 /*
  * TcmValidateVoIPRegistrar: the SIP registrar, 3 to 64 characters of CHARSET_NAME that ValidateURL accepts.
  *
- * "_" is in the set but in no host: it is refused for the form.
+ * "_" is in the set but not allowed in a host: it is refused for the form.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER; OSTREL_WRONG_FORM.
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER; OSTREL_WRONG_FORM.
  */
 OSTREL_API int TcmValidateVoIPRegistrar(const char* value);
 
@@ -88,9 +88,9 @@ OSTREL_API int TcmValidateVoIPRegistrar(const char* value);
  * TcmValidateVoIPSTUNServer: the STUN server, at most 64 characters of CHARSET_HOSTPORT: empty, or a host
  * that ValidateURL accepts.
  *
- * "_" and ":" are in the set but in no host: a value with a port is refused for the form.
+ * "_" and ":" are in the set but not allowed in a host: a value with a port is refused for the form.
  *
- * 0; OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER; OSTREL_WRONG_FORM.
+ * Returns 0; OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER; OSTREL_WRONG_FORM.
  */
 OSTREL_API int TcmValidateVoIPSTUNServer(const char* value);
 

@@ -1,9 +1,9 @@
 /*
  * Layer-3 forwarding checks: the fields of a static route.
  *
- * value is a NUL-terminated byte string of any length and must not be NULL; no check changes it. All answer 0
- * or OSTREL_INVALID_VALUE. A check that refuses a value writes the line stated to standard output, with its
- * own name for the first %s, and flushes all output streams. An accepted value prints nothing. Numbers are
+ * value is a NUL-terminated byte string of any length and must not be NULL; no check changes it. All return 0
+ * or OSTREL_INVALID_VALUE. A check that refuses a value writes the stated line to standard output, in which
+ * the first %s is its own name, and flushes all output streams. An accepted value prints nothing. Numbers are
  * read by atoi: text without a number is 0, and what follows the digits is ignored.
  */
 #ifndef OSTREL_L3FORWARDING_CHECK_H

@@ -3,13 +3,13 @@
  *
  * Values are NUL-terminated byte strings of any length; only LAN_check_add_allowedMACAddress changes one. A
  * check that refuses a value writes one line to standard output, beginning "Error in <its own name>: " and
- * ending in two line breaks, and flushes all output streams. Unless it is stated here, an accepted value
- * prints nothing.
+ * ending in two line breaks, and flushes all output streams. An accepted value prints nothing unless
+ * stated.
  *
- * Each check that has one argument asserts, save LAN_check_passthrough_MAC_address: NULL is reported through
- * the C library's assertion hook, in every build type, and ends the process: the condition is
+ * Each check with one argument, except LAN_check_passthrough_MAC_address, asserts that it is not NULL. In
+ * every build type the C library's assertion hook reports NULL and ends the process: the condition is
  * "value_p != ((void *)0)", the module "lan_check", the function the check, the line that of the source. A
- * check that has several arguments does not assert, and none of them may be NULL unless stated.
+ * check with several arguments does not assert, and none of them may be NULL unless stated.
  */
 #ifndef OSTREL_LAN_CHECK_H
 #define OSTREL_LAN_CHECK_H

@@ -2,7 +2,7 @@
  * Names: transport protocol and description of a port mapping, names of devices and of the router.
  *
  * The functions print nothing, keep nothing and do not change their arguments. No pointer may be NULL.
- * Lengths count bytes; the sets are those of character_sets.h.
+ * Lengths count bytes; the sets are defined in character_sets.h.
  */
 #ifndef OSTREL_NAMES_H
 #define OSTREL_NAMES_H
@@ -12,12 +12,12 @@
 /*
  * TcmValidatePortMappingProtocol: exactly "TCP" or "UDP", in upper case.
  *
- * 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0; OSTREL_INVALID, also for the empty value.
  */
 OSTREL_API int TcmValidatePortMappingProtocol(const char* value);
 
 /*
- * The names below answer 0, OSTREL_TOO_SHORT (empty), OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, in the
+ * The names below return 0, OSTREL_TOO_SHORT (empty), OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, in the
  * order of the tests.
  */
 
@@ -26,11 +26,11 @@ OSTREL_API int TcmValidatePortMappingDescription(const char* value);
 
 /*
  * TCM_validate_device_name: 1 to maxLength characters of CHARSET_DEVICE_NAME: 0x20 to 0x7E. With a maxLength
- * below 1 every value but the empty one is too long.
+ * below 1 every value except the empty one is too long.
  */
 OSTREL_API int TCM_validate_device_name(const char* value, int maxLength);
 
-/* TcmValidateRouterName: 1 to 22 characters of CHARSET_ROUTER_NAME, which has neither blank nor ".". */
+/* TcmValidateRouterName: 1 to 22 characters of CHARSET_ROUTER_NAME, which contains neither space nor ".". */
 OSTREL_API int TcmValidateRouterName(const char* value);
 
 #endif

@@ -3,11 +3,11 @@
  *
  * value_p is the value, a NUL-terminated byte string of any length; no check changes it. A check that prints
  * writes one line to standard output when it refuses a value, beginning "Error in <its own name>: ", and then
- * flushes all output streams. What a wrapped primitive prints is passed on as it is, not flushed.
+ * flushes all output streams. What a wrapped primitive prints is not flushed.
  *
- * "Asserts" means that a NULL value is reported through the C library's assertion hook, in every build type,
- * and ends the process: the condition is "value_p != ((void *)0)", the module "parameter_check", the function
- * the check. Where neither that nor a code for NULL is stated, value_p must not be NULL.
+ * "Asserts" means that in every build type the C library's assertion hook reports a NULL value and ends the
+ * process: the condition is "value_p != ((void *)0)", the module "parameter_check", the function the check.
+ * If neither that nor a code for NULL is stated, value_p must not be NULL.
  */
 #ifndef OSTREL_PARAMETER_CHECK_H
 #define OSTREL_PARAMETER_CHECK_H
@@ -17,11 +17,11 @@
 /*
  * Param_check_string_len: a length of min_len to max_len bytes, compared as signed numbers.
  *
- * Asserts, with the condition "((void *)0) != value_p". 0; OSTREL_TOO_SHORT (tested first), OSTREL_TOO_LONG,
- * with
+ * Asserts, with the condition "((void *)0) != value_p". Returns 0; OSTREL_TOO_SHORT (tested first),
+ * OSTREL_TOO_LONG, with
  *   "Error in %s: The length of string:%s shoud not be less than %d\n" (the value, min_len) or
  *   "Error in %s: The length of string:%s shoud not be more than %d\n" (the value, max_len).
- * PARAM_check_string_len is the silent, unsigned one.
+ * PARAM_check_string_len compares unsigned and is silent.
  */
 OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_len);
 
@@ -29,32 +29,36 @@ OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_
  * PARAM_check_port: a port number of 0 to 65535 as atoi reads it: text without a number is 0 and what follows
  * the digits is ignored, so "abc", "80abc" and the empty value are accepted.
  *
- * Asserts. 0; OSTREL_OUT_OF_RANGE, with "Error in %s: The port shoud be between 0~65535\n".
+ * Asserts. Returns 0; OSTREL_OUT_OF_RANGE, with "Error in %s: The port shoud be between 0~65535\n".
  */
 OSTREL_API int PARAM_check_port(const char* value_p);
 
-/* PARAM_check_ip_addr: an IPv4 address, see TcmValidateIPAddress. Silent. 0; OSTREL_INVALID_VALUE. */
+/*
+ * PARAM_check_ip_addr: an IPv4 address, see TcmValidateIPAddress. Silent.
+ *
+ * Returns 0; OSTREL_INVALID_VALUE.
+ */
 OSTREL_API int PARAM_check_ip_addr(const char* value_p);
 
 /*
  * PARAM_check_Ordinary_MACAddress: the MAC address of one station, see isValidOrdinaryMACAddress, which may
  * print.
  *
- * 0; OSTREL_INVALID_VALUE, also for NULL.
+ * Returns 0; OSTREL_INVALID_VALUE, also for NULL.
  */
 OSTREL_API int PARAM_check_Ordinary_MACAddress(const char* value_p);
 
 /*
  * PARAM_check_MACAddress: a MAC address, see TcmValidateMACaddress, which may print, unflushed.
  *
- * 0; OSTREL_INVALID_VALUE, also for NULL.
+ * Returns 0; OSTREL_INVALID_VALUE, also for NULL.
  */
 OSTREL_API int PARAM_check_MACAddress(const char* value_p);
 
 /*
  * PARAM_check_transport_protocol: "TCP" or "UDP" in any mixture of upper and lower case.
  *
- * 0; OSTREL_INVALID, with "Error in %s: The transport protocol:%s is error\n".
+ * Returns 0; OSTREL_INVALID, with "Error in %s: The transport protocol:%s is error\n".
  */
 OSTREL_API int PARAM_check_transport_protocol(const char* value_p);
 
@@ -68,14 +72,14 @@ OSTREL_API int PARAM_get_protocol_from_name(const char* value_p);
 /*
  * PARAM_check_hexa_string: hexadecimal digits of either case only; the empty value is valid. Silent.
  *
- * Asserts. 0; OSTREL_INVALID.
+ * Asserts. Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int PARAM_check_hexa_string(const char* value_p);
 
 /*
  * PARAM_check_printable_ascii_string: one or more bytes, each of 0x20 to 0x7E. Silent.
  *
- * 0; OSTREL_INVALID, also for the empty value and for NULL.
+ * Returns 0; OSTREL_INVALID, also for the empty value and for NULL.
  */
 OSTREL_API int PARAM_check_printable_ascii_string(const char* value_p);
 
@@ -83,17 +87,17 @@ OSTREL_API int PARAM_check_printable_ascii_string(const char* value_p);
  * PARAM_check_provisioning_code: a provisioning code, see TcmValidateProvisioningCode, which may print,
  * unflushed.
  *
- * 0; OSTREL_INVALID_VALUE.
+ * Returns 0; OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PARAM_check_provisioning_code(const char* value_p);
 
 /*
  * PARAM_check_ui2_value, PARAM_check_ui4_value: an unsigned integer of two or four bytes.
  *
- * THEY NEVER RETURN FOR A VALUE THAT BEGINS WITH A DIGIT. The empty value is accepted; any other is refused.
+ * FOR A VALUE THAT BEGINS WITH A DIGIT THEY NEVER RETURN. The empty value is accepted, any other is refused.
  *
- * Assert. 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s is invalid\n". The lines for a number out
- * of range, "Error in %s: The value %s should be between [0,65536)\n" and
+ * Assert. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s is invalid\n". The lines for a
+ * number out of range, "Error in %s: The value %s should be between [0,65536)\n" and
  * "Error in %s: The value %s should be between [0,4296967296)\n", are never printed.
  */
 OSTREL_API int PARAM_check_ui2_value(const char* value_p);
@@ -102,43 +106,43 @@ OSTREL_API int PARAM_check_ui4_value(const char* value_p);
 /*
  * PARAM_check_bool_value: exactly "0" or "1".
  *
- * Asserts. 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s out of range[0,1]\n".
+ * Asserts. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s out of range[0,1]\n".
  */
 OSTREL_API int PARAM_check_bool_value(const char* value_p);
 
 /*
  * PARAM_check_bool_value_use_str: exactly "true" or "false", in lower case.
  *
- * Asserts. 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s out of range[true, false]\n".
+ * Asserts. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s out of range[true, false]\n".
  */
 OSTREL_API int PARAM_check_bool_value_use_str(const char* value_p);
 
 /*
  * PARAM_check_number: min_len to max_len decimal digits; the limits are lengths, not values. Silent.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString.
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString.
  */
 OSTREL_API int PARAM_check_number(const char* value_p, int min_len, int max_len);
 
 /*
  * PARAM_check_num_range: decimal digits whose number is from min to max; the empty value is 0. Silent.
  *
- * 0; OSTREL_FORBIDDEN_CHARACTER, OSTREL_OUT_OF_RANGE, as ValidateNum.
+ * Returns 0; OSTREL_FORBIDDEN_CHARACTER, OSTREL_OUT_OF_RANGE, as ValidateNum.
  */
 OSTREL_API int PARAM_check_num_range(const char* value_p, int min, int max);
 
 /*
  * PARAM_check_password: min_len to max_len characters of CHARSET_ALNUM. Silent.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString.
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString.
  */
 OSTREL_API int PARAM_check_password(const char* value_p, int min_len, int max_len);
 
 /*
  * PARAM_check_string_len: a length of min_len to max_len bytes, compared as unsigned numbers: a negative
- * limit passed here is a huge one. Silent.
+ * limit becomes a huge one. Silent.
  *
- * 0; OSTREL_INVALID. Param_check_string_len is the signed one that prints.
+ * Returns 0; OSTREL_INVALID. Param_check_string_len compares signed and prints.
  */
 OSTREL_API int PARAM_check_string_len(const char* value_p, unsigned min_len, unsigned max_len);
 
@@ -146,7 +150,7 @@ OSTREL_API int PARAM_check_string_len(const char* value_p, unsigned min_len, uns
  * PARAM_check_string_prefix: the first byte is one of first_chars, which must not be NULL. The empty value is
  * accepted. Silent.
  *
- * Asserts. 0; OSTREL_INVALID.
+ * Asserts. Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int PARAM_check_string_prefix(const char* value_p, const char* first_chars);
 
@@ -154,9 +158,9 @@ OSTREL_API int PARAM_check_string_prefix(const char* value_p, const char* first_
  * PARAM_check_dl_test_bufsize: the buffer size of a download test in bytes, 1 to 1048576, decimal digits
  * only.
  *
- * 0;
+ * Returns 0, or:
  * OSTREL_OUT_OF_RANGE: NULL, empty, or a number that overflows to a negative one, silently; or a character
- *   that is no digit, with "Error in %s: The value %s is invalid\n";
+ *   that is not a digit, with "Error in %s: The value %s is invalid\n";
  * OSTREL_WRONG_FORM: the number is 0, silently;
  * OSTREL_BUFFER_SIZE_TOO_LARGE: above 1048576, with
  *   "Error in %s: The value %s should be between [1,%d)\n" (the value, 1048576).

@@ -13,22 +13,22 @@
 /*
  * PPP_check_connection_type: exactly "IP_Routed".
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wan connection type:%s\n\n" (the value).
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wan connection type:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_connection_type(const char* value);
 
 /*
- * PPP_check_user_name: a user name that TcmValidatePPPUsername accepts, of whatever account type.
+ * PPP_check_user_name: a user name that TcmValidatePPPUsername accepts, of any account type.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, OSTREL_INVALID_VALUE, as that function
- * gives them, with "Error in %s: Error ppp user name:%s\n\n" (the value).
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, OSTREL_INVALID_VALUE, as that
+ * function returns them, with "Error in %s: Error ppp user name:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_user_name(const char* value);
 
 /*
  * PPP_check_tonline_password: the password of a T-Online account: 1 to 8 bytes of CHARSET_LATIN1_PRINTABLE.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with
  *   "Error in %s: Error ppp T-Online password:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_tonline_password(const char* value);
@@ -36,53 +36,53 @@ OSTREL_API int PPP_check_tonline_password(const char* value);
 /*
  * PPP_check_non_tonline_password: the password of any other provider's account, see TcmValidatePPPPassword.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with
  *   "Error in %s: Error none T-Online ppp password:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_non_tonline_password(const char* value);
 
 /*
- * PPP_check_pppoe_service_name: anything but the empty value.
+ * PPP_check_pppoe_service_name: any value except the empty one.
  *
- * 0; OSTREL_EMPTY, with "Error in %s: Error ppp service name:%s\n\n" (the value).
+ * Returns 0; OSTREL_EMPTY, with "Error in %s: Error ppp service name:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_pppoe_service_name(const char* value);
 
 /*
  * PPP_check_connection_trigger: exactly "OnDemand" or "AlwaysOn".
  *
- * 0; OSTREL_EMPTY; OSTREL_INVALID_VALUE: any other value; both with
+ * Returns 0; OSTREL_EMPTY; OSTREL_INVALID_VALUE: any other value; both with
  *   "Error in %s: Error connection trigger:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_connection_trigger(const char* value);
 
 /*
- * PPP_check_idle_disconnect_time: anything but the empty value; it is not read as a number.
+ * PPP_check_idle_disconnect_time: any value except the empty one; it is not read as a number.
  *
- * 0; OSTREL_EMPTY, with "Error in %s: Error disconnect time:%s\n\n" (the value).
+ * Returns 0; OSTREL_EMPTY, with "Error in %s: Error disconnect time:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_idle_disconnect_time(const char* value);
 
 /*
  * PPP_check_route_protocol_rx: exactly "Off".
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error Rx route protocol:%s\n\n" (the value).
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error Rx route protocol:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_route_protocol_rx(const char* value);
 
 /*
  * PPP_check_shaping_rate: a number of -1 or more as atoi reads it; text without a number is 0, so the empty
- * value is accepted. The unit is the host's affair.
+ * value is accepted. The unit is left to the host.
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error shaping rate:%s\n\n" (the value).
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error shaping rate:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_shaping_rate(const char* value);
 
 /*
  * PPP_check_shaping_burst_size: a number of 0 or more, read in the same way; unlike the rate it cannot be -1.
- * The unit is the host's affair.
+ * The unit is left to the host.
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error shaping burst size:%s\n\n" (the value).
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error shaping burst size:%s\n\n" (the value).
  */
 OSTREL_API int PPP_check_shaping_burst_size(const char* value);
 

@@ -10,13 +10,13 @@
 #include <ostrel/api.h>
 
 /*
- * ValidateString: the length of a value and the set that its characters come from.
+ * ValidateString: the length of a value and the set of its characters.
  *
  * min_len, max_len: the accepted lengths in bytes, both inclusive, as signed numbers; the empty value
- *                   is valid with a min_len of 0 or less and a max_len of 0 or more.
+ *                   is valid if min_len is 0 or less and max_len is 0 or more.
  * charset:          the allowed bytes, see character_sets.h; "" allows none.
  *
- * 0; OSTREL_TOO_SHORT (tested first); OSTREL_TOO_LONG (before any character is looked at);
+ * Returns 0; OSTREL_TOO_SHORT (tested first); OSTREL_TOO_LONG (before any character is examined);
  * OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int ValidateString(int min_len, int max_len, const char* charset, const char* value);
@@ -26,16 +26,16 @@ OSTREL_API int ValidateString(int min_len, int max_len, const char* charset, con
  *
  * charset: the allowed bytes, as for ValidateString. The empty value passes and reads as 0.
  *
- * 0; OSTREL_FORBIDDEN_CHARACTER; OSTREL_OUT_OF_RANGE: the number that the C library's atoi reads is below min
- * or above max.
+ * Returns 0; OSTREL_FORBIDDEN_CHARACTER; OSTREL_OUT_OF_RANGE: the number that the C library's atoi reads is
+ * below min or above max.
  */
 OSTREL_API int ValidateNum(int min, int max, const char* charset, const char* value);
 
 /*
- * countChar: how many bytes of the value equal ch; 0 for the empty value.
+ * countChar: the number of bytes of the value that equal ch; 0 for the empty value.
  *
  * ch: a byte; as for strchr, only its lowest eight bits count, so that a char of either sign may be passed.
- * The terminating NUL never counts: the answer for 0 is 0.
+ * The terminating NUL is not counted: for 0 the result is 0.
  */
 OSTREL_API int countChar(const char* value, int ch);
 

@@ -1,13 +1,13 @@
 /*
- * Subnets: which addresses fit the gateway's own LAN.
+ * Subnets: which addresses belong to the gateway's own LAN.
  *
- * The subnet is judged as text, never with a mask: two addresses are in the same subnet when they agree up to
+ * The subnet is judged as text, never with a mask: two addresses are in the same subnet if they agree up to
  * and including the last "." of the one they are compared with. For addresses in dotted-decimal notation that
  * is the fixed /24 network; "192.168.1.5" and "192.168.001.5" are in different ones.
  *
  * The functions print nothing, keep nothing and do not change their arguments. No pointer may be NULL. Values
- * are NUL-terminated byte strings of any length; so are the items of a list. A blank is the character 0x20
- * alone, no tab. An address is valid as for TcmValidateIPAddress.
+ * are NUL-terminated byte strings of any length; so are the items of a list. A space is the character 0x20;
+ * a tab is not one. An address is valid as for TcmValidateIPAddress.
  */
 #ifndef OSTREL_SUBNETS_H
 #define OSTREL_SUBNETS_H
@@ -20,7 +20,7 @@
  * Neither is validated: "192.168.1." is in the subnet of "192.168.1.1", and everything, the empty text
  * included, is in the subnet of a reference without a ".".
  *
- * 0; OSTREL_INVALID: in another subnet.
+ * Returns 0; OSTREL_INVALID: in another subnet.
  */
 OSTREL_API int isInSameSubnet(const char* reference, const char* address);
 
@@ -31,28 +31,28 @@ OSTREL_API int isInSameSubnet(const char* reference, const char* address);
  * start's is not above the end's. A pool of one address is valid. lanAddress itself is not validated, but
  * without a "." it has no subnet and every pool is refused.
  *
- * 0; OSTREL_INVALID.
+ * Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int TcmValidateAddressRange(const char* startAddress, const char* endAddress,
                                        const char* lanAddress);
 
 /*
- * TcmValidateReservedAddress: a list of addresses that the DHCP server keeps for certain stations.
+ * TcmValidateReservedAddress: a list of addresses that the DHCP server reserves for certain stations.
  *
- * The items are separated by "," and may have blanks around them. Each must be in the subnet of lanAddress,
+ * The items are separated by "," and may be surrounded by spaces. Each must be in the subnet of lanAddress,
  * as isInSameSubnet judges it; none is validated as an address. An empty list is one empty item, and so is
- * what follows a "," at the end: both are in no subnet but that of a lanAddress without a ".".
+ * what follows a "," at the end: both are only in the subnet of a lanAddress without a ".".
  *
- * An item counts as repeated when its text stands anywhere in the rest of the list, be it inside a longer
- * item, and the rest, behind its leading blanks, ends or has a "," exactly as many characters from its start
- * as the item is long. So an item that is repeated directly behind itself is found, a later one only when a
- * "," happens to stand in that place, and "X,X " (a blank behind the second) is not found.
+ * An item counts as repeated if its text occurs anywhere in the rest of the list, even inside a longer item,
+ * and the rest, after its leading spaces, ends or has a "," exactly as many characters from its start as the
+ * item is long. So an item that is repeated immediately is found, a later repetition only if a "," happens to
+ * be in that place, and "X,X " (with a space after the second) is not found.
  *
- * 0; OSTREL_INVALID: an item in another subnet; OSTREL_REPEATED. The first fault from the left decides, an
- * item's subnet before its repetition.
+ * Returns 0; OSTREL_INVALID: an item in another subnet; OSTREL_REPEATED. The first fault from the left
+ * decides, an item's subnet before its repetition.
  *
- * The time grows with the length of the list; each item that has a "," in the place said adds the time to
- * search what follows it, so that a list of many such items takes time that grows with the square of its length.
+ * The time is proportional to the length of the list, but for each item that has a "," in that place the rest
+ * of the list is searched, so a list of many such items takes time proportional to the square of its length.
  */
 OSTREL_API int TcmValidateReservedAddress(const char* reservedList, const char* lanAddress);
 
@@ -60,15 +60,15 @@ OSTREL_API int TcmValidateReservedAddress(const char* reservedList, const char* 
  * TcmValidateIPRouter: an address that the gateway may have on its LAN: a valid one that begins with
  * "192.168." (RFC 1918) and whose last number is from 1 to 254.
  *
- * 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0; OSTREL_INVALID, also for the empty value.
  */
 OSTREL_API int TcmValidateIPRouter(const char* address);
 
 /*
  * TcmValidateofferDNS: the DNS servers that the DHCP server offers: one or two valid addresses separated by
- * ",", each with or without blanks around it.
+ * ",", each with or without surrounding spaces.
  *
- * 0; OSTREL_INVALID, also for the empty list and for a "," at the end.
+ * Returns 0; OSTREL_INVALID, also for the empty list and for a "," at the end.
  */
 OSTREL_API int TcmValidateofferDNS(const char* dnsList);
 

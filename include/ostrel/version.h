@@ -1,6 +1,6 @@
 /*
- * The version of the headers that a program is compiled with. The library exports no version: what is installed
- * is asked for with pkg-config, CMake or the package manager, see docs/compatibility.md.
+ * The version of the headers that a program is compiled with. The library exports no version: ask
+ * pkg-config, CMake or the package manager which one is installed, see docs/compatibility.md.
  */
 #ifndef OSTREL_VERSION_H
 #define OSTREL_VERSION_H
@@ -11,7 +11,7 @@
 #define OSTREL_CHECK_VERSION_PATCH 0
 
 /*
- * OSTREL_CHECK_VERSION_AT_LEAST: for #if, whether the headers are of that version or a later one.
+ * OSTREL_CHECK_VERSION_AT_LEAST: true in #if for headers of that version or a later one.
  */
 #define OSTREL_CHECK_VERSION_AT_LEAST(major, minor, patch)                              \
     (OSTREL_CHECK_VERSION_MAJOR > (major) ||                                            \

@@ -12,7 +12,7 @@
 /*
  * TcmValueisValid: every byte of the value is one of allowed, which may be empty but not NULL.
  *
- * 0, also for the empty value; OSTREL_FORBIDDEN_CHARACTER.
+ * Returns 0, also for the empty value; OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int TcmValueisValid(const char* value, const char* allowed);
 
@@ -20,7 +20,8 @@ OSTREL_API int TcmValueisValid(const char* value, const char* allowed);
  * TcmValidatePSK: a WPA pre-shared key in its raw form (IEEE 802.11, the 256-bit PSK): 64 characters of
  * CHARSET_HEX.
  *
- * 0; OSTREL_WRONG_FORM: another length, tested first, the empty value included; OSTREL_FORBIDDEN_CHARACTER.
+ * Returns 0; OSTREL_WRONG_FORM: another length, tested first, the empty value included;
+ * OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int TcmValidatePSK(const char* value);
 
@@ -28,7 +29,7 @@ OSTREL_API int TcmValidatePSK(const char* value);
  * TcmValidateKPP: a WPA pass phrase (IEEE 802.11, annex on the pass-phrase mapping): 8 to 63 characters of
  * CHARSET_ASCII_PRINTABLE.
  *
- * 0; OSTREL_TOO_SHORT, also for the empty value; OSTREL_TOO_LONG, before any character is looked at;
+ * Returns 0; OSTREL_TOO_SHORT, also for the empty value; OSTREL_TOO_LONG, before any character is examined;
  * OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int TcmValidateKPP(const char* value);
@@ -37,14 +38,14 @@ OSTREL_API int TcmValidateKPP(const char* value);
  * TcmValidateRate: "Auto" or one of the twelve IEEE 802.11b/g rates in Mbit/s: "1", "2", "5.5", "6", "9",
  * "11", "12", "18", "24", "36", "48", "54".
  *
- * 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0; OSTREL_INVALID, also for the empty value.
  */
 OSTREL_API int TcmValidateRate(const char* value);
 
 /*
  * TcmValidateBeaconType: "None", "Basic", "WPA", "11i" or "WPAand11i".
  *
- * 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0; OSTREL_INVALID, also for the empty value.
  */
 OSTREL_API int TcmValidateBeaconType(const char* value);
 
@@ -52,11 +53,11 @@ OSTREL_API int TcmValidateBeaconType(const char* value);
  * TcmValidateSSID: an SSID of 1 to 32 bytes (IEEE 802.11, SSID element), each of 0x20 to 0x7E. Spaces are
  * allowed anywhere; every byte from 0x80 up is refused.
  *
- * Every call, whatever it answers, prints "Info in %s: The lenght of SSID is %d\n\n" (TcmValidateSSID, the
+ * Every call, whatever it returns, prints "Info in %s: The lenght of SSID is %d\n\n" (TcmValidateSSID, the
  * length in bytes) to standard output and flushes all output streams.
  *
- * 0; OSTREL_TOO_LONG, before any byte is looked at; OSTREL_FORBIDDEN_CHARACTER; OSTREL_TOO_SHORT: the empty
- * value.
+ * Returns 0; OSTREL_TOO_LONG, before any byte is examined; OSTREL_FORBIDDEN_CHARACTER; OSTREL_TOO_SHORT: the
+ * empty value.
  */
 OSTREL_API int TcmValidateSSID(const char* value);
 
@@ -64,10 +65,10 @@ OSTREL_API int TcmValidateSSID(const char* value);
  * TcmValidateDataTransmitRates: "all", "default", or one or more of the twelve rates separated by single
  * commas.
  *
- * Order is free and a rate may be repeated. Blanks and empty items are refused, and so is "Auto", which is no
- * rate here. A list may be of any length.
+ * Order is free and a rate may be repeated. Spaces and empty items are refused, and so is "Auto". A list may
+ * be of any length.
  *
- * 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0; OSTREL_INVALID, also for the empty value.
  */
 OSTREL_API int TcmValidateDataTransmitRates(const char* value);
 

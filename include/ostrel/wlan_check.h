@@ -2,22 +2,22 @@
  * Wireless LAN checks: security modes, keys, radio and the other settings.
  *
  * Values are NUL-terminated byte strings of any length and must not be NULL; only WLAN_check_wepkeys tests
- * for it. Keywords are compared byte by byte and case counts, save in the name of a radio. An empty value is
- * no keyword.
+ * for it. Keywords are compared byte by byte and case counts, except in the name of a radio. An empty value
+ * is not a keyword.
  *
- * A check that prints writes to standard output when it refuses a value, save as said, and then flushes all
- * output streams; the texts are whole, and the first %s is the check's own name. WLAN_check_keys writes to
- * standard error, and so may the shell that WLAN_check_channel runs.
+ * A check that prints writes to standard output when it refuses a value, except as stated, and then flushes
+ * all output streams; the texts are complete, and the first %s is the check's own name. WLAN_check_keys
+ * writes to standard error, and so may the shell that WLAN_check_channel runs.
  *
- * No check changes its arguments but WLAN_check_ssid and WLAN_check_wepkeys.
+ * Only WLAN_check_ssid and WLAN_check_wepkeys change their arguments.
  *
  * The host process may supply two utilities, exported from the program or a library that it has loaded:
  *
  *     int cmsUtl_strcmp(const char* a, const char* b);     0 for equal texts; any other number otherwise
  *     int htmlToText(char* text, size_t length);           rewrites the character references of the text in
  *                                                          place; text[length] is the terminator, and a
- *                                                          shorter result must be terminated; the answer is
- *                                                          not looked at
+ *                                                          shorter result must be terminated; the result is
+ *                                                          ignored
  *
  * They are weak imports: without them the library compares byte by byte and converts the references itself
  * (see WLAN_check_ssid).

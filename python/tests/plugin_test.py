@@ -60,7 +60,7 @@ TOLD = [
     "E         it was refused with 601, out of range: is 65536; at most 65535 is allowed\n"
     "E         it printed 'Error in PARAM_check_port: The port shoud be between 0~65535\\n'\n",
     "E       AssertionError: PARAM_check_port(None) should have been accepted\n"
-    "E         it was ended: an assertion ended the process (SIGABRT): is NULL, which fails an assertion of the check\n"
+    "E         it was ended: an assertion ended the process (SIGABRT): is NULL, which fails an assertion in the check\n"
     "E         it wrote \"ostrel-check: parameter_check:",
     "E       AssertionError: PARAM_check_port('80') should have been refused\n"
     "E         it was accepted\n",

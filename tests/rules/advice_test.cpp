@@ -84,7 +84,7 @@ TEST(AdviceTest, AFalseLimitIsNoticed)
               fault_of(all_of({above(7), above(5)}), "9"));
     EXPECT_EQ("does not come back with one step less: is 0; at least 5 is needed",
               fault_of(all_of({below(3), below(5)}), "0"));
-    EXPECT_EQ("does not come back with one step less: is 9; 5 to 7 are allowed",
+    EXPECT_EQ("does not come back with one step less: is 9; the allowed range is 5 to 7",
               fault_of(all_of({above(8), not_(between(it, 5, 7))}), "9"));
 }
 

@@ -14,7 +14,7 @@ TEST(HostsTest, Names)
     EXPECT_EQ("accepted", said("a.b.c.d.e.abcdefghij0123456789"));
     EXPECT_EQ("is empty", said(""));
     EXPECT_EQ("byte 3 is \"_\"; letters, digits and - . are allowed", said("my_host"));
-    EXPECT_EQ("is made of digits and dots alone; a letter or \"-\" is needed", said("192.168.1.1"));
+    EXPECT_EQ("contains only digits and dots; a letter or \"-\" is needed", said("192.168.1.1"));
     EXPECT_EQ("has 7 labels; at most 6 are allowed", said("a.b.c.d.e.f.g"));
     EXPECT_EQ("label 2 is empty", said("a..b"));
     EXPECT_EQ("label 3 is empty", said("a.lan."));
@@ -60,7 +60,7 @@ TEST(HostsTest, Urls)
     EXPECT_EQ("in the port, byte 11 is \"x\"; digits are allowed", said("http://a:8x"));
     EXPECT_EQ("the port is 65536; at most 65535 is allowed", said("http://a:65536/"));
     EXPECT_EQ(
-        "the port has the number 4294967295, which an int does not hold; this gateway reads it as -1; at "
+        "the port has the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
         "least 0 is needed",
         said("http://a:4294967295/"));
 }
@@ -80,12 +80,13 @@ TEST(HostsTest, MailAddresses)
     EXPECT_EQ("accepted", said("a@@.b"));
     EXPECT_EQ("accepted", said("a@.b.c"));
     EXPECT_EQ("has 4 bytes; at least 5 are needed", said("a@b."));
-    EXPECT_EQ("has no \"@\"", said("abc.d"));
+    EXPECT_EQ("does not contain \"@\"", said("abc.d"));
     EXPECT_EQ("the part before the \"@\" is empty", said("@a@b.c"));
-    EXPECT_EQ("the part after the first \"@\" has no \".\"", said("a.b@c"));
+    EXPECT_EQ("the part after the first \"@\" does not contain \".\"", said("a.b@c"));
     EXPECT_EQ("the part between the first \"@\" and the last \".\" is empty", said("ab@.c"));
     EXPECT_EQ("the part after the last \".\" is empty", said("a@b.c."));
-    EXPECT_EQ("the part after the first \"@\" has no \".\"", told("TcmValidateEmailAddress", {"a.b@c"}));
+    EXPECT_EQ("the part after the first \"@\" does not contain \".\"",
+              told("TcmValidateEmailAddress", {"a.b@c"}));
 }
 
 // What is said to be allowed is what a host may have, though the set that is tested first has "_" and ":" too.
@@ -102,7 +103,7 @@ TEST(HostsTest, OfTelephony)
     const char* const server = "TcmValidateVoIPSTUNServer";
     EXPECT_EQ("accepted", told(server, {""}));
     EXPECT_EQ("byte 6 is \":\"; letters, digits and - . are allowed", told(server, {"a.lan:3478"}));
-    EXPECT_EQ("byte 1 is a blank; letters, digits and - . are allowed", told(server, {" "}));
+    EXPECT_EQ("byte 1 is a space; letters, digits and - . are allowed", told(server, {" "}));
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ TEST(PartsTest, AreTheSubject)
     EXPECT_EQ("the port is read as 7; at most 6 is allowed", said(above(port, 6)));
     EXPECT_EQ("the port has 2 bytes; at most 1 is allowed", said(longer_than(port, 1)));
     EXPECT_EQ("in the port, byte 4 is \"x\"; digits are allowed", said(outside(port, kDigits)));
-    EXPECT_EQ("the port has no \"y\"", said(not_(contains(port, literal("y")))));
+    EXPECT_EQ("the port does not contain \"y\"", said(not_(contains(port, literal("y")))));
     EXPECT_EQ("is read as 7; at most 6 is allowed", said(above(after_first(it, ":"), 6)));
 }
 
@@ -122,10 +122,10 @@ TEST(ShapesTest, MayEndWhereTheyAreAtFault)
     EXPECT_EQ("should end before byte 3", said({brief}, "12Z"));
     EXPECT_EQ("byte 2 is \"Z\"; digits are expected there", said({brief, signed_so}, "1Z"));
     EXPECT_EQ("byte 3 is \"Z\"; digits or the end is expected there", said({{some(kDigits, 1, 3)}}, "12Z"));
-    EXPECT_EQ("ends where digits are expected as byte 2", said({brief, signed_so}, "1"));
+    EXPECT_EQ("ends before byte 2, where digits are expected", said({brief, signed_so}, "1"));
     const Shape marked = {some(kDigits, 1, 2), some(kUpper, 2)};
-    EXPECT_EQ("ends where upper-case letters and digits are expected as byte 2", said({marked}, "1"));
-    EXPECT_EQ("ends where upper-case letters are expected as byte 3", said({marked}, "1A"));
+    EXPECT_EQ("ends before byte 2, where upper-case letters and digits are expected", said({marked}, "1"));
+    EXPECT_EQ("ends before byte 3, where upper-case letters are expected", said({marked}, "1A"));
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ TEST(KeywordTest, NamesAll)
     EXPECT_EQ("value is none of en-us, fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th",
               said("HNAPCORE_check_locale", {"de"}));
     EXPECT_EQ("value_p is not Static", said("LAN_check_interface_addr_type", {"static"}));
-    EXPECT_EQ("value_p is \"Normal\"; none of Normal, UseAllocatedSubnet, Passthrough is allowed",
+    EXPECT_EQ("value_p is \"Normal\"; Normal, UseAllocatedSubnet, Passthrough are not allowed",
               said("LAN_check_use_allocated_wan", {"Normal"}));
 }
 
@@ -65,11 +65,13 @@ TEST(NumberTest, TextIsReadAsANumber)
     EXPECT_EQ("value is read as 0; at least 1 is needed", said("L3FORWARDING_check_MTU", {"abc"}));
     EXPECT_EQ("value is read as 1541; at most 1540 is allowed", said("L3FORWARDING_check_MTU", {" 1541x"}));
     EXPECT_EQ(
-        "value has the number 4294967295, which an int does not hold; this gateway reads it as -1; at least "
+        "value has the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
+        "least "
         "1 is needed",
         said("L3FORWARDING_check_MTU", {"4294967295 bytes"}));
     EXPECT_EQ(
-        "value has the number 4294967295, which an int does not hold; this gateway reads it as -1; at least "
+        "value has the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
+        "least "
         "1 is needed",
         said("L3FORWARDING_check_MTU", {" 4294967295 bytes"}));
     EXPECT_EQ(1541, answer_of("L3FORWARDING_check_MTU", {"1541 bytes"}).reason.read_as);
@@ -97,7 +99,7 @@ TEST(NumberTest, ReasonIsOfTheStepThatDecided)
 
 TEST(NumberTest, ReservedPorts)
 {
-    EXPECT_EQ("port is 443; none of 80, 161, 443, 1723, 1728, 6667, 7547 is allowed",
+    EXPECT_EQ("port is 443; 80, 161, 443, 1723, 1728, 6667, 7547 are not allowed",
               said("PORTMAPPING_check_port_available", {"443", 0LL}));
     EXPECT_EQ("port is 54000; 54000 to 54999 are not allowed",
               said("PORTMAPPING_check_port_available", {"54000", 1LL}));
@@ -123,7 +125,7 @@ TEST(NameTest, FirstByteIsALetter)
 {
     EXPECT_EQ("value_p byte 1 is \"1\"; letters are allowed", said("LAN_check_cis_dev_name", {"1Router"}));
     EXPECT_EQ("value_p byte 1 is \"_\"; letters are allowed", said("LAN_check_cis_dev_name", {"_Router"}));
-    EXPECT_EQ("value_p byte 7 is \"_\"; letters, digits, blanks and - are allowed",
+    EXPECT_EQ("value_p byte 7 is \"_\"; letters, digits, spaces and - are allowed",
               said("LAN_check_cis_dev_name", {"Router_1"}));
 }
 
@@ -134,7 +136,7 @@ TEST(ListTest, AddedAddresses)
         return said("LAN_check_add_allowedMACAddress", {address, std::move(list)});
     };
     EXPECT_EQ("macAddress is empty", told_of("", "l"));
-    EXPECT_EQ("macAddress is \"l\", which occurs in the list already", told_of("l", "l"));
+    EXPECT_EQ("macAddress is \"l\", which is already in the list", told_of("l", "l"));
     EXPECT_EQ("macAddress has 1 byte; one of 17, 35, 53, 71, 89, 107, 125, 143 is needed", told_of("a", "l"));
     EXPECT_EQ("macAddress has 160 bytes together with the list; at most 159 are allowed",
               told_of("00:11:22:33:44:55", longest));
@@ -145,10 +147,10 @@ TEST(ListTest, AddedAndDeletedServers)
     const auto added = [](const char* servers, const char* list) {
         return said("LAN_check_add_dns_servers", {servers, list});
     };
-    EXPECT_EQ("newServers the second server is \"1.1.1.1\", which occurs in the list already",
+    EXPECT_EQ("newServers the second server is \"1.1.1.1\", which is already in the list",
               added("8.8.8.8,1.1.1.1", "1.1.1.1,9.9.9.9"));
-    EXPECT_EQ("newServers is \"8.8.8.8\", which occurs in the list already", added("8.8.8.8", "8.8.8.8"));
-    EXPECT_EQ("newServers the second server is empty, and so is one in the list",
+    EXPECT_EQ("newServers is \"8.8.8.8\", which is already in the list", added("8.8.8.8", "8.8.8.8"));
+    EXPECT_EQ("newServers the second server is empty, and the list already has an empty entry",
               added("8.8.8.8,", "1.1.1.1,"));
     const auto deleted = [](const char* server, const char* list) {
         return said("LAN_check_delete_dns_server", {server, list});
@@ -165,7 +167,7 @@ TEST(AddressTest, Pools)
         return said("LAN_check_dhcp_addr_range", {start, end, "192.168.1.1"});
     };
     EXPECT_EQ("startAddress the last octet is 0; at least 1 is needed", pool("192.168.1.0", "192.168.1.9"));
-    EXPECT_EQ("endAddress the last octet is 8; at least 9, the last octet of the start, is needed",
+    EXPECT_EQ("endAddress the last octet is 8; at least 9, the last octet of the start address, is needed",
               pool("192.168.1.9", "192.168.1.8"));
     EXPECT_EQ("endAddress the last octet is 256; at most 254 is allowed",
               pool("192.168.1.9", "192.168.1.256"));
@@ -173,7 +175,7 @@ TEST(AddressTest, Pools)
 
 TEST(AddressTest, OtherSubnets)
 {
-    EXPECT_EQ("endAddress does not begin with \"192.168.1.\", the subnet",
+    EXPECT_EQ("endAddress does not begin with \"192.168.1.\", the prefix of the subnet",
               said("LAN_check_dhcp_addr_range", {"192.168.1.100", "192.168.2.200", "192.168.1.1"}));
     EXPECT_EQ("value begins with 0.0, which is not allowed",
               said("L3FORWARDING_check_IP_address_and_mask", {"0.0.0.0"}));

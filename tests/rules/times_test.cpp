@@ -15,8 +15,8 @@ TEST(DateTimeTest, Forms)
     };
     EXPECT_EQ("accepted", said("02-29T24:59:59"));
     EXPECT_EQ("accepted", said("2000-02-00T24:00:00-59:59"));
-    EXPECT_EQ("ends where digits are expected as byte 1", said(""));
-    EXPECT_EQ("ends where \"T\" is expected as byte 11", said("2010-01-01"));
+    EXPECT_EQ("ends before byte 1, where digits are expected", said(""));
+    EXPECT_EQ("ends before byte 11, where \"T\" is expected", said("2010-01-01"));
     EXPECT_EQ("byte 11 is \"t\"; \"T\" is expected there", said("2010-01-01t00:00:00"));
     EXPECT_EQ("byte 20 is \"Z\"; + - or the end is expected there", said("2010-01-01T00:00:00Z"));
     EXPECT_EQ("should end before byte 14", said("0329T02:00:00+01:00"));
@@ -47,7 +47,7 @@ TEST(TimeZoneTest, OffsetsAndNames)
     };
     EXPECT_EQ("accepted", told(answered("-04:00", "La Paz")));
     EXPECT_EQ(
-        "is not part of any name that goes with the offset: \"Atlantic Time\", \"Caracas, La Paz\", "
+        "is not part of any name for this offset: \"Atlantic Time\", \"Caracas, La Paz\", "
         "Santiago",
         told(answered("-04:00", "Lima")));
     EXPECT_EQ("tzone_name", answered("-04:00", "Lima").reason.name);

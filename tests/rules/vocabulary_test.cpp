@@ -62,7 +62,7 @@ TEST(SetTest, InWords)
     EXPECT_EQ("letters, digits and - . _", in_words(kNameSet));
     EXPECT_EQ("hexadecimal digits", in_words(kHex));
     EXPECT_EQ("printable Latin-1 characters", in_words(kLatin1));
-    EXPECT_EQ("letters, digits, blanks and -", in_words(kDeviceName));
+    EXPECT_EQ("letters, digits, spaces and -", in_words(kDeviceName));
     EXPECT_EQ("0 to 4", in_words(Set("01234")));
     EXPECT_EQ("\":\"", in_words(Set(":")));
     EXPECT_EQ("a b", in_words(Set("ab")));
@@ -83,16 +83,15 @@ TEST(SentencesTest, AreWhatAUserReads)
     EXPECT_EQ("is none of None, Basic, WPA, 11i, WPAand11i", told("TcmValidateBeaconType", {"wpa"}));
     EXPECT_EQ("is 0; at least 1 is needed", told("TcmValidatePort", {"0"}));
     EXPECT_EQ(
-        "has the number 99999999999999999999, which an int does not hold; this gateway reads it as -1; "
+        "has the number 99999999999999999999, which does not fit in an int; this gateway reads it as -1; "
         "at least 1 is needed",
         told("TcmValidatePort", {"99999999999999999999"}));
     EXPECT_EQ("byte 15 is \"-\"; \":\" is expected there",
               told("TcmValidateMACaddress", {"00:11:22:33:44-55"}));
-    EXPECT_EQ(
-        "byte 2 is \"1\", which makes it the address of a group; 0 2 4 6 8 A C E a c e are allowed there",
-        told("isValidOrdinaryMACAddress", {"01:11:22:33:44:55"}));
+    EXPECT_EQ("byte 2 is \"1\", which makes this a group address; 0 2 4 6 8 A C E a c e are allowed there",
+              told("isValidOrdinaryMACAddress", {"01:11:22:33:44:55"}));
     EXPECT_EQ("octet 4 is 300; at most 255 is allowed", told("TcmValidateofferDNS", {"1.1.1.1, 1.1.1.300"}));
-    EXPECT_EQ("the part before the last \"@\" ends where digits are expected as byte 28",
+    EXPECT_EQ("the part before the last \"@\" ends before byte 28, where digits are expected",
               told("TcmValidatePPPUsername", {std::string(27, '1') + "@example.net", 0LL}));
 }
 

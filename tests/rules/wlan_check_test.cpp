@@ -36,7 +36,7 @@ TEST(WlanReasonTest, NamesTheChannelOfThePair)
     EXPECT_EQ("primary is 1; only 0, 36, 40, 44, 48, 149, 153, 157, 161 are allowed",
               said("WLAN_check_5g_second_channel", {"1", "3"}));
     EXPECT_EQ(
-        "second has the number 4294967295, which an int does not hold; this gateway reads it as -1; only 3 "
+        "second has the number 4294967295, which does not fit in an int; this gateway reads it as -1; only 3 "
         "is allowed",
         said("WLAN_check_second_channel", {"1", "4294967295"}));
 }
@@ -74,15 +74,15 @@ TEST(WlanReasonTest, OfKeys)
 
 TEST(WlanReasonTest, OfNumbers)
 {
-    EXPECT_EQ("value is 4; 0 to 3 are allowed", said("WLAN_check_default_wep_key_index", {"4"}));
-    EXPECT_EQ("value is -1; 0 to 3 are allowed", said("WLAN_check_default_wep_key_index", {"-1"}));
+    EXPECT_EQ("value is 4; the allowed range is 0 to 3", said("WLAN_check_default_wep_key_index", {"4"}));
+    EXPECT_EQ("value is -1; the allowed range is 0 to 3", said("WLAN_check_default_wep_key_index", {"-1"}));
     EXPECT_EQ("accepted", said("WLAN_check_default_wep_key_index", {"abc"}));
     EXPECT_EQ("value is read as 0; at most -1 is allowed", said("WLAN_check_DistanceFromRoot", {"far"}));
     const auto of_interval = [](const char* interval) {
         return said("WLAN_check_HNAP_KeyRenewal", {"true", interval, "WPA2-PSK"});
     };
-    EXPECT_EQ("interval is 599; 600 to 7200 are allowed", of_interval("599"));
-    EXPECT_EQ("interval is 7201; 600 to 7200 are allowed", of_interval("7201"));
+    EXPECT_EQ("interval is 599; the allowed range is 600 to 7200", of_interval("599"));
+    EXPECT_EQ("interval is 7201; the allowed range is 600 to 7200", of_interval("7201"));
     EXPECT_EQ("interval has 5 bytes; at most 4 are allowed", of_interval("03600"));
     EXPECT_EQ("interval byte 1 is \"-\"; digits are allowed", of_interval("-600"));
     EXPECT_EQ("interval is empty", of_interval(""));
@@ -124,7 +124,7 @@ TEST(WlanReasonTest, NamesWhatTheDriverLists)
               said("WLAN_check_channel", {"14", "RADIO_2.4GHz"}, build));
     EXPECT_EQ("accepted", said("WLAN_check_channel", {"6 x", "radio_2.4ghz"}, build));
     build.channels->clear();
-    EXPECT_EQ("channel is 7; the wireless driver lists no channel that is allowed",
+    EXPECT_EQ("channel is 7; the wireless driver lists no allowed channel",
               said("WLAN_check_channel", seven, build));
     EXPECT_EQ("accepted", said("WLAN_check_channel", {"abc", "RADIO_5GHz"}, build));
     EXPECT_EQ("channel is 52; only 0, 36, 40, 44, 48, 149, 153, 157, 161 are allowed",

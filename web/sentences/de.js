@@ -95,7 +95,7 @@ export default {
   phrases: {
     ' and ': ' und ',
     ' to ': ' bis ',
-    'a blank': 'ein Leerzeichen',
+    'a space': 'ein Leerzeichen',
     'a quotation mark': 'ein Anführungszeichen',
     'no bytes': 'nichts',
     'printable Latin-1 characters': 'druckbare Latin-1-Zeichen',
@@ -107,7 +107,7 @@ export default {
     'digits': 'Ziffern',
     'A to F': 'A bis F',
     'a to f': 'a bis f',
-    'blanks': 'Leerzeichen',
+    'spaces': 'Leerzeichen',
     'with character references replaced': 'nach Ersetzen der Zeichenverweise',
     'label': 'Teil',
     'octet': 'Zahl',

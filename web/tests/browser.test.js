@@ -171,7 +171,7 @@ test('forms', async (t) => {
       seen.push(await text());
       return seen;
     });
-    const second = 'The value is "second"; "good" is allowed.';
+    const second = 'The value is "second"; "good" is expected.';
     assert.deepEqual(shown, [second, second, '']);
   });
 

@@ -89,7 +89,7 @@ test('sentences as they are read', async () => {
     ['WLAN_check_beacon_type', ['wpa'], 'The value is none of None, Basic, WPA, 11i, WPAand11i.',
       'Der Wert muss einer von diesen sein: None, Basic, WPA, 11i, WPAand11i.'],
     ['LAN_check_interface_addr_type', ['DHCP'], 'The value is not Static.', 'Der Wert muss Static sein.'],
-    ['TcmValidateTime', ['2026-11'], 'The value ends where "-" is expected as byte 8.',
+    ['TcmValidateTime', ['2026-11'], 'The value ends before byte 8, where "-" is expected.',
       'Der Wert ist unvollständig; „-“ fehlt als Zeichen 8.'],
     ['TcmValidateDomainName', ['my_host'], 'Byte 3 is "_"; letters, digits and - . are allowed.',
       'Zeichen 3 ist „_“; Buchstaben, Ziffern und - . sind erlaubt.'],

@@ -9,20 +9,20 @@
 #include <ostrel/api.h>
 
 /*
- * GUESTACCESS_check_max_allowed_number: how many guests are allowed: 1 or 2 digits, above 0.
+ * GUESTACCESS_check_max_allowed_number: the number of guests that are allowed: 1 or 2 digits, above 0.
  *
- * 0; OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
- * "Error in %s: Error max allowed number:%s\n\n" (the value). Where the number that atoi reads is not above
+ * Returns 0; OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
+ * "Error in %s: Error max allowed number:%s\n\n" (the value). If the number that atoi reads is not above
  * 0, "Error in %s: Error min allowed number:%s\n\n" (the value) is printed too, and OSTREL_INVALID_VALUE is
- * the answer whatever the fault before: "abc" and the empty value print both lines, "0" the second alone.
+ * returned whatever the first fault was: "abc" and the empty value print both lines, "0" only the second.
  */
 OSTREL_API int GUESTACCESS_check_max_allowed_number(const char* value);
 
 /*
  * GUESTACCESS_check_password: 4 to 32 characters of CHARSET_ALNUM.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
- * "Error in %s: Error max allowed number:%s\n\n" (the value), which speaks of a number here too.
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
+ * "Error in %s: Error max allowed number:%s\n\n" (the value): the text says "number" here too.
  */
 OSTREL_API int GUESTACCESS_check_password(const char* value);
 

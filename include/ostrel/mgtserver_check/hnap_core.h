@@ -11,19 +11,19 @@
 /*
  * HNAPCORE_check_username: the administrator's name, 1 to 16 bytes of CHARSET_LATIN1_PRINTABLE.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
- * "Error in %s: Error max allowed number:%s\n\n" (the value), which speaks of a number here too.
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
+ * "Error in %s: Error max allowed number:%s\n\n" (the value): the text says "number" here too.
  */
 OSTREL_API int HNAPCORE_check_username(const char* value);
 
 /*
- * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, and anything behind it. Silent.
+ * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, with anything after it. Silent.
  *
- * offset_out: the caller's buffer; receives what follows "UTC", or "+00:00" where nothing does, with the
- *             terminator. It must have room for 7 bytes, and for what follows "UTC" with its terminator.
- *             What follows "UTC" is not examined. Left as it is on failure; must not overlap the value.
+ * offset_out: a buffer of the caller that receives what follows "UTC", or "+00:00" if nothing does, with the
+ *             terminator. It must have room for that and for at least 7 bytes. What follows "UTC" is not
+ *             examined. The buffer is unchanged on failure and must not overlap the value.
  *
- * 0; OSTREL_INVALID.
+ * Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int HNAPCORE_check_timezone(const char* value, char* offset_out);
 
@@ -31,7 +31,7 @@ OSTREL_API int HNAPCORE_check_timezone(const char* value, char* offset_out);
  * HNAPCORE_check_locale: a locale of the user interface, in any mixture of upper and lower case: en-us,
  * fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th (tags of RFC 5646). Silent.
  *
- * 0; OSTREL_INVALID.
+ * Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int HNAPCORE_check_locale(const char* value);
 

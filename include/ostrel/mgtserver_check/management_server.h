@@ -11,37 +11,37 @@
 /*
  * MGTSERVER_check_server_url: the URL of the management server, see TcmValidateServerURL.
  *
- * Asserts, line 41. 0; OSTREL_INVALID_VALUE, with "Error in %s: Error server url:%s\n\n" (the value).
+ * Asserts, line 41. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error server url:%s\n\n" (the value).
  */
 OSTREL_API int MGTSERVER_check_server_url(const char* value_p);
 
 /*
  * MGTSERVER_check_firmware_url: the URL of a firmware image, see TcmValidatefirmwareURL.
  *
- * Asserts, line 75. 0; OSTREL_INVALID_VALUE, with "Error in %s: Error server url:%s\n\n" (the value), which
- * says "server url" here too.
+ * Asserts, line 75. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error server url:%s\n\n" (the value),
+ * which also says "server url".
  */
 OSTREL_API int MGTSERVER_check_firmware_url(const char* value_p);
 
 /*
- * MGTSERVER_check_server_password: at most 256 bytes of any kind; it may be empty.
+ * MGTSERVER_check_server_password: at most 256 bytes of any kind, or empty.
  *
- * Asserts, line 105. 0; OSTREL_INVALID_VALUE, with "Error in %s: Error password:%s\n\n" (the value: the
- * password is printed).
+ * Asserts, line 105. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error password:%s\n\n" (the value:
+ * the password is printed).
  */
 OSTREL_API int MGTSERVER_check_server_password(const char* value_p);
 
 /*
  * MGTSERVER_check_conn_request_username, MGTSERVER_check_conn_request_password: the credentials of a
- * connection request: MGTSERVER_check_server_password, under whose name they print and assert.
+ * connection request. Both call MGTSERVER_check_server_password, under whose name they print and assert.
  */
 OSTREL_API int MGTSERVER_check_conn_request_username(const char* value_p);
 OSTREL_API int MGTSERVER_check_conn_request_password(const char* value_p);
 
 /*
- * MGTSERVER_check_periodic_inform: whether the client reports periodically: any value but the empty one.
+ * MGTSERVER_check_periodic_inform: whether the client reports periodically: any value except the empty one.
  *
- * Asserts, line 135. 0; OSTREL_INVALID_VALUE, with "Error in %s: Error empty periodic inform\n\n".
+ * Asserts, line 135. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error empty periodic inform\n\n".
  */
 OSTREL_API int MGTSERVER_check_periodic_inform(const char* value_p);
 
@@ -49,17 +49,18 @@ OSTREL_API int MGTSERVER_check_periodic_inform(const char* value_p);
  * MGTSERVER_check_periodic_inform_time: a date-time, see TcmValidateTime; neither the empty value nor the
  * "unknown time" of TR-069, "0001-01-01T00:00:00Z", is one.
  *
- * Asserts, line 210. 0; OSTREL_INVALID_VALUE, with "Error in %s: Error periodic inform time:%s\n\n" (the
- * value).
+ * Asserts, line 210. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error periodic inform time:%s\n\n"
+ * (the value).
  */
 OSTREL_API int MGTSERVER_check_periodic_inform_time(const char* value_p);
 
 /*
  * MGTSERVER_check_periodic_inform_interval: seconds between two reports, above 0 as atoi reads it: what
- * follows the digits is ignored, so "30abc" is accepted. No number that an int holds is too high; one that it
- * does not hold may be read as 0 or less, and is then refused.
+ * follows the digits is ignored, so "30abc" is accepted. There is no upper limit, but a number that does not
+ * fit in an int may be read as 0 or less, and is then refused.
  *
- * Asserts, line 240. 0; OSTREL_INVALID_VALUE, with "Error in %s: Invalite periodic inform interval\n\n".
+ * Asserts, line 240. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Invalite periodic inform
+ * interval\n\n".
  */
 OSTREL_API int MGTSERVER_check_periodic_inform_interval(const char* value_p);
 

@@ -1,10 +1,10 @@
 /*
  * Radio settings of a wireless LAN.
  *
- * What holds for all checks of the wireless LAN stands in <ostrel/wlan_check.h>.
+ * <ostrel/wlan_check.h> describes what all checks of the wireless LAN have in common.
  *
  * radio is "RADIO_2.4GHz" or "RADIO_5GHz", in any mixture of upper and lower case. Numbers are as atoi reads
- * them: text without a number, the empty value included, is 0. All answer 0 or OSTREL_INVALID and print
+ * them: text without a number, the empty value included, is 0. All return 0 or OSTREL_INVALID and print
  * nothing themselves.
  */
 #ifndef OSTREL_WLAN_CHECK_RADIO_H
@@ -18,23 +18,22 @@ OSTREL_API int WLAN_check_radio_id(const char* radio);
 /*
  * WLAN_check_channel: the channel of a radio.
  *
- * "0" is the automatic channel and valid on any radio, also on one that does not exist. On 2.4 GHz a channel
- * is valid if it is below 14 and among the first 15 numbers that the driver lists: the command
- * "wlctl -i wl0 channels > /var/hnapwl0chlist" is run through the shell, and the file is read and deleted.
- * Where the file cannot be opened, every channel is refused and nothing is deleted. Where there is no wlctl,
- * the shell writes that to standard error, and the list is empty; what wlctl itself writes to standard error
- * appears there too. On 5 GHz the channels 36, 40, 44, 48, 149, 153, 157 and 161 are valid, and 0: also "00",
- * text without a number and the empty value.
+ * "0" selects the channel automatically and is valid for any radio, even one that does not exist. On 2.4 GHz
+ * a channel is valid if it is below 14 and among the first 15 numbers that the driver lists: the shell runs
+ * "wlctl -i wl0 channels > /var/hnapwl0chlist", and the file is read and deleted. If the file cannot be
+ * opened, every channel is refused and nothing is deleted. If there is no wlctl, the shell says so on
+ * standard error, and the list is empty; what wlctl itself writes to standard error appears there too. On 5
+ * GHz the channels 36, 40, 44, 48, 149, 153, 157 and 161 are valid, and 0: also "00", text without a number
+ * and the empty value.
  *
- * THE FILE'S NAME IS FIXED, so two calls must not run at once. Only the 2.4 GHz radio runs the command.
+ * THE FILE HAS A FIXED NAME, so two calls must not run at once. Only the 2.4 GHz radio runs the command.
  */
 OSTREL_API int WLAN_check_channel(const char* channel, const char* radio);
 
 /*
  * WLAN_check_second_channel: the second channel of a 40 MHz pair on 2.4 GHz.
  *
- * The second is the primary + 2 for the primaries 1 to 4 and 7, the primary - 2 for 5, 6 and 8 to 13; or both
- * are 0.
+ * The second channel is primary + 2 for 1 to 4 and 7, and primary - 2 for 5, 6 and 8 to 13; or both are 0.
  */
 OSTREL_API int WLAN_check_second_channel(const char* primary, const char* second);
 

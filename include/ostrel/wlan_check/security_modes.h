@@ -1,7 +1,7 @@
 /*
  * Security modes of a wireless LAN, its HNAP security setting and its RADIUS secret.
  *
- * What holds for all checks of the wireless LAN stands in <ostrel/wlan_check.h>.
+ * <ostrel/wlan_check.h> describes what all checks of the wireless LAN have in common.
  */
 #ifndef OSTREL_WLAN_CHECK_SECURITY_MODES_H
 #define OSTREL_WLAN_CHECK_SECURITY_MODES_H
@@ -11,21 +11,21 @@
 /*
  * WLAN_check_beacon_type: see TcmValidateBeaconType.
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error beacon type:%s\n\n".
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error beacon type:%s\n\n".
  */
 OSTREL_API int WLAN_check_beacon_type(const char* value);
 
 /*
  * WLAN_check_basic_encryption_modes: "WEPEncryption" or "None".
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic encryption modes:%s\n\n".
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic encryption modes:%s\n\n".
  */
 OSTREL_API int WLAN_check_basic_encryption_modes(const char* value);
 
 /*
  * WLAN_check_basic_authentication_modes: "None" or "EAPAuthentication".
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic authentication modes:%s\n\n".
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic authentication modes:%s\n\n".
  */
 OSTREL_API int WLAN_check_basic_authentication_modes(const char* value);
 
@@ -33,14 +33,14 @@ OSTREL_API int WLAN_check_basic_authentication_modes(const char* value);
  * WLAN_check_wpa_encryption_modes: "WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption",
  * "AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption" or "WEPandTKIPandAESEncryption".
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wpa encryption modes:%s\n\n".
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wpa encryption modes:%s\n\n".
  */
 OSTREL_API int WLAN_check_wpa_encryption_modes(const char* value);
 
 /*
  * WLAN_check_wpa_authentication_modes: "PSKAuthentication" or "EAPAuthentication".
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wpa authentication modes:%s\n\n".
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wpa authentication modes:%s\n\n".
  */
 OSTREL_API int WLAN_check_wpa_authentication_modes(const char* value);
 
@@ -52,7 +52,7 @@ OSTREL_API int WLAN_check_wpa_authentication_modes(const char* value);
  *                    "WEPandTKIPandAESEncryption"
  *                 1: "WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption"
  *
- * 0; OSTREL_INVALID_VALUE, in the order of the tests:
+ * Returns 0; OSTREL_INVALID_VALUE, in the order of the tests:
  *   32 bytes or more: "Error in %s: Error IEEE11i encryption modes:%s length out of range. [0,31]\n\n"
  *   another mode:     "Error in %s: Error IEEE11i encryption modes:readwrite mode %d invalid \n\n"
  *   not in the list:  "Error in %s: Error IEEE11i encryption modes:%s\n\n"
@@ -64,14 +64,14 @@ OSTREL_API int WLAN_check_IEEE11i_encryption_modes(const char* value, int readwr
  *
  * readwrite_mode: 0: "EAPAuthentication", "EAPandPSKAuthentication"; 1: "PSKAuthentication".
  *
- * Codes, tests and texts as for WLAN_check_IEEE11i_encryption_modes: the texts speak of encryption modes.
+ * Codes, tests and texts as for WLAN_check_IEEE11i_encryption_modes: the texts say "encryption modes".
  */
 OSTREL_API int WLAN_check_IEEE11i_authentication_modes(const char* value, int readwrite_mode);
 
 /*
  * WLAN_check_authentication_service_mode: "none" (in lower case), "LinkAuthentication" or "RadiusClient".
  *
- * 0; OSTREL_INVALID_VALUE, with
+ * Returns 0; OSTREL_INVALID_VALUE, with
  *   32 bytes or more: "Error in %s: Error authentication_service_mode:%s length out of range. [0,31]\n\n"
  *   otherwise:        "Error in %s: Error authentication_service_mode value invalid :%s\n\n"
  */
@@ -84,7 +84,7 @@ OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
  *
  *   type                                   encryption
  *   "WEP-OPEN", "WEP-SHARED"               "WEP-64" or "WEP-128"
- *   "WEP-RADIUS"                           the same; not offered on the model "M2840"
+ *   "WEP-RADIUS"                           the same; not allowed on the model "M2840"
  *   "WPA-PSK", "WPA-RADIUS"                "TKIP"
  *   "WPA2-PSK", "WPA2-RADIUS"              "AES"
  *   "WPA-AUTO-PSK", "WPA-AUTO-RADIUS"      "TKIPORAES"
@@ -92,7 +92,7 @@ OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
  * The two settings and the model, which is an option of the build, are compared with the host's
  * cmsUtl_strcmp.
  *
- * 0; OSTREL_SECURITY_TYPE_NOT_ALLOWED: another type, the empty one included, or one not allowed here;
+ * Returns 0; OSTREL_SECURITY_TYPE_NOT_ALLOWED: another type, the empty one included, or one not allowed here;
  * OSTREL_ENCRYPTION_MISMATCH.
  */
 OSTREL_API int WLAN_check_HNAP_SecurityType(const char* setting1, const char* setting2, const char* type,
@@ -102,17 +102,17 @@ OSTREL_API int WLAN_check_HNAP_SecurityType(const char* setting1, const char* se
  * WLAN_check_HNAP_KeyRenewal: the interval in seconds at which a group key is renewed: 600 to 7200, written
  * in 3 or 4 digits. Silent.
  *
- * renewal: with "false" the other two are not looked at.
- * type:    with "WEP-SHARED", "WEP-RADIUS" or "WEP-OPEN" the interval is not looked at.
+ * renewal: if it is "false", the other two are not examined.
+ * type:    if it is "WEP-SHARED", "WEP-RADIUS" or "WEP-OPEN", the interval is not examined.
  *
- * 0; OSTREL_INVALID.
+ * Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int WLAN_check_HNAP_KeyRenewal(const char* renewal, const char* interval, const char* type);
 
 /*
- * WLAN_check_radius_sec: a RADIUS shared secret (RFC 2865) of 1 to 80 bytes, whatever they are. Silent.
+ * WLAN_check_radius_sec: a RADIUS shared secret (RFC 2865) of 1 to 80 bytes of any kind. Silent.
  *
- * 0; OSTREL_INVALID.
+ * Returns 0; OSTREL_INVALID.
  */
 OSTREL_API int WLAN_check_radius_sec(const char* value);
 

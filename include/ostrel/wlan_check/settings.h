@@ -1,7 +1,7 @@
 /*
  * The other settings of a wireless LAN: SSID, rates, location, regulatory domain, role, distance.
  *
- * What holds for all checks of the wireless LAN stands in <ostrel/wlan_check.h>.
+ * <ostrel/wlan_check.h> describes what all checks of the wireless LAN have in common.
  */
 #ifndef OSTREL_WLAN_CHECK_SETTINGS_H
 #define OSTREL_WLAN_CHECK_SETTINGS_H
@@ -11,44 +11,44 @@
 /*
  * WLAN_check_ssid: an SSID, see TcmValidateSSID, whose line about the length is printed on every call.
  *
- * value: the caller's buffer. Its HTML character references are rewritten in place first, and the text stays
- *        rewritten whatever the answer. "a&amp;b" is an SSID of 3 bytes.
+ * value: a buffer of the caller. Its HTML character references are replaced in place first, and they stay
+ *        replaced whatever the result. "a&amp;b" is an SSID of 3 bytes.
  *
- * The host's htmlToText does this. Without one the library knows the names of HTML 4 for Latin-1 characters,
- * XML's five, and numbers from 1, decimal ("&#65;") and hexadecimal ("&#x41;"). Each gives one byte of
- * ISO 8859-1; a number above 255, for which there is no such byte, gives 0x1A, so that the SSID is refused.
- * Anything else stays as it is, other names ("&euro;") included, and the text never grows.
+ * The host's htmlToText does this. If there is none, the library replaces the names of HTML 4 for Latin-1
+ * characters, the five of XML, and numbers from 1, decimal ("&#65;") and hexadecimal ("&#x41;"). Each becomes
+ * one byte of ISO 8859-1; a number above 255, which has no such byte, becomes 0x1A, so that the SSID is
+ * refused. Anything else, including other names ("&euro;"), is unchanged, and the text never grows.
  *
- * 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with "Error in %s: Error SSID:%s\n" (the
- * rewritten value).
+ * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with
+ * "Error in %s: Error SSID:%s\n" (the resulting value).
  */
 OSTREL_API int WLAN_check_ssid(char* value);
 
 /*
  * WLAN_check_max_bit_rate: see TcmValidateRate.
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error max bit rate:%s\n\n".
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error max bit rate:%s\n\n".
  */
 OSTREL_API int WLAN_check_max_bit_rate(const char* value);
 
 /*
  * WLAN_check_basic_data_transmit_rate: see TcmValidateDataTransmitRates.
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic data transmit rate:%s\n\n".
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic data transmit rate:%s\n\n".
  */
 OSTREL_API int WLAN_check_basic_data_transmit_rate(const char* value);
 
 /*
  * WLAN_check_op_data_transmit_rate: exactly "1,2,5.5,6,9,11,12,18,24,36,48,54", or the empty value.
  *
- * 0; OSTREL_INVALID_VALUE, with "Error in %s: Error operation data transmit rate:%s\n\n".
+ * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error operation data transmit rate:%s\n\n".
  */
 OSTREL_API int WLAN_check_op_data_transmit_rate(const char* value);
 
 /*
- * WLAN_check_location_description: 0 to 4096 bytes, whatever they are.
+ * WLAN_check_location_description: 0 to 4096 bytes of any kind.
  *
- * 0; OSTREL_INVALID_VALUE, with
+ * Returns 0; OSTREL_INVALID_VALUE, with
  * "Error in %s: Error location description :%s length out of range. [0,%d]\n\n" (the value, 4096).
  */
 OSTREL_API int WLAN_check_location_description(const char* value);
@@ -57,7 +57,7 @@ OSTREL_API int WLAN_check_location_description(const char* value);
  * WLAN_check_regulatory_domain: two decimal digits and one of "O", "I", "o" and "i" (outdoor, indoor).
  * Country letters are refused.
  *
- * 0; OSTREL_INVALID_VALUE, with
+ * Returns 0; OSTREL_INVALID_VALUE, with
  *   4 bytes or more:
  *     "Error in %s: Error regulatory domain :%s length out of range. [0,%d]\n\n" (the value, 3);
  *   otherwise:
@@ -71,7 +71,7 @@ OSTREL_API int WLAN_check_regulatory_domain(const char* value);
  * readwrite_mode: which list applies. 0: "WirelessBridge", "WirelessRepeater", "WirelessStation";
  *                 1: "InfrastructureAccessPoint".
  *
- * 0; OSTREL_INVALID_VALUE, in the order of the tests:
+ * Returns 0; OSTREL_INVALID_VALUE, in the order of the tests:
  *   32 bytes or more: "Error in %s: Error operating mode:%s length out of range. [0,31]\n\n"
  *   another mode:     "Error in %s: Error operating mode:readwrite mode %d invalid \n\n"
  *   not in the list:  "Error in %s: Error operating mode:%s\n\n"
@@ -82,7 +82,7 @@ OSTREL_API int WLAN_check_device_opration_mode(const char* value, int readwrite_
  * WLAN_check_DistanceFromRoot: a negative number as atoi reads it. ZERO AND POSITIVE DISTANCES ARE REFUSED,
  * and so is text without a number.
  *
- * 0; OSTREL_INVALID_DISTANCE, with "Error in %s: Error DistanceFromRoot:%s\n\n".
+ * Returns 0; OSTREL_INVALID_DISTANCE, with "Error in %s: Error DistanceFromRoot:%s\n\n".
  */
 OSTREL_API int WLAN_check_DistanceFromRoot(const char* value);
 

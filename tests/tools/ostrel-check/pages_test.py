@@ -93,8 +93,8 @@ class Catalogue(unittest.TestCase):
     def test_null_is_told(self):
         def null(name, argument=0):
             return self.checks[name]["arguments"][argument]["null"]
-        self.assertEqual("ends the process, by a failed assertion of value_p != ((void *)0)", null("PARAM_check_port"))
-        self.assertEqual("ends the process, by a memory fault", null("TcmValidateIPAddress"))
+        self.assertEqual("ends the process (failed assertion value_p != ((void *)0))", null("PARAM_check_port"))
+        self.assertEqual("ends the process (memory fault)", null("TcmValidateIPAddress"))
         self.assertEqual("refused with 402", null("PARAM_check_MACAddress"))
         self.assertEqual("accepted", null("Param_check_datetime_value"))
         self.assertIn("depends on protocol: ", null("PORTMAPPING_check_port_available"))

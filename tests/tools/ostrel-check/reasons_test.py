@@ -127,13 +127,13 @@ class Told(unittest.TestCase):
             reason = judged(name, "4294967290")["reason"]
             self.assertEqual(("number_beyond_int", limit, "number_too_low"),
                              (reason["id"], reason["allowed"], reason["limit"]))
-            self.assertIn("4294967290, which an int does not hold; ", reason["text"])
+            self.assertIn("4294967290, which does not fit in an int; ", reason["text"])
             self.assertTrue(reason["text"].endswith("; at least %d is needed" % limit), reason["text"])
 
     def test_a_long_list_is_not_listed(self):
         reason = judged("Time_validate_tzone_and_tzone_name", "", "Tokio")["reason"]
         self.assertEqual(75, len(reason["allowed"]))
-        self.assertEqual('tzone_name is not part of any of 75 texts, of which "Osaka, Sapporo, Tokyo" is most like it',
+        self.assertEqual('tzone_name is not part of any of 75 texts; the closest is "Osaka, Sapporo, Tokyo"',
                          reason["text"])
 
 

@@ -140,7 +140,7 @@ TEST(Single, FailedAssertionIsThree)
     const Outcome outcome = run({"PARAM_check_bool_value", "@null"});
     EXPECT_EQ(3, outcome.status);
     EXPECT_EQ(
-        "ended: an assertion ended the process (SIGABRT) (is NULL, which fails an assertion of the check)\n",
+        "ended: an assertion ended the process (SIGABRT) (is NULL, which fails an assertion in the check)\n",
         outcome.out);
     EXPECT_TRUE(outcome.err.starts_with("library: ostrel-check: parameter_check:")) << outcome.err;
     EXPECT_TRUE(
@@ -244,7 +244,7 @@ TEST(Single, ListShowsArgumentsAndRule)
     EXPECT_EQ(0, list.status);
     EXPECT_NE(std::string::npos, list.out.find("\nparameters\n"));
     EXPECT_NE(std::string::npos, list.out.find("  PARAM_check_number value_p min_len:number max_len:number\n"
-                                               "      value_p has min_len to max_len bytes and has only "
+                                               "      value_p has min_len to max_len bytes and contains only "
                                                "digits\n"));
     EXPECT_NE(std::string::npos, list.out.find("      fills in account_type\n"));
 }

@@ -98,9 +98,9 @@ class Terminal(unittest.TestCase):
         self.assertEqual(0, status)
         self.assert_fits(shown)
         self.assertTrue(shown.startswith("\x1b[1mWLAN_check_wepkeys (wlan)\x1b[0m\n"))
-        for part in ("the four WEP keys", "NULL: ends the process, by a failed assertion", 'may become: "";',
+        for part in ("the four WEP keys", "NULL: ends the process (failed assertion", 'may become: "";',
                      "803: a character outside the allowed set, OSTREL_FORBIDDEN_CHARACTER", "731:", "402:",
-                     "2.1. skips the key where PARAM_check_printable_ascii_string refuses the",
+                     "2.1. skips the key if PARAM_check_printable_ascii_string refuses the",
                      "library prints: ", "The previons valid",
                      "What an accepted value may contain"):
             self.assertIn(part, shown)
