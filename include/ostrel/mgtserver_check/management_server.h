@@ -59,8 +59,8 @@ OSTREL_API int MGTSERVER_check_periodic_inform_time(const char* value_p);
  * follows the digits is ignored, so "30abc" is accepted. There is no upper limit, but a number that does not
  * fit in an int may be read as 0 or less, and is then refused.
  *
- * Asserts, line 240. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Invalite periodic inform
- * interval\n\n".
+ * Asserts, line 240. Returns 0; OSTREL_INVALID_VALUE, with
+ * "Error in %s: Invalite periodic inform interval\n\n".
  */
 OSTREL_API int MGTSERVER_check_periodic_inform_interval(const char* value_p);
 
