@@ -1,15 +1,13 @@
-"""The program of the tests of rules/ with changes in it: compiled, linked and run."""
+"""rules_test with changes to the descriptions: compiled, linked and run."""
 
 import concurrent.futures
-import json
 import os
 import pathlib
 import re
 import resource
-import shlex
 import subprocess
 
-from library import run
+from library import Build, run
 from schemata import owners, with_all
 
 EACH = pathlib.Path(__file__).resolve().parent / "each.cpp"
@@ -19,36 +17,25 @@ SECONDS = 60
 UNCHANGED = 0
 QUICK = ["--gtest_break_on_failure", "--gtest_brief=1"]
 SHORT = {"OSTREL_LONGEST_TEXT": "9000"}
-# The tests that start processes, which takes longer than all others together.
+# The tests that start processes. They take longer than all others together.
 SLOW = "Checks/NullTest.*"
 
 
 class Workshop:
-    def __init__(self, build, folder):
-        self.build = build
-        self.folder = folder
-        self.program = build / PROGRAM
-        self.commands = {}
-        for entry in json.loads((build / "compile_commands.json").read_text()):
-            words = shlex.split(entry["command"])
-            output = words[words.index("-o") + 1]
-            if output.startswith(OBJECTS):
-                kept = [word for word in words[:words.index("-o")] if not word.startswith("-W")]
-                file = "rules/" + output.removeprefix(OBJECTS).removesuffix(".o")
-                self.commands[file] = (kept[1:] if "ccache" in kept[0] else kept) + ["-w"]
-        done = run(["ninja", "-C", str(build), PROGRAM])
-        if done.returncode != 0:
-            raise SystemExit(done.stdout + done.stderr)
-        lines = run(["ninja", "-C", str(build), "-t", "commands", PROGRAM]).stdout.splitlines()
-        self.link = [word for word in shlex.split(lines[-1]) if word not in (":", "&&")]
+    def __init__(self, root, folder, scratch):
+        self.build = Build(root, folder, OBJECTS)
+        self.folder = scratch
+        self.program = folder / PROGRAM
+        self.build.bring_up_to_date(PROGRAM)
+        self.link = self.build.link_command(PROGRAM)
         self.each = None
 
     def compile(self, file, text, *options):
-        """compile gives the object that is made, and what the compiler says where there is none."""
+        """compile returns the path of the object, and the compiler's errors."""
         source = self.folder / pathlib.Path(file).name
         source.write_text(text)
         made = source.with_suffix(".cpp.o")
-        done = run([*self.commands[file], *options, "-o", str(made), "-c", str(source)], cwd=self.build,
+        done = run([*self.build.commands[file], *options, "-o", str(made), "-c", str(source)], cwd=self.build.folder,
                    env=dict(os.environ, LC_ALL="C"))
         return made, done.stderr if done.returncode != 0 else ""
 
@@ -56,26 +43,26 @@ class Workshop:
         program = self.folder / "rules_test"
         command = list(self.link)
         command[command.index("-o") + 1] = str(program)
-        # Before the archives, which then have nothing to add.
+        # Before the archives, so that the linker takes nothing for this file from them.
         command[command.index("-o") + 2:command.index("-o") + 2] = map(str, (made, *others))
-        done = run(command, cwd=self.build)
+        done = run(command, cwd=self.build.folder)
         if done.returncode != 0:
             raise SystemExit(done.stderr)
         return program
 
     def main_of_each(self):
-        """main_of_each gives the object of a main that runs the tests with one change after the other."""
+        """main_of_each returns the object of a main function that runs the tests with each change in turn."""
         if self.each is None:
             self.each = self.folder / "each.o"
-            words = next(iter(self.commands.values()))
-            done = run([*words, "-o", str(self.each), "-c", str(EACH)], cwd=self.build)
+            words = next(iter(self.build.commands.values()))
+            done = run([*words, "-o", str(self.each), "-c", str(EACH)], cwd=self.build.folder)
             if done.returncode != 0:
                 raise SystemExit(done.stderr)
         return self.each
 
     def with_all(self, file, text, numbered):
-        """with_all builds the program with all of these in it but those that do not build and others, whose numbers it
-        gives."""
+        """with_all builds the program with all of these mutants. It returns the program, the numbers of those that do
+        not compile, and of those that cannot be combined with others."""
         left, kept, broken = dict(numbered), set(), []
         while True:
             source, others = with_all(text, left, kept)
@@ -86,7 +73,7 @@ class Workshop:
             told = re.findall(r"/%s:(\d+):\d+: +(error|required)" % pathlib.Path(file).name, errors)
             wrong = {owner[int(line)] for line, _ in told}
             if 0 in wrong:
-                # Something asks for a constant that is a function now.
+                # Something needs a constant that is a function now.
                 named = set(re.findall(r"in expansion of macro '(\w+)'", errors)) - kept
                 if not named:
                     raise SystemExit(errors)
@@ -109,34 +96,34 @@ class Workshop:
                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode != 0
 
     def noticed(self, program, file, numbers):
-        """noticed gives those numbers whose changes a test notices that starts no processes, with short rows."""
+        """noticed returns the numbers of the changes that a quick test notices, with short rows."""
         done = subprocess.run([str(program), *QUICK, "--gtest_filter=-" + SLOW], cwd=self.folder, text=True,
                               input="\n".join(map(str, [UNCHANGED, *numbers])), stdout=subprocess.PIPE,
                               stderr=subprocess.PIPE, check=False, env=self.environment(file, **SHORT))
         answers = {int(number): answer == "1" for number, answer in map(str.split, done.stdout.splitlines())}
         if len(answers) != 1 + len(numbers) or answers[UNCHANGED]:
-            raise SystemExit("the tests fail without a change, or have ended early: " + done.stderr)
+            raise SystemExit("the tests fail without a change, or ended early: " + done.stderr)
         return {number for number, is_noticed in answers.items() if is_noticed}
 
     def judged(self, file, text, some, jobs):
-        """judged gives each of these mutants of a file with what becomes of it: "broken", "killed" or "unknown"."""
+        """judged yields each of these mutants of a file with its status: "broken", "killed" or "unknown"."""
         numbered = dict(enumerate(some, 1))
         program, broken, others = self.with_all(file, text, numbered)
         yield from ((numbered[number], "broken") for number in broken)
         tried = [number for number in numbered if number not in broken and number not in others]
         with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-            parts = pool.map(lambda part: self.noticed(program, file, part), [tried[i::jobs] for i in range(jobs)])
-            noticed = set().union(*parts)
+            shares = [tried[i::jobs] for i in range(jobs)]
+            noticed = set().union(*pool.map(lambda share: self.noticed(program, file, share), shares))
         yield from ((numbered[number], "killed" if number in noticed else "unknown") for number in [*tried, *others])
 
     def alone(self, mutant, text):
-        """alone judges a mutant as it would be in a build, by each test and each row; but the slow tests see no row with a
-        long text, which makes them slower still."""
+        """alone judges a mutant in a build of its own, by each test and each row. The slow tests read no rows with long
+        texts."""
         text = text[:mutant.offset] + mutant.replacement + text[mutant.end:]
         made, errors = self.compile(mutant.file, text)
         if errors:
             return "broken"
-        if made.read_bytes() == (self.build / OBJECTS / (mutant.file.removeprefix("rules/") + ".o")).read_bytes():
+        if made.read_bytes() == self.build.object_of(mutant.file).read_bytes():
             return "same"
         program = self.linked(made)
         noticed = self.notices(program, mutant.file, SHORT) or \

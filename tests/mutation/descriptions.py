@@ -1,4 +1,4 @@
-"""Changes rules/ one small thing at a time and lists what no test of the descriptions notices.
+"""Makes small changes to rules/, one at a time, and lists those that no test of the descriptions notices.
 
 See README.md beside this file.
 """
@@ -15,12 +15,12 @@ from mutate import ROOT, Results, arguments, conduct, folder_of
 from mutators import numbers, operators
 from tokens import closing
 
-# What evaluates descriptions and tells reasons. The descriptions themselves are the files that list checks.
+# The files that evaluate descriptions and make reasons. Descriptions are in the files that list checks.
 EVALUATION = {"build", "character_references", "condition_words", "conditions", "evaluate", "expression_words", "lists",
               "number_conditions", "operands", "register", "say", "sentences", "set", "shared", "step_words",
               "text_conditions"}
 
-# Words of which each stands where the other could.
+# Each word can be replaced by the other.
 PAIRS = [("below", "above"), ("shorter_than", "longer_than"), ("one_of", "none_of"), ("empty", "not_empty"),
          ("length_is", "length_not"), ("among", "not_among"), ("equal", "not_equal"), ("has_shape", "lacks_shape"),
          ("all_of", "any_of"), ("before_first", "before_last"), ("after_first", "after_last"),
@@ -29,11 +29,11 @@ SETS = ["kDigits", "kUpper", "kLower", "kLetters", "kAlnum", "kHex", "kPrintable
         "kAccountDigits", "kIpv4", "kHostLabel", "kUrl", "kNameSet", "kMail", "kHostPort", "kRouterName", "kDeviceName"]
 PHRASES = [("at least", "at most"), ("needed", "allowed"), ("first", "last"), ("end", "start"), ("is", "are"),
            ("one of", "none of"), ("byte", "bytes"), ("is", "is not")]
-# What an argument is in the user's words is not said of a refusal.
-SAID_ELSEWHERE = {"text", "buffer", "blocks", "integer", "natural", "integer_out", "in"}
-# These tell the same, so that their order is not told.
+# A refusal does not contain the text that describes an argument.
+NOT_REPORTED = {"text", "buffer", "blocks", "integer", "natural", "integer_out", "in"}
+# These have the same reasons, so their order makes no difference.
 ALIKE = {"refuse_repeated"}
-# Two of which a value meets at most one may stand in either order.
+# A value meets at most one of two such conditions, so their order makes no difference.
 TOO_LITTLE = re.compile(r'(?:below|shorter_than)\((?:.*, )?-?\d+\)|empty\(\)')
 TOO_MUCH = re.compile(r'(?:above|longer_than)\((?:.*, )?-?\d+\)|refuse_above|outside\(k\w+\)')
 
@@ -51,13 +51,13 @@ def words(found, text):
             yield token.offset, token.end, SETS[(SETS.index(token.text) + 1) % len(SETS)]
 
 
-def heard(found):
-    """heard gives all tokens but the texts that a refusal does not say."""
-    return [token for i, token in enumerate(found) if token.kind != "string" or callee(found, i) not in SAID_ELSEWHERE]
+def reported(found):
+    """reported returns all tokens except the texts that a refusal does not contain."""
+    return [token for i, token in enumerate(found) if token.kind != "string" or callee(found, i) not in NOT_REPORTED]
 
 
 def phrases(found, text):
-    for token in heard(found):
+    for token in reported(found):
         for one, other in PHRASES if token.kind == "string" else []:
             for old, new in ((one, other), (other, one)):
                 for match in re.finditer(r"(?<!\w)%s(?!\w)" % old, token.text):
@@ -65,11 +65,11 @@ def phrases(found, text):
 
 
 def texts(found, text):
-    yield from strings(heard(found), text)
+    yield from strings(reported(found), text)
 
 
 def steps(found):
-    """steps gives the first and the last index of each refusing step in a list."""
+    """steps yields the first and the last index of each refusing step in a list."""
     for i, token in enumerate(found[:-1]):
         if token.text.startswith("refuse") and token.text != "refused_by" and found[i + 1].text == "(" and \
                 found[i - 1].text in (",", "{"):
@@ -77,7 +77,7 @@ def steps(found):
 
 
 def orders(found, text):
-    """orders swaps refusing steps that stand next to each other, and leaves each of them out."""
+    """orders swaps adjacent refusing steps, and leaves each of them out."""
     every = list(steps(found))
     for (first, end), (second, last) in zip(every, every[1:]):
         one, other = (text[found[a].offset:found[b].end] for a, b in ((first, end), (second, last)))
@@ -99,12 +99,11 @@ def mutants(file, text):
     return list(mutators.mutants(file, text, MUTATORS))
 
 
-# So many are compiled at a time.
-TOGETHER = 250
+TOGETHER = 250  # mutants that are compiled into one program
 
 
 def try_all(waiting, texts, workshop, jobs):
-    """try_all gives each mutant with what becomes of it; those last that many together do not show to be noticed."""
+    """try_all yields each mutant with its status. Mutants that no quick test notices come last."""
     unknown = []
     for file, mutants_of in itertools.groupby(waiting, lambda mutant: mutant.file):
         left = list(mutants_of)
@@ -126,7 +125,7 @@ def main():
              if pathlib.Path(file).stem in EVALUATION or "std::vector<Check> " in text}
     build = (ROOT / given.build).resolve()
     folder = folder_of(given, build, "mutate_rules")
-    workshop = Workshop(build, folder)
+    workshop = Workshop(ROOT, build, folder)
     results = Results(folder / "results.json", texts, [workshop.program])
     every = [mutant for file, text in texts.items() for mutant in mutants(file, text)]
     return conduct(given, every, "equivalent_rules.txt", results, 100.0,

@@ -1,4 +1,4 @@
-"""What is changed in a description, and what is left alone."""
+"""What is changed in a description, and what is not."""
 
 import unittest
 

@@ -1,5 +1,5 @@
-// Runs the tests once with each change that is compiled into the program, with rows that are read once. A line of the
-// standard input is the number of a change; the answer is that number, and 1 where a test failed.
+// Runs the tests with each of the changes that are compiled into the program. A line of standard input is the number of
+// a change; the program prints that number, and 1 if a test failed or 0. The rows are read once, for all changes.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -20,7 +20,7 @@ namespace {
 
 constexpr rlim_t kMostSeconds = 4;  // the tests take half a second
 
-// What was read refers to the descriptions as they were, so they are made anew in their places.
+// The rows refer to the descriptions by address, so the changed ones replace them in place.
 void remake_checks()
 {
     static const std::vector<ostrel::rules::Check> made = ostrel::rules::make_checks();

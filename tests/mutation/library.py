@@ -1,4 +1,4 @@
-"""The library with one file changed: compiled, linked, and what of the tests can notice."""
+"""The library with one changed file: compiled and linked."""
 
 import json
 import pathlib
@@ -9,7 +9,7 @@ import subprocess
 
 LIBRARY = "libostrel_check.so"
 OBJECTS = "src/CMakeFiles/ostrel_check.dir/"
-# Read once and for all: without it these take most of the time of each compilation.
+# Precompiled, because reading these headers would take most of the time of each compilation.
 PRELUDE = "".join("#include <%s>\n" % name for name in
                   ("cstddef", "cstdint", "cstdio", "cstdlib", "cstring", "string_view"))
 
@@ -18,8 +18,39 @@ def run(command, **options):
     return subprocess.run(command, check=False, stdin=subprocess.DEVNULL, capture_output=True, text=True, **options)
 
 
+class Build:
+    """Build knows how a build folder compiles the sources of one library, and how it links."""
+
+    def __init__(self, root, folder, objects):
+        self.folder = folder
+        self.objects = objects
+        self.commands = {}
+        for entry in json.loads((folder / "compile_commands.json").read_text()):
+            words = shlex.split(entry["command"])
+            output = words.index("-o")
+            if words[output + 1].startswith(objects):
+                kept = [word for word in words[:output] if not word.startswith("-W")]
+                file = str(pathlib.Path(entry["file"]).relative_to(root))
+                self.commands[file] = (kept[1:] if "ccache" in kept[0] else kept) + ["-w"]
+
+    def bring_up_to_date(self, *targets):
+        done = run(["ninja", "-C", str(self.folder), *targets])
+        if done.returncode != 0:
+            raise SystemExit(done.stdout + done.stderr)
+
+    def link_command(self, target):
+        lines = run(["ninja", "-C", str(self.folder), "-t", "commands", target]).stdout.splitlines()
+        return [word for word in shlex.split(lines[-1]) if word not in (":", "&&")]
+
+    def name_of_object(self, file):
+        return self.objects + file.partition("/")[2] + ".o"
+
+    def object_of(self, file):
+        return self.folder / self.name_of_object(file)
+
+
 class Sources:
-    """Sources are the library's files and who includes whom."""
+    """Sources holds the library's files and which of them each one includes."""
 
     def __init__(self, root):
         self.root = root
@@ -30,7 +61,7 @@ class Sources:
                          for file, text in self.text.items()}
 
     def including(self, header):
-        """including gives the .cpp files that see a header of src/, on whatever way."""
+        """including returns the .cpp files that include a header of src/, directly or through other headers."""
         seen, waiting = set(), [header]
         while waiting:
             name = waiting.pop()
@@ -41,14 +72,13 @@ class Sources:
         return sorted(file for file in seen if file.endswith(".cpp"))
 
     def dependent(self, file):
-        """dependent gives the .cpp files whose answers the file can change."""
+        """dependent returns the .cpp files whose results a change of the file can affect."""
         found, waiting = {file}, [file]
         while waiting:
             name = waiting.pop()
             path = pathlib.PurePath(name)
-            headers = [str(path.with_suffix(".h"))]
             exported = "ostrel/%s.h" % path.relative_to("src").with_suffix("")
-            users = {user for header in headers for user in self.including(header)}
+            users = set(self.including(str(path.with_suffix(".h"))))
             users |= {user for user in self.files if exported in self.includes[user]
                       and user != name and user.endswith(".cpp")}
             waiting.extend(users - found)
@@ -56,46 +86,26 @@ class Sources:
         return sorted(found)
 
 
-class Build:
-    """Build knows how a build folder compiles and links."""
+class LibraryBuild(Build):
+    """LibraryBuild is the build of the library and of the tests that can notice a change in it."""
 
     def __init__(self, folder, sources):
-        self.folder = folder
+        super().__init__(sources.root, folder, OBJECTS)
         self.sources = sources
-        self.commands = {}
-        for entry in json.loads((folder / "compile_commands.json").read_text()):
-            words = shlex.split(entry["command"])
-            output = words[words.index("-o") + 1]
-            if output.startswith(OBJECTS):
-                file = str(pathlib.Path(entry["file"]).relative_to(sources.root))
-                kept = [word for word in words[:words.index("-o")] if not word.startswith("-W")]
-                self.commands[file] = (kept[1:] if "ccache" in kept[0] else kept) + ["-w"]
         self.links = {LIBRARY: self.link_command("lib/" + LIBRARY)}
 
     def link_command(self, target):
-        lines = run(["ninja", "-C", str(self.folder), "-t", "commands", target]).stdout.splitlines()
-        words = shlex.split(lines[-1])
-        linker = ["-fuse-ld=gold"] if shutil.which("ld.gold") else []
-        return [word for word in words if word not in (":", "&&")] + linker
-
-    def bring_up_to_date(self, programs):
-        """bring_up_to_date builds what the tests need, as a rule nothing."""
-        done = run(["ninja", "-C", str(self.folder), "lib/" + LIBRARY, *("bin/" + name for name in programs)])
-        if done.returncode != 0:
-            raise SystemExit(done.stdout + done.stderr)
-
-    def object_of(self, file):
-        return self.folder / OBJECTS / (file.removeprefix("src/") + ".o")
+        return super().link_command(target) + (["-fuse-ld=gold"] if shutil.which("ld.gold") else [])
 
     def compiled_in(self, file):
-        """compiled_in gives the test programs into which a source of the library is compiled once more."""
+        """compiled_in returns the test programs that compile a source of the library themselves."""
         objects = self.folder.glob("tests/**/CMakeFiles/*.dir/__/__/%s.o" % file)
         names = {re.search(r"CMakeFiles/(\w+)\.dir/", str(path)).group(1) for path in objects}
         return sorted(name for name in names if name.endswith("_test") and (self.folder / "bin" / name).exists())
 
 
 class Workshop:
-    """Workshop is a folder in which one changed library after the other is made."""
+    """Workshop is a folder in which changed libraries are built, one at a time."""
 
     def __init__(self, build, folder):
         self.build = build
@@ -112,17 +122,18 @@ class Workshop:
 
     def compile(self, source, file, options=()):
         options = [*options, "-include", str(self.prelude)]
-        output = self.folder / "objects" / (file.removeprefix("src/") + ".o")
+        output = self.folder / self.build.name_of_object(file)
         output.parent.mkdir(parents=True, exist_ok=True)
         words = self.build.commands[file]
         done = run([words[0], *options, *words[1:], "-o", str(output), "-c", str(source)], cwd=self.build.folder)
         return output if done.returncode == 0 else None
 
     def make(self, file, text):
-        """make builds with the text in place of the file's: gives "made", "same" (as before) or "broken"."""
+        """make builds the library with the text in place of the file's. It returns "made", "same" where the object code
+        does not change, or "broken"."""
         overlay = self.folder / "overlay"
         shutil.rmtree(overlay, ignore_errors=True)
-        shutil.rmtree(self.folder / "objects", ignore_errors=True)
+        shutil.rmtree(self.folder / OBJECTS, ignore_errors=True)
         changed = overlay / file
         changed.parent.mkdir(parents=True)
         changed.write_text(text)
@@ -138,22 +149,18 @@ class Workshop:
             return "broken"
         if all(path.read_bytes() == self.build.object_of(user).read_bytes() for user, path in objects.items()):
             return "same"
-        replaced = {OBJECTS + user.removeprefix("src/") + ".o": str(path) for user, path in objects.items()}
-        self.link(self.build.links[LIBRARY], self.folder / "lib" / LIBRARY, replaced)
+        replaced = {self.build.name_of_object(user): str(path) for user, path in objects.items()}
+        if not self.link(self.build.links[LIBRARY], self.folder / "lib" / LIBRARY, replaced):
+            return "broken"
         for program in self.build.compiled_in(file):
             command = self.build.links.setdefault(program, self.build.link_command("bin/" + program))
             inner = {word: str(objects[file]) for word in command if word.endswith("__/__/%s.o" % file)}
-            self.link(command, self.folder / "bin" / program, inner)
+            if not self.link(command, self.folder / "bin" / program, inner):
+                return "broken"
         return "made"
 
     def link(self, command, output, replaced):
+        """link returns whether it succeeds. A change may leave a symbol undefined."""
         words = [replaced.get(word, word) for word in command]
         words[words.index("-o") + 1] = str(output)
-        done = run(words, cwd=self.build.folder)
-        if done.returncode != 0:
-            # A symbol that the change has made undefined.
-            raise BrokenLink(done.stderr)
-
-
-class BrokenLink(Exception):
-    pass
+        return run(words, cwd=self.build.folder).returncode == 0

@@ -6,7 +6,7 @@ OPTIONAL = ("in", "above")
 
 
 class Entry:
-    """Entry is one reason and what it holds for."""
+    """Entry is a reason and what it applies to."""
 
     def __init__(self, text, path, keys):
         self.values = {key: [] for key in (*keys, "why")}
@@ -25,7 +25,7 @@ class Entry:
                 raise SystemExit("%s: an entry has no %s: %s" % (path.name, needed, text))
 
     def covers(self, facts):
-        """covers notes which lines of the entry have been of use."""
+        """covers returns whether the entry applies, and notes which of its lines did."""
         facts = {key: "*" if "*" in self.values[key] else fact for key, fact in facts.items()
                  if self.values[key]}
         if any(fact not in self.values[key] for key, fact in facts.items()):
@@ -47,8 +47,9 @@ class Listed:
         line: the text of the source line
         why: the reason, one line or several
 
-    keys says which of these an entry may have besides, and which field of an item each one is compared with. There
-    may be several of each; "*" is whatever the field holds. An entry holds for all that agrees with one of each.
+    keys maps the keys that an entry may have, besides "why", to the fields of an item that they are compared with. A
+    key may occur several times, and "*" matches anything. An entry applies to the items that match one value of each
+    key.
     """
 
     def __init__(self, path, items, keys):
@@ -63,7 +64,7 @@ class Listed:
         return item in self.known
 
     def stale(self, patterns):
-        """stale returns what fits no item any more."""
+        """stale returns the lines that fit no item any more."""
         return ["%s: %s: %s" % (entry.values["file"][0], *unused) for entry in self.entries
                 for unused in entry.unused()
                 if any(fnmatch.fnmatch(entry.values["file"][0], pattern) for pattern in patterns)]

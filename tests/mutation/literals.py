@@ -5,13 +5,13 @@ import zlib
 
 
 def units(literal):
-    """units parts a literal into (offset in the literal, text) of its characters."""
+    """units splits a literal into its characters, each with its offset in the literal."""
     return [(match.start() + 1, match.group()) for match in
             re.finditer(r"\\(?:x[0-9A-Fa-f]+|[0-7]{1,3}|.)|[^\\]", literal[1:-1])]
 
 
 def another(character):
-    """another gives the next letter or digit."""
+    """another returns the next letter or digit, or the one before the last."""
     if character in "zZ9":
         return {"z": "y", "Z": "Y", "9": "8"}[character]
     return chr(ord(character) + 1)
@@ -37,7 +37,7 @@ def changed(literal, piece, at):
 
 
 def callee(found, at):
-    """callee gives the name of the function among whose arguments the index stands."""
+    """callee returns the name of the function whose arguments contain the token at that index."""
     depth = 0
     for i in range(at - 1, 0, -1):
         if found[i].text in (";", "{", "}"):
@@ -63,7 +63,7 @@ def strings(found, text):
             else:
                 pieces[-1].append(unit)
         for piece in pieces:
-            # What a "%" begins is no letter, but for the conversion itself.
+            # The byte after a "%" is a conversion, not a letter.
             letters = [place for place, (_, unit) in enumerate(piece)
                        if unit.isalnum() and unit.isascii() and (place == 0 or piece[place - 1][1] != "%")]
             if letters:

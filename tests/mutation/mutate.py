@@ -1,23 +1,24 @@
-"""Changes the library one small thing at a time and lists what no test notices.
+"""Makes small changes to the library, one at a time, and lists those that no test notices.
 
 See README.md beside this file.
 """
 
 import argparse
+import concurrent.futures
 import ctypes
 import fnmatch
 import hashlib
 import json
 import multiprocessing
-import queue
 import os
 import pathlib
 import random
+import shutil
 import signal
 import sys
 import time
 
-from library import BrokenLink, Build, Sources, Workshop
+from library import LIBRARY, LibraryBuild, Sources, Workshop
 from listed import Listed
 from mutators import NAMED, mutants
 from suites import Suites
@@ -31,10 +32,8 @@ def digest(data):
 
 
 class Results:
-    """Results remember what became of each mutant, for as long as its file stays as it is.
-
-    What survived is tried again when the tests have changed.
-    """
+    """Results stores the status of each mutant until its file changes. A mutant that survived is tried again when the
+    tests change."""
 
     def __init__(self, path, texts, programs):
         self.path = path
@@ -49,7 +48,7 @@ class Results:
                                    self.sources[mutant.file])
 
     def of(self, mutant):
-        """of gives "killed", "survived", "same", "broken", or None where it must be tried."""
+        """of returns "killed", "survived", "same", "broken", or None for a mutant that must be tried."""
         result = self.known.get(self.key(mutant))
         if result is None or (result["status"] == "survived" and result["tests"] != self.tests):
             return None
@@ -67,8 +66,8 @@ class Results:
         self.saved = time.monotonic()
 
 
-class Judge:
-    """Judge runs in each worker process."""
+class Worker:
+    """Worker judges mutants in a process of its own."""
 
     def __init__(self, suites, folder):
         self.suites = suites
@@ -78,7 +77,7 @@ class Judge:
 
     @staticmethod
     def hide_var():
-        """hide_var gives the process a /var of its own where it may, for the list of channels stands there."""
+        """hide_var mounts an empty /var for this process alone, if it may. A check writes the list of channels there."""
         libc = ctypes.CDLL(None, use_errno=True)
         new_mounts, private = 0x00020000, 0x44000
         if os.geteuid() == 0 and libc.unshare(new_mounts) == 0:
@@ -87,11 +86,7 @@ class Judge:
 
     def judge(self, mutant):
         text = self.suites.sources.text[mutant.file]
-        text = text[:mutant.offset] + mutant.replacement + text[mutant.end:]
-        try:
-            made = self.workshop.make(mutant.file, text)
-        except BrokenLink:
-            return "broken", ""
+        made = self.workshop.make(mutant.file, text[:mutant.offset] + mutant.replacement + text[mutant.end:])
         if made != "made":
             return made, ""
         for suite in self.suites.nearest(mutant) + self.suites.of(mutant.file):
@@ -102,36 +97,25 @@ class Judge:
         return "survived", ""
 
 
-def work(folder, suites, tasks, answers):
+def start_worker(suites, folder):
     signal.signal(signal.SIGTERM, signal.SIG_DFL)
-    judge = Judge(suites, folder)
-    for number, mutant in iter(tasks.get, None):
-        answers.put((number, *judge.judge(mutant)))
+    work.judge = Worker(suites, folder / str(os.getpid())).judge
+
+
+def work(mutant):
+    return work.judge(mutant)
 
 
 def try_all(waiting, suites, jobs, folder):
-    context = multiprocessing.get_context("fork")
-    tasks, answers = context.Queue(), context.Queue()
-    tasks.cancel_join_thread()  # what nobody will take need not be written
-    for number, mutant in enumerate(waiting):
-        tasks.put((number, mutant))
-    workers = []
-    for number in range(jobs):
-        tasks.put(None)
-        workers.append(context.Process(target=work, daemon=True,
-                                       args=(folder / ("worker%d" % number), suites, tasks, answers)))
-        workers[-1].start()
-    for _ in waiting:
-        while True:
-            try:
-                number, status, by = answers.get(timeout=5)
-                break
-            except queue.Empty:
-                if any(worker.exitcode for worker in workers):
-                    raise SystemExit("a worker has ended")
-        yield waiting[number], status, by
-    for worker in workers:
-        worker.join()
+    """try_all yields each mutant with its status and the suite that noticed it."""
+    shutil.rmtree(folder, ignore_errors=True)
+    pool = concurrent.futures.ProcessPoolExecutor(jobs, multiprocessing.get_context("fork"), start_worker,
+                                                  (suites, folder))
+    try:
+        for mutant, result in zip(waiting, pool.map(work, waiting)):
+            yield mutant, *result
+    finally:
+        pool.shutdown(cancel_futures=True)
 
 
 def shown(mutant):
@@ -143,27 +127,26 @@ def arguments(command, what, folder):
     parser.add_argument("--build", default="build/gcc", help="build folder, with tests (default: %(default)s)")
     parser.add_argument("--files", nargs="+", default=["*"], metavar="PATTERN",
                         help='files of %s to change, such as "*/hosts.cpp"' % folder)
-    parser.add_argument("--sample", type=int, metavar="N", help="try N of the mutants only")
-    parser.add_argument("--seed", type=int, default=1, help="which N (default: %(default)s)")
-    parser.add_argument("--jobs", type=int, default=1, help="mutants tried at a time (default: %(default)s)")
-    parser.add_argument("--list", action="store_true", help="list the mutants and what is known of them, try none")
-    parser.add_argument("--fresh", action="store_true", help="forget earlier results")
+    parser.add_argument("--sample", type=int, metavar="N", help="try only N of the mutants")
+    parser.add_argument("--seed", type=int, default=1, help="seed of the choice of N (default: %(default)s)")
+    parser.add_argument("--jobs", type=int, default=1, help="mutants tried at the same time (default: %(default)s)")
+    parser.add_argument("--list", action="store_true", help="list the mutants and their known results; try none")
     parser.add_argument("--equivalents", action="store_true",
-                        help="try those that are listed as equivalent too: none may be noticed")
+                        help="try the mutants that are listed as equivalent: no test may notice one")
     return parser.parse_args()
 
 
 def folder_of(given, build, name):
-    """folder_of makes the folder for the work. A test and a full run can stand beside each other."""
+    """folder_of creates the folder for the work. A sample and a full run have different ones and can run at once."""
     folder = (build if given.sample is not None else build.parent) / name
     folder.mkdir(parents=True, exist_ok=True)
     return folder
 
 
 def conduct(given, every, listed, results, least, try_all):
-    """conduct has all chosen mutants tried of which the result is not known, and tells what became of them."""
+    """conduct tries the chosen mutants without a known result, and reports on all of them."""
     signal.signal(signal.SIGTERM, lambda number, frame: sys.exit(128 + number))
-    if given.fresh or given.sample is not None:
+    if given.sample is not None:
         results.known = {}
     equivalents = Listed(ROOT / "tests/mutation" / listed, every, NAMED)
     chosen = [mutant for mutant in every if any(fnmatch.fnmatch(mutant.file, pattern) for pattern in given.files)]
@@ -200,15 +183,15 @@ def conduct(given, every, listed, results, least, try_all):
 def main():
     given = arguments("scripts/mutate", __doc__.splitlines()[0], "src/")
     sources = Sources(ROOT)
-    build = Build((ROOT / given.build).resolve(), sources)
+    build = LibraryBuild((ROOT / given.build).resolve(), sources)
     suites = Suites(build, sources)
-    build.bring_up_to_date(sorted(suites.programs))
+    build.bring_up_to_date("lib/" + LIBRARY, *("bin/" + name for name in suites.programs))
     folder = folder_of(given, build.folder, "mutate")
     programs = sorted(build.folder / "bin" / name for name in suites.programs)
     results = Results(folder / "results.json", sources.text, programs)
     every = [mutant for file in sources.files for mutant in mutants(file, sources.text[file])]
     return conduct(given, every, "equivalent.txt", results, LEAST_SCORE,
-                   lambda waiting: try_all(waiting, suites, given.jobs, folder))
+                   lambda waiting: try_all(waiting, suites, given.jobs, folder / "workers"))
 
 
 def report(chosen, results, equivalents, tried, seconds, given, least):
@@ -234,7 +217,7 @@ def report(chosen, results, equivalents, tried, seconds, given, least):
         return 1 if survivors else 0
     stale = equivalents.stale(given.files)
     for entry in stale:
-        print("no such mutant any more: " + entry)
+        print("fits no mutant: " + entry)
     return 1 if score < least or stale else 0
 
 

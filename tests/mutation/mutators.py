@@ -1,6 +1,6 @@
 """The ways in which a source file is changed, one at a time.
 
-Each mutator gives changes (first offset, last offset, replacement) of what it knows to change.
+Each mutator yields changes: the offset, the offset after the end, and the replacement.
 """
 
 import re
@@ -18,7 +18,7 @@ OPERATORS = {
 }
 UNARY = {"++": "--", "--": "++"}
 WORDS = {"true": "false", "false": "true", "nullptr": None, "__func__": '"nobody"'}
-# FUNCTION is the name of one that begins in the first column, or the empty name behind one.
+# FUNCTION matches the name of a function that begins in the first column, or the empty name after one.
 FUNCTION = re.compile(r"^(?:[a-z\[][^=;]*?(\w+)\(|\}\n|namespace)", re.MULTILINE)
 CODE = re.compile(r"OSTREL_[A-Z_]+$")
 CODES = ["OSTREL_VALID", "OSTREL_INVALID", "OSTREL_INVALID_VALUE", "OSTREL_OUT_OF_RANGE"]
@@ -26,7 +26,7 @@ NOT_CODES = {"OSTREL_MODEL", "OSTREL_ACCOUNT_REALM", "OSTREL_SETUP_REALM"}
 FLAGS = ["CT_UPPER", "CT_LOWER", "CT_DIGIT", "CT_CNTRL", "CT_PUNCT", "CT_SPACE", "CT_XLETTER", "CT_BLANK"]
 SETS = ["kDigits", "kAlnum", "kPppDigits", "kHexDigits", "kAsciiPrintable", "kLatin1Printable", "kIpv4",
         "kHost", "kUrl", "kHostPort", "kName", "kMail", "kDescription", "kDeviceName", "kRouterName", "kCisName"]
-# Words with which no statement begins that could be left out.
+# No statement that could be left out begins with one of these words.
 DECLARING = {"const", "constexpr", "static", "using", "namespace", "struct", "class", "enum", "extern",
              "inline", "explicit", "public", "private", "protected", "template", "typedef", "auto", "bool",
              "char", "int", "unsigned", "signed", "long", "short", "void", "double", "float", "return", "if",
@@ -39,13 +39,13 @@ class Mutant(NamedTuple):
     end: int
     replacement: str
     line: str      # the text of the line where it begins, without indentation and comments
-    change: str    # what a reader sees: "27 -> 28"; "#2" behind it for the second of the kind in the line
-    number: int    # of the line, for people
-    function: str  # in which it stands
-    above: str     # the text of the line above that holds more than a comment
+    change: str    # as shown to a reader: "27 -> 28", and "27 -> 28 #2" for the second such change in the line
+    number: int    # of the line
+    function: str  # that contains it
+    above: str     # the text of the nearest line above that is not only a comment
 
 
-# NAMED is what an entry of equivalent.txt may name, and the field that it is compared with.
+# NAMED maps the keys of an entry in equivalent.txt to the fields that they are compared with.
 NAMED = {"file": "file", "in": "function", "above": "above", "line": "line", "change": "change"}
 
 
@@ -104,7 +104,7 @@ def constants(found, text):
 
 
 def limits(found, text):
-    """limits changes single uses of a named number that has several."""
+    """limits changes one use of a named number that has several."""
     named = re.findall(r"constexpr (?:int|unsigned|std::size_t) (k\w+) =", text)
     for name in named:
         uses = [token for token in found if token.kind == "name" and token.text == name]
@@ -124,7 +124,7 @@ def codes(found, text):
 
 
 def is_comparison(found, first, last):
-    """is_comparison tells that what stands between is turned round by changing its one operator already."""
+    """is_comparison returns whether changing the one operator between these tokens already negates them."""
     if found[first].text == "!":
         return not any(token.text in ("&&", "||") for token in found[first:last])
     depth = 0
@@ -147,7 +147,7 @@ def conditions(found, text):
             continue
         last = closing(found, i + 1)
         first = i + 2
-        for j in range(first, last):  # behind what the statement declares
+        for j in range(first, last):  # after what the statement declares
             if found[j].text == ";":
                 first = j + 1
         if is_comparison(found, first, last):
@@ -170,7 +170,7 @@ def results(found, text):
 
 
 def is_effect(found, at):
-    """is_effect tells whether a call, an assignment or a step begins at that index."""
+    """is_effect returns whether a call, an assignment or a jump begins at that index."""
     token = found[at]
     if token.text in ("++", "--", "*", "continue", "break"):
         return True
@@ -183,7 +183,7 @@ def is_effect(found, at):
 
 
 def deletions(found, text):
-    brackets = []  # of each "(" that is open, whether a condition begins there
+    brackets = []  # for each open "(", whether it begins a condition
     guarded = False
     for i, token in enumerate(found):
         if token.text == "(":
@@ -191,9 +191,9 @@ def deletions(found, text):
         elif token.text == ")":
             guarded = brackets.pop()
         before = found[i - 1].text
-        behind_condition = before == ")" and guarded
-        begins = (before in (";", "{", "}", "else") and True not in brackets) or behind_condition
-        if not begins or not (is_effect(found, i) or (token.text == "return" and behind_condition)):
+        after_condition = before == ")" and guarded
+        begins = (before in (";", "{", "}", "else") and True not in brackets) or after_condition
+        if not begins or not (is_effect(found, i) or (token.text == "return" and after_condition)):
             continue
         last = statement_end(found, i)
         if last is not None:
@@ -209,7 +209,7 @@ def shown(text):
 
 
 def mutants(file, text, mutators=tuple(MUTATORS)):
-    """mutants gives every mutant of a file, in the order of its text."""
+    """mutants yields every mutant of a file, in the order of its text."""
     found = tokens(text)
     made = {}
     for mutator in mutators:

@@ -1,4 +1,4 @@
-"""What is changed in a source file, and what is left alone."""
+"""What is changed in a source file, and what is not."""
 
 import pathlib
 import sys
@@ -69,7 +69,7 @@ class ListOfEquivalents(unittest.TestCase):
             return made, Listed(path, made, NAMED)
 
     def test_entries_name_the_line_by_its_text(self):
-        made, known = self.read("# why not\n\nfile: src/a.cpp\nline: a <= 63;\nchange: 63 -> 62\n"
+        made, known = self.read("# a comment\n\nfile: src/a.cpp\nline: a <= 63;\nchange: 63 -> 62\n"
                                 "change: 63 -> 64\nwhy: for a\n  reason\n")
         self.assertEqual([False, False, True, True], [mutant in known for mutant in made])
         self.assertEqual([], known.stale(["*"]))

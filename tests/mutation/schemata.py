@@ -1,7 +1,7 @@
-"""One source file with all its changes in it: which of them is in force is chosen when the program runs.
+"""One source file with all its changes: the program selects one of them when it runs.
 
-A function gets a body for each change inside it, a check of a list becomes a function that is called where it stood, and
-so does a constant of a namespace.
+A function gets a body for each change inside it. A check in a list, and a constant of a namespace, become functions
+that are called in their place.
 """
 
 import re
@@ -22,7 +22,7 @@ KINDS = {
 
 
 class Region(NamedTuple):
-    """Region is a piece of text that stands in the made file once for each of its changes."""
+    """Region is a piece of text that the generated file contains once for each change inside it."""
     kind: str
     start: int
     end: int
@@ -30,7 +30,7 @@ class Region(NamedTuple):
 
 
 def first_of(found, texts):
-    """first_of gives the index of the first of these tokens that is not inside brackets."""
+    """first_of returns the index of the first of these tokens outside brackets."""
     i = 0
     while i < len(found):
         if found[i].text in texts:
@@ -40,7 +40,7 @@ def first_of(found, texts):
 
 
 def checks(found, at, last):
-    """checks gives the elements of the list of checks that a function returns."""
+    """checks yields the elements of the list of checks that a function returns."""
     while at < last and (found[at].text != "return" or found[at + 1].text != "{"):
         at += 1
     if at < last:
@@ -54,7 +54,7 @@ def checks(found, at, last):
 
 
 def constant(head, end):
-    """constant gives the constant that is defined there, if one is."""
+    """constant returns the constant that is defined there, in a list that is empty without one."""
     at = first_of(head, "=[{(")
     if not head or head[0].text not in ("const", "constexpr") or at is None or \
             head[at].text == "(" and head[at + 1].kind != "string":
@@ -63,8 +63,8 @@ def constant(head, end):
 
 
 def regions(found):
-    i = first = 0  # the token at hand, and the first of the declaration in which it stands
-    inside = []    # of each bracket that is open, whether it is a namespace's
+    i = first = 0  # the current token, and the first one of its declaration
+    inside = []    # for each open bracket, whether it is that of a namespace
     while i < len(found):
         text, head = found[i].text, found[first:i]
         if text in "([":
@@ -95,11 +95,11 @@ def regions(found):
 
 
 def with_all(text, numbered, kept):
-    """with_all gives the text with the mutants of these numbers in it, and the numbers of those that it cannot take.
+    """with_all returns the text with all of these mutants, and the numbers of those that no region contains.
 
-    kept are the names of constants that stay as they are.
+    The constants in kept remain constants.
     """
-    # An assertion would need constants, and holds for all of them.
+    # A static assertion would need the constants, which become functions.
     text = re.sub(r"static_assert\([^;]*;", lambda found: " " * len(found.group()), text)
     mutants_of = {region: [] for region in regions(tokens(text)) if region.name not in kept}
     others = []
@@ -134,7 +134,7 @@ def with_all(text, numbered, kept):
 
 
 def owners(text):
-    """owners gives the number of the mutant that each line belongs to, or 0."""
+    """owners returns the number of the mutant that each line belongs to, or 0."""
     number, made = 0, [0]
     for line in text.splitlines():
         match = MARK.match(line)

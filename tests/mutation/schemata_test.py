@@ -1,4 +1,4 @@
-"""What stands in a file with all its changes in it."""
+"""A file with all its changes, and what selects one of them."""
 
 import re
 import unittest

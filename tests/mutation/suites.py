@@ -1,4 +1,4 @@
-"""The tests that judge a changed library, the likeliest to notice first."""
+"""The tests that judge a changed library, the most likely to notice first."""
 
 import ctypes
 import os
@@ -15,16 +15,16 @@ import vectors  # noqa: E402  it is there
 LIBC = ctypes.CDLL(None)
 DIE_WITH_PARENT = 1
 
-# Files whose own program has another name.
+# Files whose test program has another name.
 PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test"}
-# A program that compares times: with a limit of processor time that time is counted in coarse ticks, and a busy
-# machine may make it fail, so that a failure counts when it repeats itself.
+# This program compares times. A limit of processor time would make the clock coarse, and a busy machine can make the
+# program fail, so only repeated failures count.
 TIMED = {"subnets_test"}
 EVERY_VECTOR = ("vectors_test", "*")
 
 
 class Suites:
-    """Suites are pairs of a program and a filter of its tests."""
+    """Suites selects suites: pairs of a program and a filter of its tests."""
 
     def __init__(self, build, sources):
         self.build = build
@@ -48,7 +48,7 @@ class Suites:
         return programs
 
     def own(self, file):
-        """own returns those of the module, and of the modules in the same folder of src/."""
+        """own returns the suites of the module, and of the modules in the same folder of src/."""
         module = pathlib.PurePath(file).relative_to("src").with_suffix("")
         names = [str(module), *(name for name in self.vectors if name.startswith(f"{module.parent}/"))]
         found = [("vectors_test", name + ".*") for name in names if name in self.vectors]
@@ -56,12 +56,12 @@ class Suites:
         return list(dict.fromkeys(found))
 
     def nearest(self, mutant):
-        """nearest returns the vectors of the exported function that is changed."""
+        """nearest returns the vectors of the exported function that contains the change."""
         return [("vectors_test", f"{module}.{mutant.function}") for module, checks in self.vectors.items()
                 if mutant.function in checks]
 
     def of(self, file):
-        """of gives those that can notice a change of the file."""
+        """of returns the suites that can notice a change of the file."""
         found = self.own(file)
         users = self.sources.dependent(file)
         if len(users) > 12:
@@ -74,7 +74,7 @@ class Suites:
         return found
 
     def passes(self, suite, workshop, seconds, library=None):
-        """passes tells whether all tests pass within that much processor time."""
+        """passes returns whether all tests pass within that much processor time."""
         tries = 3 if suite[0] in TIMED else 1
         return any(self.run(suite, workshop, seconds, library) for _ in range(tries))
 
@@ -108,10 +108,10 @@ class Suites:
             process.wait()
 
     def measure(self, suite, workshop):
-        """measure gives the limit for a suite: five times the processor time that it takes with the library as it is."""
+        """measure returns the limit for a suite: five times its processor time with the unchanged library, and 2 s."""
         before = resource.getrusage(resource.RUSAGE_CHILDREN)
         if not self.passes(suite, workshop, 300, self.build.folder / "lib"):
-            raise SystemExit("%s %s fails with the library as it is" % suite)
+            raise SystemExit("%s %s fails with the unchanged library" % suite)
         after = resource.getrusage(resource.RUSAGE_CHILDREN)
         used = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
         return 2 + int(5 * used)

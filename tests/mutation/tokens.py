@@ -1,4 +1,4 @@
-"""The tokens of a C++ source file, and what of them may change."""
+"""The tokens of a C++ source file that may be changed."""
 
 import re
 from typing import NamedTuple
@@ -26,19 +26,19 @@ class Token(NamedTuple):
 
 
 def without_directives(text):
-    """without_directives blanks preprocessor lines, so that offsets stay."""
+    """without_directives blanks preprocessor lines, which keeps offsets."""
     pattern = re.compile(r"^[ \t]*#(?:[^\n\\]|\\.|\\\n)*", re.MULTILINE)
     return pattern.sub(lambda found: re.sub(r"[^\n]", " ", found.group()), text)
 
 
 def without_comments(text):
-    """without_comments blanks comments, so that offsets stay."""
+    """without_comments blanks comments, which keeps offsets."""
     return PATTERN.sub(lambda found: re.sub(r"[^\n]", " ", found.group()) if found.lastgroup == "comment"
                        else found.group(), text)
 
 
 def tokens(text):
-    """tokens gives all tokens but comments and white space; attributes and static assertions are left out."""
+    """tokens returns all tokens except comments, white space, attributes and static assertions."""
     text = without_directives(text)
     found = []
     for match in PATTERN.finditer(text):
@@ -66,8 +66,8 @@ def without_attributes(found):
     kept = []
     depth = 0  # 0: outside
     for i, token in enumerate(found):
-        behind = found[i + 1] if i + 1 < len(found) else token
-        if depth == 0 and token.text == "[" and behind.text == "[":
+        following = found[i + 1] if i + 1 < len(found) else token
+        if depth == 0 and token.text == "[" and following.text == "[":
             depth = 1
         if depth == 0:
             kept.append(token)
@@ -77,7 +77,7 @@ def without_attributes(found):
 
 
 def closing(found, at):
-    """closing gives the index of the bracket that closes the one at that index."""
+    """closing returns the index of the bracket that closes the one at that index."""
     depth = 0
     for i in range(at, len(found)):
         if found[i].text in "([{":
@@ -90,7 +90,7 @@ def closing(found, at):
 
 
 def statement_end(found, at):
-    """statement_end gives the index of the ";" that ends the statement which begins at that index."""
+    """statement_end returns the index of the ";" that ends the statement at that index, or None."""
     i = at
     while found[i].text != ";":
         i = closing(found, i) if found[i].text in "([{" else i
