@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""Makes what the extensions have of the list of checks.
+"""Generates the files of the extensions that depend on the list of checks.
 
 usage: generate.py LIST FOLDER
 
-LIST is what "ostrel-check list --json" prints, FOLDER where sql/ is, or a copy of its folders.
+LIST is the output of "ostrel-check list --json". FOLDER is sql/, or a copy of it.
 """
 
 import json
@@ -12,10 +12,10 @@ import sys
 
 KINDS = {"text": "kText", "buffer": "kBuffer", "blocks": "kBlocks", "integer": "kInteger",
          "unsigned": "kUnsigned", "integer_out": "kOutputInteger"}
-LETTERS = {"kText": "t", "kBuffer": "b", "kBlocks": "b", "kInteger": "i", "kUnsigned": "u", "kOutputText": "b",
-           "kOutputInteger": "o"}
+PASSED = {"kText": "at[%d].text", "kBuffer": "at[%d].buffer", "kBlocks": "at[%d].buffer", "kInteger": "at[%d].integer",
+          "kUnsigned": "at[%d].natural", "kOutputText": "at[%d].buffer", "kOutputInteger": "&at[%d].integer"}
 
-# SQL does not tell upper case from lower case in the names of functions.
+# SQL ignores case in the names of functions.
 OTHER_SQL_NAMES = {"Param_check_bool_value": "param_check_bool_value_branding",
                    "Param_check_string_len": "param_check_string_len_signed"}
 
@@ -26,7 +26,7 @@ def kind_of(argument):
 
 
 def texts_of(argument):
-    """texts_of tells how many values SQL gives for an argument."""
+    """texts_of returns how many values SQL passes for an argument."""
     return 0 if kind_of(argument).startswith("kOutput") else argument.get("blocks", 1)
 
 
@@ -41,7 +41,7 @@ def hindrance_of(check):
     steps = list(steps_of(check["steps"]))
     if any(step["step"] == "never_return" for step in steps):
         return "kNeverReturns"
-    # The driver is asked with a command of its own.
+    # The wireless driver is asked with a shell command.
     if any("wireless driver" in step["text"] for step in steps):
         return "kRunsShell"
     return "kNone"
@@ -51,6 +51,11 @@ def sql_name(check):
     return OTHER_SQL_NAMES.get(check["name"], check["name"].lower())
 
 
+def call(check):
+    passed = ", ".join(PASSED[kind_of(argument)] % i for i, argument in enumerate(check["arguments"]))
+    return "static int call_%s(OstrelSlot* at) { return %s(%s); }\n" % (check["name"], check["name"], passed)
+
+
 def row(check):
     def member(argument):
         return '{"%s", %s, %s, %d, %d}' % (
@@ -58,17 +63,16 @@ def row(check):
             argument.get("blocks", 1), argument.get("block_size", 0))
 
     arguments = check["arguments"]
-    shape = "".join(LETTERS[kind_of(argument)] for argument in arguments)
-    return '{"%s", "%s", %d, %d, {%s}, %s, %s, kShape%s, {.%s = %s}},\n' % (
+    return '    {"%s", "%s", %d, %d, {%s}, %s, %s, call_%s},\n' % (
         check["name"], sql_name(check), sum(map(texts_of, arguments)), len(arguments),
         ", ".join(map(member, arguments)), "true" if check["answers"] == "number" else "false",
-        hindrance_of(check), shape.capitalize(), shape, check["name"])
+        hindrance_of(check), check["name"])
 
 
 ATTRIBUTES = "LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE;\n"
 POSTGRESQL_TYPES = {"kInteger": "integer", "kUnsigned": "bigint"}
 
-# The functions that take the name of a check, and what they return of texts and of bytes.
+# The functions that take the name of a check, and what they return for texts and for bytes.
 QUESTIONS = {"ostrel_code": ("integer", "integer"), "ostrel_valid": ("boolean", "boolean"),
              "ostrel_reason": ("jsonb", "jsonb"), "ostrel_line": ("text", "bytea"), "ostrel_after": ("jsonb", "jsonb")}
 
@@ -104,10 +108,11 @@ def main():
     names = [sql_name(check) for check in checks]
     same = {name for name in names if names.count(name) > 1}
     if same:
-        sys.exit("several checks would be the SQL function " + ", ".join(sorted(same)))
+        sys.exit("several checks would have the SQL name " + ", ".join(sorted(same)))
     made = "/* Made by sql/generate.py. */\n"
     functions = ("OSTREL_CHECK(%d, %s)\n" % (i, check["name"]) for i, check in enumerate(checks))
-    files = {"common/checks.inc": made + "".join(map(row, checks)),
+    table = "\nconst OstrelCheck ostrel_checks[] = {\n" + "".join(map(row, checks)) + "};\n"
+    files = {"common/checks.inc": made + "".join(map(call, checks)) + table,
              "postgresql/functions.inc": made + "".join(functions),
              "postgresql/ostrel--1.0.sql": postgresql_script(checks)}
     for name, text in files.items():

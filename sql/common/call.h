@@ -1,28 +1,21 @@
-/* Calls: the arguments of one call in memory of their own. */
+/* What judge.c asks the descriptions about a call. */
 #ifndef OSTREL_SQL_CALL_H
 #define OSTREL_SQL_CALL_H
 
 #include "sql/common/judge.h"
 
-/* kUnwritten is what a number that is only written holds before the call: none that a check writes. */
+/* OSTREL_UNWRITTEN is the value of an output number before the call. No check writes it. */
 #define OSTREL_UNWRITTEN (-2147483647 - 1)
-
-typedef struct {
-    const char* text;
-    char* buffer; /* of malloc, or NULL */
-    int integer;
-    unsigned natural;
-} OstrelSlot;
 
 #ifdef __cplusplus
 extern "C" {
 #endif
 
-/* ostrel_room says how many bytes a buffer must have in this call; 0 where there is no memory to tell. */
+/* ostrel_room returns how many bytes a buffer must have in this call, or 0 if it runs out of memory. */
 size_t ostrel_room(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
                    unsigned argument);
 
-/* ostrel_explain makes the text of the wish, with malloc. False: there is no memory for it. */
+/* ostrel_explain allocates the text that is wanted, and returns false if it runs out of memory. */
 bool ostrel_explain(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
                     OstrelWish wish, OstrelAnswer* answer);
 

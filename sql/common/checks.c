@@ -3,10 +3,8 @@
 #include <ostrel/check.h>
 #include <string.h>
 
-/* In the order of their names, byte by byte. */
-const OstrelCheck ostrel_checks[] = {
+/* Made by sql/generate.py, in the order of the bytes of the names. */
 #include "sql/common/checks.inc"
-};
 
 const size_t ostrel_check_count = sizeof ostrel_checks / sizeof ostrel_checks[0];
 

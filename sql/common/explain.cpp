@@ -1,4 +1,4 @@
-// Room and reasons, from the descriptions. C++ ends here: no exception leaves, and what is returned is C's.
+// Room and reasons, from the descriptions. This is the interface between C++ and C: no exception leaves it.
 
 #include <algorithm>
 #include <cstdlib>
@@ -85,7 +85,7 @@ std::string after(const OstrelCheck& check, const OstrelSlot* slots)
     return out.empty() ? "[]" : out + "]";
 }
 
-// lengths is all that is told of a call in which a value is not to be shown.
+// lengths returns all that may be shown of a call with a secret.
 std::string lengths(const OstrelCheck& check, const OstrelText* given)
 {
     std::string out;
@@ -104,7 +104,7 @@ std::string lengths(const OstrelCheck& check, const OstrelText* given)
     return out;
 }
 
-// reason is empty where finding it would take too long.
+// reason returns an empty text or object if finding the reason would take too long.
 std::string reason(const OstrelCheck& called, const OstrelText* given, const OstrelSlot* slots,
                    OstrelWish wish, int code)
 {

@@ -1,8 +1,8 @@
 /*
- * The host: included before each source of the library, so that what it prints goes to print.c.
+ * The host: included before each source of the library, which then prints with print.c.
  *
- * A database's process has threads, and a standard output of its own, which the library would print to and flush. Here
- * it calls functions of these names in their place. No stream is touched, and no shell is run.
+ * A database's process has threads, and a standard output that the library must not print to or flush. These names
+ * replace the C library's functions. No stream is used, and no shell is run.
  */
 #ifndef OSTREL_SQL_HOST_H
 #define OSTREL_SQL_HOST_H
@@ -18,12 +18,12 @@ extern "C" {
 #endif
 
 __attribute__((format(printf, 1, 0))) int ostrel_host_vprintf(const char* format, va_list arguments);
-/* The library's one trace to standard error is discarded. */
+/* The library's one message to standard error is discarded. */
 __attribute__((format(printf, 2, 3))) int ostrel_host_fprintf(FILE* stream, const char* format, ...);
 int ostrel_host_putchar(int c);
 int ostrel_host_puts(const char* text);
 int ostrel_host_fflush(FILE* stream);
-/* Nothing is run. The check that would is refused before. */
+/* Nothing is run. The check that would run a shell is never called. */
 int ostrel_host_system(const char* command);
 
 #ifdef __cplusplus
@@ -45,7 +45,7 @@ using ::ostrel_host_vprintf;
 #define fflush ostrel_host_fflush
 #define system ostrel_host_system
 
-/* The two utilities of a gateway's process are not looked for in a database's. */
+/* A database's process does not have the two utilities of a gateway. */
 #define cmsUtl_strcmp ostrel_host_has_no_strcmp
 #define htmlToText ostrel_host_has_no_conversion
 #endif

@@ -20,7 +20,7 @@ __attribute__((format(printf, 3, 4))) static bool fail(OstrelFault* fault, Ostre
     return false;
 }
 
-/* is_name tells whether a text can stand in a message: SQL may give any bytes where a name belongs. */
+/* is_name returns whether a message can contain a text. SQL may pass any bytes in place of a name. */
 static bool is_name(const char* text, size_t size)
 {
     static const char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
@@ -82,7 +82,7 @@ static bool read_integer(const OstrelText* given, long long lowest, long long hi
     return end == given->bytes + given->size && end[-1] >= '0' && *number >= lowest && *number <= highest;
 }
 
-/* load_value takes what SQL gives for an argument; a buffer gets its room in load_buffer. */
+/* load_value takes a value that SQL passes. load_buffer allocates the buffers. */
 static bool load_value(const OstrelCheck* check, const OstrelArgument* argument, const OstrelText* given,
                        OstrelSlot* slot, OstrelFault* fault)
 {
@@ -119,7 +119,7 @@ static bool load_value(const OstrelCheck* check, const OstrelArgument* argument,
     return false;
 }
 
-/* load_buffer copies the texts of an argument that the check writes to. False: there is no memory for it. */
+/* load_buffer copies the texts of an argument that the check writes to, and returns false without memory. */
 static bool load_buffer(const OstrelCheck* check, const OstrelText* given, const OstrelText* own,
                         OstrelSlot* slots, unsigned i)
 {
@@ -167,45 +167,13 @@ static bool load(const OstrelCheck* check, const OstrelText* given, OstrelSlot* 
     return true;
 }
 
-static int call(const OstrelCheck* check, OstrelSlot* at)
-{
-    const OstrelFunction function = check->function;
-    switch (check->shape) {
-        case kShapeB:
-            return function.b(at[0].buffer);
-        case kShapeBb:
-            return function.bb(at[0].buffer, at[1].buffer);
-        case kShapeIitt:
-            return function.iitt(at[0].integer, at[1].integer, at[2].text, at[3].text);
-        case kShapeIui:
-            return function.iui(at[0].integer, at[1].natural, at[2].integer);
-        case kShapeT:
-            return function.t(at[0].text);
-        case kShapeTb:
-            return function.tb(at[0].text, at[1].buffer);
-        case kShapeTi:
-            return function.ti(at[0].text, at[1].integer);
-        case kShapeTii:
-            return function.tii(at[0].text, at[1].integer, at[2].integer);
-        case kShapeTo:
-            return function.to(at[0].text, &at[1].integer);
-        case kShapeTt:
-            return function.tt(at[0].text, at[1].text);
-        case kShapeTtt:
-            return function.ttt(at[0].text, at[1].text, at[2].text);
-        case kShapeTttt:
-            return function.tttt(at[0].text, at[1].text, at[2].text, at[3].text);
-        case kShapeTuu:
-            return function.tuu(at[0].text, at[1].natural, at[2].natural);
-    }
-    return 0;
-}
-
 bool ostrel_judge(const OstrelCheck* check, const OstrelText* given, OstrelWish wish, OstrelAnswer* answer,
                   OstrelFault* fault)
 {
-    if (check->shape == kShapeT && wish == kCode && memchr(given->bytes, '\0', given->size) == NULL) {
-        answer->code = check->function.t(given->bytes); /* what most calls are */
+    const bool is_one_text = check->count == 1 && check->arguments[0].kind == kText;
+    if (is_one_text && wish == kCode && memchr(given->bytes, '\0', given->size) == NULL) {
+        OstrelSlot slot = {given->bytes, NULL, 0, 0};
+        answer->code = check->call(&slot); /* as in most calls */
         return true;
     }
     OstrelSlot slots[kMostArguments];
@@ -215,7 +183,7 @@ bool ostrel_judge(const OstrelCheck* check, const OstrelText* given, OstrelWish 
     if (is_told) {
         OstrelPrints prints = {NULL, 0, 0, false};
         if (wish == kLine) ostrel_capture(&prints);
-        answer->code = call(check, slots);
+        answer->code = check->call(slots);
         if (wish == kLine) ostrel_capture(NULL);
         answer->text = prints.bytes;
         answer->size = prints.size;

@@ -1,25 +1,25 @@
 /*
- * Judging: one call of a check with the values that SQL gives. Nothing that the library prints leaves this call, no NULL
- * reaches the library, and several threads may judge at a time.
+ * Judging: a call of a check with the values that SQL passes. Nothing that the library prints leaves this call, no NULL
+ * reaches the library, and several threads may judge at the same time.
  */
 #ifndef OSTREL_SQL_JUDGE_H
 #define OSTREL_SQL_JUDGE_H
 
 #include "sql/common/checks.h"
 
-/* OstrelText is a value; a NUL byte stands after its last one. */
+/* OstrelText is a value, followed by a NUL byte. */
 typedef struct {
     const char* bytes;
     size_t size;
 } OstrelText;
 
-/* OstrelWish says which text is wanted beside the code. */
+/* OstrelWish is the text that is wanted in addition to the code. */
 typedef enum {
     kCode,    /* none */
     kLine,    /* what the check prints to standard output */
-    kAfter,   /* a JSON array of what each argument holds that the check may write to */
+    kAfter,   /* a JSON array with the contents of each argument that the check may write to */
     kReason,  /* the reason of a refusal as JSON */
-    kSentence /* the same as a sentence; where an argument is secret, lengths alone */
+    kSentence /* the same as a sentence; with a secret argument, only lengths */
 } OstrelWish;
 
 typedef struct {
@@ -33,7 +33,7 @@ typedef enum {
     kUnknownCheck,
     kTooFewValues,
     kTooManyValues,
-    kNotCalled, /* of the check's hindrance */
+    kNotCalled, /* because of the check's hindrance */
     kNoVerdict,
     kNulByte,
     kNotAnInteger,
@@ -43,7 +43,7 @@ typedef enum {
 
 enum { kMostMessage = 256 };
 
-/* OstrelFault is why SQL gets an error. Its message is one for people, without a value. */
+/* OstrelFault is the reason of an SQL error. Its message contains no value. */
 typedef struct {
     OstrelFaultKind kind;
     char message[kMostMessage];
@@ -54,18 +54,18 @@ extern "C" {
 #endif
 
 /*
- * ostrel_choose_check finds the check and tells whether it can be called with so many values. is_verdict: an answer that
- * is a number does not do. NULL: the fault says why.
+ * ostrel_choose_check returns the check if it can be called with so many values, or NULL and a fault. With is_verdict, a
+ * check that returns a number is a fault.
  */
 const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t values, bool is_verdict,
                                        OstrelFault* fault);
 
-/* ostrel_is_callable tells the same of a check that is known. */
+/* ostrel_is_callable returns the same for a known check. */
 bool ostrel_is_callable(const OstrelCheck* check, size_t values, bool is_verdict, OstrelFault* fault);
 
 /*
- * ostrel_judge calls a check that is callable. Where it returns true, ostrel_release frees what the answer has; where it
- * returns false, the fault says why.
+ * ostrel_judge calls a check that is callable. After true, the caller releases the answer with ostrel_release; after
+ * false, the fault says why.
  */
 bool ostrel_judge(const OstrelCheck* check, const OstrelText* given, OstrelWish wish, OstrelAnswer* answer,
                   OstrelFault* fault);

@@ -1,4 +1,4 @@
-/* Printing: what the library's sources call here in place of the C library's streams. */
+/* Printing: what the library's sources print is kept in memory. */
 #ifndef OSTREL_SQL_PRINT_H
 #define OSTREL_SQL_PRINT_H
 
@@ -6,13 +6,13 @@
 #include <stddef.h>
 
 typedef struct {
-    char* bytes; /* of malloc, or NULL; a NUL byte stands after the last one */
+    char* bytes; /* allocated with malloc, or NULL; followed by a NUL byte */
     size_t size;
     size_t room;
-    bool is_lost; /* there was no memory for all of it */
+    bool is_lost; /* there was not enough memory for all of it */
 } OstrelPrints;
 
-/* ostrel_capture keeps what this thread prints from now on to standard output. NULL: it is discarded. */
+/* ostrel_capture keeps what this thread prints to standard output from now on. With NULL it is discarded. */
 void ostrel_capture(OstrelPrints* prints);
 
 #endif

@@ -1,7 +1,7 @@
 /*
- * ostrel: the checks as functions of PostgreSQL. docs/sql.md says what each is.
+ * ostrel: the checks as functions of PostgreSQL. docs/sql.md describes them.
  *
- * Whatever is raised as an error is raised here, after the call of the check has returned.
+ * Errors are raised only after the call of the check has returned.
  */
 #include "postgres.h"
 
@@ -13,7 +13,7 @@
 
 PG_MODULE_MAGIC;
 
-/* judge raises an error where the check is not to be called so. */
+/* judge raises an error if the check must not be called with these values. */
 static void judge(const OstrelCheck* check, const OstrelText* given, OstrelWish wish, OstrelAnswer* answer)
 {
     OstrelFault fault;
@@ -54,7 +54,7 @@ typedef struct {
     bool is_text;
 } OstrelCall;
 
-/* choose finds the check and keeps it for the next row of the same query, which mostly names the same one. */
+/* choose finds the check and keeps it for the next row of the query, which usually names the same one. */
 static const OstrelCheck* choose(FunctionCallInfo fcinfo, size_t count, bool is_verdict)
 {
     const text* name = PG_GETARG_TEXT_PP(0);
@@ -71,7 +71,7 @@ static const OstrelCheck* choose(FunctionCallInfo fcinfo, size_t count, bool is_
     return check;
 }
 
-/* prepare returns false where a value is NULL: STRICT does not look into the array. */
+/* prepare returns false if a value is NULL. STRICT does not apply to the elements of an array. */
 static bool prepare(FunctionCallInfo fcinfo, bool is_verdict, OstrelCall* call)
 {
     ArrayType* array = PG_GETARG_ARRAYTYPE_P(1);
@@ -129,7 +129,7 @@ Datum ostrel_reason(PG_FUNCTION_ARGS) { return answer_json(fcinfo, kReason); }
 
 Datum ostrel_after(PG_FUNCTION_ARGS) { return answer_json(fcinfo, kAfter); }
 
-/* ostrel_line returns what it was given: a text, or bytes. */
+/* ostrel_line returns the type of its values: text or bytea. */
 Datum ostrel_line(PG_FUNCTION_ARGS)
 {
     OstrelCall call;
@@ -146,8 +146,8 @@ Datum ostrel_line(PG_FUNCTION_ARGS)
 }
 
 /*
- * ostrel_require returns true, or raises an error whose DETAIL is the reason. The server writes DETAIL to its log, so of
- * a check with a secret it tells lengths alone.
+ * ostrel_require returns true, or raises an error whose DETAIL is the reason. The server writes DETAIL to its log, so for
+ * a check with a secret it contains only lengths.
  */
 Datum ostrel_require(PG_FUNCTION_ARGS)
 {

@@ -1,8 +1,8 @@
 /*
- * ostrel: the checks as functions of SQLite. docs/sql.md says what each is.
+ * ostrel: the checks as functions of SQLite. docs/sql.md describes them.
  *
- * The functions are deterministic and touch nothing but their arguments, so that a CHECK constraint, an index and a
- * schema of unknown origin may use them.
+ * The functions are deterministic and use only their arguments, so that a CHECK constraint, an index and a schema of
+ * unknown origin may call them.
  */
 #include <sqlite3ext.h>
 #include <string.h>
@@ -15,12 +15,12 @@ SQLITE_EXTENSION_INIT1
 __attribute__((visibility("default"))) int sqlite3_ostrel_init(sqlite3* database, char** error,
                                                                const sqlite3_api_routines* api);
 
-/* OstrelQuestion is what a function that takes the name of a check answers. */
+/* OstrelQuestion is what a function with the name of a check as its argument returns. */
 typedef struct {
     const char* sql_name;
     OstrelWish wish;
-    bool is_verdict; /* a check that answers a number is an error */
-    bool is_valid;   /* what is answered is whether the code is 0 */
+    bool is_verdict; /* a check that returns a number is an error */
+    bool is_valid;   /* it returns whether the code is 0 */
 } OstrelQuestion;
 
 static const OstrelQuestion kQuestions[] = {
@@ -32,8 +32,8 @@ static const OstrelQuestion kQuestions[] = {
 static const OstrelQuestion kCodeAlone = {"", kCode, false, false};
 
 /*
- * take gets a value as bytes with a NUL byte after them: a blob as it is, a text as UTF-8, a number as the text that
- * SQLite makes of it. *copy is to be freed.
+ * take returns a value as bytes with a NUL byte after them: a blob unchanged, a text as UTF-8, a number as SQLite writes
+ * it. The caller frees *copy.
  */
 static bool take(sqlite3_value* value, int type, OstrelText* text, char** copy)
 {
@@ -105,7 +105,7 @@ static void call_check(sqlite3_context* context, int count, sqlite3_value** valu
     }
 }
 
-/* call_question is a function whose first argument names the check. SQLite keeps what a constant name has led to. */
+/* call_question is a function whose first argument names the check. SQLite keeps the check for a constant name. */
 static void call_question(sqlite3_context* context, int count, sqlite3_value** values)
 {
     const OstrelQuestion* const question = sqlite3_user_data(context);
