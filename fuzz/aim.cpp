@@ -6,7 +6,7 @@ namespace ostrel::fuzz {
 
 namespace {
 
-constexpr std::size_t kMostInputs = 16;  // that are kept for a step or a condition
+constexpr std::size_t kMostInputs = 16;  // kept for each step and condition
 
 }  // namespace
 
@@ -18,10 +18,10 @@ Aim::Aim(const rules::Check& check, std::vector<std::string> seeds, std::uint64_
 {
 }
 
-// First come the seeds as they are. Half of what follows is made of them, half of what met the least.
+// The seeds come first. Half of the other inputs are made of them, half of those that met the rarest.
 const std::string& Aim::next()
 {
-    if (seeds_given_ < seeds_.size()) return seeds_[seeds_given_++];
+    if (next_seed_ < seeds_.size()) return seeds_[next_seed_++];
     const Met* least = ++turn_ % 2 == 0 ? least_met() : nullptr;
     return least == nullptr ? mutator_.next()
                             : mutator_.next(least->inputs[turn_ / 2 % least->inputs.size()]);

@@ -1,5 +1,5 @@
-// Aim chooses the inputs of one function, so that every step and condition of its description is met often: inputs that
-// met one are kept, and those of what was met least are changed again.
+// Aim chooses the inputs of one function so that every step and condition of its description is met often. It keeps
+// inputs that met one, and changes those that met the rarest again.
 #ifndef OSTREL_FUZZ_AIM_H
 #define OSTREL_FUZZ_AIM_H
 
@@ -16,10 +16,10 @@ class Aim {
  public:
     Aim(const rules::Check& check, std::vector<std::string> seeds, std::uint64_t seed);
 
-    // next gives an input. It holds until the next one.
+    // next returns an input. It is valid until the next call.
     const std::string& next();
 
-    // learn is told of an input that was run, and of what has been counted since the last one.
+    // learn takes the counts after the run of an input.
     void learn(const std::string& input, const rules::Counts& counts);
 
  private:
@@ -33,7 +33,7 @@ class Aim {
 
     const rules::Check& check_;
     std::vector<std::string> seeds_;
-    std::size_t seeds_given_ = 0;
+    std::size_t next_seed_ = 0;
     oracle::Mutator mutator_;
     std::vector<Met> mets_;  // the steps, then the conditions
     std::uint64_t turn_ = 0;

@@ -1,5 +1,5 @@
-// fuzz_seeds OUT: writes each call of vectors/*.ndjson as an input into OUT/TARGET/, and the texts that are in the calls
-// and in the descriptions into OUT/TARGET.dict, a dictionary as libFuzzer and AFL++ read it.
+// fuzz_seeds OUT: writes each call of vectors/*.ndjson as an input to OUT/FAMILY/, and the texts of the calls and of the
+// descriptions to OUT/FAMILY.dict, a dictionary for libFuzzer and AFL++.
 
 #include <cstdio>
 #include <exception>
@@ -7,10 +7,9 @@
 #include <fstream>
 #include <set>
 
-#include "fuzz/judge.h"
+#include "fuzz/fuzzer.h"
 #include "oracle/harvest.h"
 #include "oracle/library.h"
-#include "rules/rules.h"
 #include "vectors/rows.h"
 
 namespace ostrel::fuzz {
@@ -19,7 +18,7 @@ namespace {
 
 constexpr std::size_t kLongestWord = 32;  // AFL++ takes words of up to 128 bytes, libFuzzer of up to 64
 
-// add_words takes a text, and the pieces of it that lists, addresses and zones are made of.
+// add_words adds a text, and its pieces between separators.
 void add_words(const std::string& text, std::set<std::string>& words)
 {
     std::string piece;
@@ -58,29 +57,29 @@ void write_dictionary(const std::filesystem::path& file, const std::set<std::str
     }
 }
 
-void make_seeds(const Target& target, const std::vector<vectors::Row>& rows, const std::filesystem::path& out)
+void make_seeds(std::string_view family, const std::vector<vectors::Row>& rows,
+                const std::filesystem::path& out)
 {
-    const Judge judge(target);
-    const std::filesystem::path folder = out / target.name;
+    const Fuzzer fuzzer(family);
+    const std::filesystem::path folder = out / family;
     std::filesystem::create_directories(folder);
     std::set<std::string> words;
     std::size_t count = 0;
     for (const vectors::Row& row : rows) {
         const calling::Case& given = row.given;
-        const auto input = judge.encode(*given.function, given.values);
+        const auto input = fuzzer.encode(*given.function, given.values);
         if (!input) continue;
         add_words(given, words);
         const auto file = folder / (std::to_string(++count) + "-" + std::string(given.function->name));
         std::ofstream(file, std::ios::binary) << *input;
     }
     for (const catalogue::Function& function : catalogue::functions()) {
-        if (!target.has(function)) continue;
-        for (const std::string& word :
-             oracle::harvest(*rules::find(function.name), oracle::library_build())) {
+        if (function.family != family) continue;
+        for (const std::string& word : oracle::harvest(*function.check, oracle::library_build())) {
             if (word.size() > 1 && word.size() <= kLongestWord) words.insert(word);
         }
     }
-    write_dictionary(out / (std::string(target.name) + ".dict"), words);
+    write_dictionary(out / (std::string(family) + ".dict"), words);
 }
 
 }  // namespace
@@ -95,7 +94,7 @@ int main(int argc, char** argv)
     }
     try {
         const auto rows = ostrel::vectors::read_cases();
-        for (const auto& target : ostrel::fuzz::targets()) ostrel::fuzz::make_seeds(target, rows, argv[1]);
+        for (const auto family : ostrel::fuzz::families()) ostrel::fuzz::make_seeds(family, rows, argv[1]);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "fuzz_seeds: %s\n", error.what());
         return 1;

@@ -1,4 +1,4 @@
-// Options of fuzz_replay, whose file says what they do.
+// Options of fuzz_replay.
 #ifndef OSTREL_FUZZ_OPTIONS_H
 #define OSTREL_FUZZ_OPTIONS_H
 
@@ -10,7 +10,7 @@
 
 namespace ostrel::fuzz {
 
-struct Options {
+struct ReplayOptions {
     std::size_t random = 0;
     std::size_t refusals = 0;
     std::uint64_t seed = 1;
@@ -21,8 +21,8 @@ struct Options {
     std::vector<std::filesystem::path> folders;
 };
 
-// read_options throws std::invalid_argument for what is not a number where one belongs.
-Options read_options(int argc, char** argv);
+// read_options ends the program after --help and for a wrong option.
+ReplayOptions read_options(int argc, char** argv);
 
 }  // namespace ostrel::fuzz
 

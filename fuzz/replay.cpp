@@ -1,14 +1,4 @@
-// fuzz_replay judges the calls of the vectors, kept inputs and random ones, without an engine.
-//
-//   fuzz_replay [--random COUNT] [--refusals COUNT] [--seed NUMBER] [--check NAME] [--with FILE] [--table FILE]
-//       [--floor TIMES] [FOLDER...]
-//
-// A FOLDER holds a folder of inputs for each target. COUNT inputs are made out of all of them, as many for each
-// function, or for NAME alone; with --refusals, so many that COUNT of them are refused, as many by each check that
-// refuses anything. How often each step and condition was met is written to the FILE of --table, what the one of --with
-// says of an earlier run included. Exits with 1 when the library and a description differ on any, when a reason lacks an
-// id or a sentence or does not hold what it says, and with --floor when one step or condition was met less often, or when
-// one step less has brought back no reason of some id.
+// fuzz_replay runs the calls of the vectors, kept inputs and random ones, without an engine.
 
 #include <algorithm>
 #include <chrono>
@@ -26,7 +16,6 @@
 #include "oracle/counts.h"
 #include "oracle/driver.h"
 #include "oracle/library.h"
-#include "rules/rules.h"
 
 namespace ostrel::fuzz {
 
@@ -34,13 +23,13 @@ using catalogue::Function;
 
 namespace {
 
-// Tally is printed at the end: the standard streams are captured as long as a judge lives.
-struct Tally {
+// Totals are printed at the end: the standard streams are captured as long as a fuzzer exists.
+struct Totals {
     std::size_t agreed = 0;
     std::size_t outside = 0;
     std::size_t failures = 0;
     std::size_t refused = 0;
-    std::size_t calls = 0;  // compared with the library, those included that reasons were followed to
+    std::size_t calls = 0;  // compared with the library, with those that reasons lead to
     std::string text;
     std::vector<std::string> unproven;
 
@@ -67,14 +56,15 @@ bool refuses(const std::vector<rules::Step>& steps)
 
 bool may_refuse(const Function& function) { return refuses(function.check->steps); }
 
-// Replay runs the inputs of one target.
+// Replay runs the inputs of one family.
 class Replay {
  public:
-    Replay(const Target& target, const Options& options, rules::Counts& counts, rules::Counts& further)
-        : options_(options), counts_(counts), further_(further), judge_(target)
+    Replay(std::string_view family, const ReplayOptions& options, rules::Counts& counts,
+           rules::Counts& further)
+        : options_(options), counts_(counts), further_(further), fuzzer_(family)
     {
         for (const auto& parent : options.folders) {
-            const auto folder = parent / target.name;
+            const auto folder = parent / family;
             if (!std::filesystem::is_directory(folder)) continue;
             std::set<std::filesystem::path> files;
             for (const auto& file : std::filesystem::directory_iterator(folder)) files.insert(file.path());
@@ -87,17 +77,17 @@ class Replay {
     {
         for (const vectors::Row& row : rows) {
             if (row.given.function != &function) continue;
-            const auto input = judge_.encode(function, row.given.values);
-            if (input && !judge_.decodes(*input, function, row.given.values))
-                tally_.fail("a call of " + std::string(function.name) + " comes out as another\n");
+            const auto input = fuzzer_.encode(function, row.given.values);
+            if (input && !fuzzer_.decodes(*input, function, row.given.values))
+                totals_.fail("a call of " + std::string(function.name) + " comes out as another\n");
         }
-        std::vector<std::string> inputs = seeds(judge_, function, rows);
+        std::vector<std::string> inputs = seeds(fuzzer_, function, rows);
         for (const std::string& input : kept_) {
-            if (&judge_.function(input) == &function) inputs.push_back(input);
+            if (&fuzzer_.function(input) == &function) inputs.push_back(input);
         }
         if (inputs.empty()) throw std::runtime_error("no inputs for " + std::string(function.name));
         random += inputs.size();
-        Aim aim(*rules::find(function.name), std::move(inputs), options_.seed);
+        Aim aim(*function.check, std::move(inputs), options_.seed);
         const auto next = [&] {
             const std::string& input = aim.next();
             run(input);
@@ -105,19 +95,19 @@ class Replay {
         };
         for (std::size_t i = 0; i < random; ++i) next();
         if (!may_refuse(function)) return;
-        // A check that refuses less than one call in a hundred is one that the inputs do not suit.
-        const std::size_t wanted = refusals == 0 ? 0 : judge_.refused() + refusals;
-        for (std::size_t i = 0; i < 100 * refusals && judge_.refused() < wanted; ++i) next();
-        if (judge_.refused() < wanted)
-            tally_.fail("too few refusals by " + std::string(function.name) + "\n");
+        // The inputs do not suit a check that refuses less than one of a hundred.
+        const std::size_t wanted = refusals == 0 ? 0 : fuzzer_.refused() + refusals;
+        for (std::size_t i = 0; i < 100 * refusals && fuzzer_.refused() < wanted; ++i) next();
+        if (fuzzer_.refused() < wanted)
+            totals_.fail("too few refusals by " + std::string(function.name) + "\n");
     }
 
-    Tally tally()
+    Totals totals()
     {
-        tally_.calls = judge_.calls() / 2;  // each is made with both edges
-        tally_.refused = judge_.refused();
-        tally_.unproven = judge_.follower().unproven();
-        return std::move(tally_);
+        totals_.calls = fuzzer_.calls() / 2;  // each is made with both edges
+        totals_.refused = fuzzer_.refused();
+        totals_.unproven = fuzzer_.follower().unproven();
+        return std::move(totals_);
     }
 
  private:
@@ -126,78 +116,66 @@ class Replay {
         const auto& builds = oracle::builds_with_channels();
         const rules::Build& build = builds[turn_++ % builds.size()];
         const oracle::Driver driver(build.channels.value());
-        switch (judge_.run(input, build, &counts_, &further_)) {
-            case Verdict::kAgreed:
-                ++tally_.agreed;
+        switch (fuzzer_.run(input, build, &counts_, &further_)) {
+            case RunResult::kAgreed:
+                ++totals_.agreed;
                 break;
-            case Verdict::kOutside:
-                ++tally_.outside;
+            case RunResult::kOutside:
+                ++totals_.outside;
                 break;
-            case Verdict::kDiffered:
-                tally_.fail(judge_.fault());
+            case RunResult::kDiffered:
+                totals_.fail(fuzzer_.fault());
                 break;
         }
-        if (driver.has_left_its_list()) tally_.fail("the list of channels is left\n");
+        if (driver.has_left_its_list()) totals_.fail("the list of channels is left\n");
     }
 
-    const Options& options_;
+    const ReplayOptions& options_;
     rules::Counts& counts_;
     rules::Counts& further_;
-    Judge judge_;
+    Fuzzer fuzzer_;
     std::vector<std::string> kept_;
     std::size_t turn_ = 0;
-    Tally tally_;
+    Totals totals_;
 };
 
-// require_targets throws when a function stands in none.
-void require_targets()
-{
-    for (const catalogue::Function& function : catalogue::functions()) {
-        const auto has = [&](const Target& target) { return target.has(function); };
-        if (!std::ranges::any_of(targets(), has)) {
-            throw std::logic_error("no target has " + std::string(function.name));
-        }
-    }
-}
-
-std::vector<const Function*> chosen(const Target& target, const Options& options)
+std::vector<const Function*> chosen(std::string_view family, const ReplayOptions& options)
 {
     std::vector<const Function*> result;
     for (const Function& function : catalogue::functions()) {
-        if (target.has(function) && (options.check.empty() || function.name == options.check))
+        if (function.family == family && (options.check.empty() || function.name == options.check))
             result.push_back(&function);
     }
     return result;
 }
 
-// are_met tells whether nothing is below the floor, and what is met least.
-bool are_met(const rules::Counts& counts, const rules::Counts& further, const Options& options)
+// are_met returns whether nothing is below the floor, and prints the rarest.
+bool are_met(const rules::Counts& counts, const rules::Counts& further, const ReplayOptions& options)
 {
-    std::vector<oracle::Counted> rows = oracle::table(counts);
-    const std::vector<oracle::Counted> more = oracle::table(further);
+    std::vector<oracle::StepCount> rows = oracle::table(counts);
+    const std::vector<oracle::StepCount> more = oracle::table(further);
     for (std::size_t i = 0; i < rows.size(); ++i) rows[i].times += more[i].times;
     if (!options.with.empty()) oracle::add_table(options.with, rows);
     if (!options.table.empty()) oracle::write_table(options.table, rows);
     if (!options.check.empty())
-        std::erase_if(rows,
-                      [&](const oracle::Counted& row) { return !row.what.starts_with(options.check + " "); });
-    std::ranges::sort(rows, {}, &oracle::Counted::times);
+        std::erase_if(
+            rows, [&](const oracle::StepCount& row) { return !row.what.starts_with(options.check + " "); });
+    std::ranges::sort(rows, {}, &oracle::StepCount::times);
     const auto below =
-        std::ranges::lower_bound(rows, options.floor, {}, &oracle::Counted::times) - rows.begin();
+        std::ranges::lower_bound(rows, options.floor, {}, &oracle::StepCount::times) - rows.begin();
     std::printf("%zu steps and conditions, %td met less than %llu times\n", rows.size(), below,
                 static_cast<unsigned long long>(options.floor));
     constexpr std::ptrdiff_t kMostTold = 50;
     for (std::ptrdiff_t i = 0; i < std::min(below, kMostTold); ++i) {
-        const oracle::Counted& row = rows[static_cast<std::size_t>(i)];
+        const oracle::StepCount& row = rows[static_cast<std::size_t>(i)];
         std::printf("%12llu %s\n", static_cast<unsigned long long>(row.times), row.what.c_str());
     }
     return below == 0;
 }
 
-bool run_all(const Options& options)
+bool run_all(const ReplayOptions& options)
 {
     const auto vectors = vectors::read_cases();
-    require_targets();
     rules::Counts counts;
     rules::Counts further;
     bool good = true;
@@ -208,30 +186,31 @@ bool run_all(const Options& options)
     std::size_t inputs = 0;
     std::size_t refused = 0;
     std::size_t calls = 0;
-    for (const Target& target : targets()) {
-        const auto all = chosen(target, options);
+    for (const std::string_view family : families()) {
+        const auto all = chosen(family, options);
         if (all.empty()) continue;
         const auto begin = std::chrono::steady_clock::now();
-        Tally tally;
+        Totals totals;
         {
-            Replay replay(target, options, counts, further);
+            Replay replay(family, options, counts, further);
             for (const Function* function : all)
                 replay.run(*function, vectors, options.random / functions, refusals_of_each);
-            tally = replay.tally();
+            totals = replay.totals();
         }
         const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
-        std::fputs(tally.text.c_str(), stdout);
+        std::fputs(totals.text.c_str(), stdout);
         std::printf("%-12.*s %9zu agreed %8zu outside %4zu failed %10zu calls %9.0f/s\n",
-                    static_cast<int>(target.name.size()), target.name.data(), tally.agreed, tally.outside,
-                    tally.failures, tally.calls, static_cast<double>(tally.calls) / took.count());
+                    static_cast<int>(family.size()), family.data(), totals.agreed, totals.outside,
+                    totals.failures, totals.calls, static_cast<double>(totals.calls) / took.count());
         std::fflush(stdout);
-        good = good && tally.failures == 0;
-        inputs += tally.agreed + tally.outside + tally.failures;
-        refused += tally.refused;
-        calls += tally.calls;
+        good = good && totals.failures == 0;
+        inputs += totals.agreed + totals.outside + totals.failures;
+        refused += totals.refused;
+        calls += totals.calls;
         if (options.floor == 0) continue;
-        for (const std::string& id : tally.unproven) std::printf("not brought back: %s\n", id.c_str());
-        good = good && tally.unproven.empty();
+        for (const std::string& id : totals.unproven)
+            std::printf("never met with one step less: %s\n", id.c_str());
+        good = good && totals.unproven.empty();
     }
     if (inputs == 0) throw std::invalid_argument("no function " + options.check);
     std::printf("%zu inputs, %zu refused, %s, %zu calls compared\n", inputs, refused,

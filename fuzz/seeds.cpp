@@ -6,7 +6,6 @@
 
 #include "oracle/harvest.h"
 #include "oracle/library.h"
-#include "rules/rules.h"
 
 namespace ostrel::fuzz {
 
@@ -15,21 +14,21 @@ using rules::Value;
 
 namespace {
 
-constexpr std::size_t kMostVaried = 4;  // of the calls, those that are accepted first
+constexpr std::size_t kMostVaried = 4;  // calls of which copies are changed; accepted ones come first
 
 class Seeds {
  public:
-    Seeds(const Judge& judge, const Function& function)
-        : judge_(judge),
+    Seeds(const Fuzzer& fuzzer, const Function& function)
+        : fuzzer_(fuzzer),
           function_(function),
-          check_(*rules::find(function.name)),
+          check_(*function.check),
           texts_(oracle::harvest(check_, oracle::library_build()))
     {
     }
 
     void add(const std::vector<Value>& values)
     {
-        if (auto input = judge_.encode(function_, values)) inputs_.push_back(std::move(*input));
+        if (auto input = fuzzer_.encode(function_, values)) inputs_.push_back(std::move(*input));
     }
 
     void vary(const std::vector<Value>& values)
@@ -67,7 +66,7 @@ class Seeds {
         return true;
     }
 
-    const Judge& judge_;
+    const Fuzzer& fuzzer_;
     const Function& function_;
     const rules::Check& check_;
     std::set<std::string> texts_;
@@ -77,11 +76,11 @@ class Seeds {
 
 }  // namespace
 
-std::vector<std::string> seeds(const Judge& judge, const Function& function,
+std::vector<std::string> seeds(const Fuzzer& fuzzer, const Function& function,
                                const std::vector<vectors::Row>& rows)
 {
     constexpr std::size_t kLong = 256;
-    Seeds result(judge, function);
+    Seeds result(fuzzer, function);
     std::size_t varied = 0;
     for (const bool is_accepted : {true, false}) {
         for (const vectors::Row& row : rows) {

@@ -1,4 +1,5 @@
-// One fuzzer, for the engines that call LLVMFuzzerTestOneInput: libFuzzer and AFL++.
+// The fuzzer for the engines that call LLVMFuzzerTestOneInput: libFuzzer and AFL++. OSTREL_FUZZ_FAMILY names the family
+// of checks.
 
 #include <unistd.h>
 
@@ -7,33 +8,36 @@
 #include <string>
 #include <vector>
 
-#include "fuzz/judge.h"
+#include "fuzz/fuzzer.h"
 #include "oracle/counts.h"
 #include "oracle/library.h"
 
 namespace {
 
-// The judge lives as long as the process: what it captures must not come to an end before the last call.
-ostrel::fuzz::Judge& judge()
+// The fuzzer is never destroyed, because it captures the output of the last call too.
+ostrel::fuzz::Fuzzer& fuzzer()
 {
-    static auto* const the_judge = new ostrel::fuzz::Judge(*ostrel::fuzz::find_target(OSTREL_FUZZ_TARGET));
-    return *the_judge;
+    static auto* const the_fuzzer = [] {
+        const char* const family = std::getenv("OSTREL_FUZZ_FAMILY");
+        return new ostrel::fuzz::Fuzzer(family == nullptr ? "" : family);
+    }();
+    return *the_fuzzer;
 }
 
-// Counts are written when the process ends, where OSTREL_FUZZ_TABLE names a file for them.
-class Table {
+// CountsFile writes the counts when the process ends, if OSTREL_FUZZ_TABLE names a file.
+class CountsFile {
  public:
-    ~Table()
+    ~CountsFile()
     {
-        std::vector<Counted> rows = ostrel::oracle::table(counts);
-        std::erase_if(rows, [](const Counted& row) { return row.times == 0; });
+        std::vector<StepCount> rows = ostrel::oracle::table(counts);
+        std::erase_if(rows, [](const StepCount& row) { return row.times == 0; });
         if (file_ != nullptr) ostrel::oracle::write_table(file_, rows);
     }
 
     ostrel::rules::Counts counts;
 
  private:
-    using Counted = ostrel::oracle::Counted;
+    using StepCount = ostrel::oracle::StepCount;
 
     const char* file_ = std::getenv("OSTREL_FUZZ_TABLE");
 };
@@ -43,17 +47,17 @@ class Table {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view input(reinterpret_cast<const char*>(data), size);
-    static Table table;
-    if (judge().run(input, ostrel::oracle::library_build(), &table.counts, &table.counts) !=
-        ostrel::fuzz::Verdict::kDiffered)
+    static CountsFile file;
+    if (fuzzer().run(input, ostrel::oracle::library_build(), &file.counts, &file.counts) !=
+        ostrel::fuzz::RunResult::kDiffered)
         return 0;
-    const std::string& fault = judge().fault();
-    // Standard error is captured.
+    const std::string& fault = fuzzer().fault();
+    // The stream of standard error is captured, and its descriptor is not.
     (void)!write(STDERR_FILENO, fault.data(), fault.size());
     std::abort();
 }
 
-// The library allocates nothing, so what the sanitizer would remember of allocations is of no use here.
+// The library allocates nothing, so the sanitizer need not record allocations.
 extern "C" const char* __asan_default_options();
 const char* __asan_default_options()
 {

@@ -14,13 +14,12 @@ using rules::Reason;
 
 namespace {
 
-constexpr std::size_t kEnough = 1000;  // steps less, of which one must have brought the reason back
+constexpr std::size_t kEnough = 1000;  // calls with one step less, of which one must have the same reason
 constexpr std::string_view kNobody = "no check has it: that none is met";
 constexpr std::string_view kPutBack = "what was refused, put back, is one step less";
+constexpr std::string_view kOutside = "the contract does not cover such a call, and it is not made";
 
 // In the order of ids.
-constexpr std::string_view kOutside = "the contract says nothing of such a call, and it is not made";
-
 constexpr Way kWays[] = {
     {"a_multiple", nullptr, kNobody},
     {"accepted", nullptr, kNobody},
@@ -99,7 +98,14 @@ bool is_same(const Answer& answer, const Reason& reason)
            other.part == reason.part && other.item == reason.item && other.offset == reason.offset;
 }
 
-// data_fault says where what the reason has found is not what is there, or its sentence has another number.
+// way_of returns NULL for an unknown id.
+const Way* way_of(std::string_view id)
+{
+    const auto* way = std::ranges::lower_bound(kWays, id, {}, &Way::id);
+    return way == std::end(kWays) || way->id != id ? nullptr : way;
+}
+
+// data_fault describes a reason that found something else than the value contains, or whose sentence has another number.
 std::string data_fault(const Refusal& refusal)
 {
     const Reason& reason = refusal.reason();
@@ -137,13 +143,12 @@ std::string Follower::follow(const rules::Check& check, const Values& values, co
 {
     const Reason& reason = answer.reason;
     const Refusal refusal(check, values, answer, turn_++);
-    const auto* way = std::ranges::lower_bound(kWays, reason.id, {}, &Way::id);
-    if (way == std::end(kWays) || way->id != reason.id || way->advise == nullptr)
-        return "no way to follow " + std::string(reason.id);
+    const Way* way = way_of(reason.id);
+    if (way == nullptr || way->advise == nullptr) return "no way to follow " + std::string(reason.id);
     if (const std::string fault = data_fault(refusal); !fault.empty()) return fault;
     Advice advice;
     way->advise(refusal, advice);
-    Tally& tally = tallies_[{check.name, reason.id}];
+    Less& less = less_[{check.name, reason.id}];
     std::string fault;
     fault_call_.clear();
     const auto answer_of = [&](const Values& call) {
@@ -156,13 +161,12 @@ std::string Follower::follow(const rules::Check& check, const Values& values, co
         if (fault_call_.empty()) fault_call_ = call;
     };
     for (const Values& call : advice.followed) {
-        ++tally.followed;
         if (is_same(answer_of(call), reason)) tell("comes back though it was followed", call);
     }
     for (const auto* calls : {&advice.less, &advice.attempts}) {
         for (const Values& call : *calls) {
             const Answer back = answer_of(call);
-            ++(is_same(back, reason) ? tally.came_back : tally.other);
+            ++(is_same(back, reason) ? less.same : less.other);
             const bool is_accepted = back.outside == Outside::kNo && !back.is_refusal;
             if (is_accepted && calls == &advice.less) tell("does not come back with one step less", call);
         }
@@ -173,10 +177,8 @@ std::string Follower::follow(const rules::Check& check, const Values& values, co
 std::vector<std::string> Follower::unproven() const
 {
     std::vector<std::string> result;
-    for (const auto& [of, tally] : tallies_) {
-        const auto* way = std::ranges::lower_bound(kWays, of.second, {}, &Way::id);
-        const bool is_tried = tally.came_back + tally.other >= kEnough;
-        if (!is_tried || !way->instead.empty() || tally.came_back > 0) continue;
+    for (const auto& [of, less] : less_) {
+        if (less.same > 0 || less.other < kEnough || !way_of(of.second)->instead.empty()) continue;
         result.push_back(std::string(of.first) + " " + std::string(of.second));
     }
     return result;

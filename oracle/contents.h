@@ -1,4 +1,4 @@
-// Contents: what accepted values contain, held against what docs/hazards.md says of an argument.
+// Contents: the bytes of accepted values, compared with what docs/hazards.md says about an argument.
 #ifndef OSTREL_ORACLE_CONTENTS_H
 #define OSTREL_ORACLE_CONTENTS_H
 
@@ -12,28 +12,28 @@
 
 namespace ostrel::oracle {
 
-// texts_of gives the texts that an argument holds.
+// texts_of returns the texts of an argument.
 std::vector<std::string> texts_of(const catalogue::Value& value);
 
 class Contents {
  public:
     explicit Contents(const catalogue::Function& function);
 
-    // fault names a byte that an accepted call has where there is said to be none; nothing: there is none. after is
-    // what each argument that can be written to holds, in order.
+    // fault names a byte of an accepted call at a place where docs/hazards.md has none; or returns an empty text. after
+    // is what each argument that the function may write to holds, in order.
     [[nodiscard]] std::string fault(std::span<const catalogue::Value> values,
                                     std::span<const catalogue::Value> after) const;
 
  private:
-    struct Said {
+    struct Exclusion {
         const catalogue::Exposure* exposure;
-        std::size_t output;  // among the arguments that can be written to
+        std::size_t output;  // its index among the arguments that the function may write to
         std::array<std::bitset<256>, catalogue::kPlaces.size()> never;
     };
-    [[nodiscard]] std::string fault(const Said& said, const std::string& text) const;
+    [[nodiscard]] std::string fault(const Exclusion& excluded, const std::string& text) const;
 
     const catalogue::Function& function_;
-    std::vector<Said> all_;
+    std::vector<Exclusion> all_;
 };
 
 }  // namespace ostrel::oracle

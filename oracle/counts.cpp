@@ -19,7 +19,7 @@ using rules::Step;
 
 namespace {
 
-// The kinds in their order.
+// In the order of the enumerations.
 constexpr std::string_view kSteps[] = {"refuse",   "accept", "print",    "skip",  "write",
                                        "remember", "when",   "for each", "reads", "never returns"};
 constexpr std::string_view kConditions[] = {"always",     "null",     "empty",     "shorter",     "longer",
@@ -30,9 +30,9 @@ constexpr std::string_view kConditions[] = {"always",     "null",     "empty",  
 static_assert(std::size(kSteps) == static_cast<std::size_t>(Step::Kind::kNeverReturns) + 1);
 static_assert(std::size(kConditions) == static_cast<std::size_t>(Condition::Kind::kAnyOf) + 1);
 
-class Table {
+class Lister {
  public:
-    Table(const Check& check, const Counts::OfCheck& of, std::vector<Counted>& rows)
+    Lister(const Check& check, const Counts::OfCheck& of, std::vector<StepCount>& rows)
         : check_(check), of_(of), rows_(rows)
     {
         add(check.steps);
@@ -73,33 +73,33 @@ class Table {
 
     const Check& check_;
     const Counts::OfCheck& of_;
-    std::vector<Counted>& rows_;
+    std::vector<StepCount>& rows_;
 };
 
 }  // namespace
 
-std::vector<Counted> table(const Counts& counts)
+std::vector<StepCount> table(const Counts& counts)
 {
-    std::vector<Counted> rows;
-    for (const Check& check : rules::checks()) Table(check, counts.checks[check.number], rows);
+    std::vector<StepCount> rows;
+    for (const Check& check : rules::checks()) Lister(check, counts.checks[check.number], rows);
     return rows;
 }
 
-void write_table(const std::filesystem::path& file, std::vector<Counted> rows)
+void write_table(const std::filesystem::path& file, std::vector<StepCount> rows)
 {
-    std::ranges::stable_sort(rows, {}, &Counted::times);
+    std::ranges::stable_sort(rows, {}, &StepCount::times);
     std::ofstream stream(file);
-    for (const Counted& row : rows) stream << row.times << ' ' << row.what << '\n';
+    for (const StepCount& row : rows) stream << row.times << ' ' << row.what << '\n';
     if (!stream.flush()) throw std::runtime_error("cannot write " + file.string());
 }
 
-void add_table(const std::filesystem::path& file, std::vector<Counted>& rows)
+void add_table(const std::filesystem::path& file, std::vector<StepCount>& rows)
 {
     std::ifstream stream(file);
     std::map<std::string, std::uint64_t> earlier;
     std::uint64_t times = 0;
     for (std::string what; stream >> times && std::getline(stream.ignore(), what);) earlier[what] = times;
-    for (Counted& row : rows) {
+    for (StepCount& row : rows) {
         const auto found = earlier.find(row.what);
         if (found == earlier.end()) throw std::runtime_error("not of these descriptions: " + file.string());
         row.times += found->second;

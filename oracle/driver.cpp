@@ -20,7 +20,7 @@ bool is_list(const char* filename) { return driver != nullptr && filename == kLi
 
 }  // namespace
 
-// A program's own functions take the place of the C library's, for the library under test too.
+// The functions of a program replace those of the C library, for the library under test too.
 extern "C" {
 
 int system(const char* command)

@@ -1,5 +1,5 @@
-// Driver stands in for the shell, the wireless driver's tool and the file of its channels: no program is run and no
-// file is written.
+// Driver replaces the shell, the wireless driver's tool and the file of its channels. No program is run and no file is
+// written.
 #ifndef OSTREL_ORACLE_DRIVER_H
 #define OSTREL_ORACLE_DRIVER_H
 
@@ -9,7 +9,7 @@
 
 namespace ostrel::oracle {
 
-// Driver lists these channels for as long as it lives. One at a time.
+// Driver lists these channels while it exists. Only one may exist at a time.
 class Driver {
  public:
     explicit Driver(std::vector<int> channels);
@@ -17,12 +17,12 @@ class Driver {
     Driver& operator=(const Driver&) = delete;
     ~Driver();
 
-    // What the C library's functions do with the file.
+    // What the C library's functions do to the file.
     void write_list();
     std::FILE* open_list(const char* modes);
     void delete_list() { has_left_its_list_ = false; }
 
-    // has_left_its_list tells whether the file was written and not deleted.
+    // has_left_its_list returns whether the file was written and not deleted.
     [[nodiscard]] bool has_left_its_list() const { return has_left_its_list_; }
 
  private:

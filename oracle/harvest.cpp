@@ -49,7 +49,7 @@ class Harvest {
         for (const Expression& operand : expression.of) this->expression(operand);
     }
 
-    // A realm stands after every account that is known by now.
+    // A realm is appended to each of the shapes that follow.
     void suffix(std::string_view realm) { realms_.emplace(realm); }
 
     void shape(const rules::Shape& shape)

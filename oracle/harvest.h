@@ -1,4 +1,4 @@
-// Harvest: texts that are worth trying, taken from a description: keywords, limits and what lies next to them.
+// Harvest: texts to try, taken from a description: keywords, limits and their neighbours.
 #ifndef OSTREL_ORACLE_HARVEST_H
 #define OSTREL_ORACLE_HARVEST_H
 
@@ -9,7 +9,7 @@
 
 namespace ostrel::oracle {
 
-// harvest gives texts for a check and for those that it uses.
+// harvest returns texts for a check and for the checks that it uses.
 std::set<std::string> harvest(const rules::Check& check, const rules::Build& build);
 
 }  // namespace ostrel::oracle

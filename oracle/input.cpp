@@ -15,13 +15,13 @@ namespace {
 constexpr char kNull = 1;
 constexpr char kRepeat = 2;
 constexpr char kLiteral = 3;
-constexpr std::size_t kShortRun = 128;  // runs below it are written as they are, longer ones in steps
+constexpr std::size_t kShortRun = 128;  // shorter runs have their length, longer ones a number of steps
 constexpr std::size_t kStep = 64;
 constexpr std::size_t kMostSteps = 128;  // 8192 bytes
 
 bool is_null(std::string_view field) { return field.size() == 1 && field.front() == kNull; }
 
-// next_field takes the first field off.
+// next_field removes and returns the first field.
 std::string_view next_field(std::string_view& fields)
 {
     const std::size_t end = std::min(fields.find('\0'), fields.size());
@@ -68,7 +68,7 @@ long long decode_number(std::string_view field, Kind kind)
     return is_unsigned ? static_cast<long long>(bits) : static_cast<int>(bits);
 }
 
-// reuse gives the text in a value, which keeps its memory when it was a text before.
+// reuse returns the text in a value, which keeps its memory if it was a text before.
 std::string& reuse(Value& value)
 {
     auto* text = std::get_if<std::string>(&value);
@@ -82,73 +82,48 @@ void decode_blocks(const Argument& argument, std::string_view first, std::string
     texts->resize(argument.blocks);
     for (std::size_t i = 0; i < argument.blocks; ++i) {
         decode_text(i == 0 ? first : next_field(fields), argument.block_size - 1, (*texts)[i]);
-        (*texts)[i].resize(std::min((*texts)[i].size(), argument.block_size - 1));
     }
 }
 
 void decode_argument(const Argument& argument, std::string_view& fields, Value& value)
 {
     const std::string_view field = next_field(fields);
-    switch (argument.kind) {
-        case Kind::kInteger:
-        case Kind::kUnsigned:
-            value = decode_number(field, argument.kind);
-            return;
-        case Kind::kIntegerOut:
-            if (is_null(field)) {
-                value = nullptr;
-            } else {
-                value = decode_number(field, argument.kind);
-            }
-            return;
-        case Kind::kText:
-        case Kind::kBuffer:
-            if (is_null(field)) {
-                value = nullptr;
-            } else {
-                decode_text(field, kLongestText, reuse(value));
-            }
-            return;
-        case Kind::kBlocks:
-            if (is_null(field)) {
-                value = nullptr;
-            } else {
-                decode_blocks(argument, field, fields, value);
-            }
-            return;
+    if (argument.kind == Kind::kInteger || argument.kind == Kind::kUnsigned) {
+        value = decode_number(field, argument.kind);
+    } else if (is_null(field)) {
+        value = nullptr;
+    } else if (argument.kind == Kind::kIntegerOut) {
+        value = decode_number(field, argument.kind);
+    } else if (argument.kind == Kind::kBlocks) {
+        decode_blocks(argument, field, fields, value);
+    } else {
+        decode_text(field, kLongestText, reuse(value));
     }
 }
 
-std::size_t run_at(std::string_view text, std::size_t begin)
+void append_byte(std::string& field, char byte)
 {
-    const std::size_t end = text.find_first_not_of(text[begin], begin);
-    return std::min(end, text.size()) - begin;
+    if (byte >= kNull && byte <= kLiteral) field += kLiteral;
+    field += byte;
 }
 
 void encode_text(std::string_view text, std::string& field)
 {
     for (std::size_t i = 0; i < text.size();) {
-        if (text[i] >= kNull && text[i] <= kLiteral) field += kLiteral;
-        field += text[i];
-        std::size_t left = run_at(text, i) - 1;
-        i += left + 1;
+        const char byte = text[i];
+        const std::size_t end = std::min(text.find_first_not_of(byte, i), text.size());
+        std::size_t left = end - i - 1;
+        i = end;
+        append_byte(field, byte);
+        // Short runs are easier to change as single bytes.
         if (left < 4) {
-            // Short runs are the easier to change when they stand there byte by byte.
-            for (; left > 0; --left) {
-                if (text[i - 1] >= kNull && text[i - 1] <= kLiteral) field += kLiteral;
-                field += text[i - 1];
-            }
+            for (; left > 0; --left) append_byte(field, byte);
         }
         while (left > 0) {
-            field += kRepeat;
             const std::size_t steps = std::min(left / kStep, kMostSteps);
-            if (left < kShortRun) {
-                field += static_cast<char>(left);
-                left = 0;
-            } else {
-                field += static_cast<char>(kShortRun + steps - 1);
-                left -= steps * kStep;
-            }
+            const bool is_short = left < kShortRun;
+            field += {kRepeat, static_cast<char>(is_short ? left : kShortRun + steps - 1)};
+            left -= is_short ? left : steps * kStep;
         }
     }
 }

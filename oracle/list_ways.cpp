@@ -9,7 +9,7 @@ namespace ostrel::oracle {
 
 namespace {
 
-// with_items has so many items of what was judged, or adds some.
+// with_items returns the text cut or extended to so many items.
 std::string with_items(std::string_view text, char separator, long long items)
 {
     std::string result(text);
@@ -33,7 +33,7 @@ void take_items(const Refusal& refusal, Advice& advice, char separator)
     advice.less.push_back(refusal.with(with_items(refusal.judged(), separator, items + 1)));
 }
 
-// different occurs nowhere in the other texts of the call.
+// different returns a text that does not occur in the other texts of the call.
 std::string different(const Refusal& refusal)
 {
     std::string result(refusal.judged());
@@ -59,7 +59,7 @@ void make_different(const Refusal& refusal, Advice& advice)
     advice.followed.push_back(refusal.with(different(refusal)));
 }
 
-// An item of a list cannot begin with a subnet that holds what ends or trims items.
+// An item of a list cannot begin with a subnet that contains a separator or begins with a blank.
 void begin_like_subnet(const Refusal& refusal, Advice& advice)
 {
     const std::string subnet = refusal.allowed_texts().at(0);

@@ -9,7 +9,7 @@ namespace ostrel::oracle {
 
 namespace {
 
-// kTelling holds bytes that lie at the edge of some class, or separate something.
+// kTelling has the bytes at the limits of character classes, and separators.
 constexpr char kTelling[] =
     "\0\1\2\3\t\n\x1F !\"#%&'()*+,-./0123456789:;<=>?@AFGZ[\\]^_`afgxz{|}~\x7F\x80\x9F\xA0\xA1\xE9\xFF";
 
@@ -90,7 +90,7 @@ void Mutator::change_number()
     replace(begin, static_cast<std::size_t>(read.ptr - digits), std::to_string(number));
 }
 
-// change leaves the first byte, which chooses the function, alone.
+// change keeps the first byte, which selects the function.
 void Mutator::change()
 {
     if (input_.size() < 2) input_.resize(2, ' ');

@@ -1,4 +1,4 @@
-// Mutator makes new inputs out of others, at random and the same ones at every run.
+// Mutator makes random inputs from others, the same ones in every run.
 #ifndef OSTREL_ORACLE_MUTATOR_H
 #define OSTREL_ORACLE_MUTATOR_H
 
@@ -13,10 +13,10 @@ class Mutator {
     // seeds must not be empty.
     Mutator(std::vector<std::string> seeds, std::uint64_t seed);
 
-    // next gives a seed that was changed in some places. It holds until the next one.
+    // next returns a seed with some changes. It is valid until the next call.
     const std::string& next();
 
-    // This one changes a little of what is given, or nothing.
+    // This one returns from with few changes or none.
     const std::string& next(const std::string& from);
 
  private:

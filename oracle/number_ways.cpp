@@ -35,7 +35,7 @@ void lower_number(const Refusal& refusal, Advice& advice)
     add(refusal, advice.less, most + 1);
 }
 
-// "0" itself is the automatic channel, which is no number to the driver.
+// "0" is the automatic channel, which the driver does not list.
 void take_number(const Refusal& refusal, Advice& advice)
 {
     const std::vector<long long> numbers = refusal.allowed_numbers();

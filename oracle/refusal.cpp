@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "rules/build.h"
+#include "rules/walk.h"
 
 namespace ostrel::oracle {
 
@@ -12,19 +13,15 @@ using rules::Value;
 
 namespace {
 
-// written_text is what a buffer holds after the call.
+// written_text returns what a buffer holds after the call.
 const std::string* written_text(const rules::Check& check, const rules::Answer& answer, std::size_t argument)
 {
     std::size_t written = 0;
-    for (std::size_t i = 0; i < argument; ++i) {
-        const Argument::Kind kind = check.arguments[i].kind;
-        written += kind != Argument::Kind::kText && kind != Argument::Kind::kInteger &&
-                   kind != Argument::Kind::kUnsigned;
-    }
+    for (std::size_t i = 0; i < argument; ++i) written += rules::is_written(check.arguments[i]);
     return written < answer.after.size() ? std::get_if<std::string>(&answer.after[written]) : nullptr;
 }
 
-// converts tells whether a check writes an argument as a conversion makes it, and judges that.
+// converts returns whether a check writes the result of a conversion to an argument, and judges that.
 bool converts(const rules::Check& check)
 {
     return std::ranges::any_of(check.steps, [](const rules::Step& step) {
@@ -32,7 +29,7 @@ bool converts(const rules::Check& check)
     });
 }
 
-// referred is a text of which the conversion makes that one: every "&" that may begin a reference is one.
+// referred returns a text that the conversion turns into this one: each "&" becomes a character reference.
 std::string referred(std::string_view text)
 {
     std::string result;

@@ -8,7 +8,7 @@ namespace ostrel::oracle {
 
 namespace {
 
-constexpr long long kLongest = 8192;  // what a longer text would be is not tried
+constexpr long long kLongest = 8192;  // longer texts are not tried
 
 std::string resized(std::string_view text, long long size)
 {
@@ -27,10 +27,10 @@ std::vector<std::string> members(const Refusal& refusal)
     return result;
 }
 
-// Misses are bytes that are not in a set.
+// Misses are the bytes that are not in a set.
 struct Misses {
     std::vector<char> all;
-    std::vector<char> near;  // next to one that is
+    std::vector<char> near;  // adjacent to a member
 };
 
 Misses misses_of(const rules::Set& set)
@@ -62,7 +62,7 @@ void take_misses(const Refusal& refusal, std::vector<Values>& calls)
 
 }  // namespace
 
-// With less than nothing allowed, nothing can be done.
+// If the most is negative, no text is allowed.
 void cut(const Refusal& refusal, Advice& advice)
 {
     const long long most = refusal.allowed_numbers().at(0);
@@ -117,8 +117,8 @@ void give_what_is_null(const Refusal& refusal, Advice& advice)
         advice.followed.push_back(refusal.with_argument(refusal.reason().argument.value(), text));
 }
 
-// A byte that is not in the set may end a part or an item, which then is another one; and one that no shape has may be
-// let pass where it is not printable.
+// A byte outside the set may end a part or an item, so that another part or item is judged. A byte that no shape has may
+// be accepted if it is not printable.
 void replace_byte(const Refusal& refusal, Advice& advice)
 {
     const rules::Reason& reason = refusal.reason();
@@ -166,7 +166,7 @@ void leave_word(const Refusal& refusal, Advice& advice)
         advice.less.push_back(refusal.with(word));
 }
 
-// In place of the last byte of the prefix stands another one.
+// One step less has another last byte in the prefix.
 void begin_with(const Refusal& refusal, Advice& advice)
 {
     const std::string judged(refusal.judged());

@@ -1,4 +1,4 @@
-// Ways: how the reasons of each id are followed. It is for advice.cpp alone.
+// Ways: how the reasons of each id are followed. Only advice.cpp uses them.
 #ifndef OSTREL_ORACLE_WAYS_H
 #define OSTREL_ORACLE_WAYS_H
 

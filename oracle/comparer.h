@@ -1,6 +1,6 @@
-// Trial: one call of the library, compared with what the description says of it.
-#ifndef OSTREL_ORACLE_TRIAL_H
-#define OSTREL_ORACLE_TRIAL_H
+// Comparer: compares calls of the library with their descriptions.
+#ifndef OSTREL_ORACLE_COMPARER_H
+#define OSTREL_ORACLE_COMPARER_H
 
 #include <cstddef>
 #include <string>
@@ -12,18 +12,18 @@
 
 namespace ostrel::oracle {
 
-class Trial {
+class Comparer {
  public:
-    // agrees makes the call twice, with every argument ending and with every argument beginning at an unreadable page,
-    // and compares the code, what was printed and flushed, and what was written. The call must not be an outside one.
+    // agrees makes the call twice, with every argument ending and with every argument beginning at an unreadable page.
+    // It compares the code, what was printed and flushed, and what was written. The contract must cover the call.
     bool agrees(const catalogue::Function& function, const std::vector<rules::Value>& values,
                 const rules::Answer& expected);
 
-    // difference tells of the last call that differed: the function's name, the row for vectors/ that the description
-    // would have, and the same row with what the library answered.
+    // difference describes the last call that differed: the function, the row of vectors/ that the description
+    // expects, and the row of what the library did.
     [[nodiscard]] const std::string& difference() const { return difference_; }
 
-    // calls is how often the library was called.
+    // calls returns how often the library was called.
     [[nodiscard]] std::size_t calls() const { return calls_; }
 
  private:
@@ -37,7 +37,7 @@ class Trial {
     std::size_t calls_ = 0;
 };
 
-// shown_call is a call as a row of vectors/ has it, without what it promises.
+// shown_call returns a call as in a row of vectors/, without the result.
 std::string shown_call(const catalogue::Function& function, const std::vector<rules::Value>& values);
 
 }  // namespace ostrel::oracle

@@ -1,4 +1,4 @@
-#include "oracle/trial.h"
+#include "oracle/comparer.h"
 
 #include <algorithm>
 #include <limits>
@@ -43,7 +43,7 @@ std::string row(const Function& function, const std::vector<Value>& values, cons
     return result.dump();
 }
 
-// is_left holds for a number that is only written: the caller shows none where nothing was written.
+// is_left returns whether a number that is only written was not written: then Caller returns no value.
 bool is_left(const Value& expected, const Value& actual)
 {
     const auto* number = std::get_if<long long>(&expected);
@@ -60,13 +60,13 @@ bool are_equal(const std::vector<Value>& expected, const std::vector<Written>& a
 
 }  // namespace
 
-bool Trial::agrees(const Function& function, const std::vector<Value>& values, const Answer& expected)
+bool Comparer::agrees(const Function& function, const std::vector<Value>& values, const Answer& expected)
 {
     return agrees_at(at_end_, function, values, expected) && agrees_at(at_begin_, function, values, expected);
 }
 
-bool Trial::agrees_at(Caller& caller, const Function& function, const std::vector<Value>& values,
-                      const Answer& expected)
+bool Comparer::agrees_at(Caller& caller, const Function& function, const std::vector<Value>& values,
+                         const Answer& expected)
 {
     caller.load(function, values);
     capture_.clear();

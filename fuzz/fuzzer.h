@@ -1,0 +1,80 @@
+// Fuzzer makes the calls that inputs encode. It compares the results with the description, follows the reason of a
+// refusal as advice, and compares what accepted values contain with docs/hazards.md.
+#ifndef OSTREL_FUZZ_FUZZER_H
+#define OSTREL_FUZZ_FUZZER_H
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "oracle/advice.h"
+#include "oracle/comparer.h"
+#include "oracle/contents.h"
+#include "rules/evaluate.h"
+
+namespace ostrel::fuzz {
+
+// RunResult is what a run of an input shows.
+enum class RunResult {
+    kAgreed,
+    kOutside,  // nothing was called: the contract does not cover the call
+    kDiffered,
+};
+
+// families lists the families of the catalogue. There is a fuzzer for each.
+std::vector<std::string_view> families();
+
+class Fuzzer {
+ public:
+    // Throws std::invalid_argument for an unknown family.
+    explicit Fuzzer(std::string_view family);
+
+    // run decodes an input, makes its call, and follows the reason if it is refused. A build without a list of channels
+    // leaves out the calls that would ask the wireless driver. counts counts the steps of that call, and further those
+    // of the calls that the reason leads to.
+    RunResult run(std::string_view input, const rules::Build& build, rules::Counts* counts = nullptr,
+                  rules::Counts* further = nullptr);
+
+    // fault describes the last input that differed: the expected row, as in vectors/, and the actual one; or what is
+    // wrong with the reason.
+    [[nodiscard]] const std::string& fault() const { return fault_; }
+
+    // encode returns the input for a call; nothing if the function is not of this family or a text is too long.
+    [[nodiscard]] std::optional<std::string> encode(const catalogue::Function& function,
+                                                    const std::vector<rules::Value>& values) const;
+
+    // decodes returns whether the input encodes exactly this call.
+    [[nodiscard]] bool decodes(std::string_view input, const catalogue::Function& function,
+                               const std::vector<rules::Value>& values);
+
+    // function returns the function that an input calls.
+    [[nodiscard]] const catalogue::Function& function(std::string_view input) const;
+
+    [[nodiscard]] const oracle::Follower& follower() const { return follower_; }
+    [[nodiscard]] std::size_t calls() const { return comparer_.calls(); }
+
+    // refused returns how many inputs were refused. Each refusal had an id and a sentence, or differed.
+    [[nodiscard]] std::size_t refused() const { return refused_; }
+
+ private:
+    struct Callee {
+        const catalogue::Function* function;
+        oracle::Contents contents;
+    };
+
+    [[nodiscard]] const Callee& callee(std::string_view input) const;
+    const Callee& decode(std::string_view input);
+
+    std::vector<Callee> callees_;
+    std::vector<rules::Value> values_;
+    oracle::Comparer comparer_;
+    oracle::Follower follower_;
+    std::string fault_;
+    std::size_t refused_ = 0;
+};
+
+}  // namespace ostrel::fuzz
+
+#endif
