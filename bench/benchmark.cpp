@@ -1,6 +1,6 @@
-// Times every contender on every shape of its family's values, all on the same ones.
+// Times every contender on every shape of its family's values, which are the same for all.
 //
-// Arguments go to Google Benchmark. A benchmark is named family/shape/contender.
+// The arguments are those of Google Benchmark. A benchmark is named family/shape/contender.
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
@@ -8,14 +8,45 @@
 #include <map>
 #include <memory>
 
-#include "bench/allocations.h"
 #include "bench/contender.h"
 
 using namespace ostrel::bench;
 
 namespace {
 
-// corpus makes a corpus when it is first asked for: a run that is limited to some benchmarks makes no others.
+// allocations counts what the program and every library in it take from the heap.
+std::size_t allocations = 0;
+
+}  // namespace
+
+// The names of glibc's own allocator, for programs that wrap it.
+// NOLINTBEGIN(bugprone-reserved-identifier)
+extern "C" void* __libc_malloc(std::size_t size);
+extern "C" void* __libc_calloc(std::size_t members, std::size_t size);
+extern "C" void* __libc_realloc(void* block, std::size_t size);
+// NOLINTEND(bugprone-reserved-identifier)
+
+extern "C" void* malloc(std::size_t size)
+{
+    ++allocations;
+    return __libc_malloc(size);
+}
+
+extern "C" void* calloc(std::size_t members, std::size_t size)
+{
+    ++allocations;
+    return __libc_calloc(members, size);
+}
+
+extern "C" void* realloc(void* block, std::size_t size)
+{
+    ++allocations;
+    return __libc_realloc(block, size);
+}
+
+namespace {
+
+// corpus makes a corpus when it is first needed, so that a run of some benchmarks makes no others.
 const Corpus& corpus(const std::string& name, Shape shape)
 {
     static std::map<std::pair<std::string, Shape>, std::unique_ptr<const Corpus>> all;
@@ -24,7 +55,7 @@ const Corpus& corpus(const std::string& name, Shape shape)
     return *entry;
 }
 
-// require_same_verdict keeps the comparison fair: whoever refuses a valid value did other work.
+// require_same_verdict keeps the comparison fair: a contender that refuses a valid value did other work.
 void require_same_verdict(const Contender& contender, const Corpus& values, std::size_t accepted)
 {
     if (accepted == values.values().size()) return;
@@ -36,9 +67,9 @@ void require_same_verdict(const Contender& contender, const Corpus& values, std:
 void run(benchmark::State& state, const Contender& contender, Shape shape)
 {
     const Corpus& values = corpus(contender.family, shape);
-    const std::size_t allocations_before = allocations();
+    const std::size_t allocations_before = allocations;
     const std::size_t accepted = contender.pass(values);
-    const std::size_t allocated = allocations() - allocations_before;
+    const std::size_t allocated = allocations - allocations_before;
     if (shape == Shape::kValid) require_same_verdict(contender, values, accepted);
 
     for (auto _ : state) benchmark::DoNotOptimize(contender.pass(values));

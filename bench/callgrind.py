@@ -1,9 +1,15 @@
-"""Runs the program that lets callgrind count, and reads what it counted."""
+#!/usr/bin/python3
+"""Counts the instructions of contenders with callgrind, and writes them to a file.
+
+usage: callgrind.py PROGRAM OUT.json [FAMILY...]
+"""
 
 import glob
+import json
 import os
 import re
 import subprocess
+import sys
 import tempfile
 
 LIBRARY = "libostrel_check.so"
@@ -11,7 +17,7 @@ REQUEST = "desc: Trigger: Client Request: "
 
 
 def _read(path):
-    """Gives the dump's name, its instructions and those of them that the library itself executed."""
+    """_read returns the name of a dump, its instructions, and those inside the library."""
     name = None
     total = 0
     inside = 0
@@ -23,7 +29,7 @@ def _read(path):
         elif line.startswith("ob="):
             in_library = LIBRARY in line
         elif line.startswith("calls="):
-            skip = True  # the next line has what the callee executed
+            skip = True  # the next line has the instructions of the callee
         elif re.match(r"[0-9+*-]", line):
             if skip:
                 skip = False
@@ -37,7 +43,7 @@ def _read(path):
 
 
 def count(program, values, families=()):
-    """Gives {(family, shape, contender): (instructions per value, of these inside the library)}."""
+    """count returns {(family, shape, contender): (instructions per value, those inside the library)}."""
     with tempfile.TemporaryDirectory() as folder:
         subprocess.run(
             ["valgrind", "-q", "--tool=callgrind", "--collect-atstart=no", "--compress-strings=no",
@@ -51,3 +57,9 @@ def count(program, values, families=()):
             family, shape, contender, _ = name.split("/")
             counts[family, shape, contender] = (total / values, inside / values)
         return counts
+
+
+if __name__ == "__main__":
+    program, out, *families = sys.argv[1:]
+    with open(out, "w", encoding="utf-8") as file:
+        json.dump({"/".join(name): total for name, (total, _) in count(program, 512, families).items()}, file)

@@ -1,4 +1,4 @@
-// Contender: something that judges the values of a family, ours, a peer or a limit.
+// Contender: something that judges the values of a family: our rule, a peer or a limit.
 #ifndef OSTREL_BENCH_CONTENDER_H
 #define OSTREL_BENCH_CONTENDER_H
 
@@ -18,8 +18,8 @@ struct Contender {
     std::function<std::size_t(const Corpus&)> pass;  // judges every value once and counts those accepted
 };
 
-// contender makes one from a function that judges one value. The loop is compiled around the call, so that all
-// pay the same for it.
+// contender makes one from a function that judges one value. The loop is compiled around the call, at the same cost for
+// all.
 template <typename Accepts>
 Contender contender(std::string family, std::string name, Accepts accepts)
 {
@@ -34,12 +34,12 @@ Contender contender(std::string family, std::string name, Accepts accepts)
 
 using Contenders = std::vector<Contender>;
 
-// contenders gives all that the program is linked with: peers/all.cpp has the peers too, alone.cpp has not.
+// contenders returns all that the program is linked with: peers/all.cpp includes the peers, alone.cpp does not.
 Contenders contenders();
 
-// What each of these adds judges the families that it can judge.
+// Each of these adds contenders for the families that it supports.
 void add_ours(Contenders& all);
-void add_limits(Contenders& all);  // no judge: what it costs only to look at the value
+void add_limits(Contenders& all);  // only read the value
 void add_libc(Contenders& all);
 void add_pcre2(Contenders& all);
 void add_re2(Contenders& all);
@@ -48,8 +48,8 @@ void add_libyang(Contenders& all);
 void add_urls(Contenders& all);  // uriparser and libcurl
 void add_cares(Contenders& all);
 
-// pattern gives the regular expression for a family's valid values, anchored at both ends and without a
-// feature that an engine lacks.
+// pattern returns the regular expression for a family's valid values. It is anchored at both ends and uses only what
+// every engine supports.
 std::string pattern(const std::string& family);
 
 }  // namespace ostrel::bench

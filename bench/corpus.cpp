@@ -16,7 +16,7 @@ std::uint64_t seed_of(std::string_view name, Shape shape)
     return seed;
 }
 
-std::string make(const Family& family, Shape shape, Random& random)
+std::string make(const ValueFamily& family, Shape shape, Random& random)
 {
     if (shape == Shape::kHostile) return family.hostile(random, kHostileLength);
     std::string value = family.valid(random);
@@ -56,7 +56,7 @@ const char* name_of(Shape shape)
     return "";
 }
 
-Corpus::Corpus(const Family& family, Shape shape, std::size_t size)
+Corpus::Corpus(const ValueFamily& family, Shape shape, std::size_t size)
 {
     Random random(seed_of(family.name, shape));
     std::unordered_set<std::string> seen;
@@ -70,9 +70,9 @@ Corpus::Corpus(const Family& family, Shape shape, std::size_t size)
     for (const std::size_t begin : begins) values_.push_back(text_.data() + begin);
 }
 
-const Family& family(std::string_view name)
+const ValueFamily& family(std::string_view name)
 {
-    for (const Family& each : families()) {
+    for (const ValueFamily& each : families()) {
         if (each.name == name) return each;
     }
     throw std::out_of_range(std::string(name));

@@ -1,4 +1,4 @@
-// Corpus: the values that one benchmark judges, one pass after the other.
+// Corpus: the values that a benchmark judges in each pass.
 #ifndef OSTREL_BENCH_CORPUS_H
 #define OSTREL_BENCH_CORPUS_H
 
@@ -11,7 +11,7 @@
 
 namespace ostrel::bench {
 
-// Random gives the same numbers on every machine (splitmix64), so that two runs judge the same values.
+// Random generates the same numbers on every machine (splitmix64), so that two runs judge the same values.
 class Random {
  public:
     explicit Random(std::uint64_t seed) : state_(seed) {}
@@ -24,7 +24,7 @@ class Random {
         return z ^ (z >> 31);
     }
 
-    // between gives a number from low to high, both included.
+    // between returns a number from low to high, inclusive.
     unsigned between(unsigned low, unsigned high)
     {
         return low + static_cast<unsigned>(next() % (high - low + 1));
@@ -41,39 +41,38 @@ class Random {
     std::uint64_t state_;
 };
 
-// some gives a text of so many characters, each one of the members.
+// some returns a text of so many characters, each one of the members.
 std::string some(Random& random, std::size_t length, std::string_view members);
 
-// number gives a decimal number from low to high, padded with zeros to the width.
+// number returns a decimal number from low to high, padded with zeros to the width.
 std::string number(Random& random, unsigned low, unsigned high, std::size_t width = 1);
 
 enum class Shape {
     kValid,
-    kRefusedFirst,  // the first byte is one that no rule takes
-    kRefusedLast,   // the last byte is
-    kHostile,       // long, and made so that a rule has to look at as much of it as can be
+    kRefusedFirst,  // no rule accepts the first byte
+    kRefusedLast,   // no rule accepts the last byte
+    kHostile,       // long, and such that a rule must read as much of it as possible
 };
 
 constexpr Shape kShapes[] = {Shape::kValid, Shape::kRefusedFirst, Shape::kRefusedLast, Shape::kHostile};
 
 const char* name_of(Shape shape);
 
-// Family is a kind of value: how valid values and hostile ones of at least that length are made.
-struct Family {
+// ValueFamily makes the values of one kind: valid ones, and hostile ones of at least a length.
+struct ValueFamily {
     std::string name;
-    std::string rule;  // ours, as the table names it
     std::function<std::string(Random&)> valid;
     std::function<std::string(Random&, std::size_t)> hostile;
-    bool distinct = true;  // false where there are too few valid values: then they are drawn at random
+    bool distinct = true;  // false if there are too few valid values, so that some repeat
 };
 
-constexpr std::size_t kCorpusSize = 65536;  // fewer distinct values are learnt by the branch predictor
+constexpr std::size_t kCorpusSize = 65536;  // the branch predictor learns fewer distinct values
 constexpr std::size_t kHostileLength = 512;
 
-// Corpus holds the values one behind the other, each with its terminator.
+// Corpus holds the values in one text, each with its terminator.
 class Corpus {
  public:
-    Corpus(const Family& family, Shape shape, std::size_t size = kCorpusSize);
+    Corpus(const ValueFamily& family, Shape shape, std::size_t size = kCorpusSize);
 
     const std::vector<const char*>& values() const { return values_; }
 
@@ -85,9 +84,9 @@ class Corpus {
 };
 
 // families lists all, in the order of the table.
-const std::vector<Family>& families();
+const std::vector<ValueFamily>& families();
 
-const Family& family(std::string_view name);
+const ValueFamily& family(std::string_view name);
 
 }  // namespace ostrel::bench
 

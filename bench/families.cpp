@@ -24,7 +24,7 @@ std::string mac(Random& random)
     return address;
 }
 
-// host gives names like those of servers: two to four labels of letters, digits and "-", the last of letters.
+// host makes names like those of servers: two to four labels of letters, digits and "-", the last one of letters.
 std::string host(Random& random)
 {
     std::string name;
@@ -47,7 +47,7 @@ std::string url(Random& random)
     return text;
 }
 
-// date_time gives the one form that every contender takes: with dashes and an offset.
+// date_time makes the one form that every contender accepts: with dashes and an offset.
 std::string date_time(Random& random)
 {
     return number(random, 1970, 2099, 4) + "-" + number(random, 1, 12, 2) + "-" + number(random, 1, 28, 2) +
@@ -72,8 +72,8 @@ std::string rates(Random& random)
 
 std::string servers(Random& random) { return ipv4(random) + (random.one_in(2) ? "," : ", ") + ipv4(random); }
 
-// reservations gives different addresses of one subnet. All are of one length: an address that another one
-// begins with counts as repeated.
+// reservations makes different addresses of one subnet. All have the same length, because an address that is a prefix of
+// another counts as repeated.
 std::string reservations(Random& random)
 {
     std::string list;
@@ -86,7 +86,7 @@ std::string reservations(Random& random)
     return list;
 }
 
-// repeated gives a hostile value: a piece made again and again.
+// repeated makes a hostile value of many pieces.
 auto repeated(const std::string& head, std::string (*piece)(Random&), const std::string& between)
 {
     return [=](Random& random, std::size_t length) {
@@ -96,55 +96,54 @@ auto repeated(const std::string& head, std::string (*piece)(Random&), const std:
     };
 }
 
-// members gives values of so many of a set's characters, and long ones as hostile values.
-Family members(const char* name, const char* rule, std::string_view set, unsigned shortest, unsigned longest)
+// members makes values of a set's characters, and long ones as hostile values.
+ValueFamily members(const char* name, std::string_view set, unsigned shortest, unsigned longest)
 {
     const std::string all(set);
-    return {name, rule, [=](Random& random) { return some(random, random.between(shortest, longest), all); },
+    return {name, [=](Random& random) { return some(random, random.between(shortest, longest), all); },
             [=](Random& random, std::size_t length) { return some(random, length, all); }};
 }
 
-std::vector<Family> make_families()
+std::vector<ValueFamily> make_families()
 {
     const auto label = [](Random& random) { return some(random, 1, kLetters); };
     const auto octet = [](Random& random) { return number(random, 0, 255); };
     const auto rate = [](Random& random) { return std::string(kRates[random.between(0, 11)]); };
-    // The items of a hostile list share their beginnings with those behind them.
+    // The items of a hostile list share prefixes with later items.
     const auto reservation = [](Random& random) { return "192.168.2.1" + number(random, 0, 99, 2); };
     return {
-        {"ipv4", "TcmValidateIPAddress", ipv4, repeated("", octet, ".")},
-        {"mac", "TcmValidateMACaddress", mac, repeated("", mac, ":")},
-        {"host", "TcmValidateDomainName", host, repeated("", label, ".")},
-        {"url", "TcmValidatefirmwareURL", url, repeated("http://", label, ".")},
-        {"email", "TcmValidateEmailAddress",
+        {"ipv4", ipv4, repeated("", octet, ".")},
+        {"mac", mac, repeated("", mac, ":")},
+        {"host", host, repeated("", label, ".")},
+        {"url", url, repeated("http://", label, ".")},
+        {"email",
          [](Random& random) { return some(random, random.between(3, 12), kLetters) + "@" + host(random); },
          repeated("", label, "@.")},
-        {"account", "TcmValidatePPPUsername", account,
+        {"account", account,
          repeated(
              "", [](Random& random) { return some(random, 28, "0123456789#"); }, "@example.net")},
-        {"date_time", "TcmValidateTime", date_time, repeated("", date_time, "")},
-        members("printable", "PARAM_check_printable_ascii_string", CHARSET_ASCII_PRINTABLE, 8, 40),
-        members("password", "PARAM_check_password", CHARSET_ALNUM, 8, 32),
-        members("number", "PARAM_check_num_range", CHARSET_DIGITS, 4, 6),
-        members("own_set_8", "ValidateString, set of 62", CHARSET_ALNUM, 8, 8),
-        members("own_set_16", "ValidateString, set of 62", CHARSET_ALNUM, 16, 16),
-        members("own_set_32", "ValidateString, set of 62", CHARSET_ALNUM, 32, 32),
-        members("own_set_64", "ValidateString, set of 62", CHARSET_ALNUM, 64, 64),
-        members("own_digits_8", "ValidateString, set of 10", CHARSET_DIGITS, 8, 8),
-        {"keyword", "TcmValidateBeaconType",
-         [](Random& random) { return std::string(kBeacons[random.between(0, 4)]); },
+        {"date_time", date_time, repeated("", date_time, "")},
+        members("printable", CHARSET_ASCII_PRINTABLE, 8, 40),
+        members("password", CHARSET_ALNUM, 8, 32),
+        members("number", CHARSET_DIGITS, 4, 6),
+        members("own_set_8", CHARSET_ALNUM, 8, 8),
+        members("own_set_16", CHARSET_ALNUM, 16, 16),
+        members("own_set_32", CHARSET_ALNUM, 32, 32),
+        members("own_set_64", CHARSET_ALNUM, 64, 64),
+        members("own_digits_8", CHARSET_DIGITS, 8, 8),
+        {"keyword", [](Random& random) { return std::string(kBeacons[random.between(0, 4)]); },
          repeated("WPAand11i", label, ""), false},
-        {"rates", "TcmValidateDataTransmitRates", rates, repeated("", rate, ",")},
-        {"dns_servers", "TcmValidateofferDNS", servers, repeated("", ipv4, ",")},
-        {"reservations", "TcmValidateReservedAddress", reservations, repeated("", reservation, ",")},
+        {"rates", rates, repeated("", rate, ",")},
+        {"dns_servers", servers, repeated("", ipv4, ",")},
+        {"reservations", reservations, repeated("", reservation, ",")},
     };
 }
 
 }  // namespace
 
-const std::vector<Family>& families()
+const std::vector<ValueFamily>& families()
 {
-    static const std::vector<Family> all = make_families();
+    static const std::vector<ValueFamily> all = make_families();
     return all;
 }
 

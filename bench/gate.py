@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""Fails when one of the hottest rules executes more instructions than it did.
+"""Fails if one of the hottest rules executes more instructions than before.
 
 usage: gate.py PROGRAM BASELINE [--accept]
 
-Only what the library itself executes counts, so that another C library gives the same numbers. Values are from a fixed
+Only instructions inside the library count, so that the numbers do not depend on the C library. The values have a fixed
 seed, and callgrind counts exactly.
 """
 
@@ -41,10 +41,10 @@ def main():
             worse += 1
             mark = "  MORE THAN 10 % ABOVE THE BASELINE"
         elif change < 2 - TOLERANCE:
-            mark = "  well below: accept it, so that the gain is kept"
+            mark = "  well below: accept it to keep the gain"
         print(f"{family:12} {before[family]:8.1f} -> {now[family]:8.1f}  {100 * (change - 1):+6.1f} %{mark}")
     if worse:
-        print(f"\n{worse} rules execute more than they did. If that is meant, accept it and say why in the commit:\n"
+        print(f"\n{worse} rules execute more than before. If that is intended, accept it and say why in the commit:\n"
               f"    bench/gate.py {program} {baseline} --accept")
     return 1 if worse else 0
 

@@ -1,4 +1,4 @@
-// Lets callgrind count what each contender executes: one dump a benchmark, named family/shape/contender/values.
+// Runs each contender for callgrind, with a dump for each benchmark, named family/shape/contender/values.
 //
 //   valgrind --tool=callgrind --collect-atstart=no … instructions VALUES [FAMILY…]
 #include <valgrind/callgrind.h>
@@ -20,14 +20,14 @@ int main(int argc, char** argv)
     }
     const std::size_t size = std::strtoul(argv[1], nullptr, 10);
     const Contenders all = contenders();
-    for (const Family& family : families()) {
+    for (const ValueFamily& family : families()) {
         if (argc > 2 && std::find(argv + 2, argv + argc, family.name) == argv + argc) continue;
         for (const Shape shape : kShapes) {
             const Corpus corpus(family, shape, size);
             for (const Contender& each : all) {
                 if (each.family != family.name) continue;
                 const std::string name = family.name + '/' + name_of(shape) + '/' + each.name + '/' + argv[1];
-                each.pass(corpus);  // what is done once, such as binding symbols, is not counted
+                each.pass(corpus);  // work that is done once, such as binding symbols, is not counted
                 CALLGRIND_TOGGLE_COLLECT;
                 each.pass(corpus);
                 CALLGRIND_TOGGLE_COLLECT;

@@ -18,12 +18,12 @@ namespace {
 
 void add_limits(Contenders& all)
 {
-    for (const Family& family : families()) {
+    for (const ValueFamily& family : families()) {
         all.push_back(
             contender(family.name, "reading", [](const char* v) { return read_each_byte(v) != 0; }));
         all.push_back(contender(family.name, "strlen", [](const char* v) {
             std::size_t length = std::strlen(v);
-            asm volatile("" : "+r"(length));  // else only the first byte is looked at
+            asm volatile("" : "+r"(length));  // otherwise the compiler reads only the first byte
             return length != 0;
         }));
     }

@@ -1,4 +1,4 @@
-// Times a refusal that prints, and what it is made of: a line formatted, and every stream flushed.
+// Times a refusal that prints, and its parts: formatting a line, and flushing every stream.
 #include <benchmark/benchmark.h>
 #include <ostrel/check.h>
 #include <unistd.h>
@@ -8,7 +8,7 @@
 
 namespace {
 
-// print goes the way of the library's refusals.
+// print calls the same functions as the library's refusals.
 [[gnu::noinline, gnu::format(printf, 1, 2)]] void print(const char* format, ...)
 {
     va_list arguments;
@@ -38,7 +38,7 @@ void format_and_flush(benchmark::State& state)
     }
 }
 
-// format_only leaves the flushing to the buffer, which does it once in some fifty lines.
+// format_only leaves flushing to the buffer, which is written once in some fifty lines.
 void format_only(benchmark::State& state)
 {
     for (auto _ : state) print(kLine, "PARAM_check_transport_protocol", "SCTP");

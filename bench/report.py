@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""Prints what the benchmarks measured as tables, draws the chart, and writes the page's table.
+"""Prints the results of the benchmarks as tables, draws the chart, and writes the page's table.
 
 usage: report.py TIMES.json INSTRUCTIONS.json CHART.svg PAGE.md
 
-Chart and page show every family that was timed. Those in which a peer is faster come first.
+The chart and the page show every family that was timed, beginning with those in which a peer is faster.
 """
 
 import collections
@@ -15,7 +15,7 @@ import sys
 import goals
 
 LIMITS = ("reading", "strlen")
-# All families, and what the page calls them.
+# The name of each family on the page.
 NAMES = {
     "ipv4": "IPv4 address", "mac": "MAC address", "host": "host name", "url": "URL", "email": "e-mail address",
     "account": "account", "date_time": "date-time", "printable": "printable string", "password": "password",
@@ -23,10 +23,10 @@ NAMES = {
     "own_set_32": "caller's own set of 62, 32 bytes", "own_set_64": "caller's own set of 62, 64 bytes",
     "own_digits_8": "caller's own set of 10, 8 bytes", "keyword": "keyword", "rates": "rate list",
     "dns_servers": "DNS servers", "reservations": "DHCP reservations"}
-LIBRARIES = ("libcurl", "libyang", "uriparser")  # the other contenders with names of small letters are functions
+LIBRARIES = ("libcurl", "libyang", "uriparser")  # the other contenders with lower-case names are functions
 BEGIN = "<!-- scripts/bench writes this -->\n"
 END = "<!-- to here -->\n"
-NOISY = 0.10  # quartiles further apart than this share of the median tell too little
+NOISY = 0.10  # with quartiles further apart than this share of the median, the medians are not used
 
 
 def quartiles(samples):
@@ -35,7 +35,8 @@ def quartiles(samples):
 
 
 def read_times(path):
-    """Gives {family: {shape: {contender: (median ns per value, spread, least, bytes per second, allocations)}}}."""
+    """read_times returns {family: {shape: {contender: (median ns per value, spread, least, bytes per second,
+    allocations)}}}."""
     with open(path, encoding="utf-8") as file:
         rows = [row for row in json.load(file)["benchmarks"] if row["run_type"] == "iteration"]
     samples = collections.defaultdict(list)
@@ -52,27 +53,26 @@ def read_times(path):
 
 
 def ratio_to(ours, other):
-    """Gives how many times as long the other takes: by the medians, or by the least disturbed repetitions if noise
-    makes the medians tell nothing."""
+    """ratio_to returns how many times as long the other takes, by the medians, or with noise by the fastest
+    repetitions."""
     if max(ours[1], other[1]) <= NOISY:
         return other[0] / ours[0]
     return other[2] / ours[2]
 
 
 def judged(family, peer, ratio):
-    """Says how a ratio, of the peer's time to ours, stands to its goal."""
+    """judged returns whether a ratio of the peer's time to ours reaches its goal."""
     goal = goals.GOALS.get(family, {}).get(peer)
+    shown_goal = str(goal)
     if peer == "libyang":
-        goal = goals.LIBYANG
+        goal = shown_goal = goals.LIBYANG
     if peer == "reading" and family in goals.LISTS:
-        if 1 / ratio <= goals.LIMIT:
-            return f"met (at most {goals.LIMIT} times it)"
-        return f"MISSED (at most {goals.LIMIT} times it): " + goals.REASONS.get((family, peer), "no reason known")
+        goal, shown_goal = 1 / goals.LIMIT, f"at most {goals.LIMIT} times it"
     if goal is None:
         return ""
     if ratio >= goal:
-        return f"met ({goal})"
-    return f"MISSED ({goal}): " + goals.REASONS.get((family, peer), "no reason known")
+        return f"met ({shown_goal})"
+    return f"MISSED ({shown_goal}): " + goals.REASONS.get((family, peer), "no reason known")
 
 
 def print_tables(table, instructions):
@@ -100,25 +100,25 @@ def print_tables(table, instructions):
                       f"{rate / 1e6:8.0f}{allocations:7.1f}{count if count is None else round(count)!s:>8}"
                       f"{ratio:8.2f}  {goal}".replace("None", "   -"))
     if noisy:
-        print(f"\n~ in {noisy} rows the quartiles are more than {100 * NOISY:.0f} % of the median apart: the machine "
-              "was too noisy to tell by their medians. Their ratios are those of the least disturbed repetitions.")
+        print(f"\n~ in {noisy} rows the quartiles are more than {100 * NOISY:.0f} % of the median apart. Their ratios are "
+              "those of the fastest repetitions.")
 
 
 def multiples(row):
-    """multiples gives how many times as long as we each peer takes on valid values, and the plain reading of each byte
-    among them, by the least disturbed repetitions; the fastest first."""
+    """multiples returns the time of each peer, and of the plain reading loop, on valid values as a multiple of ours, by
+    the fastest repetitions, in ascending order."""
     least = {contender: figures[2] for contender, figures in row["valid"].items() if contender != "strlen"}
     ours = least.pop("ours")
     return sorted(((contender, time / ours) for contender, time in least.items()), key=lambda pair: pair[1])
 
 
 def faster(row):
-    """faster gives the peers that take less time than we do."""
+    """faster returns the peers that take less time than we do."""
     return [contender for contender, multiple in multiples(row) if multiple < 1 and contender not in LIMITS]
 
 
 def lost_first(table):
-    """lost_first gives all families, those first in which a peer is faster, the worst of them at the top."""
+    """lost_first sorts the families: those in which a peer is faster come first, the worst at the top."""
     def rank(family):
         peers = faster(table[family])
         return dict(multiples(table[family]))[peers[0]] if peers else 1
@@ -126,8 +126,8 @@ def lost_first(table):
 
 
 def draw(table, path):
-    """Draws how many times as long each peer takes as we do, on valid values; one group of bars a family."""
-    longest = 20  # times our time; what takes longer is cut off and says so
+    """draw draws the time of each peer on valid values as a multiple of ours, with a group of bars for each family."""
+    longest = 20  # times our time; longer bars are cut off
     left, width, step, gap = 190, 460, 15, 14
     lines = []
     y = 62
@@ -164,7 +164,7 @@ def shown(peer):
 
 
 def page_table(table):
-    """page_table gives the page's table of all families."""
+    """page_table returns the page's table of all families."""
     lost = [family for family in table if faster(table[family])]
     lines = [f"In {len(lost)} of {len(table)} families a peer is faster. They come first, with those peers in bold.", "",
              "| family | ours | peers | reading each byte |", "|---|---:|---|---:|"]
@@ -182,7 +182,7 @@ def page_table(table):
 
 
 def write_page(path, text):
-    """write_page puts the text where the page has its place for it; a page that is not there becomes the text."""
+    """write_page puts the text at its place in the page. A page that does not exist becomes the text."""
     if path.exists():
         before, begin, rest = path.read_text(encoding="utf-8").partition(BEGIN)
         _, end, after = rest.partition(END)

@@ -1,4 +1,4 @@
-"""What the chart and the page show: all families, those first in which a peer is faster."""
+"""The chart and the page show all families, beginning with those in which a peer is faster."""
 
 import contextlib
 import io
@@ -20,7 +20,7 @@ FAMILIES = {
 
 
 def measured(repetitions=3):
-    """measured is what the benchmarks write, with a disturbed repetition that must not count."""
+    """measured returns what the benchmarks write, with a disturbed repetition that must not count."""
     return {"benchmarks": [
         {"run_type": "iteration", "run_name": f"{family}/valid/{contender}", "values": 1000, "bytes_per_second": 1e9,
          "allocations": 0, "cpu_time": 1000 * time * (9 if repetition == 1 else 1)}
@@ -47,7 +47,7 @@ class Report(unittest.TestCase):
     def test_chart_shows_all_families_the_lost_ones_first(self):
         chart, _ = self.made()
         self.assertEqual(["own_digits_8", "number", "ipv4", "keyword"], re.findall(r'class="f">(\w+)<', chart))
-        # Of each family every contender but ourselves and strlen has a bar; those of faster peers look otherwise.
+        # Each family has a bar for every contender except ourselves and strlen. Those of faster peers differ.
         self.assertEqual(11, chart.count('class="n"'))
         self.assertEqual(3, chart.count('class="w"/>'))
         self.assertIn('class="n">strtol</text>', chart)
@@ -61,7 +61,7 @@ class Report(unittest.TestCase):
             "| IPv4 address | 20 | `inet_pton` 40, libyang 1500 | 15 |",
             "| keyword | 30 | libyang 180 | 6.0 |"], page.splitlines()[-4:])
 
-    def test_page_keeps_what_stands_around_the_table(self):
+    def test_page_keeps_the_text_around_the_table(self):
         _, page = self.made("# Before\n" + report.BEGIN + "an old table\n" + report.END + "after\n")
         self.assertTrue(page.startswith("# Before\n" + report.BEGIN + "In 2 of 4"))
         self.assertTrue(page.endswith("| 6.0 |\n" + report.END + "after\n"))
@@ -74,7 +74,7 @@ class Report(unittest.TestCase):
 
     def test_every_family_has_a_name(self):
         source = (pathlib.Path(__file__).parent / "families.cpp").read_text()
-        self.assertEqual(list(report.NAMES), re.findall(r'(?m)^        (?:\{|members\()"(\w+)", "', source))
+        self.assertEqual(list(report.NAMES), re.findall(r'(?m)^        (?:\{|members\()"(\w+)",', source))
 
 
 if __name__ == "__main__":

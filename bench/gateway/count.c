@@ -1,7 +1,6 @@
-/* Counts the instructions that an emulated program executes: a plugin for QEMU.
+/* A plugin for QEMU that counts the instructions of an emulated program.
  *
- * The few declarations of its plugin interface (version 1) that are needed, because not every distribution has the
- * header.
+ * It declares the functions of the plugin interface (version 1) itself, because not every distribution has the header.
  */
 #include <inttypes.h>
 #include <stdint.h>

@@ -1,6 +1,6 @@
 // Judges a family's values a number of times: judge FAMILY CONTENDER PASSES
 //
-// The difference between two runs of so many passes more is what those passes execute.
+// The difference between two runs is what the additional passes of the second execute.
 #include <cstdlib>
 
 #include "bench/contender.h"

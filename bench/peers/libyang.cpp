@@ -56,13 +56,13 @@ module ostrel-bench {
 void add_libyang(Contenders& all)
 {
     ly_ctx* context = nullptr;
-    // Refused values are not to be logged.
+    // libyang must not log refused values.
     ly_log_options(0);
     if (ly_ctx_new(nullptr, 0, &context) != LY_SUCCESS) throw std::runtime_error("libyang has no context");
     if (lys_parse_mem(context, kModule, LYS_IN_YANG, nullptr) != LY_SUCCESS) {
-        throw std::runtime_error("libyang does not take the module");
+        throw std::runtime_error("libyang does not accept the module");
     }
-    for (const Family& family : families()) {
+    for (const ValueFamily& family : families()) {
         const std::string path = "/ostrel-bench:" + family.name;
         const lysc_node* leaf = lys_find_path(context, nullptr, path.c_str(), 0);
         if (leaf == nullptr) throw std::runtime_error("libyang does not find " + path);

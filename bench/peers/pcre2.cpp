@@ -9,7 +9,7 @@ namespace ostrel::bench {
 
 void add_pcre2(Contenders& all)
 {
-    for (const Family& family : families()) {
+    for (const ValueFamily& family : families()) {
         int error = 0;
         PCRE2_SIZE offset = 0;
         const std::string text = pattern(family.name);
@@ -20,7 +20,7 @@ void add_pcre2(Contenders& all)
             throw std::runtime_error("PCRE2 cannot compile the pattern for " + family.name);
         }
         pcre2_match_data* match = pcre2_match_data_create_from_pattern(code, nullptr);
-        // The fast path that its manual offers to those who have checked their arguments.
+        // The fast path of its interface, for arguments that are known to be right.
         all.push_back(contender(family.name, "PCRE2 JIT", [code, match](const char* v) {
             const auto* subject = reinterpret_cast<PCRE2_SPTR>(v);
             return pcre2_jit_match(code, subject, std::char_traits<char>::length(v), 0, 0, match, nullptr) >

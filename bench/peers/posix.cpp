@@ -9,7 +9,7 @@ namespace ostrel::bench {
 
 void add_posix(Contenders& all)
 {
-    for (const Family& family : families()) {
+    for (const ValueFamily& family : families()) {
         const auto regex = std::make_shared<regex_t>();
         if (regcomp(regex.get(), pattern(family.name).c_str(), REG_EXTENDED | REG_NOSUB) != 0) {
             throw std::runtime_error("regcomp cannot compile the pattern for " + family.name);

@@ -8,7 +8,7 @@ namespace ostrel::bench {
 
 void add_re2(Contenders& all)
 {
-    for (const Family& family : families()) {
+    for (const ValueFamily& family : families()) {
         RE2::Options options;
         options.set_encoding(RE2::Options::EncodingLatin1);
         options.set_never_capture(true);
