@@ -72,8 +72,8 @@ std::string rates(Random& random)
 
 std::string servers(Random& random) { return ipv4(random) + (random.one_in(2) ? "," : ", ") + ipv4(random); }
 
-// reservations makes different addresses of one subnet. All have the same length, because an address that is a prefix of
-// another counts as repeated.
+// reservations makes different addresses of one subnet. All have the same length, because an address that is a prefix
+// of another counts as repeated.
 std::string reservations(Random& random)
 {
     std::string list;

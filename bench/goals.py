@@ -31,6 +31,6 @@ REASONS = {
     ("reservations", "reading"): "the rule searches for each address in all that follow it",
     ("number", "libyang"): "the C library's atoi reads the number and takes most of the time",
     ("keyword", "libyang"): "the next keyword is unpredictable, and libyang does the same few comparisons",
-    ("url", "libyang"): "libyang checks only the scheme and the characters; we check the host's labels and the port too",
+    ("url", "libyang"): "libyang checks only the scheme and the characters; we check labels and the port too",
     ("reservations", "libyang"): "libyang's pattern does not detect repeated addresses",
 }

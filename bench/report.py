@@ -100,8 +100,8 @@ def print_tables(table, instructions):
                       f"{rate / 1e6:8.0f}{allocations:7.1f}{count if count is None else round(count)!s:>8}"
                       f"{ratio:8.2f}  {goal}".replace("None", "   -"))
     if noisy:
-        print(f"\n~ in {noisy} rows the quartiles are more than {100 * NOISY:.0f} % of the median apart. Their ratios are "
-              "those of the fastest repetitions.")
+        print(f"\n~ in {noisy} rows the quartiles are more than {100 * NOISY:.0f} % of the median apart. Their ratios "
+              "are those of the fastest repetitions.")
 
 
 def multiples(row):

@@ -1,5 +1,5 @@
-// fuzz_seeds OUT: writes each call of vectors/*.ndjson as an input to OUT/FAMILY/, and the texts of the calls and of the
-// descriptions to OUT/FAMILY.dict, a dictionary for libFuzzer and AFL++.
+// fuzz_seeds OUT: writes each call of vectors/*.ndjson as an input to OUT/FAMILY/, and the texts of the calls and of
+// the descriptions to OUT/FAMILY.dict, a dictionary for libFuzzer and AFL++.
 
 #include <cstdio>
 #include <exception>

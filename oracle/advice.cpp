@@ -105,7 +105,8 @@ const Way* way_of(std::string_view id)
     return way == std::end(kWays) || way->id != id ? nullptr : way;
 }
 
-// data_fault describes a reason that found something else than the value contains, or whose sentence has another number.
+// data_fault describes a reason that found something else than the value contains, or whose sentence has another
+// number.
 std::string data_fault(const Refusal& refusal)
 {
     const Reason& reason = refusal.reason();

@@ -1,6 +1,6 @@
 // Input: a call as a few bytes, so that an engine that changes bytes makes calls of every kind.
 //
-// The first byte selects the function. A field for each argument follows, or for each of its blocks; a NUL separates two
+// The first byte selects the function. A field for each argument follows, or for each of its blocks; NULs separate the
 // fields. Missing fields are empty, and excess ones are ignored.
 //
 //   text    its bytes; 0x01 alone is NULL; 0x02 and a byte n repeat the byte before n times, and from 128 on

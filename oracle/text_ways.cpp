@@ -117,8 +117,8 @@ void give_what_is_null(const Refusal& refusal, Advice& advice)
         advice.followed.push_back(refusal.with_argument(refusal.reason().argument.value(), text));
 }
 
-// A byte outside the set may end a part or an item, so that another part or item is judged. A byte that no shape has may
-// be accepted if it is not printable.
+// A byte outside the set may end a part or an item, so that another part or item is judged. A byte that no shape has
+// may be accepted if it is not printable.
 void replace_byte(const Refusal& refusal, Advice& advice)
 {
     const rules::Reason& reason = refusal.reason();

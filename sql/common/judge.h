@@ -54,8 +54,8 @@ extern "C" {
 #endif
 
 /*
- * ostrel_choose_check returns the check if it can be called with so many values, or NULL and a fault. With is_verdict, a
- * check that returns a number is a fault.
+ * ostrel_choose_check returns the check if it can be called with so many values, or NULL and a fault. With is_verdict,
+ * a check that returns a number is a fault.
  */
 const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t values, bool is_verdict,
                                        OstrelFault* fault);

@@ -146,8 +146,8 @@ Datum ostrel_line(PG_FUNCTION_ARGS)
 }
 
 /*
- * ostrel_require returns true, or raises an error whose DETAIL is the reason. The server writes DETAIL to its log, so for
- * a check with a secret it contains only lengths.
+ * ostrel_require returns true, or raises an error whose DETAIL is the reason. The server writes DETAIL to its log, so
+ * for a check with a secret it contains only lengths.
  */
 Datum ostrel_require(PG_FUNCTION_ARGS)
 {

@@ -13,8 +13,8 @@ enum { kOstrelShort = 256 };
 void pg_attribute_noreturn() ostrel_raise(const OstrelFault* fault);
 
 /*
- * ostrel_take returns a text or a bytea as bytes with a NUL byte after them. A text of another encoding becomes UTF-8. A
- * short value is stored in the room, unless that is NULL.
+ * ostrel_take returns a text or a bytea as bytes with a NUL byte after them. A text of another encoding becomes UTF-8.
+ * A short value is stored in the room, unless that is NULL.
  */
 OstrelText ostrel_take(Datum value, bool is_text, char* room);
 
@@ -22,8 +22,8 @@ OstrelText ostrel_take(Datum value, bool is_text, char* room);
 char* ostrel_told(OstrelAnswer* answer);
 
 /*
- * ostrel_jsonb converts JSON in ASCII, which it changes, to jsonb. Unless the database uses UTF-8 or Latin-1, "\u0080" to
- * "\u00FF" become "\\x80" to "\\xFF", because its encoding may lack them.
+ * ostrel_jsonb converts JSON in ASCII, which it changes, to jsonb. Unless the database uses UTF-8 or Latin-1, "\u0080"
+ * to "\u00FF" become "\\x80" to "\\xFF", because its encoding may lack them.
  */
 Datum ostrel_jsonb(char* json);
 

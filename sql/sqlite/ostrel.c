@@ -32,8 +32,8 @@ static const OstrelQuestion kQuestions[] = {
 static const OstrelQuestion kCodeAlone = {"", kCode, false, false};
 
 /*
- * take returns a value as bytes with a NUL byte after them: a blob unchanged, a text as UTF-8, a number as SQLite writes
- * it. The caller frees *copy.
+ * take returns a value as bytes with a NUL byte after them: a blob unchanged, a text as UTF-8, a number as SQLite
+ * writes it. The caller frees *copy.
  */
 static bool take(sqlite3_value* value, int type, OstrelText* text, char** copy)
 {

@@ -77,7 +77,7 @@ class Worker:
 
     @staticmethod
     def hide_var():
-        """hide_var mounts an empty /var for this process alone, if it may. A check writes the list of channels there."""
+        """hide_var mounts an empty /var for this process alone, if it may, because a check writes a file there."""
         libc = ctypes.CDLL(None, use_errno=True)
         new_mounts, private = 0x00020000, 0x44000
         if os.geteuid() == 0 and libc.unshare(new_mounts) == 0:
