@@ -1,9 +1,9 @@
-"""Runs the commands of README.md and CONTRIBUTING.md as they stand there.
+"""Runs the commands of README.md and CONTRIBUTING.md.
 
 usage: commands_test.py BUILD_FOLDER SOURCE_FOLDER
 
-It runs itself once more in a mount namespace, in which /usr/local is empty and the reader is root. The folder in
-which the commands run looks like a clone whose release has been built.
+It runs itself again in a mount namespace in which /usr/local is empty and the reader is root. The commands run in a
+folder like a clone whose release has been built.
 """
 
 import contextlib
@@ -23,21 +23,20 @@ import documents
 INSIDE = "--inside"
 SKIPPED = 77
 
-# What builds for long, measures, mutates or fuzzes is not run here. It must be there, be a script that can be read,
-# and know the options that it is shown with.
+# Slow scripts are not run. They must exist, have no syntax error, and know the options that the document shows.
 LONG = {"scripts/quickstart", "scripts/test", "scripts/test-everywhere", "scripts/prove", "scripts/fuzz",
         "scripts/mutate", "scripts/coverage", "scripts/bench", "scripts/hazards",
         "scripts/abi", "scripts/footprint", "scripts/manual", "scripts/stubs", "sql/generate.py"}
-# So does what builds or tests a preset, which must be there.
+# Commands that build or test a preset are not run. The preset must exist.
 LONG_BUILD = re.compile(r"(cmake --preset|cmake --build --preset|ctest --test-dir build)[ /](\S+)( -\S+ \S+)*")
-# Programs that the text speaks of and does not tell anybody to run.
+# Programs that the text mentions without running them.
 FILES = {"packaging/wlctl", "fleet/ostrel-fleet"}
-# Words with blanks between them that are no command.
+# Code spans of several words that are not commands.
 TEXTS = {"lan_check: refuse an address without a dot"}
-# What stands for something else, and an example of it.
+# Placeholders, and an example of each.
 FOR_EXAMPLE = {"FILE": "examples/lan.txt", "<module>": "l3forwarding_check"}
 
-# A daemon around the lines of C that show how the library is used.
+# A daemon that contains the C code of the document.
 DAEMON = """%s
 static int reject(const char* parameter)
 {
@@ -58,7 +57,7 @@ int main(void)
 
 
 def reader_may(text):
-    """reader_may tells which exit codes are as the document says: those of ostrel-check say that a value is refused."""
+    """reader_may returns the allowed exit codes. ostrel-check may refuse a value."""
     return (0, 1) if "ostrel-check" in text.split()[0] else (0,)
 
 
@@ -83,7 +82,6 @@ class Clone(contextlib.AbstractContextManager):
         shutil.rmtree(self.folder)
 
     def run(self, text):
-        # What takes longer is no command to be run here.
         return run(["timeout", "300", "bash", "-c", text], cwd=self.folder, env={**os.environ, "PATH": self.path})
 
     def is_program(self, word):
@@ -94,7 +92,7 @@ class Clone(contextlib.AbstractContextManager):
 
 class Commands(unittest.TestCase):
     def follow(self, document):
-        """follow does what the document says, from its first line to its last."""
+        """follow runs the commands of the document in their order."""
         text = (SOURCE / document).read_text(encoding="utf-8")
         with Clone() as clone:
             self.write_daemon(clone, documents.code(text))
@@ -110,7 +108,7 @@ class Commands(unittest.TestCase):
         (clone.folder / "daemon.c").write_text(DAEMON % (headers, rest))
 
     def commands_between(self, document, text, clone):
-        """commands_between sorts the code within the text: a command, a path, which must be there, or a name."""
+        """commands_between returns the commands among the code spans of the text. Paths must exist."""
         found = []
         for number, span in documents.spans(text):
             words = span.split()
@@ -119,7 +117,7 @@ class Commands(unittest.TestCase):
                 if is_command and span not in FILES and clone.is_program(words[0]):
                     found.append(documents.Command(number, span, None))
                 elif span not in TEXTS:
-                    self.assertEqual(1, len(words), "this is no command here; is it a text?")
+                    self.assertEqual(1, len(words), "not a command; is it a text?")
                     self.check_path(clone, span)
         return found
 
@@ -127,7 +125,7 @@ class Commands(unittest.TestCase):
         for name, example in FOR_EXAMPLE.items():
             span = span.replace(name, example)
         if re.search(r"/|\.(md|clang-\w+)$", span):
-            self.assertTrue(glob.glob(str(clone.folder / span)), "there is no such file")
+            self.assertTrue(glob.glob(str(clone.folder / span)), "no such file")
 
     def obey(self, clone, command):
         words = command.text.partition(" #")[0].split()
@@ -140,7 +138,7 @@ class Commands(unittest.TestCase):
 
     def check_script(self, clone, words):
         script = clone.folder / words[0]
-        self.assertTrue(clone.is_program(words[0]), "it is no program")
+        self.assertTrue(clone.is_program(words[0]), "not a program")
         text = script.read_text(encoding="utf-8")
         shell = re.match(r"#!(/bin/\w*sh)\n", text)
         if shell:
@@ -148,7 +146,7 @@ class Commands(unittest.TestCase):
         else:
             compile(text, str(script), "exec")
         for option in (word for word in words if word.startswith("-")):
-            self.assertTrue(re.search(r"(?<![\w-])%s\b" % re.escape(option), text), "it does not know " + option)
+            self.assertTrue(re.search(r"(?<![\w-])%s\b" % re.escape(option), text), "it lacks the option " + option)
 
     def check_builds(self, text):
         presets = json.loads((SOURCE / "CMakePresets.json").read_text(encoding="utf-8"))
@@ -156,7 +154,7 @@ class Commands(unittest.TestCase):
                  for kind in ("configurePresets", "buildPresets")}
         for part in text.partition(" #")[0].split(" && "):
             build = LONG_BUILD.fullmatch(part.strip())
-            self.assertTrue(build, "this builds no preset")
+            self.assertTrue(build, "not the build of a preset")
             self.assertIn(build[2], names["buildPresets" if "--build" in build[1] else "configurePresets"])
 
     @staticmethod
@@ -182,16 +180,16 @@ class Commands(unittest.TestCase):
 
 
 def enter_namespace():
-    """enter_namespace starts this test again where it may mount; it ends as skipped where that is not allowed."""
+    """enter_namespace runs this test again where it may mount, or skips it if that is not allowed."""
     unshare = ["unshare", "--mount"] + ([] if os.geteuid() == 0 else ["--user", "--map-root-user"])
     if run([*unshare, "mount", "-t", "tmpfs", "none", "/usr/local"]).returncode != 0:
-        print("skipped: there is no mount namespace for it")
+        print("skipped: mount namespaces are not allowed")
         sys.exit(1 if os.environ.get("CI") else SKIPPED)
     os.execvp("unshare", [*unshare, sys.executable, "-B", __file__, *sys.argv[1:3], INSIDE])
 
 
 def hide_installed():
-    """hide_installed empties /usr/local, and makes /etc a folder in which the reader may replace the loader's cache."""
+    """hide_installed empties /usr/local, and makes the loader's cache in /etc replaceable."""
     cache = pathlib.Path("/etc/ld.so.cache").read_bytes()
     for folder in ("/usr/local", "/mnt"):
         subprocess.run(["mount", "-t", "tmpfs", "none", folder], check=True)

@@ -1,9 +1,9 @@
-"""Reads the commands that a document tells its reader to run."""
+"""Reads the commands that a document contains."""
 
 import collections
 import re
 
-# Command is a command as it stands there, with the output that stands below it; None where none does.
+# Command is the text of a command, and the output that the document shows below it or None.
 Command = collections.namedtuple("Command", "number text output")
 
 SHELL = ("", "sh")
@@ -15,7 +15,7 @@ class UnknownLanguage(Exception):
 
 
 def blocks(text):
-    """blocks gives the language, the first line's number and the lines of each fenced block."""
+    """blocks yields the language, the number of the first line, and the lines of each fenced block."""
     language, first, lines = None, 0, []
     for number, line in enumerate(text.splitlines(), 1):
         fence = FENCE.match(line)
@@ -29,11 +29,14 @@ def blocks(text):
 
 
 def in_console(first, lines):
-    """in_console reads a block in which each command stands after "$ ", and what it prints stands below."""
+    """in_console reads a block in which each command begins with "$ ", its other lines with "> ", and its output is
+    below."""
     found = []
     for number, line in enumerate(lines, first):
         if line.startswith("$ "):
             found.append(Command(number, line[2:], None))
+        elif line.startswith(">"):
+            found[-1] = found[-1]._replace(text=found[-1].text + "\n" + line[2:])
         else:
             last = found[-1]
             found[-1] = last._replace(output=(last.output or "") + line + "\n")
@@ -41,7 +44,7 @@ def in_console(first, lines):
 
 
 def in_blocks(text):
-    """in_blocks gives all commands of the fenced blocks."""
+    """in_blocks yields all commands of the fenced blocks."""
     for language, first, lines in blocks(text):
         if language not in SHELL:
             continue
@@ -54,18 +57,18 @@ def in_blocks(text):
 
 
 def code(text):
-    """code gives what the blocks of C hold; a block of any other language is a reason to look here."""
+    """code returns the lines of the blocks in C. A block in an unknown language is an error."""
     found = []
     for language, first, lines in blocks(text):
         if language == "c":
             found += lines
         elif language not in SHELL:
-            raise UnknownLanguage("line %d: nobody has decided what to do with %s" % (first, language))
+            raise UnknownLanguage("line %d: unknown language %s" % (first, language))
     return found
 
 
 def spans(text):
-    """spans gives the number of the line and the words of each piece of code within the text."""
+    """spans yields the line number and the words of each code span in the text."""
     outside = re.sub(r"(?ms)^```.*?^```", lambda block: "\n" * block[0].count("\n"), text)
     for match in re.finditer(r"`([^`]+)`", outside):
         yield outside.count("\n", 0, match.start()) + 1, " ".join(match[1].split())
