@@ -9,8 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/caller.h"
-#include "catalogue/capture.h"
 #include "rules/constraints.h"
 #include "tests/rules/obedience.h"
 
