@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "calling/caller.h"
+#include "calling/capture.h"
 #include "rules/constraints.h"
 #include "tests/rules/obedience.h"
 
