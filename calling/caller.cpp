@@ -168,6 +168,7 @@ Value Caller::held(std::size_t index) const
     }
     if (argument.kind == Kind::kBuffer) return text_at(begin, capacity_.at(index));
     std::vector<std::string> texts;
+    texts.reserve(argument.blocks);
     for (std::size_t block = 0; block < argument.blocks; ++block) {
         texts.push_back(text_at(begin + block * argument.block_size, argument.block_size));
     }

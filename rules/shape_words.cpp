@@ -13,7 +13,7 @@ bool is_same(const Group& a, const Group& b)
 
 std::string group_in_words(const Group& group)
 {
-    const std::string set = in_words(group.set);
+    std::string set = in_words(group.set);
     const bool is_one = group.least == 1 && group.most == 1;
     const std::string count = group.least == group.most
                                   ? std::to_string(group.least)

@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <cstring>
 
-#include "src/strings.h"
 #include "src/support/assertion.h"
 #include "src/support/char_set.h"
 #include "src/support/keywords.h"

@@ -15,7 +15,7 @@ import sys
 import tempfile
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "support"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[3] / "vectors"))
 from vectors import rows, text_of  # noqa: E402  it is there
 
 # Of a marker, nothing of so many characters may be seen.
@@ -75,7 +75,7 @@ class Redaction(unittest.TestCase):
 
     def lines(self):
         met = set()
-        for _, row in rows(pathlib.Path(SOURCE)):
+        for _, row in rows():
             for place in self.secrets.get(row["check"], ()):
                 for secret in variants(row["args"][place]) if place < len(row["args"]) else ():
                     args = text_of(row["args"])

@@ -58,7 +58,7 @@ TEST(Trouble, TableNamesTheCaseAndItsAssertion)
     EXPECT_NE(std::string::npos,
               outcome.out.find("      2  ended            PARAM_check_port @null\n"
                                "         an assertion ended the process (SIGABRT): is NULL, which fails an "
-                               "assertion of the check\n"
+                               "assertion in the check\n"
                                "         library, to standard error: ostrel-check: parameter_check:"));
     EXPECT_NE(std::string::npos,
               outcome.out.find("      4  no return        PARAM_check_ui2_value 1\n"

@@ -24,9 +24,8 @@ std::vector<const rules::Argument*> arguments_of(const Result& result)
     const catalogue::Function& function = *result.function;
     const bool all_given = result.values->size() == function.arguments.size();
     std::vector<const rules::Argument*> arguments;
-    for (std::size_t i = 0; i < function.arguments.size(); ++i) {
-        if (all_given || !function.arguments[i].is_only_written())
-            arguments.push_back(&function.arguments[i]);
+    for (const rules::Argument& argument : function.arguments) {
+        if (all_given || !argument.is_only_written()) arguments.push_back(&argument);
     }
     return arguments;
 }
