@@ -9,7 +9,7 @@
 #include <cstring>
 #include <limits>
 
-#include "support/character_references.h"
+#include "src/support/character_references.h"
 #include "web/host/imports.h"
 
 namespace {
