@@ -1,8 +1,8 @@
-// Arguments: what a caller passes, and what may be passed.
+// Arguments: completes and validates what a caller passes.
 
 export const kUnwritten = -0x80000000;  // a number that no check writes
 
-// complete adds what is only written where the caller leaves it out.
+// complete adds the arguments that are only written and that the caller omitted.
 export function complete(check, given) {
   const values = [...given];
   for (const {output, kind} of check.arguments.slice(given.length)) {
@@ -27,5 +27,5 @@ const isOf = {
 export function require(check, argument, value) {
   const isNull = value === null && argument.null;
   if (isNull ? argument.null !== 'read' : isOf[argument.kind](value, argument)) return;
-  throw new TypeError(`${check.name}: ${argument.name} is ${isNull ? 'null' : `no ${argument.kind}`}`);
+  throw new TypeError(`${check.name}: ${argument.name} is ${isNull ? 'null' : `not of kind ${argument.kind}`}`);
 }

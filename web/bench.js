@@ -1,5 +1,5 @@
-// Times verdicts beside those of validator, everything included that a page does for one: values go in as strings, and
-// a refused one comes back, where it says so, with its reason.
+// Compares the time of verdicts with that of validator, including everything that a page does: values are passed as
+// strings, and where stated a refused value comes with its reason.
 //
 //   OSTREL_WEB_BUILD=build/web/web node web/bench.js
 
@@ -12,7 +12,7 @@ const {load} = await import(pathToFileURL(join(build, 'package/index.js')).href)
 const validator = createRequire(join(build, 'node_modules/'))('validator');
 const ostrel = await load();
 
-// What a user types on the way, and what is right at last.
+// What a user types on the way to a valid value, and valid values.
 const cases = [
   {
     name: 'e-mail',
@@ -51,7 +51,7 @@ const cases = [
 const kRuns = 400;
 const kRounds = 120;
 
-// best gives the nanoseconds a value of the fastest round.
+// best returns the nanoseconds per value of the fastest round.
 async function best(values, judge) {
   let least = Infinity;
   for (let round = 0; round < kRounds; ++round) {

@@ -97,7 +97,7 @@ std::string json_of(const Check& check)
     return out + "]}";
 }
 
-// Phrases collects what sentences say in fixed words of parts, forms, conversions and sets, so that each can be translated.
+// Phrases collects the fixed phrases of sentences for parts, forms, conversions and sets, which languages translate.
 class Phrases {
  public:
     Phrases()
@@ -144,7 +144,7 @@ class Phrases {
         if (part) field(*part);
     }
 
-    // What another check says is collected there.
+    // The phrases of another check are collected there.
     void field(const Check* /*check*/) {}
     void field(const ostrel::rules::Table* /*table*/) {}
     void field(std::string_view /*text*/) {}

@@ -2,7 +2,7 @@ import type {Ostrel} from './index.js';
 import type {Language} from './sentences/language.js';
 
 export interface FormOptions {
-  /** The language of what is said: a file of `ostrel/sentences/`. By default English. */
+  /** The language of the sentences: a file of `ostrel/sentences/`. The default is English. */
   sentences?: Language;
 }
 

@@ -1,10 +1,10 @@
-// Forms: fields that are judged while people type, by the checks that the gateway judges them with.
+// Forms: fields that are judged while the user types, by the checks of the gateway.
 
 import {excerptOf} from './excerpt.js';
 import english from './sentences/en.js';
 import {bytesOf, sentence} from './sentences.js';
 
-const kMostWide = 16;  // characters that are named
+const kMostWide = 16;  // characters that are listed
 
 let ids = 0;
 
@@ -27,7 +27,7 @@ function element(name, className, parent) {
   return made;
 }
 
-// Field is one that a check judges. Several of a form may be arguments of one call.
+// Field is judged by a check. Several fields of a form may be arguments of one call.
 class Field {
   #turn = 0;
   #made = [];
@@ -47,7 +47,7 @@ class Field {
     this.#reason = this.#place('ostrel-reason');
     this.#reason.setAttribute('aria-live', 'polite');
     this.#bytes = this.#place('ostrel-bytes');
-    this.#prepare().catch(() => {});  // then nothing is offered
+    this.#prepare().catch(() => {});  // without constraints nothing is offered
   }
 
   get #isSecret() {
@@ -58,7 +58,7 @@ class Field {
     return this.input.willValidate && (this.input.value !== '' || this.input.required);
   }
 
-  // dependsOn tells whether the field is judged anew when another one changes.
+  // dependsOn returns true if the field is judged again when that input changes.
   dependsOn(input) {
     return input === this.input || [...this.with.values()].some(({fields}) => fields?.includes(input.name));
   }
@@ -73,18 +73,18 @@ class Field {
     try {
       verdict = this.ostrel.judge(this.check.name, ...values);
     } catch (error) {
-      if (error instanceof TypeError) return this.#refuse(this.words.refused);  // where a number is needed
+      if (error instanceof TypeError) return this.#refuse(this.words.refused);  // if a number is required
       return this.#refuse(error instanceof RangeError ? this.words.cannot_be_stored : this.words.stops);
     }
     if (verdict.valid !== false) return this.#settle();
-    // The form is held back at once. Why is known later, and only where nothing was typed since.
+    // The form is blocked immediately. The reason follows, unless more has been typed by then.
     input.setCustomValidity(this.words.refused);
     Promise.resolve().then(() => turn === this.#turn && verdict.reason).then(
       (reason) => turn === this.#turn && this.#tell(reason),
       () => turn === this.#turn && this.#refuse(this.words.refused));
   }
 
-  // forget makes any answer that is still to come one to an older keystroke.
+  // forget makes a pending reason obsolete.
   forget() {
     ++this.#turn;
   }
@@ -115,14 +115,14 @@ class Field {
       const {fields, constant} = this.with.get(argument.name) ?? {};
       const isOwn = argument === this.argument;
       if (!isOwn && fields === undefined && constant === undefined) {
-        throw new RangeError(`data-with of ${this.input.name} says nothing of ${argument.name}`);
+        throw new RangeError(`data-with of ${this.input.name} lacks ${argument.name}`);
       }
       const texts = fields?.map((name) => this.#input(name).value) ?? [isOwn ? this.input.value : constant];
       return kinds[argument.kind]?.(texts) ?? texts[0];
     });
   }
 
-  // #place makes an element that describes the field, after its label where that encloses the field.
+  // #place adds an element that describes the field, after the field or the label around it.
   #place(className) {
     const made = element('p', className);
     this.#made.push(made);
@@ -134,14 +134,14 @@ class Field {
     return made;
   }
 
-  // #prepare offers keywords, and learns how many bytes are allowed.
+  // #prepare offers keywords, and finds how many bytes are allowed.
   async #prepare() {
     const constraints = await this.check.constraints;
-    const said = constraints[this.check.arguments.indexOf(this.argument)];
-    if (!said) return;
-    const keywords = said.recommended?.keywords ?? said.keywords;
-    // Of a text with a form of its own the length is not what people mind.
-    if (!keywords && !said.shape && !said.separator) this.#mostBytes = said.max_length;
+    const limits = constraints[this.check.arguments.indexOf(this.argument)];
+    if (!limits) return;
+    const keywords = limits.recommended?.keywords ?? limits.keywords;
+    // For a text of a fixed form the length is of no interest.
+    if (!keywords && !limits.shape && !limits.separator) this.#mostBytes = limits.max_length;
     this.#showBytes();
     const {input} = this;
     if (!keywords || input.list !== null || input.localName !== 'input') return;
@@ -185,14 +185,14 @@ class Field {
     this.#showBytes();
   }
 
-  // #otherOf finds the other field that the reason speaks of.
+  // #otherOf returns the other field that the reason is about, if any.
   #otherOf({argument, item}) {
     const names = this.with.get(argument)?.fields;
     const other = names && this.#input(names[item] ?? names[0]);
     return other === this.input ? undefined : other;
   }
 
-  // #showBytes counts where a limit is known, and says why a character counts more than once.
+  // #showBytes counts bytes if there is a limit, and explains why a character counts more than once.
   #showBytes() {
     const {input, words, ostrel: {encoding}} = this;
     const most = this.#mostBytes;
@@ -211,7 +211,7 @@ class Field {
   }
 }
 
-// attach has the fields of a form that name a check judged. What it returns ends that.
+// attach judges the fields of a form that name a check. It returns a function that detaches it.
 export function attach(form, ostrel, {sentences = english} = {}) {
   const fields = [];
   for (const input of form.elements) {
@@ -224,7 +224,7 @@ export function attach(form, ostrel, {sentences = english} = {}) {
       of(target).forEach((field) => (isComposing ? field.forget() : field.judge())),
     compositionend: ({target}) => of(target).forEach((field) => field.judge()),
     reset: () => setTimeout(judgeAll),
-    // What a script wrote into a field since is judged now.
+    // A script may have changed a field without an event.
     submit: (event) => {
       if (event.submitter?.formNoValidate) return;
       judgeAll();

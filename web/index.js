@@ -1,4 +1,4 @@
-// The checks of a home gateway, in a page or in Node: the very rules that the gateway judges by.
+// The checks of a home gateway, in a page or in Node, with the same rules as on the gateway.
 
 import {complete, isText, kUnwritten, require} from './arguments.js';
 import {build, checks, codes} from './checks.js';
@@ -13,7 +13,7 @@ const kPage = 0x10000;
 const kSpare = 2048;  // bytes beyond the texts of the call, for blocks and for what a check writes
 const kNothingWritten = Object.freeze({});
 
-// Verdict has what was answered. What was printed is learnt by judging once more, for few ask.
+// Verdict is the result of a call. What the call printed is found by judging again, because few callers need it.
 class Verdict {
   #asked;  // print and explain
   #judged;
@@ -57,11 +57,11 @@ class Ostrel {
   #reasons;
   #reasonOf;
   #loadReasons;
-  #judged;  // by the name of the check, what is known of it for every call
-  #asked = {print: (...call) => this.#print(...call), explain: (...call) => this.#explain(...call)};  // by verdicts
+  #judged;  // by the name of the check: what every call of it needs
+  #asked = {print: (...call) => this.#print(...call), explain: (...call) => this.#explain(...call)};  // for verdicts
   #isBusy = false;
   #message;
-  #printed = null;  // by the number of the stream, while that is wanted
+  #printed = null;  // by the number of the stream, while printing
 
   constructor(module, options) {
     const {encoding, isLatin1, isLong64, channels, compare, convert, loadReasons} = options;
@@ -102,7 +102,7 @@ class Ostrel {
     if (judged === undefined) throw new RangeError(`there is no check ${name}`);
     const {check} = judged;
     let values = given.length === check.arguments.length ? given : complete(check, given);
-    // What the caller does with an array later does not matter.
+    // A later change of an array by the caller must have no effect.
     if (check.writes) values = values.map((value) => (Array.isArray(value) ? [...value] : value));
     const code = judged.takesText && isText(values[0]) ? this.#callWithText(judged, values)
                                                        : this.#call(judged, values);
@@ -121,7 +121,7 @@ class Ostrel {
     return printed;
   }
 
-  // #bytes takes the view anew when memory has grown: one that is kept then is empty, and silently stays so.
+  // #bytes renews the view if memory has grown, which leaves an older view empty without an error.
   #bytes() {
     if (this.#view.length === 0) this.#view = new Uint8Array(this.#rules.memory.buffer);
     return this.#view;
@@ -135,14 +135,14 @@ class Ostrel {
     this.#message = '';
   }
 
-  // #callWithText is #call where there is one argument, a text: most calls are.
+  // #callWithText is #call for the most common case, a single text.
   #callWithText(judged, values) {
     const text = values[0];
     put(this.#room(kSpare + most(text, this.#isLatin1)), this.#base, text, this.#isLatin1);
     return this.#run(judged, values, this.#base);
   }
 
-  // #call gives each argument the same room.
+  // #call reserves the same room for each argument.
   #call(judged, values) {
     const {check} = judged;
     let room = kSpare;
@@ -184,7 +184,7 @@ class Ostrel {
     return this.#bytes();
   }
 
-  // #put tells whether the value is passed in memory.
+  // #put returns true if the value is passed in memory.
   #put(bytes, at, room, {kind, block_size: size}, value) {
     if (value === null || kind === 'integer' || kind === 'unsigned') return false;
     if (kind === 'text') put(bytes, at, value, this.#isLatin1);
@@ -222,7 +222,7 @@ class Ostrel {
     return after;
   }
 
-  // #explain loads the descriptions the first time, and again where that failed.
+  // #explain loads the descriptions the first time, and again if that failed.
   async #explain(judged, values) {
     if (this.#reasonOf) return this.#reasonOf(judged, values);
     try {

@@ -1,4 +1,4 @@
-// The module of reasons: why a check refused a call, by its description.
+// The module of reasons: finds why a check refused a call, from its description.
 
 import {most, put, take} from './text.js';
 
@@ -7,9 +7,9 @@ const kText = 1;
 const kInteger = 2;
 const kUnsigned = 3;
 const kBlocks = 4;
-const kHead = 5;  // a tag and a number
+const kHead = 5;  // bytes of a tag and a number
 
-// Which of the numbers is what of a reason (reasons/told.h). A text has two: where it begins, and its bytes.
+// The positions of the numbers of a reason (reasons/told.h). A text has two: its address and its size.
 const kId = 0;
 const kPart = 2;
 const kConversion = 4;
@@ -23,7 +23,7 @@ const kAllowed = 16;
 const kReadAs = 19;
 const kSentence = 22;
 
-// What a datum is, of which two numbers follow.
+// The kind of a datum, which two numbers follow.
 const kNothing = 0;
 const kNumber = 1;
 const kDatumText = 2;
@@ -33,7 +33,7 @@ const kKeptJson = 6;
 
 const decoder = new TextDecoder();
 
-// longest is how many bytes a call may take: each value a head, and each text of it another.
+// longest returns the maximum size of a call: each value has a head, and so has each text of a block.
 function longest(values, isLatin1) {
   let sum = 0;
   for (const value of values) {
@@ -44,7 +44,7 @@ function longest(values, isLatin1) {
   return sum;
 }
 
-// Memory is that of a module, with the place where it reads calls.
+// Memory is the memory of a module, with the place from which it reads calls.
 export class Memory {
   #exports;
   #isLatin1;
@@ -59,7 +59,7 @@ export class Memory {
     this.#isLatin1 = isLatin1;
   }
 
-  // #look takes the views anew when memory has grown: those that are kept then are empty, and silently stay so.
+  // #look renews the views if memory has grown, which leaves older views empty without an error.
   #look() {
     if (this.#bytes.length > 0) return;
     const {buffer} = this.#exports.memory;
@@ -101,7 +101,7 @@ export class Memory {
     return end;
   }
 
-  // numbers returns the memory as numbers, until a call is written.
+  // numbers returns the memory as numbers, valid until a call is written.
   numbers() {
     this.#look();
     return this.#numbers;
@@ -111,7 +111,7 @@ export class Memory {
     return take(this.#bytes, at, length, true);
   }
 
-  // sentence is a text in ASCII, for which the decoder is the quickest.
+  // sentence reads ASCII, for which the decoder is fastest.
   sentence(at, length) {
     return decoder.decode(this.#bytes.subarray(at, at + length));
   }
@@ -120,14 +120,14 @@ export class Memory {
 const asText = (text) => text;
 const asData = (json) => Object.freeze(JSON.parse(json));
 
-// whole puts a number of 64 bits together.
+// whole combines the halves of a number of 64 bits.
 const whole = (low, high) => (low >> 31 === high ? low : high * 2 ** 32 + (low >>> 0));
 
-// Reasons is a module that runs. What stays at its place there is read once.
+// Reasons is an instance of the module. Texts that stay at their address are read once.
 class Reasons {
   #exports;
   #memory;
-  #told;  // which of the numbers in memory is the first of a reason
+  #told;  // the index of the first number of a reason
   #keptData = new Map();
 
   constructor(module, {isLatin1, isLong64, channels}) {
@@ -212,7 +212,7 @@ export function reasonsOf(module, options) {
     try {
       return reasons.explain(judged, values);
     } catch (error) {
-      // A list so long that its reason is not worth the work ends the module.
+      // The module traps if a value is too long; it is then replaced.
       if (!(error instanceof WebAssembly.RuntimeError)) throw error;
       reasons = new Reasons(module, options);
       return reasons.tooMuchWork();

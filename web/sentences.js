@@ -1,7 +1,7 @@
-// Sentences for people: why a value was refused, in the words of a language file (sentences/en.js, sentences/de.js).
+// Sentences for users: why a value was refused, in the language of a file such as sentences/en.js or sentences/de.js.
 
-const kMostWords = 40;  // more than that nobody reads
-const kLongest = 64;    // characters of a text that is shown
+const kMostWords = 40;  // a longer list is too long to read
+const kLongest = 64;    // characters that are shown of a text
 const kCategories = ['zero', 'one', 'two', 'few', 'many', 'other'];
 
 const filledIn = (template, value) => template.replace(/\{([^}]*)\}/g, (_, name) => value(name));
@@ -10,7 +10,7 @@ const isPrintable = (c) => c > ' ' && c <= '~';
 const isPlain = (word) => word !== '' && [...word].every((c) => isPrintable(c) && c !== ',' && c !== '"');
 const inHex = (byte) => `\\x${byte.toString(16).toUpperCase().padStart(2, '0')}`;
 
-// inCommon counts the characters of the longest text that occurs in both.
+// inCommon returns the length of the longest text that occurs in both.
 function inCommon(one, other) {
   let longest = 0;
   for (let i = 0; i + longest < one.length; ++i) {
@@ -36,8 +36,8 @@ export function bytesOf(text, encoding = 'utf-8') {
   return bytes;
 }
 
-// placeOf finds the character that has the byte: what it is, which one (from 0), and where it begins in the text. After
-// the last byte there is none.
+// placeOf finds the character that contains a byte: the character, its number (from 0), and its index in the text. After
+// the last byte the character is empty.
 export function placeOf(text, offset, encoding) {
   let bytes = 0;
   let index = 0;
@@ -51,7 +51,7 @@ export function placeOf(text, offset, encoding) {
   return {character: '', index, number};
 }
 
-// Teller tells one reason. Its texts hold a byte in each character; with an encoding they are shown as people wrote them.
+// Teller puts one reason into words. In its texts each character is a byte; with an encoding they are decoded.
 class Teller {
   constructor(reason, language, {subject = '', text, encoding}) {
     Object.assign(this, {reason, language, subject, encoding});
@@ -59,7 +59,7 @@ class Teller {
     this.place = isMapped ? placeOf(text, reason.offset, encoding) : null;
   }
 
-  // escaped shows a text such that it can be seen whole, or its beginning.
+  // escaped shows the beginning of a text, with escapes for what is invisible.
   escaped(bytes) {
     let text = bytes.slice(0, kLongest);
     if (this.encoding === 'utf-8') {
@@ -74,7 +74,7 @@ class Teller {
     return filledIn(this.language.quoted, () => this.escaped(bytes));
   }
 
-  // shown makes a character such that it can stand in a sentence. One that is a byte alone has no other form.
+  // shown shows a character in a sentence. isByte: only a byte of it is known.
   shown(character, isByte) {
     if (character === ' ') return this.phrased('a space');
     if (character === '"') return this.phrased('a quotation mark');
@@ -84,14 +84,14 @@ class Teller {
     return inHex(character.codePointAt(0));
   }
 
-  // byte shows the character that has the byte, or the byte alone.
+  // byte shows the character at fault, or only the byte if the text is unknown.
   byte() {
     const {found} = this.reason;
     if (this.place?.character) return this.shown(this.place.character, false);
     return typeof found === 'string' && found !== '' ? this.shown(found, true) : '';
   }
 
-  // phrased translates the fixed phrases that names of parts and sets are made of.
+  // phrased translates the fixed phrases in the names of parts and sets.
   phrased(text) {
     const known = Object.keys(this.language.phrases).sort((a, b) => b.length - a.length);
     if (known.length === 0) return text;
@@ -115,7 +115,7 @@ class Teller {
     return filledIn(this.language.nearest, (name) => (name === 'count' ? datum.length : this.quoted(nearest)));
   }
 
-  // form chooses among the plural forms of the language.
+  // form selects a plural form of the language.
   form(datum, forms) {
     const rules = new Intl.PluralRules(this.language.locale);
     const categories = kCategories.filter((one) => rules.resolvedOptions().pluralCategories.includes(one));
@@ -179,10 +179,10 @@ class Teller {
   }
 }
 
-// clause says why without a capital letter and a full stop.
+// clause says why, without the initial capital and the full stop.
 export const clause = (reason, language, options = {}) => new Teller(reason, language, options).tell();
 
-// sentence says why. text is the value, so that characters can be shown and counted instead of bytes.
+// sentence says why. With options.text, the value, it shows and counts characters instead of bytes.
 export function sentence(reason, language, options = {}) {
   const said = clause(reason, language, {subject: language.subject, ...options});
   return said === '' ? language.refused : `${capital(said)}.`;

@@ -1,4 +1,4 @@
-// Texts into and out of a module's memory. A value that cannot be passed whole is the caller's error.
+// Copies texts into and out of the memory of a module. A value that cannot be passed completely is an error.
 
 const kHighSurrogates = 0xd800;
 const kLowSurrogates = 0xdc00;
@@ -32,14 +32,14 @@ export function put(bytes, at, text, isLatin1) {
   return at;
 }
 
-// most is how many bytes put may write.
+// most returns the maximum number of bytes that put writes.
 export const most = (text, isLatin1) => text.length * (isLatin1 ? 1 : 3) + 1;
 
 const decoder = new TextDecoder('utf-8', {ignoreBOM: true});
-const kShort = 64;      // bytes, for which calling the decoder would take longer
-const kAtOnce = 0x1000;  // bytes, which are passed as arguments
+const kShort = 64;      // bytes; for these calling the decoder would take longer
+const kAtOnce = 0x1000;  // bytes that are passed as arguments
 
-// take reads so many bytes.
+// take reads length bytes.
 export function take(bytes, at, length, isLatin1) {
   const end = at + length;
   let text = '';
@@ -57,7 +57,7 @@ export function take(bytes, at, length, isLatin1) {
   return text;
 }
 
-// taken reads up to the terminator, or so many bytes.
+// taken reads up to the terminator, at most room bytes.
 export function taken(bytes, at, room, isLatin1) {
   const end = bytes.indexOf(0, at);
   return take(bytes, at, end < 0 ? room : Math.min(end - at, room), isLatin1);

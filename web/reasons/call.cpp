@@ -19,7 +19,7 @@ class Reader {
  public:
     explicit Reader(const char* begin) : next_(begin) {}
 
-    // read sets a value, in the memory of the one before where both are texts.
+    // read sets a value; a text reuses the memory of the text before it.
     void read(Value& value)
     {
         const char tag = *next_++;

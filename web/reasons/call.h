@@ -1,7 +1,7 @@
-// A call that the page has written into this module's memory.
+// A call that the page has written into the memory of this module.
 //
-// For each argument of the check stands a byte that says what it is and, but for NULL, a number of four bytes: the number itself, the
-// bytes of the text that follows, or how many blocks follow, each a text with the number of its bytes before it.
+// Each argument of the check is a tag of one byte and, except for NULL, a number of four bytes: the number itself, the
+// size of the text that follows, or the count of blocks that follow, each a size and a text.
 #ifndef OSTREL_WEB_REASONS_CALL_H
 #define OSTREL_WEB_REASONS_CALL_H
 
@@ -12,10 +12,10 @@
 
 namespace ostrel::web {
 
-// room_for_call returns where calls of up to so many bytes are to be written, until it is asked for more.
+// room_for_call returns the place for calls of at most size bytes, valid until a larger size is requested.
 char* room_for_call(std::size_t size);
 
-// written_call reads the call that is there. It is kept until the next one is read.
+// written_call reads the call, valid until the next one is read.
 const std::vector<rules::Value>& written_call(const rules::Check& check);
 
 }  // namespace ostrel::web

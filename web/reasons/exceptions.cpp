@@ -1,4 +1,4 @@
-// There are no exceptions here. What would throw ends the call.
+// This module has no exceptions: a throw traps.
 
 #include <__verbose_abort>
 #include <cstddef>
@@ -8,7 +8,7 @@ extern "C" {
 void* __cxa_allocate_exception(std::size_t /*size*/) { __builtin_trap(); }
 void __cxa_throw(void* /*exception*/, void* /*type*/, void (* /*destroy*/)(void*)) { __builtin_trap(); }
 
-// The C++ library's own reports would bring printf along.
+// The C++ library's own reports would link printf.
 [[noreturn]] void abort_message(const char* format, ...);
 [[noreturn]] void abort_message(const char* /*format*/, ...) { __builtin_trap(); }
 }

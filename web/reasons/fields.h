@@ -1,7 +1,7 @@
 // The fields of a description that its evaluation reads, in one order for packing and unpacking.
 //
-// What only counts or explains is left out: the numbers of steps and conditions, and what is said of arguments. Each
-// function names every field, so that it does not compile when there is one more.
+// Numbers of steps and conditions and descriptions of arguments are left out. Each function names every field, so that it
+// does not compile when a field is added.
 #ifndef OSTREL_WEB_REASONS_FIELDS_H
 #define OSTREL_WEB_REASONS_FIELDS_H
 
@@ -106,7 +106,7 @@ void fields(Archive& archive, rules::Check& it)
     archive(name, arguments, steps, is_verdict, module, slots, number);
 }
 
-// Kinds numbers the types that are packed once each, however often they are used.
+// Kinds numbers the types whose equal values are packed once.
 template <typename... Types>
 struct Kinds {
     template <typename T>

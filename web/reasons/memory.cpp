@@ -7,7 +7,7 @@
 
 namespace {
 
-// As large as the descriptions are. Of the memory that a page has for the module this is there in any case.
+// Large enough for the descriptions. The module needs that memory in any case.
 constexpr std::size_t kRegion = std::size_t{3} << 20U;
 constexpr std::size_t kAlignment = alignof(std::max_align_t);
 
@@ -52,7 +52,7 @@ void end_building() { next = nullptr; }
 void clear_building()
 {
     std::memset(region, 0, kRegion);
-    asm volatile("" : : "r"(region) : "memory");  // or the compiler would find the clearing useless
+    asm volatile("" : : "r"(region) : "memory");  // otherwise the compiler would remove the clearing
     std::free(region);
 }
 

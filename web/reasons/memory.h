@@ -1,14 +1,14 @@
-// Memory: what is needed only while the package is built leaves nothing in the module.
+// Memory: what only the build of the package needs leaves no trace in the module.
 #ifndef OSTREL_WEB_REASONS_MEMORY_H
 #define OSTREL_WEB_REASONS_MEMORY_H
 
 namespace ostrel::web {
 
-// From begin_building to end_building what is allocated is in a region of its own, and stays there.
+// Between begin_building and end_building memory is allocated in a separate region and never freed.
 void begin_building();
 void end_building();
 
-// clear_building clears the region. Nothing that is in it may be used any more.
+// clear_building clears the region, which must no longer be used.
 void clear_building();
 
 }  // namespace ostrel::web

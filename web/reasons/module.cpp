@@ -24,7 +24,7 @@ std::string sentence;
 Build gateway = {OSTREL_MODEL, OSTREL_ACCOUNT_REALM, OSTREL_SETUP_REALM, Build::Atoi::kLong32,
                  std::vector<int>()};
 
-// packed is what ostrel_prepare makes. Nothing else here may name what makes the descriptions.
+// packed is set by ostrel_prepare. Nothing else here may refer to the code that builds the descriptions.
 ostrel::web::Pack packed;
 
 const std::vector<ostrel::rules::Check>& descriptions()
@@ -45,7 +45,7 @@ void tell()
 
 extern "C" {
 
-// ostrel_prepare is called when the package is built. Its work is part of the module, and it itself is not.
+// ostrel_prepare is called when the package is built. The module contains its result, not its code.
 OSTREL_EXPORT(prepare) void ostrel_prepare()
 {
     ostrel::web::begin_building();
@@ -60,15 +60,15 @@ OSTREL_EXPORT(configure) void ostrel_configure(bool has_long_of_64_bits)
     gateway.atoi = has_long_of_64_bits ? Build::Atoi::kLong64 : Build::Atoi::kLong32;
 }
 
-// ostrel_add_channel adds one that the wireless driver lists.
+// ostrel_add_channel adds a channel that the wireless driver lists.
 OSTREL_EXPORT(add_channel) void ostrel_add_channel(int channel) { gateway.channels->push_back(channel); }
 
 OSTREL_EXPORT(reserve) char* ostrel_reserve(std::size_t size) { return ostrel::web::room_for_call(size); }
 
-// ostrel_told returns where explain tells the reason.
+// ostrel_told returns the place where explain stores the reason.
 OSTREL_EXPORT(told) const Told* ostrel_told() { return &told; }
 
-// ostrel_explain tells the reason of the call that was written; it returns false where the call is no refusal.
+// ostrel_explain stores the reason for the call that was written. It returns false if the call is not a refusal.
 OSTREL_EXPORT(explain) bool ostrel_explain(std::size_t check)
 {
     called = &descriptions()[check];
@@ -79,7 +79,7 @@ OSTREL_EXPORT(explain) bool ostrel_explain(std::size_t check)
     return true;
 }
 
-// ostrel_too_much_work tells the reason of a call that explain did not return from.
+// ostrel_too_much_work stores the reason for a call in which explain trapped.
 OSTREL_EXPORT(too_much_work) void ostrel_too_much_work()
 {
     called = &descriptions().front();

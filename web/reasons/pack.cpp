@@ -134,7 +134,7 @@ class Packer {
     Pack pack_;
     std::string fields_;  // of the part that is being packed
     std::map<unsigned, std::map<std::string, std::uint64_t>> known_;
-    std::map<std::string, const char*> texts_;  // by what they are, where they are
+    std::map<std::string, const char*> texts_;  // the address of each
 };
 
 }  // namespace
@@ -142,7 +142,7 @@ class Packer {
 Pack pack(const std::vector<rules::Check>& checks)
 {
     Packer packer(checks);
-    // One order of fields serves for packing and unpacking. Nothing is changed here.
+    // Packing and unpacking share the functions in fields.h. Nothing is changed here.
     for (const rules::Check& check : checks) packer.add(const_cast<rules::Check&>(check));
     return packer.take();
 }

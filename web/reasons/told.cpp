@@ -14,7 +14,7 @@ namespace {
 
 using rules::Set;
 
-// More sets than the descriptions name, so that only those are told anew that a caller makes.
+// More sets than the descriptions have, so that only sets of callers are converted again.
 constexpr std::size_t kMostSets = 64;
 
 struct KnownSet {

@@ -1,4 +1,4 @@
-// What the page reads of a reason, without JSON.
+// A reason in the form in which the page reads it, without JSON.
 #ifndef OSTREL_WEB_REASONS_TOLD_H
 #define OSTREL_WEB_REASONS_TOLD_H
 
@@ -10,7 +10,7 @@
 
 namespace ostrel::web {
 
-// Told is memory that the page reads as numbers of 32 bits, in this order (reasons.js).
+// Told is read by the page as numbers of 32 bits, in this order (reasons.js).
 struct Told {
     static constexpr std::int32_t kNone = -1;
 
@@ -23,11 +23,11 @@ struct Told {
         enum Kind : std::int32_t {
             kNothing,
             kNumber,   // the low and the high 32 bits
-            kText,     // where it begins, and its bytes; and so on
-            kNumbers,  // each the low and the high 32 bits
-            kTexts,    // each where it begins and its bytes, which stay there
+            kText,     // its address and its size
+            kNumbers,  // their address and count; each the low and the high 32 bits
+            kTexts,    // their address and count; each an address that stays valid, and a size
             kJson,
-            kKeptJson,  // which stays there
+            kKeptJson,  // whose address stays valid
         };
         Kind kind = kNothing;
         std::int32_t first = 0;
@@ -48,7 +48,7 @@ struct Told {
     Text sentence;
 };
 
-// tell shows a reason and its sentence, which must stay as long as the page reads them.
+// tell stores a reason and its sentence, which must stay valid as long as the page reads them.
 void tell(Told& told, const rules::Reason& reason, std::string_view sentence);
 
 }  // namespace ostrel::web

@@ -1,4 +1,4 @@
-/** What is said in one language. README.md says how to write another. */
+/** The texts of one language. README.md says how to add another. */
 export interface Language {
   /** For plural forms: 'en'. */
   readonly locale: string;

@@ -1,4 +1,4 @@
-// Builds the site: static files for any web server, and one file that holds everything.
+// Builds the site: static files for any web server, and one file that contains everything.
 //
 //   node build.js PACKAGE CATALOGUE.JSON NODE_MODULES FOLDER
 

@@ -63,7 +63,7 @@ function valuesOf(form, check) {
 
 function verdictOf({valid, code, name, lines, stderr, after}) {
   const parts = [];
-  if (valid === null) parts.push(shown('p', 'verdict', `Answers ${code}`));
+  if (valid === null) parts.push(shown('p', 'verdict', `Returns ${code}`));
   else parts.push(shown('p', `verdict ${valid ? 'good' : 'bad'}`, valid ? 'Accepted' : `Refused: ${code} ${name}`));
   for (const line of [...lines, ...stderr]) parts.push(shown('code', 'line', visible(line)));
   for (const [argument, held] of Object.entries(after)) {

@@ -34,7 +34,7 @@ const shapeOf = (groups) => groups.map(({characters, least, most}) => {
   return `${set}{${least === most ? least : `${least},${most}`}}`;
 }).join(' ');
 
-// rowsOf lists what is said of a text, as terms and their HTML.
+// rowsOf lists the limits of a text, as terms and their HTML.
 function rowsOf(form) {
   const rows = [];
   const add = (term, html) => rows.push([term, html]);
@@ -62,14 +62,14 @@ function constraintsOf(said) {
   if (!said) return '';
   const rows = rowsOf(said);
   for (const [limit, argument] of Object.entries(said.limits ?? {})) {
-    rows.push([limit.replace('_', ' ').replace(/^./, (c) => c.toUpperCase()), `what ${code(argument)} says`]);
+    rows.push([limit.replace('_', ' ').replace(/^./, (c) => c.toUpperCase()), `the value of ${code(argument)}`]);
   }
   if (said.depends_on) rows.push(['Depends on', said.depends_on.map(code).join(', ')]);
   if (rows.length === 0) return '';
   const claim = said.exact ? 'Exactly these values are accepted'
-    : said.necessary ? 'Every accepted value obeys; others may be refused' : 'What obeys is accepted';
+    : said.necessary ? 'Every accepted value is within these limits; others within them may be refused' : 'Every value within these limits is accepted';
   const offered = said.recommended ? rowsOf(said.recommended) : [];
-  return `<h4>Constraints</h4>${list(rows)}<p class="claim">${claim}${said.reads_number ? ', numbers beyond 32 bits aside' : ''}.</p>${
+  return `<h4>Constraints</h4>${list(rows)}<p class="claim">${claim}${said.reads_number ? ', except for numbers beyond 32 bits' : ''}.</p>${
     offered.length > 0 ? `<h4>What a form should offer</h4>${list(offered)}` : ''}`;
 }
 
@@ -111,7 +111,7 @@ function fieldsOf(check) {
     })).join('');
 }
 
-// articleOf is all that is said of a check.
+// articleOf is the section about a check.
 export function articleOf(check) {
   const answers = check.codes.map(({code: number, name, meaning}) =>
     `<tr><td>${number}</td><td>${code(name)}</td><td>${escaped(meaning)}</td></tr>`).join('');

@@ -1,4 +1,4 @@
-// The module of rules without the wrapper: each value where the test wants it, and everything that is left behind.
+// The module of rules without the wrapper: a test places each value and reads every effect.
 
 const kPage = 0x10000;
 const kUnwritten = -0x80000000;
@@ -42,7 +42,7 @@ export class Bare {
     this.bytes = Buffer.alloc(0);
   }
 
-  // sizeOf gives the bytes that the contract asks for.
+  // sizeOf returns the size that the contract requires.
   sizeOf(check, index, values) {
     const {kind, blocks, block_size: size} = check.arguments[index];
     if (kind === 'integer_out') return 4;
@@ -101,7 +101,7 @@ export class Bare {
   }
 }
 
-// edges lists the arguments that can stand at the end of the memory; none: the call is made once all the same.
+// edges lists the arguments that can be placed at the end of the memory; if there are none, the call is made once.
 export function edges(check, given) {
   const values = completed(check, given);
   const found = check.arguments.flatMap((argument, i) => (isPointer(argument) && values[i] !== null ? [i] : []));

@@ -1,4 +1,4 @@
-// For the tests: what the descriptions say of a call besides the reason.
+// For the tests: what the descriptions say about a call in addition to the reason.
 
 #include "rules/evaluate.h"
 #include "rules/rules.h"
@@ -19,7 +19,7 @@ __attribute__((export_name("room"))) int ostrel_room(std::size_t check, std::siz
     return room ? static_cast<int>(*room) : -1;
 }
 
-// ostrel_code returns the answer. A call that the contract says nothing of ends here.
+// ostrel_code returns the result code. It traps for a call whose result the contract leaves open.
 __attribute__((export_name("code"))) int ostrel_code(std::size_t check)
 {
     ostrel::rules::Build build;

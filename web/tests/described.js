@@ -1,4 +1,4 @@
-// What the descriptions say of a call besides the reason.
+// What the descriptions say about a call in addition to the reason.
 
 import {Memory} from '../reasons.js';
 import {checks, moduleOf} from './files.js';
@@ -22,13 +22,13 @@ function answered(call) {
   }
 }
 
-// roomOf gives the bytes that a buffer must have; -1: those of the text in it.
+// roomOf returns the size that a buffer must have; -1: the size of its text.
 export function roomOf(check, argument, values) {
   memory.write(check, values);
   return answered(() => exports.room(checks.indexOf(check), argument)) ?? -1;
 }
 
-// describedCode gives the answer; null: the contract says nothing of the call.
+// describedCode returns the result code; null: the contract leaves the result open.
 export function describedCode(check, values) {
   memory.write(check, values);
   return answered(() => exports.code(checks.indexOf(check)));

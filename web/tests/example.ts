@@ -43,7 +43,7 @@ ostrel.judge('WLAN_check_wepkeys', ['', '', '']);
 // @ts-expect-error this check writes nothing
 port.after.value_p;
 
-// An answer that is a number is no verdict.
+// A number is not a verdict.
 const counted: null = ostrel.judge('countChar', 'a.b', 46).valid;
 
 // @ts-expect-error there is no such encoding
@@ -68,7 +68,7 @@ const detach: () => void = attach(document.forms[0], ostrel, {sentences: {...ger
 detach();
 // @ts-expect-error it has to be a form
 attach(document.body, ostrel);
-// @ts-expect-error a language says more than that
+// @ts-expect-error a language has more members
 attach(document.forms[0], ostrel, {sentences: {locale: 'fr'}});
 
 console.log(longest, valid, name, reason?.text, names, account, offset, keys, counted, ostrel.build.model);

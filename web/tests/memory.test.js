@@ -1,4 +1,4 @@
-// Memory: no value is judged in place of another, none is cut, and an error leaves nothing behind.
+// Memory: no value is judged instead of another, none is cut, and an error has no later effect.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';
@@ -23,7 +23,7 @@ test('a value that makes the memory grow is the one that is judged', async () =>
   }
 });
 
-// loaded also gives the exports of the module that the values are judged with.
+// loaded also returns the exports of the module of rules.
 async function loaded(options) {
   let exports;
   const {Instance} = WebAssembly;

@@ -1,4 +1,4 @@
-// What ostrel-check says of calls, natively. OSTREL_CHECK names the program.
+// The results of the native ostrel-check. OSTREL_CHECK names the program.
 
 import {spawnSync} from 'node:child_process';
 

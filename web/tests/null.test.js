@@ -37,7 +37,7 @@ function watched() {
         },
         alignfault() {},
         emscripten_get_sbrk_ptr: () => {
-          // Where the end of memory stands: low enough that nothing else is there.
+          // The end of memory is low enough that nothing else is there.
           new DataView(bare.exports.memory.buffer).setInt32(kEndOfMemory, 0x7fffffff, true);
           return kEndOfMemory;
         },

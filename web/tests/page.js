@@ -66,17 +66,17 @@ export function checkNetwork(page, base) {
   for (const url of page.asked) assert.ok(url.startsWith(`${base}/`) || url.startsWith('data:'), url);
 }
 
-// retype types a text in place of what a field holds.
+// retype replaces the text of a field by typing.
 export async function retype(page, selector, text) {
   await page.fill(selector, '');
   await page.locator(selector).pressSequentially(text);
 }
 
-// said is what describes a field.
+// said is the description of a field.
 export const said = (page, selector) => page.$eval(selector, (input) =>
   input.getAttribute('aria-describedby').split(' ').map((id) => document.getElementById(id))
     .filter((one) => !one.hidden).map((one) => one.innerText).filter(Boolean).join(' | '));
 
-// refused waits until a reason is told.
+// refused waits until a reason is shown.
 export const refused = (page, selector) =>
   page.waitForFunction((one) => document.querySelector(`${one} ~ .ostrel-reason`).textContent !== '', selector);

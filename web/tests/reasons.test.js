@@ -1,4 +1,4 @@
-// Reasons: on every row those of the module are those that ostrel-check tells.
+// Reasons: for every row the module and ostrel-check agree.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';

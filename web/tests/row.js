@@ -11,7 +11,7 @@ function valueOf(json) {
   return Array.isArray(json) ? json.map(textOf) : textOf(json);
 }
 
-// answerOf gives the answer where long has so many bits; none where the row does not say it.
+// answerOf returns the result for a long of that many bits, or nothing if the row has none.
 function answerOf(row, long) {
   if (row.overflow && long === 32) return null;
   const answer = (long === 32 && row.long32) || row;

@@ -1,4 +1,4 @@
-// Sentences: each language says all that can be said, English in the very words of the descriptions.
+// Sentences: each language is complete, and English has exactly the sentences of the descriptions.
 
 import assert from 'node:assert/strict';
 import {join} from 'node:path';
