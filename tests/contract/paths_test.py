@@ -1,6 +1,6 @@
 """Whoever knows one path of a function knows all: its module has the same path in every tree.
 
-usage: paths_test.py SOURCE_DIR VECTORS_TEST
+usage: paths_test.py SOURCE_DIR VECTORS_TEST OSTREL_CHECK
 """
 
 import json
@@ -11,7 +11,7 @@ import sys
 import unittest
 
 SOURCE = pathlib.Path(sys.argv[1])
-PROGRAM = sys.argv[2]
+TESTS, TOOL = sys.argv[2:]
 # A table of data, which is neither called nor described.
 TABLE = "ostrel_ctype"
 
@@ -59,7 +59,7 @@ class Paths(unittest.TestCase):
         self.assertEqual(headers, places("vectors"))
 
     def test_each_function_has_a_test_in_the_suite_of_its_module(self):
-        listed = subprocess.run([PROGRAM, "--gtest_list_tests"], check=True, stdout=subprocess.PIPE, text=True).stdout
+        listed = subprocess.run([TESTS, "--gtest_list_tests"], check=True, stdout=subprocess.PIPE, text=True).stdout
         suite, tests = "", {}
         for line in listed.splitlines():
             if line.startswith("  "):
@@ -67,6 +67,12 @@ class Paths(unittest.TestCase):
             else:
                 suite = line.removesuffix(".")
         self.assertEqual(places("vectors"), tests)
+
+    def test_the_family_of_a_function_is_the_first_component_of_its_path(self):
+        listed = subprocess.run([TOOL, "list", "--json"], check=True, stdout=subprocess.PIPE, text=True).stdout
+        families = {check["name"]: [check["family"]] for check in json.loads(listed)["checks"]}
+        modules = {name: [module.split("/")[0] for module in found] for name, found in places("vectors").items()}
+        self.assertEqual(modules, families)
 
 
 if __name__ == "__main__":

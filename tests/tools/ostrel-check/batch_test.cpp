@@ -33,7 +33,7 @@ TEST(Batch, TableShowsEachCaseAndASummary)
                        "By family and code:\n"
                        "  strings  answered: 1\n"
                        "  accounts  accepted: 1\n"
-                       "  parameters  accepted: 1, refused 601: 1\n"
+                       "  parameter_check  accepted: 1, refused 601: 1\n"
                        "4 cases: 2 accepted, 1 refused, 1 answered with a number\n",
                        ""}),
               outcome);
@@ -64,7 +64,7 @@ TEST(Batch, JsonHoldsCodeMeaningPrintsAndBuffers)
     EXPECT_EQ(
         json::parse(R"({"summary": {"cases": 4, "accepted": 1, "refused": 3, "answer": 0, "malformed": 0,
         "ended": 0, "no_return": 0, "no_driver": 0, "unreadable_files": 0},
-        "families": {"accounts": {"0": 1}, "parameters": {"402": 2, "601": 1}}})"),
+        "families": {"accounts": {"0": 1}, "parameter_check": {"402": 2, "601": 1}}})"),
         rows[4]);
 }
 
@@ -207,7 +207,7 @@ TEST(Batch, SeveralFilesAreHeadedAndMissingOnesNamed)
     EXPECT_EQ(first.path() + ":\n      1  accepted      0  PARAM_check_port 1\n" +
                   "-:\n      1  accepted      0  PARAM_check_port 3\n" + last.path() +
                   ":\n      1  accepted      0  PARAM_check_port 2\n"
-                  "By family and code:\n  parameters  accepted: 3\n"
+                  "By family and code:\n  parameter_check  accepted: 3\n"
                   "3 cases: 3 accepted, 0 refused; 1 unreadable file\n",
               outcome.out);
     EXPECT_EQ(

@@ -103,7 +103,7 @@ class Completion:
     def test_values_of_options(self):
         self.assertEqual(["batch", "--encoding", "latin-1"], self.complete("batch --encoding l"))
         self.assertEqual(["batch", "--encoding=latin-1"], self.complete("batch --encoding=l"))
-        self.assertEqual(["list", "--family", "port-mapping"], self.complete("list --family por"))
+        self.assertEqual(["list", "--family", "port_mapping_check"], self.complete("list --family por"))
         self.assertEqual(["list", "--schema", "summary"], self.complete("list --schema s"))
 
     def test_after_options_of_the_program(self):

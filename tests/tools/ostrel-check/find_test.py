@@ -62,8 +62,8 @@ class Listed(unittest.TestCase):
         for family in families:
             self.assertEqual([check["name"] for check in self.checks if check["family"] == family],
                              self.list("--family", family))
-        found = self.list("--family", "wlan", "channel")
-        self.assertEqual([name for name in self.list("channel") if name in self.list("--family", "wlan")], found)
+        found = self.list("--family", "wlan_check", "channel")
+        self.assertEqual([name for name in self.list("channel") if name in self.list("--family", "wlan_check")], found)
         refused = run("list", "--family", "cars")
         self.assertEqual(2, refused.returncode)
         self.assertTrue(all(family in refused.stderr for family in families), refused.stderr)
@@ -123,7 +123,7 @@ class Mistyped(unittest.TestCase):
                              (result.returncode, json.loads(result.stdout)["check"], result.stderr))
             result = run("explain", name)
             self.assertEqual((0, said), (result.returncode, result.stderr))
-            self.assertTrue(result.stdout.startswith("PARAM_check_port (parameters)\n"))
+            self.assertTrue(result.stdout.startswith("PARAM_check_port (parameter_check)\n"))
 
     def test_case_that_two_checks_differ_in(self):
         names = [check["name"] for check in json.loads(run("list", "--json").stdout)["checks"]]

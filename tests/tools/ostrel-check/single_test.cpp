@@ -242,7 +242,7 @@ TEST(Single, ListShowsArgumentsAndRule)
 {
     const Outcome list = run({"list"});
     EXPECT_EQ(0, list.status);
-    EXPECT_NE(std::string::npos, list.out.find("\nparameters\n"));
+    EXPECT_NE(std::string::npos, list.out.find("\nparameter_check\n"));
     EXPECT_NE(std::string::npos, list.out.find("  PARAM_check_number value_p min_len:number max_len:number\n"
                                                "      value_p has min_len to max_len bytes and contains only "
                                                "digits\n"));

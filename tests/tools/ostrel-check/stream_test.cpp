@@ -57,8 +57,8 @@ TEST(Batch, SumsAreThoseOfOneProcessWithAnyNumber)
     const Outcome four = run({"batch", "--only-refused", "--json", "--jobs", "4"}, lines);
     EXPECT_TRUE(one == four);
     EXPECT_NE(std::string::npos,
-              summary_of(one).find(R"("families":{"strings":{"answered":20000},"date-time":{"-1":20000},)"
-                                   R"("parameters":{"0":9363,"601":10637}})"));
+              summary_of(one).find(R"("families":{"strings":{"answered":20000},"date_time":{"-1":20000},)"
+                                   R"("parameter_check":{"0":9363,"601":10637}})"));
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ class Summary(unittest.TestCase):
               "example": {"args": ["65536"], "text": "is 65536; at most 65535 is allowed"}},
              {"check": "PARAM_check_port", "verdict": "refused", "code": 601, "reason": "number_too_low", "count": 1,
               "example": {"args": ["-1"], "text": "is -1; at least 0 is needed"}}], summary["rows"])
-        self.assertEqual({"parameters": {"0": 1, "601": 3}}, summary["families"])
+        self.assertEqual({"parameter_check": {"0": 1, "601": 3}}, summary["families"])
         self.assertEqual(3, summary["summary"]["refused"])
 
     def test_as_text(self):
@@ -63,7 +63,7 @@ class Summary(unittest.TestCase):
                          "          1  refused 601 number_too_high\n"
                          "             [\"65536\"]: is 65536; at most 65535 is allowed\n"
                          "By family and code:\n"
-                         "  parameters  accepted: 1, refused 601: 1\n"
+                         "  parameter_check  accepted: 1, refused 601: 1\n"
                          "2 cases: 1 accepted, 1 refused\n", shown.stdout)
 
     def test_of_a_stream_is_apart_from_the_results(self):

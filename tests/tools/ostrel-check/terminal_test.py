@@ -97,7 +97,7 @@ class Terminal(unittest.TestCase):
         status, shown = at_terminal("explain", "WLAN_check_wepkeys")
         self.assertEqual(0, status)
         self.assert_fits(shown)
-        self.assertTrue(shown.startswith("\x1b[1mWLAN_check_wepkeys (wlan)\x1b[0m\n"))
+        self.assertTrue(shown.startswith("\x1b[1mWLAN_check_wepkeys (wlan_check)\x1b[0m\n"))
         for part in ("the four WEP keys", "NULL: ends the process (failed assertion", 'may become: "";',
                      "803: a character outside the allowed set, OSTREL_FORBIDDEN_CHARACTER", "731:", "402:",
                      "2.1. skips the key if PARAM_check_printable_ascii_string refuses the",
@@ -235,7 +235,7 @@ class Waiting(unittest.TestCase):
                           "         out of range: is 70000; at most 65535 is allowed",
                           "         library: Error in PARAM_check_port: The port shoud be between 0~65535",
                           "By family and code:",
-                          "  parameters  accepted: 1, refused 601: 1",
+                          "  parameter_check  accepted: 1, refused 601: 1",
                           "2 cases: 1 accepted, 1 refused",
                           "stopped after line 2; go on with --start-line 3",
                           ""], lines)

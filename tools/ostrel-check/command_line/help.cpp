@@ -138,7 +138,7 @@ the check.
 Examples:
   ostrel-check list
   ostrel-check list port
-  ostrel-check list --family wlan key
+  ostrel-check list --family wlan_check key
   ostrel-check list --json >catalogue.json
   ostrel-check list --schema >catalogue.schema.json
   ostrel-check list --json-schema >values.schema.json)";
