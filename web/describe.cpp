@@ -1,4 +1,4 @@
-// Prints the descriptions as JSON, for what is generated when the package is built.
+// Prints what generate.js needs of the descriptions, as JSON.
 
 #include <cstdio>
 #include <optional>
@@ -22,25 +22,6 @@ using ostrel::rules::Argument;
 using ostrel::rules::Check;
 using ostrel::rules::NullOutcome;
 
-std::string_view name_of(Argument::Kind kind)
-{
-    switch (kind) {
-        case Argument::Kind::kText:
-            return "text";
-        case Argument::Kind::kBuffer:
-            return "buffer";
-        case Argument::Kind::kBlocks:
-            return "blocks";
-        case Argument::Kind::kInteger:
-            return "integer";
-        case Argument::Kind::kUnsigned:
-            return "unsigned";
-        case Argument::Kind::kIntegerOut:
-            return "integer_out";
-    }
-    return "";
-}
-
 std::string_view name_of(NullOutcome outcome)
 {
     switch (outcome) {
@@ -57,42 +38,23 @@ std::string_view name_of(NullOutcome outcome)
     return "";
 }
 
-void append_member(std::string& out, std::string_view name, std::string_view text)
-{
-    out.append(",\"").append(name).append("\":");
-    append_json_text(out, text);
-}
-
-std::string json_of(const Check& check, std::size_t index)
-{
-    const Argument& argument = check.arguments[index];
-    std::string out = "{\"name\":";
-    append_json_text(out, argument.name);
-    append_member(out, "kind", name_of(argument.kind));
-    append_member(out, "what", argument.what);
-    if (!argument.unit.empty()) append_member(out, "unit", argument.unit);
-    if (argument.is_secret) out += ",\"secret\":true";
-    if (argument.is_output || argument.kind == Argument::Kind::kIntegerOut) out += ",\"output\":true";
-    if (argument.blocks > 1) {
-        out += ",\"blocks\":" + std::to_string(argument.blocks);
-        out += ",\"block_size\":" + std::to_string(argument.block_size);
-    }
-    const bool is_number =
-        argument.kind == Argument::Kind::kInteger || argument.kind == Argument::Kind::kUnsigned;
-    if (!is_number) append_member(out, "null", name_of(null_outcome(check, index, ostrel::rules::Build())));
-    return out + "}";
-}
-
+// json_of has what the catalogue of the command line does not have.
 std::string json_of(const Check& check)
 {
     std::string out = "{\"name\":";
     append_json_text(out, check.name);
-    append_member(out, "module", check.module.substr(0, check.module.find('/')));
-    append_member(out, "answers", check.is_verdict ? "code" : "number");
-    out += ",\"arguments\":[";
+    out += ",\"module\":";
+    append_json_text(out, check.module);
+    out += ",\"nulls\":";
     for (std::size_t i = 0; i < check.arguments.size(); ++i) {
-        if (i > 0) out += ',';
-        out += json_of(check, i);
+        const Argument::Kind kind = check.arguments[i].kind;
+        const bool is_number = kind == Argument::Kind::kInteger || kind == Argument::Kind::kUnsigned;
+        out += i == 0 ? '[' : ',';
+        if (is_number) {
+            out += "null";
+        } else {
+            append_json_text(out, name_of(null_outcome(check, i, ostrel::rules::Build())));
+        }
     }
     return out + "]}";
 }
@@ -103,7 +65,7 @@ class Phrases {
     Phrases()
     {
         for (const std::string_view words : ostrel::rules::set_words()) add(words);
-        // The fields are visited and not changed.
+        // The fields are not changed.
         for (const Check& check : ostrel::rules::checks())
             ostrel::web::fields(*this, const_cast<Check&>(check));
     }
@@ -163,7 +125,7 @@ class Phrases {
     std::set<std::string> all_;
 };
 
-// subject_first writes what a sentence speaks of into it, where it does not name that itself.
+// subject_first adds the subject to a sentence that does not name it.
 std::string subject_first(const ostrel::rules::Sentence& sentence)
 {
     return (sentence.has_subject ? "" : "{subject} ") + std::string(sentence.text);

@@ -1,5 +1,5 @@
-// Makes what the package has of the descriptions: checks.js, constraints.js, index.d.ts, the English sentences; and its
-// package.json.
+// Generates the files of the package that depend on the descriptions: checks.js, constraints.js, index.d.ts, the
+// English sentences; and its package.json.
 //
 //   node generate.js DESCRIBE.WASM CATALOGUE.JSON RESULT_CODE.H PACKAGE.JSON BUILD FOLDER
 //
@@ -20,9 +20,15 @@ const printed = execFileSync(process.execPath, ['--no-warnings', runner, describ
 const described = JSON.parse(printed);
 const catalogue = JSON.parse(readFileSync(catalogueFile, 'utf8'));
 const kWritten = ['buffer', 'blocks', 'integer_out'];
-const checks = described.checks.map((check) => {
-  const writes = check.arguments.some(({kind}) => kWritten.includes(kind));
-  return writes ? {...check, writes} : check;
+const listed = new Map(catalogue.checks.map((check) => [check.name, check]));
+const checks = described.checks.map(({name, module, nulls}) => {
+  const {answers, arguments: all} = listed.get(name);
+  const writes = all.some(({kind}) => kWritten.includes(kind)) || undefined;
+  return {name, module, answers, writes, arguments: all.map((argument, i) => {
+    const {kind, what, unit, secret, blocks, block_size} = argument;
+    const output = argument.output_only || undefined;
+    return {name: argument.name, kind, what, unit, secret, output, blocks, block_size, null: nulls[i] ?? undefined};
+  })};
 });
 
 const codes = {};
