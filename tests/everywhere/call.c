@@ -2,7 +2,7 @@
 
 #include <string.h>
 
-/* Pointers to objects and pointers to functions are converted by way of a union, which C90 does not forbid. */
+/* The union converts a pointer to an object to a pointer to a function, which C90 does not forbid. */
 union function {
     void* address;
     int (*p)(char*);
@@ -16,7 +16,7 @@ union function {
     int (*iui)(int, unsigned, int);
 };
 
-/* plain_kinds writes p for each kind of pointer. */
+/* plain_kinds replaces each kind of pointer with p. */
 static void plain_kinds(const char* kinds, char* plain)
 {
     for (; *kinds != '\0'; ++kinds) *plain++ = *kinds == 'i' || *kinds == 'u' ? *kinds : 'p';

@@ -1,4 +1,4 @@
-"""What scripts/footprint writes, with measures made up.
+"""What scripts/footprint writes, with invented figures.
 
 usage: footprint_test.py SOURCE_DIR
 """

@@ -37,14 +37,12 @@ static void read_string(char* to, size_t capacity)
     at += length;
 }
 
-/* text_from reads the number of parts and steps over them. */
+/* text_from reads the number of parts and skips them. */
 static struct text text_from(const unsigned char** from)
 {
     struct text text;
     unsigned long i;
     text.count = number_from(from);
-    text.is_null = text.count == 0xFFFFFFFFUL;
-    if (text.is_null) text.count = 0;
     text.parts = *from;
     for (i = 0; i < text.count; ++i) {
         unsigned long length;
@@ -87,7 +85,7 @@ char* write_text(const struct text* text, char* to)
         const size_t total = times * length;
         size_t made = total < length ? total : length;
         memcpy(to, from, made);
-        /* Doubling: a machine that is emulated has no time for a byte after the other. */
+        /* Doubling, because copying single bytes is slow under emulation. */
         while (made < total) {
             const size_t more = made < total - made ? made : total - made;
             memcpy(to + made, to, more);
@@ -101,7 +99,7 @@ char* write_text(const struct text* text, char* to)
 
 unsigned long open_rows(const char* path)
 {
-    static const char kMagic[] = "ostrel vectors 2\n";
+    static const char kMagic[] = "ostrel vectors 3\n";
     unsigned char* contents;
     size_t size;
     FILE* file = fopen(path, "rb");
@@ -119,36 +117,16 @@ unsigned long open_rows(const char* path)
     return number_from(&at);
 }
 
-static void read_argument(struct argument* argument, char kind)
+/* read_texts returns the first of them. */
+static struct text read_texts(unsigned long count)
 {
+    struct text first = {NULL, 0};
     unsigned long i;
-    memset(argument, 0, sizeof *argument);
-    argument->kind = kind;
-    switch (kind) {
-        case 'i':
-        case 'u':
-            argument->number = number_from(&at);
-            break;
-        case 't':
-            argument->before = text_from(&at);
-            break;
-        case 'n':
-            argument->is_null = number_from(&at) == 0;
-            if (argument->is_null) break;
-            argument->number = number_from(&at);
-            argument->number_after = number_from(&at);
-            break;
-        case 'b':
-            argument->buffers = number_from(&at);
-            argument->size = number_from(&at);
-            argument->before = text_from(&at);
-            for (i = 1; i < argument->buffers; ++i) text_from(&at);
-            argument->after = text_from(&at);
-            for (i = 1; i < argument->buffers; ++i) text_from(&at);
-            break;
-        default:
-            give_up("an argument of an unknown kind", "vectors");
+    for (i = 0; i < count; ++i) {
+        const struct text text = text_from(&at);
+        if (i == 0) first = text;
     }
+    return first;
 }
 
 void next_row(struct row* row)
@@ -162,5 +140,13 @@ void next_row(struct row* row)
     row->code = signed_number(number_from(&at));
     row->out = text_from(&at);
     row->err = text_from(&at);
-    for (i = 0; row->kinds[i] != '\0'; ++i) read_argument(&row->arguments[i], row->kinds[i]);
+    for (i = 0; row->kinds[i] != '\0'; ++i) {
+        struct argument* const argument = &row->arguments[i];
+        argument->size = number_from(&at);
+        argument->number = number_from(&at);
+        argument->number_after = number_from(&at);
+        argument->texts = number_from(&at);
+        argument->before = read_texts(argument->texts);
+        argument->after = read_texts(row->kinds[i] == 'b' ? argument->texts : 0);
+    }
 }

@@ -6,29 +6,27 @@
 
 #define MOST_ARGUMENTS 4
 
-/* Text is where a text stands in the file; no parts are the empty text. */
+/* Text is the place of a text in the file. The empty text has no parts. */
 struct text {
     const unsigned char* parts;
     unsigned long count;
-    int is_null;
 };
 
+/* Argument is as pack_vectors.cpp describes it. */
 struct argument {
-    char kind;
-    unsigned long number; /* i, u, n: before the call */
+    unsigned long size; /* of the memory for the number or for each text; 0 for NULL */
+    unsigned long number;
     unsigned long number_after;
-    int is_null;        /* n */
-    struct text before; /* t; b: the first of them */
+    unsigned long texts;
+    struct text before; /* the first of them */
     struct text after;
-    unsigned long buffers; /* b */
-    unsigned long size;    /* b: of each */
 };
 
 struct row {
     char label[128];
     char function[64];
     char kinds[MOST_ARGUMENTS + 1];
-    unsigned long atois; /* a bit for each kind of C library with which it holds */
+    unsigned long atois; /* a bit for each kind of C library to which it applies */
     int flushed;
     long code;
     struct text out;
@@ -36,19 +34,19 @@ struct row {
     struct argument arguments[MOST_ARGUMENTS];
 };
 
-/* open_rows reads the whole file and gives the number of rows; it ends the program when it cannot. */
+/* open_rows reads the whole file and returns the number of rows, or ends the program. */
 unsigned long open_rows(const char* path);
 
 /* next_row reads a row. */
 void next_row(struct row* row);
 
-/* next_text gives the text that stands behind this one, as of several buffers. */
+/* next_text returns the text after this one, of several. */
 struct text next_text(const struct text* text);
 
-/* text_length is the number of bytes without a terminator. */
+/* text_length returns the number of bytes without a terminator. */
 size_t text_length(const struct text* text);
 
-/* write_text writes the bytes without a terminator and gives the place behind them. */
+/* write_text writes the bytes without a terminator and returns the end. */
 char* write_text(const struct text* text, char* to);
 
 #endif

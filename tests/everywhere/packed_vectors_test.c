@@ -1,4 +1,4 @@
-/* Runs packed vectors against a library, in plain C: where the target has a C compiler, this runs.
+/* Runs packed vectors against a library, in plain C, on every target with a C compiler.
 
    usage: packed_vectors_test LIBRARY VECTORS
 
@@ -17,7 +17,7 @@
 #include "call.h"
 #include "packed_vectors.h"
 
-/* More than any row needs. Pages that are never touched cost nothing. */
+/* More than any row needs. Unused pages cost nothing. */
 #define AREA ((size_t)17 << 20)
 #define PRINTS ((size_t)34 << 20)
 
@@ -35,7 +35,7 @@ static void give_up(const char* what)
     exit(2);
 }
 
-/* map gives memory between two unreadable pages. */
+/* map returns memory between two unreadable pages. */
 static char* map(size_t size)
 {
     const size_t page = (size_t)sysconf(_SC_PAGESIZE);
@@ -45,7 +45,7 @@ static char* map(size_t size)
     return memory + page;
 }
 
-/* A row that ends the process is named all the same. */
+/* on_signal reports a row that ends the process. */
 static void on_signal(int signal_number)
 {
     static const char text[] = " ended the process\n";
@@ -66,36 +66,23 @@ static char* place(size_t index, size_t size, enum edge edge)
 static struct value load(size_t index, enum edge edge)
 {
     const struct argument* argument = &row.arguments[index];
-    const size_t size = argument->buffers * argument->size;
     const int number = (int)argument->number;
     struct text text = argument->before;
     struct value value = {NULL, 0, 0};
-    size_t i;
-    switch (argument->kind) {
-        case 'i':
-            value.integer = number;
-            break;
-        case 'u':
-            value.natural = (unsigned)argument->number;
-            break;
-        case 't':
-            if (text.is_null) break;
-            value.pointer = place(index, text_length(&text) + 1, edge);
-            *write_text(&text, value.pointer) = '\0';
-            break;
-        case 'n':
-            if (argument->is_null) break;
-            value.pointer = place(index, sizeof number, edge);
-            memcpy(value.pointer, &number, sizeof number);
-            break;
-        default:
-            if (text.is_null) break;
-            value.pointer = place(index, size, edge);
-            memset(value.pointer, 0, size);
-            for (i = 0; i < argument->buffers; ++i) {
-                if (i > 0) text = next_text(&text);
-                write_text(&text, value.pointer + i * argument->size);
-            }
+    unsigned long i;
+    value.integer = number;
+    value.natural = (unsigned)argument->number;
+    if (row.kinds[index] == 'i' || row.kinds[index] == 'u' || argument->size == 0) return value;
+    if (argument->texts == 0) {
+        value.pointer = place(index, argument->size, edge);
+        memcpy(value.pointer, &number, sizeof number);
+        return value;
+    }
+    value.pointer = place(index, argument->texts * argument->size, edge);
+    memset(value.pointer, 0, argument->texts * argument->size);
+    for (i = 0; i < argument->texts; ++i) {
+        if (i > 0) text = next_text(&text);
+        write_text(&text, value.pointer + i * argument->size);
     }
     return value;
 }
@@ -131,21 +118,20 @@ static int differ_printed(const char* what, int file, const struct text* text)
     return differ(what, printed, size, text);
 }
 
-static int differ_argument(const struct argument* argument, const char* actual)
+static int differ_argument(char kind, const struct argument* argument, const char* actual)
 {
     struct text text = argument->after;
     int number;
     int failed = 0;
-    size_t i;
-    if (actual == NULL) return 0;
-    if (argument->kind == 'n') {
+    unsigned long i;
+    if (actual == NULL || kind == 't') return 0;
+    if (kind == 'n') {
         memcpy(&number, actual, sizeof number);
         if (number == (int)argument->number_after) return 0;
         fprintf(report, "%s: number %d instead of %d\n", row.label, number, (int)argument->number_after);
         return 1;
     }
-    if (argument->kind != 'b') return 0;
-    for (i = 0; i < argument->buffers; ++i, actual += argument->size) {
+    for (i = 0; i < argument->texts; ++i, actual += argument->size) {
         const char* terminator = memchr(actual, '\0', argument->size);
         if (i > 0) text = next_text(&text);
         failed |= differ("buffer", actual,
@@ -175,12 +161,13 @@ static int run(void* function, enum edge edge)
     }
     failed |= differ_printed("standard output", STDOUT_FILENO, &row.out);
     failed |= differ_printed("standard error", STDERR_FILENO, &row.err);
-    for (i = 0; row.kinds[i] != '\0'; ++i) failed |= differ_argument(&row.arguments[i], values[i].pointer);
+    for (i = 0; row.kinds[i] != '\0'; ++i)
+        failed |= differ_argument(row.kinds[i], &row.arguments[i], values[i].pointer);
     return failed;
 }
 
-/* atoi_at_hand asks the C library what it makes of a number that does not fit: of a long of 64 bits the low 32, the
-   highest int, or the low 32 bits of the number. */
+/* atoi_at_hand returns the kind of this C library: for a number that does not fit an int, atoi returns the low 32 bits
+   of a long of 64 bits, the highest int, or the low 32 bits of the number. */
 static unsigned long atoi_at_hand(void)
 {
     switch (atoi("99999999999999999999")) {
@@ -191,7 +178,7 @@ static unsigned long atoi_at_hand(void)
         case 1661992959:
             return 4;
         default:
-            give_up("the vectors know no C library with such an atoi");
+            give_up("the vectors do not cover a C library with such an atoi");
             return 0;
     }
 }
@@ -240,6 +227,6 @@ int main(int argc, char** argv)
         }
     }
     fprintf(report, "%lu rows, %lu failed\n", run_rows, failed);
-    /* No row at all proves nothing. */
+    /* Without a row, nothing is proved. */
     return failed > 0 || run_rows == 0 || fclose(report) != 0;
 }

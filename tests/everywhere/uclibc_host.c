@@ -1,5 +1,5 @@
-/* A host that stands in for uClibc: a failed assertion reaches its hook with what the hook is documented to take,
-   and ends the process even where the hook returns.
+/* A host in place of uClibc: a failed assertion calls the hook with the documented arguments, and ends the process even
+   if the hook returns.
 
    usage: uclibc_host LIBRARY */
 #define _GNU_SOURCE
