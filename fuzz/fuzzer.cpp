@@ -25,15 +25,6 @@ std::string missing(const rules::Reason& reason)
 
 }  // namespace
 
-std::vector<std::string_view> families()
-{
-    std::vector<std::string_view> result;
-    for (const Function& function : catalogue::functions()) {
-        if (result.empty() || result.back() != function.family) result.push_back(function.family);
-    }
-    return result;
-}
-
 Fuzzer::Fuzzer(std::string_view family)
 {
     for (const Function& function : catalogue::functions()) {

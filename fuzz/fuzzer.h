@@ -23,9 +23,7 @@ enum class RunResult {
     kDiffered,
 };
 
-// families lists the families of the catalogue. There is a fuzzer for each.
-std::vector<std::string_view> families();
-
+// Fuzzer runs the inputs of a family of the catalogue.
 class Fuzzer {
  public:
     // Throws std::invalid_argument for an unknown family.

@@ -186,7 +186,7 @@ bool run_all(const ReplayOptions& options)
     std::size_t inputs = 0;
     std::size_t refused = 0;
     std::size_t calls = 0;
-    for (const std::string_view family : families()) {
+    for (const std::string_view family : catalogue::families()) {
         const auto all = chosen(family, options);
         if (all.empty()) continue;
         const auto begin = std::chrono::steady_clock::now();
