@@ -1,6 +1,6 @@
 """The checks of a home gateway's configuration values.
 
-judge, judge_many and checks belong to a session of their own, in UTF-8, whose program ends with the interpreter.
+call, judge, judge_many and checks use a common session, in UTF-8, whose program ends with the interpreter.
 """
 
 from ostrel._catalogue import ArgumentOf, Check, Code

@@ -1,4 +1,4 @@
-"""The checks and what they say of their arguments, as ostrel-check list --json prints them."""
+"""The checks and their arguments, as ostrel-check list --json prints them."""
 
 import json
 from collections.abc import Callable, Iterator, Mapping
@@ -14,7 +14,7 @@ Kind = Literal["text", "buffer", "blocks", "integer", "unsigned", "integer_out"]
 
 @dataclass(frozen=True)
 class ArgumentOf:
-    """ArgumentOf is what a check says of one of its arguments."""
+    """ArgumentOf describes an argument of a check."""
 
     name: str
     kind: Kind
@@ -24,10 +24,10 @@ class ArgumentOf:
     is_secret: bool
     """Not to be shown or logged."""
     is_output_only: bool
-    """Nothing needs to be given."""
+    """A caller need not pass it."""
     constraints: Mapping[str, Any] | None
-    """What a value must be, as far as the description of the check proves it. The members are those of
-    ostrel-check list --schema; in their texts each character is the byte of the same number."""
+    """What a value must be, as far as the description of the check proves it. ostrel-check list --schema defines the
+    members. In their texts each character is the byte of the same number."""
 
 
 @dataclass(frozen=True)
@@ -41,14 +41,14 @@ class Code:
 
 @dataclass(frozen=True)
 class Check:
-    """Check is what is known of a check."""
+    """Check describes a check."""
 
     name: str
     family: str
     declaration: str
-    """As C declares it."""
+    """The declaration in C."""
     rule: str
-    """What is accepted, or what the number answered is."""
+    """What is accepted, or what the returned number means."""
     answers: Literal["code", "number"]
     arguments: tuple[ArgumentOf, ...]
     codes: tuple[Code, ...]
@@ -74,14 +74,14 @@ def _frozen(value: Any) -> Any:
 
 
 def read_catalogue(program: str) -> dict[str, Check]:
-    """read_catalogue asks the program for all checks."""
+    """read_catalogue reads all checks from the program."""
     require_version(program)
     rows = json.loads(output_of(program, "list", "--json"))["checks"]
     return {row["name"]: _check_of(row) for row in rows}
 
 
 class Catalogue(Mapping[str, Check]):
-    """Catalogue is every check by its name. The program is asked when the first one is looked up."""
+    """Catalogue maps names to checks. It runs the program when the first one is looked up."""
 
     def __init__(self, find_program: Callable[[], str]) -> None:
         self._find_program = find_program

@@ -1,4 +1,4 @@
-"""What can go wrong beside a value: every error of this package."""
+"""The errors of this package. A refused value is not one."""
 
 
 class Error(Exception):
@@ -6,16 +6,16 @@ class Error(Exception):
 
 
 class MissingProgram(Error):
-    """MissingProgram: ostrel-check is not where it was looked for, or cannot be run."""
+    """MissingProgram: ostrel-check was not found, or cannot be run."""
 
 
 class OtherVersion(Error):
-    """OtherVersion: the program is not of the version that this package and its stubs were made from."""
+    """OtherVersion: the version of the program is not that of this package and its stubs."""
 
 
 class ProgramFailed(Error):
-    """ProgramFailed: the program ended again and again without an answer, or answered what it never should."""
+    """ProgramFailed: the program ended several times without an answer, or its answer is invalid."""
 
 
 class MalformedCall(Error, ValueError):
-    """MalformedCall: there is no such check, or it cannot be called with these arguments."""
+    """MalformedCall: the check is unknown, or cannot be called with these arguments."""

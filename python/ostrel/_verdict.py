@@ -1,4 +1,4 @@
-"""What a check answered, read from a line of ostrel-check."""
+"""The result of a check, read from a line of ostrel-check."""
 
 import base64
 import json
@@ -16,7 +16,7 @@ Outcome = Literal["accepted", "refused", "answer", "ended", "no_return", "no_dri
 
 @dataclass(frozen=True)
 class CharacterSet:
-    """CharacterSet is a set of bytes: in words, and its members in one text."""
+    """CharacterSet is a set of bytes: in words, and its members as a text."""
 
     text: str
     members: str
@@ -30,18 +30,18 @@ NOTHING: Mapping[str, Written] = MappingProxyType({})
 
 @dataclass(frozen=True, repr=False)
 class Reason:
-    """Reason says why a value is refused. What does not apply is None."""
+    """Reason is why a value was refused. Members that do not apply are None."""
 
     id: str
-    """What is wrong, as a word that stays the same."""
+    """What is wrong, as an identifier that does not change."""
     text: str
     """The sentence for the user."""
     argument: str | None = None
     """The name of the argument."""
     part: str | None = None
-    """The part of it that is meant, in words."""
+    """The part of the argument, in words."""
     conversion: str | None = None
-    """What was done to the text before it was judged; offset counts in the text that was made."""
+    """How the text was converted before it was judged. offset counts in the converted text."""
     item: int | None = None
     """The item of a list, or the key of a block, counted from 0."""
     item_text: str | None = None
@@ -53,9 +53,9 @@ class Reason:
     allowed: Datum = None
     """A limit, two limits, a list, or the members of a set."""
     read_as: int | None = None
-    """The number that this gateway reads, where the text is more than that number."""
+    """The number that this gateway reads, if the text contains more than a number."""
     limit: str | None = None
-    """The id that the number read has, where an int does not hold the number in the text."""
+    """The id for the number that was read, if an int cannot hold the number in the text."""
 
     def __repr__(self) -> str:
         members = ", ".join(f"{name}={value!r}" for name, value in self.__dict__.items())
@@ -64,29 +64,29 @@ class Reason:
 
 @dataclass(frozen=True, repr=False)
 class Verdict:
-    """Verdict is what a check answered. It is true if the value was accepted, and false if it was refused or the
-    call ended its process or did not return. A number is neither, so that the truth of one raises TypeError; that
-    of a malformed call raises MalformedCall, and that of a channel which was not judged for want of a driver Error."""
+    """Verdict is the result of a check. It is true if the value was accepted, and false if it was refused, or if the
+    call ended its process or did not return. Its truth raises TypeError if the result is a number, MalformedCall for
+    a malformed call, and Error for a channel that was not judged because there is no driver."""
 
     verdict: Outcome
     code: int | None
-    """The result code, or the number answered. None where the call ended, did not return or was malformed."""
+    """The result code, or the returned number. None if the call ended, did not return or was malformed."""
     reason: Reason | None = None
     """Why the call was refused, ended or did not return."""
     lines: tuple[str, ...] = ()
-    """What the check printed, line by line; each has its line end."""
+    """The lines that the check printed, each with its line end."""
     err: str = ""
-    """What was written to standard error, such as a failed assertion."""
+    """What was written to standard error, for example a failed assertion."""
     after: Mapping[str, Written] = field(default_factory=lambda: NOTHING, hash=False)
-    """What each argument holds that the check may write to, by its name."""
+    """The content of each argument that the check may write to, by its name."""
     meaning: str = ""
     """What the code means, or how the call ended."""
     remarks: tuple[Reason, ...] = ()
-    """The steps that printed a line and went on, before the one that decided."""
+    """The steps that printed a line without deciding."""
     flushed: bool = True
-    """Whether all that was printed had been flushed when the call returned."""
+    """Whether all output had been flushed when the call returned."""
     cut: bool = False
-    """Whether more was printed than lines has."""
+    """Whether lines lacks some of the output."""
 
     def __bool__(self) -> bool:
         if self.verdict == "answer":
@@ -121,14 +121,14 @@ def _restored(members: dict[str, Any]) -> Verdict:
 
 
 def text_of(value: Any) -> str:
-    """text_of returns a text of a result. Bytes that are not UTF-8 come as base64, and become what the error
-    handler surrogateescape makes of them; an argument takes them back as the same bytes."""
+    """text_of returns a text of a result. Bytes that are not UTF-8 are received as base64, and decoded with the error
+    handler surrogateescape. As an argument, the text is encoded to the same bytes."""
     if isinstance(value, str):
         return value
     return base64.b64decode(value["base64"]).decode("utf-8", "surrogateescape")
 
 
-# Sets of the descriptions, by their words. There are few of them, and to make one takes longer than to find it.
+# The sets of the descriptions, by their words. There are few, and finding one is faster than making it.
 _sets: dict[str, CharacterSet] = {}
 _MOST_SETS = 256
 
@@ -153,7 +153,7 @@ def _datum(value: Any) -> Any:
 
 
 def _reason(members: dict[str, Any]) -> Reason:
-    # Only these may be more than a text or a number.
+    # Only these can be something else than a text or a number.
     for name in ("item_text", "found", "allowed"):
         if type(value := members.get(name)) in (dict, list):
             members[name] = _datum(value)
@@ -171,22 +171,22 @@ def _lines(out: str) -> tuple[str, ...]:
 
 
 def _made(kind: type[T], members: dict[str, Any]) -> T:
-    """_made makes an object of a frozen class. To set each member by a call takes longer than all the rest."""
+    """_made makes an object of a frozen class. Setting each member with a call would take most of the time."""
     made = object.__new__(kind)
     object.__setattr__(made, "__dict__", members)
     return made
 
 
-# Verdicts without anything of their own, by their line: at most one for each check.
+# Verdicts with nothing but the code, by their line: at most one for each check.
 _plain: dict[str, Verdict] = {}
 
 
 def verdicts_of(lines: list[str]) -> list[Verdict]:
-    """verdicts_of reads lines of ostrel-check batch --stream. Each begins with the number of the record, without
-    which the results of many records are the same."""
+    """verdicts_of reads lines of ostrel-check batch --stream. Each begins with the number of the record. Without it,
+    many lines are equal."""
     lines = ["{" + line[line.index(",") + 1:] for line in lines]
     known = [_plain.get(line) for line in lines]
-    # One document of many results is read in two thirds of the time that they take one by one.
+    # Parsing all results as one document takes two thirds of the time of parsing each.
     rest = [line for line, verdict in zip(lines, known) if verdict is None]
     rows = json.loads(f"[{','.join(rest)}]")
     made = (_verdict(line, row) for line, row in zip(rest, rows, strict=True))

@@ -1,4 +1,4 @@
-"""A plugin of pytest: a fixture that judges values, and failures that tell why a value was refused."""
+"""A pytest plugin: a fixture that judges values, with failures that contain the reason."""
 
 from collections.abc import Iterator
 
@@ -21,8 +21,7 @@ class Gateway(Session):
         return verdict
 
     def refuses(self, check: str, *arguments: Argument, code: int | None = None, reason: str | None = None) -> Verdict:
-        """refuses fails the test unless the check refuses the values, with this code and for this reason, which is
-        the id of one."""
+        """refuses fails the test unless the check refuses the values, with this code and the reason of this id."""
         __tracebackhide__ = True
         verdict = self.call(check, arguments)
         found = None if verdict.reason is None else verdict.reason.id
@@ -47,11 +46,11 @@ def _fail(check: str, arguments: tuple[Argument, ...], verdict: Verdict, expecte
 def pytest_addoption(parser: pytest.Parser) -> None:
     parser.getgroup("ostrel").addoption(
         "--ostrel-check", metavar="PATH", help="the program that judges (the first ostrel-check on the PATH)")
-    parser.addini("ostrel_encoding", "how a str becomes the bytes that are judged: utf-8 or latin-1", default="utf-8")
+    parser.addini("ostrel_encoding", "the encoding of a str: utf-8 or latin-1", default="utf-8")
 
 
 @pytest.fixture(scope="session")
 def ostrel(pytestconfig: pytest.Config) -> Iterator[Gateway]:
-    """A session of ostrel, which judges values by the checks of a home gateway."""
+    """A session of ostrel, which judges values with the checks of a home gateway."""
     with Gateway(pytestconfig.getoption("ostrel_check"), encoding=pytestconfig.getini("ostrel_encoding")) as gateway:
         yield gateway

@@ -1,4 +1,4 @@
-"""100,000 hostile values: the program judges what it judges without this package, and the caller lives.
+"""100,000 hostile values: the results are those of the program without the package, and the caller survives.
 
 usage: hostile_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -15,7 +15,7 @@ import support
 import ostrel
 
 COUNT = 100_000
-# One runs a shell for each value, and others stay in a loop until their time is up.
+# One runs a shell for each value, and the others loop until their time limit.
 SLOW = {"WLAN_check_channel", "PARAM_check_ui2_value", "PARAM_check_ui4_value"}
 PIECES = ["", "%s%n", "A" * 300, "\n", "\r\n", "\x01", "\x7f", "\x85", "\u2028", "\udcff", "\udc80\udcc3", "é", "日本",
           "\U0001f4a9", "\"}\n{", "\\u0000", "','", "{\"base64\":\"AA==\"}", "0", "-1", "65535", "4294967296", "1.2.3.4",
@@ -53,7 +53,7 @@ class Maker:
 
 
 def token(value):
-    """token writes an argument in another way than the package: as escaped characters, or as base64."""
+    """token encodes an argument differently than the package: as escaped characters, or as base64."""
     if isinstance(value, list):
         return [token(text) for text in value]
     if isinstance(value, str):
@@ -70,12 +70,12 @@ def token(value):
 
 
 def content(value):
-    """content is a text of a result as bytes."""
+    """content returns a text of a result as bytes."""
     return base64.b64decode(value["base64"]) if isinstance(value, dict) else value.encode()
 
 
 def without_place(meaning):
-    """without_place leaves out which byte of a line is wrong, for lines may say the same in other bytes."""
+    """without_place removes the number of the wrong byte of a line, which depends on its encoding."""
     return re.sub(r" \(at byte \d+\)$", "", meaning)
 
 

@@ -19,7 +19,7 @@ from ostrel import _process
 
 
 def cases(count, first=0):
-    """cases has every other one refused, with lines that tell them apart."""
+    """cases returns cases of which every other one is refused, with different lines."""
     return [("LAN_check_interface_addr_type", "Static" if number % 2 else f"{number}")
             for number in range(first, first + count)]
 
@@ -60,7 +60,7 @@ class Killed(unittest.TestCase):
             self.assertNotEqual(pid, self.session.pid)
 
     def test_in_the_middle_of_a_block(self):
-        """The program is killed when its first answers have come, in each of the first blocks."""
+        """The program is killed after its first answers, in each of the first blocks."""
         killed = []
 
         def kill_then_read(lines):

@@ -1,4 +1,4 @@
-"""A closed pipe, an interrupt, and more to say than a pipe takes.
+"""A closed pipe, an interrupt, and more output than a pipe can hold.
 
 usage: pipes_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -34,7 +34,7 @@ session.close()
             session._owner.process._socket.shutdown(2)
             self.assertTrue(session.judge("PARAM_check_port", "80"))
 
-    def test_an_interrupt_leaves_no_answers_behind(self):
+    def test_an_interrupt_leaves_no_answers(self):
         with ostrel.Session() as session:
             read = _process._verdicts_of
             with mock.patch.object(_process, "_verdicts_of", side_effect=KeyboardInterrupt):
@@ -49,7 +49,7 @@ session.close()
             self.assertEqual(session.pid, os.getpgid(session.pid))
 
     def test_large_values_both_ways(self):
-        """Neither side waits for the other while both have more to say than a pipe takes."""
+        """Neither side waits for the other while both write more than a pipe can hold."""
         value = "x" * (1 << 20)
         with ostrel.Session() as session:
             verdicts = list(session.judge_many([("LAN_check_interface_addr_type", value)] * 30))

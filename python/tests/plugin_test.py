@@ -1,4 +1,4 @@
-"""The plugin of pytest: its fixture, and how a failure reads.
+"""The pytest plugin: its fixture, and the text of a failure.
 
 usage: plugin_test.py OSTREL_CHECK SOURCE_DIR
 """

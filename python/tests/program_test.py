@@ -1,4 +1,4 @@
-"""The program of a session: found, of the right version, and ended.
+"""The program of a session: how it is found, its version, and its end.
 
 usage: program_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -71,7 +71,7 @@ class Program(unittest.TestCase):
 
 
 class Ends(unittest.TestCase):
-    """No process, no file and no warning is left behind."""
+    """No process, open file or warning remains."""
 
     def test_the_context_manager_ends_the_program(self):
         with ostrel.Session() as session:

@@ -1,4 +1,4 @@
-"""A session: what it answers, and what it refuses to be asked.
+"""A session: its results, and the calls that it rejects.
 
 usage: session_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -1,4 +1,4 @@
-"""A stale stub is noticed. With the stubs mypy finds what is wrong, and nothing else.
+"""A stale stub is noticed. With the stubs mypy finds every fault, and nothing else.
 
 usage: stubs_test.py OSTREL_CHECK SOURCE_DIR
 """

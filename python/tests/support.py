@@ -1,4 +1,4 @@
-"""What the tests of the Python package share. The arguments of each are OSTREL_CHECK and SOURCE_DIR."""
+"""Helpers of the tests of the Python package. The arguments of each test are OSTREL_CHECK and SOURCE_DIR."""
 
 import os
 import pathlib

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Tests a table whose partitions lie on three servers: where the check runs, and what happens when a server stops."""
+"""Tests a table with partitions on three servers: where the check runs, and what happens when a server stops."""
 
 import os
 import pathlib
@@ -90,7 +90,7 @@ class Servers(unittest.TestCase):
         self.shards["east"].start()
         self.assertEqual(whole, self.server.run(COUNT))
 
-    def test_4_a_server_ends_with_what_has_started_it(self):
+    def test_4_a_server_ends_with_its_parent(self):
         child = subprocess.Popen([sys.executable, "-B", "-c", STARTED, self.tree.folder, self.tree.binaries],
                                  stdout=subprocess.PIPE, text=True, cwd=pathlib.Path(__file__).parent)
         self.assertEqual("started\n", child.stdout.readline())
@@ -102,7 +102,7 @@ class Servers(unittest.TestCase):
             if not os.path.exists("/proc/%d" % postmaster):
                 return
             time.sleep(0.1)
-        self.fail("the server goes on")
+        self.fail("the server is still running")
 
 
 if __name__ == "__main__":

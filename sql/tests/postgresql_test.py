@@ -33,7 +33,7 @@ def as_bytes(value):
 
 
 def bytes_in_sql(value):
-    """bytes_in_sql is an expression; the server makes what is long."""
+    """bytes_in_sql returns an expression with which the server makes long values."""
     if isinstance(value, rows.Text):
         return " || ".join("decode(repeat('%s', %d), 'hex')" % (part.hex(), times) for part, times in value.pieces)
     return "'\\x%s'::bytea" % as_bytes(value).hex()
@@ -46,7 +46,7 @@ def text_in_sql(value):
 
 
 def loaded(calls):
-    """loaded is the SQL that makes a table of calls: the number, the check, the values and whether it is a verdict."""
+    """loaded returns the SQL for a table of calls: the number, the check, the values, and whether it is a verdict."""
     lines = ["%d\t%s\t{%s}\t%s" % (i, name, ",".join('"\\\\\\\\x%s"' % as_bytes(value).hex() for value in values),
                                      VERDICTS[name]) for i, (name, values) in enumerate(calls)]
     return ("CREATE TEMPORARY TABLE calls(number integer, name text, given bytea[], is_verdict boolean);\n"
@@ -60,7 +60,7 @@ ANSWERS = """SELECT json_build_array(
 
 
 def answers(row):
-    """answers is the query for one row. OFFSET: the values are made once."""
+    """answers returns the query for one row. OFFSET prevents that the values are made several times."""
     return ANSWERS % "(SELECT '%s' AS name, ARRAY[%s] AS given, %s AS is_verdict OFFSET 0) AS calls" % (
         row.check, ", ".join(map(bytes_in_sql, row.values)), VERDICTS[row.check])
 
@@ -148,7 +148,7 @@ class Encodings(unittest.TestCase):
                          .rstrip("\n"))
 
     def test_others(self):
-        """A reason tells of bytes that the encoding lacks."""
+        """A reason can contain bytes that the encoding lacks."""
         for encoding in ("LATIN2", "SQL_ASCII", "EUC_JP"):
             with self.subTest(encoding=encoding):
                 name = self.database(encoding)

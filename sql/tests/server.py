@@ -1,5 +1,5 @@
-"""Servers of PostgreSQL for tests: from a copy of its tree with the extension in it, in a temporary folder, as a user
-other than root, reached by a socket there. A server ends with the test, whatever ends that."""
+"""PostgreSQL servers for tests. A server runs from a copy of its tree with the extension, in a temporary folder with
+its socket, as a user other than root. It ends with the test, however that ends."""
 
 import os
 import pathlib
@@ -23,19 +23,19 @@ max_parallel_workers_per_gather = 0
 
 
 class Failed(Exception):
-    """Failed has what psql has written to standard error."""
+    """Failed contains what psql wrote to standard error."""
 
 
 def as_other(command, *options):
-    """as_other is the command as a user other than root; the options are setpriv's."""
+    """as_other returns the command to run as a user other than root, with options of setpriv."""
     if os.geteuid() == 0:
         options = ("--reuid", OTHER, "--regid", "nogroup", "--clear-groups", *options)
     return ["setpriv", *options, *map(str, command)] if options else list(map(str, command))
 
 
 class Tree:
-    """Tree is a copy of the server's tree, into which the extension is installed. Only what is looked for from where it
-    lies is copied; the rest are links."""
+    """Tree is a copy of the server's tree, into which the extension is installed. Only the programs, which find the
+    rest relative to themselves, are copied; the other files are links."""
 
     def __init__(self, source, build, is_installed=True):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="ostrel-"))
@@ -84,7 +84,7 @@ class Server:
 
     def start(self):
         with open(self.log, "ab") as log:
-            # Where this process ends in any way, its child gets the signal to end at once.
+            # If this process ends in any way, its child gets the signal to end at once.
             self.process = subprocess.Popen(
                 as_other([self.tree.binaries / "postgres", "-D", self.data], "--pdeathsig", "QUIT"),
                 cwd=self.folder, stdin=subprocess.DEVNULL, stdout=log, stderr=subprocess.STDOUT)
@@ -111,7 +111,7 @@ class Server:
             self.process = None
 
     def environment(self):
-        # The loader's and Perl's locale is that of the messages which are compared.
+        # The tests compare messages in this locale.
         return {**os.environ, "PGHOST": str(self.folder), "PGUSER": USER, "LC_ALL": "C", "PGDATABASE": "postgres",
                 "PATH": "%s:%s" % (self.tree.binaries, os.environ["PATH"])}
 

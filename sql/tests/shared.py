@@ -1,4 +1,4 @@
-"""What the tests of both extensions share."""
+"""Helpers of the tests of both extensions."""
 
 import json
 import os
@@ -27,14 +27,14 @@ def is_number(argument):
 
 
 def hostile_value(source):
-    """hostile_value is a text without NUL, made of what checks look for, at times a long one."""
+    """hostile_value returns a text without NUL, made of pieces that checks search for, sometimes a long one."""
     if source.random() < 0.0005:
         return source.choice(PIECES[1:]) * (20000 // source.randrange(1, 20))
     return b"".join(source.choice(PIECES) for _ in range(source.randrange(5)))
 
 
 def hostile_calls(count, seed):
-    """hostile_calls are calls of every check that SQL calls: the name, and a value for each argument."""
+    """hostile_calls yields calls of the checks that SQL can call: the name, and a value for each argument."""
     source = random.Random(seed)
     callable_checks = [check for check in CHECKS if check["name"] not in NOT_CALLED]
     for _ in range(count):

@@ -13,7 +13,7 @@ import rows
 import shared
 
 EXTENSION = str(shared.BUILD / "sqlite/ostrel")
-# What the library's sources may use of the C library here: nothing that writes to a stream or runs a command.
+# What the library's sources may import: no function that writes to a stream or runs a command.
 ALLOWED = {"__assert_fail", "__isoc99_fscanf", "atoi", "fclose", "fopen", "memcpy", "memset", "stderr", "strchr",
            "strcmp", "strlen", "strncmp", "strrchr", "strstr", "unlink", "_GLOBAL_OFFSET_TABLE_"}
 
@@ -230,7 +230,7 @@ class Process(unittest.TestCase):
 
 
 def hostile():
-    """hostile asks for everything, of values that were made to do harm."""
+    """hostile calls every function with hostile values."""
     database = connect()
     verdicts = {check["name"]: check["answers"] == "code" for check in shared.CHECKS}
     for name, values in shared.hostile_calls(30000, 20):

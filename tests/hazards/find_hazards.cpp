@@ -1,8 +1,8 @@
 // Finds what accepted values may contain, and prints the lines of docs/hazards.md.
 //
-// Every byte that somebody has to mind is tried in many places of the accepted values of vectors/, inserted and in the
-// place of another, for each argument that is a text; of a buffer also what it holds after the call, whichever argument
-// the byte comes from. The descriptions of rules/ say what is accepted. rules_test asks the library.
+// It tries every hazardous byte in many places of the accepted values of vectors/, inserted and as a replacement, for
+// each argument that is a text. For a buffer it also searches the content after the call, whichever argument the byte
+// comes from. The descriptions of rules/ decide what is accepted. rules_test compares them with the library.
 
 #include <algorithm>
 #include <array>
@@ -43,7 +43,7 @@ std::string hazardous_bytes()
     return {bytes.begin(), bytes.end()};
 }
 
-// texts_of gives the texts that an argument holds, to be looked at or changed.
+// texts_of returns the texts of an argument, which can be changed if it is not const.
 template <typename V>
 auto texts_of(V& value)
 {
@@ -136,16 +136,16 @@ class Search {
         const Value& held = exposure_.is_after ? answer.after[output_] : values[exposure_.argument];
         const auto texts = texts_of(held);
         for (const Place place : kPlaces) {
-            const bool stands = std::ranges::any_of(
+            const bool has = std::ranges::any_of(
                 texts, [&](const std::string* text) { return stands_at(place, *text, byte); });
-            if (stands && exposure_.witness(place, byte) == nullptr)
+            if (has && exposure_.witness(place, byte) == nullptr)
                 found.at(static_cast<std::size_t>(place)) += byte;
         }
     }
 
     const Function& function_;
     Exposure& exposure_;
-    std::size_t output_ = 0;  // among what the description says of what is held after the call
+    std::size_t output_ = 0;  // its index among the arguments that the function writes
 };
 
 std::size_t size_of(const Values& values)
@@ -157,8 +157,8 @@ std::size_t size_of(const Values& values)
     return size;
 }
 
-// seeds_of picks values evenly from the shortest to the longest, and adds each again with a text of all bytes in place
-// of each argument, which may be a set.
+// seeds_of selects values evenly from the shortest to the longest. It adds copies of each in which one argument has all
+// bytes, because that may be a set.
 std::vector<Values> seeds_of(std::vector<Values> accepted)
 {
     std::ranges::stable_sort(accepted, {}, size_of);

@@ -1,7 +1,7 @@
-"""examples/daemon is built against what is installed, and does what SECURITY.md asks of a host.
+"""examples/daemon is built with the installed library, and follows the rules of SECURITY.md for a host.
 
 usage: daemon_test.py SOURCE_DIR BUILD_DIR CMAKE CC     with the library of a build
-       daemon_test.py SOURCE_DIR                        with the library of the lines in docs/porting.md, emulated
+       daemon_test.py SOURCE_DIR                        with the library of docs/porting.md, emulated
 """
 
 import os
@@ -14,7 +14,7 @@ import tempfile
 import unittest
 
 WARNINGS = ["-std=c90", "-pedantic-errors", "-Wall", "-Wextra", "-Wshadow", "-Wconversion", "-Wformat=2", "-Werror"]
-LONG = 60  # seconds; a daemon that stands still is found out after that
+LONG = 60  # seconds; a daemon that hangs is killed after that
 
 
 def run(*command, **options):
@@ -31,7 +31,7 @@ def installed_natively(scratch):
 
 
 def installed_as_documented(scratch):
-    """Runs the lines of docs/porting.md in a folder that looks like a clone."""
+    """installed_as_documented runs the commands of docs/porting.md in a folder like a clone."""
     block = re.search(r"```sh\n(prefix=(\S+)\n.*?)```", (SOURCE / "docs/porting.md").read_text(), re.S)
     for entry in SOURCE.iterdir():
         if entry.name != "build":
@@ -59,7 +59,7 @@ class Daemon(unittest.TestCase):
         cls.programs = [cls.scratch / "configd"]
         cls.build(compiler, usr, library, cls.programs[0])
         if not cls.emulator:
-            # Sanitizers see where a buffer of the daemon's has too little room.
+            # Sanitizers detect a buffer of the daemon that is too small.
             cls.programs.append(cls.scratch / "configd_sanitized")
             cls.build(compiler, usr, library, cls.programs[1], "-g1", "-fsanitize=address,undefined",
                       "-fno-sanitize-recover=all")
@@ -70,7 +70,7 @@ class Daemon(unittest.TestCase):
             "-o", program)
 
     def judge(self, lines):
-        """Gives what each of the programs answers and logs."""
+        """judge returns the output and the log of each program."""
         results = [subprocess.run([*self.emulator, str(program)], input=lines, capture_output=True, check=False,
                                   env=self.environment, timeout=LONG) for program in self.programs]
         for program, result in zip(self.programs, results):

@@ -1,4 +1,4 @@
-"""What is installed can be used: by CMake, by pkg-config, in C90 and in C++.
+"""The installed library can be used with CMake and pkg-config, in C90 and in C++.
 
 usage: install_test.py BUILD_DIR CMAKE CC CXX
 """
@@ -39,7 +39,7 @@ class Install(unittest.TestCase):
         cls.addClassCleanup(shutil.rmtree, cls.scratch)
         built = cls.scratch / "installed"
         cls.files = install(built, *COMPONENTS)
-        # Nothing that is installed may know where it was installed.
+        # No installed file may contain the path of the installation.
         cls.prefix = cls.scratch / "moved"
         built.rename(cls.prefix)
         (cls.library,) = cls.prefix.rglob("libostrel_check.so")
@@ -75,7 +75,7 @@ class Install(unittest.TestCase):
                 run(build / "consumer")
 
     def test_cmake_subproject(self):
-        """A project adds the tree to its build, and gets the library and nothing else."""
+        """A project that adds the tree to its build gets only the library."""
         build = self.scratch / "subproject"
         run(CMAKE, "-S", SUBPROJECT, "-B", build, "-DOSTREL_SOURCE=%s" % SOURCE, "-DCMAKE_C_COMPILER=%s" % CC,
             "-DCMAKE_CXX_COMPILER=%s" % CXX)
@@ -87,7 +87,7 @@ class Install(unittest.TestCase):
         run(CMAKE, "--install", build, "--prefix", self.scratch / "nothing")
         self.assertEqual([], [path for path in (self.scratch / "nothing").rglob("*") if path.is_file()])
 
-        # It is installed where the project asks for it.
+        # It is installed if the project asks for it.
         run(CMAKE, "-DOSTREL_INSTALL=ON", build)
         run(CMAKE, "--install", build, "--prefix", self.scratch / "library")
         installed = {path.name for path in (self.scratch / "library").rglob("*")}

@@ -32,7 +32,7 @@ class Debian(unittest.TestCase):
         cls.files = sorted((cls.scratch / "packages").glob("*.deb"))
 
     def dpkg(self, *arguments):
-        """dpkg works on a system of its own, which has nothing but what is installed here."""
+        """dpkg works on a separate system that contains only these packages."""
         root = self.scratch / "root"
         (root / "var/lib/dpkg/updates").mkdir(parents=True, exist_ok=True)
         (root / "var/lib/dpkg/info").mkdir(exist_ok=True)
@@ -89,14 +89,14 @@ class Debian(unittest.TestCase):
         self.assertEqual((SOURCE / "CHANGELOG.md").read_text(), changes)
 
     def test_lintian_has_no_complaint(self):
-        """What is overridden is so with a reason, in packaging/debian."""
+        """packaging/debian contains the overrides, each with its reason."""
         result = subprocess.run(["lintian", "--allow-root", "--fail-on", "error,warning", "--tag-display-limit", "0",
                                  *map(str, self.files)], capture_output=True, text=True, check=False)
         print(result.stdout + result.stderr)
         self.assertEqual((0, ""), (result.returncode, result.stdout))
 
     def test_lintian_sees_a_fault(self):
-        """Otherwise the test above would pass with any package."""
+        """Otherwise the test above might pass with any package."""
         tree = self.scratch / "faulty"
         run("dpkg-deb", "--raw-extract", self.files[0], tree)
         for copyright_file in tree.rglob("copyright"):

@@ -2,8 +2,8 @@
 
 usage: recipe_test.py BUILD_FOLDER SOURCE_FOLDER
 
-Only files that CONTRIBUTING.md names may be touched, at most eight of them by hand. Nothing is compiled twice: what the
-new check does not change is taken from BUILD_FOLDER.
+Only files that CONTRIBUTING.md names may change, at most eight of them by hand. Objects that the new check does not
+affect are taken from BUILD_FOLDER.
 """
 
 import json
@@ -20,11 +20,11 @@ import unittest
 NAME = "L3FORWARDING_check_preference"
 MOST_FILES = 8
 SKIPPED = 77
-# The new check has no rows with long texts, and those of others take most of the time.
+# The new check has no rows with long texts, and those of other checks would take most of the time.
 LIMITS = {"OSTREL_LONGEST_TEXT": "9000"}
 PRINTED = "Error in L3FORWARDING_check_preference: Invalid preference:%s, RANGE[1, 255]\n"
 
-# The tests of the preset that look at every check, or at what is made of all, and what they need.
+# The tests of the preset that read every check, or files that are generated from all, and their targets.
 TESTS = ("vectors_test|paths|exports_test|misuse_test|abi|headers|shared_object|rules_test|constraints_test|json_schema|"
          "assertions_test|pages|terminal|explain|reasons|examples_test|packed_vectors|sql.table")
 TARGETS = ["ostrel_check", "ostrel_check_O0", "ostrel_empty", "ostrel-check", "find_hazards", "fuzz_replay", "vectors_test",
@@ -40,7 +40,7 @@ def row(value, reason=None):
     return json.dumps(made) + "\n"
 
 
-# By hand: what is added to each file, and what it is added before.
+# By hand: the anchor in each file, and what is added before it.
 EDITS = {
     "vectors/l3forwarding_check.ndjson": ("", "".join([
         row("1"), row("2"), row("254"), row("255"), row("12 ms"),
@@ -76,7 +76,7 @@ L3FORWARDING_check_preference 256
 """),
     "CHANGELOG.md": ("\n## ", "\n- `L3FORWARDING_check_preference`.\n"),
 }
-# What makes the rest, by the name that CONTRIBUTING.md has for it. No test of the preset reads docs/footprint.md.
+# The generators, by their names in CONTRIBUTING.md. No test of the preset reads docs/footprint.md.
 GENERATORS = {
     "scripts/hazards": "scripts/hazards",
     "scripts/stubs": "scripts/stubs",
@@ -95,8 +95,7 @@ def run(command, folder, **environment):
 
 
 class Copy:
-    """Copy is the tree as it would be committed, in a folder of its own, with a build folder that takes what is not
-    compiled otherwise from another one."""
+    """Copy is a copy of the tree, with a build folder that takes unchanged objects from another one."""
 
     def __init__(self, folder):
         self.folder = folder
@@ -118,7 +117,7 @@ class Copy:
         return {name for name, before in self.before.items() if (self.folder / name).read_bytes() != before}
 
     def keep(self, made):
-        """keep links the objects of the other build that nothing changes which is touched or says where the tree is."""
+        """keep links the objects of the other build that depend on no changed file and on no path of the tree."""
         commands = json.loads((BUILD / "compile_commands.json").read_text())
         places = {name for command in commands
                   for name in re.findall(r"-D(\w+)=\S*%s" % re.escape(str(SOURCE)), command["command"])}

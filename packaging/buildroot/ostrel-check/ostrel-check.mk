@@ -6,11 +6,11 @@
 
 OSTREL_CHECK_VERSION = 0.1.0
 OSTREL_CHECK_SOURCE = ostrel-$(OSTREL_CHECK_VERSION).tar.gz
-# Where releases are; or point OSTREL_CHECK_OVERRIDE_SRCDIR to a source tree.
-# packaging/release makes the file ostrel-check.hash that belongs beside this one.
+# The address of releases. Or set OSTREL_CHECK_OVERRIDE_SRCDIR to a source tree.
+# packaging/release makes the file ostrel-check.hash for the folder of this one.
 OSTREL_CHECK_SITE = $(OSTREL_SOURCE_URL)
-# OSTREL_CHECK_LICENSE is left open: the source tree states no licence. Ask the
-# developers before you pass it on.
+# OSTREL_CHECK_LICENSE is not set, because the source tree states no licence. Ask
+# the developers before you distribute it.
 # Headers and the files for CMake and pkg-config.
 OSTREL_CHECK_INSTALL_STAGING = YES
 

@@ -1,5 +1,5 @@
-# Stands in for OpenWrt's package.mk: BuildPackage checks what a recipe must define, configures with its options, and
-# installs a finished build by its hooks. A target of MIPS is built with -mips16 unless the recipe declines.
+# Replaces OpenWrt's package.mk: BuildPackage checks what a recipe must define, configures with its options, and
+# installs a finished build with its hooks. A MIPS target is built with -mips16 unless the recipe excludes it.
 PKG_USE_MIPS16 ?= 1
 ifeq ($(CONFIG_USE_MIPS16)$(strip $(PKG_USE_MIPS16)),y1)
   TARGET_CFLAGS += -mips16 -minterlink-mips16

@@ -1,4 +1,4 @@
-# Stands in for OpenWrt's rules.mk: the variables and tools that recipes take from it.
+# Replaces OpenWrt's rules.mk: the variables and tools that recipes take from it.
 INCLUDE_DIR := $(TOPDIR)
 BUILD_DIR := $(SCRATCH)/build_dir
 PKG_INSTALL_DIR := $(SCRATCH)/ipkg-install
