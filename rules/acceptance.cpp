@@ -1,4 +1,4 @@
-// How the steps of a check lead to its answer.
+// The steps of a check, and the texts for which they return 0.
 #include "rules/acceptance.h"
 
 #include <algorithm>
@@ -81,7 +81,7 @@ Acceptance::Outcome Acceptance::follow(const Step& step, Scope& scope)
             result.accepts = holds;
         }
     } else if (step.code.is_its) {
-        // What the other check answered is not 0 where it has refused.
+        // The code of the other check is not 0 if it has refused.
         const bool has_refused =
             step.condition.kind == Condition::Kind::kRefusedBy && !step.condition.is_negated;
         const bool may_be_zero =
@@ -115,7 +115,7 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
         const Claim where_it_holds = claims_.both(holds, a);
         return claims_.either(where_it_holds, claims_.both(fails, b));
     };
-    // What only one of the cases remembers is read in that case alone. What is unknown in both need not be the same.
+    // A value that only one case remembers is read only in that case. Values unknown in both cases may differ.
     const auto is_same = [](const Term& a, const Term& b) {
         return a == b && a.kind != Term::Kind::kUnknown && a.kind != Term::Kind::kDays;
     };
@@ -131,7 +131,7 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
             chosen(first.goes_on, second.goes_on)};
 }
 
-// forget is for what may have been written.
+// forget is for values that may have been written.
 void Acceptance::forget(const std::vector<Write>& writes, Scope& scope)
 {
     for (const Write& one : writes) {
@@ -140,7 +140,7 @@ void Acceptance::forget(const std::vector<Write>& writes, Scope& scope)
     }
 }
 
-// And this is for what a round may leave to the next one.
+// This one is for values that an iteration may leave to the next.
 void Acceptance::forget(const std::vector<Step>& steps, Scope& scope)
 {
     for (const Step& step : steps) {
@@ -157,13 +157,13 @@ Acceptance::Outcome Acceptance::repeat(const Step& step, Scope& scope)
     forget(step.steps, scope);
     const std::optional<Claim> all = for_items(list, step, scope);
     if (all) return going_on(*all);
-    // A round that can end the call may leave items that nobody has looked at.
+    // An iteration that can end the call may leave items that are not judged.
     return {unknown(anything()), claims_.never(), unknown(anything())};
 }
 
 std::optional<Claim> Acceptance::for_items(const Term& list, const Step& step, Scope scope)
 {
-    // Where separators are taken off, too, empty items are passed over.
+    // If separators are trimmed too, empty items are skipped.
     if (step.list->trimmed.contains(step.list->separator)) return std::nullopt;
     const bool is_of_target = list.kind == Term::Kind::kPart && list.variable == target_ && !list.is_integer;
     const std::size_t whole = target_;

@@ -1,7 +1,7 @@
-// Acceptance: for which texts of one argument a check answers 0, read from its steps without a call.
+// Acceptance: the texts of one argument for which a check returns 0, derived from its steps without a call.
 //
-// It is for constraints.cpp. What no word says exactly is bounded from above, so that a claim may be too weak and is
-// never false; numbers beyond an int are read as the numbers that they are.
+// It is for constraints.cpp. What cannot be expressed exactly is bounded from above, so a claim may be too weak but is
+// never false; numbers beyond an int have their exact value.
 #ifndef OSTREL_RULES_ACCEPTANCE_H
 #define OSTREL_RULES_ACCEPTANCE_H
 
@@ -27,18 +27,18 @@ class Acceptance {
     {
     }
 
-    // claim says when the check answers 0. The target is neither NULL nor only written.
+    // claim says when the check returns 0. The target is neither NULL nor only written.
     Claim claim();
 
  private:
-    // Scope is a check whose steps are followed: the one that was called, or one that it uses.
+    // Scope is a check whose steps are followed: the one that was called, or one that it calls.
     struct Scope {
         std::vector<Term> slots;
         Term item = {};
         bool is_called = false;
     };
 
-    // Outcome says when steps answer 0, go on with the next item, or come to their end.
+    // Outcome says when steps return 0, continue with the next item, or reach their end.
     struct Outcome {
         Claim accepts;
         Claim skips;
@@ -68,7 +68,7 @@ class Acceptance {
     Claim refused_by(const Condition& condition, const Scope& scope);
     Claim all_of(const std::vector<Condition>& parts, const Scope& scope);
 
-    // A text is of a language, a number is one of those.
+    // A text belongs to a language, a number to a set of numbers.
     Claim text_in(const Term& term, Language language);
     Claim number_in(const Term& term, const Intervals& numbers);
     Claim unknown(const Term& a, const Term& b = {});
@@ -87,7 +87,7 @@ class Acceptance {
     const Build& build_;
     const Check& check_;
     std::size_t target_;
-    std::size_t variables_;  // so many there are: arguments, and items of lists
+    std::size_t variables_;  // how many there are: arguments, and items of lists
 };
 
 }  // namespace ostrel::rules

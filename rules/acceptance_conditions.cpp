@@ -1,4 +1,4 @@
-// What conditions say of the target.
+// What conditions imply for the target.
 
 #include <algorithm>
 
@@ -62,7 +62,7 @@ Claim Acceptance::number_in(const Term& term, const Intervals& numbers)
                                                                   : languages_.with_count(term.byte, before));
         }
         case Term::Kind::kPart:
-            // An int is looked at as the text that it is written as.
+            // An int is treated as its decimal text.
             if (term.variable == target_ && term.is_integer)
                 return claims_.decided(languages_.of_number(numbers));
             return text_in(term, languages_.of_number(numbers));

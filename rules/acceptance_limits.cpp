@@ -1,11 +1,11 @@
-// What conditions say of lengths, numbers and sets, which other arguments may set.
+// What conditions imply for lengths, numbers and sets, which may be limited by other arguments.
 #include "rules/acceptance.h"
 
 namespace ostrel::rules {
 
 using Kind = Condition::Kind;
 
-// is_limit tells whether the target itself is judged, by a number or a set that is another argument.
+// is_limit returns true if the target is compared with a number or a set that is another argument.
 bool Acceptance::is_limit(const Term& judged, const Term& limit) const
 {
     return judged.variable == target_ && judged.cuts.empty() && judged.number == 0 &&

@@ -1,4 +1,4 @@
-// What expressions are where the arguments are not known.
+// Expressions of unknown arguments.
 #include "rules/acceptance.h"
 
 namespace ostrel::rules {
@@ -111,7 +111,7 @@ Term Acceptance::measure(const Expression& expression, const Scope& scope)
     return text;
 }
 
-// sum keeps what one term has besides numbers as they stand.
+// sum adds literal numbers to at most one other term.
 Term Acceptance::sum(const Expression& expression, const Scope& scope)
 {
     Term result = term_of(0);

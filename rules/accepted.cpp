@@ -122,7 +122,8 @@ class Summary {
             }
             return true;
         }
-        if (is_use && given_of(*condition.target) == 1) {
+        if (is_use &&
+            std::ranges::count(condition.target->arguments, false, &Argument::is_only_written) == 1) {
             const std::string_view what = condition.target->arguments[0].what;
             const bool is_thing =
                 what.starts_with("a ") || what.starts_with("an ") || what.starts_with("the ");
@@ -141,13 +142,6 @@ class Summary {
         if (std::ranges::any_of(clauses, [&](Clause& one) { return includes(one, wanted); })) return true;
         clauses.push_back(wanted);
         return true;
-    }
-
-    static std::ptrdiff_t given_of(const Check& check)
-    {
-        return std::ranges::count_if(check.arguments, [](const Argument& one) {
-            return one.kind != Argument::Kind::kIntegerOut && !one.is_output;
-        });
     }
 
     // is_flat recognizes a check that only refuses.
@@ -201,7 +195,7 @@ std::string accepted(const Check& check, const Build& build)
     }
     std::string text;
     for (const Argument& argument : check.arguments) {
-        if (argument.kind == Argument::Kind::kIntegerOut || argument.is_output) continue;
+        if (argument.is_only_written()) continue;
         text.append(text.empty() ? "" : "; ").append(argument.name).append(": ").append(argument.what);
     }
     return text;

@@ -10,11 +10,11 @@ std::vector<Check> branding_check()
               {refuse(802, longer_than(31),
                       line("Error in Param_check_ispname_value: The length of string :<value> shoud not be "
                            "less than 32\n"))}),
-        check("Param_check_helpdesk_value", {text("value", "where users find help")},
+        check("Param_check_helpdesk_value", {text("value", "where users can find help")},
               {refuse(802, longer_than(63),
                       line("Error in Param_check_helpdesk_value: The length of string :<value> shoud not be "
                            "less than 64\n"))}),
-        check("Param_check_page_value", {text("value", "the page of the portal")},
+        check("Param_check_page_value", {text("value", "the portal page")},
               {refuse(802, longer_than(255),
                       line("Error in Param_check_page_value: The length of string :<value> shoud not be less "
                            "than 256\n"))}),
@@ -26,7 +26,7 @@ std::vector<Check> branding_check()
               {refuse(802, longer_than(4095),
                       line("Error in Param_check_logo_size_value: The length of string :<value> shoud not be "
                            "less than 4096\n"))}),
-        check("Param_check_server_value", {text("value", "the server of the portal")},
+        check("Param_check_server_value", {text("value", "the portal server")},
               {refuse(802, longer_than(255),
                       line("Error in Param_check_server_value: The length of string :<value> shoud not be "
                            "less than 256\n"))}),
@@ -45,10 +45,10 @@ std::vector<Check> branding_check()
                refuse(600, outside(kHex),
                       line("Error in Param_check_color_value: color :<value> contain invalid char "
                            "<byte>\n"))}),
-        check("Param_check_bool_value", {text("value", "a truth value")},
+        check("Param_check_bool_value", {text("value", "a Boolean value")},
               {refuse(601, none_of({"0", "1"}),
                       line("Error in Param_check_bool_value: bool value :<value> out of range\n"))}),
-        check("Param_check_datetime_value", {text("value", "a date and time, never looked at")}, {}),
+        check("Param_check_datetime_value", {text("value", "a date and time; ignored")}, {}),
     };
 }
 

@@ -1,4 +1,4 @@
-// Build: what a gateway's build chooses, and what its C library does, as data for an evaluation.
+// Build: the options of a gateway's build and the behaviour of its C library, as data for an evaluation.
 #ifndef OSTREL_RULES_BUILD_H
 #define OSTREL_RULES_BUILD_H
 
@@ -10,10 +10,10 @@
 namespace ostrel::rules {
 
 struct Build {
-    // Atoi says what becomes of a number that does not fit an int.
+    // Atoi is how a number that does not fit in an int is read.
     enum class Atoi {
-        kLong64,    // read as a long of 64 bits, which has its bounds; of that the low 32 bits
-        kLong32,    // the bounds of an int
+        kLong64,    // the low 32 bits of a long of 64 bits, which saturates
+        kLong32,    // as an int that saturates
         kWrapping,  // the low 32 bits
     };
 
@@ -21,18 +21,18 @@ struct Build {
     std::string_view account_realm = "@example.net";
     std::string_view setup_realm = "@setup.example.net";
     Atoi atoi = Atoi::kLong64;
-    // The channels that the wireless driver lists. Nothing: it is not known.
+    // The channels that the wireless driver lists; nullopt if unknown.
     std::optional<std::vector<int>> channels = std::nullopt;
 };
 
-// atoi_here asks this machine's C library.
+// atoi_here tests the C library of this machine.
 Build::Atoi atoi_here();
 
-// Number is what atoi reads at the beginning of a text.
+// Number is the number that atoi reads at the beginning of a text.
 struct Number {
     int value = 0;
-    bool beyond_int = false;  // the value is this build's; another build's may be another
-    std::size_t begin = 0;    // where the sign and the digits stand
+    bool beyond_int = false;  // other builds may read another value
+    std::size_t begin = 0;    // of the sign and the digits
     std::size_t end = 0;
 };
 

@@ -19,7 +19,7 @@ struct Name {
 };
 constexpr Name kXmlNames[] = {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
 
-// The characters from 0xA0 to 0xFF, in their order.
+// The characters from 0xA0 to 0xFF, in order.
 constexpr std::string_view kLatin1Names[] = {
     "nbsp",   "iexcl",  "cent",   "pound",  "curren", "yen",    "brvbar", "sect",   "uml",    "copy",
     "ordf",   "laquo",  "not",    "shy",    "reg",    "macr",   "deg",    "plusmn", "sup2",   "sup3",
@@ -33,7 +33,7 @@ constexpr std::string_view kLatin1Names[] = {
     "uacute", "ucirc",  "uuml",   "yacute", "thorn",  "yuml"};
 static_assert(std::size(kLatin1Names) == 0x100 - 0xA0);
 
-// kSubstitute stands for a character that no byte of ISO 8859-1 stands for.
+// kSubstitute replaces a character that is not in ISO 8859-1.
 constexpr char kSubstitute = '\x1A';
 
 std::optional<char> numbered(std::string_view digits, int base)
@@ -47,7 +47,7 @@ std::optional<char> numbered(std::string_view digits, int base)
     return static_cast<char>(static_cast<unsigned char>(number));
 }
 
-// referred gives the byte that the text between "&" and ";" stands for.
+// referred returns the byte for the text between "&" and ";".
 std::optional<char> referred(std::string_view text)
 {
     if (text.starts_with("#x") || text.starts_with("#X")) return numbered(text.substr(2), 16);

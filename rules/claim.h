@@ -1,4 +1,4 @@
-// Claim: what a condition says of one argument, the target, whatever the others are.
+// Claim: what a condition implies for one argument, the target, whatever the others are.
 #ifndef OSTREL_RULES_CLAIM_H
 #define OSTREL_RULES_CLAIM_H
 
@@ -10,10 +10,10 @@
 
 namespace ostrel::rules {
 
-// Variables are arguments of the check, by their number.
+// Variables are arguments of the check, by number.
 using Variables = std::set<std::size_t>;
 
-// Limit is one that another argument sets.
+// Limit is a limit that another argument sets.
 struct Limit {
     enum class Kind { kMinLength, kMaxLength, kMinimum, kMaximum, kCharacters };
 
@@ -23,11 +23,11 @@ struct Limit {
     bool operator==(const Limit&) const = default;
 };
 
-// Factors is a condition taken apart: all of it holds where each part does.
+// Factors is a condition as a conjunction of parts.
 struct Factors {
-    Language own = {};  // of the target alone
+    Language own = {};  // for the target alone
     std::vector<Limit> limits = {};
-    bool is_entangled = false;  // and there is a part that needs the target and others, or what nobody knows
+    bool is_entangled = false;  // there is a part that depends on the target and others, or is unknown
     Variables entangled = {};   // the others in limits and in that part
 
     bool operator==(const Factors&) const = default;
@@ -36,16 +36,16 @@ struct Factors {
 struct Claim {
     Language holds;          // every text of the target for which the condition can hold
     Language fails;          // every text for which it can fail
-    bool is_decided = true;  // the target alone decides, so that no text is in both
+    bool is_decided = true;  // the target alone decides, so no text is in both
     bool is_about_target = true;
-    Variables others = {};     // arguments that it depends on besides
-    bool are_negated = false;  // factors are those of the opposite
+    Variables others = {};     // other arguments that it depends on
+    bool are_negated = false;  // factors are those of the negation
     Factors factors = {};
 
     bool operator==(const Claim&) const = default;
 };
 
-// Claims makes claims, about texts of one pool of languages.
+// Claims makes claims with one pool of languages.
 class Claims {
  public:
     explicit Claims(Languages& languages) : languages_(languages) {}
@@ -54,11 +54,10 @@ class Claims {
     Claim always() { return decided(languages_.any()); }
     Claim never() { return decided(languages_.nothing()); }
 
-    // unknown depends on these arguments in a way that is not looked into. Where these are none, no other argument
-    // can make it right.
+    // unknown depends on these arguments in an unknown way. If there are none, no other argument has an effect.
     Claim unknown(Variables variables, std::size_t target);
 
-    // beyond says that the other argument's limit is not kept.
+    // beyond says that the limit set by the other argument is exceeded.
     Claim beyond(Limit limit);
 
     Claim negated(Claim claim);

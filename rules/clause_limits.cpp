@@ -7,7 +7,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// between takes what stands in a predicate after its beginning, and before the unit.
+// between returns the part of a predicate between its beginning and the unit.
 std::string between(const std::string& predicate, std::string_view beginning, std::string_view unit)
 {
     if (!predicate.starts_with(beginning)) return "";
@@ -15,7 +15,7 @@ std::string between(const std::string& predicate, std::string_view beginning, st
     return rest.substr(0, unit.empty() ? rest.size() : rest.find(unit));
 }
 
-// merged takes a least and a greatest together: "has 8 to 63 bytes".
+// merge combines a minimum and a maximum: "has 8 to 63 bytes".
 bool merge(Clause& one, const Clause& other, std::string_view least, std::string_view most,
            std::string_view verb, std::string_view unit)
 {
@@ -32,7 +32,7 @@ bool merge(Clause& one, const Clause& other, std::string_view least, std::string
     return true;
 }
 
-// least takes the number of bytes that a predicate asks for at least; 0: none, or not a fixed number.
+// least_bytes returns the minimum number of bytes in a predicate; 0: none, or not a fixed number.
 int least_bytes(const std::string& predicate)
 {
     if (predicate == "is not empty") return 1;

@@ -25,7 +25,7 @@ std::vector<std::string> all_of_them(const std::vector<long long>& numbers)
     return result;
 }
 
-// in_plural makes a predicate one of several things.
+// in_plural puts a predicate into the plural.
 std::string in_plural(std::string predicate)
 {
     if (predicate.starts_with("has ")) return "have " + predicate.substr(4);
@@ -71,7 +71,7 @@ std::string Speaker::among(const Expression& expression, bool holds) const
     return std::string(holds ? "is one of " : "is none of ") + (is_set ? "these: " : "") + set(expression);
 }
 
-// other names what a text is compared with.
+// other names the text that a text is compared with.
 std::string Speaker::other(const Expression& expression) const
 {
     const Expression* fixed = constant(expression);
@@ -196,7 +196,7 @@ Clause Speaker::outside_clause(const Condition& condition, bool holds) const
     const bool is_slice = judged.kind == Expression::Kind::kSlice && judged.of.size() == 3;
     const Expression* count = is_slice ? constant(judged.of[2]) : nullptr;
     if (count != nullptr && count->number == 1) {
-        // Where there is no such byte, none is outside.
+        // If there is no such byte, none is outside.
         const Expression* offset = constant(judged.of[1]);
         const std::string none =
             offset != nullptr && offset->number == 0 ? value(judged.of[0]) + " is empty or " : "";
@@ -205,7 +205,7 @@ Clause Speaker::outside_clause(const Condition& condition, bool holds) const
     return {value(judged), (holds ? "contains a byte other than " : "contains only ") + allowed};
 }
 
-// is_beginning tells a comparison with as many bytes at the beginning of a text as the other has.
+// is_beginning recognizes a comparison with a prefix of the same length.
 bool Speaker::is_beginning(const Expression& judged, const Expression& other) const
 {
     if (judged.kind != Expression::Kind::kSlice || judged.of.size() < 3) return false;

@@ -1,4 +1,4 @@
-// Conditions in words that are made of others: rows of a table, other checks, several together.
+// Compound conditions in words: rows of a table, other checks, conjunctions and disjunctions.
 #include <algorithm>
 
 #include "rules/phrases.h"

@@ -15,18 +15,18 @@ namespace ostrel::rules {
 
 struct Check;
 
-// Group is a part of a shape: bytes of one set, at least and at most so many.
+// Group is a part of a shape: least to most bytes of one set.
 struct Group {
     Set set;
     std::size_t least = 1;
     std::size_t most = 1;
-    std::vector<Line> lines = {};  // printed where this group is at fault
+    std::vector<Line> lines = {};  // printed if this group is at fault
 };
 
-// Shape is a sequence of groups. A group of variable length and the next one have no byte in common.
+// Shape is a sequence of groups. A group of variable length has no byte in common with the next one.
 using Shape = std::vector<Group>;
 
-// GrammarFault says where a text fails a grammar. found and allowed are what the sentence of the id needs.
+// GrammarFault says where a text violates a grammar. found and allowed are for the sentence of the id.
 struct GrammarFault {
     std::string_view id;
     std::size_t offset = 0;
@@ -34,27 +34,27 @@ struct GrammarFault {
     std::string allowed = {};
 };
 
-// Grammar is written by hand, for what no word fits. All that it may answer is listed.
+// Grammar is written by hand, for what the vocabulary cannot express. All ids that it returns are listed.
 struct Grammar {
-    std::string_view what;                   // what a text is that obeys it: "an IPv4 address"
-    std::vector<std::string_view> ids;       // of the faults that it finds
-    std::vector<std::string_view> accepted;  // texts that obey it
-    std::vector<std::string_view> refused;   // texts that fail it, in the order of ids
+    std::string_view what;                   // what a valid text is: "an IPv4 address"
+    std::vector<std::string_view> ids;       // of its faults
+    std::vector<std::string_view> accepted;  // valid texts
+    std::vector<std::string_view> refused;   // texts that violate it, in the order of ids
     std::optional<GrammarFault> (*judge)(std::string_view text, const Build& build);
 };
 
 // Table is a list of rows that belong together.
 struct Table {
-    std::vector<std::string_view> columns;  // what they hold, in words
+    std::vector<std::string_view> columns;  // their contents, in words
     std::vector<std::vector<std::string_view>> rows;
 };
 
-// Match is how a text or a number has to suit a column of a row.
+// Match is how a text or a number must match a column of a row.
 struct Match {
     enum class How {
-        kEqual,   // it is the cell's text
-        kPart,    // it occurs in the cell's text
-        kNumber,  // its number is the cell's
+        kEqual,   // it is the text of the cell
+        kPart,    // it occurs in the text of the cell
+        kNumber,  // it is the number of the cell
     };
 
     std::size_t column;
@@ -62,7 +62,7 @@ struct Match {
     Expression value;
 };
 
-// Condition holds or not. One that holds says why, as the reason of a refusal.
+// Condition holds or not. If it holds, it provides the reason for a refusal.
 struct Condition {
     enum class Kind {
         kAlways,
@@ -78,14 +78,14 @@ struct Condition {
         kBelow,      // (number, number): it is lower than the second
         kAbove,      // (number, number): it is higher than the second
         kAmong,      // (number): it is one of numbers
-        kBetween,    // (number): it is not lower than the first of numbers, nor higher than the second
+        kBetween,    // (number): it is from the first of numbers to the second
         kMultiple,   // (number, number): it is a multiple of the second
-        kEqual,      // (text, text) or, where one is a number, (number, number)
+        kEqual,      // (text, text) or, if one is a number, (number, number)
         kContains,   // (text, text): the second occurs in it
         kShape,      // (text): it has one of shapes
-        kGrammar,    // (text): it fails the grammar
-        kRow,        // a row of the table suits all matches; the first one is where cells are taken from
-        kRefusedBy,  // (arguments): the other check does not answer 0
+        kGrammar,    // (text): it violates the grammar
+        kRow,        // a row of the table satisfies all matches; cells are those of the first such row
+        kRefusedBy,  // (arguments): the other check does not return 0
         kListed,  // (number): among the first numbers[0] that the wireless driver lists, none above numbers[1]
         kLastItem,  // in a list: nothing follows the item
         kAllOf,     // (parts): the reason is that of the last
@@ -102,12 +102,12 @@ struct Condition {
     const Grammar* grammar = nullptr;
     const Table* table = nullptr;
     std::vector<Match> matches = {};
-    std::string_view check = {};  // the other check's name
+    std::string_view check = {};  // the name of the other check
     std::vector<Condition> parts = {};
-    std::string_view id = {};  // of the reason, in place of the one that the kind has
+    std::string_view id = {};  // of the reason, instead of that of the kind
 
-    std::size_t number = 0;         // in its check: set when that is registered
-    const Check* target = nullptr;  // the other check: set after all are registered
+    std::size_t number = 0;         // in its check: set at registration
+    const Check* target = nullptr;  // the other check: set after registration
 };
 
 }  // namespace ostrel::rules

@@ -2,155 +2,112 @@
 
 namespace ostrel::rules {
 
-namespace {
-
 using Kind = Condition::Kind;
 
-Condition condition(Kind kind, std::vector<Expression> operands)
-{
-    Condition result;
-    result.kind = kind;
-    result.operands = std::move(operands);
-    return result;
-}
-
-}  // namespace
-
 Condition always() { return {}; }
-Condition null(Expression argument) { return condition(Kind::kNull, {std::move(argument)}); }
-Condition empty(Expression text) { return condition(Kind::kEmpty, {std::move(text)}); }
+Condition null(Expression argument) { return {.kind = Kind::kNull, .operands = {std::move(argument)}}; }
+Condition empty(Expression text) { return {.kind = Kind::kEmpty, .operands = {std::move(text)}}; }
 
 Condition shorter_than(Expression text, Expression bytes)
 {
-    return condition(Kind::kShorter, {std::move(text), std::move(bytes)});
+    return {.kind = Kind::kShorter, .operands = {std::move(text), std::move(bytes)}};
 }
 
 Condition longer_than(Expression text, Expression bytes)
 {
-    return condition(Kind::kLonger, {std::move(text), std::move(bytes)});
+    return {.kind = Kind::kLonger, .operands = {std::move(text), std::move(bytes)}};
 }
 
 Condition length_is(Expression text, Numbers lengths)
 {
-    Condition result = condition(Kind::kLength, {std::move(text)});
-    result.numbers = std::move(lengths);
-    return result;
+    return {.kind = Kind::kLength, .operands = {std::move(text)}, .numbers = std::move(lengths)};
 }
 
 Condition outside(Expression text, Expression set)
 {
-    return condition(Kind::kOutside, {std::move(text), std::move(set)});
+    return {.kind = Kind::kOutside, .operands = {std::move(text), std::move(set)}};
 }
 
 Condition one_of(Expression text, Words words)
 {
-    Condition result = condition(Kind::kKeyword, {std::move(text)});
-    result.words = std::move(words);
-    return result;
+    return {.kind = Kind::kKeyword, .operands = {std::move(text)}, .words = std::move(words)};
 }
 
 Condition begins_with(Expression text, Words words)
 {
-    Condition result = condition(Kind::kPrefix, {std::move(text)});
-    result.words = std::move(words);
-    return result;
+    return {.kind = Kind::kPrefix, .operands = {std::move(text)}, .words = std::move(words)};
 }
 
 Condition ends_with(Expression text, Expression suffix)
 {
-    return condition(Kind::kSuffix, {std::move(text), std::move(suffix)});
+    return {.kind = Kind::kSuffix, .operands = {std::move(text), std::move(suffix)}};
 }
 
 Condition below(Expression number, Expression limit)
 {
-    return condition(Kind::kBelow, {std::move(number), std::move(limit)});
+    return {.kind = Kind::kBelow, .operands = {std::move(number), std::move(limit)}};
 }
 
 Condition above(Expression number, Expression limit)
 {
-    return condition(Kind::kAbove, {std::move(number), std::move(limit)});
+    return {.kind = Kind::kAbove, .operands = {std::move(number), std::move(limit)}};
 }
 
 Condition among(Expression number, Numbers numbers)
 {
-    Condition result = condition(Kind::kAmong, {std::move(number)});
-    result.numbers = std::move(numbers);
-    return result;
+    return {.kind = Kind::kAmong, .operands = {std::move(number)}, .numbers = std::move(numbers)};
 }
 
 Condition between(Expression number, long long lowest, long long highest)
 {
-    Condition result = condition(Kind::kBetween, {std::move(number)});
-    result.numbers = {lowest, highest};
-    return result;
+    return {.kind = Kind::kBetween, .operands = {std::move(number)}, .numbers = {lowest, highest}};
 }
 
 Condition multiple(Expression number, Expression of)
 {
-    return condition(Kind::kMultiple, {std::move(number), std::move(of)});
+    return {.kind = Kind::kMultiple, .operands = {std::move(number), std::move(of)}};
 }
 
 Condition equal(Expression one, Expression other)
 {
-    return condition(Kind::kEqual, {std::move(one), std::move(other)});
+    return {.kind = Kind::kEqual, .operands = {std::move(one), std::move(other)}};
 }
 
 Condition contains(Expression text, Expression part)
 {
-    return condition(Kind::kContains, {std::move(text), std::move(part)});
+    return {.kind = Kind::kContains, .operands = {std::move(text), std::move(part)}};
 }
 
 Condition has_shape(Expression text, std::vector<Shape> shapes)
 {
-    Condition result = condition(Kind::kShape, {std::move(text)});
-    result.shapes = std::move(shapes);
-    return result;
+    return {.kind = Kind::kShape, .operands = {std::move(text)}, .shapes = std::move(shapes)};
 }
 
 Condition fails(const Grammar& grammar, Expression text)
 {
-    Condition result = condition(Kind::kGrammar, {std::move(text)});
-    result.grammar = &grammar;
-    return result;
+    return {.kind = Kind::kGrammar, .operands = {std::move(text)}, .grammar = &grammar};
 }
 
 Condition in_table(const Table& table, std::vector<Match> matches)
 {
-    Condition result = condition(Kind::kRow, {});
-    result.table = &table;
-    result.matches = std::move(matches);
-    return result;
+    return {.kind = Kind::kRow, .table = &table, .matches = std::move(matches)};
 }
 
 Condition refused_by(std::string_view check, std::vector<Expression> arguments)
 {
-    Condition result = condition(Kind::kRefusedBy, std::move(arguments));
-    result.check = check;
-    return result;
+    return {.kind = Kind::kRefusedBy, .operands = std::move(arguments), .check = check};
 }
 
 Condition listed_by_driver(Expression number, int first, int highest)
 {
-    Condition result = condition(Kind::kListed, {std::move(number)});
-    result.numbers = {first, highest};
-    return result;
+    return {.kind = Kind::kListed, .operands = {std::move(number)}, .numbers = {first, highest}};
 }
 
-Condition last_item() { return condition(Kind::kLastItem, {}); }
+Condition last_item() { return {.kind = Kind::kLastItem}; }
 
-Condition all_of(std::vector<Condition> parts)
-{
-    Condition result = condition(Kind::kAllOf, {});
-    result.parts = std::move(parts);
-    return result;
-}
+Condition all_of(std::vector<Condition> parts) { return {.kind = Kind::kAllOf, .parts = std::move(parts)}; }
 
-Condition any_of(std::vector<Condition> parts)
-{
-    Condition result = condition(Kind::kAnyOf, {});
-    result.parts = std::move(parts);
-    return result;
-}
+Condition any_of(std::vector<Condition> parts) { return {.kind = Kind::kAnyOf, .parts = std::move(parts)}; }
 
 Condition not_(Condition condition)
 {

@@ -51,7 +51,7 @@ bool Run::holds(const Condition& condition, Frame& frame, Reason* reason)
     return result;
 }
 
-// holds_at_all does not negate; but the reason is that of the negated condition where it is negated.
+// holds_at_all ignores a negation, except in the reason.
 bool Run::holds_at_all(const Condition& condition, Frame& frame, Reason* reason)
 {
     switch (condition.kind) {

@@ -21,18 +21,17 @@ bool says_anything(Form form)
 bool has_constraints(const Check& check, std::size_t argument)
 {
     const Argument& given = check.arguments[argument];
-    const bool is_given = given.kind != Argument::Kind::kBlocks && given.kind != Argument::Kind::kIntegerOut;
-    return check.is_verdict && is_given && !given.is_output;
+    return check.is_verdict && given.kind != Argument::Kind::kBlocks && !given.is_only_written();
 }
 
 Constraints constraints_of(const Check& check, std::size_t argument, const Build& build)
 {
     const Argument& given = check.arguments[argument];
-    const bool is_number = given.kind == Argument::Kind::kInteger || given.kind == Argument::Kind::kUnsigned;
     Languages languages;
     const Claim claim = Acceptance(languages, build, check, argument).claim();
     const bool is_entangled = claim.is_about_target && (claim.are_negated || claim.factors.is_entangled);
-    Said said = is_number ? form_of_number(languages, claim.holds) : form_of_text(languages, claim.holds);
+    Said said =
+        given.is_number() ? form_of_number(languages, claim.holds) : form_of_text(languages, claim.holds);
 
     Constraints result;
     result.form = std::move(said.form);
@@ -40,14 +39,15 @@ Constraints constraints_of(const Check& check, std::size_t argument, const Build
     const auto is_of_number = [](const Limit& limit) {
         return limit.kind == Limit::Kind::kMinimum || limit.kind == Limit::Kind::kMaximum;
     };
-    if (!is_number && std::ranges::any_of(result.limits, is_of_number)) result.form.reads_number = true;
+    if (!given.is_number() && std::ranges::any_of(result.limits, is_of_number))
+        result.form.reads_number = true;
     const Variables& others = claim.are_negated ? claim.others : claim.factors.entangled;
     if (claim.is_about_target) result.depends_on.assign(others.begin(), others.end());
     result.is_sufficient = said.is_all && !is_entangled;
     result.is_schema_sufficient = said.is_all_in_schema && !is_entangled;
     result.is_necessary = result.is_sufficient || says_anything(result.form) || !result.limits.empty();
     result.is_secret = given.is_secret;
-    if (!is_number) result.null = null_outcome(check, argument, build);
+    if (!given.is_number()) result.null = null_outcome(check, argument, build);
     return result;
 }
 

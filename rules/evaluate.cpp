@@ -209,10 +209,7 @@ Run::Flow Run::run(const Step& step, Frame& frame)
 Run::Flow Run::decide(const Step& step, Frame& frame)
 {
     if (step.code.is_its) {
-        frame.code = its_code_;
-        for (const auto& [from, to] : step.code.exchanges) {
-            if (its_code_ == from) frame.code = to;
-        }
+        frame.code = step.code.exchanged(its_code_);
     } else {
         frame.code = static_cast<int>(number(step.code.number, frame));
     }

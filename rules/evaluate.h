@@ -1,4 +1,4 @@
-// Evaluation: what a check does, by its description.
+// Evaluation: what a check does, according to its description.
 #ifndef OSTREL_RULES_EVALUATE_H
 #define OSTREL_RULES_EVALUATE_H
 
@@ -18,14 +18,14 @@ namespace ostrel::rules {
 // Value is NULL, a text, a number, or the texts of several blocks.
 using Value = std::variant<std::nullptr_t, std::string, long long, std::vector<std::string>>;
 
-// Outside says why the contract promises nothing of a call, so that it must not be made.
+// Outside says why the contract leaves the result of a call open, so that it must not be made.
 enum class Outside {
     kNo,
-    kAssertion,     // a NULL is asserted against: the process ends
-    kNull,          // a NULL is read
-    kNeverReturns,  // the call does not come back
-    kDriver,        // the wireless driver is asked, and the build does not say what it lists
-    kTooMuchWork,   // of the evaluation, not of the call
+    kAssertion,     // an assertion fails for NULL: the process ends
+    kNull,          // NULL is read
+    kNeverReturns,  // the call does not return
+    kDriver,        // the result depends on the wireless driver, whose list is unknown
+    kTooMuchWork,   // for the evaluation, not for the call
 };
 
 struct Answer {
@@ -34,16 +34,16 @@ struct Answer {
     std::string out;
     std::string err;
     std::size_t flushed = 0;   // bytes of out
-    std::vector<Value> after;  // what each argument that can be written to holds, in order
+    std::vector<Value> after;  // the final contents of each argument that can be written to, in order
     Outside outside = Outside::kNo;
-    bool beyond_int = false;      // a number beyond an int was read: other builds may answer otherwise
-    Reason reason;                // of the step that refused, or why the call is outside
-    std::vector<Reason> printed;  // of the steps that printed, or skipped, and went on
+    bool beyond_int = false;      // a number beyond an int was read: the result may differ in other builds
+    Reason reason;                // for the refusal, or for the call being outside
+    std::vector<Reason> printed;  // of the steps that printed or skipped, and continued
 
     [[nodiscard]] bool is_flushed() const { return flushed == out.size(); }
 };
 
-// Counts says how often each step of each check acted and how often each condition held and did not.
+// Counts is how often each step of each check acted, and how often each condition held and did not.
 struct Counts {
     struct OfCheck {
         std::vector<std::uint64_t> steps;
@@ -54,28 +54,28 @@ struct Counts {
     std::vector<OfCheck> checks;  // by Check::number
 };
 
-// evaluate takes a value for every argument, in order, those that are only written included.
+// evaluate takes a value for every argument, in order, including those that are only written.
 Answer evaluate(const Check& check, std::span<const Value> values, const Build& build,
                 Counts* counts = nullptr);
 
-// kMostWork is for a reason, which must not take longer than the call that it is for.
+// kMostWork is for a reason, which must not take longer than its call.
 inline constexpr std::uint64_t kMostWork = std::uint64_t{128} << 20U;
 
-// evaluate_within gives up when it has looked at so many bytes, one that it looks at twice counted twice.
+// evaluate_within gives up after examining that many bytes; a byte that is examined twice counts twice.
 Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 
-// explain_within is evaluate_within without what is printed and what arguments hold afterwards. The answer may have
-// been that of another call.
+// explain_within is evaluate_within without output and final contents of arguments. The answer may be reused from
+// another call.
 void explain_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                     const Build& build, Answer& answer);
 
-// evaluate_hiding is evaluate_within with lines in which the value of a secret argument is shown as its length.
+// evaluate_hiding is evaluate_within with lines that show only the length of a secret argument.
 Answer evaluate_hiding(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 
-// room says how many bytes a buffer must have in a call. Nothing: those of the text in it, or what the room depends on
-// is NULL.
+// room returns the size that a buffer must have in a call; nullopt: that of its text, or the size depends on an
+// argument that is NULL.
 std::optional<std::size_t> room(const Check& check, std::size_t argument, std::span<const Value> values);
 
 }  // namespace ostrel::rules

@@ -108,10 +108,8 @@ class Explainer {
 
     void add_codes(const Step& step, const std::vector<int>& answered)
     {
-        for (int code : answered) {
-            for (const auto& [from, to] : step.code.exchanges) {
-                if (code == from) code = to;
-            }
+        for (const int its_code : answered) {
+            const int code = step.code.exchanged(its_code);
             if (code != 0 && std::ranges::find(codes, code) == codes.end()) codes.push_back(code);
         }
     }

@@ -11,10 +11,10 @@
 
 namespace ostrel::rules {
 
-// SaidLine is a line that is printed, with <name> for what it holds, and \n for a line end.
+// SaidLine is a line that is printed, with <name> for a value and \n for a line end.
 struct SaidLine {
     std::string text;
-    std::string when;  // of several lines of a step, each in a case of its own; empty: always
+    std::string when;  // the case, if a step has several lines; empty: always
     Line::Stream stream = Line::Stream::kOut;
     bool is_flushed = true;
 };
@@ -22,11 +22,11 @@ struct SaidLine {
 // Said is a step in words.
 struct Said {
     Step::Kind kind = Step::Kind::kPrint;
-    std::optional<int> code;  // that is answered, where it is a fixed one
+    std::optional<int> code;  // that is returned, if it is a fixed one
     std::string text;
     std::vector<SaidLine> lines;
     std::vector<std::string> writes;
-    std::vector<Said> uses;  // what other checks do that the condition asks
+    std::vector<Said> uses;  // the steps of other checks that the condition calls
     std::vector<Said> steps;
     std::vector<Said> otherwise;
 };
@@ -39,22 +39,22 @@ struct SaidArgument {
 };
 
 struct Explanation {
-    std::string accepted;  // in a line, what is accepted or answered
+    std::string accepted;  // what is accepted or returned, in one line
     std::vector<SaidArgument> arguments;
-    std::vector<Said> steps;  // those that can act; after the last one the answer is 0
-    std::vector<int> codes;   // that can be answered besides 0, in the order of the steps; of a number none
-    std::string numbers;      // how a number is read out of a text; empty where none is
+    std::vector<Said> steps;  // those that can act; after the last one the result is 0
+    std::vector<int> codes;   // other than 0, in the order of the steps; empty if the result is a number
+    std::string numbers;      // how numbers are read from texts; empty if none are
 };
 
 Explanation explain(const Check& check, const Build& build);
 
-// said_arguments says what each argument is, what NULL does and what it may become.
+// said_arguments describes each argument, the effect of NULL, and what it may become.
 std::vector<SaidArgument> said_arguments(const Check& check, const Build& build);
 
-// how_numbers_are_read says how a number is read out of a text.
+// how_numbers_are_read says how a number is read from a text.
 std::string how_numbers_are_read(const Build& build);
 
-// accepted says in a line what is accepted, or what the number is that is answered.
+// accepted says in one line what is accepted, or which number is returned.
 std::string accepted(const Check& check, const Build& build);
 
 }  // namespace ostrel::rules

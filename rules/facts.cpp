@@ -1,4 +1,4 @@
-// What is known at a place in the steps, so that nothing is said that cannot be.
+// What is known at some step, so that impossible cases are left out.
 #include <algorithm>
 
 #include "rules/phrases.h"
@@ -91,7 +91,7 @@ std::optional<bool> Speaker::known_of_text(const Condition& condition) const
     return is(shared > 0);
 }
 
-// An empty text is also shorter than one byte, and is read as 0.
+// An empty text is shorter than one byte, and its number is 0.
 void Speaker::learn(const Condition& condition, bool holds)
 {
     holds = holds != condition.is_negated;

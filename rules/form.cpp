@@ -9,7 +9,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// reads_number tells whether a number is read anywhere.
+// reads_number returns true if a number is read anywhere.
 bool reads_number(const Languages& languages, Language one)
 {
     const Leaf* leaf = languages.leaf(one);
@@ -22,14 +22,14 @@ bool reads_number(const Languages& languages, Language one)
                                [&](Language part) { return reads_number(languages, part); });
 }
 
-// includes_all tells whether what the form says in words is all that the parts need.
+// includes_all returns true if the form without its pattern implies all parts.
 bool includes_all(Languages& languages, const std::vector<Language>& parts, const Form& form)
 {
     const Language said = language_of(languages, form);
     return std::ranges::all_of(parts, [&](Language part) { return includes(languages, part, said); });
 }
 
-// is_length tells whether all that a part says is a least and a greatest length.
+// is_length returns true if a part is only a minimum and a maximum length.
 bool is_length(const Languages& languages, Language part)
 {
     const Leaf* leaf = languages.leaf(part);
@@ -150,7 +150,7 @@ class Writer {
             form_.max_length = static_cast<std::size_t>(lengths.high());
     }
 
-    // take_items says of an item what it can be beside what the whole text can.
+    // take_items describes an item, given the form of the whole text.
     void take_items(const Leaf& leaf)
     {
         form_.separator = leaf.byte;
@@ -158,7 +158,7 @@ class Writer {
         form_.item = {form_of_text(languages_, item_of(languages_, leaf, form_)).form};
     }
 
-    // count_items makes the number of items of that of separators.
+    // count_items derives the number of items from that of separators.
     void count_items()
     {
         for (const Language part : parts_) {
@@ -171,7 +171,7 @@ class Writer {
         }
     }
 
-    // write_pattern leaves out what has no pattern, and tells whether that was nothing. Lengths are said in words.
+    // write_pattern returns true if all parts have a pattern; others are left out. Lengths are members of the form.
     bool write_pattern()
     {
         bool is_whole = true;

@@ -1,4 +1,4 @@
-// Forms: how a language is said in words. It is for constraints.cpp.
+// Forms: a language as lengths, bytes, keywords, numbers and a pattern. It is for constraints.cpp.
 #ifndef OSTREL_RULES_FORM_H
 #define OSTREL_RULES_FORM_H
 
@@ -7,34 +7,34 @@
 
 namespace ostrel::rules {
 
-// Said is a form, and whether no other text has all that it says.
+// Said is a form, and whether only texts of the language satisfy it.
 struct Said {
     Form form = {};
     bool is_all = false;
-    bool is_all_in_schema = false;  // without what JSON Schema has no words for
+    bool is_all_in_schema = false;  // without what JSON Schema cannot express
 };
 
-// form_of_text says what all texts of a language have in common.
+// form_of_text describes what all texts of a language have in common.
 Said form_of_text(Languages& languages, Language one);
 
-// form_of_number is for an int, of which no more than the lowest and the highest number is said.
+// form_of_number is for an int; it has only the minimum and the maximum.
 Said form_of_number(const Languages& languages, Language one);
 
-// language_of holds the texts that have what a form says in words, its pattern aside.
+// language_of contains the texts that satisfy a form, except for its pattern.
 Language language_of(Languages& languages, const Form& form);
 
-// Offer is what a user should be offered of a language: numbers without blanks and leading zeros, keywords as they
-// are written. There is none where that is all of it.
+// Offer is what a user should be offered of a language: numbers without spaces and leading zeros, keywords in their
+// case. There is none if that is all of it.
 struct Offer {
     Form form;
     Language language;
 };
 std::optional<Offer> offer_of(Languages& languages, Language one, const Form& form);
 
-// item_of gives what an item of a list can be beside what the form says of the whole text.
+// item_of returns what an item of a list can be, given the form of the whole text.
 Language item_of(Languages& languages, const Leaf& list, const Form& form);
 
-// parts_of gives what must hold for the texts of a language.
+// parts_of returns the conditions that all texts of a language satisfy.
 std::vector<Language> parts_of(const Languages& languages, Language one);
 
 }  // namespace ostrel::rules

@@ -17,7 +17,7 @@ Check domain_name()
          for_each(list_of(it, '.', {}, "label"), {refuse(-1, empty()), refuse(-1, longer_than(20))})});
 }
 
-// Only what is made of digits and dots can be an address, and no name is made of them alone.
+// Only a text of digits and dots can be an address, and a name cannot consist of these alone.
 Check host()
 {
     return check("ValidateURL", {text("value", "a host name or an IPv4 address")},
@@ -27,7 +27,7 @@ Check host()
 }
 
 // The first ":" after the scheme ends the host, even if it is in the path. The set of the whole is wider than those of
-// host and port, and is tested after them, so that no byte is said to be allowed that is refused in turn.
+// host and port, and is tested after them, so that no reason allows a byte that is then refused.
 Check url(std::string_view name, std::string_view what, int code, Words schemes)
 {
     const Condition has_port = contains("rest", literal(":"));
@@ -45,7 +45,7 @@ Check url(std::string_view name, std::string_view what, int code, Words schemes)
          when(has_port, {refuse(code, below(port, 0)), refuse(code, above(port, 65535))})});
 }
 
-// What is between the first "@" and the last "." may hold either of them again.
+// The text between the first "@" and the last "." may contain either of them again.
 Check mail_outline()
 {
     const Expression before = called("the part before the \"@\"", before_first(it, "@"));
@@ -58,8 +58,8 @@ Check mail_outline()
                   refuse(-1, empty(called("the part after the last \".\"", after_last(after, "."))))});
 }
 
-// The set is wider than that of a host. Where a byte is in neither, the reason has the narrower one, so that the byte
-// that is put in its place is not refused in turn.
+// The set is wider than that of a host. For a byte that is in neither, the reason has the narrower one, so that its
+// replacement is not refused.
 Step refuse_outside(const Set& set) { return refuse(803, all_of({outside(set), outside(kHost)})); }
 
 }  // namespace

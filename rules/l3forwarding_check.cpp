@@ -5,7 +5,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// Only the first three bytes of "0.0.0.0" are compared, so that "0.0.1.0" is refused too.
+// Only the first three bytes of "0.0.0.0" are compared, so "0.0.1.0" is refused too.
 Check destination()
 {
     const Effects printed = line(
@@ -23,19 +23,19 @@ std::vector<Check> l3forwarding_check()
 {
     return {
         check(
-            "L3FORWARDING_check_interface", {text("value", "the interface that packets leave by")},
+            "L3FORWARDING_check_interface", {text("value", "the outgoing interface")},
             {refuse(402, empty(), line("Error in L3FORWARDING_check_interface: Invalid interface value\n\n")),
              refuse(402, longer_than(256),
                     line("Error in L3FORWARDING_check_interface: Invalid interface value\n\n"))}),
         destination(),
-        check("L3FORWARDING_check_ForwardingType", {text("value", "what the route leads to")},
+        check("L3FORWARDING_check_ForwardingType", {text("value", "the type of destination")},
               {refuse(402, ignoring_case(none_of({"Default", "Network", "Host"})),
                       line("Error in L3FORWARDING_check_ForwardingType: Invalid type:<value>\n"))}),
         check("L3FORWARDING_check_ForwardingMetric", {text("value", "the metric of the route")},
               {refuse(402, below(-1),
                       line("Error in L3FORWARDING_check_ForwardingMetric: Invalid metric:<value>, RANGE "
                            ">=-1\n"))}),
-        check("L3FORWARDING_check_MTU", {text("value", "the largest packet").in("bytes")},
+        check("L3FORWARDING_check_MTU", {text("value", "the maximum packet size").in("bytes")},
               {refuse(402, below(1),
                       line("Error in L3FORWARDING_check_MTU: Invalid MTU:<value>, RANGE[1, 1540]\n")),
                refuse(402, above(1540),

@@ -30,7 +30,7 @@ void place_piece(Operand& piece, const Operand& whole, std::string_view text)
     if (whole.place.judged) piece.place.judged = Span{whole.place.judged->begin + begin, text.size()};
 }
 
-// run_list keeps the item of a list that it stands in.
+// run_list restores the item of the enclosing list.
 Run::Flow Run::run_list(const Step& step, Frame& frame)
 {
     const List& list = *step.list;

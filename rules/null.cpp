@@ -1,4 +1,3 @@
-// What NULL does, in words and as one outcome.
 #include "rules/null.h"
 
 #include <algorithm>
@@ -71,11 +70,6 @@ std::string in_words(const std::vector<NullEnd>& ends, const std::set<std::strin
     return "depends on " + names + ": " + text;
 }
 
-bool is_number(const Argument& argument)
-{
-    return argument.kind == Argument::Kind::kInteger || argument.kind == Argument::Kind::kUnsigned;
-}
-
 NullOutcome outcome_of(NullEnd::Kind kind)
 {
     switch (kind) {
@@ -97,7 +91,7 @@ NullOutcome outcome_of(NullEnd::Kind kind)
 
 std::string null_does(const Check& check, std::size_t argument, const Build& build)
 {
-    if (is_number(check.arguments[argument])) return "";
+    if (check.arguments[argument].is_number()) return "";
     const NullEnds found = null_ends(check, argument, build);
     return in_words(found.ends, found.sources);
 }

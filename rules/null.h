@@ -1,4 +1,4 @@
-// Null: what becomes of a call with NULL for one argument, by the steps of its check.
+// Null: the effect of NULL for one argument, derived from the steps of the check.
 #ifndef OSTREL_RULES_NULL_H
 #define OSTREL_RULES_NULL_H
 
@@ -10,18 +10,18 @@
 
 namespace ostrel::rules {
 
-// null_does says it in words. It is empty for a number.
+// null_does describes the effect. It is empty for a number.
 std::string null_does(const Check& check, std::size_t argument, const Build& build);
 
 enum class NullOutcome {
     kAccepted,
     kRefused,
     kAssertion,  // a failed assertion ends the process
-    kFault,      // it is read, or given to the C library to be printed: a memory fault
+    kFault,      // it is read, or passed to the C library for printing: a memory fault
     kDepends,    // on the other arguments
 };
 
-// null_outcome is for arguments that are no numbers.
+// null_outcome is for arguments that are not numbers.
 NullOutcome null_outcome(const Check& check, std::size_t argument, const Build& build);
 
 }  // namespace ostrel::rules

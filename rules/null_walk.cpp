@@ -10,16 +10,16 @@ namespace {
 
 using Kind = Step::Kind;
 
-// Truth is what is known of a condition. kStops: it is not found out, for the call ends before.
+// Truth is what is known of a condition. kStops: the call ends during its evaluation.
 enum class Truth { kNever, kMaybe, kAlways, kStops };
 
 class Walk {
  public:
     std::vector<NullEnd> ends;
     std::set<std::string> sources;  // the arguments on which it depends
-    bool is_printed = false;        // the NULL, by a step that may act
+    bool is_printed = false;        // NULL is, by a step that may act
 
-    // run tells whether the call may go on after the steps.
+    // run returns true if the call may continue after the steps.
     bool run(const std::vector<Step>& steps, Speaker& speaker, const std::string& where)
     {
         return std::ranges::all_of(steps, [&](const Step& step) { return run(step, speaker, where); });
@@ -116,11 +116,7 @@ class Walk {
         const bool refuses = step.kind == Kind::kRefuse;
         std::vector<int> codes = {static_cast<int>(step.code.number.number)};
         if (step.code.is_its) codes = its_codes_;
-        for (int& code : codes) {
-            for (const auto& [from, to] : step.code.exchanges) {
-                if (code == from) code = to;
-            }
-        }
+        for (int& code : codes) code = step.code.exchanged(code);
         const auto other = speaker.check().is_verdict ? NullEnd::Kind::kAccepted : NullEnd::Kind::kAnswered;
         ends.push_back({refuses ? NullEnd::Kind::kRefused : other, std::move(codes), where});
     }
@@ -139,7 +135,7 @@ class Walk {
             case Condition::Kind::kRefusedBy:
                 return judge_use(condition, speaker, where);
             case Condition::Kind::kRow: {
-                // A row is compared from its first match on, as long as one suits.
+                // A row is compared match by match, until one fails.
                 const auto& matches = condition.matches;
                 const auto null = std::ranges::find_if(
                     matches, [&](const Match& match) { return speaker.reads_null(match.value); });
@@ -160,7 +156,7 @@ class Walk {
         return *known ? Truth::kAlways : Truth::kNever;
     }
 
-    // A part is judged only where those before it leave that open.
+    // A part is judged only if those before it do not decide.
     Truth judge_parts(const Condition& condition, const Speaker& speaker, const std::string& where)
     {
         const bool all = condition.kind == Condition::Kind::kAllOf;

@@ -1,4 +1,4 @@
-// Null walk: how a call may come to its end with NULL for one argument and anything else for the others.
+// Null walk: how a call may end if one argument is NULL and the others are arbitrary.
 #ifndef OSTREL_RULES_NULL_WALK_H
 #define OSTREL_RULES_NULL_WALK_H
 
@@ -13,16 +13,16 @@
 
 namespace ostrel::rules {
 
-// NullEnd is one such end, and where the call comes to it.
+// NullEnd is one possible end, and its condition.
 struct NullEnd {
     enum class Kind {
         kAccepted,
         kRefused,
-        kAnswered,  // with a number that is no result code
-        kPrinted,   // left to the C library, which is given NULL to print
+        kAnswered,  // with a number instead of a result code
+        kPrinted,   // left to the C library, which has to print NULL
         kFault,
         kAsserted,
-        kStays,  // it does not come back
+        kStays,  // it does not return
     };
 
     Kind kind;
@@ -36,10 +36,10 @@ struct NullEnds {
     std::set<std::string> sources;  // the other arguments on which it depends
 };
 
-// add adds the codes that are not among them yet.
+// add adds the codes that are new.
 void add(std::vector<int>& codes, const std::vector<int>& more);
 
-// null_ends walks the steps of a check. The argument is no number.
+// null_ends follows the steps of a check. The argument must not be a number.
 NullEnds null_ends(const Check& check, std::size_t argument, const Build& build);
 
 }  // namespace ostrel::rules

@@ -12,8 +12,8 @@ std::vector<Check> lengths()
     return {
         check("Param_check_string_len",
               {text("value_p", "a text").asserts("((void *)0) != value_p"),
-               integer("min_len", "the least length").in("bytes"),
-               integer("max_len", "the greatest length").in("bytes")},
+               integer("min_len", "the minimum length").in("bytes"),
+               integer("max_len", "the maximum length").in("bytes")},
               {refuse(801, shorter_than("min_len"),
                       line("Error in Param_check_string_len: The length of string:<value_p> shoud not be "
                            "less than <min_len>\n")),
@@ -21,24 +21,22 @@ std::vector<Check> lengths()
                       line("Error in Param_check_string_len: The length of string:<value_p> shoud not be "
                            "more than <max_len>\n"))}),
         check("PARAM_check_number",
-              {text("value_p", "a text of digits"), integer("min_len", "the least length").in("bytes"),
-               integer("max_len", "the greatest length").in("bytes")},
+              {text("value_p", "a string of digits"), integer("min_len", "the minimum length").in("bytes"),
+               integer("max_len", "the maximum length").in("bytes")},
               {refuse(its_code(), refused_by("ValidateString", {"min_len", "max_len", kDigits, "value_p"}))}),
         check("PARAM_check_num_range",
-              {text("value_p", "a number"), integer("min", "the lowest number"),
-               integer("max", "the highest number")},
+              {text("value_p", "a number"), integer("min", "the minimum"), integer("max", "the maximum")},
               {refuse(its_code(), refused_by("ValidateNum", {"min", "max", kDigits, "value_p"}))}),
         check("PARAM_check_password",
-              {text("value_p", "a password").secret(), integer("min_len", "the least length").in("bytes"),
-               integer("max_len", "the greatest length").in("bytes")},
+              {text("value_p", "a password").secret(), integer("min_len", "the minimum length").in("bytes"),
+               integer("max_len", "the maximum length").in("bytes")},
               {refuse(its_code(), refused_by("ValidateString", {"min_len", "max_len", kAlnum, "value_p"}))}),
         check("PARAM_check_string_len",
-              {text("value_p", "a text"), natural("min_len", "the least length").in("bytes"),
-               natural("max_len", "the greatest length").in("bytes")},
+              {text("value_p", "a text"), natural("min_len", "the minimum length").in("bytes"),
+               natural("max_len", "the maximum length").in("bytes")},
               {refuse(-1, shorter_than("min_len")), refuse(-1, longer_than("max_len"))}),
         check("PARAM_check_string_prefix",
-              {text("value_p", "a text").asserts(kAssertion),
-               text("first_chars", "the bytes that it may begin with")},
+              {text("value_p", "a text").asserts(kAssertion), text("first_chars", "the allowed first bytes")},
               {refuse(-1, outside(slice("value_p", 0, 1), "first_chars"))}),
     };
 }
@@ -64,17 +62,17 @@ std::vector<Check> addresses_and_words()
               {refuse(-1, null(it)), refuse(-1, empty()), refuse(-1, outside(kPrintable))}),
         check("PARAM_check_provisioning_code", {text("value_p", "a provisioning code")},
               {refuse(402, refused_by("TcmValidateProvisioningCode"))}),
-        check("PARAM_check_bool_value", {text("value_p", "a truth value").asserts(kAssertion)},
+        check("PARAM_check_bool_value", {text("value_p", "a Boolean value").asserts(kAssertion)},
               {refuse(402, none_of({"0", "1"}),
                       line("Error in PARAM_check_bool_value: The value <value_p> out of range[0,1]\n"))}),
-        check("PARAM_check_bool_value_use_str", {text("value_p", "a truth value").asserts(kAssertion)},
+        check("PARAM_check_bool_value_use_str", {text("value_p", "a Boolean value").asserts(kAssertion)},
               {refuse(402, none_of({"true", "false"}),
                       line("Error in PARAM_check_bool_value_use_str: The value <value_p> out of range[true, "
                            "false]\n"))}),
     };
 }
 
-// What begins with a digit is looked at for ever, and what is empty is accepted.
+// For a value that begins with a digit the call does not return; the empty value is accepted.
 std::vector<Step> unsigned_integer(std::string_view message)
 {
     return {accept(empty()), never_returns(not_(outside(slice(it, 0, 1), kDigits))),
@@ -88,9 +86,9 @@ std::vector<Check> numbers()
               {refuse(601, below(0), line("Error in PARAM_check_port: The port shoud be between 0~65535\n")),
                refuse(601, above(65535),
                       line("Error in PARAM_check_port: The port shoud be between 0~65535\n"))}),
-        check("PARAM_check_ui2_value", {text("value_p", "a number of two bytes").asserts(kAssertion)},
+        check("PARAM_check_ui2_value", {text("value_p", "a two-byte number").asserts(kAssertion)},
               unsigned_integer("Error in PARAM_check_ui2_value: The value <value_p> is invalid\n")),
-        check("PARAM_check_ui4_value", {text("value_p", "a number of four bytes").asserts(kAssertion)},
+        check("PARAM_check_ui4_value", {text("value_p", "a four-byte number").asserts(kAssertion)},
               unsigned_integer("Error in PARAM_check_ui4_value: The value <value_p> is invalid\n")),
         check("PARAM_check_dl_test_bufsize",
               {text("value_p", "the size of a buffer for downloads").in("bytes")},

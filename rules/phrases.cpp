@@ -1,4 +1,3 @@
-// Who is spoken of by what name; items and lines in words.
 #include "rules/phrases.h"
 #include "rules/datum.h"
 
@@ -27,8 +26,7 @@ Speaker::Speaker(const Check& check, const Build& build) : check_(&check), build
     slots_.resize(check.slots);
     for (std::size_t i = 0; i < check.arguments.size(); ++i) {
         const Argument& argument = check.arguments[i];
-        const bool is_number =
-            argument.kind == Argument::Kind::kInteger || argument.kind == Argument::Kind::kUnsigned;
+        const bool is_number = argument.is_number();
         slots_[i] = {std::string(argument.name), is_number, argument.asserted.empty() && !is_number};
         slots_[i].sources = {std::string(argument.name)};
     }
@@ -57,7 +55,7 @@ void Speaker::add_sources(const Condition& condition, std::set<std::string>& nam
     for (const Condition& part : condition.parts) add_sources(part, names);
 }
 
-// remember notes what is kept under a name; it is explained where it is kept.
+// remember records the names of remembered values.
 void Speaker::remember(const std::vector<Step>& steps)
 {
     for (const Step& step : steps) {

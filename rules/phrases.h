@@ -13,24 +13,25 @@
 
 namespace ostrel::rules {
 
-// Meant is what a name stands for where it is spoken of.
+// Meant is what a name refers to.
 struct Meant {
     std::string words;
-    bool is_number = false;                // or else a text
-    bool may_be_null = false;              // an argument that nothing asserts against
-    bool is_null = false;                  // NULL is what is passed, to see what becomes of it
-    const Expression* constant = nullptr;  // a text, a number or a set as it stands
-    std::set<std::string> sources = {};    // the arguments that it is made of
+    bool is_number = false;                // otherwise a text
+    bool may_be_null = false;              // an argument without an assertion
+    bool is_null = false;                  // NULL is passed
+    const Expression* constant = nullptr;  // a literal text, number or set
+    std::set<std::string> sources = {};    // the arguments from which it is derived
 };
 
-// Facts are what is known of texts at a place in the steps, by the words for them.
+// Facts are what is known of texts at some step, by the words for them.
 struct Facts {
     std::set<std::string> empty = {};
     std::set<std::string> not_empty = {};
-    std::map<std::string, std::set<std::string_view>> words = {};  // one of them, in their own case
+    std::map<std::string, std::set<std::string_view>> words =
+        {};  // the text is one of them, with the same case
 };
 
-// Clause says of a subject that something holds: "value", "has more than 8 bytes".
+// Clause is a statement: "value", "has more than 8 bytes".
 struct Clause {
     std::string subject;
     std::string predicate;
@@ -38,60 +39,60 @@ struct Clause {
     [[nodiscard]] std::string text() const { return subject + (subject.empty() ? "" : " ") + predicate; }
 };
 
-// includes tells that a clause asks for another one too, or takes it in: "has 8 to 63 bytes".
+// includes returns true if a clause implies the other, or has been merged with it: "has 8 to 63 bytes".
 bool includes(Clause& one, const Clause& other);
 
-// Speaker speaks of one check, in the words of the check that is explained.
+// Speaker describes one check, with the names of the check that is explained.
 class Speaker {
  public:
     Speaker(const Check& check, const Build& build);
 
-    // spell_out makes what is kept under a name be spoken of by what it is.
+    // spell_out replaces remembered names by what they refer to.
     void spell_out(const std::vector<Step>& steps);
 
-    // of_other speaks of the check that a condition uses, and names its arguments as they are named here.
+    // of_other describes the check that a condition calls, with the names used here for its arguments.
     [[nodiscard]] Speaker of_other(const Condition& use) const;
 
-    // of_items speaks of what is done for each item of a list.
+    // of_items describes the steps for each item of a list.
     [[nodiscard]] Speaker of_items(const List& list) const;
 
     [[nodiscard]] const Check& check() const { return *check_; }
 
-    // value names a text or a number; number names what is read as one: "the number in value".
+    // value names a text or a number; number names a text that is read as one: "the number in value".
     [[nodiscard]] std::string value(const Expression& expression) const;
     [[nodiscard]] std::string number(const Expression& expression) const;
     [[nodiscard]] bool is_number(const Expression& expression) const;
 
-    // clause says that a condition holds, or does not; joining says it of several.
+    // clause states that a condition holds, or does not.
     [[nodiscard]] Clause clause(const Condition& condition, bool holds = true) const;
     [[nodiscard]] std::string when(const Condition& condition) const { return clause(condition).text(); }
 
-    // known tells a condition that always or never holds, whatever is passed.
+    // known is for a condition that always or never holds; otherwise nullopt.
     [[nodiscard]] std::optional<bool> known(const Condition& condition) const;
 
-    // learn notes that a condition holds from here on, or does not; forget that a name stands for something else. meet
-    // keeps what two ways to the same place have in common.
+    // learn records that a condition holds from here on, or does not; forget, that a name refers to something else.
+    // meet keeps what two paths to the same step have in common.
     void learn(const Condition& condition, bool holds);
     void forget(const Step& step);
     void meet(const Speaker& other);
 
-    // list names the items of a list: "each item of value, between ","".
+    // list names the items of a list: "each item of value separated by ","".
     [[nodiscard]] std::string list(const List& list) const;
     [[nodiscard]] const std::string& item() const { return item_.words; }
 
-    // line shows a line with <name> for what it holds, and \n for a line end.
+    // line shows a line with <name> for a value and \n for a line end.
     [[nodiscard]] std::string line(const Line& line) const;
 
-    // pass_null has NULL passed for an argument. is_null tells that it is what an expression stands for, reads_null
-    // that an expression is made by reading it.
+    // pass_null makes an argument NULL. is_null is true for an expression that is NULL, reads_null for one that reads
+    // it.
     void pass_null(std::size_t argument) { slots_[argument].is_null = true; }
     [[nodiscard]] bool is_null(const Expression& expression) const;
     [[nodiscard]] bool reads_null(const Expression& expression) const;
 
-    // add_sources names the arguments that a condition depends on.
+    // add_sources adds the arguments that a condition depends on.
     void add_sources(const Condition& condition, std::set<std::string>& names) const;
 
-    // reads_number tells that a condition reads a number out of a text that is passed.
+    // reads_number returns true if a condition reads a number from a text.
     [[nodiscard]] bool reads_number(const Condition& condition) const;
 
  private:
@@ -124,7 +125,7 @@ class Speaker {
     const Build* build_;
     std::vector<Meant> slots_;
     Meant item_;
-    std::string list_of_;  // what the items are of
+    std::string list_of_;  // the list of the items
     const Table* table_ = nullptr;
     Facts facts_;
 };
@@ -132,13 +133,13 @@ class Speaker {
 // in_words describes the texts that have a shape.
 std::string in_words(const Shape& shape);
 
-// bytes_in_words names the bytes of a set that stand around something: "blanks".
+// bytes_in_words names the bytes of a set in the plural: "spaces".
 std::string bytes_in_words(const Set& set);
 
-// joined_words makes "a, b or c" of several.
+// joined_words returns "a, b or c".
 std::string joined_words(const std::vector<std::string>& words, std::string_view last);
 
-// together joins clauses of one subject: "value has 3 bytes and is not NULL; other is empty".
+// together joins clauses: "value has 3 bytes and is not NULL; other is empty".
 std::string together(const std::vector<Clause>& clauses);
 
 }  // namespace ostrel::rules

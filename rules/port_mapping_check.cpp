@@ -5,7 +5,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// A reserved port prints the line of the routine that knows it, and then that of the check.
+// For a reserved port, the line of the lookup is printed before that of the check.
 Step refuse_reserved(Condition condition, std::string_view message)
 {
     return refuse(402, std::move(condition),
@@ -19,7 +19,7 @@ Check port_available()
     constexpr std::string_view kReserved = "Error in is_port_reserved: The port:<port> is reserved\n";
     return check(
         "PORTMAPPING_check_port_available",
-        {text("port", "a port of the WAN"), integer("protocol", "0 for TCP, 1 for UDP")},
+        {text("port", "a WAN port"), integer("protocol", "0 for TCP, 1 for UDP")},
         {when(equal("protocol", 0),
               {asserts("port", kAssertion),
                refuse_reserved(among("port", {80, 161, 443, 1723, 1728, 6667, 7547}), kReserved)}),
@@ -35,7 +35,7 @@ Check port_available()
 std::vector<Check> port_mapping_check()
 {
     return {
-        check("PORTMAPPING_check_remote_host", {text("value_p", "the host that the mapping is open to")},
+        check("PORTMAPPING_check_remote_host", {text("value_p", "the remote host that may use the mapping")},
               {accept(null(it)),
                refuse(726, not_empty(),
                       line("Error in PORTMAPPING_check_remote_host: The remote host should be empty\n"))}),
@@ -49,12 +49,12 @@ std::vector<Check> port_mapping_check()
                  line("Error in PORTMAPPING_check_external_port: The remote host should not be wildcard\n")),
              refuse(its_code(), refused_by("PARAM_check_port"))}),
         port_available(),
-        check("PORTMAPPING_check_description", {text("value_p", "what the mapping is for")},
+        check("PORTMAPPING_check_description", {text("value_p", "the purpose of the mapping")},
               {refuse(402, refused_by("TcmValidatePortMappingDescription"),
                       line("Error in PORTMAPPING_check_description: Error port mapping "
                            "description:<value_p>\n\n"))}),
         check("PORTMAPPING_check_lease_duration",
-              {text("value_p", "how long the mapping lasts; 0 is for ever").in("seconds")},
+              {text("value_p", "the lease time of the mapping; 0 is permanent").in("seconds")},
               {refuse(725, not_among(it, {0}),
                       line("Error in PORTMAPPING_check_lease_duration: The port mapping lease should be "
                            "zero\n"))}),

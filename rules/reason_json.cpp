@@ -12,7 +12,7 @@ namespace {
 
 bool is_plain(char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; }
 
-// are_plain looks at eight bytes at once.
+// are_plain tests eight bytes at once.
 bool are_plain(const char* begin)
 {
     constexpr std::uint64_t kOnes = 0x0101010101010101;
@@ -27,7 +27,7 @@ bool are_plain(const char* begin)
     return ((eight | below(eight, ' ') | has('"') | has('\\') | has(kDelete)) & kHighs) == 0;
 }
 
-// plain_size is how many bytes a text begins with that stand in JSON as they are.
+// plain_size returns the length of the prefix that JSON does not escape.
 std::size_t plain_size(std::string_view bytes)
 {
     std::size_t size = 0;

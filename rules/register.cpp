@@ -1,4 +1,4 @@
-// Registration: gives every name its place, every step and condition its number, and every line its parts.
+// Registration: resolves names, numbers steps and conditions, and splits lines into parts.
 
 #include <algorithm>
 #include <map>
@@ -193,7 +193,7 @@ std::vector<Check> make_checks()
 
 const std::vector<Check>& checks()
 {
-    // Linking is by address, so the list is not moved once it is linked.
+    // Links are addresses, so the list must not move afterwards.
     static const std::vector<Check> all = make_checks();
     return all;
 }

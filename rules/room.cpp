@@ -1,4 +1,4 @@
-// The room that a buffer needs in a call.
+// The size that a buffer needs in a call.
 #include "rules/run.h"
 
 namespace ostrel::rules {

@@ -9,16 +9,16 @@
 
 namespace ostrel::rules {
 
-// checks lists every description. Throws std::logic_error for one that names what is not there.
+// checks lists every description. Throws std::logic_error for a description with an unknown name.
 const std::vector<Check>& checks();
 
-// make_checks makes them anew, linked with each other.
+// make_checks creates new, linked descriptions.
 std::vector<Check> make_checks();
 
-// find gives the description of that name, or NULL.
+// find returns the description of that name, or NULL.
 const Check* find(std::string_view name);
 
-// registered makes a description ready to be evaluated that is not among checks(). Throws as checks() does.
+// registered prepares a description that is not among checks() for evaluation. Throws as checks() does.
 Check registered(Check check);
 
 // The descriptions of each module.

@@ -1,4 +1,4 @@
-// Run: one evaluation. It is for evaluate.cpp, operands.cpp and conditions.cpp alone.
+// Run: one evaluation. It is only for the files that implement evaluate.h.
 #ifndef OSTREL_RULES_RUN_H
 #define OSTREL_RULES_RUN_H
 
@@ -14,16 +14,16 @@
 
 namespace ostrel::rules {
 
-// Place says which argument of the call a text or number comes from, and which part of it.
+// Place is the argument from which a text or number comes, and the part of it.
 struct Place {
     std::optional<std::size_t> argument;
     std::optional<std::size_t> item;
     std::string_view item_text = {};
-    std::optional<std::size_t> offset;  // where a text begins in the argument's
-    std::optional<Span> judged = {};    // the text, in the argument's, also where a number was made of it
-    std::string_view part = {};         // what that part of the argument is called
-    std::size_t part_number = 0;        // of several that are called the same, from 1
-    std::string_view conversion = {};   // what was done to the argument's text; empty: it is as given
+    std::optional<std::size_t> offset;  // of the text in that of the argument
+    std::optional<Span> judged = {};    // the text in that of the argument, also for a number read from it
+    std::string_view part = {};         // the name of the part
+    std::size_t part_number = 0;        // of several with the same name, from 1
+    std::string_view conversion = {};   // of the text of the argument; empty: none
 
     void call(std::string_view name, std::size_t number = 0)
     {
@@ -32,7 +32,7 @@ struct Place {
     }
 };
 
-// Operand is what an expression is in a call.
+// Operand is the value of an expression in a call.
 struct Operand {
     enum class Kind { kNull, kText, kNumber, kSet, kBlocks, kNowhere };
 
@@ -46,10 +46,10 @@ struct Operand {
 // Integer is an operand as a number.
 struct Integer {
     long long value = 0;
-    std::string_view beyond_int;   // what stands in the text, when an int does not hold it
+    std::string_view beyond_int;   // the number in the text, if it does not fit in an int
     bool is_read = false;          // from a text that is not just the number
     const Place* whole = nullptr;  // of the text
-    std::size_t begin = 0;         // of what is beyond an int, in the text
+    std::size_t begin = 0;         // of beyond_int in the text
 
     [[nodiscard]] Place place() const
     {
@@ -59,28 +59,28 @@ struct Integer {
     }
 };
 
-// Frame is a check that is being evaluated: the one that was called, or one that another uses.
+// Frame is a check in evaluation: the one that was called, or one that another calls.
 struct Frame {
     const Check& check;
     std::vector<Operand> slots;
     Operand item = {};
-    const Operand* list = nullptr;  // that the item is of
-    std::string_view rest = {};     // what follows the separator after it
+    const Operand* list = nullptr;  // of the item
+    std::string_view rest = {};     // what follows the separator after the item
     long long index = 0;
     bool is_last_item = false;
-    const std::vector<std::string_view>* row = nullptr;  // of a table, found last
-    bool is_called = false;  // it is the check that was called, so that what it writes stays
+    const std::vector<std::string_view>* row = nullptr;  // of a table, the last that was found
+    bool is_called = false;  // it is the check that was called, whose writes are kept
     int code = 0;
     bool is_refusal = false;
 };
 
-// Ended is thrown where the contract promises nothing of a call.
+// Ended is thrown if the contract leaves the result of a call open.
 struct Ended {
     Outside outside;
     Place place = {};
 };
 
-// place_piece has a copy of a text be a piece of it, with its place and without a name.
+// place_piece turns a copy of a text into part of it, with its place and without a name.
 void place_piece(Operand& piece, const Operand& whole, std::string_view text);
 
 class Run {
@@ -101,9 +101,9 @@ class Run {
 
     Frame called_with(std::span<const Value> values);
 
-    // Operands. What the frame holds is not copied; what must be made is made in room.
+    // Operands. Values in the frame are not copied; others are created in room.
     const Operand& operand(const Expression& expression, Frame& frame, Operand& room);
-    const Operand& text(const Expression& expression, Frame& frame, Operand& room);  // and no NULL
+    const Operand& text(const Expression& expression, Frame& frame, Operand& room);  // never NULL
     Operand made(const Expression& expression, Frame& frame);
     Operand cut(const Expression& expression, Frame& frame);
     Integer number(const Expression& expression, Frame& frame, Operand& room);
@@ -111,9 +111,10 @@ class Run {
     Operand computed(const Expression& expression, Frame& frame);
     std::string_view keep(std::string text) { return kept_.emplace_front(std::move(text)); }
 
-    // Conditions. A reason is made where one is wanted: it is reason_ then.
+    // Conditions. If a reason is wanted, it is stored in reason_.
     static bool same(std::string_view a, std::string_view b, bool ignores_case);
-    static std::size_t common(std::string_view text, const Condition& prefixes);  // bytes, of the best one
+    static std::size_t common(std::string_view text,
+                              const Condition& prefixes);  // in bytes, with the best one
     bool holds(const Condition& condition, Frame& frame, Reason* reason);
     bool holds_at_all(const Condition& condition, Frame& frame, Reason* reason);
     bool text_holds(const Condition& condition, Frame& frame, Reason* reason);
@@ -143,14 +144,14 @@ class Run {
     const Build& build_;
     Counts* counts_;
     Answer& answer_;
-    Reason& reason_;                        // of the step that is being looked at, or of the one that decided
-    std::vector<std::string_view> blocks_;  // of the argument that has several
+    Reason& reason_;                        // of the current step, or of the one that decided
+    std::vector<std::string_view> blocks_;  // of the argument with several texts
     std::forward_list<std::string> kept_;
     bool is_printing_ = false;
-    const std::vector<Line>* fault_lines_ = nullptr;  // of the group of a shape that is at fault
-    int its_code_ = 0;                                // of the check that was last used
+    const std::vector<Line>* fault_lines_ = nullptr;  // of the group at fault
+    int its_code_ = 0;                                // of the last check that was called
     bool hides_secrets_ = false;
-    bool is_silent_ = false;  // what is printed and what is written are not asked for
+    bool is_silent_ = false;  // output and writes are not wanted
     std::uint64_t bytes_left_ = std::numeric_limits<std::uint64_t>::max();
 };
 

@@ -188,10 +188,7 @@ std::string full_sentence(const Reason& reason, const Check& check)
     const Sentence* known = find_sentence(reason.id);
     if (known == nullptr) return result;
     result.reserve(kUsual);
-    const bool names_argument =
-        std::ranges::count_if(check.arguments, [](const Argument& argument) {
-            return argument.kind != Argument::Kind::kIntegerOut && !argument.is_output;
-        }) > 1;
+    const bool names_argument = std::ranges::count(check.arguments, false, &Argument::is_only_written) > 1;
     if (reason.item) {
         result.append("item ").append(counted(reason.item));
         if (!reason.item_text.empty()) result.append(" (").append(quoted(reason.item_text)).append(")");

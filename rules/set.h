@@ -1,4 +1,4 @@
-// Set: which bytes are allowed somewhere, and how that is said.
+// Set: a set of bytes, and its name in words.
 #ifndef OSTREL_RULES_SET_H
 #define OSTREL_RULES_SET_H
 
@@ -19,7 +19,7 @@ class Set {
         for (const char c : members) add(static_cast<unsigned char>(c));
     }
 
-    // range holds the bytes from first to last.
+    // range returns the bytes from first to last.
     static constexpr Set range(unsigned first, unsigned last)
     {
         Set set;
@@ -51,10 +51,10 @@ class Set {
     [[nodiscard]] std::size_t size() const;
     [[nodiscard]] bool empty() const { return *this == Set(); }
 
-    // members lists the bytes in their order.
+    // members lists the bytes in order.
     [[nodiscard]] std::string members() const;
 
-    // find_outside gives the offset of the first byte of text that is no member, or npos.
+    // find_outside returns the offset of the first byte of text that is not a member, or npos.
     [[nodiscard]] std::size_t find_outside(std::string_view text) const;
 
  private:
@@ -66,10 +66,10 @@ class Set {
 // in_words names the members: "letters, digits and - . _".
 std::string in_words(const Set& set);
 
-// bare shows a byte by itself, and as \x9F or \x20 where it cannot be seen.
+// bare shows a byte, as \x9F or \x20 if it is invisible.
 std::string bare(char byte);
 
-// set_words lists what in_words calls sets of bytes, and what stands between two of them.
+// set_words lists the phrases of in_words.
 std::vector<std::string_view> set_words();
 
 // byte_in_words shows a byte in a sentence: "x", a space, a quotation mark, \x9F.

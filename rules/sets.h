@@ -1,4 +1,4 @@
-// The sets that descriptions name. They are written here a second time, independently of the library.
+// The sets of the descriptions, written independently of the library.
 #ifndef OSTREL_RULES_SETS_H
 #define OSTREL_RULES_SETS_H
 

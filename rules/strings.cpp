@@ -7,18 +7,18 @@ std::vector<Check> strings()
 {
     return {
         check("ValidateString",
-              {integer("min_len", "the least length").in("bytes"),
-               integer("max_len", "the greatest length").in("bytes"), text("charset", "the allowed bytes"),
+              {integer("min_len", "the minimum length").in("bytes"),
+               integer("max_len", "the maximum length").in("bytes"), text("charset", "the allowed bytes"),
                text("value", "a text")},
               {reads("charset"), refuse(801, shorter_than("value", "min_len")),
                refuse(802, longer_than("value", "max_len")), refuse(803, outside("value", "charset"))}),
         check("ValidateNum",
-              {integer("min", "the lowest number"), integer("max", "the highest number"),
+              {integer("min", "the minimum"), integer("max", "the maximum"),
                text("charset", "the allowed bytes"), text("value", "a number")},
               {refuse(803, outside("value", "charset")), refuse(601, below("value", "min")),
                refuse(601, above("value", "max"))}),
         number("countChar",
-               {text("value", "a text"), integer("ch", "the byte that is counted, in the lowest 8 bits")},
+               {text("value", "a text"), integer("ch", "the byte to count, in the lowest 8 bits")},
                {answer(Code(count("value", "ch")))}),
     };
 }

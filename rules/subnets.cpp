@@ -12,7 +12,7 @@ std::vector<Step> judge_last_octet(const char* address)
     return {refuse(-1, below(last_octet(address), 1)), refuse(-1, above(last_octet(address), 254))};
 }
 
-// What would be an address but for its last octet is told the limit of that, which is lower than that of the others.
+// For an address that is wrong only in its last octet, the reason has the limit of that, which is lower than 255.
 Step refuse_highest_octet(const char* address)
 {
     return when(all_of({not_(outside(address, kIpv4)), among(items(address, "."), {4}),
@@ -25,7 +25,7 @@ Step judge_subnet(const char* address)
     return refuse(-1, refused_by("isInSameSubnet", {"lanAddress", address}));
 }
 
-// A repetition is looked for anywhere in the rest, but its end only where an item next to this one would end.
+// A repetition is searched anywhere in the rest, but its end is only tested where the next item would end.
 Condition repeats_item()
 {
     return all_of({not_(last_item()),
@@ -39,12 +39,12 @@ Condition repeats_item()
 std::vector<Check> subnets()
 {
     return {
-        check("isInSameSubnet",
-              {text("reference", "an address of the subnet"),
-               text("address", "the address that should be in it")},
-              {refuse(-1, because("another_subnet",
-                                  not_equal(slice("address", 0, length(through_last("reference", "."))),
-                                            through_last("reference", "."))))}),
+        check(
+            "isInSameSubnet",
+            {text("reference", "an address of the subnet"), text("address", "the address that is compared")},
+            {refuse(-1, because("another_subnet",
+                                not_equal(slice("address", 0, length(through_last("reference", "."))),
+                                          through_last("reference", "."))))}),
         check("TcmValidateAddressRange",
               {text("startAddress", "the first address of the pool"),
                text("endAddress", "the last address of the pool"),
@@ -68,7 +68,7 @@ std::vector<Check> subnets()
               joined_steps({{refuse_highest_octet(it), refuse(-1, refused_by("TcmValidateIPAddress")),
                              refuse(-1, not_(begins_with({"192.168."})))},
                             judge_last_octet(it)})),
-        check("TcmValidateofferDNS", {text("dnsList", "the DNS servers that are offered")},
+        check("TcmValidateofferDNS", {text("dnsList", "the DNS servers to offer")},
               {refuse(-1, because("too_many_items", above(items(it, ","), 2))),
                for_each(list_of(it, ',', kBlank), {refuse(-1, refused_by("TcmValidateIPAddress"))})}),
     };

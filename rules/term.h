@@ -1,4 +1,4 @@
-// Term: what an expression is where the arguments are not known: a part of one of them, or what is not looked into.
+// Term: an expression of unknown arguments: part of one of them, or unknown.
 #ifndef OSTREL_RULES_TERM_H
 #define OSTREL_RULES_TERM_H
 
@@ -14,17 +14,17 @@ struct Term {
     enum class Kind {
         kUnset,    // not remembered yet
         kUnknown,  // depends on the variables
-        kPart,     // of the variable, by cuts from the first to the last
-        kLength,   // the bytes of such a part, and number more
-        kCount,    // how often the byte occurs in such a part, and number more
-        kText,     // as it stands
-        kNumber,   // as it stands
-        kDays,     // how many days the month has; of has the year and the month
-        kSet,      // as it stands
+        kPart,     // of the variable, after all cuts in order
+        kLength,   // the size of such a part, plus number
+        kCount,    // how often the byte occurs in such a part, plus number
+        kText,     // a literal
+        kNumber,   // a literal
+        kDays,     // the number of days in a month; of has the year and the month
+        kSet,      // a literal
     };
 
     Kind kind = Kind::kUnset;
-    Variables variables = {};  // that it depends on
+    Variables variables = {};  // on which it depends
     std::size_t variable = 0;
     bool is_integer = false;  // the variable is an int
     std::vector<Cut> cuts = {};

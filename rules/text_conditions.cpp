@@ -12,7 +12,7 @@ using Kind = Condition::Kind;
 
 constexpr auto kMissing = std::string_view::npos;
 
-// A search compares so many bytes with the part at once, and at worst at every place.
+// A search compares this many bytes with the part at once, in the worst case at every offset.
 constexpr std::size_t kQuickBytes = 16;
 
 std::string one_byte(std::string_view text, std::size_t offset)
@@ -20,7 +20,7 @@ std::string one_byte(std::string_view text, std::size_t offset)
     return std::string(text.substr(offset, 1));
 }
 
-// Progress is how far a text has a shape.
+// Progress is how far a text matches a shape.
 struct Progress {
     bool is_whole = false;
     bool may_end = false;  // at the offset
@@ -32,7 +32,7 @@ struct Progress {
 Progress match(std::string_view text, const Shape& shape)
 {
     Progress result;
-    Set optional;  // what a group of variable length might go on with
+    Set optional;  // the bytes with which a group of variable length could continue
     for (const Group& group : shape) {
         std::size_t count = 0;
         while (count < group.most && result.offset < text.size() && group.set.contains(text[result.offset])) {

@@ -8,7 +8,7 @@ namespace {
 constexpr std::size_t kOffset = 0;
 constexpr std::size_t kName = 1;
 
-// The zero offset is written with a minus sign. An offset that occurs again has its first name found first.
+// The zero offset has a minus sign. Of several rows with the same offset, the first is found.
 const Table& zones()
 {
     static const Table kZones = {
@@ -94,13 +94,13 @@ const Table& zones()
     return kZones;
 }
 
-// Bytes that the longest offset and the longest name need, with their terminators.
+// Sizes of the longest offset and the longest name, with terminators.
 constexpr int kOffsetRoom = 7;
 constexpr int kNameRoom = 55;
 
 using Lines = std::vector<Line>;
 
-// A part of an offset or of a name is enough to fill in the other, but the two agree only in a whole offset.
+// Part of an offset or name is sufficient to fill in the other, but to agree the offset must be complete.
 Check zone_and_name()
 {
     const Effects no_name =
@@ -157,7 +157,7 @@ Line not_printable()
     return line("Error in TIME_check_ascii_string: <value> is not printable ascii string\n");
 }
 
-// What is empty or not printable is reported, and accepted all the same.
+// A value that is empty or not printable is reported, but accepted.
 Check printable(std::string_view name, std::string_view what, Step refusal)
 {
     const Condition is_refused = refused_by("PARAM_check_printable_ascii_string");

@@ -93,7 +93,7 @@ std::string Speaker::slice(const Expression& expression) const
     return "bytes " + begin + " to " + std::to_string(offset->number + count->number) + " of " + whole;
 }
 
-// as_many says a number of bytes.
+// as_many returns "4 bytes", or "as many bytes as value has".
 std::string Speaker::as_many(const Expression& number) const
 {
     if (number.kind == Kind::kLength) return "as many bytes as " + value(number.of[0]) + " has";

@@ -1,7 +1,7 @@
-// The vocabulary as data: what a description of a check is made of. words.h has the functions that write it.
+// The vocabulary as data: the elements of a description. words.h has the functions that create them.
 //
-// Everything can be walked: a check has steps, a step has a condition and further steps, a condition has
-// expressions. Texts are literals or live as long as the program.
+// A check has steps, a step has a condition and further steps, a condition has expressions. Texts are literals or live
+// as long as the program.
 #ifndef OSTREL_RULES_VOCABULARY_H
 #define OSTREL_RULES_VOCABULARY_H
 
@@ -17,43 +17,52 @@
 
 namespace ostrel::rules {
 
-// Code is what a check answers: a number, or what the other check of the condition answered.
+// Code is what a check returns: a number, or the result of the other check in the condition.
 struct Code {
     Code(int fixed) : number(fixed) {}
     Code(Expression computed) : number(std::move(computed)) {}
 
     Expression number;
-    bool is_its = false;                              // the other check's
-    std::vector<std::pair<int, int>> exchanges = {};  // of its codes: one that is answered as another
+    bool is_its = false;                              // that of the other check
+    std::vector<std::pair<int, int>> exchanges = {};  // of its codes: one is returned as another
+
+    [[nodiscard]] int exchanged(int code) const
+    {
+        for (const auto& [from, to] : exchanges) {
+            if (code == from) return to;
+        }
+        return code;
+    }
 };
 
-// Write is what an argument holds from now on.
+// Write changes an argument.
 struct Write {
     Expression target;  // the name of an argument, or the item
     Expression value;
     bool is_terminated = true;
 };
 
-// List is what a step is repeated for.
+// List is the list over which a step iterates.
 struct List {
     Expression of;
     char separator = '\0';  // none: the keys of a block
-    Set trimmed = {};  // bytes that are taken off both ends of each item, and off the beginning of the rest
-    std::string_view part = {};  // what sentences call an item; empty: it is the item of a list
+    Set trimmed =
+        {};  // bytes that are removed from both ends of each item, and from the beginning of the rest
+    std::string_view part = {};  // the name of an item in sentences; empty: it is the item of a list
 };
 
 struct Step {
     enum class Kind {
-        kRefuse,        // where the condition holds: prints and answers the code, with the condition's reason
-        kAccept,        // where the condition holds: prints, writes and answers the code, which is no refusal
-        kPrint,         // where the condition holds: prints and goes on
-        kSkip,          // where the condition holds: prints, writes and goes on with the next item
-        kWrite,         // writes and goes on
-        kRemember,      // keeps a text or a number under a name
-        kWhen,          // steps where the condition holds, otherwise the other steps
-        kForEach,       // steps for each item
-        kReads,         // NULL is a memory fault from here on; with a name, a failed assertion that prints it
-        kNeverReturns,  // where the condition holds the call does not come back
+        kRefuse,    // if the condition holds: prints and returns the code, with the reason of the condition
+        kAccept,    // if the condition holds: prints, writes and returns the code, which is not a refusal
+        kPrint,     // if the condition holds: prints and continues
+        kSkip,      // if the condition holds: prints, writes and continues with the next item
+        kWrite,     // writes and continues
+        kRemember,  // stores a text or a number under a name
+        kWhen,      // steps if the condition holds, otherwise the other steps
+        kForEach,   // steps for each item
+        kReads,     // from here on NULL is a memory fault or, with a name, a failed assertion that prints it
+        kNeverReturns,  // if the condition holds, the call does not return
     };
 
     Kind kind;
@@ -67,8 +76,8 @@ struct Step {
     std::vector<Step> steps = {};
     std::vector<Step> otherwise = {};
 
-    std::size_t number = 0;  // in its check: set when that is registered
-    std::size_t slot = 0;    // of what is remembered
+    std::size_t number = 0;  // in its check: set at registration
+    std::size_t slot = 0;    // of a remembered value
 };
 
 struct Argument {
@@ -83,29 +92,31 @@ struct Argument {
 
     std::string_view name;
     Kind kind = Kind::kText;
-    std::string_view what = {};           // in the user's words
-    std::string_view unit = {};           // of the number that it is
+    std::string_view what = {};           // for the user
+    std::string_view unit = {};           // of a number
     bool is_secret = false;               // not to be shown or logged
     bool is_output = false;               // a buffer of which nothing is read
     std::string_view asserted = {};       // the condition that a failed assertion prints; empty: none
-    std::optional<Expression> room = {};  // bytes that a buffer must have; none: those of the text in it
+    std::optional<Expression> room = {};  // size that a buffer must have; none: that of its text
     std::size_t blocks = 1;
     std::size_t block_size = 0;  // bytes from one text to the next
 
-    // is_only_written tells that a caller need not give a value.
+    [[nodiscard]] bool is_number() const { return kind == Kind::kInteger || kind == Kind::kUnsigned; }
+
+    // is_only_written is true for an argument that a caller need not provide.
     [[nodiscard]] bool is_only_written() const { return is_output || kind == Kind::kIntegerOut; }
 };
 
-// Check describes one exported function. After the last step it answers 0.
+// Check describes one exported function. After the last step it returns 0.
 struct Check {
     std::string_view name;
     std::vector<Argument> arguments;
     std::vector<Step> steps;
-    bool is_verdict = true;  // or else what it answers is a number and no result code
+    bool is_verdict = true;  // otherwise it returns a number instead of a result code
 
-    // Set when it is registered.
+    // Set at registration.
     std::string_view module = {};
-    std::size_t slots = 0;  // arguments, and what is remembered
+    std::size_t slots = 0;  // arguments and remembered values
     std::size_t step_count = 0;
     std::size_t condition_count = 0;
     std::size_t number = 0;  // among all checks

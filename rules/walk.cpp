@@ -64,7 +64,7 @@ void add(std::vector<T>& all, T one)
     if (std::ranges::find(all, one) == all.end()) all.push_back(std::move(one));
 }
 
-// Keywords looks for the words of one argument. A slot that is not known to be the argument is another text.
+// Keywords finds the words of one argument. A slot that is not known to be the argument is another text.
 class Keywords {
  public:
     Keywords(const Check& check, std::size_t argument, const Build& build)
@@ -74,13 +74,13 @@ class Keywords {
         walk(check.steps);
     }
 
-    std::vector<std::string> words;        // that a step judges
-    std::vector<std::string> other_words;  // of conditions that distinguish cases
+    std::vector<std::string> words;        // in judging steps
+    std::vector<std::string> other_words;  // in conditions that distinguish cases
 
  private:
     using Kind = Condition::Kind;
 
-    // is_model tells whether the product model is the one that a condition asks for.
+    // is_model returns true for a condition that the product model satisfies.
     [[nodiscard]] std::optional<bool> is_model(const Condition& condition) const
     {
         const bool asks =
@@ -110,7 +110,7 @@ class Keywords {
         }
     }
 
-    // look takes what is allowed where the condition has to hold, or has to fail; or either, to distinguish cases.
+    // look adds what is allowed if the condition must hold, or must fail; or both, if it distinguishes cases.
     void look(const Condition& condition, std::optional<bool> holds)
     {
         for (const Condition& part : condition.parts) look(part, holds);

@@ -1,4 +1,4 @@
-// Walk: what can be found in a description by looking at its steps.
+// Walk: properties of a description that follow from its steps.
 #ifndef OSTREL_RULES_WALK_H
 #define OSTREL_RULES_WALK_H
 
@@ -10,23 +10,23 @@
 
 namespace ostrel::rules {
 
-// prints tells whether a check, or one that it uses, can print.
+// prints returns true if a check, or one that it calls, can print.
 bool prints(const Check& check);
 
-// may_not_return tells whether there are calls of a check that do not come back.
+// may_not_return returns true if some calls of a check do not return.
 bool may_not_return(const Check& check);
 
-// asks_driver tells whether a check asks the wireless driver for its channels.
+// asks_driver returns true if a check asks the wireless driver for its channels.
 bool asks_driver(const Check& check);
 
-// tables lists the tables that the conditions of a check look into.
+// tables lists the tables in the conditions of a check.
 std::vector<const Table*> tables(const Check& check);
 
-// is_written tells whether an argument is one that a function may write to.
+// is_written returns true for an argument that a function may write to.
 bool is_written(const Argument& argument);
 
-// keywords lists the words and numbers that an argument, or an item of it, may be, in the order of the steps; where no
-// step judges them, those by which cases are distinguished. Other arguments may decide which of them are allowed.
+// keywords lists the words and numbers that an argument, or an item of it, may be, in the order of the steps; if no
+// step judges them, those that distinguish cases. Which of them are allowed may depend on other arguments.
 std::vector<std::string> keywords(const Check& check, std::size_t argument, const Build& build);
 
 }  // namespace ostrel::rules

@@ -1,4 +1,4 @@
-// The words that descriptions are written with. README.md has them in a table.
+// The functions with which descriptions are written. README.md lists them.
 #ifndef OSTREL_RULES_WORDS_H
 #define OSTREL_RULES_WORDS_H
 
@@ -16,7 +16,7 @@ namespace ostrel::rules {
 using Words = std::vector<std::string_view>;
 using Numbers = std::vector<long long>;
 
-// it is what is judged where nothing is named: the item of a list, or else the first argument.
+// it is the default subject: the item of a list, or else the first argument.
 inline constexpr char it[] = "";
 
 // Texts and numbers.
@@ -36,16 +36,16 @@ Expression through_last(Expression text, std::string_view separator);
 Expression slice(Expression text, Expression offset);
 Expression slice(Expression text, Expression offset, Expression count);
 Expression joined(std::initializer_list<Expression> texts);
-Expression called(std::string_view part, Expression piece);  // the subject of what is said of the piece
+Expression called(std::string_view part, Expression piece);  // the name of the piece in sentences
 Expression length(Expression text = it);
 Expression count(Expression text, Expression byte);
-Expression items(Expression text, std::string_view separator);  // how many a list has
+Expression items(Expression text, std::string_view separator);  // their number
 Expression sum(std::initializer_list<Expression> numbers);
 Expression larger(std::initializer_list<Expression> numbers);
 Expression days(Expression year, Expression month);  // of a month; 0 for none
-Expression cell(int column);                         // of the row that was found last
+Expression cell(int column);                         // of the last row that was found
 
-// Conditions. Those without a text judge it.
+// Conditions. Without a text they judge it.
 Condition always();
 Condition null(Expression argument);
 Condition empty(Expression text = it);
@@ -122,7 +122,7 @@ inline Line line(std::string_view text) { return {text}; }  // and all streams a
 inline Line unflushed(std::string_view text) { return {text, Line::Stream::kOut, false}; }
 inline Line to_stderr(std::string_view text) { return {text, Line::Stream::kErr, false}; }
 
-// Effects is what a step prints and writes besides, in order.
+// Effects is what a step prints and writes, in order.
 struct Effects {
     Effects() = default;
     Effects(Line one) : lines{std::move(one)} {}
@@ -137,8 +137,8 @@ struct Effects {
 };
 
 // Steps.
-Code its_code();                                                      // what the other check answered
-Code its_code(std::initializer_list<std::pair<int, int>> exchanges);  // but one as another
+Code its_code();                                                      // the result of the other check
+Code its_code(std::initializer_list<std::pair<int, int>> exchanges);  // with some codes exchanged
 Step refuse(Code code, Condition condition, Effects effects = {});
 Step accept(Condition condition = always(), Effects effects = {});
 Step answer(Code code, Condition condition = always(), Effects effects = {});
@@ -149,20 +149,20 @@ Step remember(std::string_view name, Expression value);
 Step when(Condition condition, std::vector<Step> steps, std::vector<Step> otherwise = {});
 Step for_each(List list, std::vector<Step> steps);
 Step reads(Expression argument);
-Step asserts(Expression argument, std::string_view condition);  // what is printed for NULL
+Step asserts(Expression argument, std::string_view condition);  // which is printed for NULL
 Step never_returns(Condition condition);
 List list_of(Expression text, char separator, const Set& trimmed = {}, std::string_view called = {});
 List keys_of(Expression blocks);
 
-// steps joins several lists of steps that checks share.
+// joined_steps concatenates lists of steps that checks share.
 std::vector<Step> joined_steps(std::initializer_list<std::vector<Step>> lists);
 
-// Arguments. What is said of one is added to it: text("value", "a password").secret().
+// Arguments. Properties are added with methods: text("value", "a password").secret().
 struct ArgumentWords : Argument {
     ArgumentWords&& in(std::string_view text) &&;  // its unit
     ArgumentWords&& secret() &&;
     ArgumentWords&& asserts(std::string_view text) &&;  // the condition that is printed for NULL
-    ArgumentWords&& needs(Expression bytes) &&;         // the room of a buffer
+    ArgumentWords&& needs(Expression bytes) &&;         // the size of a buffer
     ArgumentWords&& output() &&;                        // nothing of the buffer is read
 };
 ArgumentWords text(std::string_view name, std::string_view what);

@@ -51,8 +51,7 @@ std::vector<Check> dhcp_service()
              refuse(402, refused_by("TcmValidateAddressRange", {"startAddress", "endAddress", "lanAddress"}),
                     line("Error in LAN_check_dhcp_addr_range: Error dhcp addr range: start "
                          "ip<startAddress>, end ip:<endAddress>\n\n"))}),
-        check("LAN_check_dns_servers",
-              {text("value_p", "the DNS servers that are offered").asserts(kAssertion)},
+        check("LAN_check_dns_servers", {text("value_p", "the DNS servers to offer").asserts(kAssertion)},
               {refuse(402, refused_by("TcmValidateofferDNS"),
                       line("Error in LAN_check_dns_servers: Error dns server:<value_p>\n\n"))}),
         check("LAN_check_dhcp_reserved_addr",
@@ -64,8 +63,8 @@ std::vector<Check> dhcp_service()
                       refused_by("TcmValidateReservedAddress", {"reservedList", "lanAddress"}),
                       line("Error in LAN_check_dhcp_reserved_addr: Error dhcp reserved addr: "
                            "<reservedList>\n\n"))}),
-        check("LAN_check_dhcp_lease_time",
-              {text("value_p", "how long a lease lasts; never looked at").asserts(kAssertion)}, {}),
+        check("LAN_check_dhcp_lease_time", {text("value_p", "the lease time; ignored").asserts(kAssertion)},
+              {}),
         check("LAN_check_domain_name", {text("value_p", "the name of the LAN's domain").asserts(kAssertion)},
               {refuse(its_code(), refused_by("TcmValidateRouterName"),
                       line("Error in LAN_check_domain_name: Error domain name:<value_p>\n\n"))}),
@@ -76,7 +75,7 @@ std::vector<Check> wan_subnet()
 {
     return {
         check("LAN_check_use_allocated_wan",
-              {text("value_p", "how a subnet that the WAN allocates is used").asserts(kAssertion)},
+              {text("value_p", "how a subnet allocated by the WAN is used").asserts(kAssertion)},
               {refuse(-1, one_of({"Normal", "UseAllocatedSubnet", "Passthrough"}),
                       line("Error in LAN_check_use_allocated_wan: Error use allocated wan:<value_p>\n\n"))}),
         check("LAN_check_associated_connection",
@@ -91,11 +90,11 @@ std::vector<Check> wan_subnet()
                refuse(-1, above(65535),
                       line("Error in LAN_check_passthrough_lease: Error passthrough lease:<value_p>\n\n"))}),
         check("LAN_check_passthrough_MAC_address",
-              {text("value", "the MAC address of a station that is passed through; never looked at")}, {}),
+              {text("value", "the MAC address of a station that is passed through; ignored")}, {}),
     };
 }
 
-// The first byte may be "_" as far as the prefix goes, but the set does not have it.
+// The prefix allows "_" as the first byte, but the set does not.
 Check device_name()
 {
     const Effects wrong_name = line("Error in LAN_check_cis_dev_name: Error dev name:<value_p>\n\n");

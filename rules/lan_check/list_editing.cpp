@@ -5,8 +5,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// An empty list takes whatever is added, of any length and without a terminator. In another one a comma and a
-// terminator are written as well, so that 159 bytes need 161.
+// To an empty list a text of any length is added, without a terminator. In another list a comma and a terminator are
+// also written, so 159 bytes need 161.
 Check add_allowed_address()
 {
     const Line existed = line(
@@ -14,13 +14,13 @@ Check add_allowed_address()
         "<allowedList>\n\n");
     return check(
         "LAN_check_add_allowedMACAddress",
-        {text("macAddress", "the MAC addresses that are added"),
-         buffer("allowedList", "the allowed MAC addresses; the bytes after an empty list are zeros")
+        {text("macAddress", "the MAC addresses to add"),
+         buffer("allowedList", "the allowed MAC addresses; if empty, in a buffer of zeros")
              .needs(larger({161, sum({length("macAddress"), 1})}))},
         {refuse(-1, null("macAddress")), refuse(-1, null("allowedList")),
          accept(empty("allowedList"), Write{"allowedList", "macAddress", false}),
          refuse(-1, empty("macAddress"), existed), refuse(-1, contains("allowedList", "macAddress"), existed),
-         // A list of one byte leaves room for 158; the lengths named are all that can be added.
+         // A list of one byte leaves room for 158; these are all lengths that can be added.
          refuse(-1,
                 all_of({not_(multiple(sum({length("macAddress"), 1}), 18)),
                         length_not({17, 35, 53, 71, 89, 107, 125, 143})}),
@@ -38,7 +38,7 @@ Step refuse_repeated(const char* added, const char* existing)
     return refuse(701, because("already_listed", equal(added, existing)));
 }
 
-// Of two servers one may be empty, and then repeats another that is.
+// One of two servers may be empty; it repeats another empty one.
 std::vector<Step> refuse_repeated_of_two(const char* added)
 {
     return {refuse(701, all_of({any_of({equal(added, "first"), equal(added, "second")}),
@@ -56,8 +56,7 @@ Check add_dns_servers()
     };
     return check(
         "LAN_check_add_dns_servers",
-        {text("newServers", "the DNS servers that are added"),
-         text("existingServers", "the DNS servers so far")},
+        {text("newServers", "the DNS servers to add"), text("existingServers", "the current DNS servers")},
         {accept(null("existingServers")), accept(empty("existingServers")),
          when(has_two("existingServers"),
               joined_steps({split("existingServers", "first", "second"),
@@ -76,7 +75,7 @@ Check add_dns_servers()
               {refuse_repeated("newServers", "existingServers")})});
 }
 
-// The comparison with the first server is inverted: what is as long may be deleted, unless it is that server.
+// The comparison with the first server is inverted: a text of the same length may be deleted unless it is that server.
 Check delete_dns_server()
 {
     const Effects not_found = line(
@@ -84,8 +83,8 @@ Check delete_dns_server()
         "servers:<existingServers>\n\n");
     return check(
         "LAN_check_delete_dns_server",
-        {text("serverAddress", "the DNS server that is deleted"),
-         text("existingServers", "the DNS servers so far")},
+        {text("serverAddress", "the DNS server to delete"),
+         text("existingServers", "the current DNS servers")},
         {refuse(402, refused_by("TcmValidateIPAddress"),
                 line("Error in LAN_check_delete_dns_server: Not a valid IP addr: <serverAddress>\n\n")),
          remember("first", before_first("existingServers", ",")),

@@ -1,4 +1,4 @@
-// Automaton: a language as states, from which its texts can be counted, measured and compared with others.
+// Automaton: a language as states, with which its texts can be counted, measured and compared.
 #ifndef OSTREL_RULES_LANGUAGE_AUTOMATON_H
 #define OSTREL_RULES_LANGUAGE_AUTOMATON_H
 
@@ -21,29 +21,29 @@ struct Automaton {
         std::vector<Arrow> arrows = {};  // one for each byte
     };
 
-    std::vector<State> states;  // the first one is where a text begins
+    std::vector<State> states;  // the first is the start
 };
 
 // Summary is what all texts of a language have in common.
 struct Summary {
     bool is_empty = true;
     std::size_t shortest = 0;
-    std::optional<std::size_t> longest;             // none: there is no end
+    std::optional<std::size_t> longest;             // none: unlimited
     Set bytes = {};                                 // that occur
-    std::vector<long long> lengths = {};            // where there is a longest
-    std::optional<std::vector<std::string>> texts;  // all, where they are few
+    std::vector<long long> lengths = {};            // if there is a longest
+    std::optional<std::vector<std::string>> texts;  // all, if they are few
 };
 
-// kMostStates bounds what is looked at. Of a language that needs more nothing is said.
+// kMostStates limits the size. A language that needs more states is left unknown.
 inline constexpr std::size_t kMostStates = 20000;
 
 std::optional<Automaton> automaton_of(Languages& languages, Language one);
 std::optional<Summary> summary_of(Languages& languages, Language one);
 
-// is_empty tells whether there is certainly no text in it.
+// is_empty returns true if the language certainly has no text.
 bool is_empty(Languages& languages, Language one);
 
-// includes tells whether every text of the other one is certainly in it.
+// includes returns true if every text of the other is certainly in it.
 bool includes(Languages& languages, Language one, Language other);
 
 }  // namespace ostrel::rules

@@ -1,4 +1,4 @@
-// Intervals: a set of whole numbers.
+// Intervals: a set of integers.
 #ifndef OSTREL_RULES_LANGUAGE_INTERVALS_H
 #define OSTREL_RULES_LANGUAGE_INTERVALS_H
 
@@ -17,7 +17,7 @@ struct Interval {
 
 class Intervals {
  public:
-    // Ends that stand for no limit.
+    // Ends that mean no limit.
     static constexpr long long kLowest = std::numeric_limits<long long>::min();
     static constexpr long long kHighest = std::numeric_limits<long long>::max();
 
@@ -30,13 +30,13 @@ class Intervals {
     Intervals operator~() const;
     bool operator==(const Intervals&) const = default;
 
-    // moved gives each number with that one added.
+    // moved adds a number to each.
     [[nodiscard]] Intervals moved(long long by) const;
 
     [[nodiscard]] bool contains(long long number) const;
     [[nodiscard]] bool empty() const { return parts_.empty(); }
 
-    // parts are sorted, and there are numbers between any two.
+    // parts are sorted, with a gap between any two.
     [[nodiscard]] const std::vector<Interval>& parts() const { return parts_; }
     [[nodiscard]] long long low() const { return parts_.front().low; }
     [[nodiscard]] long long high() const { return parts_.back().high; }

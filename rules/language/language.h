@@ -1,7 +1,7 @@
-// Languages: sets of texts, made of bytes, sequences, choices and repetitions, of which all, any or none must hold.
+// Languages: sets of texts, built of bytes, sequences, choices, repetitions, intersections and complements.
 //
-// Each is kept once, so that two that are made alike are one. What was made of a condition stays known as that, a
-// leaf: a length, a number, keywords. A number is read as atoi reads it, whatever it needs to be held.
+// Equal languages are stored once. A language that comes from a condition is kept as a leaf: a length, a number,
+// keywords. Numbers are read as by atoi, but have no limit.
 #ifndef OSTREL_RULES_LANGUAGE_LANGUAGE_H
 #define OSTREL_RULES_LANGUAGE_LANGUAGE_H
 
@@ -27,10 +27,10 @@ struct Language {
     bool operator==(const Language&) const = default;
 };
 
-// kEveryByte holds the bytes that a text can have.
+// kEveryByte has the bytes that a text can have.
 inline constexpr Set kEveryByte = Set::range(1, 255);
 
-// Cut takes a part of a text, as the expression of that name does.
+// Cut returns part of a text, like the expression of that name.
 struct Cut {
     Expression::Kind kind;
     std::string separator;
@@ -40,7 +40,7 @@ struct Cut {
     bool operator==(const Cut&) const = default;
 };
 
-// Run is so many bytes of one set, as a group of a shape.
+// Run is a number of bytes of one set, like a group of a shape.
 struct Run {
     Set characters;
     std::size_t least = 1;
@@ -54,12 +54,12 @@ struct Leaf {
     enum class Kind {
         kLength,  // the number of bytes is one of numbers
         kNumber,  // the number that atoi reads is one of numbers
-        kCount,   // the byte occurs so often
+        kCount,   // the byte occurs that often
         kWords,   // it is one of words
         kPrefix,  // it begins with one of words
         kShape,   // it has one of shapes
-        kWithin,  // its part is of the inner language
-        kItems,   // each item is of the inner language
+        kWithin,  // its part is in the inner language
+        kItems,   // each item is in the inner language
     };
 
     Kind kind;
@@ -82,8 +82,8 @@ struct Node {
         kEither,
         kBoth,
         kNot,
-        kRepeated,  // at least and at most so often
-        kLeaf,      // the same as its only part
+        kRepeated,  // from least to most times
+        kLeaf,      // equal to its only part
     };
 
     Kind kind;
@@ -92,7 +92,7 @@ struct Node {
     std::size_t least = 0;
     std::size_t most = 0;
     std::size_t leaf = 0;
-    bool takes_empty = false;  // the empty text is of it
+    bool takes_empty = false;  // the empty text is in it
 };
 
 class Languages {
@@ -107,8 +107,8 @@ class Languages {
     Language byte(const Set& set);
     Language text(std::string_view text, bool ignores_case = false);
     Language joined(Language first, Language second);
-    // Where parts are made by calls, this one is for them: a list is made in its order by every compiler, and so what is
-    // derived does not depend on who compiled.
+    // For parts that are calls: a list is evaluated in order by every compiler, so results do not depend on the
+    // compiler.
     Language joined(const std::vector<Language>& parts);
     Language either(const std::vector<Language>& parts);
     Language both(const std::vector<Language>& parts);
@@ -122,19 +122,19 @@ class Languages {
     Language with_count(char byte, const Intervals& times);
     Language words(const std::vector<std::string>& words, bool ignores_case);
     Language with_prefix(const std::vector<std::string>& words, bool ignores_case);
-    // Of shapes that a match from left to right would judge otherwise there is none.
+    // Fails for shapes for which matching from left to right gives another result.
     std::optional<Language> of_shape(const std::vector<Runs>& shapes);
-    // Of a separator that can overlap with itself there is none.
+    // Fails for a separator that can overlap with itself.
     std::optional<Language> within(const Cut& cut, Language inner);
     Language items(char separator, const Set& trimmed, Language inner);
 
-    // leap_years holds texts of which atoi reads such a year.
+    // leap_years has the texts that atoi reads as a leap year.
     Language leap_years();
 
-    // decimals holds the numbers from 0 on as they are written without leading zeros.
+    // decimals has the numbers from 0, without leading zeros.
     Language decimals(long long low, long long high);
 
-    // after gives what may follow that byte.
+    // after returns what may follow that byte.
     Language after(Language one, char byte);
     [[nodiscard]] bool contains(Language one, std::string_view text);
 

@@ -1,4 +1,4 @@
-// What comes together in a choice, and in what must all hold.
+// Simplification of the parts of choices and intersections.
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@ namespace {
 
 using Kind = Node::Kind;
 
-// are_alike tells whether two leaves can be one.
+// are_alike returns true if two leaves can be merged.
 bool are_alike(const Leaf& a, const Leaf& b, Kind kind)
 {
     if (a.kind != b.kind) return false;
@@ -76,7 +76,7 @@ void Languages::merge_leaves(Kind kind, std::vector<Language>& parts)
     if (kind == Kind::kBoth) choose_words(parts);
 }
 
-// choose_words keeps of keywords those of which all the rest is true.
+// choose_words keeps the keywords that satisfy all other parts.
 void Languages::choose_words(std::vector<Language>& parts)
 {
     const auto is_choice_of_words = [&](Language part) {
@@ -98,7 +98,7 @@ bool Languages::is_byte_run(const Node& node) const
     return node.kind == Kind::kRepeated && nodes_[node.of[0].id].kind == Kind::kByte;
 }
 
-// merge_sets makes one byte of the bytes in a choice, and one run of the runs of bytes that must all hold.
+// merge_sets merges single bytes in a choice, and runs of bytes in an intersection.
 void Languages::merge_sets(Kind kind, std::vector<Language>& parts)
 {
     const bool is_choice = kind == Kind::kEither;
@@ -128,8 +128,8 @@ void Languages::merge_sets(Kind kind, std::vector<Language>& parts)
     flatten(kind, parts);
 }
 
-// drop_opposites decides where a part stands beside its opposite, and takes out of a part what another one of the
-// choice, or of what must hold, has decided. It knows opposites that have been asked for.
+// drop_opposites decides a list that contains a part and its opposite, and removes from a part what another part
+// decides. It knows only opposites that have been created.
 void Languages::drop_opposites(Kind kind, std::vector<Language>& parts)
 {
     const Kind inside = kind == Kind::kEither ? Kind::kBoth : Kind::kEither;

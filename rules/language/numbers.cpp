@@ -6,11 +6,11 @@ namespace ostrel::rules {
 
 namespace {
 
-const Set kWhite = Set::range('\t', '\r') | kBlank;  // what atoi passes over
+const Set kWhite = Set::range('\t', '\r') | kBlank;  // what atoi skips
 
 }  // namespace
 
-// direct_number is for numbers without 0: a sign and digits have to be there.
+// direct_number is for numbers other than 0, which need digits.
 Language Languages::direct_number(const Intervals& numbers)
 {
     const Language zeros = repeated(Set("0"));
@@ -46,7 +46,7 @@ Language Languages::leap_years()
     const Language digits = repeated(kDigits);
     const Set even("02468");
     const Language zero = text("0");
-    // The last two digits of a number that 4 divides, other than 00.
+    // The last two digits of a multiple of 4, other than 00.
     const Language last =
         either({joined({byte(even - Set("0")), zero}), joined({byte(even), byte(Set("48"))}),
                 joined({byte(kDigits - even), byte(Set("26"))})});
@@ -58,7 +58,7 @@ Language Languages::leap_years()
     return either({of_number({0, 0}), joined({repeated(kWhite), sign, either({divisible, century}), rest})});
 }
 
-// decimals_of_length is for limits that are written with as many digits.
+// decimals_of_length is for limits with the same number of digits.
 Language Languages::decimals_of_length(std::string low, const std::string& high)
 {
     if (low.empty()) return no_byte_;

@@ -9,10 +9,10 @@ namespace {
 using Kind = Node::Kind;
 using Pattern = std::optional<std::string>;
 
-constexpr std::string_view kEnd = "(?![\\s\\S])";  // "$" would let a line end pass
+constexpr std::string_view kEnd = "(?![\\s\\S])";  // "$" would accept a line end
 constexpr std::string_view kNever = "(?!)";
 
-// Context is where a part of a text stands: the bytes that it can have, and what follows it.
+// Context is that of a part of a text: the bytes that it can have, and what follows it.
 struct Context {
     Set bytes;
     std::string end;
@@ -60,7 +60,7 @@ class Writer {
         return leaf.kind == Leaf::Kind::kWithin && (leaf.cut.separator.size() == 1 || is_after);
     }
 
-    // same gives what a leaf stands for, where it is not written in a way of its own.
+    // same returns the language of a leaf without a special notation.
     Language same(Language one)
     {
         const Leaf* leaf = languages_.leaf(one);
@@ -68,7 +68,7 @@ class Writer {
         return is_own ? one : languages_.node(one).of[0];
     }
 
-    // plain matches without looking at what follows.
+    // plain matches without lookahead.
     Pattern plain(Language one, const Set& bytes)
     {
         const Node& node = languages_.node(one);
@@ -143,7 +143,7 @@ class Writer {
         return result.empty() ? std::string(kNever) : "(?:" + result + ")";
     }
 
-    // run_of gives the bytes of a part that says no more than which bytes there are.
+    // run_of returns the bytes of a part that only restricts bytes.
     std::optional<Set> run_of(Language part)
     {
         const Node& node = languages_.node(part);
@@ -153,8 +153,8 @@ class Writer {
         return one.kind == Kind::kByte ? std::optional(one.set) : std::nullopt;
     }
 
-    // all_of looks at what follows for each part but one, which it takes. Where bytes are ruled out by one of them, the
-    // others need not say anything of them.
+    // all_of matches one part and uses lookahead for the others. Bytes that one part excludes can be ignored in the
+    // others.
     Pattern all_of(const std::vector<Language>& parts, const Context& context)
     {
         Context narrow = context;
@@ -220,7 +220,7 @@ class Writer {
     Pattern list(const Leaf& leaf, const Context& context)
     {
         const Set mark(std::string_view(&leaf.byte, 1));
-        // Where an item has bytes that are taken off its ends, its end cannot be seen.
+        // The end of an item is ambiguous if it may contain trimmed bytes.
         const Language inside = languages_.repeated(kEveryByte - leaf.trimmed);
         if (!leaf.trimmed.empty() && !includes(languages_, inside, leaf.inner)) return std::nullopt;
         const std::string trimming = many(leaf.trimmed);

@@ -9,14 +9,14 @@
 
 namespace ostrel::rules {
 
-// pattern_of gives an expression that matches the texts of a language, each byte of which is the character of the
-// same number. It compiles with and without the flag u. Some languages have none.
+// pattern_of returns an expression that matches the texts of a language, in which each byte is the character of the
+// same number. It is valid with and without the flag u. Some languages have none.
 std::optional<std::string> pattern_of(Languages& languages, Language one);
 
-// class_of gives an expression for one byte of the set.
+// class_of returns an expression for one byte of the set.
 std::string class_of(const Set& set);
 
-// times_of gives an expression for that one so many times.
+// times_of returns the expression repeated.
 std::string times_of(const std::string& one, std::size_t least, std::size_t most);
 
 }  // namespace ostrel::rules

@@ -1,4 +1,4 @@
-// What patterns are made of: bytes, sets of them, and repetitions.
+// Elements of patterns: bytes, sets, and repetitions.
 #include "rules/language/language.h"
 #include "rules/language/pattern.h"
 
@@ -12,7 +12,8 @@ std::string escaped(char byte)
     constexpr std::string_view kMeaning = "^$\\.*+?()[]{}|";
     const auto code = static_cast<unsigned char>(byte);
     if (byte < ' ' || byte > '~') return {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
-    if (byte == '-') return "\\x2D";  // outside of a class the flag u forbids to escape it
+    if (byte == '-')
+        return "\\x2D";  // with the flag u, "-" must not be escaped with a backslash outside a class
     const bool has_meaning = kMeaning.find(byte) != std::string_view::npos;
     return has_meaning ? std::string("\\") + byte : std::string(1, byte);
 }

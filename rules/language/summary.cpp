@@ -1,4 +1,4 @@
-// What all texts of a language have in common.
+// Common properties of all texts of a language.
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kMostTexts = 40;
 
-// Measure looks at an automaton from the states of which texts are accepted.
+// Measure examines the states of an automaton from which a text is accepted.
 class Measure {
  public:
     explicit Measure(const Automaton& automaton) : automaton_(automaton), lives_(find_living()) {}
@@ -65,7 +65,7 @@ class Measure {
         return result;
     }
 
-    // has_circle takes away living states that no other leads to, again and again.
+    // has_circle repeatedly removes states that no other leads to.
     bool has_circle()
     {
         std::vector<std::size_t> arrows(lives_.size());
@@ -84,7 +84,7 @@ class Measure {
         return order_.size() != left;
     }
 
-    // walk_lengths goes one byte further in all states at a time.
+    // walk_lengths advances all states by one byte at a time.
     void walk_lengths(Summary& result, bool is_finite)
     {
         std::vector<std::size_t> here = {0};
@@ -111,7 +111,7 @@ class Measure {
         }
     }
 
-    // count_texts needs the order that has_circle found.
+    // count_texts uses the order found by has_circle.
     std::size_t count_texts()
     {
         std::vector<std::size_t> counts(lives_.size());

@@ -5,13 +5,13 @@ namespace ostrel::rules {
 
 namespace {
 
-// What is malformed but above 0 prints the first line and answers for that; what is not above 0 answers for the
-// number, whether it is malformed or not.
+// A malformed value above 0 prints the first line and returns its code; a value that is not above 0 returns the code
+// for the number, whether it is malformed or not.
 Check guests()
 {
     const Condition is_malformed = refused_by("ValidateString", {1, 2, kDigits, "value"});
     return check(
-        "GUESTACCESS_check_max_allowed_number", {text("value", "how many guests are allowed")},
+        "GUESTACCESS_check_max_allowed_number", {text("value", "the number of guests that are allowed")},
         {print(line("Error in GUESTACCESS_check_max_allowed_number: Error max allowed number:<value>\n\n"),
                is_malformed),
          refuse(402, below(1),
@@ -25,7 +25,7 @@ std::vector<Check> mgtserver_check_guest_access()
 {
     return {
         guests(),
-        check("GUESTACCESS_check_password", {text("value", "the password of the guests").secret()},
+        check("GUESTACCESS_check_password", {text("value", "the guest password").secret()},
               {refuse(its_code(), refused_by("ValidateString", {4, 32, kAlnum, "value"}),
                       line("Error in GUESTACCESS_check_password: Error max allowed number:<value>\n\n"))}),
     };

@@ -40,7 +40,7 @@ std::vector<Check> mgtserver_check_management_server()
                       line("Error in MGTSERVER_check_periodic_inform_time: Error periodic inform "
                            "time:<value_p>\n\n"))}),
         check("MGTSERVER_check_periodic_inform_interval",
-              {text("value_p", "the time between two reports").in("seconds").asserts(kAssertion)},
+              {text("value_p", "the interval between two reports").in("seconds").asserts(kAssertion)},
               {refuse(402, empty(),
                       line("Error in MGTSERVER_check_periodic_inform_interval: Invalite periodic inform "
                            "interval\n\n")),

@@ -5,7 +5,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// The pass phrase is never judged: it is not looked at or not accepted.
+// The pass phrase is never judged: it is ignored, or not accepted.
 Check key_or_pass_phrase()
 {
     const Line of_key = line("Error in WLAN_check_preshared_key2: Error PreSharedKey:<psk>\n\n");
@@ -13,7 +13,7 @@ Check key_or_pass_phrase()
         line("Error in WLAN_check_preshared_key2: Error KeyPassphrase:<passphrase>\n\n");
     return check("WLAN_check_preshared_key2",
                  {text("psk", "a pre-shared key").secret(),
-                  text("passphrase", "a pass phrase, given besides the key").secret()},
+                  text("passphrase", "a pass phrase, in addition to the key").secret()},
                  {when(empty("psk"),
                        {refuse(801, because("pass_phrase_alone", not_empty("passphrase")), of_pass_phrase),
                         refuse(402, length_not("psk", {64}), std::vector<Line>{of_key, of_pass_phrase})}),
@@ -49,7 +49,7 @@ Check wep_keys()
          refuse(402, because("no_key_left", equal("common", 0)))});
 }
 
-// A key is 64 hexadecimal digits or a pass phrase; of other lengths it is neither.
+// A key is 64 hexadecimal digits or a pass phrase; other lengths are neither.
 std::vector<Step> pass_phrase_or_key()
 {
     const Line refused = to_stderr("The code : -1\n");
@@ -58,7 +58,7 @@ std::vector<Step> pass_phrase_or_key()
                   refuse(-1, outside("key", kPrintable), refused)})};
 }
 
-// What is printable passes, and so does the empty key, which is hexadecimal.
+// Printable characters pass, and so does the empty key.
 std::vector<Step> wep_key()
 {
     const auto of_length = [](const char* encryption, long long bytes) {

@@ -12,7 +12,7 @@ Step refuse_unknown_radio()
     return refuse(-1, ignoring_case(none_of("radio", {"RADIO_2.4GHz", "RADIO_5GHz"})));
 }
 
-// by_radio takes the steps for each of the two radios.
+// by_radio selects the steps of the radio.
 Step by_radio(std::vector<Step> on_2_4_ghz, std::vector<Step> on_5_ghz)
 {
     return when(ignoring_case(one_of("radio", {"RADIO_2.4GHz"})), std::move(on_2_4_ghz), std::move(on_5_ghz));
@@ -25,16 +25,17 @@ Check radio_id()
                        {refuse(-1, ignoring_case(none_of({"RADIO_2.4GHz"})))})});
 }
 
-// On 2.4 GHz only "0" itself is the automatic channel.
+// On 2.4 GHz only "0" itself selects the channel automatically.
 Check channel()
 {
-    return check("WLAN_check_channel", {text("channel", "a channel; \"0\" is the automatic one"), radio()},
+    return check("WLAN_check_channel",
+                 {text("channel", "a channel, or \"0\" for automatic selection"), radio()},
                  {accept(one_of("channel", {"0"})), refuse_unknown_radio(),
                   by_radio({refuse(-1, not_(listed_by_driver("channel", 15, 13)))},
                            {refuse(-1, not_among("channel", {0, 36, 40, 44, 48, 149, 153, 157, 161}))})});
 }
 
-// second_channel takes the pairs of primary and second channel.
+// second_channel requires one of the pairs of primary and second channel.
 Check second_channel(std::string_view name, std::string_view what,
                      const std::vector<std::pair<int, int>>& pairs)
 {
@@ -58,7 +59,7 @@ Check wide_channel()
 Check mode()
 {
     return check(
-        "WLAN_check_IEEE11_mode", {text("mode", "a mode of IEEE 802.11"), radio()},
+        "WLAN_check_IEEE11_mode", {text("mode", "an IEEE 802.11 mode"), radio()},
         {refuse_unknown_radio(),
          by_radio({refuse(-1, none_of("mode", {"802.11b", "802.11g", "802.11n", "802.11bg", "802.11bgn"}))},
                   {refuse(-1, none_of("mode", {"802.11n", "802.11a", "802.11an"}))})});
@@ -91,7 +92,7 @@ std::vector<Check> wlan_check_radio()
             {{0, 0}, {36, 38}, {40, 38}, {44, 46}, {48, 46}, {149, 151}, {153, 151}, {157, 159}, {161, 159}}),
         wide_channel(),
         mode(),
-        check("WLAN_check_IEEE11_standard", {text("value", "the letter of a standard of IEEE 802.11")},
+        check("WLAN_check_IEEE11_standard", {text("value", "the letter of an IEEE 802.11 standard")},
               {refuse(-1, none_of({"a", "b", "g", "n"}))}),
     };
 }

@@ -19,13 +19,13 @@ std::vector<Check> lists()
               {refuse(402, none_of({"None", "EAPAuthentication"}),
                       line("Error in WLAN_check_basic_authentication_modes: Error basic authentication "
                            "modes:<value>\n\n"))}),
-        check("WLAN_check_wpa_encryption_modes", {text("value", "an encryption mode of WPA")},
+        check("WLAN_check_wpa_encryption_modes", {text("value", "a WPA encryption mode")},
               {refuse(402,
                       none_of({"WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption", "AESEncryption",
                                "WEPandAESEncryption", "TKIPandAESEncryption", "WEPandTKIPandAESEncryption"}),
                       line("Error in WLAN_check_wpa_encryption_modes: Error wpa encryption "
                            "modes:<value>\n\n"))}),
-        check("WLAN_check_wpa_authentication_modes", {text("value", "an authentication mode of WPA")},
+        check("WLAN_check_wpa_authentication_modes", {text("value", "a WPA authentication mode")},
               {refuse(402, none_of({"PSKAuthentication", "EAPAuthentication"}),
                       line("Error in WLAN_check_wpa_authentication_modes: Error wpa authentication "
                            "modes:<value>\n\n"))}),
@@ -44,8 +44,7 @@ std::vector<Check> lists_by_mode()
 {
     const auto mode = integer("readwrite_mode", "which list applies");
     return {
-        check("WLAN_check_IEEE11i_encryption_modes",
-              {text("value", "an encryption mode of IEEE 802.11i"), mode},
+        check("WLAN_check_IEEE11i_encryption_modes", {text("value", "an IEEE 802.11i encryption mode"), mode},
               listed_by_mode({"AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption",
                               "WEPandTKIPandAESEncryption"},
                              {"WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption"},
@@ -55,10 +54,10 @@ std::vector<Check> lists_by_mode()
                                    "modes:readwrite mode <readwrite_mode> invalid \n\n"),
                               line("Error in WLAN_check_IEEE11i_encryption_modes: Error IEEE11i encryption "
                                    "modes:<value>\n\n")})),
-        // Its lines speak of encryption all the same.
+        // Its lines say "encryption" too.
         check(
             "WLAN_check_IEEE11i_authentication_modes",
-            {text("value", "an authentication mode of IEEE 802.11i"), mode},
+            {text("value", "an IEEE 802.11i authentication mode"), mode},
             listed_by_mode({"EAPAuthentication", "EAPandPSKAuthentication"}, {"PSKAuthentication"},
                            {line("Error in WLAN_check_IEEE11i_authentication_modes: Error IEEE11i encryption "
                                  "modes:<value> length out of range. [0,31]\n\n"),
@@ -69,7 +68,7 @@ std::vector<Check> lists_by_mode()
     };
 }
 
-// On the model M2840, WEP is not offered with RADIUS.
+// On the model M2840, WEP with RADIUS is not allowed.
 Check security_type()
 {
     const Words without_wep_radius = {"WEP-OPEN", "WEP-SHARED",  "WPA-PSK",      "WPA-RADIUS",
@@ -80,7 +79,7 @@ Check security_type()
     };
     return check(
         "WLAN_check_HNAP_SecurityType",
-        {text("setting1", "the first of two settings of the host"), text("setting2", "the second of them"),
+        {text("setting1", "the first of two host settings"), text("setting2", "the second host setting"),
          text("type", "a security type"), text("encryption", "an encryption")},
         {when(all_of({equal("setting1", literal("0")), equal("setting2", literal("auto"))}),
               {refuse(1001, none_of("type", {"WPA2-PSK", "WPA2-RADIUS"}))},
@@ -91,12 +90,12 @@ Check security_type()
          encryption_of({"WPA-AUTO-PSK", "WPA-AUTO-RADIUS"}, {"TKIPORAES"})});
 }
 
-// A number of at most four digits fits an int.
+// A number of at most four digits fits in an int.
 Check key_renewal()
 {
     return check("WLAN_check_HNAP_KeyRenewal",
                  {text("renewal", "whether keys are renewed"),
-                  text("interval", "the time from one renewal to the next").in("seconds"),
+                  text("interval", "the interval between two renewals").in("seconds"),
                   text("type", "a security type")},
                  {accept(one_of("renewal", {"false"})), accept(one_of("type", kWepTypes)),
                   refuse(-1, empty("interval")), refuse(-1, outside("interval", kDigits)),

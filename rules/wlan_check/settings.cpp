@@ -6,7 +6,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// The text is rewritten by the library's own converter; a host may bring another, of which nothing is known here.
+// References are replaced by the library's own converter; that of a host is unknown here.
 Check ssid()
 {
     return check("WLAN_check_ssid", {buffer("value", "the name of a wireless network")},
@@ -18,14 +18,14 @@ Check ssid()
 std::vector<Check> rates()
 {
     return {
-        check("WLAN_check_max_bit_rate", {text("value", "the highest data rate").in("Mbit/s")},
+        check("WLAN_check_max_bit_rate", {text("value", "the maximum data rate").in("Mbit/s")},
               {refuse(402, refused_by("TcmValidateRate"),
                       line("Error in WLAN_check_max_bit_rate: Error max bit rate:<value>\n\n"))}),
         check("WLAN_check_basic_data_transmit_rate", {text("value", "the basic data rates").in("Mbit/s")},
               {refuse(402, refused_by("TcmValidateDataTransmitRates"),
                       line("Error in WLAN_check_basic_data_transmit_rate: Error basic data transmit "
                            "rate:<value>\n\n"))}),
-        // It cannot be chosen: the empty value changes nothing.
+        // The empty value is not offered: it means no change.
         check("WLAN_check_op_data_transmit_rate", {text("value", "the operational data rates").in("Mbit/s")},
               {refuse(402, none_of({"1,2,5.5,6,9,11,12,18,24,36,48,54", ""}),
                       line("Error in WLAN_check_op_data_transmit_rate: Error operation data transmit "
@@ -69,7 +69,7 @@ Check operation_mode()
 
 Check location()
 {
-    return check("WLAN_check_location_description", {text("value", "where the device is")},
+    return check("WLAN_check_location_description", {text("value", "the location of the device")},
                  {refuse(402, longer_than(4096),
                          line("Error in WLAN_check_location_description: Error location description "
                               ":<value> length out of range. [0,4096]\n\n"))});

@@ -1,4 +1,4 @@
-// What the descriptions of the wireless LAN checks share.
+// Shared by the descriptions of the wireless LAN checks.
 #ifndef OSTREL_RULES_WLAN_CHECK_SHARED_H
 #define OSTREL_RULES_WLAN_CHECK_SHARED_H
 
@@ -13,14 +13,14 @@ inline const Words kSecurityTypes = {"WEP-OPEN",    "WEP-SHARED",   "WEP-RADIUS"
                                      "WPA-PSK",     "WPA-RADIUS",   "WPA2-PSK",
                                      "WPA2-RADIUS", "WPA-AUTO-PSK", "WPA-AUTO-RADIUS"};
 
-// ModeLines is what is printed for a value that a read-write mode has a list for.
+// ModeLines are the lines of a check whose keywords depend on a read-write mode.
 struct ModeLines {
     Line too_long;
     Line unknown_mode;
     Line not_listed;
 };
 
-// listed_by_mode allows the keywords of one list with readwrite_mode 0 and those of another with 1.
+// listed_by_mode allows one list of keywords for readwrite_mode 0, another for 1.
 std::vector<Step> listed_by_mode(const Words& mode_0, const Words& mode_1, const ModeLines& lines);
 
 }  // namespace ostrel::rules
