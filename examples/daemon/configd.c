@@ -1,8 +1,8 @@
 /*
- * configd: judges settings and sees to what SECURITY.md asks of a host.
+ * configd: judges settings, and does what SECURITY.md requires of a host.
  *
- * It reads a line "NAME VALUE" at a time from standard input and answers on standard output, "NAME: accepted as VALUE"
- * or "NAME: refused, CODE". What the library says of a refusal goes to standard error.
+ * It reads lines "NAME VALUE" from standard input and writes "NAME: accepted as VALUE" or "NAME: refused, CODE" to
+ * standard output. What the library prints about a refusal goes to standard error.
  *
  *     cc configd.c -o configd -lostrel_check
  *     echo "lan.address 192.168.1.256" | ./configd
@@ -15,7 +15,7 @@
 #include <unistd.h>
 
 #define LONGEST_VALUE 255
-/* HNAPCORE_check_timezone writes 7 bytes, or what follows "UTC"; each other check that writes needs no more. */
+/* HNAPCORE_check_timezone writes at most 7 bytes, or what follows "UTC"; no other check here writes more. */
 #define ROOM (LONGEST_VALUE + 7)
 
 struct setting {
@@ -29,10 +29,10 @@ static int address(char* value) { return PARAM_check_ip_addr(value); }
 static int wpa_key(char* value) { return WLAN_check_preshared_key(value); }
 static int password(char* value) { return GUESTACCESS_check_password(value); }
 
-/* The SSID is rewritten in place: value is a buffer, never a literal. */
+/* The SSID is changed in place: value is a buffer, never a literal. */
 static int ssid(char* value) { return WLAN_check_ssid(value); }
 
-/* The check writes the offset into a buffer, which has the room that the header asks for. */
+/* The check writes the offset into a buffer of the size that the header requires. */
 static int timezone_offset(char* value)
 {
     char offset[ROOM];
@@ -41,8 +41,8 @@ static int timezone_offset(char* value)
     return code;
 }
 
-/* PARAM_check_ui2_value and PARAM_check_ui4_value do not return for a value that begins with a digit. No name from
-   the network leads to them: a number is judged by its limits, and by its characters, for atoi reads "30;x" as 30. */
+/* PARAM_check_ui2_value and PARAM_check_ui4_value do not return for a value that begins with a digit. So
+   they are not used here: a number is judged by its limits and its characters, because atoi reads "30;x" as 30. */
 static int interval(char* value) { return ValidateNum(1, 86400, "0123456789", value); }
 
 static const struct setting kSettings[] = {
@@ -56,7 +56,7 @@ static const struct setting kSettings[] = {
     {NULL, NULL, 0},
 };
 
-/* Standard output and standard error as the daemon was given them. */
+/* The original standard output and standard error. */
 static FILE *answers, *report_log;
 
 static void give_up(const char* what)
@@ -65,8 +65,8 @@ static void give_up(const char* what)
     exit(1);
 }
 
-/* The library prints to standard output, and WLAN_check_keys to standard error, into a file without a name. A file is
-   never full as a pipe is that nobody reads, and only what the daemon lets through leaves it. */
+/* Both streams of the library go to a file without a name: standard output, and standard error for WLAN_check_keys. A file
+   does not block like a full pipe, and the daemon decides what is logged. */
 static void take_the_streams(void)
 {
     FILE* file = tmpfile();
@@ -76,7 +76,7 @@ static void take_the_streams(void)
     if (dup2(fileno(file), STDOUT_FILENO) < 0 || dup2(fileno(file), STDERR_FILENO) < 0) give_up("configd");
 }
 
-/* A value may hold any byte; in a log or on a terminal a control byte does harm. */
+/* A value may contain control bytes, which are harmful in a log or on a terminal. */
 static void print_escaped(FILE* stream, const char* bytes, size_t size)
 {
     size_t i;
@@ -86,13 +86,13 @@ static void print_escaped(FILE* stream, const char* bytes, size_t size)
     }
 }
 
-/* log_report logs what a check has printed and empties the file. A report holds the refused value, so that of a
-   secret is not logged at all. */
+/* log_report logs what a check has printed, and truncates the file. A report contains the refused value, so
+   none is logged for a secret. */
 static void log_report(const struct setting* setting, int code)
 {
     char report[1024];
     ssize_t size;
-    fflush(stdout); /* silent checks print a few things without flushing them */
+    fflush(stdout); /* some primitives print without a flush */
     size = pread(STDOUT_FILENO, report, sizeof report, 0);
     if (ftruncate(STDOUT_FILENO, 0) != 0 || lseek(STDOUT_FILENO, 0, SEEK_SET) != 0) give_up("configd");
     if (code == OSTREL_VALID) return;
@@ -120,7 +120,7 @@ static void judge(const struct setting* setting, const char* given)
     fputc('\n', answers);
 }
 
-/* read_line cuts a line for which there is no room; a value of that length is refused. */
+/* read_line cuts a line that is too long; a value of that length is refused. */
 static int read_line(char* line, size_t room)
 {
     size_t length = 0;
