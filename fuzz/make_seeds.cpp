@@ -94,7 +94,8 @@ int main(int argc, char** argv)
     }
     try {
         const auto rows = ostrel::vectors::read_cases();
-        for (const auto family : ostrel::catalogue::families()) ostrel::fuzz::make_seeds(family, rows, argv[1]);
+        for (const auto family : ostrel::catalogue::families())
+            ostrel::fuzz::make_seeds(family, rows, argv[1]);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "fuzz_seeds: %s\n", error.what());
         return 1;

@@ -18,7 +18,6 @@
 namespace {
 
 using ostrel::rules::append_json_text;
-using ostrel::rules::Argument;
 using ostrel::rules::Check;
 using ostrel::rules::NullOutcome;
 
@@ -47,10 +46,8 @@ std::string json_of(const Check& check)
     append_json_text(out, check.module);
     out += ",\"nulls\":";
     for (std::size_t i = 0; i < check.arguments.size(); ++i) {
-        const Argument::Kind kind = check.arguments[i].kind;
-        const bool is_number = kind == Argument::Kind::kInteger || kind == Argument::Kind::kUnsigned;
         out += i == 0 ? '[' : ',';
-        if (is_number) {
+        if (check.arguments[i].is_number()) {
             out += "null";
         } else {
             append_json_text(out, name_of(null_outcome(check, i, ostrel::rules::Build())));

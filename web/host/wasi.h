@@ -4,18 +4,6 @@
 
 #ifdef __cplusplus
 
-#if __has_feature(undefined_behavior_sanitizer)
-// In WebAssembly address 0 can be read, so a NULL would be judged as an empty value. The compiler checks what is passed
-// where a declaration excludes NULL, as WASI's do for some functions, and these for the others.
-#include <stddef.h>
-extern "C" {
-[[gnu::nonnull]] int strncmp(const char* a, const char* b, size_t length);
-[[gnu::nonnull]] char* strchr(const char* text, int c);
-[[gnu::nonnull]] char* strrchr(const char* text, int c);
-[[gnu::nonnull]] char* strstr(const char* text, const char* part);
-}
-#endif
-
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
