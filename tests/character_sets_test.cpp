@@ -1,16 +1,14 @@
-// The character sets: their exact sizes, and every byte through every text and through the checks that use
-// one.
+// The character sets: their exact sizes, and every byte through every text.
 
 #include <gtest/gtest.h>
 #include <ostrel/character_sets.h>
-#include <ostrel/check.h>
+#include <ostrel/strings.h>
 
 #include <array>
 #include <set>
 #include <string>
 #include <string_view>
 
-#include "calling/capture.h"
 #include "tests/support/byte_ranges.h"
 
 namespace ostrel::tests {
@@ -102,63 +100,6 @@ TEST(CharacterSets, TheShuffledTextsBeginAndEndAsTheyMust)
     const std::string_view text = CHARSET_DEVICE_NAME;
     const std::multiset<char> repeated(text.begin(), text.end());
     for (const char c : {'@', '!', '%'}) EXPECT_EQ(2U, repeated.count(c)) << c;
-}
-
-// A check, a value with room for one byte, and the codes for a byte inside and outside the check's set.
-struct SetUser {
-    const char* name;
-    int (*call)(const char* value);
-    const char* before;
-    const char* after;
-    std::string_view ranges;
-    int outside;
-};
-
-int ppp_user_name(const char* value)
-{
-    int type = 0;
-    return TcmValidatePPPUsername(value, &type);
-}
-
-constexpr std::array<SetUser, 17> kSetUsers = {{
-    {"PARAM_check_number", [](const char* value) { return PARAM_check_number(value, 1, 9); }, "1", "2",
-     kDigitRanges, 803},
-    {"PARAM_check_num_range", [](const char* value) { return PARAM_check_num_range(value, 0, 999); }, "1",
-     "2", kDigitRanges, 803},
-    {"PARAM_check_password", [](const char* value) { return PARAM_check_password(value, 1, 9); }, "a", "b",
-     kAlnumRanges, 803},
-    {"PARAM_check_hexa_string", PARAM_check_hexa_string, "a", "b", kHexRanges, -1},
-    {"PARAM_check_printable_ascii_string", PARAM_check_printable_ascii_string, "a", "b", kAsciiRanges, -1},
-    {"PARAM_check_dl_test_bufsize", PARAM_check_dl_test_bufsize, "1", "2", kDigitRanges, 601},
-    {"TcmValidatePPPUsername", ppp_user_name, "a", "b", kLatin1Ranges, 803},
-    {"TcmValidatePPPUsername, before the account realm", ppp_user_name, "12345678901234567890123456",
-     "7@example.net", kDigitRanges, 803},
-    {"TcmValidatePPPUsername, before the set-up realm", ppp_user_name, "12345678901234",
-     "5@setup.example.net", kDigitRanges, 803},
-    {"TcmValidatePPPPassword", TcmValidatePPPPassword, "a", "b", kLatin1Ranges, 803},
-    {"TcmValidateLANConfigPassword", TcmValidateLANConfigPassword, "aaa", "b", kNameRanges, 803},
-    {"TcmValidateEmailPassword", TcmValidateEmailPassword, "a", "b", kNameRanges, 803},
-    {"TcmValidateVoIPAnbietername", TcmValidateVoIPAnbietername, "a", "b", kNameRanges, 803},
-    {"TcmValidateVoIPNumber", TcmValidateVoIPNumber, "1", "2", kDigitRanges, 803},
-    {"TcmValidateVoIPUsername", TcmValidateVoIPUsername, "a", "b", kMailRanges, 803},
-    {"TcmValidateVoIPPassword", TcmValidateVoIPPassword, "a", "b", kNameRanges, 803},
-    {"TcmValidateVoIPAreaCode", TcmValidateVoIPAreaCode, "1", "2", kDigitRanges, 803},
-}};
-
-TEST(CharacterSets, EveryByteThroughEveryCheckThatUsesASet)
-{
-    for (const SetUser& user : kSetUsers) {
-        const calling::Capture printed;
-        for (int byte = 0x01; byte <= 0xFF; ++byte) {
-            std::string value = user.before;
-            value += static_cast<char>(byte);
-            value += user.after;
-            int expected = in_ranges(user.ranges, byte) ? 0 : user.outside;
-            // "#" is in the set of the local parts, and makes none of the forms here.
-            if (user.call == ppp_user_name && user.ranges == kDigitRanges && byte == '#') expected = 402;
-            EXPECT_EQ(expected, user.call(value.c_str())) << user.name << " byte " << byte;
-        }
-    }
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ class Suites:
 
     def programs_of(self, file):
         path = pathlib.PurePath(file)
-        programs = [path.stem + "_test", path.parent.name + "_test"]
+        programs = [path.stem + "_test", path.parent.name + "_test", "small_spaces_test"]
         if path.stem in PROGRAMS:
             programs.insert(0, PROGRAMS[path.stem])
         if path.parent.name == "wlan_check":

@@ -66,40 +66,6 @@ TEST(WepKeys, KeysStayEmptiedWhenALaterOneIsRefusedAndLaterOnesStay)
     EXPECT_EQ(OSTREL_FORBIDDEN_CHARACTER, check({"\x01", "xyz", "\t", "\t"}, {true, false, false, false}));
 }
 
-TEST(WepKeys, EveryByteAtEveryPlace)
-{
-    for (std::size_t place = 0; place < 10; ++place) {
-        for (int byte = 1; byte < 256; ++byte) {
-            std::string key = kKey;
-            key[place] = static_cast<char>(byte);
-            const bool hexadecimal =
-                (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'F') || (byte >= 'a' && byte <= 'f');
-            const bool printable = byte >= 0x20 && byte <= 0x7E;
-            const int expected = printable && !hexadecimal ? OSTREL_FORBIDDEN_CHARACTER : OSTREL_VALID;
-            EXPECT_EQ(expected, check({kKey, key, kKey, kKey}, {false, !printable, false, false}))
-                << place << ' ' << byte;
-        }
-    }
-}
-
-TEST(WepKeys, EveryLengthBesideEachOther)
-{
-    for (std::size_t first = 1; first <= 256; ++first) {
-        const bool kept = first == 10 || first == 26;
-        const int expected = first < 10   ? OSTREL_TOO_SHORT
-                             : first > 26 ? OSTREL_TOO_LONG
-                             : kept       ? OSTREL_VALID
-                                          : OSTREL_WEP_KEY_LENGTH;
-        const std::string key(first, 'a');
-        EXPECT_EQ(expected, check({key, key, key, key}, {})) << first;
-        EXPECT_EQ(expected, check({key, "", "", key}, {})) << first;
-        if (kept) {
-            const std::string other(36 - first, 'a');
-            EXPECT_EQ(OSTREL_WEP_KEY_LENGTH, check({key, "", "", other}, {})) << first;
-        }
-    }
-}
-
 }  // namespace
 
 }  // namespace ostrel::tests

@@ -1,0 +1,133 @@
+// Single bytes in values of every check, date-times, time zones, account names, channels and keys.
+
+#include <set>
+#include <string>
+#include <tuple>
+
+#include "rules/walk.h"
+#include "src/time_zone_table.h"
+#include "tests/small_spaces/spaces.h"
+#include "vectors/rows.h"
+
+namespace ostrel::tests {
+
+using catalogue::Function;
+using rules::Value;
+using vectors::Row;
+
+TEST_F(SmallSpaces, EveryByteInEveryPlaceOfATextOfEveryCheck)
+{
+    std::set<std::tuple<const Function*, std::size_t, int>> tried;
+    for (const Row& row : vectors::read_cases()) {
+        const Function& function = *row.given.function;
+        const std::vector<Value> values = catalogue::completed(function, row.given.values);
+        const int code = row.promise.outcome.code;
+        if (rules::asks_driver(*function.check)) continue;
+        for (std::size_t argument = 0; argument < values.size(); ++argument) {
+            const auto* text = std::get_if<std::string>(&values[argument]);
+            if (text == nullptr || text->empty() || text->size() > 24) continue;
+            if (!tried.emplace(&function, argument, code).second) continue;
+            for (std::size_t place = 0; place <= text->size(); ++place) {
+                std::vector<Value> changed = values;
+                changed[argument] = text->substr(0, place);
+                expect(function, changed);
+                for (int byte = 1; byte <= 255 && place < text->size(); ++byte) {
+                    changed[argument] = *text;
+                    std::get<std::string>(changed[argument])[place] = static_cast<char>(byte);
+                    expect(function, changed);
+                }
+            }
+        }
+    }
+}
+
+TEST_F(SmallSpaces, DateTimes)
+{
+    Texts texts;
+    for (const std::string text : {"20120229T23:59:59", "2012-02-29T23:59:59", "2012-02-29T23:59:59+12:34",
+                                   "0229T23:59:59", "02-29T23:59:59", "+12:59", "-00:00"}) {
+        for (std::size_t i = 0; i <= text.size(); ++i) {
+            for (int byte = 1; byte <= 255; ++byte)
+                texts.push_back(text.substr(0, i) + static_cast<char>(byte) + text.substr(i));
+            for (const std::string& digits : texts_of("0123456789", 2)) {
+                if (i + digits.size() <= text.size())
+                    texts.push_back(text.substr(0, i) + digits + text.substr(i + digits.size()));
+            }
+        }
+    }
+    expect_each({"TcmValidateTime", "TcmValidateDaylightSavingsTime", "TcmValidateTimeZoneFormate"}, texts);
+}
+
+TEST_F(SmallSpaces, TimeZones)
+{
+    const Function& function = *catalogue::find("Time_validate_tzone_and_tzone_name");
+    for (const char* row = kTimeZones; *row != '\0';) {
+        const std::string offset = row;
+        row += offset.size() + 1;
+        const std::string name = row;
+        row += name.size() + 1;
+        for (std::size_t begin = 0; begin < offset.size(); ++begin) {
+            for (std::size_t size = 1; begin + size <= offset.size(); ++size)
+                expect(function, {offset.substr(begin, size), ""});
+        }
+        expect(function, {"", name});
+        expect(function, {offset, name});
+        for (int byte = 1; byte <= 255; ++byte) {
+            const std::string more(1, static_cast<char>(byte));
+            expect(function, {offset, name + more});
+            expect(function, {offset, more + name});
+            expect(function, {offset + more, name});
+        }
+    }
+}
+
+TEST_F(SmallSpaces, AccountNames)
+{
+    std::set<std::string> locals;
+    for (std::size_t length = 1; length <= 33; ++length) {
+        for (std::size_t a = 0; a <= length; ++a) {
+            for (std::size_t b = a; b <= length; ++b) {
+                for (std::size_t c = b; c <= length; ++c) {
+                    std::string local(length + 1, '7');
+                    local[a] = local[b] = local[c] = '#';
+                    locals.insert(local.substr(0, length));
+                }
+            }
+        }
+    }
+    for (const std::string& local : locals) {
+        for (const char* realm : {"", "@example.net", "@setup.example.net"})
+            expect("TcmValidatePPPUsername", {local + realm, 77LL});
+    }
+}
+
+TEST_F(SmallSpaces, Channels)
+{
+    for (int channel = -300; channel <= 300; ++channel)
+        expect("WLAN_check_channel", {std::to_string(channel), "RADIO_5GHz"});
+    for (int primary = -2; primary <= 200; ++primary) {
+        for (int second = -2; second <= 200; ++second) {
+            expect("WLAN_check_second_channel", {std::to_string(primary), std::to_string(second)});
+            expect("WLAN_check_5g_second_channel", {std::to_string(primary), std::to_string(second)});
+        }
+    }
+}
+
+TEST_F(SmallSpaces, WepKeys)
+{
+    const std::string key = "0123456789";
+    for (std::size_t place = 0; place < key.size(); ++place) {
+        for (int byte = 1; byte <= 255; ++byte) {
+            std::string changed = key;
+            changed[place] = static_cast<char>(byte);
+            expect("WLAN_check_wepkeys", {Texts{key, changed, key, key}});
+        }
+    }
+    for (std::size_t first = 1; first <= 256; ++first) {
+        for (const std::size_t other : {std::size_t{0}, std::size_t{10}, std::size_t{26}, first})
+            expect("WLAN_check_wepkeys",
+                   {Texts{std::string(first, 'a'), "", std::string(other, 'a'), std::string(first, 'b')}});
+    }
+}
+
+}  // namespace ostrel::tests
