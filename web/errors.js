@@ -1,6 +1,6 @@
-// Calls after which the gateway's daemon would not go on.
+// Errors for calls that would stop the gateway's daemon.
 
-// FailedAssertion: the gateway's daemon would have ended here.
+// FailedAssertion: the daemon would have ended.
 export class FailedAssertion extends Error {
   constructor(condition, check, module, line) {
     super(`${module}:${line}: ${check}: Assertion \`${condition}' failed.`);
@@ -8,7 +8,7 @@ export class FailedAssertion extends Error {
   }
 }
 
-// NeverReturns: the gateway's daemon would have stood still here.
+// NeverReturns: the daemon would have hung.
 export class NeverReturns extends Error {
   name = 'NeverReturns';
   message = 'the check does not return for this value';

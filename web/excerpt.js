@@ -5,7 +5,7 @@ import {placeOf} from './sentences.js';
 const kAround = 16;  // characters that are shown on each side
 const kHidden = '\u2022';
 
-// excerptOf makes an element that shows it. Of a secret no other character is shown.
+// excerptOf returns an element that shows it. For a secret no other character is shown.
 export function excerptOf(value, offset, encoding, isSecret) {
   const {character, index} = placeOf(value, offset, encoding);
   const shown = (part) => [...(isSecret ? kHidden.repeat([...part].length) : part)];

@@ -1,4 +1,4 @@
-// What a gateway has around the library: its C library's atoi and assertions, the wireless driver, two utilities.
+// The environment of the library: atoi and assertions of the C library, the wireless driver, two utilities.
 
 #include <unistd.h>
 
@@ -25,7 +25,7 @@ constexpr int kNoChannel = -1;
 
 extern "C" {
 
-// ostrel_configure is for the page: which gateway is meant, and which utilities the page has.
+// ostrel_configure sets the kind of gateway and the utilities of the page.
 void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts);
 
 void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts)
@@ -35,7 +35,7 @@ void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts)
     has_convert = converts;
 }
 
-// A number that does not fit a long becomes the nearest one that does, and of that an int has the lowest 32 bits.
+// A number that does not fit in a long saturates, and the int has its lowest 32 bits.
 int atoi(const char* text)
 {
     while (*text == ' ' || (*text >= '\t' && *text <= '\r')) ++text;
@@ -80,7 +80,7 @@ int htmlToText(char* text, std::size_t length)
     return 0;
 }
 
-// The driver's list of channels is a file that its tool writes.
+// The driver's list of channels replaces the file that its tool writes.
 int system(const char* /*command*/) { return 0; }
 
 FILE* fopen(const char* /*name*/, const char* /*mode*/)

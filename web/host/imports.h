@@ -8,7 +8,7 @@
 
 extern "C" {
 
-// page_write receives a message in pieces. ends: this is the last one.
+// page_write receives a message in parts. ends: this is the last part.
 OSTREL_IMPORT(write) void page_write(int stream, const char* text, std::size_t length, bool ends);
 
 OSTREL_IMPORT(flush) void page_flush();
@@ -18,10 +18,10 @@ OSTREL_IMPORT(flush) void page_flush();
                                                 const char* function);
 [[noreturn]] OSTREL_IMPORT(never_return) void page_never_return();
 
-// page_channel returns the channel that the wireless driver lists there, or -1 after the last one.
+// page_channel returns the channel at that index of the list of the wireless driver, or -1 at its end.
 OSTREL_IMPORT(channel) int page_channel(int index);
 
-// The two utilities, where the page has them.
+// The two utilities, if the page has them.
 OSTREL_IMPORT(compare) int page_compare(const char* a, const char* b);
 OSTREL_IMPORT(convert) void page_convert(char* text, std::size_t length);
 }

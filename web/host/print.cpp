@@ -1,4 +1,4 @@
-// What prints. Every form that a message of the library uses is here, and no other.
+// Printing. Only the conversions that messages of the library use are supported.
 
 #include <cstdarg>
 #include <cstdio>
@@ -67,7 +67,7 @@ int vprintf(const char* format, va_list arguments)
     return 0;
 }
 
-// fprintf is called with standard error alone.
+// fprintf is only called with standard error.
 int fprintf(FILE* /*stream*/, const char* format, ...)
 {
     va_list arguments;

@@ -1,4 +1,4 @@
-// Included before each source of the library: what WASI's headers lack, and the loop that never ends.
+// Included before each source of the library: what the headers of WASI lack, and the endless loop.
 #ifndef OSTREL_WEB_HOST_WASI_H
 #define OSTREL_WEB_HOST_WASI_H
 
@@ -18,7 +18,7 @@ namespace std {
 using ::system;
 }
 
-// The library has one asm statement: the effect of a loop that is meant not to end. In a page it throws instead.
+// The library has one asm statement, in its endless loop. In a page it throws instead.
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wkeyword-macro"
 #define asm                 \
