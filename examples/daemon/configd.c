@@ -65,8 +65,8 @@ static void give_up(const char* what)
     exit(1);
 }
 
-/* Both streams of the library go to a file without a name: standard output, and standard error for WLAN_check_keys. A file
-   does not block like a full pipe, and the daemon decides what is logged. */
+/* Both streams of the library go to a file without a name: standard output, and standard error for WLAN_check_keys. A
+   file does not block like a full pipe, and the daemon decides what is logged. */
 static void take_the_streams(void)
 {
     FILE* file = tmpfile();
