@@ -122,9 +122,9 @@ class Languages {
     Language with_count(char byte, const Intervals& times);
     Language words(const std::vector<std::string>& words, bool ignores_case);
     Language with_prefix(const std::vector<std::string>& words, bool ignores_case);
-    // Fails for shapes for which matching from left to right gives another result.
+    // Returns nothing for shapes for which matching from left to right has another result.
     std::optional<Language> of_shape(const std::vector<Runs>& shapes);
-    // Fails for a separator that can overlap with itself.
+    // Returns nothing for a separator that can overlap with itself.
     std::optional<Language> within(const Cut& cut, Language inner);
     Language items(char separator, const Set& trimmed, Language inner);
 

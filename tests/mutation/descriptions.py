@@ -17,7 +17,7 @@ from tokens import closing
 
 # The files that evaluate descriptions and make reasons. Descriptions are in the files that list checks.
 EVALUATION = {"build", "character_references", "condition_words", "conditions", "evaluate", "expression_words", "lists",
-              "number_conditions", "operands", "register", "say", "sentences", "set", "shared", "step_words",
+              "number_conditions", "operands", "register", "sentences", "set", "shared", "step_words",
               "text_conditions"}
 
 # Each word can be replaced by the other.
