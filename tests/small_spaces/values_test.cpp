@@ -1,4 +1,4 @@
-// Single bytes in values of every check, date-times, time zones, account names, channels and keys.
+// Single bytes in values of every check, date-times, time zones, references, account names, channels and keys.
 
 #include <set>
 #include <string>
@@ -7,6 +7,7 @@
 #include "rules/walk.h"
 #include "src/time_zone_table.h"
 #include "tests/small_spaces/spaces.h"
+#include "tests/support/reference_names.h"
 #include "vectors/rows.h"
 
 namespace ostrel::tests {
@@ -61,11 +62,11 @@ TEST_F(SmallSpaces, DateTimes)
 TEST_F(SmallSpaces, TimeZones)
 {
     const Function& function = *catalogue::find("Time_validate_tzone_and_tzone_name");
-    for (const char* row = kTimeZones; *row != '\0';) {
-        const std::string offset = row;
-        row += offset.size() + 1;
-        const std::string name = row;
-        row += name.size() + 1;
+    std::string table;
+    for (const auto& row : rules::tables(*function.check).front()->rows) {
+        const std::string offset(row.at(0));
+        const std::string name(row.at(1));
+        table += offset + '\0' + name + '\0';
         for (std::size_t begin = 0; begin < offset.size(); ++begin) {
             for (std::size_t size = 1; begin + size <= offset.size(); ++size)
                 expect(function, {offset.substr(begin, size), ""});
@@ -79,6 +80,40 @@ TEST_F(SmallSpaces, TimeZones)
             expect(function, {offset + more, name});
         }
     }
+    EXPECT_EQ(table, std::string(kTimeZones, sizeof kTimeZones - 1)) << "each row verbatim and in order";
+}
+
+// Names and near misses, numbers in each form, and pieces of references in every order.
+TEST_F(SmallSpaces, CharacterReferences)
+{
+    Texts texts = {"&amp;lt;", "&amp;amp;", "&#38;#65;", "&#x26;lt&#59;"};  // what results is not read again
+    for (const auto& [name, byte] : reference_names()) {
+        const std::string reference = "&" + name + ";";
+        for (const std::string& text :
+             {reference, "a" + reference + "b", reference + reference, "&" + name, "&" + name + " ;",
+              "& " + name + ";", "&" + name + "x;", name + ";", "&" + name.substr(1) + ";",
+              "&" + name.substr(0, name.size() - 1) + ";"})
+            texts.push_back(text);
+        for (std::size_t i = 1; i <= name.size(); ++i) {
+            for (int other = 1; other < 256; ++other) {
+                texts.push_back(reference);
+                texts.back()[i] = static_cast<char>(other);
+            }
+        }
+    }
+    Texts numbers = {"4294967361", "18446744073709551681", "100000041", "10000000000000041",
+                     std::string(1000, '0')};
+    for (int number = -1; number <= 300; ++number) numbers.push_back(std::to_string(number));
+    for (const char* digits : {"a", "F", "1a", "fF", "100", "20AC", "65535", "99999999", "ffffffff", "g"})
+        numbers.emplace_back(digits);
+    for (const std::string& number : numbers) {
+        for (const char* form : {"&#", "&#0000", "&#x", "&#X", "&#x000"}) {
+            for (const char* end : {";", "", " ", "g;"}) texts.push_back(form + number + end);
+        }
+    }
+    const Texts pieces = {"&", "#", "x", ";", "0", "65", "F", "amp", "ETH", "yuml", "\xE9"};
+    for (const std::string& text : texts_of(pieces, 4)) texts.push_back("&" + text);
+    expect_each({"WLAN_check_ssid"}, texts);
 }
 
 TEST_F(SmallSpaces, AccountNames)
