@@ -54,12 +54,6 @@ extern "C" {
 extern const OstrelCheck ostrel_checks[];
 extern const size_t ostrel_check_count;
 
-/* ostrel_find_check returns the check of that name, or NULL. The name need not be terminated. */
-const OstrelCheck* ostrel_find_check(const char* name, size_t size);
-
-/* ostrel_has_secret returns whether an argument must not be shown. */
-bool ostrel_has_secret(const OstrelCheck* check);
-
 #ifdef __cplusplus
 }
 #endif

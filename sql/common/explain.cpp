@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <exception>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -139,7 +140,9 @@ bool ostrel_explain(const OstrelCheck* check, const OstrelText* given, const Ost
                     OstrelWish wish, OstrelAnswer* answer)
 {
     try {
-        const bool is_secret = wish == kSentence && ostrel_has_secret(check);
+        const bool is_secret =
+            wish == kSentence &&
+            std::ranges::any_of(std::span(check->arguments, check->count), &OstrelArgument::is_secret);
         const std::string text = wish == kAfter ? after(*check, slots)
                                  : is_secret    ? lengths(*check, given)
                                                 : reason(*check, given, slots, wish, answer->code);

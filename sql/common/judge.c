@@ -46,7 +46,7 @@ bool ostrel_is_callable(const OstrelCheck* check, size_t values, bool is_verdict
     if (check->hindrance == kRunsShell)
         return fail(fault, kNotCalled, "%s is not called from SQL: it runs a shell", check->name);
     if (is_verdict && check->is_number)
-        return fail(fault, kNoVerdict, "%s answers a number, which is no verdict: use ostrel_code",
+        return fail(fault, kNoVerdict, "%s returns a number and not a result code: use ostrel_code",
                     check->name);
     if (values != check->texts) {
         char names[kMostMessage / 2];
@@ -58,10 +58,20 @@ bool ostrel_is_callable(const OstrelCheck* check, size_t values, bool is_verdict
     return true;
 }
 
+static int compare_names(const void* name, const void* check)
+{
+    const OstrelText* const text = name;
+    const char* const other = ((const OstrelCheck*)check)->name;
+    const int order = strncmp(text->bytes, other, text->size);
+    return order == 0 && other[text->size] != '\0' ? -1 : order;
+}
+
 const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t values, bool is_verdict,
                                        OstrelFault* fault)
 {
-    const OstrelCheck* check = ostrel_find_check(name, size);
+    const OstrelText text = {name, size};
+    const OstrelCheck* const check =
+        bsearch(&text, ostrel_checks, ostrel_check_count, sizeof ostrel_checks[0], compare_names);
     if (check == NULL && is_name(name, size)) {
         fail(fault, kUnknownCheck, "there is no check \"%.*s\"", (int)size, name);
     } else if (check == NULL) {

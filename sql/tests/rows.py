@@ -1,4 +1,4 @@
-"""Reads the vectors as SQL can carry them."""
+"""The rows of the vectors that SQL can run."""
 
 import collections
 import pathlib
@@ -7,8 +7,8 @@ import sys
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
 import vectors  # noqa: E402  it is there
 
-# Row is a row that SQL can carry. Values are bytes and numbers, in the order in which SQL gives them; after lists
-# what is right; reason is None where the row says nothing of it.
+# Row is a row for SQL. values are bytes and numbers, in the order in which SQL passes them; after lists the allowed
+# results; reason is None if the row has none.
 Row = collections.namedtuple("Row", "place check values code out after reason is_verdict")
 
 WRITTEN = ("buffer", "blocks", "integer_out")
@@ -17,7 +17,7 @@ NULL = "an argument is NULL"
 
 
 class Text(bytes):
-    """Text knows the pieces that it is made of, each with how often it is repeated."""
+    """Text keeps its pieces, each with the number of repetitions."""
     pieces = ()
 
 
@@ -36,16 +36,12 @@ def text_of(value):
     return text
 
 
-def is_output(argument):
-    return argument["output_only"] or argument["kind"] == "integer_out"
-
-
 def given(check, args):
-    """given returns the arguments that SQL gives, each with its value."""
+    """given returns the arguments that SQL passes, each with its value."""
     arguments = check["arguments"]
     if len(args) < len(arguments):
-        arguments = [argument for argument in arguments if not is_output(argument)]
-    return [(argument, value) for argument, value in zip(arguments, args) if not is_output(argument)]
+        arguments = [argument for argument in arguments if not argument["output_only"]]
+    return [(argument, value) for argument, value in zip(arguments, args) if not argument["output_only"]]
 
 
 def value_of(value):
@@ -53,23 +49,21 @@ def value_of(value):
 
 
 def plain(value):
-    """plain is a value as JSON has it, in which each character is a byte."""
+    """plain returns a value for comparison with JSON, in which each character is a byte."""
     if isinstance(value, list):
         return [plain(one) for one in value]
     return value if value is None or isinstance(value, int) else text_of(value).decode("latin-1")
 
 
 def held(check, row):
-    """held lists what the arguments that can be written to may hold after the call: what the row says, or as before.
-
-    SQL does not give what is only written. There a row's "as before" is what the row gives, where that is written
-    again, or nothing."""
+    """held lists what the arguments that the check writes to may hold after the call: the content in the row, or no
+    change. SQL does not pass output arguments, so there "no change" is the value of the row or nothing."""
     if "after" in row:
         return [plain(row["after"])]
     written = [argument for argument in check["arguments"] if argument["kind"] in WRITTEN]
     before = dict(zip((argument["name"] for argument in check["arguments"]), row["args"]))
     unwritten = {argument["name"]: None if argument["kind"] == "integer_out" else ""
-                 for argument in written if is_output(argument)}
+                 for argument in written if argument["output_only"]}
     return [plain([values[argument["name"]] for argument in written])
             for values in ({**unwritten, **before}, {**before, **unwritten})]
 
@@ -96,5 +90,5 @@ def rows(checks, not_called):
 
 
 def told(reason):
-    """told has of a reason what a row says of it."""
+    """told returns the members of a reason that rows have."""
     return {name: reason[name] for name in ("id", "argument", "part", "item", "offset") if name in reason}

@@ -41,7 +41,7 @@ def hostile_calls(count, seed):
         check = source.choice(callable_checks)
         values = []
         for argument in check["arguments"]:
-            if argument["output_only"] or argument["kind"] == "integer_out":
+            if argument["output_only"]:
                 continue
             if is_number(argument):
                 low = 0 if argument["kind"] == "unsigned" else -(1 << 31)

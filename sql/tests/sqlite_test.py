@@ -118,7 +118,7 @@ class Functions(unittest.TestCase):
         self.refuses("PARAM_check_port: value_p has a NUL byte", "SELECT ostrel_line('PARAM_check_port', x'383000')")
         self.refuses("WLAN_check_wepkeys: text 2 of keys has more than 256 bytes",
                      "SELECT ostrel_code('WLAN_check_wepkeys', '', ?, '', '')", "1" * 257)
-        self.refuses("countChar answers a number, which is no verdict: use ostrel_code",
+        self.refuses("countChar returns a number and not a result code: use ostrel_code",
                      "SELECT ostrel_valid('countChar', 'a', 97)")
 
     def test_checks_that_are_not_called(self):
