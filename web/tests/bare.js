@@ -1,17 +1,9 @@
 // The module of rules without the wrapper: a test places each value and reads every effect.
 
-const kPage = 0x10000;
-const kUnwritten = -0x80000000;
-const isPointer = ({kind}) => kind !== 'integer' && kind !== 'unsigned';
+import {complete, kUnwritten} from '../arguments.js';
 
-// completed adds what is only written where the row leaves it out.
-export function completed(check, values) {
-  const result = [...values];
-  for (const argument of check.arguments.slice(values.length)) {
-    result.push(argument.kind === 'integer_out' ? kUnwritten : '');
-  }
-  return result;
-}
+const kPage = 0x10000;
+const isPointer = ({kind}) => kind !== 'integer' && kind !== 'unsigned';
 
 export class Bare {
   constructor(module, {long, imports = () => ({}), room = () => 0}) {
@@ -70,7 +62,7 @@ export class Bare {
 
   // call places the argument of that index at the end of the memory.
   call(check, given, edge) {
-    const values = completed(check, given);
+    const values = complete(check, given);
     const sizes = check.arguments.map((argument, i) => (
       isPointer(argument) && values[i] !== null ? this.sizeOf(check, i, values) : 0));
     const {memory, __heap_base: base} = this.exports;
@@ -103,7 +95,7 @@ export class Bare {
 
 // edges lists the arguments that can be placed at the end of the memory; if there are none, the call is made once.
 export function edges(check, given) {
-  const values = completed(check, given);
+  const values = complete(check, given);
   const found = check.arguments.flatMap((argument, i) => (isPointer(argument) && values[i] !== null ? [i] : []));
   return found.length > 0 ? found : [-1];
 }

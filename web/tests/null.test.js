@@ -5,7 +5,8 @@ import assert from 'node:assert/strict';
 import test from 'node:test';
 import {isDeepStrictEqual} from 'node:util';
 
-import {Bare, completed} from './bare.js';
+import {complete} from '../arguments.js';
+import {Bare} from './bare.js';
 import {FailedAssertion, checkOf, checks, load, moduleOf} from './files.js';
 import {describedCode, roomOf} from './described.js';
 import {rows} from './rows.js';
@@ -65,7 +66,7 @@ test('each NULL answers as described', async (t) => {
   let calls = 0;
   for (const row of rows) {
     const check = checkOf(row.check);
-    const given = completed(check, row.values);
+    const given = complete(check, row.values);
     for (const [i, argument] of check.arguments.entries()) {
       if (argument.null === undefined) continue;
       const values = Object.assign([...given], {[i]: null});

@@ -32,7 +32,7 @@ for (const long of [32, 64]) {
 test('the wrapper', async (t) => {
   const source = (name) => readFileSync(new URL(name, import.meta.url), 'utf8');
   const pages = {'/blank.html': '<!doctype html><html lang="en"><title>Blank</title></html>'};
-  for (const name of ['bare.js', 'row.js', 'wrapper.js']) pages[`/tests/${name}`] = source(name);
+  for (const name of ['arguments.js', 'tests/row.js', 'tests/wrapper.js']) pages[`/${name}`] = source(`../${name}`);
   for (const [name, lines] of Object.entries(files)) pages[`/${name}`] = lines;
   const base = await serve(t, {pages});
   const browser = await started(t);

@@ -1,12 +1,12 @@
 // Every row by the wrapper; the same in Node and in a browser.
 
-import {completed} from './bare.js';
+import {complete, kUnwritten} from '../arguments.js';
 
 const kWritten = ['buffer', 'blocks', 'integer_out'];
 
 // held is what the arguments hold that can be written to, before the call.
-const held = (check, values) => completed(check, values).filter((_, i) => kWritten.includes(check.arguments[i].kind))
-  .map((value) => (value === -0x80000000 ? null : value));
+const held = (check, values) => complete(check, values).filter((_, i) => kWritten.includes(check.arguments[i].kind))
+  .map((value) => (value === kUnwritten ? null : value));
 
 export function expectedOf(row, check, long) {
   const {reason, ...answer} = row.answers[long];
