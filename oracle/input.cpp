@@ -88,11 +88,10 @@ void decode_blocks(const Argument& argument, std::string_view first, std::string
 void decode_argument(const Argument& argument, std::string_view& fields, Value& value)
 {
     const std::string_view field = next_field(fields);
-    if (argument.kind == Kind::kInteger || argument.kind == Kind::kUnsigned) {
-        value = decode_number(field, argument.kind);
-    } else if (is_null(field)) {
+    const bool is_number = argument.kind == Kind::kInteger || argument.kind == Kind::kUnsigned;
+    if (!is_number && is_null(field)) {
         value = nullptr;
-    } else if (argument.kind == Kind::kIntegerOut) {
+    } else if (is_number || argument.kind == Kind::kIntegerOut) {
         value = decode_number(field, argument.kind);
     } else if (argument.kind == Kind::kBlocks) {
         decode_blocks(argument, field, fields, value);

@@ -25,7 +25,6 @@
 
 namespace ostrel::vectors {
 
-using catalogue::Argument;
 using catalogue::Kind;
 using catalogue::Value;
 
