@@ -21,8 +21,7 @@ class GuardedMemory {
     GuardedMemory& operator=(const GuardedMemory&) = delete;
     ~GuardedMemory();
 
-    // place gives room for size bytes that touches the unreadable page at that edge. What it held before is
-    // kept nowhere.
+    // place returns memory for size bytes next to the unreadable page at that edge. Its content is lost.
     char* place(std::size_t size, Edge edge);
 
  private:

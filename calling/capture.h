@@ -54,7 +54,7 @@ class Capture {
     Capture& operator=(const Capture&) = delete;
     ~Capture();
 
-    // take gives what was printed since the last time.
+    // take returns what was printed since the last time.
     Printed take();
 
     // look shows what was printed since the last take or clear.

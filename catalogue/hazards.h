@@ -14,7 +14,7 @@
 
 namespace ostrel::catalogue {
 
-// Hazard is a kind of bytes that somebody who pastes a value elsewhere has to mind.
+// Hazard is a kind of bytes to look out for when a value is pasted elsewhere.
 struct Hazard {
     std::string_view name;  // as JSON has it
     std::string_view title;
@@ -57,7 +57,7 @@ struct Exposure {
     [[nodiscard]] std::string bytes(Place place, const Hazard& hazard) const;
 };
 
-// exposures_of gives what is known of the arguments of a check.
+// exposures_of returns what is known about the arguments of a check.
 const std::vector<Exposure>& exposures_of(const Function& function);
 
 // line_of writes an exposure as a line of docs/hazards.md.

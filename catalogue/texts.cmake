@@ -2,7 +2,7 @@
 set(hazards ${PROJECT_SOURCE_DIR}/docs/hazards.md)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS catalogue.schema.json ${hazards})
 file(READ catalogue.schema.json OSTREL_SCHEMA)
-# What was found stands at the end of that page, a line for each argument.
+# The end of that page holds a line for each argument.
 file(READ ${hazards} OSTREL_HAZARDS)
 string(REGEX REPLACE "^.*\n```json\n(.*)```\n$" "\\1" OSTREL_HAZARDS "${OSTREL_HAZARDS}")
 configure_file(texts.cpp.in texts.cpp @ONLY)

@@ -33,7 +33,7 @@ std::string bytes_from_utf8(const std::string& text)
         } else if (lead == 0xC2 || lead == 0xC3) {
             bytes += static_cast<char>((lead & 3) << 6 | (static_cast<unsigned char>(text[++i]) & 0x3F));
         } else {
-            throw std::invalid_argument("a text holds a character above U+00FF, which is no byte");
+            throw std::invalid_argument("a text holds a character above U+00FF, which is not a byte");
         }
     }
     return bytes;

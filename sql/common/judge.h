@@ -24,7 +24,7 @@ typedef enum {
 
 typedef struct {
     int code;
-    char* text; /* NULL: there is none */
+    char* text; /* NULL: none */
     size_t size;
 } OstrelAnswer;
 

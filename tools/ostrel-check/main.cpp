@@ -75,7 +75,7 @@ int run_batch_of(Options& options)
     if (options.stream) rules.style.format = Format::kStream;
     rules.style.columns = columns_of(STDOUT_FILENO, kAnyWidth);
     if (isatty(STDIN_FILENO) == 1 && std::ranges::count(rules.files, "-") > 0)
-        say("Reading cases from the terminal: NAME VALUE... on each line; Ctrl-D ends them.\n");
+        say("Reading cases from the terminal: NAME VALUE... on each line; Ctrl-D ends the input.\n");
     const Closing closing = closing_of(options.ending, rules.style);
     if (options.map.empty()) return run_batch(rules, closing, options.jobs);
     std::optional<Map> map;
@@ -127,7 +127,7 @@ int run(int argc, char** argv)
 int main(int argc, char** argv)
 {
     ostrel::tool::occupy_standard_descriptors();
-    // A reader that goes away is noticed when writing.
+    // A closed pipe is noticed when writing.
     std::signal(SIGPIPE, SIG_IGN);
     try {
         return ostrel::tool::run(argc, argv);
@@ -135,6 +135,6 @@ int main(int argc, char** argv)
         return ostrel::tool::complain_of_usage(error.what());
     } catch (const std::exception& error) {
         return ostrel::tool::complain(error.what(),
-                                      "Nothing more was judged; put that right and run it again.\n");
+                                      "The rest was not judged; fix the problem and run it again.\n");
     }
 }

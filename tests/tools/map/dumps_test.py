@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""dumps_test.py OSTREL_CHECK SOURCE_DIR: what is told of dumps besides results, and dumps that are judged in parts."""
+"""dumps_test.py OSTREL_CHECK SOURCE_DIR: counts of dumps in the summary, and dumps that are judged in parts."""
 
 import json
 import pathlib
@@ -30,7 +30,7 @@ def matches(pattern, path):
 
 
 class Unmapped(unittest.TestCase):
-    """What no check judges is counted and listed, not guessed."""
+    """Parameters without a check are counted and listed."""
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -82,7 +82,7 @@ class Unmapped(unittest.TestCase):
             self.assertEqual(1, (out + err).count("; no check is known for "), options)
         self.assertNotIn("no check is known", self.run_batch(text, "--json", code=2)[1])
 
-    def test_it_is_no_fault(self):
+    def test_unmapped_parameters_are_not_faults(self):
         name, parameters, _ = self.fleet[0]
         _, good, faults = next(one for one in self.fleet if not one[2])
         self.assertFalse(faults)
@@ -108,11 +108,11 @@ class Unmapped(unittest.TestCase):
             self.assertEqual((60000, 2), (dumps["unmapped"]["parameters"], dumps["gateways"]))
             self.assertEqual([{"path": f"x{number:06d}", "count": 2} for number in range(10000)],
                              dumps["unmapped"]["paths"])
-        self.assertIn("40000 of other paths\n", self.run_batch(text, "--summary-only", code=0)[0])
+        self.assertIn("40000 with other paths\n", self.run_batch(text, "--summary-only", code=0)[0])
 
 
 class Stopped(unittest.TestCase):
-    """A batch that is stopped ends after a gateway, and goes on with the next one."""
+    """A batch that is stopped ends after a gateway and resumes with the next one."""
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -141,7 +141,7 @@ class Stopped(unittest.TestCase):
                 with open(first, "wb") as results:
                     full = subprocess.run(self.command(name, "--jobs", "2", "--summary-file", files[1]), stdout=results,
                                           stderr=subprocess.PIPE, preexec_fn=limit)
-                where = re.search(rb"stopped after line (\d+); go on with --start-line (\d+)\n", full.stderr)
+                where = re.search(rb"stopped after line (\d+); resume with --start-line (\d+)\n", full.stderr)
                 self.assertTrue(where, full.stderr)
                 self.assertGreater(int(where.group(1)), 1)
                 rest = subprocess.run(self.command(name, "--start-line", where.group(2), "--summary-file", files[2]),
@@ -165,7 +165,7 @@ class Stopped(unittest.TestCase):
         file.write_text(json.dumps(as_trees(gateways.gateways(300))))
         with open("/dev/full", "wb") as full:
             run = subprocess.run(self.command(file.name), stdout=full, stderr=subprocess.PIPE)
-        self.assertIn(b"stopped after line 0; go on with --start-line 1\n", run.stderr)
+        self.assertIn(b"stopped after line 0; resume with --start-line 1\n", run.stderr)
         process = subprocess.Popen(self.command(file.name), stdout=subprocess.PIPE, stderr=subprocess.PIPE, bufsize=0)
         process.stdout.read(1)
         process.send_signal(signal.SIGINT)

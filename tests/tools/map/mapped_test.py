@@ -110,7 +110,7 @@ class Rows(unittest.TestCase):
                                 ("c", "accepted", None)])
         self.assertEqual(counted["split_gateways"], 1)
 
-    def test_gateways_that_are_not_told_apart(self):
+    def test_rows_without_a_gateway_column(self):
         pool = [{"path": "Start", "check": "TIME_check_sync_daylight_saving_time", "value": "start",
                  "with": {"end": {"path": "End"}}}]
         rows = ["a,Start,x", "a,End,", "b,Start,", "b,End,", "c,Start,x", "c,End,y"]
@@ -199,18 +199,18 @@ class Errors(unittest.TestCase):
         entry = '{"parameters": [\n {"path": "A", "check": "PARAM_check_port"},\n %s\n]}'
         pool = '"check": "LAN_check_dhcp_reserved_addr", "value": "reservedList"'
         cases = [
-            ("{\n \"parameters\": [\n}", "MAP:3: no valid JSON: "),
+            ("{\n \"parameters\": [\n}", "MAP:3: invalid JSON: "),
             ("[]", "MAP:1: it is not an object"),
             ("{}", 'MAP:1: "parameters" is missing'),
             ('{"parameters": []}', "MAP:1: /parameters: it is empty"),
             (entry % '{"path": "B", "check": "PARAM_check_prot"}', 'MAP:3: /parameters/1/check: '),
             (entry % '{"check": "PARAM_check_port"}', 'MAP:3: /parameters/1: "path" is missing'),
-            (entry % '{"path": "B",\n "check": 7}', "MAP:4: /parameters/1/check: it is not a text"),
+            (entry % '{"path": "B",\n "check": 7}', "MAP:4: /parameters/1/check: it is not a string"),
             (entry % '{"path": "B..C", "check": "PARAM_check_port"}', "MAP:3: /parameters/1/path: a name"),
             (entry % '{"path": "B.{j}", "check": "PARAM_check_port"}', "MAP:3: /parameters/1/path: braces"),
             (entry % '{"path": "A", "check": "PARAM_check_port"}', "MAP:3: /parameters/1: the parameter has"),
             (entry % '{"path": "B", "check": "PARAM_check_port", "values": 1}',
-             "MAP:3: /parameters/1/values: there is no such member"),
+             "MAP:3: /parameters/1/values: unknown member"),
             (entry % ('{"path": "B", ' + pool + "}"), 'MAP:3: /parameters/1: nothing says where the argument "lanAddress"'),
             (entry % ('{"path": "B", ' + pool + ',\n "with": {"lanAddress": {"path": "C.{i}"}}}'),
              "MAP:4: /parameters/1/with/lanAddress/path: it has more {i}"),

@@ -21,7 +21,7 @@ def run(*command, text=""):
 
 class Channels(unittest.TestCase):
     def setUp(self):
-        # The program may be where nobody else may look.
+        # Other users may not have access to the folder of the program.
         self.folder = tempfile.mkdtemp()
         self.addCleanup(shutil.rmtree, self.folder)
         os.chmod(self.folder, 0o755)
@@ -66,19 +66,19 @@ class Channels(unittest.TestCase):
         rows = [json.loads(line) for line in shown.stdout.splitlines()]
         self.assertEqual(["accepted", "no_driver", "accepted"], [row["verdict"] for row in rows[:-1]])
         self.assertEqual({"id": "no_driver_list",
-                          "text": "the driver gave no list: --channels needs to write /var/hnapwl0chlist, which this "
-                                  "user must not, and this system allows no mount namespace in which it could"},
+                          "text": "the driver returned no list: --channels needs to write /var/hnapwl0chlist; this user may not, "
+                                  "and the system does not allow a mount namespace in which it could"},
                          rows[1]["reason"])
         shown = self.as_nobody("--channels", "1", "WLAN_check_channel", "6", "RADIO_2.4GHz", before=before)
         self.assertEqual(2, shown.returncode)
-        self.assertTrue(shown.stdout.startswith("no driver: the channel was not judged (the driver gave no list: "))
+        self.assertTrue(shown.stdout.startswith("no driver: the channel was not judged (the driver returned no list: "))
 
     def test_without_it_the_file_cannot_be_written(self):
         if os.geteuid() != 0 and os.access("/var", os.W_OK):
             self.skipTest("this user may write to /var")
         shown = self.as_nobody("batch", "--json", text=CASES)
         row = json.loads(shown.stdout.splitlines()[1])
-        self.assertEqual("the driver gave no list: /var/hnapwl0chlist cannot be written: Permission denied",
+        self.assertEqual("the driver returned no list: /var/hnapwl0chlist cannot be written: Permission denied",
                          row["reason"]["text"])
         self.assertIn("/var/hnapwl0chlist", row["err"])
 

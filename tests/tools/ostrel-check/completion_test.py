@@ -1,4 +1,4 @@
-"""Completion in bash and zsh, as somebody who presses the tabulator sees it.
+"""Completion in bash and zsh, as shown to somebody who presses Tab.
 
 usage: completion_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -44,34 +44,27 @@ class Shell:
     def send(self, keys):
         os.write(self.terminal, keys.encode())
 
-    def read(self, seconds):
-        if select.select([self.terminal], [], [], seconds)[0]:
-            self.shown += os.read(self.terminal, 65536).decode(errors="replace")
-
-    def after(self, keys, wanted):
-        """after sends the keys and returns what is shown up to what is wanted."""
+    def at_prompt(self, keys, wanted):
+        """at_prompt sends the keys and returns the output up to the prompt after what is wanted: keys that come before
+        the prompt go to the terminal, not to the shell."""
         self.shown = ""
         self.send(keys)
         end = time.monotonic() + self.LONGEST
-        while not re.search(wanted, self.shown):
+        while not re.search("(?s)" + wanted + ".*" + self.PROMPT, self.shown):
             if time.monotonic() > end:
                 raise AssertionError("%r is not shown, but %r" % (wanted, self.shown))
-            self.read(1.0)
+            if select.select([self.terminal], [], [], 1.0)[0]:
+                self.shown += os.read(self.terminal, 65536).decode(errors="replace")
         return self.shown
 
-    def at_prompt(self, keys, wanted):
-        """at_prompt waits for the prompt after what is wanted: keys that come before it are the terminal's, not the
-        shell's."""
-        return self.after(keys, "(?s)" + wanted + ".*" + self.PROMPT)
-
     def completed(self, line):
-        """completed returns the words of a line after the tabulator."""
+        """completed returns the words of a line after Tab."""
         # ^A goes to the beginning of the line. What is shown is the line of the command, and then its output.
         shown = self.at_prompt(line + "\t\x01show_words \n", "<<.*?>>")
         return re.search(r"(?s)<<(.*?)>>", shown)[1].replace("\r", "").strip("\n").split("\n")
 
     def offered(self, line):
-        """offered returns all that appears when the tabulator is pressed twice; ^U takes the line away."""
+        """offered returns everything shown when Tab is pressed twice; ^U deletes the line."""
         return self.at_prompt(line + "\t\t\x15echo end-$((40+2))\n", "end-42")
 
 
@@ -153,8 +146,8 @@ class Zsh(Completion, unittest.TestCase):
         self.assertIn("ostrel-check batch --encoding", shown)
         shown = self.shell.offered("ostrel-check batch --s")
         for option, what in (("--stream", "A line of JSON for each record"),
-                             ("--strict", "Refuse unknown and doubled members"),
-                             ("--summary-file", "Write the summary there")):
+                             ("--strict", "Refuse unknown and duplicate members"),
+                             ("--summary-file", "Write the summary to this file")):
             self.assertRegex(shown, option + " +-- " + what)
 
 

@@ -43,9 +43,9 @@ class Driver : public testing::Test {
 
 TEST_F(Driver, ListsTheChannelsGiven)
 {
-    EXPECT_EQ((Outcome{0, "accepted: 0, valid\n", ""}),
+    EXPECT_EQ((RunResult{0, "accepted: 0, valid\n", ""}),
               run({"--channels", "1 6 11", "WLAN_check_channel", "6", "RADIO_2.4GHz"}));
-    const Outcome refused = run({"--channels", "1 6 11", "WLAN_check_channel", "13", "RADIO_2.4GHz"});
+    const RunResult refused = run({"--channels", "1 6 11", "WLAN_check_channel", "13", "RADIO_2.4GHz"});
     EXPECT_EQ(1, refused.status);
     EXPECT_TRUE(refused.out.starts_with("refused: -1")) << refused.out;
 }
@@ -107,7 +107,7 @@ TEST_F(Driver, IsToldInTheReasonOfARefusal)
     EXPECT_EQ("no_channel_listed", none[0]["reason"]["id"]);
 }
 
-TEST_F(Driver, ThatIsNotThereIsNotTheValuesFault)
+TEST_F(Driver, ThatIsMissingDoesNotRefuseTheValue)
 {
     const auto rows = run_batch(std::string(kChannel6) +
                                 "WLAN_check_channel 6 RADIO_3GHz\nWLAN_check_channel 0 "
@@ -115,24 +115,24 @@ TEST_F(Driver, ThatIsNotThereIsNotTheValuesFault)
     EXPECT_EQ("no_driver", rows[0]["verdict"]);
     EXPECT_TRUE(rows[0]["code"].is_null());
     EXPECT_EQ("no_driver_list", rows[0]["reason"]["id"]);
-    EXPECT_EQ("the driver gave no list: wlctl was not found", rows[0]["reason"]["text"]);
+    EXPECT_EQ("the driver returned no list: wlctl was not found", rows[0]["reason"]["text"]);
     EXPECT_NE(std::string::npos, rows[0]["err"].get<std::string>().find("wlctl"));
     EXPECT_EQ("refused", rows[1]["verdict"]);  // which needs no list
     EXPECT_EQ("accepted", rows[2]["verdict"]);
     EXPECT_EQ(1, rows[3]["summary"]["no_driver"]);
-    const Outcome single = run({"WLAN_check_channel", "6", "RADIO_2.4GHz"});
+    const RunResult single = run({"WLAN_check_channel", "6", "RADIO_2.4GHz"});
     EXPECT_EQ(2, single.status);
-    EXPECT_EQ("no driver: the channel was not judged (the driver gave no list: wlctl was not found)\n",
+    EXPECT_EQ("no driver: the channel was not judged (the driver returned no list: wlctl was not found)\n",
               single.out);
     EXPECT_NE(std::string::npos, single.err.find("wlctl")) << single.err;
 }
 
-TEST_F(Driver, ThatFailsIsNotTheValuesFault)
+TEST_F(Driver, ThatFailsDoesNotRefuseTheValue)
 {
     const WithTool tool("#!/bin/sh\necho no such device >&2\nexit 1\n");
     const auto rows = run_batch(kChannel6);
     EXPECT_EQ("no_driver", rows[0]["verdict"]);
-    EXPECT_EQ("the driver gave no list: wlctl failed", rows[0]["reason"]["text"]);
+    EXPECT_EQ("the driver returned no list: wlctl failed", rows[0]["reason"]["text"]);
     EXPECT_EQ("no such device\n", rows[0]["err"]);
 }
 
@@ -140,11 +140,11 @@ TEST_F(Driver, ThatFailsIsNotTheValuesFault)
 TEST_F(Driver, MayGrumble)
 {
     const WithTool tool("#!/bin/sh\necho slow >&2\necho 1 6 11\n");
-    EXPECT_EQ((Outcome{0, "accepted: 0, valid\n", "slow\n"}),
+    EXPECT_EQ((RunResult{0, "accepted: 0, valid\n", "slow\n"}),
               run({"WLAN_check_channel", "6", "RADIO_2.4GHz"}));
 }
 
-// A tool that hangs leaves no list behind that a later call could take for the driver's.
+// A tool that hangs leaves no list that a later call could take for the driver's.
 TEST_F(Driver, MayHang)
 {
     const WithTool tool("#!/bin/sh\nsleep 60\n");
@@ -159,7 +159,7 @@ TEST_F(Driver, IsAskedByOneProcessAtATime)
     std::string input;
     for (int i = 0; i < 200; ++i)
         input += "WLAN_check_channel 6 RADIO_2.4GHz\n" + std::string(200000, '#') + "\n";
-    const Outcome outcome = run({"batch", "--jobs", "4", "--channels", "1 6 11"}, input);
+    const RunResult outcome = run({"batch", "--jobs", "4", "--channels", "1 6 11"}, input);
     EXPECT_EQ("200 cases: 200 accepted, 0 refused\n", summary_of(outcome));
 }
 

@@ -23,7 +23,7 @@ TEST(Examples, JudgeEveryFunctionAndHoldGoodAndRefusedValues)
         // Scripts make cases and are none.
         if (entry.is_regular_file() && entry.path().extension() != ".py") arguments.push_back(entry.path());
     }
-    const Outcome outcome = run(arguments);
+    const RunResult outcome = run(arguments);
     EXPECT_EQ(1, outcome.status);  // neither malformed lines nor checks that did not return
 
     std::set<std::string> judged;

@@ -1,4 +1,4 @@
-"""Checks found by a word, and what is answered to names that are not quite right.
+"""Checks found by a word, and suggestions for mistyped names.
 
 usage: find_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -113,9 +113,9 @@ class Mistyped(unittest.TestCase):
             with self.subTest(name=name):
                 self.assert_answer([name, "lst"], 'there is no check and no command "%s"%s' % (name, question))
 
-    def test_case_is_taken_as_meant_and_said(self):
+    def test_names_in_another_case_are_accepted(self):
         for name in ("param_check_port", "PARAM_CHECK_PORT", "Param_Check_Port"):
-            said = 'ostrel-check: "%s" is taken as PARAM_check_port\n' % name
+            said = 'ostrel-check: "%s" is read as PARAM_check_port\n' % name
             result = run(name, "8080")
             self.assertEqual((0, "accepted: 0, valid\n", said), (result.returncode, result.stdout, result.stderr))
             result = run("--json", name, "65536")

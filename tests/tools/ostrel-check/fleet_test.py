@@ -180,7 +180,7 @@ class Fleet(unittest.TestCase):
                     self.assertIn((process.returncode, err), ((0, b""), (1, b"")))  # little may be left
                     break
                 self.assertIn(process.returncode, (130, 143))
-                begin = re.fullmatch(rb"stopped after line \d+; go on with --start-line (\d+)\n", err).group(1).decode()
+                begin = re.fullmatch(rb"stopped after line \d+; resume with --start-line (\d+)\n", err).group(1).decode()
         self.assertGreater(len(summaries), 2)
         self.same(self.wholes[name], self.path("resumed"))
         self.same(self.path(name + ".whole.summary"), self.summarise(*summaries))

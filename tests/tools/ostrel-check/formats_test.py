@@ -124,11 +124,11 @@ class OneText(unittest.TestCase):
             row = judged('{"check":"PARAM_check_num_range","args":%s}' % arguments, "--with-args")[0]
             self.assertEqual(("accepted", ["15", 1, 20]), (row["verdict"], row["args"]))
         row = judged('{"check":"PARAM_check_num_range","args":["15",1.5,20]}')[0]
-        self.assertRegex(row["meaning"], r'argument \w+ takes a number; "1.5" is none')
+        self.assertRegex(row["meaning"], r'argument \w+ takes a number; "1.5" is not one')
 
 
 class Malformed(unittest.TestCase):
-    """What is no record is named, and the rest goes on."""
+    """Malformed records are reported, and the rest is judged."""
 
     def test_numbers_are_those_of_json(self):
         for token in ("01", "-01", "00", "1.", "-", "--1", "+1", ".5", "1.e1", "1e", "1e+", "1e1.5", "1.5.5", "0x1", "1 2",
@@ -136,7 +136,7 @@ class Malformed(unittest.TestCase):
             with self.subTest(token):
                 row = judged('{"check":"PARAM_check_bool_value","args":[%s]}' % token)[0]
                 self.assertEqual("malformed", row["verdict"])
-                self.assertIn("broken JSON", row["meaning"])
+                self.assertIn("invalid JSON", row["meaning"])
 
     def test_reasons(self):
         for line, meaning in (
@@ -149,13 +149,13 @@ class Malformed(unittest.TestCase):
                  "a text holds a lone surrogate, which is not a character"),
                 (b'{"check":"PARAM_check_port","args":["\xed\xa0\x80"]}', "byte 38 is \\xED, which is not UTF-8"),
                 (b'{"check":"PARAM_check_port","args":["\xff"]}', "byte 38 is \\xFF, which is not UTF-8"),
-                (b'{"check":"PARAM_check_port","args":["\x00"]}', "broken JSON: byte 38 is NUL"),
+                (b'{"check":"PARAM_check_port","args":["\x00"]}', "invalid JSON: byte 38 is NUL"),
                 (b"PARAM_check_port \x001", "byte 18 of the line is NUL"),
-                (b'{"check":"PARAM_check_port","args":[{"repeat":"1","times":3}]}', '"repeat" is the notation of the conformance'),
-                (b'{"check":"PARAM_check_port","args":[{"join":["1"]}]}', '"join" is the notation of the conformance vectors'),
+                (b'{"check":"PARAM_check_port","args":[{"repeat":"1","times":3}]}', '"repeat" is notation of the conformance'),
+                (b'{"check":"PARAM_check_port","args":[{"join":["1"]}]}', '"join" is notation of the conformance vectors'),
                 (b'{"check":"PARAM_check_port","args":[{}]}', "1 value"),
                 (b'{"check":"PARAM_check_port","args":[[null]]}', "an array of texts cannot hold null"),
-                (b'{"check":"PARAM_check_port","args":["1"}', "broken JSON: "),
+                (b'{"check":"PARAM_check_port","args":["1"}', "invalid JSON: "),
                 (b'{"check":"PARAM_check_port","x":' + b"[" * 100 + b"]" * 100 + b"}", "the JSON is nested too deeply"),
         ):
             result = run(line + b"\nPARAM_check_port 1\n", "--json")
@@ -187,13 +187,13 @@ class Malformed(unittest.TestCase):
     def test_strict(self):
         for line, meaning in (('{"check":"PARAM_check_port","args":["1"],"id":1,"parameter":"p"}', None),
                               ('{"check":"PARAM_check_port","args":["1"],"site":1}', 'unknown member "site"'),
-                              ('{"check":"PARAM_check_port","args":["1"],"id":1,"id":2}', 'doubled member "id"'),
-                              ('{"check":"PARAM_check_port","args":["9x"],"args":["1"]}', 'doubled member "args"')):
+                              ('{"check":"PARAM_check_port","args":["1"],"id":1,"id":2}', 'duplicate member "id"'),
+                              ('{"check":"PARAM_check_port","args":["9x"],"args":["1"]}', 'duplicate member "args"')):
             self.assertEqual("accepted", judged(line)[0]["verdict"])
             row = judged(line, "--strict")[0]
             self.assertEqual(("malformed", meaning) if meaning else ("accepted", "valid"), (row["verdict"], row["meaning"]))
         for header, meaning in (("check,value,id", None), ("check,value,site", 'unknown column "site"'),
-                                ("check,id,value,id", 'doubled column "id"')):
+                                ("check,id,value,id", 'duplicate column "id"')):
             rows = judged(f"{header}\nPARAM_check_port,1,1{',1' if header.count(',') == 3 else ''}\n", "--strict", "--format", "csv")
             self.assertEqual(meaning, rows[0]["meaning"] if meaning else None)
             self.assertEqual(1, len(rows))
@@ -214,9 +214,9 @@ class Csv(unittest.TestCase):
                           (8, "malformed", None), (9, "malformed", None), (10, "accepted", "7")],
                          [(row["line"], row["verdict"], row.get("id")) for row in rows])
         self.assertEqual(['a\r\nb, "c"'], rows[1]["args"])
-        self.assertEqual(["the row has 2 fields; the header has 3", "field 3 begins with a quotation mark and has no closing one",
-                          "field 3 goes on after its closing quotation mark",
-                          "field 3 holds a quotation mark and is not between quotation marks"],
+        self.assertEqual(["the row has 2 fields; the header has 3", "field 3 has an opening quotation mark and no closing one",
+                          "field 3 continues after its closing quotation mark",
+                          "field 3 holds a quotation mark and is not quoted"],
                          [row["meaning"] for row in rows[2:6]])
 
     def test_columns(self):
@@ -281,7 +281,7 @@ class Json(unittest.TestCase):
                 self.assertEqual((2, "malformed", line), (len(rows), rows[1]["verdict"], rows[1]["line"]), tail)
                 self.assertTrue(rows[1]["meaning"].startswith(f"column {column}: "), (tail, rows[1]["meaning"]))
 
-    def test_what_is_no_record_is_malformed_alone(self):
+    def test_a_malformed_element_does_not_affect_others(self):
         rows = judged('[1, "a", null, [], {"check": "PARAM_check_port", "args": ["1"]}, {}]', "--format", "json")
         self.assertEqual(["malformed"] * 4 + ["accepted", "malformed"], [row["verdict"] for row in rows])
 

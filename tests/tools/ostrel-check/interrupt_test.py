@@ -1,4 +1,4 @@
-"""A batch that is interrupted, or that has no room for its results, and goes on later.
+"""A batch that is interrupted, or that runs out of disk space, and resumes later.
 
 usage: interrupt_test.py OSTREL_CHECK
 """
@@ -16,7 +16,7 @@ import unittest
 
 LINES = [text for i in range(40000)
          for text in (f"PARAM_check_port {i * 3}", "", f'{{"check": "PPP_check_user_name", "args": ["{i}"]}}')]
-WHERE = re.compile(rb"stopped after line ([0-9]+); go on with --start-line ([0-9]+)\n")
+WHERE = re.compile(rb"stopped after line ([0-9]+); resume with --start-line ([0-9]+)\n")
 
 
 def batch(*options, text=b"", **more):
@@ -87,13 +87,13 @@ class Interruption(Cases):
         self.assertIn(b"accepted", process.stdout.readline())
         process.send_signal(signal.SIGINT)
         self.assertEqual(b"1 case: 1 accepted, 0 refused\n", process.stdout.read())
-        self.assertEqual(b"stopped after line 1; go on with --start-line 2\n", process.stderr.read())
+        self.assertEqual(b"stopped after line 1; resume with --start-line 2\n", process.stderr.read())
         self.assertEqual(130, process.wait())
         process.stdin.close()
         process.stdout.close()
         process.stderr.close()
 
-    def test_the_record_is_finished_and_no_more(self):
+    def test_only_the_current_record_is_finished(self):
         process = subprocess.Popen([PROGRAM, "batch", "--try", "--limit-time", "0.5"], bufsize=0,
                                    stdin=subprocess.PIPE,
                                    stdout=subprocess.PIPE, stderr=subprocess.PIPE)
@@ -193,7 +193,7 @@ class FullDisk(Cases):
         self.assertEqual(2, result.returncode)
         self.assertEqual(b"ostrel-check: cannot write the results: No space left on device\n"
                          b"0 cases: 0 accepted, 0 refused\n"
-                         b"stopped after line 0; go on with --start-line 1\n", result.stderr)
+                         b"stopped after line 0; resume with --start-line 1\n", result.stderr)
 
     def test_for_the_summary_alone(self):
         result = batch("--stream", "--summary-file", "/dev/full", text=b"PARAM_check_port 1\n")
@@ -205,7 +205,7 @@ class FullDisk(Cases):
 
 
 class ExitZero(unittest.TestCase):
-    def test_verdicts_count_for_nothing(self):
+    def test_verdicts_do_not_count(self):
         text = b"PARAM_check_port 65536\nx\nPARAM_check_port @null\n"
         self.assertEqual(3, batch(text=text).returncode)
         self.assertEqual(0, batch("--exit-zero", text=text).returncode)

@@ -90,14 +90,6 @@ class Catalogue(unittest.TestCase):
         self.assertEqual("!()*;?", "".join(sorted(self.bytes("TcmValidateRouterName", "shell", "first"))))
         self.assertEqual(["inside", "last"], self.where("LAN_check_cis_dev_name", "blanks"))
 
-    def test_null_is_told(self):
-        def null(name, argument=0):
-            return self.checks[name]["arguments"][argument]["null"]
-        self.assertEqual("ends the process (failed assertion value_p != ((void *)0))", null("PARAM_check_port"))
-        self.assertEqual("ends the process (memory fault)", null("TcmValidateIPAddress"))
-        self.assertEqual("refused with 402", null("PARAM_check_MACAddress"))
-        self.assertEqual("accepted", null("Param_check_datetime_value"))
-        self.assertIn("depends on protocol: ", null("PORTMAPPING_check_port_available"))
 
 
 class Surroundings(unittest.TestCase):
@@ -141,7 +133,7 @@ class Pieces(unittest.TestCase):
         """A line is counted in its piece."""
         return re.sub(r'^{"line":[0-9]+,', "{", text, flags=re.MULTILINE)
 
-    def test_parallel_gives_what_one_run_gives(self):
+    def test_parallel_results_are_those_of_one_run(self):
         lines = []
         for number in range(20000):
             lines.append(f"PARAM_check_port {number * 7}\n" if number % 5 else "\n")

@@ -16,16 +16,15 @@ namespace {
 
 std::string in_small_letters(const std::string& text) { return CLI::detail::to_lower(text); }
 
-// argument_of is the type of an option in mdoc: words that are given as they stand, or a name for what is given.
+// argument_of is the type of an option in mdoc: its words, or a name for its value.
 std::string argument_of(const CLI::Option& option)
 {
     if (option.get_items_expected_max() == 0) return "";
     std::string text;
     for (const std::string& word : CLI::detail::split(option.get_type_name(), kOr))
         text.append(text.empty() ? "" : " | ").append(in_small_letters(word));
-    const bool is_given_as_it_stands =
-        text == CLI::detail::join(CLI::detail::split(option.get_type_name(), kOr), " | ");
-    text = (is_given_as_it_stands ? "Cm " : "Ar ") + text;
+    const bool is_literal = text == CLI::detail::join(CLI::detail::split(option.get_type_name(), kOr), " | ");
+    text = (is_literal ? "Cm " : "Ar ") + text;
     return option.get_items_expected_min() == 0 ? " Op " + text : " " + text;
 }
 

@@ -27,9 +27,9 @@ std::string shown(const Item& item)
 }
 
 // Reading of a file, as a supervisor and its worker do it.
-class File {
+class FileReading {
  public:
-    File(FileFormat format, const Reading& reading)
+    FileReading(FileFormat format, const Reading& reading)
         : format_(format), cases_(reading), cutter_(make_cutter(format, reading))
     {
     }
@@ -227,9 +227,9 @@ TEST(Readers, FindTheSameRecordsHoweverTheBytesArrive)
         const std::string text = changed(files()[roll(dice, files().size())], dice);
         const auto format = static_cast<FileFormat>(roll(dice, 5));
         const Reading reading = any_reading(dice);
-        File whole(format, reading);
+        FileReading whole(format, reading);
         whole.add(text, true);
-        File pieces(format, reading);
+        FileReading pieces(format, reading);
         std::string_view rest = text;
         bool goes_on = true;
         while (goes_on && !rest.empty()) {

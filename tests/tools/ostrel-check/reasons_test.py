@@ -15,13 +15,13 @@ import vectors  # noqa: E402  it is there
 
 
 def batch(lines, *options):
-    """batch judges a line each and gives the results in their order."""
+    """batch judges lines and returns the results in order."""
     result = subprocess.run([PROGRAM, "batch", "--json", *options], input=lines, capture_output=True, text=True,
                             check=False)
     return [row for row in map(json.loads, result.stdout.splitlines()) if "check" in row]
 
 
-LONGEST = 100000  # megabytes of one letter have the reason that kilobytes have
+LONGEST = 100000  # longer texts have the same reasons
 
 
 def judged(name, *values):
@@ -34,7 +34,7 @@ def said(*words):
 
 
 class Vectors(unittest.TestCase):
-    """Each refusal has a reason that can be told."""
+    """Each refusal has a reason."""
 
     @classmethod
     def setUpClass(cls):
@@ -107,11 +107,6 @@ class Told(unittest.TestCase):
         row = judged("TcmValidateDataTransmitRates", "1,2,7")
         self.assertEqual((2, "7"), (row["reason"]["item"], row["reason"]["item_text"]))
         self.assertTrue(row["reason"]["text"].startswith('item 3 ("7") is none of 1, 2, 5.5, '))
-
-    def test_a_secret_is_not_shown(self):
-        row = judged("WLAN_check_wepkeys", ["0123456789", "01234567", "", ""])
-        self.assertEqual("too_short", row["reason"]["id"])
-        self.assertNotIn("01234567", json.dumps(row["reason"]))
 
     def test_the_reason_is_that_of_the_step_that_decided(self):
         row = judged("GUESTACCESS_check_max_allowed_number", "abc")

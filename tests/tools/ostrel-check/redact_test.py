@@ -3,7 +3,7 @@
 usage: redact_test.py OSTREL_CHECK SOURCE_DIR
 
 Every check with a secret argument is called with the rows of vectors/, their secrets replaced by markers, so that each
-of its steps is reached: in their place, before, behind and around what stands there.
+of its steps is reached: as the value, before it, after it and around it.
 """
 
 import json
@@ -135,7 +135,7 @@ class Redaction(unittest.TestCase):
         row = json.loads(self.batch([line], "--redact", "--json", "--with-args").splitlines()[0])
         self.assertEqual([7, "A.1.B", "north", ["<14 bytes>"]], [row[name] for name in ("id", "parameter", "site", "args")])
 
-    def test_values_that_a_map_has_no_word_for(self):
+    def test_values_that_a_map_does_not_translate(self):
         """The value may be of another parameter than the one that is judged, and a secret there."""
         with tempfile.NamedTemporaryFile("w", suffix=".json") as file:
             json.dump({"parameters": [
@@ -146,7 +146,7 @@ class Redaction(unittest.TestCase):
             for options in FORMS:
                 shown = self.assert_hidden(lines, "--map", file.name, "--format", "ndjson", *options)
                 if options != ["--summary-only"]:
-                    self.assertIn("Key has a value that the map has no word for: (what the line holds is not shown)", shown)
+                    self.assertIn("Key has a value that the map does not translate: (the content of the line is not shown)", shown)
 
     def test_ends_of_processes_hide_it_too(self):
         lines = [json.dumps({"check": "WLAN_check_preshared_key2", "args": args})

@@ -1,4 +1,4 @@
-"""What a batch writes: what came in comes out, and every line of JSON suits the schema.
+"""Results of a batch: members are passed through, and every JSON line matches the schema.
 
 usage: results_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -54,7 +54,7 @@ class Schema(unittest.TestCase):
             self.validator.validate(row)
         self.assertGreater(sum("given" in row for row in rows), 1000)
 
-    def test_it_refuses_what_is_none(self):
+    def test_it_rejects_other_objects(self):
         row = json.loads(run("PARAM_check_port 99999\n", "--json").splitlines()[0])
         self.validator.validate(row)
         for change in ({"verdict": "good"}, {"code": None}, {"line": 0}, {"reason": {"id": "x"}}, {"out": {"base64": "a"}},
@@ -75,7 +75,7 @@ class Passed(unittest.TestCase):
             self.assertIn(token, line)
         self.assertEqual(0, json.loads(line)["code"])
 
-    def test_the_last_of_doubled_members_counts(self):
+    def test_the_last_of_duplicate_members_counts(self):
         row = json.loads(run('{"id":1,"check":"x","id":2,"args":["x"],"check":"PARAM_check_port","args":["1"],"id":3}', "--json")
                          .splitlines()[0])
         self.assertEqual((3, "accepted"), (row["id"], row["verdict"]))
@@ -97,12 +97,19 @@ class Passed(unittest.TestCase):
         row = json.loads(run('id,check,value,Straße,code\n007,PARAM_check_port,1,"a ""ß""\n",\n', "--json").splitlines()[0])
         self.assertEqual(("007", 'a "ß"\n', {"code": ""}), (row["id"], row["Straße"], row["given"]))
 
-    def test_stream_has_the_line_and_no_file(self):
+    def test_stream_has_line_numbers_and_no_file(self):
         rows = [json.loads(line) if line else None for line in run("PARAM_check_port 1\n\n" + self.LINE, "--stream").split("\n")]
         self.assertEqual([1, 3], [rows[0]["line"], rows[2]["line"]])
         self.assertEqual([None, None], [rows[1], rows[3]])
         self.assertNotIn("file", rows[0])
         self.assertEqual({"code": 7, "file": None}, rows[2]["given"])
+
+    def test_only_refused(self):
+        text = "PARAM_check_port 80\nPARAM_check_bool_value 2\nPARAM_check_prot 1\n"
+        self.assertEqual([2, 3], [json.loads(line)["line"] for line in run(text, "--json", "--only-refused").splitlines()[:-1]])
+        table = run(text, "--only-refused")
+        self.assertTrue(table.startswith("      2  refused     402  PARAM_check_bool_value 2\n"), table)
+        self.assertTrue(table.endswith("2 cases: 1 accepted, 1 refused; 1 malformed line\n"), table)
 
     def test_as_csv(self):
         text = run(self.LINE + TROUBLE, "--format-out", "csv", "--with-args")

@@ -19,12 +19,12 @@ std::string program()
     return other != nullptr ? other : OSTREL_CHECK;
 }
 
-void PrintTo(const Outcome& outcome, std::ostream* stream)
+void PrintTo(const RunResult& outcome, std::ostream* stream)
 {
     *stream << "\n  status " << outcome.status << "\n  out " << outcome.out << "\n  err " << outcome.err;
 }
 
-Outcome run(std::vector<std::string> arguments, std::string_view input)
+RunResult run(std::vector<std::string> arguments, std::string_view input)
 {
     const File in(input);
     const File out("");
@@ -50,7 +50,7 @@ Outcome run(std::vector<std::string> arguments, std::string_view input)
 std::vector<nlohmann::json> run_batch(std::string_view input, std::vector<std::string> options)
 {
     options.insert(options.begin(), {"batch", "--json"});
-    const Outcome outcome = run(options, input);
+    const RunResult outcome = run(options, input);
     EXPECT_EQ("", outcome.err);
     std::vector<nlohmann::json> rows;
     std::istringstream lines(outcome.out);
@@ -58,7 +58,7 @@ std::vector<nlohmann::json> run_batch(std::string_view input, std::vector<std::s
     return rows;
 }
 
-std::string summary_of(const Outcome& outcome)
+std::string summary_of(const RunResult& outcome)
 {
     const std::string_view out = outcome.out;
     if (!out.ends_with('\n')) return "(no whole line)";

@@ -19,19 +19,19 @@ std::string value_error(const std::string& problem, const std::string& name)
     return "ostrel-check: " + problem + "\nostrel-check explain " + name + " says what it takes.\n";
 }
 
-TEST(Single, AcceptedIsZero)
+TEST(Single, AcceptanceExitsWithZero)
 {
-    EXPECT_EQ((Outcome{0, "accepted: 0, valid\n", ""}), run({"PARAM_check_port", "8080"}));
+    EXPECT_EQ((RunResult{0, "accepted: 0, valid\n", ""}), run({"PARAM_check_port", "8080"}));
 }
 
-TEST(Single, RefusedIsOneBehindTheReport)
+TEST(Single, RefusalExitsWithOneAfterTheReport)
 {
     const auto refused = [](const std::string& reason) {
-        return Outcome{1,
-                       "library: Error in PARAM_check_port: The port shoud be between 0~65535\n"
-                       "refused: 601, out of range (" +
-                           reason + ")\n",
-                       ""};
+        return RunResult{1,
+                         "library: Error in PARAM_check_port: The port shoud be between 0~65535\n"
+                         "refused: 601, out of range (" +
+                             reason + ")\n",
+                         ""};
     };
     EXPECT_EQ(refused("is 65536; at most 65535 is allowed"), run({"PARAM_check_port", "65536"}));
     EXPECT_EQ(refused("is -1; at least 0 is needed"), run({"PARAM_check_port", "-1"}));
@@ -39,7 +39,7 @@ TEST(Single, RefusedIsOneBehindTheReport)
               run({"--limit-time", "9", "PARAM_check_port", "-1a"}));
 }
 
-TEST(Single, WhatBeginsLikeAnOptionIsAValueBehindTheName)
+TEST(Single, AnythingAfterTheNameIsAValue)
 {
     EXPECT_EQ(1, run({"PARAM_check_bool_value", "--help"}).status);
     EXPECT_EQ("library: Error in PARAM_check_bool_value: The value --version out of range[0,1]\n",
@@ -53,37 +53,37 @@ TEST(Single, WhatBeginsLikeAnOptionIsAValueBehindTheName)
 TEST(Single, VerdictBeginsALineWhateverWasPrinted)
 {
     EXPECT_EQ(
-        (Outcome{1, "library: -\nrefused: 402, invalid value (byte 3 is \"-\"; \":\" is expected there)\n",
-                 ""}),
+        (RunResult{1, "library: -\nrefused: 402, invalid value (byte 3 is \"-\"; \":\" is expected there)\n",
+                   ""}),
         run({"PARAM_check_MACAddress", "00-11-22-33-44-55"}));
 }
 
 TEST(Single, EmptyLinesAreLeftOut)
 {
-    EXPECT_EQ((Outcome{1,
-                       "library: Error in WLAN_check_beacon_type: Error beacon type:a\n"
-                       "library: b\n"
-                       "refused: 402, invalid value (is none of None, Basic, WPA, 11i, WPAand11i)\n",
-                       ""}),
+    EXPECT_EQ((RunResult{1,
+                         "library: Error in WLAN_check_beacon_type: Error beacon type:a\n"
+                         "library: b\n"
+                         "refused: 402, invalid value (is none of None, Basic, WPA, 11i, WPAand11i)\n",
+                         ""}),
               run({"WLAN_check_beacon_type", "a\n\nb"}));
 }
 
-TEST(Single, NumberThatIsNoVerdictIsAnAnswer)
+TEST(Single, NumberThatIsNotAVerdictIsAnAnswer)
 {
-    EXPECT_EQ((Outcome{0, "answer 2\n", ""}), run({"countChar", "a,b,c", "44"}));
-    EXPECT_EQ((Outcome{0, "answer 1\n", ""}), run({"countChar", "a,b", "0x2C"}));
+    EXPECT_EQ((RunResult{0, "answer 2\n", ""}), run({"countChar", "a,b,c", "44"}));
+    EXPECT_EQ((RunResult{0, "answer 1\n", ""}), run({"countChar", "a,b", "0x2C"}));
 }
 
-TEST(Single, WhatIsFilledInIsShown)
+TEST(Single, OutputArgumentsAreShown)
 {
-    EXPECT_EQ((Outcome{0,
-                       "accepted: 0, valid\n"
-                       "  account_type after the call: 2\n",
-                       ""}),
+    EXPECT_EQ((RunResult{0,
+                         "accepted: 0, valid\n"
+                         "  account_type after the call: 2\n",
+                         ""}),
               run({"TcmValidatePPPUsername", "1234567890123#4567@example.net"}));
 }
 
-TEST(Single, ANumberThatIsNotWrittenIsNotShownAsOne)
+TEST(Single, AnUnwrittenNumberIsShownAsUnwritten)
 {
     EXPECT_TRUE(run({"TcmValidatePPPUsername", "1#2#3#4567890123456@example.net"})
                     .out.ends_with("  account_type after the call: not written\n"));
@@ -93,7 +93,7 @@ TEST(Single, ANumberThatIsNotWrittenIsNotShownAsOne)
 
 TEST(Single, EachBlockIsAWordAndIsShownAfterTheCall)
 {
-    const Outcome outcome = run({"WLAN_check_wepkeys", "0123456789", "abc", "@@null", ""});
+    const RunResult outcome = run({"WLAN_check_wepkeys", "0123456789", "abc", "@@null", ""});
     EXPECT_EQ(1, outcome.status);
     EXPECT_TRUE(outcome.out.ends_with("  keys after the call: 0123456789 abc @@null \"\"\n")) << outcome.out;
     EXPECT_EQ(value_error("1 value was given; expected: WLAN_check_wepkeys keys_1 keys_2 keys_3 keys_4",
@@ -104,13 +104,13 @@ TEST(Single, EachBlockIsAWordAndIsShownAfterTheCall)
 
 TEST(Single, BufferThatIsOnlyWrittenIsShown)
 {
-    EXPECT_EQ((Outcome{0, "accepted: 0, valid\n  offset_out after the call: +00:00\n", ""}),
+    EXPECT_EQ((RunResult{0, "accepted: 0, valid\n  offset_out after the call: +00:00\n", ""}),
               run({"HNAPCORE_check_timezone", "UTC"}));
 }
 
 TEST(Single, BufferThatIsRewrittenIsShownSafely)
 {
-    const Outcome outcome = run({"WLAN_check_ssid", "caf&eacute;"});
+    const RunResult outcome = run({"WLAN_check_ssid", "caf&eacute;"});
     EXPECT_EQ(1, outcome.status);
     EXPECT_TRUE(outcome.out.ends_with(" after the call: \"caf\\xE9\"\n")) << outcome.out;
 }
@@ -120,11 +120,12 @@ TEST(Single, EscapesAreReadOnRequest)
     EXPECT_EQ(0, run({"-e", "TcmValidatePPPPassword", "caf\\xE9"}).status);
     EXPECT_EQ(1, run({"--escapes", "TcmValidatePPPPassword", "a\\nb"}).status);
     EXPECT_EQ(0, run({"TcmValidatePPPPassword", "a\\nb"}).status);
-    EXPECT_EQ((Outcome{2, "",
-                       value_error("argument value_p holds U+0000 (a NUL byte), where C would end the value",
-                                   "PARAM_check_port")}),
-              run({"-e", "PARAM_check_port", "1\\x00"}));
-    EXPECT_EQ((Outcome{2, "", usage_error("\\q is no escape; a backslash itself is \\\\")}),
+    EXPECT_EQ(
+        (RunResult{2, "",
+                   value_error("argument value_p holds U+0000 (a NUL byte), where C would end the value",
+                               "PARAM_check_port")}),
+        run({"-e", "PARAM_check_port", "1\\x00"}));
+    EXPECT_EQ((RunResult{2, "", usage_error("\\q is not an escape; a backslash is \\\\")}),
               run({"-e", "PARAM_check_port", "\\q"}));
 }
 
@@ -135,9 +136,9 @@ TEST(Single, RawBytesReachTheCheckAsTheyAre)
               run({"PARAM_check_bool_value", "\xE9\x1B[1m"}).out.substr(0, 76));
 }
 
-TEST(Single, FailedAssertionIsThree)
+TEST(Single, FailedAssertionExitsWithThree)
 {
-    const Outcome outcome = run({"PARAM_check_bool_value", "@null"});
+    const RunResult outcome = run({"PARAM_check_bool_value", "@null"});
     EXPECT_EQ(3, outcome.status);
     EXPECT_EQ(
         "ended: an assertion ended the process (SIGABRT) (is NULL, which fails an assertion in the check)\n",
@@ -149,43 +150,44 @@ TEST(Single, FailedAssertionIsThree)
     EXPECT_EQ(1, run({"PARAM_check_bool_value", "@@null"}).status);
 }
 
-TEST(Single, CallThatDoesNotReturnIsThree)
+TEST(Single, CallThatDoesNotReturnExitsWithThree)
 {
-    EXPECT_EQ(
-        (Outcome{3,
-                 "no return: the check did not return within 0.2 s (is a value for which the check does not "
-                 "return)\n",
-                 ""}),
-        run({"--try", "--limit-time", "0.2", "PARAM_check_ui2_value", "1"}));
+    EXPECT_EQ((RunResult{
+                  3,
+                  "no return: the check did not return within 0.2 s (is a value for which the check does not "
+                  "return)\n",
+                  ""}),
+              run({"--try", "--limit-time", "0.2", "PARAM_check_ui2_value", "1"}));
 }
 
-TEST(Single, WrongUsageIsTwo)
+TEST(Single, WrongUsageExitsWithTwo)
 {
-    EXPECT_EQ((Outcome{2, "",
-                       "ostrel-check: there is no check and no command \"PARAM_check_prot\"; did you mean "
-                       "PARAM_check_port?\n"
-                       "ostrel-check list WORD finds checks by a word of their names or rules.\n"}),
+    EXPECT_EQ((RunResult{2, "",
+                         "ostrel-check: there is no check and no command \"PARAM_check_prot\"; did you mean "
+                         "PARAM_check_port?\n"
+                         "ostrel-check list WORD finds checks by a word of their names or rules.\n"}),
               run({"PARAM_check_prot", "1"}));
-    EXPECT_EQ(
-        (Outcome{2, "",
-                 value_error("0 values were given; expected: PARAM_check_port value_p", "PARAM_check_port")}),
-        run({"PARAM_check_port"}));
-    EXPECT_EQ((Outcome{2, "",
-                       value_error("1 value was given; expected: PARAM_check_num_range value_p min:number "
-                                   "max:number",
-                                   "PARAM_check_num_range")}),
+    EXPECT_EQ((RunResult{2, "",
+                         value_error("0 values were given; expected: PARAM_check_port value_p",
+                                     "PARAM_check_port")}),
+              run({"PARAM_check_port"}));
+    EXPECT_EQ((RunResult{2, "",
+                         value_error("1 value was given; expected: PARAM_check_num_range value_p min:number "
+                                     "max:number",
+                                     "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1"}));
     EXPECT_EQ(
-        (Outcome{2, "", value_error("argument min takes a number; \"a\" is none", "PARAM_check_num_range")}),
+        (RunResult{2, "",
+                   value_error("argument min takes a number; \"a\" is not one", "PARAM_check_num_range")}),
         run({"PARAM_check_num_range", "1", "a", "3"}));
-    EXPECT_EQ((Outcome{2, "",
-                       value_error("argument min takes a number from -2147483648 to 2147483647",
-                                   "PARAM_check_num_range")}),
+    EXPECT_EQ((RunResult{2, "",
+                         value_error("argument min takes a number from -2147483648 to 2147483647",
+                                     "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1", "2147483648", "3"}));
-    EXPECT_EQ((Outcome{2, "", value_error("argument min takes a number", "PARAM_check_num_range")}),
+    EXPECT_EQ((RunResult{2, "", value_error("argument min takes a number", "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1", "@null", "3"}));
-    EXPECT_EQ((Outcome{2, "", usage_error("the NAME of a check, or a command, is missing")}), run({"-e"}));
-    EXPECT_EQ((Outcome{2, "", usage_error("there is no option --limit")}),
+    EXPECT_EQ((RunResult{2, "", usage_error("the NAME of a check, or a command, is missing")}), run({"-e"}));
+    EXPECT_EQ((RunResult{2, "", usage_error("there is no option --limit")}),
               run({"--limit", "PARAM_check_port"}));
     EXPECT_EQ(2, run({"--limit-time", "0", "PARAM_check_port", "1"}).status);
     EXPECT_EQ(2, run({"batch", "--nothing"}).status);
@@ -194,7 +196,7 @@ TEST(Single, WrongUsageIsTwo)
 
 TEST(Single, UnknownNamesAreShownSafely)
 {
-    const Outcome outcome = run({"\x1B[1m\xE9", "1"});
+    const RunResult outcome = run({"\x1B[1m\xE9", "1"});
     EXPECT_EQ(2, outcome.status);
     EXPECT_EQ("ostrel-check: there is no check and no command \"\\x1B[1m\\xE9\"\n",
               outcome.err.substr(0, 61));
@@ -202,20 +204,20 @@ TEST(Single, UnknownNamesAreShownSafely)
 
 TEST(Single, HelpAndVersion)
 {
-    EXPECT_EQ((Outcome{0, "ostrel-check " OSTREL_VERSION "\n", ""}), run({"--version"}));
+    EXPECT_EQ((RunResult{0, "ostrel-check " OSTREL_VERSION "\n", ""}), run({"--version"}));
     EXPECT_NE(std::string::npos, run({"--help"}).out.find("ostrel-check PARAM_check_port 8080"));
     EXPECT_NE(std::string::npos, run({"batch", "--help"}).out.find("--json"));
 }
 
 TEST(Single, AloneTheProgramShowsItsUsage)
 {
-    const Outcome outcome = run({});
+    const RunResult outcome = run({});
     EXPECT_EQ(2, outcome.status);
     EXPECT_TRUE(outcome.err.starts_with("Usage: ostrel-check [OPTIONS] NAME VALUE...\n")) << outcome.err;
     EXPECT_TRUE(outcome.err.ends_with("\nostrel-check --help says more.\n")) << outcome.err;
 }
 
-TEST(Single, JsonIsThatOfABatch)
+TEST(Single, JsonIsTheSameAsInABatch)
 {
     const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
         {{"PARAM_check_port", "8080"}, R"(["8080"])"},
@@ -240,7 +242,7 @@ TEST(Single, JsonIsThatOfABatch)
 
 TEST(Single, ListShowsArgumentsAndRule)
 {
-    const Outcome list = run({"list"});
+    const RunResult list = run({"list"});
     EXPECT_EQ(0, list.status);
     EXPECT_NE(std::string::npos, list.out.find("\nparameter_check\n"));
     EXPECT_NE(std::string::npos, list.out.find("  PARAM_check_number value_p min_len:number max_len:number\n"

@@ -26,7 +26,7 @@ constexpr char kTrouble[] =
     "PARAM_check_port 2\n"
     "PARAM_check_ui4_value 5";
 
-TEST(Trouble, IsTheVerdictOfItsLineAndTheRestGoesOn)
+TEST(Trouble, IsTheVerdictOfItsLineAndTheRestIsJudged)
 {
     const std::vector<json> rows = run_batch(kTrouble, {"--limit-time", "0.3", "--try"});
     ASSERT_EQ(9U, rows.size());
@@ -53,7 +53,7 @@ TEST(Trouble, IsTheVerdictOfItsLineAndTheRestGoesOn)
 
 TEST(Trouble, TableNamesTheCaseAndItsAssertion)
 {
-    const Outcome outcome = run({"batch", "--limit-time", "0.3", "--try", "--jobs", "2"}, kTrouble);
+    const RunResult outcome = run({"batch", "--limit-time", "0.3", "--try", "--jobs", "2"}, kTrouble);
     EXPECT_EQ(3, outcome.status);
     EXPECT_NE(std::string::npos,
               outcome.out.find("      2  ended            PARAM_check_port @null\n"
@@ -68,7 +68,7 @@ TEST(Trouble, TableNamesTheCaseAndItsAssertion)
 }
 
 // What the description says of a value need not be waited for.
-TEST(Trouble, ThatIsKnownIsAnsweredAtOnce)
+TEST(Trouble, ThatIsKnownNeedsNoCall)
 {
     std::string lines;
     for (int i = 0; i < 100; ++i) lines += "PARAM_check_ui2_value 1\nPARAM_check_ui2_value x\n";
@@ -81,12 +81,13 @@ TEST(Trouble, ThatIsKnownIsAnsweredAtOnce)
     EXPECT_EQ("refused", rows[1]["verdict"]);
     EXPECT_FALSE(rows[1].contains("tried"));
     EXPECT_EQ(100, rows[200]["summary"]["no_return"]);
-    EXPECT_EQ((Outcome{3,
-                       "no return: the check is known not to return and was not called (is a value for which "
-                       "the check does not return)\n",
-                       ""}),
-              run({"--limit-time", "3600", "PARAM_check_ui2_value", "1"}));
-    const Outcome tried = run({"--try", "--limit-time", "0.2", "PARAM_check_ui2_value", "1"});
+    EXPECT_EQ(
+        (RunResult{3,
+                   "no return: the check is known not to return and was not called (is a value for which "
+                   "the check does not return)\n",
+                   ""}),
+        run({"--limit-time", "3600", "PARAM_check_ui2_value", "1"}));
+    const RunResult tried = run({"--try", "--limit-time", "0.2", "PARAM_check_ui2_value", "1"});
     EXPECT_TRUE(tried.out.starts_with("no return: the check did not return within 0.2 s")) << tried.out;
 }
 
@@ -94,11 +95,11 @@ TEST(Trouble, OfManyCasesIsOvercome)
 {
     std::string lines;
     for (int i = 0; i < 200; ++i) lines += "PARAM_check_port @null\nPARAM_check_port 1\n";
-    const Outcome outcome = run({"batch"}, lines);
+    const RunResult outcome = run({"batch"}, lines);
     EXPECT_EQ("400 cases: 200 accepted, 0 refused, 200 ended the process\n", summary_of(outcome));
 }
 
-// shell runs a command line in which $CHECK is the program, and gives its status.
+// shell runs a command line in which $CHECK is the program, and returns its status.
 int shell(const std::string& command)
 {
     setenv("CHECK", program().c_str(), 1);
@@ -107,7 +108,7 @@ int shell(const std::string& command)
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
 }
 
-TEST(Trouble, ReaderThatGoesAwayEndsTheBatch)
+TEST(Trouble, ClosedPipeEndsTheBatch)
 {
     EXPECT_EQ(0, shell("yes PARAM_check_port 1 | timeout 20 $CHECK batch | head -n 1 >/dev/null;"
                        "test ${PIPESTATUS[1]} -eq 0"));
@@ -132,7 +133,7 @@ TEST(Trouble, ResultsComeAsTheCasesDo)
                        "read -t 10 line <&${COPROC[0]} && test \"${line:0:11}\" = \"1  accepted\""));
 }
 
-TEST(Trouble, KilledSupervisorLeavesNoWorkerBehind)
+TEST(Trouble, KilledSupervisorLeavesNoWorkerRunning)
 {
     EXPECT_EQ(
         0, shell("$CHECK batch --try --limit-time 60 <<< \"PARAM_check_ui2_value 1\" >/dev/null & parent=$!;"

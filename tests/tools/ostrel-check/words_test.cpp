@@ -69,10 +69,10 @@ TEST(Words, FaultsAreNamed)
     EXPECT_EQ("no closing \"", problem_of([] { split("a \"b"); }));
     EXPECT_EQ("no closing '", problem_of([] { split("'"); }));
     EXPECT_EQ("no closing \"", problem_of([] { split("\"\\\""); }));
-    EXPECT_EQ("a \\ stands at the end", problem_of([] { split("a\\"); }));
+    EXPECT_EQ("a \\ is the last character", problem_of([] { split("a\\"); }));
     EXPECT_EQ("\\x needs two hexadecimal digits", problem_of([] { split("\\x1"); }));
     EXPECT_EQ("\\x needs two hexadecimal digits", problem_of([] { split("\\xg1"); }));
-    EXPECT_EQ("\\q is no escape; a backslash itself is \\\\", problem_of([] { split("\\q"); }));
+    EXPECT_EQ("\\q is not an escape; a backslash is \\\\", problem_of([] { split("\\q"); }));
 }
 
 TEST(Words, EveryByteShownIsReadBackAsItself)
@@ -144,7 +144,7 @@ TEST(Values, NumbersAreDecimalOrHexadecimal)
     EXPECT_EQ((std::vector<Value>{44LL}), value_of(Kind::kUnsigned, "0x2c"));
     EXPECT_EQ((std::vector<Value>{1LL << 62}), value_of(Kind::kInteger, "99999999999999999999999"));
     for (const std::string word : {"", "-", "1 ", " 1", "1x", "0x", "--1", "x"}) {
-        EXPECT_EQ("argument a takes a number; \"" + word + "\" is none",
+        EXPECT_EQ("argument a takes a number; \"" + word + "\" is not one",
                   problem_of([&] { value_of(Kind::kInteger, word); }));
     }
 }
@@ -161,7 +161,7 @@ TEST(Values, EachBlockIsAWord)
               problem_of([&] { values_of(function, {"a"}); }));
 }
 
-TEST(Values, WhatIsOnlyWrittenMayBeLeftOut)
+TEST(Values, OutputArgumentsMayBeOmitted)
 {
     const std::array<catalogue::Argument, 3> arguments = {
         {{"value", Kind::kText}, {"type", Kind::kIntegerOut}, {"n", Kind::kInteger}}};

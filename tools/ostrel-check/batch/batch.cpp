@@ -178,7 +178,7 @@ class Batch {
             say(where + ", after " + std::to_string(summary_.tally().sum()) + " records in all\n");
             return exit_code_of_stop();
         }
-        where += "; go on with --start-line " + std::to_string(line_);
+        where += "; resume with --start-line " + std::to_string(line_);
         if (file_ > 0) where += ", with that file as the first one";
         say(where + "\n");
         return exit_code_of_stop();

@@ -22,7 +22,7 @@ constexpr std::size_t kMostKnown = std::size_t{1} << 14;
 
 }  // namespace
 
-void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const Row&)>& visit)
+void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const SummaryRow&)>& visit)
 {
     std::string_view rest(log.rows.data(), size.bytes);
     const auto take = [&](std::size_t count) {
@@ -33,7 +33,7 @@ void for_each_row(const Log& log, const Log::Size& size, const std::function<voi
     for (std::uint32_t i = 0; i < size.rows; ++i) {
         Head head;
         std::memcpy(&head, take(sizeof head).data(), sizeof head);
-        Row row;
+        SummaryRow row;
         row.check = head.check;
         row.verdict = static_cast<Verdict>(head.verdict);
         row.code = head.code;
@@ -44,7 +44,7 @@ void for_each_row(const Log& log, const Log::Size& size, const std::function<voi
     }
 }
 
-std::uint32_t LogWriter::append(Log::Size& size, const Row& row)
+std::uint32_t LogWriter::append(Log::Size& size, const SummaryRow& row)
 {
     Head head;
     head.check = row.check;
@@ -67,7 +67,7 @@ std::uint32_t LogWriter::append(Log::Size& size, const Row& row)
     return size.rows++;
 }
 
-void LogWriter::add(Log::Size& size, const Row& row, std::uint32_t lines, std::size_t written,
+void LogWriter::add(Log::Size& size, const SummaryRow& row, std::uint32_t lines, std::size_t written,
                     const std::function<std::string()>& example)
 {
     key_.assign(reinterpret_cast<const char*>(&row.check), sizeof row.check);
@@ -78,7 +78,7 @@ void LogWriter::add(Log::Size& size, const Row& row, std::uint32_t lines, std::s
     if (found == known_.end()) {
         if (known_.size() == kMostKnown) known_.clear();
         const std::string told = example();
-        Row with_example = row;
+        SummaryRow with_example = row;
         with_example.example = told;
         found = known_.emplace(key_, Known{round_, append(size, with_example)}).first;
     } else if (found->second.round != round_) {

@@ -53,7 +53,7 @@ struct Log {
 };
 
 // for_each_row calls visit with each row of a log, in order.
-void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const Row&)>& visit);
+void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const SummaryRow&)>& visit);
 
 // LogWriter adds to a log. It knows which rows are there already, and which examples it has told.
 class LogWriter {
@@ -64,7 +64,7 @@ class LogWriter {
     void begin() { ++round_; }
 
     // add adds a record. The example is asked for where none of that kind of case was told before.
-    void add(Log::Size& size, const Row& row, std::uint32_t lines, std::size_t written,
+    void add(Log::Size& size, const SummaryRow& row, std::uint32_t lines, std::size_t written,
              const std::function<std::string()>& example);
 
     // add_end adds a line without a record, or the end of a gateway.
@@ -76,7 +76,7 @@ class LogWriter {
         std::uint32_t row = 0;
     };
 
-    std::uint32_t append(Log::Size& size, const Row& row);
+    std::uint32_t append(Log::Size& size, const SummaryRow& row);
 
     Log* log_;
     std::uint64_t round_ = 1;

@@ -177,7 +177,7 @@ std::uint32_t Slot::count(std::size_t written, Summary& summary)
             summary.unmapped().add({1, gateway.parameters, gateway.skipped, gateway.repeated, 0});
     }
     std::size_t next = 0;
-    for_each_row(log, size, [&](const Row& row) {
+    for_each_row(log, size, [&](const SummaryRow& row) {
         const std::uint64_t count = counts[next++];
         if (count > 0) summary.add({row, false, count});
     });

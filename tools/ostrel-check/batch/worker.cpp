@@ -189,7 +189,7 @@ class Judge {
     calling::Capture capture_;
     calling::Caller caller_;
     Cases cases_;
-    const Map* map_;  // NULL: there is none
+    const Map* map_;  // NULL: none
     std::uint64_t noted_line_ = 0;
     Result result_;
     LogWriter log_;

@@ -17,7 +17,7 @@ inline constexpr std::size_t kEnoughOutput = std::size_t{4} << 20;
 inline constexpr std::size_t kMostOutput = 8 * kEnoughOutput;
 
 // run_worker serves until its supervisor closes the pipe of orders: for each byte that comes it judges a part
-// of what the arena holds, from where progress stands, and answers with a byte.
+// of what the arena holds, from the current progress on, and answers with a byte.
 [[noreturn]] void run_worker(Arena& arena, const Style& style, const Reading& reading,
                              const std::vector<std::string>& files, const Descriptor& orders,
                              const Descriptor& answers);

@@ -28,7 +28,7 @@ inline CLI::Option* choose_from(CLI::Option* option, const std::vector<std::stri
     return refuse_others(option, words)->type_name(CLI::detail::join(words, std::string(1, kOr)));
 }
 
-// add_choice adds an option that stores what its word stands for; target must outlive the command.
+// add_choice adds an option that stores the value of its word; target must outlive the command.
 template <typename Target, typename Value>
 CLI::Option* add_choice(CLI::App& app, const char* name, Target& target,
                         const std::vector<std::pair<std::string, Value>>& choices, const char* what)

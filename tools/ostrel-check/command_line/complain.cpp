@@ -37,7 +37,7 @@ const catalogue::Function* find_meant(const std::string& name)
 {
     const catalogue::Function* function = catalogue::find_in_any_case(name);
     if (function != nullptr && function->name != name)
-        say("ostrel-check: \"" + name + "\" is taken as " + std::string(function->name) + "\n");
+        say("ostrel-check: \"" + name + "\" is read as " + std::string(function->name) + "\n");
     return function;
 }
 

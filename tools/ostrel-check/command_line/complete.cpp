@@ -25,7 +25,7 @@ void add_names(Candidates& candidates)
         candidates.push_back({std::string(function.name), rules::accepted(*function.check, gateway())});
 }
 
-// values_of returns what a type stands for: words are written in small letters, kinds of words in capital ones.
+// values_of returns the candidates of a type: words are in small letters, kinds of words in capital ones.
 Candidates values_of(const std::string& type)
 {
     Candidates candidates;

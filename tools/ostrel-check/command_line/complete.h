@@ -10,7 +10,7 @@
 
 namespace ostrel::tool {
 
-// kFiles is the candidate that stands for the path of any file; no name or keyword begins with "@".
+// kFiles is the candidate for the path of any file; no name or keyword begins with "@".
 inline constexpr std::string_view kFiles = "@files";
 
 struct Candidate {

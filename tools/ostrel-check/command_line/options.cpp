@@ -38,27 +38,27 @@ void exclude_each_other(const std::vector<CLI::Option*>& options)
 
 void add_explain(CLI::App& app, Options& options)
 {
-    CLI::App& explain = add_command(app, "explain", "Say what a check wants", explain_help());
+    CLI::App& explain = add_command(app, "explain", "Explain what a check accepts", explain_help());
     explain.add_option("NAME", options.name, "The check")->required()->type_name("");
-    explain.add_flag("--json", options.json, "In JSON, as in list --json");
+    explain.add_flag("--json", options.json, "As JSON, in the form of list --json");
 }
 
 void add_list(CLI::App& app, Options& options)
 {
     CLI::App& list = add_command(app, "list", "Find checks by word, or show all of them", list_help());
-    CLI::Option* patterns = add_positional(list, "PATTERN", options.patterns,
-                                           "Words that a check's name, rule or arguments have");
+    CLI::Option* patterns =
+        add_positional(list, "PATTERN", options.patterns, "Words in a check's name, rule or arguments");
     CLI::Option* family = list.add_option("--family", options.family, "The checks of one family");
     refuse_others(family, catalogue::families())->type_name("FAMILY");
     CLI::Option* json = list.add_flag("--json", options.json, "The catalogue in JSON");
     CLI::Option* schema =
-        list.add_option("--schema", options.schema, "JSON Schema of it, or of what is named");
+        list.add_option("--schema", options.schema, "JSON Schema of the catalogue, or as named");
     choose_from(schema->expected(0, 1)->default_str("catalogue"), {"catalogue", "result", "summary", "map"});
     CLI::Option* json_schema =
         list.add_flag("--json-schema", options.json_schema, "A JSON Schema for what the checks accept");
     CLI::Option* reference = list.add_flag("--reference", options.reference, "The reference in Markdown");
     CLI::Option* hazards =
-        list.add_flag("--hazards", options.hazards, "What accepted values may hold, in Markdown");
+        list.add_flag("--hazards", options.hazards, "What accepted values may contain, in Markdown");
     exclude_each_other({json, schema, json_schema, reference, hazards});
     for (CLI::Option* whole : {schema, json_schema, hazards}) whole->excludes(patterns)->excludes(family);
 }
@@ -71,22 +71,22 @@ void add_batch(CLI::App& app, Options& options)
         batch.add_flag("--json", options.json, "A line of JSON for each case, one for the summary");
     CLI::Option* stream =
         batch.add_flag("--stream", options.stream, "A line of JSON for each record, no summary");
-    batch.add_flag("--only-refused", options.rules.style.only_refused, "Leave out what was accepted")
+    batch.add_flag("--only-refused", options.rules.style.only_refused, "Omit accepted cases")
         ->excludes(stream);
     add_reading(batch, options.rules.reading);
-    batch.add_flag("--with-args", options.rules.style.with_args, "Repeat the arguments in JSON and CSV");
+    batch.add_flag("--with-args", options.rules.style.with_args, "Include arguments in JSON and CSV");
     CLI::Option* format = add_choice<Format, Format>(
         batch, "--format-out", options.rules.style.format,
         {{"text", Format::kTable}, {"ndjson", Format::kJson}, {"csv", Format::kCsv}},
-        "How results are written (text)");
+        "Format of results (text)");
     exclude_each_other({json, stream, format});
     add_call_options(batch, options.manner, options.channels);
     add_ending_options(batch, options.ending, options.rules);
-    batch.add_option("--map", options.map, "Dumps of gateways, judged by this map")
+    batch.add_option("--map", options.map, "Judge dumps of gateways with this map")
         ->excludes(batch.get_option("--check"))
         ->excludes(batch.get_option("--strict"))
         ->type_name("FILE");
-    batch.add_option("--jobs", options.jobs, "Processes that judge side by side (1)")
+    batch.add_option("--jobs", options.jobs, "Number of worker processes (1)")
         ->check(CLI::Range(1, 64).description(""))
         ->type_name("N");
     add_positional(batch, "FILE", options.rules.files, "Files to read; - is standard input");
@@ -94,7 +94,7 @@ void add_batch(CLI::App& app, Options& options)
 
 void add_compare(CLI::App& app, Options& options)
 {
-    CLI::App& compare = add_command(app, "compare", "Put a data model beside the checks", compare_help());
+    CLI::App& compare = add_command(app, "compare", "Compare a data model with the checks", compare_help());
     compare.add_option("FILE", options.name, "The map of its parameters")->required()->type_name("");
     CLI::Option* json = compare.add_flag("--json", options.json, "The comparison in JSON");
     compare.add_flag("--markdown", options.markdown, "A page in Markdown")->excludes(json);
@@ -113,7 +113,7 @@ std::unique_ptr<CLI::App> make_command_line(Options& options)
     app->prefix_command();
     app->require_subcommand(0, 1);  // a file may be called "list"
 
-    app->add_flag("-e,--escapes", options.with_escapes, "Read escapes in the values");
+    app->add_flag("-e,--escapes", options.with_escapes, "Read escapes in values");
     app->add_flag("--json", options.json, "The verdict as a line of JSON");
     add_call_options(*app, options.manner, options.channels);
     add_explain(*app, options);
@@ -124,7 +124,7 @@ std::unique_ptr<CLI::App> make_command_line(Options& options)
     add_compare(*app, options);
     CLI::App& complete = add_command(*app, "complete", "Complete a word, for a shell", complete_help());
     complete.group("");
-    complete.add_flag("--described", options.described, "With what each is, after a tab");
+    complete.add_flag("--described", options.described, "Add a description after a tab");
     add_positional(complete, "WORD", options.words, "The words after the program's name");
     return app;
 }

@@ -16,7 +16,7 @@ std::string one_byte(const std::string& given)
     const std::string delimiter = read_escapes(given);
     constexpr std::string_view kTaken("\"\r\n\0", 4);
     if (delimiter.size() == 1 && kTaken.find(delimiter) == std::string_view::npos) return {};
-    return "one byte is needed that is neither \" nor of a line end";
+    return "it must be one byte, and neither \" nor a line end";
 }
 
 }  // namespace
@@ -29,26 +29,25 @@ void add_reading(CLI::App& batch, Reading& reading)
                                                        {"csv", FileFormat::kCsv},
                                                        {"tsv", FileFormat::kTsv},
                                                        {"json", FileFormat::kJson}},
-                                                      "Of the files; by name or first bytes if not given");
+                                                      "Format of files (from name or first bytes)");
     add_choice<Encoding, Encoding>(batch, "--encoding", reading.encoding,
                                    {{"utf-8", Encoding::kUtf8}, {"latin-1", Encoding::kLatin1}},
-                                   "Of the values (utf-8)");
+                                   "Encoding of values (utf-8)");
     batch
         .add_option_function<std::string>(
             "--delimiter", [&](const std::string& given) { reading.delimiter = read_escapes(given).front(); },
-            "Between the fields of CSV (,)")
+            "Delimiter of CSV (,)")
         ->check(one_byte)
         ->type_name("BYTE");
-    batch.add_option("--check", reading.check, "The column of the check, or one check for all")
+    batch.add_option("--check", reading.check, "Column of the check, or one check for all")
         ->type_name("COLUMN|NAME");
-    batch.add_option("--value", reading.values, "A column of its arguments; once for each")
+    batch.add_option("--value", reading.values, "Column of an argument; once for each")
         ->type_name("COLUMN")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    batch.add_option("--group", reading.group, "With --map: the column of the gateway")->type_name("COLUMN");
-    batch.add_option("--parameter", reading.parameter, "With --map: the column of the path")
-        ->type_name("COLUMN");
-    batch.add_flag("--strict", reading.is_strict, "Refuse unknown and doubled members and columns");
+    batch.add_option("--group", reading.group, "With --map: column of the gateway")->type_name("COLUMN");
+    batch.add_option("--parameter", reading.parameter, "With --map: column of the path")->type_name("COLUMN");
+    batch.add_flag("--strict", reading.is_strict, "Refuse unknown and duplicate members and columns");
 }
 
 }  // namespace ostrel::tool

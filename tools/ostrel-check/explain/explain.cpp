@@ -106,8 +106,7 @@ void write_tables(Page& page, const rules::Check& check)
 
 constexpr std::string_view kOfDriver =
     "The check asks the wireless driver through the command wlctl, which /bin/sh finds on PATH. Whatever "
-    "either "
-    "of them writes to standard error appears there, for example that wlctl was not found.";
+    "either of them writes to standard error appears there, for example that wlctl was not found.";
 
 void write_check(Page& page, const Function& function)
 {
@@ -142,7 +141,7 @@ std::string declaration_of(const Function& function)
 
 std::string explain(const Function& function, const Look& look)
 {
-    TextPage page(look);
+    Page page(look);
     page.title(std::string(function.name).append(" (").append(function.family).append(")"));
     write_check(page, function);
     return page.text();
@@ -187,7 +186,7 @@ what a step keeps under that name.
     family = "";
     for (const Function* function : selection) {
         if (function->family != family) text.append("\n## ").append(family = function->family).append("\n");
-        MarkdownPage page;
+        Page page;
         page.title(function->name);
         write_check(page, *function);
         text += page.text();

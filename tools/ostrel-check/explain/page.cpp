@@ -9,47 +9,86 @@ namespace {
 constexpr std::size_t kItem = 2;
 constexpr std::size_t kDetail = 6;
 constexpr std::size_t kDepth = 4;
-constexpr std::size_t kMarkdownDepth = 2;
+
+std::string with_label(std::string_view label, std::string_view text)
+{
+    return std::string(label).append(": ").append(text);
+}
 
 }  // namespace
 
-void TextPage::wrap(std::string_view text, std::size_t indentation, std::size_t hanging)
+void Page::wrap(std::string_view text, std::size_t indentation, std::size_t hanging)
 {
-    append_wrapped(out(), text, indentation, hanging, look_.columns);
+    append_wrapped(text_, text, indentation, hanging, look_->columns);
 }
 
-void TextPage::title(std::string_view text)
+void Page::bullet(std::size_t depth, std::string_view text)
 {
-    out().append(painted(text, Colour::kBold, look_.with_colours)).append("\n");
+    text_.append(2 * depth, ' ').append("- ").append(text).append("\n");
 }
 
-void TextPage::declaration(std::string_view text) { wrap(text, kItem); }
-
-void TextPage::heading(std::string_view text)
+void Page::title(std::string_view text)
 {
-    out().append("\n").append(painted(text, Colour::kBold, look_.with_colours)).append("\n");
+    if (look_) {
+        text_.append(painted(text, Colour::kBold, look_->with_colours)).append("\n");
+    } else {
+        text_.append("\n### ").append(text).append("\n");
+    }
 }
 
-void TextPage::paragraph(std::string_view text) { wrap(text, kItem); }
-
-void TextPage::item(std::string_view label, std::string_view text)
+void Page::declaration(std::string_view text)
 {
-    wrap(std::string(label).append(": ").append(text), kItem);
+    if (look_) {
+        wrap(text, kItem);
+    } else {
+        text_.append("\n").append(as_code(text)).append("\n");
+    }
 }
 
-void TextPage::detail(std::string_view text) { wrap(text, kDetail); }
-
-void TextPage::step(std::size_t depth, std::string_view number, std::string_view text)
+void Page::heading(std::string_view text)
 {
-    const std::string label = std::string(number) + ". ";
-    wrap(label + std::string(text), kItem + kDepth * depth, label.size());
+    text_ += '\n';
+    if (look_) {
+        title(text);
+    } else {
+        text_.append("**").append(text).append("**\n\n");
+    }
 }
 
-void TextPage::note(std::size_t depth, std::string_view text) { wrap(text, kDetail + kDepth * depth); }
-
-void TextPage::line(std::size_t depth, std::string_view label, std::string_view text)
+void Page::paragraph(std::string_view text)
 {
-    wrap(std::string(label).append(": ").append(text), kDetail + kDepth * depth, 2);
+    if (look_) {
+        wrap(text, kItem);
+    } else if (text.starts_with("- ")) {
+        bullet(0, in_markdown(text.substr(2)));
+    } else {
+        text_.append(text_.ends_with("\n\n") ? "" : "\n").append(in_markdown(text)).append("\n");
+    }
+}
+
+void Page::item(std::string_view label, std::string_view text)
+{
+    look_ ? wrap(with_label(label, text), kItem) : bullet(0, with_label(as_code(label), in_markdown(text)));
+}
+
+void Page::detail(std::string_view text) { look_ ? wrap(text, kDetail) : bullet(1, in_markdown(text)); }
+
+void Page::step(std::size_t depth, std::string_view number, std::string_view text)
+{
+    const std::string label = std::string(number) + (look_ ? ". " : " ");
+    look_ ? wrap(label + std::string(text), kItem + kDepth * depth, label.size())
+          : bullet(depth, label + in_markdown(text));
+}
+
+void Page::note(std::size_t depth, std::string_view text)
+{
+    look_ ? wrap(text, kDetail + kDepth * depth) : bullet(depth + 1, in_markdown(text));
+}
+
+void Page::line(std::size_t depth, std::string_view label, std::string_view text)
+{
+    look_ ? wrap(with_label(label, text), kDetail + kDepth * depth, 2)
+          : bullet(depth + 1, with_label(in_markdown(label), as_code(text)));
 }
 
 std::string in_markdown(std::string_view text)
@@ -73,49 +112,6 @@ std::string as_code(std::string_view text)
     const std::string fence(longest + 1, '`');
     const bool needs_blanks = text.empty() || text.front() == '`' || text.back() == '`';
     return fence + (needs_blanks ? " " : "") + std::string(text) + (needs_blanks ? " " : "") + fence;
-}
-
-void MarkdownPage::title(std::string_view text) { out().append("\n### ").append(text).append("\n"); }
-
-void MarkdownPage::declaration(std::string_view text)
-{
-    out().append("\n").append(as_code(text)).append("\n");
-}
-
-void MarkdownPage::heading(std::string_view text) { out().append("\n**").append(text).append("**\n\n"); }
-
-void MarkdownPage::paragraph(std::string_view text)
-{
-    const bool is_item = text.starts_with("- ");
-    if (!is_item && !out().ends_with("\n\n")) out() += '\n';
-    out().append(is_item ? "- " : "").append(in_markdown(is_item ? text.substr(2) : text)).append("\n");
-}
-
-void MarkdownPage::item(std::string_view label, std::string_view text)
-{
-    out().append("- ").append(as_code(label)).append(": ").append(in_markdown(text)).append("\n");
-}
-
-void MarkdownPage::detail(std::string_view text)
-{
-    out().append("  - ").append(in_markdown(text)).append("\n");
-}
-
-void MarkdownPage::step(std::size_t depth, std::string_view number, std::string_view text)
-{
-    out().append(kMarkdownDepth * depth, ' ').append("- ").append(number).append(" ");
-    out().append(in_markdown(text)).append("\n");
-}
-
-void MarkdownPage::note(std::size_t depth, std::string_view text)
-{
-    out().append(kMarkdownDepth * (depth + 1), ' ').append("- ").append(in_markdown(text)).append("\n");
-}
-
-void MarkdownPage::line(std::size_t depth, std::string_view label, std::string_view text)
-{
-    out().append(kMarkdownDepth * (depth + 1), ' ').append("- ").append(in_markdown(label)).append(": ");
-    out().append(as_code(text)).append("\n");
 }
 
 }  // namespace ostrel::tool

@@ -3,6 +3,7 @@
 #define OSTREL_TOOLS_EXPLAIN_PAGE_H
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,69 +13,35 @@ namespace ostrel::tool {
 
 class Page {
  public:
-    Page() = default;
-    Page(const Page&) = delete;
-    Page& operator=(const Page&) = delete;
-    virtual ~Page() = default;
+    Page() = default;                                 // in Markdown
+    explicit Page(const Look& look) : look_(look) {}  // for a terminal
 
-    virtual void title(std::string_view text) = 0;
-    virtual void declaration(std::string_view text) = 0;
-    virtual void heading(std::string_view text) = 0;
-    virtual void paragraph(std::string_view text) = 0;
-    virtual void item(std::string_view label, std::string_view text) = 0;
-    virtual void detail(std::string_view text) = 0;  // of the last item
+    void title(std::string_view text);
+    void declaration(std::string_view text);
+    void heading(std::string_view text);
+    void paragraph(std::string_view text);
+    void item(std::string_view label, std::string_view text);
+    void detail(std::string_view text);  // of the last item
 
-    // Steps, one in another so many deep. note and line belong to the last step of that depth.
-    virtual void step(std::size_t depth, std::string_view number, std::string_view text) = 0;
-    virtual void note(std::size_t depth, std::string_view text) = 0;
-    virtual void line(std::size_t depth, std::string_view label,
-                      std::string_view text) = 0;  // as it is printed
+    // Steps may be nested. note and line belong to the last step of that depth; line is what is printed.
+    void step(std::size_t depth, std::string_view number, std::string_view text);
+    void note(std::size_t depth, std::string_view text);
+    void line(std::size_t depth, std::string_view label, std::string_view text);
 
     [[nodiscard]] const std::string& text() const { return text_; }
 
- protected:
-    std::string& out() { return text_; }
-
  private:
+    void wrap(std::string_view text, std::size_t indentation, std::size_t hanging = 0);
+    void bullet(std::size_t depth, std::string_view text);
+
+    std::optional<Look> look_;  // none: Markdown
     std::string text_;
 };
 
-class TextPage : public Page {
- public:
-    explicit TextPage(const Look& look) : look_(look) {}
-    void title(std::string_view text) override;
-    void declaration(std::string_view text) override;
-    void heading(std::string_view text) override;
-    void paragraph(std::string_view text) override;
-    void item(std::string_view label, std::string_view text) override;
-    void detail(std::string_view text) override;
-    void step(std::size_t depth, std::string_view number, std::string_view text) override;
-    void note(std::size_t depth, std::string_view text) override;
-    void line(std::size_t depth, std::string_view label, std::string_view text) override;
-
- private:
-    void wrap(std::string_view text, std::size_t indentation, std::size_t hanging = 0);
-
-    Look look_;
-};
-
-class MarkdownPage : public Page {
- public:
-    void title(std::string_view text) override;
-    void declaration(std::string_view text) override;
-    void heading(std::string_view text) override;
-    void paragraph(std::string_view text) override;
-    void item(std::string_view label, std::string_view text) override;
-    void detail(std::string_view text) override;
-    void step(std::size_t depth, std::string_view number, std::string_view text) override;
-    void note(std::size_t depth, std::string_view text) override;
-    void line(std::size_t depth, std::string_view label, std::string_view text) override;
-};
-
-// in_markdown gives a text in which nothing means anything to Markdown.
+// in_markdown escapes what has a meaning in Markdown.
 std::string in_markdown(std::string_view text);
 
-// as_code gives a text between back quotes, whatever it holds.
+// as_code puts any text between back quotes.
 std::string as_code(std::string_view text);
 
 }  // namespace ostrel::tool

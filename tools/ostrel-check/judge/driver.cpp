@@ -34,12 +34,12 @@ bool asks_driver(const catalogue::Function& function) { return rules::asks_drive
 StandIn::StandIn(std::string_view channels)
 {
     if (channels.find_first_not_of("0123456789 ") != std::string_view::npos) {
-        throw std::invalid_argument("--channels takes numbers with blanks between them");
+        throw std::invalid_argument("--channels takes numbers separated by blanks");
     }
     try {
         make(channels);
     } catch (const std::exception& error) {
-        problem_ = std::string("--channels cannot answer for the driver: ") + error.what();
+        problem_ = std::string("--channels cannot replace the driver: ") + error.what();
     }
 }
 
@@ -47,14 +47,14 @@ void StandIn::make(std::string_view channels)
 {
     if (access(kChannelFolder, W_OK) != 0 && !calling::move_to_own_var()) {
         problem_ = std::string("--channels needs to write ") + kChannelList +
-                   ", which this user must not, and this system allows no mount namespace in which it could";
+                   "; this user may not, and the system does not allow a mount namespace in which it could";
         return;
     }
     folder_ = (std::filesystem::temp_directory_path() / "ostrel-check.XXXXXX").string();
     if (mkdtemp(folder_.data()) == nullptr) {
         const int error = errno;
         folder_.clear();
-        throw std::system_error(error, std::generic_category(), "no folder can be made");
+        throw std::system_error(error, std::generic_category(), "cannot make a folder");
     }
     std::ofstream(folder_ + "/channels") << channels << '\n';
     std::ofstream(folder_ + "/wlctl") << "#!/bin/sh\nexec cat \"${0%/*}/channels\"\n";

@@ -12,8 +12,8 @@
 
 namespace ostrel::tool {
 
-// StandIn answers in the driver's place for as long as it lives: a wlctl of its own stands first on the path
-// and lists the channels given. A user who cannot write the driver's answer to /var gets a /var of this process's own.
+// StandIn answers in place of the driver as long as it lives: its own wlctl is the first on PATH and lists the
+// channels. A user who cannot write the driver's answer to /var gets a /var of this process's own.
 // Throws std::invalid_argument for a list that holds anything but numbers and blanks.
 class StandIn {
  public:
@@ -50,7 +50,7 @@ struct Heard {
     std::string problem;  // why there is no list; empty: there is one
 };
 
-// Listening hears what the driver answers from its beginning to heard(), in which a check is called.
+// Listening records what the driver answers until heard(); a check is called in between.
 class Listening {
  public:
     Listening();
@@ -69,7 +69,7 @@ class Listening {
     Descriptor standard_error_;
 };
 
-// clean_up_after removes what a check leaves behind that was stopped while it asked the driver.
+// clean_up_after removes the files of a check that was stopped while it asked the driver.
 void clean_up_after(const catalogue::Function& function);
 
 }  // namespace ostrel::tool

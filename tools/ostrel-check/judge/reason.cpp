@@ -113,7 +113,7 @@ void blame_driver(Result& result, std::string_view problem)
     result.problem = "the channel was not judged";
     result.why = Why();
     result.why.reason.id = kNoDriverList;
-    result.why.text = "the driver gave no list: ";
+    result.why.text = "the driver returned no list: ";
     result.why.text += problem;
 }
 

@@ -30,7 +30,7 @@ std::vector<const rules::Argument*> arguments_of(const Result& result)
     return arguments;
 }
 
-// Strings hears the texts, names and numbers in JSON.
+// Strings is a SAX handler that collects strings, names and numbers.
 struct Strings : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Strings> {
     std::vector<std::string> all;
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
@@ -61,7 +61,7 @@ std::string without_quotations(std::string_view problem)
         const std::string_view quoted =
             closing == std::string_view::npos ? "" : problem.substr(begin + 1, closing - begin - 1);
         if (std::ranges::find(kMembers, quoted) == std::end(kMembers))
-            return std::string(problem.substr(0, begin)) + "(what the line holds is not shown)";
+            return std::string(problem.substr(0, begin)) + "(the content of the line is not shown)";
         end = closing + 1;
     }
 }

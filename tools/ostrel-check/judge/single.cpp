@@ -24,13 +24,13 @@ using calling::Caller;
 
 namespace {
 
-// What the check's own process tells the one that waits, a byte each.
+// One-byte messages from the process of the check to the one that waits.
 constexpr std::string_view kReturnMark = "r";
 constexpr std::string_view kAssertionMark = "a";
 
 constexpr std::size_t kHanging = 2;
 
-// Marker marks what the library prints as it comes, so that it is not taken for what this program says.
+// Marker marks what the library prints as it arrives, to distinguish it from the messages of this program.
 class Marker {
  public:
     explicit Marker(int descriptor)
@@ -59,7 +59,7 @@ class Marker {
         if (begins_line_ && line.empty()) return;  // many lines end in two line feeds
         std::string shown(begins_line_ ? kLibrary : "");
         const bool is_whole = !shown.empty() && is_ended;
-        // A value's control bytes must not reach whoever looks at a terminal.
+        // Control bytes of a value must not reach a terminal.
         if (is_terminal_) {
             append_escaped(shown, line, line.size());
         } else {
@@ -84,7 +84,7 @@ Marker& marker_of(int descriptor)
     return descriptor == STDOUT_FILENO ? out : error;
 }
 
-// pass_on answers as the C library expects it of a stream; no exception may go through it.
+// pass_on returns what the C library expects of a stream; it must not throw.
 ssize_t pass_on(int descriptor, std::string_view text)
 {
     try {
@@ -105,15 +105,15 @@ ssize_t print_error(void* news, const char* bytes, std::size_t size)
     return pass_on(STDERR_FILENO, {bytes, size});
 }
 
-// watch_output passes on what is printed as it comes. It lets the verdict begin on a line of its own, and
-// tells an assertion from another abort.
+// watch_output passes on what is printed as it arrives. The verdict begins on a line of its own, and an assertion
+// is distinguished from any other abort.
 void watch_output(const Descriptor& news)
 {
     stdout = calling::open_stream(print, nullptr, isatty(STDOUT_FILENO) == 1 ? _IOLBF : _IOFBF);
     stderr = calling::open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
 }
 
-// verdict_line is the verdict, its first word in colour where that can be.
+// verdict_line is the verdict, its first word in colour at a terminal.
 std::string verdict_line(const Result& result)
 {
     std::string text;

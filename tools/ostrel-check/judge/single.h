@@ -13,11 +13,11 @@ namespace ostrel::tool {
 struct Manner {
     double limit = 2;            // seconds that the call may take
     bool tries_known = false;    // also a call that is known not to return
-    std::string driver_problem;  // why nobody stands in for the wireless driver as was asked for; or empty
+    std::string driver_problem;  // why --channels could not replace the wireless driver; or empty
 };
 
 // judge_one judges the values, prints the verdict and returns the exit code. Throws std::invalid_argument, with
-// a message for the user, when the values do not suit.
+// a message for the user, for values that the check does not take.
 int judge_one(const catalogue::Function& function, std::span<const std::string> words, const Manner& manner);
 
 }  // namespace ostrel::tool

@@ -20,7 +20,7 @@ namespace ostrel::tool {
 enum class Verdict {
     kAccepted,
     kRefused,
-    kAnswer,     // a number that is no verdict
+    kAnswer,     // a number that is not a verdict
     kMalformed,  // no case
     kEnded,      // the check ended its process
     kNoReturn,
@@ -29,7 +29,7 @@ enum class Verdict {
 
 inline constexpr std::size_t kVerdicts = 7;
 
-// name_of gives the verdict in a word or two, json_name in one.
+// name_of returns the verdict in a word or two, json_name in one.
 std::string_view name_of(Verdict verdict);
 std::string_view json_name(Verdict verdict);
 
@@ -62,7 +62,7 @@ struct Tally {
 struct Why {
     std::string text;  // in a sentence; empty: the reason is not known
     rules::Reason reason;
-    std::vector<rules::Reason> remarks;  // of the steps that printed and went on, in order
+    std::vector<rules::Reason> remarks;  // reasons of the steps that printed and did not decide, in order
 };
 
 // Result is a case and what became of it. The views belong to whoever made it.
@@ -70,7 +70,7 @@ struct Result {
     Verdict verdict = Verdict::kMalformed;
     const catalogue::Function* function = nullptr;  // NULL: malformed
     const std::vector<catalogue::Value>* values = nullptr;
-    const Record* record = nullptr;  // NULL: there is none
+    const Record* record = nullptr;  // NULL: none
     int code = 0;
     std::string problem;  // malformed, ended or not returned: in words
     calling::PrintedView printed;

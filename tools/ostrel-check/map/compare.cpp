@@ -6,9 +6,9 @@
 #include <optional>
 
 #include "judge/reason.h"
+#include "map/probe.h"
 #include "map/search.h"
 #include "map/standard.h"
-#include "map/trial.h"
 #include "rules/acceptance.h"
 #include "rules/language/automaton.h"
 
@@ -29,11 +29,11 @@ struct Gateway {
 
 class Comparer {
  public:
-    Comparer(const Map& map, const Entry& entry, const Facts& facts)
-        : entry_(entry), facts_(facts), trial_(map, entry), standard_(standard_of(languages_, facts))
+    Comparer(const Map& map, const MapEntry& entry, const ModelFacts& facts)
+        : entry_(entry), facts_(facts), probe_(map, entry), standard_(standard_of(languages_, facts))
     {
         gateway_ = follow_check();
-        has_others_ = !trial_.others().empty();
+        has_others_ = !probe_.others().empty();
     }
 
     Comparison compare()
@@ -122,12 +122,12 @@ class Comparer {
     {
         if (!is_of(kind, value)) return std::nullopt;
         if (std::ranges::find(tried_, value) == tried_.end()) tried_.push_back(value);
-        const std::optional<int> expected = trial_.predict(value);
+        const std::optional<int> expected = probe_.predict(value);
         if (!expected || (*expected != 0) != (kind == Kind::kRefused)) return std::nullopt;
-        const std::optional<int> code = trial_.judge(value);
+        const std::optional<int> code = probe_.judge(value);
         if (!code || *code != *expected) return std::nullopt;
-        Difference found{kind, value, *code, kind == Kind::kRefused ? trial_.reason(value) : "",
-                         trial_.others()};
+        Difference found{kind, value, *code, kind == Kind::kRefused ? probe_.reason(value) : "",
+                         probe_.others()};
         return found;
     }
 
@@ -212,9 +212,9 @@ class Comparer {
         }
     }
 
-    const Entry& entry_;
-    const Facts& facts_;
-    Trial trial_;
+    const MapEntry& entry_;
+    const ModelFacts& facts_;
+    Probe probe_;
     Languages languages_;
     Standard standard_;
     Gateway gateway_;
@@ -230,7 +230,7 @@ std::string_view name_of(Relation relation)
     return kNames.at(static_cast<std::size_t>(relation));
 }
 
-Comparison compare(const Map& map, const Entry& entry, const Facts& facts)
+Comparison compare(const Map& map, const MapEntry& entry, const ModelFacts& facts)
 {
     return Comparer(map, entry, facts).compare();
 }

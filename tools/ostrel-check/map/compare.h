@@ -1,4 +1,4 @@
-// Comparison: what a data model allows beside what the gateway's check accepts.
+// Comparison of what a data model allows with what the gateway's check accepts.
 #ifndef OSTREL_TOOLS_MAP_COMPARE_H
 #define OSTREL_TOOLS_MAP_COMPARE_H
 
@@ -39,8 +39,8 @@ struct Difference {
 };
 
 struct Comparison {
-    const Entry* entry = nullptr;
-    const Facts* facts = nullptr;
+    const MapEntry* entry = nullptr;
+    const ModelFacts* facts = nullptr;
     Relation relation = Relation::kUnknown;
     // No difference is left of the two kinds that relation speaks of but those that it says there are.
     bool is_proved = false;
@@ -50,7 +50,7 @@ struct Comparison {
 
 // compare judges with the library, in processes of its own. Throws std::invalid_argument where the map's entry lacks
 // what a comparison needs.
-Comparison compare(const Map& map, const Entry& entry, const Facts& facts);
+Comparison compare(const Map& map, const MapEntry& entry, const ModelFacts& facts);
 
 }  // namespace ostrel::tool
 

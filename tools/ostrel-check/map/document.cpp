@@ -136,7 +136,7 @@ Document::Document(std::string file) : file_(std::move(file))
         const std::string_view message = error.what();
         const std::size_t colon = message.find(": ");
         throw std::invalid_argument(
-            file_ + ":" + std::to_string(line) + ": no valid JSON: " +
+            file_ + ":" + std::to_string(line) + ": invalid JSON: " +
             std::string(message.substr(colon == std::string_view::npos ? 0 : colon + 2)));
     }
 }
@@ -158,8 +158,7 @@ void Document::require_members(const std::string& pointer, const ordered_json& o
 {
     if (!object.is_object()) complain(pointer, "it is not an object");
     for (const auto& [name, value] : object.items()) {
-        if (std::ranges::find(names, name) == names.end())
-            complain(pointer + "/" + name, "there is no such member");
+        if (std::ranges::find(names, name) == names.end()) complain(pointer + "/" + name, "unknown member");
     }
 }
 
@@ -176,7 +175,7 @@ std::string Document::text(const std::string& pointer, const ordered_json& objec
 
 std::string Document::text_of(const std::string& pointer, const ordered_json& value) const
 {
-    if (!value.is_string()) complain(pointer, "it is not a text");
+    if (!value.is_string()) complain(pointer, "it is not a string");
     std::string result = value.get<std::string>();
     if (result.find('\0') != std::string::npos) complain(pointer, "a value cannot hold U+0000");
     return result;

@@ -112,7 +112,7 @@ void Dump::read_row(std::string_view text)
     count_ = 1;
 }
 
-bool Dump::next_row(Row& row)
+bool Dump::next_row(DumpRow& row)
 {
     if (next_ == count_) return false;
     if (is_whole_gateway_) {

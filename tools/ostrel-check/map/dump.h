@@ -31,7 +31,7 @@ class Dump {
     void read(std::string_view text);
 
     // next_row returns a row of the text; line is left as it is. It holds until the next one.
-    bool next_row(Row& row);
+    bool next_row(DumpRow& row);
 
     // is_whole_gateway tells that the text was all of a gateway.
     [[nodiscard]] bool is_whole_gateway() const { return is_whole_gateway_; }

@@ -47,7 +47,7 @@ Range range_of(std::string_view text)
     return {number_of(text.substr(0, dots)), number_of(text.substr(dots + 2))};
 }
 
-void read_limits(Facts& facts)
+void read_limits(ModelFacts& facts)
 {
     if (facts.limits.empty()) return;
     for (std::string_view limit : split(facts.limits, "; ")) {
@@ -62,7 +62,7 @@ void read_limits(Facts& facts)
         } else if (take(limit, "pattern ")) {
             for (const std::string_view one : split(limit, " || ")) facts.patterns.emplace_back(one);
         } else {
-            throw std::invalid_argument("there is no limit \"" + std::string(limit) + "\"");
+            throw std::invalid_argument("unknown limit \"" + std::string(limit) + "\"");
         }
     }
 }
@@ -83,7 +83,7 @@ Model read_facts(const std::string& file)
             }
             const std::vector<std::string_view> columns = split(line, "\t");
             if (columns.size() != 5) throw std::invalid_argument("a row has five columns");
-            Facts facts;
+            ModelFacts facts;
             std::string_view type = columns[2];
             facts.is_list = take(type, "list of ");
             facts.type = type;

@@ -17,7 +17,7 @@ struct Range {
     std::optional<long long> high;
 };
 
-struct Facts {
+struct ModelFacts {
     std::string type;    // as the model has it; "string" for "list of string"
     std::string limits;  // as the model has them
     bool is_list = false;
@@ -30,7 +30,7 @@ struct Facts {
     std::vector<std::string> patterns = {};  // it matches one of these
 };
 
-using Model = std::unordered_map<std::string, Facts>;
+using Model = std::unordered_map<std::string, ModelFacts>;
 
 // read_facts reads a file of the columns path, access, type, limits and secret, separated by tabs. Throws
 // std::invalid_argument with the file and the line.

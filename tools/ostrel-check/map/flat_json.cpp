@@ -19,14 +19,14 @@ void FlatJson::read(std::string_view text)
     if (!result.IsError()) return;
     places_.clear();
     if (result.Code() != rapidjson::kParseErrorTermination)
-        problem_ = "broken JSON: " + describe(result.Code()) + " (at byte " +
+        problem_ = "invalid JSON: " + describe(result.Code()) + " (at byte " +
                    std::to_string(result.Offset() + 1) + ")";
     throw std::invalid_argument(problem_);
 }
 
 FlatJson::Parameter FlatJson::parameter(std::size_t index) const
 {
-    const Place& place = places_[index];
+    const Offsets& place = places_[index];
     const std::string_view texts = texts_;
     return {texts.substr(place.path, place.path_size), texts.substr(place.value, place.value_size)};
 }
@@ -74,16 +74,12 @@ bool FlatJson::end()
     return true;
 }
 
-bool FlatJson::EndObject(rapidjson::SizeType members) { return take_base64(members) && end(); }
-
-bool FlatJson::EndArray(rapidjson::SizeType /*elements*/) { return end(); }
-
-// take_base64 turns {"base64": text} into the value that it stands for.
+// take_base64 decodes {"base64": text}.
 bool FlatJson::take_base64(rapidjson::SizeType members)
 {
     constexpr std::string_view kName = ".base64";
     if (members != 1 || levels_.size() < 2 || places_.empty()) return true;
-    Place& last = places_.back();
+    Offsets& last = places_.back();
     const std::string_view path = std::string_view(texts_).substr(last.path, last.path_size);
     const std::size_t outside = levels_.back().path_size;
     if (path.size() != outside + kName.size() || path.substr(outside) != kName) return true;
@@ -105,16 +101,6 @@ bool FlatJson::skip()
 {
     if (!levels_.empty() && levels_.back().is_array) ++levels_.back().count;
     return true;
-}
-
-bool FlatJson::RawNumber(const char* begin, rapidjson::SizeType size, bool /*copy*/)
-{
-    return scalar({begin, size}, true);
-}
-
-bool FlatJson::String(const char* begin, rapidjson::SizeType size, bool /*copy*/)
-{
-    return scalar({begin, size}, false);
 }
 
 bool FlatJson::Key(const char* begin, rapidjson::SizeType size, bool /*copy*/)
@@ -139,7 +125,7 @@ bool FlatJson::scalar(std::string_view text, bool is_token)
         problem_ = path_ + " holds U+0000, where C would end the value";
         return false;
     }
-    Place place{texts_.size(), path_.size(), 0, 0};
+    Offsets place{texts_.size(), path_.size(), 0, 0};
     texts_ += path_;
     place.value = texts_.size();
     try {

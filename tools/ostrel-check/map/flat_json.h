@@ -17,7 +17,7 @@
 namespace ostrel::tool {
 
 // A value that is directly in the object under a name without "." is a member. Every other value is a parameter: its
-// path is made of the names that lead to it and, for an element of an array, of its number from 1. null is no value;
+// path is made of the names that lead to it and, for an element of an array, of its number from 1. null is not a value;
 // {"base64": text} is the bytes.
 class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson> {
  public:
@@ -38,17 +38,23 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
     // bytes_of is the value of a member.
     [[nodiscard]] std::string_view bytes_of(const Member& member);
 
-    // The base calls these of the class that it is told, and has its own for the rest.
+    // The base class calls these, and has its own versions of the others.
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
     bool Null() { return skip(); }
     bool Bool(bool value) { return scalar(value ? "true" : "false", true); }
-    bool RawNumber(const char* begin, rapidjson::SizeType size, bool copy);
-    bool String(const char* begin, rapidjson::SizeType size, bool copy);
+    bool RawNumber(const char* begin, rapidjson::SizeType size, bool /*copy*/)
+    {
+        return scalar({begin, size}, true);
+    }
+    bool String(const char* begin, rapidjson::SizeType size, bool /*copy*/)
+    {
+        return scalar({begin, size}, false);
+    }
     bool Key(const char* begin, rapidjson::SizeType size, bool copy);
     bool StartObject() { return start(false); }
-    bool EndObject(rapidjson::SizeType members);
+    bool EndObject(rapidjson::SizeType members) { return take_base64(members) && end(); }
     bool StartArray() { return start(true); }
-    bool EndArray(rapidjson::SizeType elements);
+    bool EndArray(rapidjson::SizeType /*elements*/) { return end(); }
     // NOLINTEND(bugprone-derived-method-shadowing-base-method)
 
  private:
@@ -57,7 +63,7 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
         std::size_t count;      // of elements
         std::size_t path_size;  // of what leads to it
     };
-    struct Place {  // in texts_
+    struct Offsets {  // in texts_
         std::size_t path;
         std::size_t path_size;
         std::size_t value;
@@ -77,7 +83,7 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
     std::string path_;
     std::string_view name_;  // of the member that is read
     std::string texts_;
-    std::vector<Place> places_;
+    std::vector<Offsets> places_;
     std::vector<Member> members_;
     std::string scratch_;
     std::string problem_;

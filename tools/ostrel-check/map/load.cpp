@@ -9,7 +9,6 @@
 
 #include "catalogue/names.h"
 #include "map/document.h"
-#include "read/bind.h"
 
 namespace ostrel::tool {
 
@@ -86,24 +85,24 @@ class Loader {
         return result;
     }
 
-    Pattern path(const std::string& at, const std::string& relative)
+    PathPattern path(const std::string& at, const std::string& relative)
     {
         const std::string full = map_.root + relative;
         std::string_view rest = full;
         while (true) {
             const std::size_t end = std::min(rest.find('.'), rest.size());
             const std::string_view name = rest.substr(0, end);
-            if (name.empty()) document_.complain(at, "a name of the path is empty");
+            if (name.empty()) document_.complain(at, "the path has an empty name");
             if (name.find_first_of("{}") != std::string_view::npos && name != kInstance)
-                document_.complain(at, "braces stand only in {i}, which is a whole name");
-            if (end == rest.size()) return Pattern(full);
+                document_.complain(at, "braces are allowed only in {i}, which must be a whole name");
+            if (end == rest.size()) return PathPattern(full);
             rest.remove_prefix(end + 1);
         }
     }
 
-    Pattern sibling(const std::string& at, const std::string& relative, const Entry& entry)
+    PathPattern sibling(const std::string& at, const std::string& relative, const MapEntry& entry)
     {
-        Pattern pattern = path(at, relative);
+        PathPattern pattern = path(at, relative);
         if (pattern.instances() > entry.path.instances())
             document_.complain(at, "it has more {i} than the path of the parameter");
         map_.paths[pattern.general()].is_sibling = true;
@@ -114,7 +113,7 @@ class Loader {
     {
         document_.require_members(at, object,
                                   {"path", "check", "value", "with", "words", "skip", "try", "because"});
-        Entry entry;
+        MapEntry entry;
         entry.line = document_.line_of(at);
         entry.path = path(at + "/path", document_.text(at, object, "path", true));
         const std::string name = document_.text(at, object, "check", true);
@@ -132,7 +131,7 @@ class Loader {
         map_.entries.push_back(std::move(entry));
     }
 
-    void add_sources(const std::string& at, const ordered_json& object, Entry& entry)
+    void add_sources(const std::string& at, const ordered_json& object, MapEntry& entry)
     {
         const std::vector<Argument> given = given_arguments(*entry.function);
         static const ordered_json kNone = ordered_json::object();
@@ -167,10 +166,10 @@ class Loader {
         entry.has_siblings = std::ranges::any_of(
             entry.sources, [](const Source& one) { return one.kind == Source::Kind::kSibling; });
         if (entry.value == given.size() && object.contains("words"))
-            document_.complain(at + "/words", "the value itself is no argument");
+            document_.complain(at + "/words", "it needs the value to be an argument");
     }
 
-    [[noreturn]] void complain_of_argument(const std::string& at, const Entry& entry, bool is_value)
+    [[noreturn]] void complain_of_argument(const std::string& at, const MapEntry& entry, bool is_value)
     {
         if (is_value) document_.complain(at, "the argument is the value itself");
         std::string names;
@@ -180,7 +179,7 @@ class Loader {
     }
 
     Source source(const std::string& at, const ordered_json& object, const Argument& argument,
-                  const Entry& entry)
+                  const MapEntry& entry)
     {
         document_.require_members(at, object, {"path", "paths", "constant", "words", "example"});
         const int kinds = object.contains("path") + object.contains("paths") + object.contains("constant");
@@ -202,20 +201,20 @@ class Loader {
             source.paths.push_back(sibling(at + "/paths/" + std::to_string(i), paths[i], entry));
         if (source.paths.size() != argument.blocks)
             document_.complain(at, "the argument needs as many paths: " + std::to_string(argument.blocks));
-        if (is_number(argument) && !source.words && !source.example.empty() &&
+        if (argument.is_number() && !source.words && !source.example.empty() &&
             source.example.find_first_not_of("-0123456789") != std::string::npos)
             document_.complain(at + "/example", "the argument is a number");
         return source;
     }
 
     // call_of names the call that an entry makes, whichever of its parameters the entry is for.
-    static std::string call_of(const Entry& entry)
+    static std::string call_of(const MapEntry& entry)
     {
         std::string name(entry.function->name);
         for (const Source& source : entry.sources) {
             name += '\n';
             if (source.kind == Source::Kind::kValue) name += entry.path.text();
-            for (const Pattern& one : source.paths) name.append(one.text()).append(" ");
+            for (const PathPattern& one : source.paths) name.append(one.text()).append(" ");
             if (name.ends_with(' ')) name.pop_back();
             if (source.kind == Source::Kind::kConstant) name.append("=").append(source.constant);
         }

@@ -35,15 +35,15 @@ struct Source {
         kConstant,  // always the same text
     };
     Kind kind = Kind::kValue;
-    std::vector<Pattern> paths = {};
+    std::vector<PathPattern> paths = {};
     std::optional<WordTable> words = std::nullopt;
     std::string constant = {};
     std::string example = {};  // a value for comparisons, before words
 };
 
-// Entry is a parameter and a check that judges it.
-struct Entry {
-    Pattern path;
+// MapEntry is a parameter and a check that judges it.
+struct MapEntry {
+    PathPattern path;
     const catalogue::Function* function = nullptr;
     std::vector<Source> sources = {};       // of each argument that must be given, in order
     std::vector<std::string> skipped = {};  // values that say nothing
@@ -72,7 +72,7 @@ struct Map {
     std::string about;
     std::string root;   // what all paths begin with
     std::string facts;  // the path of the file of facts; empty: none
-    std::vector<Entry> entries;
+    std::vector<MapEntry> entries;
     std::vector<NotMapped> not_mapped;
     ByText<KnownPath> paths;  // by the general path
 };

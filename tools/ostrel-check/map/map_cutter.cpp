@@ -37,8 +37,8 @@ Cut MapCutter::cut(std::string_view bytes, bool is_end)
     const bool is_too_long = begin_ == 0 && all > kLongestText;
     cut.size = ends_gateway || is_too_long ? whole_ : begin_;
     if (is_too_long && !ends_gateway) {
-        cut.problem = "a gateway has more than 16 MiB; what follows is judged as another one";
-        if (reading_->group.empty()) cut.problem += "; --group tells the gateways of a file apart";
+        cut.problem = "a gateway has more than 16 MiB; the rest is judged as another gateway";
+        if (reading_->group.empty()) cut.problem += "; --group separates the gateways of a file";
     }
     if (cut.size == whole_) is_in_gateway_ = false;
     whole_ -= cut.size;
@@ -80,7 +80,7 @@ void MapCutter::read_text(std::string_view text)
 void MapCutter::look_at(std::string_view text, std::size_t at)
 {
     read_text(text);
-    Row row;
+    DumpRow row;
     for (bool is_first = true; dump_->next_row(row); is_first = false) {
         if (is_first && (dump_->is_whole_gateway() || !is_in_gateway_ || dump_->gateway() != gateway_))
             begin_gateway(at);

@@ -45,7 +45,7 @@ class MapReader : public Reader {
 
     Dump dump_;
     Mapper mapper_;
-    Row row_;
+    DumpRow row_;
     Lack lack_;
     std::string problem_;
     std::string gateway_;

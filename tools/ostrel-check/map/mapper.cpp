@@ -52,7 +52,7 @@ void Mapper::begin_gateway()
 
 void Mapper::end_gateway() { is_complete_ = true; }
 
-void Mapper::take(const Row& row)
+void Mapper::take(const DumpRow& row)
 {
     row_ = row;
     generalise(row.path, general_, numbers_);
@@ -71,7 +71,7 @@ bool Mapper::next_of_row(Record& record, Lack& lack)
 {
     while (entries_ != nullptr && next_entry_ < entries_->size()) {
         const std::size_t index = (*entries_)[next_entry_++];
-        const Entry& entry = map_->entries[index];
+        const MapEntry& entry = map_->entries[index];
         if (!entry.path.matches(row_.path, numbers_)) continue;
         if (std::ranges::find(entry.skipped, row_.value) != entry.skipped.end()) {
             use_ = std::max(use_, Use::kSkipped);
@@ -101,7 +101,7 @@ bool Mapper::next(Record& record, Lack& lack)
     if (next_of_row(record, lack)) return true;
     while (is_complete_ && next_deferred_ < deferred_.size()) {
         const Deferred& one = deferred_[next_deferred_++];
-        const Entry& entry = map_->entries[one.entry];
+        const MapEntry& entry = map_->entries[one.entry];
         if (!is_first(entry, one.numbers)) continue;
         make(entry, one.row, one.numbers, record, lack);
         return true;
@@ -125,17 +125,17 @@ void Mapper::defer(std::size_t entry)
 }
 
 // is_first tells whether the call was not made for another of its parameters.
-bool Mapper::is_first(const Entry& entry, std::span<const std::string_view> numbers)
+bool Mapper::is_first(const MapEntry& entry, std::span<const std::string_view> numbers)
 {
     std::string call = std::to_string(entry.call);
     for (const Source& source : entry.sources) {
         if (source.kind == Source::Kind::kValue) entry.path.append(call.append(" "), numbers);
-        for (const Pattern& path : source.paths) path.append(call.append(" "), numbers);
+        for (const PathPattern& path : source.paths) path.append(call.append(" "), numbers);
     }
     return made_.insert(std::move(call)).second;
 }
 
-void Mapper::make(const Entry& entry, const Row& row, std::span<const std::string_view> numbers,
+void Mapper::make(const MapEntry& entry, const DumpRow& row, std::span<const std::string_view> numbers,
                   Record& record, Lack& lack)
 {
     record.clear();
@@ -153,7 +153,7 @@ void Mapper::make(const Entry& entry, const Row& row, std::span<const std::strin
     add_members(entry, row, record);
 }
 
-bool Mapper::add_item(const Entry& entry, std::size_t argument, const Row& row,
+bool Mapper::add_item(const MapEntry& entry, std::size_t argument, const DumpRow& row,
                       std::span<const std::string_view> numbers, Record& record, Lack& lack)
 {
     const Source& source = entry.sources[argument];
@@ -170,7 +170,7 @@ bool Mapper::add_item(const Entry& entry, std::size_t argument, const Row& row,
         record.items.push_back({Item::Kind::kTexts, {}, source.paths.size()});
         paths_ += '[';
     }
-    for (const Pattern& pattern : source.paths) {
+    for (const PathPattern& pattern : source.paths) {
         path_.clear();
         pattern.append(path_, numbers);
         if (&pattern != source.paths.data()) paths_ += ',';
@@ -179,7 +179,7 @@ bool Mapper::add_item(const Entry& entry, std::size_t argument, const Row& row,
         if (found == values_.end()) {
             lack.id = "missing_sibling";
             lack.parameter = path_;
-            lack.text = path_ + " is missing, which the check needs too";
+            lack.text = path_ + " is missing; the check needs it";
             return false;
         }
         if (!add_text(source, found->second, found->first, record, lack)) return false;
@@ -196,7 +196,7 @@ bool Mapper::add_text(const Source& source, std::string_view value, std::string_
         if (found == source.words->end()) {
             lack.id = "no_word";
             lack.parameter = path;
-            lack.text = std::string(path) + " has a value that the map has no word for: " + quoted(value);
+            lack.text = std::string(path) + " has a value that the map does not translate: " + quoted(value);
             return false;
         }
         value = found->second;
@@ -205,7 +205,7 @@ bool Mapper::add_text(const Source& source, std::string_view value, std::string_
     return true;
 }
 
-void Mapper::add_members(const Entry& entry, const Row& row, Record& record)
+void Mapper::add_members(const MapEntry& entry, const DumpRow& row, Record& record)
 {
     record.members.assign(row.members.begin(), row.members.end());
     if (record.find("parameter") == nullptr) record.members.push_back({"parameter", row.path});

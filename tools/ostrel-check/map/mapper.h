@@ -19,14 +19,14 @@ namespace ostrel::tool {
 
 // Lack is why a call cannot be made, although nothing is wrong with the value.
 struct Lack {
-    std::string_view id;        // "missing_sibling" or "no_word"; empty: nothing lacks
+    std::string_view id;        // "missing_sibling" or "no_word"; empty: nothing is missing
     std::string_view argument;  // the one that cannot be had
     std::string parameter;      // where it should come from
     std::string text;           // in a sentence
 };
 
-// Row is a parameter of a gateway. The views need to hold until the next row is taken.
-struct Row {
+// DumpRow is a parameter of a gateway. The views need to hold until the next row is taken.
+struct DumpRow {
     std::string_view path;
     std::string_view value;
     std::uint64_t line = 0;
@@ -41,11 +41,11 @@ class Mapper {
     explicit Mapper(const Map& map) : map_(&map) {}
 
     void begin_gateway();
-    void take(const Row& row);
+    void take(const DumpRow& row);
     void end_gateway();
 
     // next makes the next call, or false: another row is needed. The record holds until then. Where something
-    // lacks, the record has no items.
+    // is missing, the record has no items.
     bool next(Record& record, Lack& lack);
 
     // counts is of the gateway, so far.
@@ -55,7 +55,7 @@ class Mapper {
     using Numbers = std::pmr::vector<std::string_view>;
     struct Deferred {
         std::size_t entry;
-        Row row;
+        DumpRow row;
         Numbers numbers;
         std::pmr::vector<Member> members;
     };
@@ -63,17 +63,17 @@ class Mapper {
     bool next_of_row(Record& record, Lack& lack);
     std::string_view keep(std::string_view text);
     void defer(std::size_t entry);
-    bool is_first(const Entry& entry, std::span<const std::string_view> numbers);
-    void make(const Entry& entry, const Row& row, std::span<const std::string_view> numbers, Record& record,
-              Lack& lack);
-    bool add_item(const Entry& entry, std::size_t argument, const Row& row,
+    bool is_first(const MapEntry& entry, std::span<const std::string_view> numbers);
+    void make(const MapEntry& entry, const DumpRow& row, std::span<const std::string_view> numbers,
+              Record& record, Lack& lack);
+    bool add_item(const MapEntry& entry, std::size_t argument, const DumpRow& row,
                   std::span<const std::string_view> numbers, Record& record, Lack& lack);
     static bool add_text(const Source& source, std::string_view value, std::string_view path, Record& record,
                          Lack& lack);
-    void add_members(const Entry& entry, const Row& row, Record& record);
+    void add_members(const MapEntry& entry, const DumpRow& row, Record& record);
 
     const Map* map_;
-    Row row_;
+    DumpRow row_;
     std::string general_;
     std::vector<std::string_view> numbers_;
     const std::vector<std::size_t>* entries_ = nullptr;  // of the row

@@ -14,7 +14,7 @@ bool is_number(std::string_view name)
 
 }  // namespace
 
-Pattern::Pattern(std::string text) : text_(std::move(text))
+PathPattern::PathPattern(std::string text) : text_(std::move(text))
 {
     std::string_view rest = text_;
     for (std::size_t at = rest.find(kInstance); at != std::string_view::npos; at = rest.find(kInstance)) {
@@ -24,7 +24,7 @@ Pattern::Pattern(std::string text) : text_(std::move(text))
     pieces_.emplace_back(rest);
 }
 
-std::string Pattern::general() const
+std::string PathPattern::general() const
 {
     std::string general;
     std::vector<std::string_view> numbers;
@@ -32,7 +32,7 @@ std::string Pattern::general() const
     return general;
 }
 
-void Pattern::append(std::string& out, std::span<const std::string_view> numbers) const
+void PathPattern::append(std::string& out, std::span<const std::string_view> numbers) const
 {
     for (std::size_t i = 0; i < pieces_.size(); ++i) {
         if (i > 0) out += numbers[i - 1];
@@ -40,7 +40,7 @@ void Pattern::append(std::string& out, std::span<const std::string_view> numbers
     }
 }
 
-bool Pattern::matches(std::string_view path, std::span<const std::string_view> numbers) const
+bool PathPattern::matches(std::string_view path, std::span<const std::string_view> numbers) const
 {
     // Only a pattern that spells a number out has fewer {i} than the path has numbers.
     if (instances() == numbers.size()) return true;

@@ -1,4 +1,4 @@
-// Path: the names of a parameter, in which {i} stands for the number of an instance.
+// Path: the names of a parameter, with {i} for the number of an instance.
 #ifndef OSTREL_TOOLS_MAP_PATH_H
 #define OSTREL_TOOLS_MAP_PATH_H
 
@@ -10,14 +10,14 @@
 
 namespace ostrel::tool {
 
-// kInstance stands in a pattern where a path has a number.
+// kInstance is in a pattern where a path has a number.
 inline constexpr std::string_view kInstance = "{i}";
 
-// Pattern is a path as a map has it.
-class Pattern {
+// PathPattern is a path as a map has it.
+class PathPattern {
  public:
-    Pattern() = default;
-    explicit Pattern(std::string text);
+    PathPattern() = default;
+    explicit PathPattern(std::string text);
 
     [[nodiscard]] const std::string& text() const { return text_; }
 

@@ -88,14 +88,14 @@ std::string sentence(const Difference& one, bool is_markdown)
     return text;
 }
 
-std::string type_of(const Facts& facts)
+std::string type_of(const ModelFacts& facts)
 {
     std::string text = (facts.is_list ? "list of " : "") + facts.type;
     if (!facts.limits.empty()) text += ", " + facts.limits;
     return text;
 }
 
-std::string rule_of(const Entry& entry) { return rules::accepted(*entry.function->check, gateway()); }
+std::string rule_of(const MapEntry& entry) { return rules::accepted(*entry.function->check, gateway()); }
 
 std::array<std::size_t, 5> counts_of(const std::vector<Comparison>& all)
 {
@@ -166,18 +166,18 @@ std::string json_of(const Map& map, const std::vector<Comparison>& all)
 }
 
 constexpr std::string_view kIntroduction =
-    R"(What the data model allows for each parameter that a check of the gateway judges, what the check accepts, and
-values on which the two disagree. The library has judged each of these values.
+    R"(For each parameter that a check of the gateway judges: what the data model allows, what the check accepts, and values
+on which the two disagree. The library has judged each of these values.
 
-- **same**: of the values that have the form of the type, the check accepts those that the model allows, and no others.
+- **same**: of the values that have the form of the type, the check accepts exactly those that the model allows.
 - **narrower**: it refuses some that the model allows.
 - **wider**: it accepts others that have the form: another number, a longer text, another keyword.
 - **other**: both.
 
-This follows from the descriptions of the checks, not from examples. Where a description or a type leaves something open,
-the row says what is known. Numbers are meant without a needless sign and without leading zeros. Texts are meant in
-UTF-8; the model counts characters, and the checks count bytes. Keywords that vendors add are left aside. Many checks
-accept texts that do not have the form at all, such as letters after a number; the row names one.
+This follows from the descriptions of the checks, not from examples. If a description or a type leaves something open,
+the row says what is known. Numbers have no redundant sign and no leading zeros. Texts are in UTF-8; the model counts
+characters, and the checks count bytes. Vendor-specific keywords are not considered. Many checks accept texts that do
+not have the form at all, for example letters after a number; the row then names one.
 )";
 
 std::string markdown_of(const Map& map, const std::vector<Comparison>& all)
@@ -210,11 +210,10 @@ std::string markdown_of(const Map& map, const std::vector<Comparison>& all)
 std::string report_of(const std::string& file, ReportFormat format)
 {
     const Map map = load_map(file, Encoding::kUtf8);
-    if (map.facts.empty())
-        throw std::invalid_argument(file + ": it names no \"facts\", without which nothing can be compared");
+    if (map.facts.empty()) throw std::invalid_argument(file + ": a comparison needs \"facts\"");
     const Model model = read_facts(map.facts);
     std::vector<Comparison> all;
-    for (const Entry& entry : map.entries) {
+    for (const MapEntry& entry : map.entries) {
         const auto facts = model.find(entry.path.general());
         if (facts == model.end()) {
             throw std::invalid_argument(map.file + ":" + std::to_string(entry.line) + ": " + map.facts +

@@ -17,9 +17,9 @@ using rules::Set;
 constexpr std::size_t kMany = Languages::kMany;
 constexpr Set kWritten = Set::range(0x20, 0x7F) | Set("\t\n\r");  // what XML can hold of ASCII
 
-class Builder {
+class StandardBuilder {
  public:
-    Builder(Languages& languages, const Facts& facts) : languages_(languages), facts_(facts) {}
+    StandardBuilder(Languages& languages, const ModelFacts& facts) : languages_(languages), facts_(facts) {}
 
     Standard standard()
     {
@@ -237,15 +237,15 @@ class Builder {
     }
 
     Languages& languages_;
-    const Facts& facts_;
+    const ModelFacts& facts_;
     Language written_otherwise_ = languages_.nothing();  // other ways of writing values of the type
 };
 
 }  // namespace
 
-Standard standard_of(Languages& languages, const Facts& facts)
+Standard standard_of(Languages& languages, const ModelFacts& facts)
 {
-    return Builder(languages, facts).standard();
+    return StandardBuilder(languages, facts).standard();
 }
 
 }  // namespace ostrel::tool

@@ -20,7 +20,7 @@ struct Standard {
     bool is_known = true;     // false: nothing is known of the type, or of a pattern
 };
 
-Standard standard_of(rules::Languages& languages, const Facts& facts);
+Standard standard_of(rules::Languages& languages, const ModelFacts& facts);
 
 }  // namespace ostrel::tool
 

@@ -104,23 +104,22 @@ std::string Unmapped::text() const
         if (!row->second.because.empty()) text.append(": ").append(row->second.because);
         text += '\n';
     }
-    if (others_ > 0) text += std::to_string(others_) + " of other paths\n";
+    if (others_ > 0) text += std::to_string(others_) + " with other paths\n";
     if (counts_.skipped > 0)
-        text += std::to_string(counts_.skipped) + " were skipped, because the value says nothing\n";
+        text += std::to_string(counts_.skipped) + " were skipped because their values carry no information\n";
     if (counts_.repeated > 0) {
-        text +=
-            std::to_string(counts_.repeated) +
-            " came again in the same gateway, and calls that need them were made with the last value alone; "
-            "--group tells the gateways of a file apart\n";
+        text += std::to_string(counts_.repeated) +
+                " appeared again in the same gateway, and calls that need them used only the last value; "
+                "--group separates the gateways of a file\n";
     }
     if (counts_.split == 0) return text;
-    text += "The rows of " + counted(counts_.split, "gateway", "gateways") + " are not together";
+    text += "The rows of " + counted(counts_.split, "gateway", "gateways") + " are not adjacent";
     if (!first_split_.empty()) {
         text += ", such as those of \"";
         append_escaped(text, first_split_, kLongestShown);
         text += '"';
     }
-    return text + ": parameters of other places were not seen\n";
+    return text + ": each place was judged without the parameters in the others\n";
 }
 
 nlohmann::ordered_json Unmapped::json() const

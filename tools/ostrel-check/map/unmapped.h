@@ -1,4 +1,4 @@
-// Unmapped: what dumps of gateways hold besides values that were judged.
+// Unmapped: what dumps of gateways hold apart from judged values.
 #ifndef OSTREL_TOOLS_MAP_UNMAPPED_H
 #define OSTREL_TOOLS_MAP_UNMAPPED_H
 

@@ -32,7 +32,7 @@ long long read_number(const Argument& argument, std::string_view word)
     if (digits.empty() || read.ptr != end) {
         std::string message = "argument " + std::string(argument.name) + " takes a number; \"";
         append_escaped(message, word, 40);
-        throw std::invalid_argument(message.append("\" is none"));
+        throw std::invalid_argument(message.append("\" is not one"));
     }
     // Whatever is far outside the range of an argument stays outside.
     if (read.ec != std::errc()) number = 1ULL << 62;
@@ -94,7 +94,7 @@ bool take(const Function& function, std::span<const Item> items, bool outputs_gi
             if (items.size() < others || !are_texts(items.first(others))) return false;
             set_texts(argument, value, {&item, argument.blocks});
             items = items.subspan(others);
-        } else if (is_number(argument)) {
+        } else if (argument.is_number() || argument.kind == Kind::kIntegerOut) {
             value = read_number(argument, item.text);
         } else {
             require_c_text(argument, item.text);
@@ -113,12 +113,6 @@ std::size_t count_arguments(std::span<const Item> items)
 }
 
 }  // namespace
-
-bool is_number(const Argument& argument)
-{
-    return argument.kind == Kind::kInteger || argument.kind == Kind::kUnsigned ||
-           argument.kind == Kind::kIntegerOut;
-}
 
 const Function& bind_check(const Record& record)
 {

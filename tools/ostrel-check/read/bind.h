@@ -10,9 +10,6 @@
 
 namespace ostrel::tool {
 
-// is_number tells that an argument takes a number.
-bool is_number(const catalogue::Argument& argument);
-
 // bind_check finds the check that the record names. Throws std::invalid_argument with a message for the user.
 const catalogue::Function& bind_check(const Record& record);
 

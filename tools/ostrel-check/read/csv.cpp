@@ -67,7 +67,7 @@ void CsvReader::choose_passed()
     for (std::size_t i = 0; i < names_.size(); ++i) {
         const std::string& name = names_[i];
         const bool is_last = column(name) == i;
-        if (reading_->is_strict && !is_last) throw std::invalid_argument("doubled column \"" + name + "\"");
+        if (reading_->is_strict && !is_last) throw std::invalid_argument("duplicate column \"" + name + "\"");
         if (!is_last || check_ == i || std::ranges::find(values_, i) != values_.end()) continue;
         const bool is_known = name == "id" || name == "parameter";
         if (reading_->is_strict && !is_known) throw std::invalid_argument("unknown column \"" + name + "\"");

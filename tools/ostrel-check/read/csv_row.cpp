@@ -62,17 +62,17 @@ void CsvRow::split(std::string_view row, char delimiter)
     for (std::size_t at = 0;; ++at) {
         if (has_quotes && at < row.size() && row[at] == kQuote) {
             at = take_quoted(row, at);
-            if (at == std::string_view::npos) refuse("begins with a quotation mark and has no closing one");
+            if (at == std::string_view::npos) refuse("has an opening quotation mark and no closing one");
             if (at < row.size() && row[at] != delimiter) {
                 fields_.pop_back();
-                refuse("goes on after its closing quotation mark");
+                refuse("continues after its closing quotation mark");
             }
         } else {
             const std::size_t end = std::min(row.find(delimiter, at), row.size());
             fields_.push_back(row.substr(at, end - at));
             if (has_quotes && fields_.back().find(kQuote) != std::string_view::npos) {
                 fields_.pop_back();
-                refuse("holds a quotation mark and is not between quotation marks");
+                refuse("holds a quotation mark and is not quoted");
             }
             at = end;
         }

@@ -5,6 +5,8 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "catalogue/value_json.h"
+
 namespace ostrel::tool {
 
 namespace {
@@ -98,13 +100,7 @@ void encode(std::string& bytes, std::string_view text, Encoding encoding)
 std::string utf8_of(std::string_view bytes, Encoding encoding)
 {
     if (encoding == Encoding::kUtf8 || is_ascii(bytes)) return std::string(bytes);
-    std::string text;
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x80) text += static_cast<char>(0xC0 | byte >> 6);
-        text += byte < 0x80 ? c : static_cast<char>(0x80 | (byte & 0x3F));
-    }
-    return text;
+    return catalogue::utf8_from_bytes(bytes);
 }
 
 void decode_base64(std::string& bytes, std::string_view text)

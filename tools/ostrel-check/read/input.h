@@ -24,7 +24,7 @@ struct Chunk {
     std::string_view preamble;  // of the file
     std::string_view text;
     bool starts_file = false;
-    std::string problem;  // not empty: stands for a place where nothing can be read; the text is empty
+    std::string problem;  // not empty: why nothing can be read at this place; the text is empty
     std::string heading;
 };
 

@@ -60,7 +60,7 @@ struct Element {
     }
 };
 
-// Depth hears JSON and only minds how deep it is.
+// Depth is a SAX handler that only counts how deep JSON is nested.
 struct Depth : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Depth> {
     std::size_t depth = 0;
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
@@ -143,7 +143,7 @@ class JsonCutter : public Cutter {
         return at + element_.at;
     }
 
-    // find_fault complains of broken JSON. What the reader refuses for other reasons it leaves to that.
+    // find_fault complains of invalid JSON. What the reader refuses for other reasons it leaves to that.
     void find_fault(std::string_view element, Cut& cut)
     {
         const std::size_t nul = element.find('\0');
@@ -192,7 +192,7 @@ class JsonCutter : public Cutter {
         if (cut.problem.empty()) return;
         count(bytes.substr(cut.dropped + cut.size, cut.problem_at));
         cut.problem =
-            "column " + std::to_string(column_) + ": " + cut.problem + "; nothing after that is read";
+            "column " + std::to_string(column_) + ": " + cut.problem + "; the rest of the file is not read";
     }
 
     Expected expected_ = Expected::kBegin;

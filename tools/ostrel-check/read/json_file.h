@@ -23,7 +23,7 @@ class JsonReader : public Reader {
     JsonObject object_;
 };
 
-// make_json_cutter makes a cutter that stops at broken JSON, and says at which line and column that is.
+// make_json_cutter makes a cutter that stops at invalid JSON, and says at which line and column that is.
 std::unique_ptr<Cutter> make_json_cutter();
 
 }  // namespace ostrel::tool

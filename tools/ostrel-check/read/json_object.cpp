@@ -28,7 +28,7 @@ void JsonObject::read(std::string_view text, Record& record)
     kinds_ = require_json(text);
     text_ = text;
     record_ = &record;
-    place_ = Place::kObject;
+    state_ = State::kObject;
     depth_ = 0;
     skipped_ = 0;
     has_check_ = false;
@@ -40,7 +40,7 @@ void JsonObject::read(std::string_view text, Record& record)
     const rapidjson::ParseResult result = parser_.parse(text, *this);
     if (result.IsError() && result.Code() != rapidjson::kParseErrorTermination) {
         const std::string at = " (at byte " + std::to_string(result.Offset() + 1) + ")";
-        throw std::invalid_argument("broken JSON: " + describe(result.Code()) + at);
+        throw std::invalid_argument("invalid JSON: " + describe(result.Code()) + at);
     }
     if (problem_.empty()) require_all();
     if (!problem_.empty()) throw std::invalid_argument(problem_);
@@ -74,16 +74,16 @@ bool JsonObject::Key(const char* begin, rapidjson::SizeType size, bool /*copy*/)
         complain(describe(rapidjson::kParseErrorStringUnicodeSurrogateInvalid));
     }
     if (skipped_ > 0) return true;
-    if (place_ == Place::kMembers) {
+    if (state_ == State::kMembers) {
         enter_member(name);
     } else if (name == "base64") {
-        place_ = Place::kBase64;
+        state_ = State::kBase64;
     } else {
         const bool is_vector = name == "repeat" || name == "join";
         complain(is_vector ? "\"" + std::string(name) +
-                                 "\" is the notation of the conformance vectors, which a batch does not read"
+                                 "\" is notation of the conformance vectors, which batch does not read"
                            : kNotBase64);
-        place_ = Place::kOther;
+        state_ = State::kOther;
     }
     return true;
 }
@@ -92,7 +92,7 @@ void JsonObject::enter_member(std::string_view name)
 {
     name_ = name;
     if (!has_one_check_ && name == (reading_->check.empty() ? "check" : reading_->check)) {
-        enter_once(Place::kCheck, has_check_, name);
+        enter_once(State::kCheck, has_check_, name);
         return;
     }
     const auto value = std::ranges::find(reading_->values, name) - reading_->values.begin();
@@ -101,14 +101,14 @@ void JsonObject::enter_member(std::string_view name)
         bool has_it = has_value_[index];
         argument_ = &value_items_[index];
         argument_->clear();
-        enter_once(Place::kValue, has_it, name);
+        enter_once(State::kValue, has_it, name);
         has_value_[index] = has_it;
         return;
     }
     if (name == "args" && value_items_.empty()) {
         argument_ = &record_->items;
         argument_->clear();
-        enter_once(Place::kArgs, has_args_, name);
+        enter_once(State::kArgs, has_args_, name);
         return;
     }
     const bool is_known = name == "id" || name == "parameter";
@@ -116,19 +116,19 @@ void JsonObject::enter_member(std::string_view name)
     const auto before = std::ranges::find(record_->members, name, &Member::name);
     bool has_it = before != record_->members.end();
     if (has_it) record_->members.erase(before);
-    enter_once(Place::kPassed, has_it, name);
+    enter_once(State::kPassed, has_it, name);
 }
 
-void JsonObject::enter_once(Place place, bool& has_it, std::string_view name)
+void JsonObject::enter_once(State place, bool& has_it, std::string_view name)
 {
-    if (has_it && reading_->is_strict) complain("doubled member \"" + std::string(name) + "\"");
+    if (has_it && reading_->is_strict) complain("duplicate member \"" + std::string(name) + "\"");
     has_it = true;
-    place_ = place;
+    state_ = place;
 }
 
 void JsonObject::pass(std::string_view token)
 {
-    place_ = Place::kMembers;
+    state_ = State::kMembers;
     if (record_->members.size() == kMostMembers) {
         complain("the record has more than " + std::to_string(kMostMembers) + " members");
         return;

@@ -25,7 +25,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     // read reads an object. Throws std::invalid_argument with a message for the user.
     void read(std::string_view text, Record& record);
 
-    // The base calls these of the class that it is told, and has its own for the rest.
+    // The base class calls these, and has its own versions of the others.
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
     bool Null() { return scalar(Item::Kind::kNull, {}, "null"); }
     bool Bool(bool value);
@@ -33,9 +33,9 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     bool String(const char* begin, rapidjson::SizeType size, bool copy);
     bool Key(const char* begin, rapidjson::SizeType size, bool copy);
     bool StartObject() { return start(true); }
-    bool EndObject(rapidjson::SizeType members);
+    bool EndObject(rapidjson::SizeType /*members*/) { return end(); }
     bool StartArray() { return start(false); }
-    bool EndArray(rapidjson::SizeType elements);
+    bool EndArray(rapidjson::SizeType /*elements*/) { return end(); }
     // NOLINTEND(bugprone-derived-method-shadowing-base-method)
 
  private:
@@ -43,8 +43,8 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     static constexpr const char* kNotAnArray = "\"args\" must be an array";
     static constexpr const char* kNotBase64 = "an object that is an argument must be {\"base64\": text}";
 
-    // Place is what is read next.
-    enum class Place {
+    // State is what is read next.
+    enum class State {
         kObject,   // the record itself
         kMembers,  // its members
         kCheck,
@@ -67,7 +67,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     void add_item(Item::Kind kind, std::string_view text);
     void pass(std::string_view token);
     void enter_member(std::string_view name);
-    void enter_once(Place place, bool& has_it, std::string_view name);
+    void enter_once(State place, bool& has_it, std::string_view name);
     void require_all();
     void complain(std::string problem);
 
@@ -80,10 +80,10 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     // Of the record that is being read.
     std::string_view text_;
     Record* record_ = nullptr;
-    Kinds kinds_;
-    Place place_ = Place::kObject;
-    Place outside_texts_ = Place::kItems;
-    Place outside_wrapping_ = Place::kItems;
+    ByteKinds kinds_;
+    State state_ = State::kObject;
+    State outside_texts_ = State::kItems;
+    State outside_wrapping_ = State::kItems;
     std::vector<Item>* argument_ = nullptr;  // or all arguments
     std::size_t depth_ = 0;
     std::size_t skipped_ = 0;  // arrays and objects that are open and passed over

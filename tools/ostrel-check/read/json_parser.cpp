@@ -21,7 +21,7 @@ std::string describe(rapidjson::ParseErrorCode error)
     return text;
 }
 
-Kinds kinds_in(std::string_view text)
+ByteKinds kinds_in(std::string_view text)
 {
     constexpr std::uint64_t kOnes = 0x0101010101010101;
     constexpr std::uint64_t kHighs = 0x80 * kOnes;
@@ -46,19 +46,19 @@ Kinds kinds_in(std::string_view text)
     return {(low & kHighs) != 0, (backslash & kHighs) != 0, (high & kHighs) != 0};
 }
 
-Kinds require_json(std::string_view text)
+ByteKinds require_json(std::string_view text)
 {
-    const Kinds kinds = kinds_in(text);
+    const ByteKinds kinds = kinds_in(text);
     const std::size_t valid = kinds.has_high_bytes ? valid_utf8(text) : text.size();
     if (valid < text.size()) {
         std::string byte;
         append_escaped(byte, text.substr(valid, 1), 1);
-        throw std::invalid_argument("broken JSON: byte " + std::to_string(valid + 1) + " is " + byte +
+        throw std::invalid_argument("invalid JSON: byte " + std::to_string(valid + 1) + " is " + byte +
                                     ", which is not UTF-8; any bytes can be given as {\"base64\": \"...\"}");
     }
     const std::size_t nul = kinds.has_controls ? text.find('\0') : std::string_view::npos;
     if (nul != std::string_view::npos) {
-        throw std::invalid_argument("broken JSON: byte " + std::to_string(nul + 1) + " is NUL");
+        throw std::invalid_argument("invalid JSON: byte " + std::to_string(nul + 1) + " is NUL");
     }
     return kinds;
 }

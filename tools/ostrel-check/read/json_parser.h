@@ -99,18 +99,18 @@ class JsonParser {
 // describe says what is wrong with JSON, for the user.
 std::string describe(rapidjson::ParseErrorCode error);
 
-// Kinds says which kinds of bytes a text holds.
-struct Kinds {
+// ByteKinds says which kinds of bytes a text holds.
+struct ByteKinds {
     bool has_controls = false;  // below 0x20
     bool has_backslashes = false;
     bool has_high_bytes = false;
 };
 
-Kinds kinds_in(std::string_view text);
+ByteKinds kinds_in(std::string_view text);
 
 // require_json throws std::invalid_argument, with a message for the user, for what no JSON holds: a NUL byte, and a
 // byte that is not UTF-8. It returns the kinds of bytes.
-Kinds require_json(std::string_view text);
+ByteKinds require_json(std::string_view text);
 
 // end_of_string returns where the string of JSON ends that begins at a quotation mark: after the closing one, or at the
 // end of the text.

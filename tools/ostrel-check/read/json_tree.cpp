@@ -26,8 +26,8 @@ bool add_number(ordered_json& value, std::string_view token)
     return true;
 }
 
-// Builder makes the value of what it hears.
-class Builder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Builder> {
+// TreeBuilder is a SAX handler that builds a value.
+class TreeBuilder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, TreeBuilder> {
  public:
     ordered_json take() { return std::move(root_); }
 
@@ -96,11 +96,11 @@ class Builder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Builder> 
 ordered_json json_tree(std::string_view text)
 {
     require_json(text);
-    Builder builder;
+    TreeBuilder builder;
     const rapidjson::ParseResult result = JsonParser().parse(text, builder);
     if (result.Code() == rapidjson::kParseErrorTermination)
         throw std::invalid_argument("the JSON is nested too deeply");
-    if (result.IsError()) throw std::invalid_argument("broken JSON: " + describe(result.Code()));
+    if (result.IsError()) throw std::invalid_argument("invalid JSON: " + describe(result.Code()));
     return builder.take();
 }
 

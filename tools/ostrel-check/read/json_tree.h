@@ -7,8 +7,8 @@
 
 namespace ostrel::tool {
 
-// json_tree reads a text. A number that is no integer of 64 bits becomes a text, which is its token. Throws
-// std::invalid_argument, with a message for the user, for broken JSON and for JSON that is nested too deeply.
+// json_tree reads a text. A number that does not fit in 64 bits becomes a string, its token. Throws
+// std::invalid_argument, with a message for the user, for invalid JSON and for JSON that is nested too deeply.
 nlohmann::ordered_json json_tree(std::string_view text);
 
 }  // namespace ostrel::tool

@@ -29,17 +29,17 @@ bool JsonObject::String(const char* begin, rapidjson::SizeType size, bool /*copy
         complain(describe(rapidjson::kParseErrorStringUnicodeSurrogateInvalid));
     }
     if (skipped_ > 0) return true;
-    if (place_ == Place::kCheck) {
+    if (state_ == State::kCheck) {
         record_->check = text;
-        place_ = Place::kMembers;
+        state_ = State::kMembers;
         return true;
     }
-    if (place_ == Place::kBase64) {
+    if (state_ == State::kBase64) {
         add_item(Item::Kind::kText, text);
-        place_ = Place::kWrapping;
+        state_ = State::kWrapping;
         return true;
     }
-    if (place_ != Place::kPassed) return scalar(Item::Kind::kText, text, {});
+    if (state_ != State::kPassed) return scalar(Item::Kind::kText, text, {});
     const std::size_t at = parser_.offset_of(begin) - 1;
     pass(text_.substr(at, kinds_.has_backslashes ? end_of_string(text_, at) - at : size + 2));
     return true;
@@ -48,28 +48,28 @@ bool JsonObject::String(const char* begin, rapidjson::SizeType size, bool /*copy
 bool JsonObject::scalar(Item::Kind kind, std::string_view text, std::string_view token)
 {
     if (skipped_ > 0) return true;
-    switch (place_) {
-        case Place::kObject:
+    switch (state_) {
+        case State::kObject:
             complain("a record is an object of JSON");
             break;
-        case Place::kCheck:
+        case State::kCheck:
             complain(kNotAName);
-            place_ = Place::kMembers;
+            state_ = State::kMembers;
             break;
-        case Place::kArgs:
+        case State::kArgs:
             complain(kNotAnArray);
-            place_ = Place::kMembers;
+            state_ = State::kMembers;
             break;
-        case Place::kPassed:
+        case State::kPassed:
             pass(token);
             break;
-        case Place::kBase64:
-        case Place::kOther:
+        case State::kBase64:
+        case State::kOther:
             complain(kNotBase64);
-            place_ = Place::kWrapping;
+            state_ = State::kWrapping;
             break;
         default:
-            if (place_ == Place::kTexts && kind == Item::Kind::kNull)
+            if (state_ == State::kTexts && kind == Item::Kind::kNull)
                 complain("an array of texts cannot hold null");
             add_item(kind, text);
             finish_value();
@@ -87,42 +87,42 @@ bool JsonObject::start(bool is_object)
         ++skipped_;
         return true;
     }
-    switch (place_) {
-        case Place::kObject:
+    switch (state_) {
+        case State::kObject:
             if (is_object) {
-                place_ = Place::kMembers;
+                state_ = State::kMembers;
                 return true;
             }
             complain("a record is an object of JSON");
             break;
-        case Place::kCheck:
+        case State::kCheck:
             complain(kNotAName);
             break;
-        case Place::kArgs:
+        case State::kArgs:
             if (!is_object) {
-                place_ = Place::kItems;
+                state_ = State::kItems;
                 return true;
             }
             complain(kNotAnArray);
             break;
-        case Place::kPassed:
+        case State::kPassed:
             begin_ = parser_.offset() - 1;
             break;
-        case Place::kBase64:
-        case Place::kOther:
+        case State::kBase64:
+        case State::kOther:
             complain(kNotBase64);
             break;
         default:
             if (is_object) {
-                outside_wrapping_ = place_;
-                place_ = Place::kWrapping;
+                outside_wrapping_ = state_;
+                state_ = State::kWrapping;
                 return true;
             }
-            if (place_ != Place::kTexts) {
+            if (state_ != State::kTexts) {
                 texts_ = argument_->size();
                 add_item(Item::Kind::kTexts, {});
-                outside_texts_ = place_;
-                place_ = Place::kTexts;
+                outside_texts_ = state_;
+                state_ = State::kTexts;
                 return true;
             }
             complain("an array of texts cannot hold an array");
@@ -131,10 +131,6 @@ bool JsonObject::start(bool is_object)
     return true;
 }
 
-bool JsonObject::EndObject(rapidjson::SizeType /*members*/) { return end(); }
-
-bool JsonObject::EndArray(rapidjson::SizeType /*elements*/) { return end(); }
-
 bool JsonObject::end()
 {
     --depth_;
@@ -142,21 +138,21 @@ bool JsonObject::end()
         if (--skipped_ == 0) finish_skipping();
         return true;
     }
-    switch (place_) {
-        case Place::kItems:
-            place_ = Place::kMembers;
+    switch (state_) {
+        case State::kItems:
+            state_ = State::kMembers;
             break;
-        case Place::kTexts:
+        case State::kTexts:
             if (texts_ < argument_->size()) (*argument_)[texts_].count = argument_->size() - texts_ - 1;
-            place_ = outside_texts_;
+            state_ = outside_texts_;
             finish_value();
             break;
-        case Place::kWrapping:
-            place_ = outside_wrapping_;
+        case State::kWrapping:
+            state_ = outside_wrapping_;
             finish_value();
             break;
         default:
-            place_ = Place::kEnd;
+            state_ = State::kEnd;
     }
     return true;
 }
@@ -164,23 +160,23 @@ bool JsonObject::end()
 // finish_value goes on after a member that is an argument.
 void JsonObject::finish_value()
 {
-    if (place_ == Place::kValue) place_ = Place::kMembers;
+    if (state_ == State::kValue) state_ = State::kMembers;
 }
 
 void JsonObject::finish_skipping()
 {
-    switch (place_) {
-        case Place::kPassed:
+    switch (state_) {
+        case State::kPassed:
             pass(text_.substr(begin_, parser_.offset() - begin_));
             break;
-        case Place::kCheck:
-        case Place::kArgs:
-        case Place::kValue:
-            place_ = Place::kMembers;
+        case State::kCheck:
+        case State::kArgs:
+        case State::kValue:
+            state_ = State::kMembers;
             break;
-        case Place::kBase64:
-        case Place::kOther:
-            place_ = Place::kWrapping;
+        case State::kBase64:
+        case State::kOther:
+            state_ = State::kWrapping;
             break;
         default:
             break;
@@ -194,7 +190,7 @@ void JsonObject::add_item(Item::Kind kind, std::string_view text)
         return;
     }
     try {
-        Item item = place_ == Place::kBase64 ? items_.of_base64(text) : items_.of_text(text);
+        Item item = state_ == State::kBase64 ? items_.of_base64(text) : items_.of_text(text);
         item.kind = kind;
         argument_->push_back(item);
     } catch (const std::invalid_argument& error) {

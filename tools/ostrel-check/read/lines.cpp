@@ -39,7 +39,7 @@ void LineReader::read_words(std::string_view line, Record& record)
     if (reading_->encoding != Encoding::kUtf8) {
         const std::size_t begin = line.find_first_not_of(" \t");
         record.check = line.substr(begin, line.find_first_of(" \t", begin) - begin);
-        // What words are made of besides is ASCII, and so stays as it is.
+        // Blanks, quotation marks and escapes are ASCII and do not change.
         encoded_.clear();
         encode(encoded_, line, reading_->encoding);
         line = encoded_;

@@ -12,7 +12,7 @@ namespace ostrel::tool {
 
 class LineReader : public Reader {
  public:
-    // With only_json a line of words is broken JSON.
+    // With only_json a line of words is invalid JSON.
     LineReader(const Reading& reading, bool only_json);
 
     std::size_t next(std::string_view rest) override;

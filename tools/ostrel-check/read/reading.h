@@ -27,7 +27,7 @@ struct Reading {
     std::optional<char> delimiter;  // of CSV
     std::string check;  // the column or member that names the check, or the one check of all records
     std::vector<std::string> values;  // the columns or members that are the arguments, in their order
-    bool is_strict = false;           // unknown and doubled members are malformed
+    bool is_strict = false;           // unknown and duplicate members are malformed
     bool needs_check = true;          // a record without a check is malformed
     const Map* map = nullptr;         // the files are dumps of gateways, and it says what judges them
     SplitGateways* split = nullptr;   // counts gateways whose rows are not together

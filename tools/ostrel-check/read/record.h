@@ -31,7 +31,7 @@ struct Member {
     bool is_json = false;
 };
 
-// GatewayCounts is what the dump of a gateway holds besides values that are judged.
+// GatewayCounts is what the dump of a gateway holds apart from judged values.
 struct GatewayCounts {
     std::uint32_t parameters = 0;  // all of them
     std::uint32_t skipped = 0;     // because the map says that their values say nothing

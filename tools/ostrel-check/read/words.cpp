@@ -28,10 +28,10 @@ int hexadecimal(char c)
     return -1;
 }
 
-// read_escape reads what follows a backslash and gives the place behind it.
+// read_escape reads what follows a backslash and returns the place after it.
 std::size_t read_escape(std::string_view text, std::size_t at, std::string& word)
 {
-    if (at == text.size()) throw std::invalid_argument("a \\ stands at the end");
+    if (at == text.size()) throw std::invalid_argument("a \\ is the last character");
     const char c = text[at];
     if (c == 'x') {
         const int high = at + 1 < text.size() ? hexadecimal(text[at + 1]) : -1;
@@ -47,14 +47,14 @@ std::size_t read_escape(std::string_view text, std::size_t at, std::string& word
     } else if (c == 't') {
         word += '\t';
     } else if (is_letter_or_digit(c)) {
-        throw std::invalid_argument(std::string("\\") + c + " is no escape; a backslash itself is \\\\");
+        throw std::invalid_argument(std::string("\\") + c + " is not an escape; a backslash is \\\\");
     } else {
         word += c;
     }
     return at + 1;
 }
 
-// read_quoted reads up to the closing quotation mark and gives the place behind it.
+// read_quoted reads up to the closing quotation mark and returns the place after it.
 std::size_t read_quoted(std::string_view line, std::size_t at, std::string& word)
 {
     const char mark = line[at++];
@@ -138,7 +138,7 @@ void read_values(const Function& function, std::span<const std::string> words, s
 {
     std::vector<Item> items;
     for (const std::string& word : words) items.push_back(item_of(word));
-    bind(function, items, values);
+    tool::bind(function, items, values);  // not std::bind
 }
 
 std::string usage_of(const Function& function)
@@ -150,7 +150,7 @@ std::string usage_of(const Function& function)
         if (argument.kind == Kind::kBlocks) {
             for (std::size_t i = 1; i <= argument.blocks; ++i) usage += " " + name + "_" + std::to_string(i);
         } else {
-            usage += " " + name + (is_number(argument) ? ":number" : "");
+            usage += " " + name + (argument.is_number() ? ":number" : "");
         }
     }
     return usage;

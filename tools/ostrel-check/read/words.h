@@ -17,14 +17,14 @@ namespace ostrel::tool {
 // Words holds the words of a line. It is filled again and again, so that its memory is used again.
 class Words {
  public:
-    // split takes blanks between words, 'text as it stands', "text with escapes", escapes outside quotation
+    // split reads words separated by blanks, 'literal text', "text with escapes", escapes outside quotation
     // marks, and # where a word could begin for a comment. Throws std::invalid_argument with a message for
     // the user.
     void split(std::string_view line);
 
     [[nodiscard]] std::span<const std::string> all() const { return {words_.data(), count_}; }
 
-    // item returns what a word stands for. One that has quotation marks or escapes is the text that it is.
+    // item returns the item of a word. One with quotation marks or escapes is a text, never NULL.
     [[nodiscard]] Item item(std::size_t word) const;
 
  private:
@@ -39,10 +39,10 @@ class Words {
 // that character. Throws std::invalid_argument.
 std::string read_escapes(std::string_view text);
 
-// kNull is the word that stands for NULL. "@@null" stands for the text "@null", and so on.
+// kNull is the word for NULL. "@@null" is the text "@null", and so on.
 inline constexpr std::string_view kNull = "@null";
 
-// item_of returns what a word stands for; its text is a view into the word.
+// item_of returns the item of a word; its text is a view into the word.
 Item item_of(std::string_view word);
 
 // read_values gives each argument its words: numbers, texts, NULL, one word for each block. Arguments that

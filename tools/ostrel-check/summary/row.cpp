@@ -82,9 +82,9 @@ void append_counted_parameter(std::string& out, std::string_view path)
     }
 }
 
-Row row_of(const Result& result, std::string& parameter)
+SummaryRow row_of(const Result& result, std::string& parameter)
 {
-    Row row;
+    SummaryRow row;
     if (result.function != nullptr) {
         const auto position = result.function - catalogue::functions().data();
         row.check = static_cast<std::uint16_t>(position);
@@ -99,9 +99,9 @@ Row row_of(const Result& result, std::string& parameter)
     return row;
 }
 
-Row row_of_unmapped(const Record& record, std::string& parameter)
+SummaryRow row_of_unmapped(const Record& record, std::string& parameter)
 {
-    Row row;
+    SummaryRow row;
     row.check = kUnmapped;
     parameter.clear();
     append_counted_parameter(parameter, record.path);

@@ -15,8 +15,8 @@ inline constexpr std::uint16_t kNoCheck = 0xFFFF;
 // No record: a parameter of a dump that the map has no check for. The example says why, in words, or is empty.
 inline constexpr std::uint16_t kUnmapped = 0xFFFE;
 
-// Row says what its records have in common, with one of them as an example. The views belong to whoever made it.
-struct Row {
+// SummaryRow says what its records have in common, with one of them as an example. The views belong to whoever made it.
+struct SummaryRow {
     std::uint16_t check = kNoCheck;  // its position among the functions of the catalogue
     Verdict verdict = Verdict::kMalformed;
     int code = 0;                // of what was accepted or refused
@@ -30,10 +30,10 @@ struct Row {
 void append_counted_parameter(std::string& out, std::string_view path);
 
 // row_of says which records are counted with that result. The row's parameter is put into parameter.
-Row row_of(const Result& result, std::string& parameter);
+SummaryRow row_of(const Result& result, std::string& parameter);
 
 // row_of_unmapped is for a parameter without a check.
-Row row_of_unmapped(const Record& record, std::string& parameter);
+SummaryRow row_of_unmapped(const Record& record, std::string& parameter);
 
 // example_of shows a result in JSON: its id, its arguments and what is wrong.
 std::string example_of(const Result& result, Encoding encoding);

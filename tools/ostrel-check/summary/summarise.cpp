@@ -24,7 +24,7 @@ using nlohmann::ordered_json;
 
 // Rows is what a line holds. Views of its rows are into texts.
 struct Rows {
-    std::vector<Counted> counted;
+    std::vector<CountedRow> counted;
     Unmapped unmapped;
     std::deque<std::string> texts;
 
@@ -47,7 +47,7 @@ Verdict verdict_of(const ordered_json& row)
     for (std::size_t i = 0; i < kVerdicts; ++i) {
         if (json_name(static_cast<Verdict>(i)) == name) return static_cast<Verdict>(i);
     }
-    refuse("there is no verdict \"" + name + "\"");
+    refuse("unknown verdict \"" + name + "\"");
 }
 
 std::uint16_t check_of(const ordered_json& row, Verdict verdict)
@@ -69,23 +69,23 @@ std::uint64_t number_of(const ordered_json& object, const char* name)
 }
 
 // common_of reads what rows of a summary and results have in common.
-Row common_of(const ordered_json& given)
+SummaryRow common_of(const ordered_json& given)
 {
-    Row row;
+    SummaryRow row;
     row.verdict = verdict_of(given);
     row.check = check_of(given, row.verdict);
     if (!is_code(row.verdict)) return row;
     const auto code = given.find("code");
     if (code == given.end() || !code->is_number_integer()) refuse("\"code\" is not a number");
     row.code = code->get<int>();
-    if ((row.code == 0) != (row.verdict == Verdict::kAccepted)) refuse("\"code\" does not suit \"verdict\"");
+    if ((row.code == 0) != (row.verdict == Verdict::kAccepted)) refuse("\"code\" does not match \"verdict\"");
     return row;
 }
 
 void read_row(Rows& rows, const ordered_json& given)
 {
     if (!given.is_object()) refuse("a row is not an object");
-    Counted counted;
+    CountedRow counted;
     counted.row = common_of(given);
     counted.is_others = given.contains("other_parameters");
     counted.row.reason = rows.keep(text_of(given, "reason").value_or(""));
@@ -95,7 +95,7 @@ void read_row(Rows& rows, const ordered_json& given)
     rows.counted.push_back(counted);
 }
 
-// read_map reads what a summary says of dumps besides.
+// read_map reads the counts of dumps in a summary.
 void read_map(Unmapped& unmapped, const ordered_json& given)
 {
     if (!given.is_object()) refuse("\"map\" is not an object");
@@ -120,8 +120,8 @@ void read_map(Unmapped& unmapped, const ordered_json& given)
 // read_result counts a result as the batch that wrote it would have.
 void read_result(Rows& rows, const ordered_json& result)
 {
-    Counted counted{common_of(result), false, 1};
-    Row& row = counted.row;
+    CountedRow counted{common_of(result), false, 1};
+    SummaryRow& row = counted.row;
     std::string parameter;
     append_counted_parameter(parameter, text_of(result, "parameter").value_or(""));
     row.parameter = rows.keep(parameter);
@@ -200,7 +200,7 @@ void add_line(Summary& summary, const std::string& line)
         unreadable_files = number_of(given["summary"], "unreadable_files");
         if (given.contains("map")) read_map(rows.unmapped, given["map"]);
         Tally tally;
-        for (const Counted& counted : rows.counted) tally.add(counted.row.verdict, counted.count);
+        for (const CountedRow& counted : rows.counted) tally.add(counted.row.verdict, counted.count);
         for (std::size_t i = 0; i < kVerdicts; ++i) {
             const std::string name(json_name(static_cast<Verdict>(i)));
             if (number_of(given["summary"], name.c_str()) != tally.counts.at(i))
@@ -211,7 +211,7 @@ void add_line(Summary& summary, const std::string& line)
     } else {
         refuse("neither a summary nor a result");
     }
-    for (const Counted& counted : rows.counted) summary.add(counted);
+    for (const CountedRow& counted : rows.counted) summary.add(counted);
     summary.add_unreadable_files(unreadable_files);
     summary.unmapped().add(rows.unmapped);
 }

@@ -6,16 +6,16 @@ namespace ostrel::tool {
 
 Summary::Summary() : checks_(catalogue::functions().size() + 1) {}
 
-void Summary::add(Kinds& kinds, const Row& row, std::uint64_t count)
+void Summary::add(Kinds& kinds, const SummaryRow& row, std::uint64_t count)
 {
     Kind& kind = kinds[{row.verdict, row.code, std::string(row.reason)}];
     kind.count += count;
     if (kind.example.empty()) kind.example = row.example;
 }
 
-void Summary::add(const Counted& counted)
+void Summary::add(const CountedRow& counted)
 {
-    const Row& row = counted.row;
+    const SummaryRow& row = counted.row;
     if (row.check == kUnmapped) {
         unmapped_.add(row.parameter, counted.count, row.example);
         return;
@@ -23,7 +23,7 @@ void Summary::add(const Counted& counted)
     tally_.add(row.verdict, counted.count);
     OfCheck& check = checks_[std::min<std::size_t>(row.check, checks_.size() - 1)];
     // An example of the others would depend on the order in which they came.
-    Row without_example = row;
+    SummaryRow without_example = row;
     without_example.example = {};
     auto& parameters = check.parameters;
     const auto found = parameters.find(row.parameter);
@@ -42,9 +42,9 @@ void Summary::add(const Counted& counted)
     }
 }
 
-void Summary::for_each(const std::function<void(const Counted&)>& visit) const
+void Summary::for_each(const std::function<void(const CountedRow&)>& visit) const
 {
-    Counted counted;
+    CountedRow counted;
     const auto show = [&](const Kinds& kinds) {
         for (const auto& [key, kind] : kinds) {
             counted.row.verdict = std::get<Verdict>(key);

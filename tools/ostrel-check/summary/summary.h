@@ -16,9 +16,9 @@
 
 namespace ostrel::tool {
 
-// Counted is a row with the number of its records.
-struct Counted {
-    Row row;
+// CountedRow is a row with the number of its records.
+struct CountedRow {
+    SummaryRow row;
     bool is_others = false;  // of the parameters that are not counted one by one
     std::uint64_t count = 0;
 };
@@ -32,10 +32,10 @@ class Summary {
 
     Summary();
 
-    void add(const Counted& counted);
+    void add(const CountedRow& counted);
     void add_unreadable_files(std::uint64_t count) { unreadable_files_ += count; }
 
-    // What a map was used for besides.
+    // The counts of dumps.
     [[nodiscard]] Unmapped& unmapped() { return unmapped_; }
     [[nodiscard]] const Unmapped& unmapped() const { return unmapped_; }
 
@@ -43,7 +43,7 @@ class Summary {
     [[nodiscard]] std::uint64_t unreadable_files() const { return unreadable_files_; }
 
     // for_each visits the rows in the order of the catalogue, of the parameters, and of verdicts, codes and reasons.
-    void for_each(const std::function<void(const Counted&)>& visit) const;
+    void for_each(const std::function<void(const CountedRow&)>& visit) const;
 
  private:
     struct Kind {
@@ -56,7 +56,7 @@ class Summary {
         Kinds others;
     };
 
-    static void add(Kinds& kinds, const Row& row, std::uint64_t count);
+    static void add(Kinds& kinds, const SummaryRow& row, std::uint64_t count);
 
     std::vector<OfCheck> checks_;  // as in the catalogue; and last, what belongs to no check
     Tally tally_;

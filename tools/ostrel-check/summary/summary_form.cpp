@@ -13,7 +13,7 @@ using nlohmann::ordered_json;
 
 constexpr std::size_t kLongestShown = 200;
 
-const catalogue::Function* function_of(const Row& row)
+const catalogue::Function* function_of(const SummaryRow& row)
 {
     return row.check == kNoCheck ? nullptr : &catalogue::functions()[row.check];
 }
@@ -28,7 +28,7 @@ struct Ends {
 std::vector<Ends> ends_of_families(const Summary& summary)
 {
     std::vector<Ends> all;
-    summary.for_each([&](const Counted& counted) {
+    summary.for_each([&](const CountedRow& counted) {
         const Verdict verdict = counted.row.verdict;
         const catalogue::Function* function = function_of(counted.row);
         if (function == nullptr || verdict == Verdict::kMalformed) return;
@@ -89,7 +89,7 @@ std::string rows_text(const Summary& summary)
 {
     std::string text;
     std::string last;
-    summary.for_each([&](const Counted& counted) {
+    summary.for_each([&](const CountedRow& counted) {
         const catalogue::Function* function = function_of(counted.row);
         std::string head = "  ";
         head += function == nullptr ? "(no check)" : function->name;
@@ -112,9 +112,9 @@ std::string rows_text(const Summary& summary)
 ordered_json rows_json(const Summary& summary)
 {
     ordered_json rows = ordered_json::array();
-    summary.for_each([&](const Counted& counted) {
+    summary.for_each([&](const CountedRow& counted) {
         ordered_json row = ordered_json::object();
-        const Row& given = counted.row;
+        const SummaryRow& given = counted.row;
         if (const catalogue::Function* function = function_of(given)) row["check"] = function->name;
         if (counted.is_others) row["other_parameters"] = true;
         if (!given.parameter.empty()) row["parameter"] = given.parameter;

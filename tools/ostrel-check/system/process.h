@@ -1,4 +1,4 @@
-// A process in which a check may do its worst.
+// Processes: a check may crash or hang in one of its own.
 #ifndef OSTREL_TOOLS_SYSTEM_PROCESS_H
 #define OSTREL_TOOLS_SYSTEM_PROCESS_H
 
@@ -37,7 +37,7 @@ struct Pipe {
 Pipe make_pipe();
 
 // fork_guarded forks: 0 in the child, its process id in the parent. The child leads a process group of its
-// own, dies with its parent, leaves no core behind and does not die of a closed pipe. Throws
+// own, dies with its parent, leaves no core file and survives a closed pipe. Throws
 // std::system_error.
 pid_t fork_guarded();
 

@@ -17,7 +17,7 @@ struct Advance {
     std::uint64_t bytes = 0;  // of the input
 };
 
-// size_of is the number of bytes in the files, or nothing where one of them is no regular file.
+// size_of is the number of bytes in the files, or nothing where one of them is not a regular file.
 std::optional<std::uint64_t> size_of(const std::vector<std::string>& files);
 
 // describe says it in a line of at most 80 columns. The bytes skipped were not judged and took no time.

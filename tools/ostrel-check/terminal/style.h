@@ -13,7 +13,7 @@ bool wants_colours(int descriptor);
 
 enum class Colour { kBold, kGreen, kRed };
 
-// painted gives the text in that colour, or as it is where there are to be none.
+// painted returns the text in that colour, or unchanged without colours.
 std::string painted(std::string_view text, Colour colour, bool with_colours);
 
 // kColumns is the width where no terminal has another one.

@@ -113,8 +113,8 @@ void append_bytes(std::string& out, std::string_view bytes, Encoding encoding)
 
 namespace {
 
-// Text hears JSON that is a string.
-struct Text : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Text> {
+// StringReader is a SAX handler for a JSON string.
+struct StringReader : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, StringReader> {
     std::string text;
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
     bool String(const char* begin, rapidjson::SizeType size, bool /*copy*/)
@@ -136,7 +136,7 @@ std::string text_of(const Member& member)
     write_member(json, member);
     const std::string_view token(buffer.GetString(), buffer.GetSize());
     if (!token.starts_with('"')) return std::string(token);
-    Text text;
+    StringReader text;
     JsonParser().parse(token, text);
     return text.text;
 }

@@ -6,7 +6,7 @@
 
 namespace ostrel::tool {
 
-void append_result(std::string& out, const Style& style, const Place& place, const Result& result)
+void append_result(std::string& out, const Style& style, const Location& place, const Result& result)
 {
     if (style.no_results) return;
     if (style.only_refused && exit_code(result.verdict) == kExitAccepted) return;

@@ -25,17 +25,17 @@ struct Style {
     bool redacts = false;                 // secret values are replaced by their length
     bool tries_known = false;             // also calls are made that are known not to return
     std::size_t columns = 0;              // of the terminal that a table is for; 0: nothing is wrapped
-    std::string driver_problem;  // why nobody stands in for the wireless driver as was asked for; or empty
+    std::string driver_problem;           // why --channels could not replace the wireless driver; or empty
 };
 
-// Place is where a case stands.
-struct Place {
+// Location is the file and the line of a case.
+struct Location {
     std::string_view file;
     std::uint64_t line = 0;
 };
 
 // append_result adds a result in that style.
-void append_result(std::string& out, const Style& style, const Place& place, const Result& result);
+void append_result(std::string& out, const Style& style, const Location& place, const Result& result);
 
 }  // namespace ostrel::tool
 

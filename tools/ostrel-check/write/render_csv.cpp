@@ -79,7 +79,7 @@ std::string csv_header(const Style& style)
     return std::string(kColumns).append(style.with_args ? ",args" : "").append("\n");
 }
 
-void append_csv(std::string& out, const Style& style, const Place& place, const Result& result)
+void append_csv(std::string& out, const Style& style, const Location& place, const Result& result)
 {
     append_field(out, place.file);
     append_column(out, std::to_string(place.line));

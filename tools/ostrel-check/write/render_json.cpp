@@ -18,12 +18,12 @@ constexpr std::array<std::string_view, 16> kOwn = {"file",   "line",    "check",
 
 bool is_own(std::string_view name) { return std::ranges::find(kOwn, name) != kOwn.end(); }
 
-// Line writes one line after the other, with the same memory.
-class Line {
+// ResultLine writes one line after the other, with the same memory.
+class ResultLine {
  public:
-    Line() : json_(buffer_) {}
+    ResultLine() : json_(buffer_) {}
 
-    std::string_view write(const Style& style, const Place& place, const Result& result)
+    std::string_view write(const Style& style, const Location& place, const Result& result)
     {
         constexpr std::size_t kMostKept = std::size_t{1} << 20;
         if (buffer_.GetSize() > kMostKept) {
@@ -146,9 +146,9 @@ class Line {
 
 }  // namespace
 
-void append_json(std::string& out, const Style& style, const Place& place, const Result& result)
+void append_json(std::string& out, const Style& style, const Location& place, const Result& result)
 {
-    static Line line;
+    static ResultLine line;
     out += line.write(style, place, result);
 }
 

@@ -8,7 +8,7 @@
 
 namespace ostrel::tool {
 
-void append_json(std::string& out, const Style& style, const Place& place, const Result& result);
+void append_json(std::string& out, const Style& style, const Location& place, const Result& result);
 
 }  // namespace ostrel::tool
 

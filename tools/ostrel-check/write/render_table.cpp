@@ -76,7 +76,7 @@ void append_after(std::string& out, const Result& result, std::size_t indentatio
     }
 }
 
-void append_row(std::string& out, const Style& style, const Place& place, const Result& result)
+void append_row(std::string& out, const Style& style, const Location& place, const Result& result)
 {
     std::string row;
     append_padded(row, std::to_string(place.line), 7, true);

@@ -1,4 +1,4 @@
-#include "map/trial.h"
+#include "map/probe.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -11,7 +11,6 @@
 #include "judge/driver.h"
 #include "judge/reason.h"
 #include "judge/verdict.h"
-#include "read/bind.h"
 #include "rules/evaluate.h"
 #include "system/process.h"
 
@@ -24,7 +23,7 @@ constexpr int kPatience = 2000;  // milliseconds
 // as_argument is none where a number is needed and there is none.
 std::optional<catalogue::Value> as_argument(const catalogue::Argument& argument, const std::string& text)
 {
-    if (!is_number(argument)) return catalogue::Value(text);
+    if (!argument.is_number()) return catalogue::Value(text);
     long long number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
@@ -33,7 +32,7 @@ std::optional<catalogue::Value> as_argument(const catalogue::Argument& argument,
 
 }  // namespace
 
-Trial::Trial(const Map& map, const Entry& entry) : entry_(&entry)
+Probe::Probe(const Map& map, const MapEntry& entry) : entry_(&entry)
 {
     std::size_t index = 0;
     for (const catalogue::Argument& argument : entry.function->arguments) {
@@ -62,7 +61,7 @@ Trial::Trial(const Map& map, const Entry& entry) : entry_(&entry)
     }
 }
 
-std::optional<std::vector<catalogue::Value>> Trial::values_with(const std::string& value) const
+std::optional<std::vector<catalogue::Value>> Probe::values_with(const std::string& value) const
 {
     std::vector<catalogue::Value> values = values_;
     std::size_t index = 0;
@@ -87,7 +86,7 @@ std::optional<std::vector<catalogue::Value>> Trial::values_with(const std::strin
     return values;
 }
 
-std::optional<int> Trial::predict(const std::string& value) const
+std::optional<int> Probe::predict(const std::string& value) const
 {
     const auto values = values_with(value);
     if (!values) return std::nullopt;
@@ -98,7 +97,7 @@ std::optional<int> Trial::predict(const std::string& value) const
     return answer.code;
 }
 
-std::optional<int> Trial::judge(const std::string& value) const
+std::optional<int> Probe::judge(const std::string& value) const
 {
     const auto values = values_with(value);
     if (!values) return std::nullopt;
@@ -125,7 +124,7 @@ std::optional<int> Trial::judge(const std::string& value) const
     return code;
 }
 
-std::string Trial::reason(const std::string& value) const
+std::string Probe::reason(const std::string& value) const
 {
     const auto values = values_with(value);
     if (!values) return "";

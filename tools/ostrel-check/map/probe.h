@@ -1,6 +1,6 @@
-// Trial: a value judged by an entry's check, the other arguments being the map's examples.
-#ifndef OSTREL_TOOLS_MAP_TRIAL_H
-#define OSTREL_TOOLS_MAP_TRIAL_H
+// Probe: a value judged by an entry's check, the other arguments being the map's examples.
+#ifndef OSTREL_TOOLS_MAP_PROBE_H
+#define OSTREL_TOOLS_MAP_PROBE_H
 
 #include <optional>
 #include <string>
@@ -11,15 +11,15 @@
 
 namespace ostrel::tool {
 
-class Trial {
+class Probe {
  public:
     // Throws std::invalid_argument where an example is missing.
-    Trial(const Map& map, const Entry& entry);
+    Probe(const Map& map, const MapEntry& entry);
 
-    // predict gives the answer by the description; none where that says nothing of the call.
+    // predict returns the code by the description; none where the description does not cover the call.
     [[nodiscard]] std::optional<int> predict(const std::string& value) const;
 
-    // judge gives the library's answer; none where the check does not return.
+    // judge returns the library's code; none where the check does not return.
     [[nodiscard]] std::optional<int> judge(const std::string& value) const;
 
     // reason says in a sentence why the value is refused.
@@ -31,7 +31,7 @@ class Trial {
  private:
     [[nodiscard]] std::optional<std::vector<catalogue::Value>> values_with(const std::string& value) const;
 
-    const Entry* entry_;
+    const MapEntry* entry_;
     std::vector<catalogue::Value> values_;  // of the arguments that are given
     std::vector<std::pair<std::string, std::string>> others_;
 };
