@@ -84,7 +84,7 @@ std::vector<std::string> seeds(const Fuzzer& fuzzer, const Function& function,
     std::size_t varied = 0;
     for (const bool is_accepted : {true, false}) {
         for (const vectors::Row& row : rows) {
-            if (row.given.function != &function || (row.promise.outcome.code == 0) != is_accepted) continue;
+            if (row.given.function != &function || (row.promise.result.code == 0) != is_accepted) continue;
             const std::vector<Value> values = catalogue::completed(function, row.given.values);
             result.add(values);
             const bool is_varied = vectors::longest_text(row.given) < kLong && varied < kMostVaried;

@@ -35,8 +35,8 @@ constexpr Text kOtherUserName = text(1, 131, kLatin1Printable);
 
 constexpr int kNoType = 0;
 
-// account_type gives the type of a part of 18 to 30 characters before the account realm, with at most two
-// "#".
+// account_type returns the type of a name that has 18 to 30 characters before the account realm, at most two
+// of them "#".
 int account_type(std::string_view part, int separators)
 {
     const std::size_t length = part.size();
@@ -50,7 +50,7 @@ int account_type(std::string_view part, int separators)
     return length >= 19 && part[12] == '#' && part[length - 5] == '#' ? 4 : kNoType;
 }
 
-// setup_type gives the type of a part before the set-up realm, with at most two "#".
+// setup_type returns the type of a name that has at most two "#" before the set-up realm.
 int setup_type(std::string_view part, int separators)
 {
     if (separators == 0) return part.size() == 16 ? 5 : kNoType;
@@ -71,7 +71,7 @@ int TcmValidateProvisioningCode(const char* value)
 {
     const std::string_view code = value;
     if (code.size() != 15) return OSTREL_INVALID_VALUE;
-    constexpr char kShape[] = "000.004.004.999";  // a digit is the highest that may stand in its place
+    constexpr char kShape[] = "000.004.004.999";  // each digit is the highest that its place allows
     for (std::size_t i = 0; i < code.size(); ++i) {
         const char highest = kShape[i];
         const char lowest = highest == '.' ? '.' : '0';

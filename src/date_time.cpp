@@ -20,7 +20,7 @@ class Reader {
  public:
     explicit Reader(const char* value) : at_(value) {}
 
-    // two_digits gives kNoNumber where two digits are not what follows, and does not move on.
+    // two_digits returns kNoNumber, and does not advance, if the next two characters are not both digits.
     unsigned two_digits()
     {
         const unsigned tens = digit(at_[0]);
@@ -38,7 +38,7 @@ class Reader {
         return true;
     }
 
-    // sign does not branch on which of the two it is, for nobody can guess that.
+    // sign is branch-free: which of the two it is cannot be predicted.
     bool sign()
     {
         const bool is_sign = (*at_ == '+') | (*at_ == '-');

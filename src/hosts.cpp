@@ -51,7 +51,7 @@ const char* skip_scheme(const char* text, const char* scheme)
     return std::strncmp(text, "://", 3) == 0 ? text + 3 : nullptr;
 }
 
-// is_url needs to judge by the characters of a URL only what its other parts leave: they allow fewer. A ":" in
+// is_url checks only the path against the characters of a URL, because the other components allow fewer. A ":" in
 // the path would end the host if there was none before.
 bool is_url(const char* value, const char* scheme)
 {

@@ -28,8 +28,8 @@ constexpr int kLargestTestBuffer = 0x100000;
 
 constexpr Limits kPorts{0, 65535, OSTREL_OUT_OF_RANGE};
 
-// require_digits gives OSTREL_VALID for the empty value and a refusal for one that begins with a non-digit.
-// It looks at the first character for as long as that is a digit, which is for ever: the scan never moves on.
+// require_digits returns OSTREL_VALID for the empty value and refuses one that begins with a non-digit.
+// A value that begins with a digit never gets an answer, because the scan does not advance.
 int require_digits(const char* value_p, const char* function)
 {
     while (value_p[0] != '\0') {

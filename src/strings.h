@@ -9,7 +9,7 @@
 
 namespace ostrel {
 
-// validate_length gives 0, OSTREL_TOO_SHORT or OSTREL_TOO_LONG. The limits are signed: a negative minimum
+// validate_length returns 0, OSTREL_TOO_SHORT or OSTREL_TOO_LONG. The limits are signed: a negative minimum
 // lets every length through, a negative maximum none. Exact for any length, also beyond what an int can hold.
 int validate_length(int min_len, int max_len, std::size_t length);
 

@@ -51,10 +51,10 @@ std::string_view trim(std::string_view text)
     return text;
 }
 
-// is_repeated tells whether the item stands anywhere in the rest of the list, if that ends or has a "," as many bytes
+// is_repeated returns whether the item occurs anywhere in the rest of the list, if that ends or has a "," as many bytes
 // from its start as the item has.
 //
-// The search looks first at the last byte of where a match would stand, where the items of most lists differ, and
+// The search compares the last byte of a possible match first, where the items of most lists differ, and
 // moves on by a whole item from a ",", which no match includes.
 bool is_repeated(std::string_view item, std::string_view rest)
 {

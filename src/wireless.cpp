@@ -19,8 +19,8 @@ constexpr auto kNamedRateSets = keywords("all|default");
 constexpr Text kPreSharedKey = text(64, 64, kHexDigits);
 constexpr Text kSsid = text(1, 32, kAsciiPrintable);
 
-// Packed is a text of up to three bytes as one number. Longer texts give numbers that no shorter one gives,
-// because the last four bytes are in them.
+// Packed is a text of up to three bytes as one number. A longer text never equals a shorter one,
+// because its last four bytes are kept.
 using Packed = std::uint32_t;
 
 constexpr Packed append(Packed packed, char c) { return packed << 8 | static_cast<unsigned char>(c); }
@@ -81,8 +81,7 @@ int TcmValidateSSID(const char* ssid)
 
 int TcmValidateDataTransmitRates(const char* value)
 {
-    // An empty item is no rate, which refuses the empty value and a comma that leads, ends or follows
-    // another.
+    // An empty item is not a rate, so the empty value is refused, and a comma that leads, ends or follows another.
     Packed item = 0;
     for (const char* c = value; *c != '\0'; ++c) {
         if (*c != ',') {

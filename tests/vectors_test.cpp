@@ -25,7 +25,7 @@ namespace ostrel::tests {
 using calling::Caller;
 using calling::Capture;
 using calling::Edge;
-using vectors::Outcome;
+using vectors::CallResult;
 using vectors::Row;
 using vectors::shown;
 
@@ -63,11 +63,11 @@ class VectorTest : public testing::Test {
         static std::array<Caller, 2> callers = {Caller(Edge::kEnd), Caller(Edge::kBegin)};
         for (Caller& caller : callers) {
             caller.load(*row.given.function, row.given.values);
-            const Outcome expected = expected_outcome(row, caller.written());
-            Outcome actual;
+            const CallResult expected = expected_result(row, caller.written());
+            CallResult actual;
             {
                 Capture capture;
-                actual = vectors::actual_outcome(caller, capture);
+                actual = vectors::actual_result(caller, capture);
             }
             EXPECT_EQ(expected, actual);
         }

@@ -43,14 +43,14 @@ Promise promise_from(const json& row)
     require_known_members(row, {"check", "args", "code", "reason", "out", "err", "after", "flushed", "why"});
     if (!row.contains("code")) throw std::invalid_argument("no code");
     Promise promise;
-    promise.outcome.code = row["code"].get<int>();
-    promise.outcome.out = catalogue::text_from_json(row.value("out", json("")));
-    promise.outcome.err = catalogue::text_from_json(row.value("err", json("")));
-    promise.outcome.flushed = row.value("flushed", true);
+    promise.result.code = row["code"].get<int>();
+    promise.result.out = catalogue::text_from_json(row.value("out", json("")));
+    promise.result.err = catalogue::text_from_json(row.value("err", json("")));
+    promise.result.flushed = row.value("flushed", true);
     promise.is_written = row.contains("after");
     if (!promise.is_written) return promise;
     for (const json& value : row["after"]) {
-        promise.outcome.after.push_back(catalogue::value_from_json(value));
+        promise.result.after.push_back(catalogue::value_from_json(value));
     }
     return promise;
 }
@@ -60,7 +60,7 @@ void read(const json& json_row, Row& row)
     row.given = calling::case_from_json(json_row);
     row.promise = promise_from(answered(json_row, Atoi::kLong64));
     if (json_row.contains("reason")) row.reason = reason_from_json(json_row["reason"]);
-    if (row.reason && row.promise.outcome.code == 0)
+    if (row.reason && row.promise.result.code == 0)
         throw std::invalid_argument("a reason, and nothing is refused");
     for (const Atoi atoi : kAtois) {
         if (has_answer_for(json_row, atoi)) row.elsewhere[atoi] = promise_from(answered(json_row, atoi));
@@ -98,7 +98,7 @@ void append_file(std::vector<Row>& rows, const std::filesystem::path& path)
             const json read_row = json::parse(line);
             read(read_row, row);
             const std::string call = read_row["check"].dump() + read_row["args"].dump();
-            if (!seen.insert(call).second) row.fault = "the same call stands in an earlier line";
+            if (!seen.insert(call).second) row.fault = "an earlier line has the same call";
         } catch (const std::exception& error) {
             row.fault = error.what();
         }
@@ -160,11 +160,11 @@ void PrintTo(const RowReason& reason, std::ostream* stream)
     if (reason.offset) *stream << ", offset " << *reason.offset;
 }
 
-Outcome expected_outcome(const Row& row, const std::vector<Written>& before, Atoi atoi)
+CallResult expected_result(const Row& row, const std::vector<Written>& before, Atoi atoi)
 {
     const auto other = row.elsewhere.find(atoi);
     const Promise& promise = other != row.elsewhere.end() ? other->second : row.promise;
-    Outcome expected = promise.outcome;
+    CallResult expected = promise.result;
     if (!promise.is_written) expected.after = values_of(before);
     return expected;
 }

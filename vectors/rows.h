@@ -12,13 +12,13 @@
 
 #include "calling/case.h"
 #include "vectors/answers.h"
-#include "vectors/outcome.h"
+#include "vectors/call_result.h"
 
 namespace ostrel::vectors {
 
 // Promise is what a row says of the call.
 struct Promise {
-    Outcome outcome;          // what the row leaves out is the silent default
+    CallResult result;        // what the row leaves out is the silent default
     bool is_written = false;  // or else what the caller holds stays as it was
 };
 
@@ -55,15 +55,15 @@ struct Row {
 // no such file.
 std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 
-// read_cases gives every row of every file. Throws std::invalid_argument for one with a fault.
+// read_cases returns every row of every file. Throws std::invalid_argument for one with a fault.
 std::vector<Row> read_cases();
 
-// longest_text gives the length of the longest text that is passed.
+// longest_text returns the length of the longest text that is passed.
 std::size_t longest_text(const calling::Case& given);
 
-// expected_outcome is what a row promises where the caller holds before, with the C library at hand or another one.
-Outcome expected_outcome(const Row& row, const std::vector<calling::Written>& before,
-                         Atoi atoi = rules::atoi_here());
+// expected_result is what a row promises where the caller holds before, with the C library at hand or another one.
+CallResult expected_result(const Row& row, const std::vector<calling::Written>& before,
+                           Atoi atoi = rules::atoi_here());
 
 }  // namespace ostrel::vectors
 

@@ -13,9 +13,9 @@ using namespace ostrel;
 namespace {
 
 constexpr std::size_t kAllowedListCapacity = 160;     // characters, without the terminator
-constexpr std::size_t kMacAddressWithSeparator = 18;  // 17 characters and what parts them from the next
+constexpr std::size_t kMacAddressWithSeparator = 18;  // 17 characters and the separator after them
 
-// ServerList is a list of DNS servers parted at its first ",". Without one there is no second server, and the
+// ServerList is a list of DNS servers, split at its first ",". Without one there is no second server, and the
 // first is the whole list.
 struct ServerList {
     std::string_view first;

@@ -30,7 +30,7 @@ constexpr char kLatin1Names[96][kLongestName + 1] = {
     "oslash", "ugrave", "uacute", "ucirc",  "uuml",   "yacute", "thorn",  "yuml",    // F8
 };
 
-// Reference is what stands behind an "&": the byte it gives and how many bytes it takes, the ";" included. A
+// Reference is the text after an "&": the byte that it names and its length, the ";" included. A
 // length of 0 means that it is none.
 struct Reference {
     int byte;
@@ -39,7 +39,7 @@ struct Reference {
 
 constexpr Reference kNone = {0, 0};
 
-// digit_value gives a number from the base up for what is no digit of it.
+// digit_value returns the base or more for a character that is not a digit of that base.
 int digit_value(char c, int base)
 {
     if (c >= '0' && c <= '9') return c - '0';
@@ -48,7 +48,7 @@ int digit_value(char c, int base)
     return base;
 }
 
-// numeric_reference reads digits that stand behind a prefix of that many bytes.
+// numeric_reference reads the digits after a prefix of that many bytes.
 Reference numeric_reference(std::string_view text, std::size_t prefix, int base)
 {
     int number = 0;
@@ -87,7 +87,7 @@ Reference named_reference(std::string_view text)
     return kNone;
 }
 
-// reference_at reads what stands behind an "&".
+// reference_at reads the text after an "&".
 Reference reference_at(std::string_view text)
 {
     if (text.size() < 2 || text[0] != '#') return named_reference(text);

@@ -1,7 +1,7 @@
 // Lists of keywords.
 //
 // A list is written as people read it, with a "|" between the keywords, and becomes one text without pointers when it
-// is compiled: before each keyword stands how far it is to the next one, and behind the last a 0.
+// is compiled: each keyword follows its distance to the next one, and a 0 follows the last.
 #ifndef OSTREL_SUPPORT_KEYWORDS_H
 #define OSTREL_SUPPORT_KEYWORDS_H
 

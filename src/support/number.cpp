@@ -16,7 +16,7 @@ int read_number(const char*& text)
     const char* const start = text;
     unsigned number = 0;
     for (; digit(*text) <= kLargestDigit; ++text) number = number * 10 + digit(*text);
-    // What a sign, white space and too large a number give is the C library's answer.
+    // The C library decides about a sign, white space and numbers that are too large.
     if (text == start || text - start > kMostDigits) return std::atoi(start);
     return static_cast<int>(number);
 }

@@ -9,7 +9,7 @@ constexpr unsigned kLargestDigit = 9;
 // digit is above kLargestDigit for a character that is none.
 constexpr unsigned digit(char c) { return static_cast<unsigned char>(c) - unsigned{'0'}; }
 
-// read_number moves the text to the first character that is no digit.
+// read_number advances the text to the first character that is not a digit.
 int read_number(const char*& text);
 
 int leading_number(const char* text);

@@ -33,7 +33,7 @@ std::string contents(const std::filesystem::path& path)
 
 bool is_name_character(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; }
 
-// names_before gives the name that ends where each of the marks stands.
+// names_before returns the name that ends at each of the marks.
 std::vector<std::string> names_before(const std::string& text, std::string_view marks)
 {
     std::vector<std::string> names;
@@ -60,7 +60,7 @@ std::vector<std::string> catalogue_names()
     return names;
 }
 
-// public_headers gives the paths as hosts write them, without api.h, which declares nothing.
+// public_headers returns the paths as hosts write them, without api.h, which declares nothing.
 std::vector<std::string> public_headers()
 {
     const std::filesystem::path root = OSTREL_SOURCE_DIR "/include";
@@ -79,14 +79,14 @@ std::vector<std::string> declared_names()
         const std::string text = contents(OSTREL_SOURCE_DIR "/include/" + header);
         const std::string mark = "\nOSTREL_API ";
         for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + 1)) {
-            // The declared name stands before the first parenthesis or bracket.
+            // The declared name precedes the first parenthesis or bracket.
             names.push_back(names_before(text.substr(at, text.find(';', at) - at), "([").front());
         }
     }
     return names;
 }
 
-// differences gives what stands more often in one list than in the other, so that a failure is short.
+// differences returns what occurs more often in one list than in the other, so that a failure is short.
 std::vector<std::string> differences(const std::vector<std::string>& a, const std::vector<std::string>& b)
 {
     const std::multiset<std::string> sorted_a(a.begin(), a.end());
@@ -102,7 +102,7 @@ TEST(Exports, TheListHoldsEachNameOnce)
     EXPECT_FALSE(names.empty());
     std::ranges::sort(names);
     const auto repeated = std::ranges::adjacent_find(names);
-    EXPECT_EQ(names.end(), repeated) << *repeated << " stands twice";
+    EXPECT_EQ(names.end(), repeated) << *repeated << " is listed twice";
 }
 
 TEST(Exports, TheListHasOneUnnamedVersionAndSpellsEveryName)

@@ -66,7 +66,7 @@ const std::vector<std::string>& hostile_texts()
     return texts;
 }
 
-// try_all calls the function with the text in each text argument in turn, and gives how many answers are not
+// try_all calls the function with the text in each text argument in turn, and returns how many answers are not
 // listed.
 int try_all(const Function& function, const std::string& text, std::array<Caller, 2>& callers)
 {

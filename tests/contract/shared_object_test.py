@@ -57,7 +57,7 @@ def relocations(path):
 
 
 def sections(path):
-    """sections gives the flags and the size of each section."""
+    """sections returns the flags and the size of each section."""
     found = {}
     for line in read("--sections", path).splitlines():
         match = re.match(r"\s*\[\s*\d+\]\s+(\S+)\s+\S+\s+[0-9a-f]+\s+[0-9a-f]+\s+([0-9a-f]+)\s+[0-9a-f]+\s+([A-Z]*)",
@@ -114,7 +114,7 @@ class SharedObject(unittest.TestCase):
         self.assertNotIn("Version definition section", read("--version-info", LIBRARY))
 
     def test_imports_are_within_the_list(self):
-        self.assertEqual(sorted(set(self.listed_imports)), sorted(self.listed_imports), "a name stands twice")
+        self.assertEqual(sorted(set(self.listed_imports)), sorted(self.listed_imports), "a name is listed twice")
         unlisted = {plain(symbol.name) for symbol in self.imports} - set(self.listed_imports)
         self.assertEqual(set(), unlisted)
 
@@ -128,7 +128,7 @@ class SharedObject(unittest.TestCase):
         self.assertEqual([], [name for name in names if name.startswith("_Z")])
 
     def test_no_writable_data_of_its_own(self):
-        """What a section of the empty library holds may stand here too; nothing may be added to it."""
+        """A section may hold what it holds in the empty library, and nothing else."""
         empty = sections(EMPTY)
         for name, (flags, size) in sections(LIBRARY).items():
             # The linker's own: filled while loading, and read-only from then on.

@@ -33,7 +33,7 @@ void dump(int signal_number)
     std::raise(signal_number);
 }
 
-// The tests give a call that never returns 300 ms. A third of that is enough to get into its loop.
+// The tests allow a call that never returns 300 ms. A third of that is enough to get into its loop.
 void start_timer()
 {
     const itimerval once = {{0, 0}, {0, 100000}};

@@ -109,7 +109,7 @@ std::string packed_row(const Row& row, const Promise& promise, unsigned atois)
     for (std::size_t i = 0; i < before.size(); ++i) {
         kinds += letter_of(function.arguments[i].kind);
         const bool is_written = kinds.back() == 'b' || kinds.back() == 'n';
-        if (is_written && promise.is_written) after[i] = promise.outcome.after.at(written++);
+        if (is_written && promise.is_written) after[i] = promise.result.after.at(written++);
     }
 
     std::string packed;
@@ -117,10 +117,10 @@ std::string packed_row(const Row& row, const Promise& promise, unsigned atois)
     put_string(packed, function.name);
     put_string(packed, kinds);
     put(packed, atois);
-    put(packed, promise.outcome.flushed ? 1 : 0);
-    put(packed, static_cast<std::uint32_t>(promise.outcome.code));
-    put_text(packed, promise.outcome.out);
-    put_text(packed, promise.outcome.err);
+    put(packed, promise.result.flushed ? 1 : 0);
+    put(packed, static_cast<std::uint32_t>(promise.result.code));
+    put_text(packed, promise.result.out);
+    put_text(packed, promise.result.err);
     for (std::size_t i = 0; i < before.size(); ++i) {
         const std::vector<std::string> texts = texts_of(before[i]);
         const bool is_null = std::holds_alternative<std::nullptr_t>(before[i]);

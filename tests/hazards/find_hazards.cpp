@@ -182,7 +182,7 @@ void find_hazards()
 {
     std::map<const Function*, std::vector<Values>> accepted;
     for (const Row& row : read_cases()) {
-        if (row.promise.outcome.code == 0 && row.elsewhere.empty())
+        if (row.promise.result.code == 0 && row.elsewhere.empty())
             accepted[row.given.function].push_back(row.given.values);
     }
     for (const Function& function : catalogue::functions()) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kRoom = 256;
 
-// unfilled is a buffer that holds the text, its terminator, and behind it what a zero-filled one would not.
+// unfilled is a buffer that holds the text and its terminator, and after them bytes other than zero.
 std::string unfilled(const std::string& text)
 {
     std::string buffer(kRoom, '\xAA');

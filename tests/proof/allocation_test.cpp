@@ -1,4 +1,4 @@
-// The library allocates nothing. This program is a host that stands between the library and the C library:
+// The library allocates nothing. This program is a host between the library and the C library:
 // it defines malloc and its family, which notes who asks, and the functions that the library imports and that
 // could allocate, which note that the library is inside them.
 //

@@ -35,7 +35,7 @@ struct Asserting {
     std::string condition = kUsual;
 };
 
-// own is a check that reports under its own name, at the line where it stands.
+// own is a check that reports its own name and its own line.
 Asserting own(std::string_view function, const char* module)
 {
     return {function, module, std::string(function)};
@@ -93,7 +93,7 @@ Reports promised()
     return reports;
 }
 
-// asserted calls the function and gives the report of the assertion; the empty text where there is none.
+// asserted calls the function and returns the report of the assertion, or the empty text if there is none.
 std::string asserted(const Function& function, const std::vector<Value>& values, Places& places)
 {
     const ChildEnd end = run_in_child(std::chrono::seconds(60), [&] {
@@ -113,7 +113,7 @@ std::string asserted(const Function& function, const std::vector<Value>& values,
     return parts[1].str() + ":" + (fixed ? parts[2].str() : "*") + ": " + parts[3].str();
 }
 
-// numbers_of gives the numbers to try: some checks ask which protocol it is before they look at the value.
+// numbers_of returns the numbers to try: some checks ask which protocol it is before they look at the value.
 std::vector<long long> numbers_of(const Function& function)
 {
     for (const catalogue::Argument& argument : function.arguments) {

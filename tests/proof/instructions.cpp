@@ -9,7 +9,7 @@
 //
 //   instructions together|each BYTES...
 //
-// The sizes stand from the smallest up. Writing takes longer than calling, so "together" counts a few shapes of
+// The sizes are in ascending order. Writing takes longer than calling, so "together" counts a few shapes of
 // a function in one sum, in which one that grows too fast soon outweighs the others.
 
 #include <valgrind/callgrind.h>
@@ -55,7 +55,7 @@ std::string list_of_distinct_items(std::size_t size)
     return list;
 }
 
-// kCases bring long values past what stands before the part that looks at all of them.
+// kCases bring long values past the conditions that come before the one that reads all of them.
 constexpr LongCase kCases[] = {
     {"TcmValidateReservedAddress", "accepted",
      [](std::size_t size) -> std::vector<Value> {
@@ -167,7 +167,7 @@ constexpr LongCase kCases[] = {
          -> std::vector<Value> { return {"1234567890123#" + std::string(size, '4') + "@example.net"}; }},
 };
 
-// long_text gives the part repeated; making it takes longer than most calls, so each is made once.
+// long_text returns the part repeated; making it takes longer than most calls, so each is made once.
 const std::string& long_text(std::size_t part, std::size_t size)
 {
     static std::string texts[std::size(kParts)];
@@ -212,8 +212,8 @@ void count_case(const LongCase& one, std::size_t size, bool each)
                ' ' + std::to_string(size));
 }
 
-// count_argument counts the calls in which that argument is long, or all text arguments are; it then stands
-// behind the last one.
+// count_argument counts the calls in which that argument is long, or all text arguments are; its number is then
+// one after the last.
 void count_argument(const Function& function, std::size_t argument, std::size_t size, bool each)
 {
     const bool all = argument == function.arguments.size();

@@ -32,7 +32,7 @@ Count = collections.namedtuple("Count", "instructions items calls")
 
 
 def counted():
-    """counted runs the program and gives the counts by call and size."""
+    """counted runs the program and returns the counts by call and size."""
     counts = collections.defaultdict(dict)
     with tempfile.NamedTemporaryFile("r", encoding="ascii", errors="replace") as output:
         subprocess.run([VALGRIND, "--quiet", "--tool=callgrind", "--combine-dumps=yes", "--collect-atstart=no",

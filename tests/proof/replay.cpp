@@ -1,5 +1,5 @@
 // Runs every row of the vectors, in one process and with as little around it as can be, and counts the rows
-// whose outcome is another. What a tool watches or what a locale changes is then the library's.
+// whose result is another. What a tool watches or what a locale changes is then the library's.
 //
 //   replay [LOCALE [BYTES]]
 //
@@ -20,12 +20,12 @@ namespace {
 using namespace ostrel;
 using namespace ostrel::vectors;
 
-// is_as_promised runs the case at the edge, and says so where the outcome is another.
+// is_as_promised runs the case at the edge, and says so where the result is another.
 bool is_as_promised(const Row& row, calling::Caller& caller, calling::Capture& capture)
 {
     caller.load(*row.given.function, row.given.values);
-    const Outcome expected = expected_outcome(row, caller.written());
-    const Outcome actual = actual_outcome(caller, capture);
+    const CallResult expected = expected_result(row, caller.written());
+    const CallResult actual = actual_result(caller, capture);
     if (actual == expected) return true;
     std::cerr << row.file.filename().string() << ':' << row.line << ": promised";
     PrintTo(expected, &std::cerr);

@@ -147,7 +147,7 @@ class PaintedStack {
         zero_ = depth_of_nothing();
     }
 
-    // depth gives the bytes that the loaded call needs.
+    // depth returns the bytes that the loaded call needs.
     std::size_t depth(Caller& caller) { return run(caller) - zero_; }
 
  private:
@@ -209,7 +209,7 @@ class Stack : public testing::Test {
         measure(*catalogue::find("WLAN_check_channel"), {std::string("6"), std::string("RADIO_2.4GHz")});
     }
 
-    // measure_long gives the text to each text argument alone, and to all of them at once.
+    // measure_long passes the text as each text argument alone, and as all of them at once.
     void measure_long(const std::string& text)
     {
         for (const Function& function : catalogue::functions()) {

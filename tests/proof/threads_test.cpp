@@ -2,7 +2,7 @@
 // that is printed arrives whole. Built with the thread sanitizer, which the preset "tsan" does, it also shows
 // that no two threads touch the same memory unguarded.
 //
-// The checks of MAC addresses print a character without a line end, which may come to stand before any line, so
+// The checks of MAC addresses print a character without a line end, which may precede any line, so
 // their rows are judged apart, and byte by byte.
 //
 // OSTREL_LONGEST_TEXT in the environment leaves out the rows with a longer text.
@@ -32,7 +32,7 @@
 namespace ostrel::tests {
 
 using calling::Caller;
-using vectors::Outcome;
+using vectors::CallResult;
 using vectors::read_cases;
 using vectors::Row;
 using vectors::shown;
@@ -41,7 +41,7 @@ namespace {
 
 constexpr std::size_t kThreads = 8;
 
-// Pieces holds each line, or each byte where lines are not whole, and how often it stands there.
+// Pieces holds each line, or each byte where lines are not whole, and how often it occurs.
 using Pieces = std::map<std::string, std::size_t, std::less<>>;
 
 void add_lines(Pieces& lines, std::string_view text, std::size_t times)
@@ -95,14 +95,14 @@ class Redirected {
 // Expected is a row with what it promises, made before any thread runs.
 struct Expected {
     const Row* row;
-    Outcome outcome;
+    CallResult result;
 };
 
 Expected expected_of(const Row& row)
 {
     Caller caller;
     caller.load(*row.given.function, row.given.values);
-    return {&row, expected_outcome(row, caller.written())};
+    return {&row, expected_result(row, caller.written())};
 }
 
 bool asks_the_driver(const Row& row)
@@ -112,12 +112,12 @@ bool asks_the_driver(const Row& row)
            row.text.find("2.4") != std::string::npos;
 }
 
-bool is_as_promised(const Outcome& expected, const std::vector<calling::Written>& written, int code)
+bool is_as_promised(const CallResult& expected, const std::vector<calling::Written>& written, int code)
 {
     return code == expected.code && std::ranges::equal(written, expected.after, {}, &calling::Written::value);
 }
 
-// judge_all runs every case, beginning somewhere else in each thread, and gives how many went wrong.
+// judge_all runs every case, beginning somewhere else in each thread, and returns how many went wrong.
 std::size_t judge_all(const std::vector<Expected>& all, std::size_t thread)
 {
     std::size_t wrong = 0;
@@ -147,7 +147,7 @@ std::size_t judge_in_threads(const std::vector<Expected>& all)
     return wrong;
 }
 
-// differing gives a few of the lines that stand more often on one side, so that a failure is short.
+// differing returns a few of the lines that occur more often on one side, so that a failure is short.
 std::string differing(const Pieces& expected, const Pieces& actual)
 {
     std::string result;
@@ -171,7 +171,7 @@ struct Vectors {
         for (const Row& row : rows) {
             if (asks_the_driver(row)) continue;
             Expected expected = expected_of(row);
-            const auto& [code, out, err, flushed, after] = expected.outcome;
+            const auto& [code, out, err, flushed, after] = expected.result;
             if (out.empty() && err.empty()) silent.push_back(expected);
             const bool is_whole = out.empty() || out.back() == '\n';
             (is_whole ? whole : broken).push_back(std::move(expected));
@@ -208,8 +208,8 @@ class Threads : public testing::Test {
         Pieces expected_out;
         Pieces expected_err;
         for (const Expected& one : all) {
-            add(expected_out, one.outcome.out, kThreads);
-            add(expected_err, one.outcome.err, kThreads);
+            add(expected_out, one.result.out, kThreads);
+            add(expected_err, one.result.err, kThreads);
         }
         Pieces actual_out;
         Pieces actual_err;
@@ -232,7 +232,7 @@ TEST_F(Threads, JudgeEveryVectorThatPrintsNothing) { judge(vectors().silent, add
 
 TEST_F(Threads, JudgeEveryVectorThatPrintsACharacter)
 {
-    for (const Expected& one : vectors().broken) EXPECT_EQ(1, one.outcome.out.size()) << one.row->text;
+    for (const Expected& one : vectors().broken) EXPECT_EQ(1, one.result.out.size()) << one.row->text;
     judge(vectors().broken, add_bytes);
 }
 

@@ -22,20 +22,20 @@ using rules::Answer;
 using rules::Build;
 using rules::Check;
 using vectors::Atoi;
+using vectors::CallResult;
 using vectors::kAtois;
-using vectors::Outcome;
 using vectors::RowReason;
 
 namespace {
 
-// outcome_of shows a number that nothing was written to as the caller does.
-Outcome outcome_of(const Answer& answer)
+// result_of shows a number that nothing was written to as the caller does.
+CallResult result_of(const Answer& answer)
 {
-    Outcome outcome{answer.code, answer.out, answer.err, answer.is_flushed(), answer.after};
-    for (rules::Value& value : outcome.after) {
+    CallResult result{answer.code, answer.out, answer.err, answer.is_flushed(), answer.after};
+    for (rules::Value& value : result.after) {
         if (value == rules::Value(catalogue::kUnwritten)) value = nullptr;
     }
-    return outcome;
+    return result;
 }
 
 // told is what a row has of a reason.
@@ -73,7 +73,7 @@ TEST(AgreementTest, VectorsAndDescriptions)
             const Answer answer =
                 rules::evaluate(*check, catalogue::completed(function, row.given.values), build, &counts);
             EXPECT_EQ(rules::Outside::kNo, answer.outside);
-            EXPECT_EQ(expected_outcome(row, caller.written(), atoi), outcome_of(answer))
+            EXPECT_EQ(expected_result(row, caller.written(), atoi), result_of(answer))
                 << "atoi " << static_cast<int>(atoi);
             if (answer.is_refusal) {
                 EXPECT_NE("", rules::sentence(answer.reason));
@@ -104,7 +104,7 @@ TEST(AgreementTest, AnswersForSomeLibrariesDiffer)
     std::map<Atoi, int> count;
     for (const Row& row : all_rows()) {
         for (const auto& [atoi, promise] : row.elsewhere) {
-            EXPECT_NE(row.promise.outcome, promise.outcome) << row.text.substr(0, 300);
+            EXPECT_NE(row.promise.result, promise.result) << row.text.substr(0, 300);
             ++count[atoi];
         }
     }

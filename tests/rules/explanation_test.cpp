@@ -74,7 +74,7 @@ class Pattern {
 
     [[nodiscard]] const std::string& printed_in(const Row& row) const
     {
-        return is_error_ ? row.promise.outcome.err : row.promise.outcome.out;
+        return is_error_ ? row.promise.result.err : row.promise.result.out;
     }
 
  private:
@@ -141,7 +141,7 @@ TEST_P(Explained, LinesAreThoseThatArePrinted)
             patterns.emplace_back(lines[i], row);
             are_printed[i] = are_printed[i] || stands_in(patterns[i], row);
         }
-        for (const std::string& text : {row.promise.outcome.out, row.promise.outcome.err}) {
+        for (const std::string& text : {row.promise.result.out, row.promise.result.err}) {
             if (text.size() > kLongest) continue;
             EXPECT_TRUE(is_made_of(text, patterns)) << text;
         }
@@ -154,7 +154,7 @@ TEST_P(Explained, CodesAreThoseThatVectorsReach)
 {
     if (!check_.is_verdict) return;
     std::set<int> reached = {0};
-    for (const Row& row : rows_of(function_)) reached.insert(row.promise.outcome.code);
+    for (const Row& row : rows_of(function_)) reached.insert(row.promise.result.code);
     std::vector<int> codes = rules::explain(check_, oracle::library_build()).codes;
     codes.push_back(0);
     EXPECT_EQ(reached, std::set<int>(codes.begin(), codes.end()));
@@ -232,8 +232,8 @@ TEST_P(Explained, EachArgumentIsDescribed)
             output += rules::is_written(check_.arguments[before]);
         const bool changes = std::ranges::any_of(rows_of(function_), [&](const Row& row) {
             const auto values = catalogue::completed(function_, row.given.values);
-            return rules::is_written(check_.arguments[i]) && output < row.promise.outcome.after.size() &&
-                   row.promise.outcome.after[output] != values[i];
+            return rules::is_written(check_.arguments[i]) && output < row.promise.result.after.size() &&
+                   row.promise.result.after[output] != values[i];
         });
         EXPECT_EQ(changes, !explanation.arguments[i].written.empty()) << check_.arguments[i].name;
     }

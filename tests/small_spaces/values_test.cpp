@@ -22,7 +22,7 @@ TEST_F(SmallSpaces, EveryByteInEveryPlaceOfATextOfEveryCheck)
     for (const Row& row : vectors::read_cases()) {
         const Function& function = *row.given.function;
         const std::vector<Value> values = catalogue::completed(function, row.given.values);
-        const int code = row.promise.outcome.code;
+        const int code = row.promise.result.code;
         if (rules::asks_driver(*function.check)) continue;
         for (std::size_t argument = 0; argument < values.size(); ++argument) {
             const auto* text = std::get_if<std::string>(&values[argument]);

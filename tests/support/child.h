@@ -31,7 +31,7 @@ class Child {
     Child& operator=(const Child&) = delete;
     ~Child();
 
-    // wait gives the end, or kills the child when the limit, counted from its start, has passed. Once only.
+    // wait returns how the child ended, or kills it when the limit, counted from its start, has passed. Once only.
     ChildEnd wait(std::chrono::milliseconds limit);
 
  private:

@@ -1,4 +1,4 @@
-// Values that are given to functions to do them harm, and what stands beside them.
+// Hostile values for arguments, and values for the other arguments.
 #ifndef OSTREL_TESTS_SUPPORT_HOSTILE_H
 #define OSTREL_TESTS_SUPPORT_HOSTILE_H
 
@@ -11,7 +11,7 @@
 
 namespace ostrel::tests {
 
-// repeated gives the part over and over, until the text has at least that size.
+// repeated returns the part repeated until the text has at least that size.
 std::string repeated(std::string_view part, std::size_t size);
 
 // is_text tells an argument that a text can be given for, which is not one of several blocks.
@@ -20,7 +20,7 @@ bool is_text(const catalogue::Argument& argument);
 // neutral is what an argument holds while another one is hostile: texts are empty.
 catalogue::Value neutral(const catalogue::Argument& argument, long long number);
 
-// widest gives a value for each argument: texts are empty, a last number, which is an upper limit if
+// widest returns a value for each argument: texts are empty, a last number, which is an upper limit if
 // anything, is as large as can be, and the others are 0.
 std::vector<catalogue::Value> widest(const catalogue::Function& function);
 

@@ -56,7 +56,7 @@ void print_failures_where_they_are_seen(testing::TestEventListeners& listeners)
     static std::FILE* other = stdout;
     testing::TestEventListener* const printer = listeners.Release(listeners.default_result_printer());
     if (printer == nullptr) return;
-    // Listeners hear of a failure in this order; the last one undoes what the first one does.
+    // Listeners are told of a failure in this order; the last one undoes what the first one does.
     listeners.Append(new Swap(other));
     listeners.Append(printer);
     listeners.Append(new Swap(other));

@@ -4,7 +4,7 @@
 
 namespace ostrel::tests {
 
-// run_tests runs them and gives the exit status: 1 where a test failed or none was there to run. 77, which ctest
+// run_tests runs them and returns the exit status: 1 if a test failed or there was none to run. 77, which ctest
 // is told to count as skipped, where one was skipped; where the environment has CI set, that is a failure.
 int run_tests();
 

@@ -65,31 +65,31 @@ class Channel : public testing::Test {
 
     void list(const std::string& text) { tool("printf '" + text + "'"); }
 
-    // Answer is a code and what came to the descriptors of standard output and standard error, from the shell and
+    // Reply is a code and what came to the descriptors of standard output and standard error, from the shell and
     // the tool too.
-    struct Answer {
+    struct Reply {
         int code = 0;
         std::string out;
         std::string err;
     };
 
-    static Answer ask(const char* channel, const char* radio = kRadio)
+    static Reply ask(const char* channel, const char* radio = kRadio)
     {
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
-        Answer answer;
-        answer.code = WLAN_check_channel(channel, radio);
-        answer.out = testing::internal::GetCapturedStdout();
-        answer.err = testing::internal::GetCapturedStderr();
-        return answer;
+        Reply reply;
+        reply.code = WLAN_check_channel(channel, radio);
+        reply.out = testing::internal::GetCapturedStdout();
+        reply.err = testing::internal::GetCapturedStderr();
+        return reply;
     }
 
     static int check(const char* channel, const char* radio = kRadio)
     {
-        const Answer answer = ask(channel, radio);
-        EXPECT_EQ("", answer.out);
-        EXPECT_EQ("", answer.err);
-        return answer.code;
+        const Reply reply = ask(channel, radio);
+        EXPECT_EQ("", reply.out);
+        EXPECT_EQ("", reply.err);
+        return reply.code;
     }
 
     [[nodiscard]] std::string calls() const
@@ -223,10 +223,10 @@ TEST_F(Channel, IsRefusedWhenTheListIsEmpty)
 TEST_F(Channel, IsRefusedWhenTheToolFails)
 {
     tool("echo no such interface >&2; exit 1");
-    const Answer answer = ask("6");
-    EXPECT_EQ(OSTREL_INVALID, answer.code);
-    EXPECT_EQ("", answer.out);
-    EXPECT_EQ("no such interface\n", answer.err);
+    const Reply reply = ask("6");
+    EXPECT_EQ(OSTREL_INVALID, reply.code);
+    EXPECT_EQ("", reply.out);
+    EXPECT_EQ("no such interface\n", reply.err);
     EXPECT_FALSE(list_is_left());
 }
 
@@ -240,10 +240,10 @@ TEST_F(Channel, IsLookedForWhateverTheToolsExitStatus)
 // The shell says so in its own words.
 TEST_F(Channel, IsRefusedWhenThereIsNoTool)
 {
-    const Answer answer = ask("6");
-    EXPECT_EQ(OSTREL_INVALID, answer.code);
-    EXPECT_EQ("", answer.out);
-    EXPECT_NE(std::string::npos, answer.err.find("wlctl")) << answer.err;
+    const Reply reply = ask("6");
+    EXPECT_EQ(OSTREL_INVALID, reply.code);
+    EXPECT_EQ("", reply.out);
+    EXPECT_NE(std::string::npos, reply.err.find("wlctl")) << reply.err;
     EXPECT_EQ(OSTREL_VALID, check("0"));
     EXPECT_FALSE(list_is_left());
 }
@@ -253,10 +253,10 @@ TEST_F(Channel, IsRefusedAndNothingDeletedWhenTheListCannotBeOpened)
 {
     list("6");
     fs::create_symlink("/nonexistent/ostrel/list", kChannelList);
-    const Answer answer = ask("6");
-    EXPECT_EQ(OSTREL_INVALID, answer.code);
-    EXPECT_EQ("", answer.out);
-    EXPECT_NE(std::string::npos, answer.err.find(kChannelList)) << answer.err;
+    const Reply reply = ask("6");
+    EXPECT_EQ(OSTREL_INVALID, reply.code);
+    EXPECT_EQ("", reply.out);
+    EXPECT_NE(std::string::npos, reply.err.find(kChannelList)) << reply.err;
     EXPECT_TRUE(list_is_left());
     EXPECT_EQ("", calls());
 }

@@ -1,4 +1,4 @@
-#include "vectors/outcome.h"
+#include "vectors/call_result.h"
 
 #include <nlohmann/json.hpp>
 #include <ostream>
@@ -20,24 +20,24 @@ std::vector<Value> values_of(const std::vector<Written>& written)
     return values;
 }
 
-Outcome actual_outcome(calling::Caller& caller, calling::Capture& capture)
+CallResult actual_result(calling::Caller& caller, calling::Capture& capture)
 {
-    Outcome outcome;
-    outcome.code = caller.call();
+    CallResult result;
+    result.code = caller.call();
     calling::Printed printed = capture.take();
-    outcome.flushed = printed.flushed == printed.out.size();
-    outcome.out = std::move(printed.out);
-    outcome.err = std::move(printed.err);
-    outcome.after = values_of(caller.written());
-    return outcome;
+    result.flushed = printed.flushed == printed.out.size();
+    result.out = std::move(printed.out);
+    result.err = std::move(printed.err);
+    result.after = values_of(caller.written());
+    return result;
 }
 
-void PrintTo(const Outcome& outcome, std::ostream* stream)
+void PrintTo(const CallResult& result, std::ostream* stream)
 {
     json after = json::array();
-    for (const Value& value : outcome.after) after.push_back(catalogue::json_from_value(value));
-    *stream << "\n  code    " << outcome.code << "\n  out     " << shown(outcome.out) << "\n  flushed "
-            << std::boolalpha << outcome.flushed << "\n  err     " << shown(outcome.err) << "\n  after   "
+    for (const Value& value : result.after) after.push_back(catalogue::json_from_value(value));
+    *stream << "\n  code    " << result.code << "\n  out     " << shown(result.out) << "\n  flushed "
+            << std::boolalpha << result.flushed << "\n  err     " << shown(result.err) << "\n  after   "
             << shown(after.dump()) << "\n";
 }
 

@@ -1,6 +1,6 @@
-// Outcome: all that a call leaves behind.
-#ifndef OSTREL_VECTORS_OUTCOME_H
-#define OSTREL_VECTORS_OUTCOME_H
+// CallResult: all that a call leaves behind.
+#ifndef OSTREL_VECTORS_CALL_RESULT_H
+#define OSTREL_VECTORS_CALL_RESULT_H
 
 #include <iosfwd>
 #include <string>
@@ -11,24 +11,24 @@
 
 namespace ostrel::vectors {
 
-// Outcome is all that a call leaves behind. Two outcomes print readably when they differ.
-struct Outcome {
+// CallResult is all that a call leaves behind. Two results print readably when they differ.
+struct CallResult {
     int code = 0;
     std::string out;
     std::string err;
     bool flushed = true;
     std::vector<catalogue::Value> after;
 
-    bool operator==(const Outcome&) const = default;
+    bool operator==(const CallResult&) const = default;
 };
 
-void PrintTo(const Outcome& outcome, std::ostream* stream);
+void PrintTo(const CallResult& result, std::ostream* stream);
 
 // values_of returns what is in the memory of a call.
 std::vector<catalogue::Value> values_of(const std::vector<calling::Written>& written);
 
-// actual_outcome calls what is loaded.
-Outcome actual_outcome(calling::Caller& caller, calling::Capture& capture);
+// actual_result calls what is loaded.
+CallResult actual_result(calling::Caller& caller, calling::Capture& capture);
 
 // shown quotes a text as JSON does; of a long one only the ends are shown.
 std::string shown(const std::string& text);
