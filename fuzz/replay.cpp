@@ -173,8 +173,21 @@ bool are_met(const rules::Counts& counts, const rules::Counts& further, const Re
     return below == 0;
 }
 
+// require_families throws if inputs are in a folder that is not named after a family: nothing would run them.
+void require_families(const std::vector<std::filesystem::path>& folders)
+{
+    const std::vector<std::string_view> families = catalogue::families();
+    for (const auto& parent : folders) {
+        for (const auto& folder : std::filesystem::directory_iterator(parent)) {
+            if (std::ranges::find(families, folder.path().filename().string()) == families.end())
+                throw std::invalid_argument("not a family: " + folder.path().string());
+        }
+    }
+}
+
 bool run_all(const ReplayOptions& options)
 {
+    require_families(options.folders);
     const auto vectors = vectors::read_cases();
     rules::Counts counts;
     rules::Counts further;
