@@ -10,7 +10,7 @@
 
 #include "catalogue/catalogue.h"
 #include "oracle/advice.h"
-#include "oracle/comparer.h"
+#include "oracle/call_comparer.h"
 #include "oracle/contents.h"
 #include "rules/evaluate.h"
 
@@ -67,7 +67,7 @@ class Fuzzer {
 
     std::vector<Callee> callees_;
     std::vector<rules::Value> values_;
-    oracle::Comparer comparer_;
+    oracle::CallComparer comparer_;
     oracle::Follower follower_;
     std::string fault_;
     std::size_t refused_ = 0;

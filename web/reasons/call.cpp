@@ -15,9 +15,9 @@ enum Tag : char { kNull, kText, kInteger, kUnsigned, kBlocks };
 
 std::string call;
 
-class Reader {
+class CallReader {
  public:
-    explicit Reader(const char* begin) : next_(begin) {}
+    explicit CallReader(const char* begin) : next_(begin) {}
 
     // read sets a value; a text reuses the memory of the text before it.
     void read(Value& value)
@@ -64,7 +64,7 @@ const std::vector<Value>& written_call(const rules::Check& check)
 {
     static std::vector<Value> values;
     values.resize(check.arguments.size());
-    Reader reader(call.data());
+    CallReader reader(call.data());
     for (Value& value : values) reader.read(value);
     return values;
 }

@@ -106,9 +106,9 @@ void fields(Archive& archive, rules::Check& it)
     archive(name, arguments, steps, is_verdict, module, slots, number);
 }
 
-// Kinds numbers the types whose equal values are packed once.
+// TypeNumbers numbers the types whose equal values are packed once.
 template <typename... Types>
-struct Kinds {
+struct TypeNumbers {
     template <typename T>
     static constexpr unsigned number()
     {
@@ -119,9 +119,9 @@ struct Kinds {
     }
 };
 
-using Packed = Kinds<std::string_view, rules::Expression, rules::Line::Part, rules::Line, rules::Group,
-                     rules::Match, rules::Condition, rules::Table, rules::Write, rules::Code, rules::List,
-                     rules::Step, rules::Argument, rules::Check>;
+using Packed = TypeNumbers<std::string_view, rules::Expression, rules::Line::Part, rules::Line, rules::Group,
+                           rules::Match, rules::Condition, rules::Table, rules::Write, rules::Code,
+                           rules::List, rules::Step, rules::Argument, rules::Check>;
 
 constexpr std::size_t kKinds = Packed::number<rules::Check>() + 1;
 

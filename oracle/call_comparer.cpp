@@ -1,4 +1,4 @@
-#include "oracle/comparer.h"
+#include "oracle/call_comparer.h"
 
 #include <algorithm>
 #include <limits>
@@ -60,13 +60,13 @@ bool are_equal(const std::vector<Value>& expected, const std::vector<Written>& a
 
 }  // namespace
 
-bool Comparer::agrees(const Function& function, const std::vector<Value>& values, const Answer& expected)
+bool CallComparer::agrees(const Function& function, const std::vector<Value>& values, const Answer& expected)
 {
     return agrees_at(at_end_, function, values, expected) && agrees_at(at_begin_, function, values, expected);
 }
 
-bool Comparer::agrees_at(Caller& caller, const Function& function, const std::vector<Value>& values,
-                         const Answer& expected)
+bool CallComparer::agrees_at(Caller& caller, const Function& function, const std::vector<Value>& values,
+                             const Answer& expected)
 {
     caller.load(function, values);
     capture_.clear();

@@ -1,6 +1,6 @@
-// Comparer: compares calls of the library with their descriptions.
-#ifndef OSTREL_ORACLE_COMPARER_H
-#define OSTREL_ORACLE_COMPARER_H
+// CallComparer: compares calls of the library with their descriptions.
+#ifndef OSTREL_ORACLE_CALL_COMPARER_H
+#define OSTREL_ORACLE_CALL_COMPARER_H
 
 #include <cstddef>
 #include <string>
@@ -12,7 +12,7 @@
 
 namespace ostrel::oracle {
 
-class Comparer {
+class CallComparer {
  public:
     // agrees makes the call twice, with every argument ending and with every argument beginning at an unreadable page.
     // It compares the code, what was printed and flushed, and what was written. The contract must cover the call.
