@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "catalogue/catalogue.h"
-#include "oracle/comparer.h"
+#include "oracle/call_comparer.h"
 
 namespace ostrel::tests {
 
@@ -34,7 +34,7 @@ class SmallSpaces : public testing::Test {
     std::map<int, int> expect_each(const std::vector<std::string_view>& names, const Texts& texts);
 
  private:
-    oracle::Comparer comparer_;
+    oracle::CallComparer comparer_;
 };
 
 }  // namespace ostrel::tests
