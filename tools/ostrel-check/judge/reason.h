@@ -26,7 +26,7 @@ void answer_at_once(Result& result);
 // asks_driver tells that the wireless driver is asked in a call.
 bool asks_driver(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 
-// blame_driver sets the verdict on a call for which the driver gave no list, with the reason for that.
+// blame_driver sets the verdict on a call for which the driver returned no list, with the reason.
 void blame_driver(Result& result, std::string_view problem);
 
 // explain_by_driver sets the reason of a result by what the driver answered in the call.

@@ -24,7 +24,7 @@ enum class Verdict {
     kMalformed,  // no case
     kEnded,      // the check ended its process
     kNoReturn,
-    kNoDriver,  // the check refused because the wireless driver gave no list of channels
+    kNoDriver,  // the check refused because the wireless driver returned no list of channels
 };
 
 inline constexpr std::size_t kVerdicts = 7;
