@@ -7,7 +7,6 @@
 #include <ostream>
 #include <set>
 #include <stdexcept>
-#include <string_view>
 
 #include "catalogue/value_json.h"
 
@@ -73,7 +72,7 @@ std::size_t limit_of_texts()
     return limit != nullptr ? std::stoul(limit) : std::string::npos;
 }
 
-const std::filesystem::path kFolder = OSTREL_SOURCE_DIR "/vectors";
+constexpr char kFolder[] = OSTREL_SOURCE_DIR "/vectors";
 
 std::string module_of(const std::filesystem::path& path)
 {
@@ -113,7 +112,8 @@ std::vector<Row> read_rows(const std::set<std::string>& modules)
 {
     std::set<std::filesystem::path> files;
     for (const std::string& module : modules) {
-        if (!std::filesystem::is_directory(kFolder / module)) files.insert(kFolder / (module + ".ndjson"));
+        if (!std::filesystem::is_directory(std::filesystem::path(kFolder) / module))
+            files.insert(std::filesystem::path(kFolder) / (module + ".ndjson"));
     }
     for (const auto& entry : std::filesystem::recursive_directory_iterator(kFolder)) {
         const std::string folder = entry.path().parent_path().lexically_relative(kFolder).string();
@@ -126,6 +126,7 @@ std::vector<Row> read_rows(const std::set<std::string>& modules)
         return first != nullptr && module_of(file) == first;
     };
     std::vector<std::filesystem::path> ordered(files.begin(), files.end());
+    // NOLINTNEXTLINE(modernize-use-ranges): clang 14 does not compile that one
     std::stable_partition(ordered.begin(), ordered.end(), comes_first);
     std::vector<Row> rows;
     for (const auto& file : ordered) append_file(rows, file);
