@@ -35,7 +35,7 @@ struct Function {
     int (*invoke)(std::span<const Raw> arguments) = nullptr;
 };
 
-// kUnwritten is what a number that is only written holds when none is given: none that a function writes.
+// kUnwritten is the value of an output number before the call. No function writes it.
 inline constexpr long long kUnwritten = std::numeric_limits<int>::min();
 
 // completed adds values for the arguments that are only written, where they were left out.

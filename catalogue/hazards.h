@@ -50,7 +50,7 @@ struct Exposure {
     bool is_after = false;
     std::array<std::vector<Witness>, kPlaces.size()> witnesses;
 
-    // witness has the byte in that place; or NULL, when no accepted value has.
+    // witness returns an accepted value that has the byte in that place, or NULL if there is none.
     [[nodiscard]] const Witness* witness(Place place, char byte) const;
 
     // bytes are those of a kind that can be in that place.

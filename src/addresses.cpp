@@ -69,8 +69,7 @@ inline const char* skip_octet(const char* text)
     if (first > kLargestDigit) return nullptr;
     const unsigned second = digit(text[1]);
     const bool has_second = second <= kLargestDigit;
-    const unsigned third =
-        digit(text[1 + has_second]);  // the second again, which is no digit, where there is none
+    const unsigned third = digit(text[1 + has_second]);  // the second character again if that is not a digit
     const bool has_third = third <= kLargestDigit;
     const unsigned number = first * 100 + second * 10 + third;
     if (number * has_third > 255) return nullptr;

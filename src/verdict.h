@@ -1,6 +1,6 @@
 // Verdicts: a rule and its refusal in one call, for the rules that many checks have in common.
 //
-// Each returns OSTREL_VALID for a value that the rule accepts. For any other it prints the line with the name of the
+// Each function returns OSTREL_VALID if the rule accepts the value. Otherwise it prints the line with the name of the
 // check and the value, flushes every output stream and returns the code of the refusal.
 #ifndef OSTREL_SRC_VERDICT_H
 #define OSTREL_SRC_VERDICT_H

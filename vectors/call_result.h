@@ -1,4 +1,4 @@
-// CallResult: all that a call leaves behind.
+// CallResult: everything that a call leaves.
 #ifndef OSTREL_VECTORS_CALL_RESULT_H
 #define OSTREL_VECTORS_CALL_RESULT_H
 
@@ -11,7 +11,8 @@
 
 namespace ostrel::vectors {
 
-// CallResult is all that a call leaves behind. Two results print readably when they differ.
+// CallResult is the code, the output and the written arguments of a call. Two results print readably when they
+// differ.
 struct CallResult {
     int code = 0;
     std::string out;

@@ -61,7 +61,7 @@ class Process:
     def __init__(self, program: str, encoding: Encoding, options: Sequence[str]) -> None:
         require_version(program)
         self._encoding: Encoding = encoding
-        # A socket, for to write to a pipe that nobody reads may end a caller who has not ignored the signal.
+        # A socket, because writing to a pipe without a reader would end a caller that does not ignore SIGPIPE.
         self._socket, theirs = socket.socketpair()
         self._complaints = tempfile.TemporaryFile()
         with theirs:
@@ -78,7 +78,7 @@ class Process:
 
     def answer(self, cases: Sequence[Case], verdicts: list[Verdict]) -> None:
         """answer appends the verdicts of the cases that have none yet. It reads while it writes, so that neither
-        side waits for the other for ever. Raises Ended when the program ends; the verdicts before that stand."""
+        side blocks the other for ever. Raises Ended when the program ends; the verdicts before that are kept."""
         next_case = len(verdicts)
         to_write = memoryview(b"")
         incomplete: list[bytes] = []
@@ -154,4 +154,4 @@ def _verdicts_of(lines: bytes) -> list[Verdict]:
     try:
         return verdicts_of(lines.decode().split("\n")[:-1])
     except (ValueError, LookupError, TypeError, AttributeError) as error:
-        raise ProgramFailed(f"{NAME} answered what is no result: {lines!r:.200}") from error
+        raise ProgramFailed(f"{NAME} printed something that is not a result: {lines!r:.200}") from error

@@ -127,7 +127,7 @@ class Session(Calls):
             yield from self._answer(block)
 
     def _answer(self, cases: Sequence[Case]) -> list[Verdict]:
-        """_answer judges all cases: those that a process left behind when it ended, by another one."""
+        """_answer judges all cases. If the process ends, another one judges the rest."""
         verdicts: list[Verdict] = []
         attempts = 0
         owner = self._owner

@@ -2,7 +2,7 @@
 
 usage: shared_object_test.py LIBRARY EMPTY SOURCE_DIR [READELF]
 
-EMPTY is a library without any code of its own, made by the same compiler and link options: whatever stands in
+EMPTY is a library without any code of its own, made by the same compiler and link options: whatever is in
 it as well comes from the start-up files and is not held against LIBRARY.
 """
 

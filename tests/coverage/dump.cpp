@@ -1,5 +1,5 @@
 // Goes into the library that counts what is executed: a child that ends by a signal, or that never returns,
-// leaves its counts behind all the same.
+// still leaves its counts.
 
 #ifdef __clang__
 extern "C" int __llvm_profile_write_file();

@@ -209,7 +209,7 @@ def report(chosen, results, equivalents, tried, seconds, given, least):
         print("Survivors:")
     for mutant in survivors:
         print(shown(mutant))
-    print("%d mutants (%d tried now, in %.0f s): %d do not build, %d give the same object code, %d are listed as "
+    print("%d mutants (%d tried now, in %.0f s): %d do not build, %d have the same object code, %d are listed as "
           "equivalent" % (len(chosen), tried, seconds, counts.get("broken", 0), counts.get("same", 0),
                           counts.get("equivalent", 0)))
     print("killed %d of %d: %.2f %%" % (killed, counted, score))

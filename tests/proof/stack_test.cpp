@@ -124,7 +124,7 @@ constexpr std::uint64_t kPaint = 0xA5A5'5A5A'C3C3'3C3C;
 
 int do_nothing(const char* /*value*/) { return 0; }
 
-// of_text makes a function of one text. Nothing describes it, and the description of any other such function does.
+// of_text makes a function of one text that is not in the catalogue. Any description of one text serves for it.
 template <int (*F)(const char*)>
 Function of_text(const char* name)
 {

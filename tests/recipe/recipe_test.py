@@ -168,6 +168,6 @@ if __name__ == "__main__":
     HERE = pathlib.Path(__file__).resolve().parent
     BUILD, SOURCE = (pathlib.Path(path).resolve() for path in sys.argv[1:3])
     if not (SOURCE / ".git").exists():
-        print("skipped: this is no clone")
+        print("skipped: this is not a clone")
         sys.exit(SKIPPED)
     unittest.main(argv=sys.argv[:1])

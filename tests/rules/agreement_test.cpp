@@ -1,5 +1,5 @@
-// Agreement test: what the descriptions say of every row of vectors/*.ndjson, and of the arguments. fuzz/ compares them
-// with the library.
+// Agreement test: compares the descriptions with every row of vectors/*.ndjson, and with the declared arguments. fuzz/
+// compares them with the library.
 
 #include <gtest/gtest.h>
 

@@ -48,7 +48,7 @@ class Maker {
         return {members.front(), members[members.size() / 2], members.back()};
     }
 
-    // some_of gives short texts from everywhere.
+    // some_of returns short texts from everywhere.
     static std::vector<std::string> some_of(const std::set<std::string>& texts, std::size_t most)
     {
         constexpr std::size_t kShort = 200;

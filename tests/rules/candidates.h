@@ -10,10 +10,10 @@
 
 namespace ostrel::tests {
 
-// candidates gives texts for a form, made of it and of texts that are known.
+// candidates returns texts for a form, made from the form and from known texts.
 std::set<std::string> candidates(const rules::Form& form, const std::set<std::string>& known);
 
-// numbers gives ints for a form.
+// numbers returns ints for a form.
 std::vector<long long> numbers(const rules::Form& form);
 
 }  // namespace ostrel::tests

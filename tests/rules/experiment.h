@@ -30,7 +30,7 @@ class Experiment {
     // pass_null tells what NULL does there, by the description and, where the call can be made, by the library.
     std::set<rules::NullOutcome> pass_null(std::size_t argument, calling::Capture& capture);
 
-    // constraints gives what is said of an argument, or NULL.
+    // constraints returns the form of an argument, or NULL.
     [[nodiscard]] const rules::Constraints* constraints(std::size_t argument) const
     {
         const auto found = constraints_.find(argument);

@@ -56,7 +56,7 @@ class Pattern {
         parts_.back().append(rest, text.end());
     }
 
-    // ends gives where a text may go on after the line that begins there.
+    // ends returns where a text may continue after the line that begins there.
     [[nodiscard]] std::set<std::size_t> ends(const std::string& text, std::size_t begin) const
     {
         std::set<std::size_t> places = {begin};

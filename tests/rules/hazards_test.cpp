@@ -50,10 +50,10 @@ TEST_F(Hazards, EachWitnessIsAccepted)
                 for (const Witness& witness : exposure.witnesses.at(static_cast<std::size_t>(place))) {
                     for (const char byte : witness.bytes) {
                         const auto texts = held(function, exposure, witness.with(byte));
-                        const bool stands = std::ranges::any_of(
+                        const bool is_there = std::ranges::any_of(
                             texts, [&](const std::string& text) { return stands_at(place, text, byte); });
-                        EXPECT_TRUE(stands) << function.name << " " << exposure.argument << " "
-                                            << name_of(place) << " " << static_cast<int>(byte);
+                        EXPECT_TRUE(is_there) << function.name << " " << exposure.argument << " "
+                                              << name_of(place) << " " << static_cast<int>(byte);
                         ++calls;
                     }
                 }

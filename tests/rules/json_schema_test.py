@@ -36,7 +36,7 @@ def vector_texts():
 
 
 def is_beyond_int(text):
-    """Whether a number stands in the text that an int may not hold: builds read it differently."""
+    """Whether the text has a number that may not fit in an int, which builds read differently."""
     numbers = re.findall("(-?)0*([0-9]+)", text)
     return any(len(number) > 10 or int(number) > HIGHEST + len(sign) for sign, number in numbers)
 

@@ -14,7 +14,7 @@ namespace ostrel::tests {
 
 class Obedience {
  public:
-    // fault gives the first word that a text does not obey, or nothing.
+    // fault returns the first constraint that a text violates, or an empty text.
     std::string fault(const rules::Form& form, const std::string& text);
 
     // fault_of does that for an argument of a call. NULL and other kinds than texts and numbers obey.

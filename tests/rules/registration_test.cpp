@@ -33,7 +33,7 @@ TEST(RegistrationTest, TheModuleIsThatOfTheHeader)
     }
 }
 
-// fault registers a check with such steps and gives what it says.
+// fault registers a check with such steps and returns the error.
 std::string fault(std::vector<Step> steps, std::vector<ArgumentWords> arguments)
 {
     try {

@@ -27,7 +27,7 @@ TEST(SentencesTest, AreAsExpected)
         EXPECT_EQ(said.sentence, sentence(said.reason)) << said.reason.id;
 }
 
-// is_one tells whether the singular stands for what was found or is allowed.
+// is_of_one returns whether the singular is used for what was found or is allowed.
 bool is_of_one(const Datum& datum)
 {
     if (const auto* number = std::get_if<long long>(&datum)) return *number == 1;
@@ -138,7 +138,7 @@ Reason of_item(Reason reason, std::string text)
     return reason;
 }
 
-// An argument is named where a user gives several, and one that is only written is not given.
+// An argument is named if a user passes several; an output is not passed.
 TEST(FullSentencesTest, NameWhatTheySpeakOf)
 {
     EXPECT_EQ("is empty", full_sentence(of("empty"), of_one()));

@@ -49,8 +49,8 @@ class Swap : public testing::EmptyTestEventListener {
     std::FILE*& other_;
 };
 
-// print_failures_where_they_are_seen has a failure printed to the standard output that the program was given, also
-// while a capture has taken its place: printed into the capture it would be lost, and be part of what is judged.
+// print_failures_where_they_are_seen prints failures to the original standard output even during a capture. In the
+// capture they would be lost, and would be judged as output of the check.
 void print_failures_where_they_are_seen(testing::TestEventListeners& listeners)
 {
     static std::FILE* other = stdout;

@@ -10,7 +10,7 @@ exports._initialize();
 const memory = new Memory(exports, true);
 const stackPointer = exports.__stack_pointer.value;
 
-// answered gives what the call of an export answers, and null where the description reads NULL, fails an assertion or
+// answered returns the result of calling an export, or null if the description reads NULL, fails an assertion or
 // does not return: that ends it.
 function answered(call) {
   try {

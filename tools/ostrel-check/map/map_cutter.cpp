@@ -67,7 +67,7 @@ void MapCutter::look(std::string_view bytes)
     }
 }
 
-// read_text passes over what cannot be read; the worker says what is wrong with it.
+// read_text skips what cannot be read; the worker reports the error.
 void MapCutter::read_text(std::string_view text)
 {
     try {

@@ -19,8 +19,8 @@ enum class Found {
     kMore,     // a record; the text holds another one
 };
 
-// A reader keeps no state between records but memory, so that a worker can go on where another one ended. It reads
-// in workers and, for the record that ended one, in the supervisor.
+// A reader keeps no state between records, only memory for reuse, so that a worker can continue where another one
+// ended. Workers read with it, and the supervisor reads the record that ended a worker.
 class Reader {
  public:
     Reader() = default;

@@ -45,7 +45,7 @@ inline constexpr std::string_view kNull = "@null";
 // item_of returns the item of a word; its text is a view into the word.
 Item item_of(std::string_view word);
 
-// read_values gives each argument its words: numbers, texts, NULL, one word for each block. Arguments that
+// read_values assigns the words to the arguments: numbers, texts, NULL, one word for each block. Arguments that
 // are only written may be left out, all together. Throws std::invalid_argument.
 void read_values(const catalogue::Function& function, std::span<const std::string> words,
                  std::vector<catalogue::Value>& values);
