@@ -1,9 +1,9 @@
-// The library allocates nothing. This program is a host between the library and the C library:
-// it defines malloc and its family, which notes who asks, and the functions that the library imports and that
-// could allocate, which note that the library is inside them.
+// The library allocates nothing. This program is a host between the library and the C library: it defines malloc and
+// its family, which record their caller, and the imported functions that could allocate, which record that the
+// library is inside them.
 //
-// What may appear is the buffer of a stream, which the C library allocates when something is first printed to
-// it or read from it, and the stream that WLAN_check_channel opens.
+// Two allocations are allowed: the buffer of a stream, which the C library allocates at the first output or input,
+// and the stream that WLAN_check_channel opens.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@
 #include "vectors/rows.h"
 
 extern "C" {
-// The C library's own allocator, under the names that no program defines.
+// The C library's own allocator, under names that no program defines.
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* memory, std::size_t size);
@@ -60,7 +60,7 @@ void note(const void* caller)
     ++watch.count;
 }
 
-// Inside marks the time from a call of the C library until its return.
+// Inside marks the duration of a call of the C library.
 class Inside {
  public:
     explicit Inside(const char* name) { watch.inside = name; }
@@ -175,7 +175,7 @@ int fclose(std::FILE* stream)
     return real(stream);
 }
 
-// The driver's tool answers at once, and the file of the fixed name is left alone.
+// The driver's tool returns immediately, and the file with the fixed name is not touched.
 int system(const char* /*command*/)
 {
     static auto* const real = original<int(const char*)>("system");
@@ -226,7 +226,7 @@ bool is_allowed(const Request& request)
     return prints_or_reads && symbol_at(request.caller) == kStreamBuffer;
 }
 
-// FreshStreams takes the place of standard output and error with streams that have no buffer yet.
+// FreshStreams replaces standard output and error with streams that have no buffer yet.
 class FreshStreams {
  public:
     FreshStreams()
@@ -249,7 +249,7 @@ class FreshStreams {
     std::FILE* saved_err_ = stderr;
 };
 
-// count_requests calls what is loaded and adds up who asked for memory; allowed requests by their names.
+// count_requests runs the loaded call and counts its allocations by caller; allowed ones by their names.
 void count_requests(Caller& caller, Counts& allowed, Counts& forbidden)
 {
     const FreshStreams streams;
@@ -266,7 +266,7 @@ void count_requests(Caller& caller, Counts& allowed, Counts& forbidden)
     }
 }
 
-// report prints the figure that scripts/prove shows.
+// report prints the figure for the table of scripts/prove.
 void report(const char* what, std::size_t calls, const Counts& allowed)
 {
     std::printf("%s: %zu calls, no allocation of the library's", what, calls);
@@ -276,7 +276,7 @@ void report(const char* what, std::size_t calls, const Counts& allowed)
 
 TEST(Allocation, AWatchedRequestIsSeenAndNamed)
 {
-    // A call that the compiler knows could not change what is watched, in its eyes.
+    // A direct call of a function that the compiler knows might be optimised as if it could not change the watch.
     char* (*volatile duplicate)(const char*) = strdup;
     watch.count = 0;
     watch.on = true;

@@ -1,6 +1,6 @@
-// NULL for each pointer of each function: exactly the checks of the list fail an assertion and print nothing else.
-// Each report names the condition, the module, the function and its line, which is one number where it is fixed,
-// and elsewhere another one for each function. The others return or end by the memory fault.
+// Passes NULL for each pointer of each function: exactly the listed checks fail an assertion, and they print nothing
+// else. Each report names the condition, the module, the function and a line, which is either fixed or different for
+// each function. The other checks return or end by a memory fault.
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ struct Asserting {
     std::string condition = kUsual;
 };
 
-// own is a check that reports its own name and its own line.
+// own returns a check that reports its own name and its own line.
 Asserting own(std::string_view function, const char* module)
 {
     return {function, module, std::string(function)};
@@ -76,10 +76,10 @@ std::vector<Asserting> asserting_checks()
     return all;
 }
 
-// Reports are what is asserted, without the program's name and with the line where it is fixed, or else "*".
+// Reports are the failed assertions, without the program's name and with "*" for a line that is not fixed.
 using Reports = std::multiset<std::string>;
 
-// Places are the functions that reports of a module and a line name.
+// Places maps a module and a line to the functions that the reports name.
 using Places = std::map<std::string, std::set<std::string>>;
 
 Reports promised()
@@ -93,7 +93,7 @@ Reports promised()
     return reports;
 }
 
-// asserted calls the function and returns the report of the assertion, or the empty text if there is none.
+// asserted calls the function and returns the report of the assertion, or an empty text if none failed.
 std::string asserted(const Function& function, const std::vector<Value>& values, Places& places)
 {
     const ChildEnd end = run_in_child(std::chrono::seconds(60), [&] {
@@ -113,7 +113,7 @@ std::string asserted(const Function& function, const std::vector<Value>& values,
     return parts[1].str() + ":" + (fixed ? parts[2].str() : "*") + ": " + parts[3].str();
 }
 
-// numbers_of returns the numbers to try: some checks ask which protocol it is before they look at the value.
+// numbers_of returns the numbers to try, since some checks test the protocol before they read the value.
 std::vector<long long> numbers_of(const Function& function)
 {
     for (const catalogue::Argument& argument : function.arguments) {

@@ -1,16 +1,16 @@
-// Calls every function with long values of several shapes and sizes, under callgrind, which counts the
-// instructions of the calls and writes them into its file under the name
+// Calls every function with long values of several shapes and sizes under callgrind, which counts the instructions
+// and writes each count to its file under the name
 //
 //   FUNCTION SHAPE ARGUMENT ITEMS BYTES
 //
-// ARGUMENT is the one that is long, counted from 0, or "all". ITEMS is 0, but for lists in which the contract
-// demands a search of the rest for each item: there it is how many they are. instructions_test.py judges the
+// ARGUMENT is the index of the long argument, from 0, or "all". ITEMS is the number of items of a list in which the
+// contract demands a search of the rest for each item, and 0 for any other value. instructions_test.py judges the
 // growth.
 //
 //   instructions together|each BYTES...
 //
-// The sizes are in ascending order. Writing takes longer than calling, so "together" counts a few shapes of
-// a function in one sum, in which one that grows too fast soon outweighs the others.
+// The sizes are in ascending order. Writing a count takes longer than a call, so "together" adds up a few shapes of
+// a function; a shape that grows too fast soon dominates the sum.
 
 #include <valgrind/callgrind.h>
 
@@ -27,8 +27,8 @@ using namespace ostrel::calling;
 using namespace ostrel::catalogue;
 using namespace ostrel::tests;
 
-// kParts are what long values consist of: single characters of every set and of none, items of every kind of
-// list, and pieces of what the rules look for. The first ones are the least alike.
+// kParts are the pieces that long values repeat: single characters of every set and of none, items of every kind of
+// list, and fragments of the texts that the rules search for. The first ones differ the most.
 constexpr std::string_view kParts[] = {
     "a",      "0",    ",",       "192.168.1.1,",
     ".",      "\xff", "1.",      "&#65;",
@@ -55,7 +55,7 @@ std::string list_of_distinct_items(std::size_t size)
     return list;
 }
 
-// kCases bring long values past the conditions that come before the one that reads all of them.
+// kCases are long values that pass the conditions before the one that reads the whole value.
 constexpr LongCase kCases[] = {
     {"TcmValidateReservedAddress", "accepted",
      [](std::size_t size) -> std::vector<Value> {
@@ -167,7 +167,7 @@ constexpr LongCase kCases[] = {
          -> std::vector<Value> { return {"1234567890123#" + std::string(size, '4') + "@example.net"}; }},
 };
 
-// long_text returns the part repeated; making it takes longer than most calls, so each is made once.
+// long_text returns the repeated part. It caches the texts, since building one takes longer than most calls.
 const std::string& long_text(std::size_t part, std::size_t size)
 {
     static std::string texts[std::size(kParts)];
@@ -176,7 +176,7 @@ const std::string& long_text(std::size_t part, std::size_t size)
     return text;
 }
 
-// add runs the call, of which callgrind counts the instructions.
+// add runs the call while callgrind counts its instructions.
 void add(const Function& function, const std::vector<Value>& values)
 {
     static Caller caller;
@@ -187,7 +187,7 @@ void add(const Function& function, const std::vector<Value>& values)
     CALLGRIND_TOGGLE_COLLECT;
 }
 
-// write_down ends a sum, and the next one begins.
+// write_down writes the current sum and starts the next one.
 void write_down(const std::string& name)
 {
     CALLGRIND_DUMP_STATS_AT(name.c_str());
@@ -197,7 +197,7 @@ void write_down(const std::string& name)
 void count_case(const LongCase& one, std::size_t size, bool each)
 {
     if (one.searches_for_each_item) {
-        // The time of these grows with the square of the list.
+        // The time of these grows quadratically with the list.
         size /= 10;
         const std::size_t longest = each ? 10'000 : 1'000;
         if (size > longest) return;
@@ -212,8 +212,8 @@ void count_case(const LongCase& one, std::size_t size, bool each)
                ' ' + std::to_string(size));
 }
 
-// count_argument counts the calls in which that argument is long, or all text arguments are; its number is then
-// one after the last.
+// count_argument counts the calls in which that argument is long, or all text arguments if its number is one past
+// the last.
 void count_argument(const Function& function, std::size_t argument, std::size_t size, bool each)
 {
     const bool all = argument == function.arguments.size();

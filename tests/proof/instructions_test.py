@@ -2,14 +2,14 @@
 
 usage: instructions_test.py VALGRIND PROGRAM together|each BYTES...
 
-For ten times the bytes a call may take ten times the instructions and a tenth more. That is not asked below a few
-instructions a byte, where a limit of length decides whether a value is printed and the cost of a call
-that prints is compared with one that does not; and no call may take more than a fixed number a byte at all, so
-that what grows faster than its value is caught in any case.
+For ten times the bytes, a call may take eleven times the instructions. This bound does not apply below a few
+instructions per byte: there a length limit may decide whether a value is printed, and a call that prints would be
+compared with one that does not. In addition, no call may exceed a fixed number of instructions per byte, which
+catches any growth that is faster than the value's.
 
-The list of reserved addresses is the exception that the contract demands: the rest of the list is searched for
-each item whose neighbour is as long as itself. There the bound is a fixed number of instructions for each item
-and each byte; for long items that are alike it is what a list of short ones takes that is as long.
+The contract demands one exception, the list of reserved addresses: for each item whose neighbour is as long as
+itself, the rest of the list is searched. There the bound is a fixed number of instructions per item and byte; for
+long items that are alike, the bound is the cost of a list of short items that has the same length.
 """
 
 import collections
@@ -18,12 +18,12 @@ import sys
 import tempfile
 import unittest
 
-GROWTH = 1.1  # beyond proportion
-CHEAP = 4  # instructions a byte
-MOST = 400  # instructions a byte: strstr takes 219 for long texts that are nearly alike, the table of references 302
-MOST_SEARCHING = 30  # instructions for each item and byte
-CALL = 2000  # instructions of a call whatever it is given
-FEW_PARTS = 8  # calls that "together" counts as one
+GROWTH = 1.1  # relative to proportional growth
+CHEAP = 4  # instructions per byte
+MOST = 400  # instructions per byte: strstr takes 219 for long texts that are nearly alike, the reference table 302
+MOST_SEARCHING = 30  # instructions per item and byte
+CALL = 2000  # instructions of a call for any value
+FEW_PARTS = 8  # calls that "together" adds up
 
 MARK = "desc: Trigger: Client Request: "
 

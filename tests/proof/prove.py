@@ -1,7 +1,7 @@
-"""Runs the long form of every proof and prints one table. scripts/prove calls it and says how.
+"""Runs the long form of every proof and prints one table. scripts/prove calls it and documents its use.
 
-A proof is a name, a promise, a measure, the builds that it needs, and steps: commands of which all must
-succeed. Its figure is what its commands printed that matches a pattern, the last match of each step.
+A proof consists of a name, a promise, a measure, the builds that it needs, and steps: commands that must all
+succeed. Its figure is the last match of each step's pattern in the output of the step's command.
 """
 
 import collections
@@ -24,13 +24,13 @@ Proof = collections.namedtuple("Proof", "name promise measure presets steps")
 
 
 def ctest(preset, pattern):
-    """ctest runs the tests of that name and their variants; the figure is how many passed."""
+    """ctest runs the tests of that name and their variants; the figure is the number of failed tests out of all."""
     return Step(["ctest", "--test-dir", str(preset), "--output-on-failure", "--no-tests=error", "-R", pattern],
                 r"(\d+ tests failed out of \d+)")
 
 
 def script(name, *arguments):
-    """script runs another proof of the project's, whose last line is its figure and whose status says if it holds."""
+    """script runs another proof of the project; its last line is the figure, its exit status the result."""
     return Step([str(ROOT / "scripts" / name), *arguments], r"(?m)^(.+)$")
 
 
@@ -49,7 +49,7 @@ def proofs():
     yield Proof("time", "time in proportion to the value", "callgrind, 1 kB to 1 MB", ["gcc"], [
         Step([sys.executable, "tests/proof/instructions_test.py", VALGRIND, str(GCC / "bin" / "instructions"),
               "each", "1000", "10000", "100000", "1000000"], r"growth: (at most [0-9.]+)")])
-    # The sanitizer takes very long over texts of a megabyte; the build without it judges those too.
+    # The sanitizer is very slow on texts of a megabyte; the build without it judges those too.
     lines = r"(\d+ threads, \d+ calls each: [1-9]\d* lines \w+ \w+)"
     yield Proof("threads", "threads judge side by side", "thread sanitizer; every vector without", ["gcc", "tsan"], [
         Step([str(TSAN / "bin" / "threads_test")], lines, {"OSTREL_LONGEST_TEXT": "9000"}),
@@ -62,7 +62,7 @@ def proofs():
             ctest(folder, r"(^|\.)(assertions|parameter_check)_test(\.|$)")])
         yield Proof("file", "the finished file", preset + ", each variant", ["gcc", preset],
                     [ctest(folder, r"(^|\.)shared_object(\.|$)")])
-    # These have their own scripts.
+    # The following proofs have their own scripts.
     yield Proof("coverage", "every line and branch is tested", "coverage", [], [script("coverage")])
     yield Proof("coverage", "every condition seen to decide", "modified condition/decision", [], [
         Step([str(ROOT / "scripts" / "coverage"), "--mcdc"], r"(\d+ of \d+ conditions seen to decide, \d+ listed)")])
@@ -83,7 +83,7 @@ def build(preset):
 
 
 def figure_of(output, pattern):
-    """figure_of joins what the groups of the pattern matched last, in the order of the groups."""
+    """figure_of joins the last match of each group of the pattern, in the order of the groups."""
     last = {}
     for match in re.finditer(pattern, output):
         last.update({i: text for i, text in enumerate(match.groups()) if text})

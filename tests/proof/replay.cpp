@@ -1,9 +1,9 @@
-// Runs every row of the vectors, in one process and with as little around it as can be, and counts the rows
-// whose result is another. What a tool watches or what a locale changes is then the library's.
+// Runs every row of the vectors in one process, with as little code around them as possible, and counts the rows
+// whose result differs. A finding of a tool, or a difference under a locale, is then the library's.
 //
 //   replay [LOCALE [BYTES]]
 //
-// LOCALE must be known; the default is C. Rows with a text of more BYTES are left out, if that is given.
+// LOCALE must be installed; the default is C. If BYTES is given, rows with a longer text are skipped.
 
 #include <cctype>
 #include <clocale>
@@ -20,7 +20,7 @@ namespace {
 using namespace ostrel;
 using namespace ostrel::vectors;
 
-// is_as_promised runs the case at the edge, and says so where the result is another.
+// is_as_promised runs the row at the edge and prints it if the result differs.
 bool is_as_promised(const Row& row, calling::Caller& caller, calling::Capture& capture)
 {
     caller.load(*row.given.function, row.given.values);

@@ -1,10 +1,9 @@
-// How much stack the library needs. Each call runs on a stack of its own that was painted before; the deepest
-// word that lost its paint tells how far the call came.
+// Measures how much stack the library needs. Each call runs on a separate stack that was painted before; the deepest
+// word that lost its paint marks the depth of the call.
 //
-// The figures are those of the library's own frames. This program is a host that defines the functions of the
-// C library that have frames worth counting; its versions need next to none. The byte and string functions
-// that remain the C library's have none at all. A function that does nothing, called in the same way, is the
-// zero of the figures.
+// The figures cover the library's own frames. This program is a host that replaces the functions of the C library
+// that have large frames with versions that need almost no stack. The remaining byte and string functions of the C
+// library have no frames. The depth of a function that does nothing, called in the same way, is subtracted.
 
 #include <gtest/gtest.h>
 #include <ucontext.h>
@@ -33,7 +32,7 @@ bool measuring = false;  // NOLINT(cppcoreguidelines-avoid-non-const-global-vari
 
 }  // namespace
 
-// While a call is measured nothing is printed, and the list of channels is always the same number.
+// During a measurement nothing is printed, and every channel read from the list is the same number.
 extern "C" {
 
 int vprintf(const char* format, std::va_list arg)
@@ -77,7 +76,7 @@ int fclose(std::FILE* /*stream*/) { return 0; }
 
 int unlink(const char* /*name*/) noexcept { return 0; }
 
-// The C library's version has a table of 2 KiB for long texts. Its C++ declarations leave no room for another.
+// The C library's strstr has a table of 2 KiB for long texts. Its overloads in C++ prevent a definition under its name.
 const char* find_part(const char* text, const char* part) __asm__("strstr");
 const char* find_part(const char* text, const char* part)
 {
@@ -89,7 +88,7 @@ const char* find_part(const char* text, const char* part)
     }
 }
 
-// As the C library's where long has 64 bits: what fits in no long is the highest or the lowest one.
+// atoi behaves like the C library's with a long of 64 bits: a number outside its range becomes LONG_MAX or LONG_MIN.
 int atoi(const char* nptr) noexcept
 {
     while (*nptr == ' ' || (*nptr >= '\t' && *nptr <= '\r')) ++nptr;
@@ -124,7 +123,8 @@ constexpr std::uint64_t kPaint = 0xA5A5'5A5A'C3C3'3C3C;
 
 int do_nothing(const char* /*value*/) { return 0; }
 
-// of_text makes a function of one text that is not in the catalogue. Any description of one text serves for it.
+// of_text makes a function of one text that is not in the catalogue; it borrows the description of a function of one
+// text.
 template <int (*F)(const char*)>
 Function of_text(const char* name)
 {
@@ -137,7 +137,7 @@ Function of_text(const char* name)
             catalogue::detail::Signature<F>::invoke};
 }
 
-// PaintedStack is a stack between unreadable pages on which calls are measured.
+// PaintedStack is a stack between unreadable pages, on which calls are measured.
 class PaintedStack {
  public:
     PaintedStack()
@@ -147,7 +147,7 @@ class PaintedStack {
         zero_ = depth_of_nothing();
     }
 
-    // depth returns the bytes that the loaded call needs.
+    // depth returns the bytes of stack that the loaded call needs.
     std::size_t depth(Caller& caller) { return run(caller) - zero_; }
 
  private:
@@ -209,7 +209,7 @@ class Stack : public testing::Test {
         measure(*catalogue::find("WLAN_check_channel"), {std::string("6"), std::string("RADIO_2.4GHz")});
     }
 
-    // measure_long passes the text as each text argument alone, and as all of them at once.
+    // measure_long passes the text as each text argument alone, and then as all of them.
     void measure_long(const std::string& text)
     {
         for (const Function& function : catalogue::functions()) {
@@ -224,7 +224,7 @@ class Stack : public testing::Test {
         }
     }
 
-    // write_table writes the figures to the file that the environment names, if it names one.
+    // write_table writes the figures to the file that OSTREL_STACK_TABLE names, if it is set.
     void write_table() const
     {
         const char* path = std::getenv("OSTREL_STACK_TABLE");  // NOLINT(concurrency-mt-unsafe)

@@ -1,14 +1,13 @@
-// Eight threads judge every vector at once. Each answer is the one that the vector promises, and every line
-// that is printed arrives whole. Built with the thread sanitizer, which the preset "tsan" does, it also shows
-// that no two threads touch the same memory unguarded.
+// Eight threads judge every vector concurrently. Each answer is the one that the vector promises, and every printed
+// line arrives whole. Built with the thread sanitizer (the preset "tsan"), the test also shows that there is no data
+// race.
 //
-// The checks of MAC addresses print a character without a line end, which may precede any line, so
-// their rows are judged apart, and byte by byte.
+// The checks of MAC addresses print a character without a line end, which may precede any line, so their rows are
+// judged separately, byte by byte.
 //
-// OSTREL_LONGEST_TEXT in the environment leaves out the rows with a longer text.
+// OSTREL_LONGEST_TEXT in the environment skips rows with a longer text.
 //
-// WLAN_check_channel may be called by one thread at a time only, so its rows are left out where they ask the
-// driver for its list.
+// Only one thread at a time may call WLAN_check_channel, so its rows are skipped if they ask the driver for its list.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -41,7 +40,7 @@ namespace {
 
 constexpr std::size_t kThreads = 8;
 
-// Pieces holds each line, or each byte where lines are not whole, and how often it occurs.
+// Pieces counts how often each line occurs, or each byte if lines are not whole.
 using Pieces = std::map<std::string, std::size_t, std::less<>>;
 
 void add_lines(Pieces& lines, std::string_view text, std::size_t times)
@@ -58,7 +57,7 @@ void add_bytes(Pieces& bytes, std::string_view text, std::size_t times)
     for (const char byte : text) bytes[std::string(1, byte)] += times;
 }
 
-// Redirected sends a standard stream to a file for as long as it lives.
+// Redirected sends a standard stream to a file until it is destroyed.
 class Redirected {
  public:
     Redirected(std::FILE* stream, const std::string& path) : stream_(stream), path_(path)
@@ -92,7 +91,7 @@ class Redirected {
     int saved_ = -1;
 };
 
-// Expected is a row with what it promises, made before any thread runs.
+// Expected is a row with its promised result, which is computed before any thread starts.
 struct Expected {
     const Row* row;
     CallResult result;
@@ -117,7 +116,7 @@ bool is_as_promised(const CallResult& expected, const std::vector<calling::Writt
     return code == expected.code && std::ranges::equal(written, expected.after, {}, &calling::Written::value);
 }
 
-// judge_all runs every case, beginning somewhere else in each thread, and returns how many went wrong.
+// judge_all runs every case, starting at a different one in each thread, and returns the number of wrong results.
 std::size_t judge_all(const std::vector<Expected>& all, std::size_t thread)
 {
     std::size_t wrong = 0;
@@ -147,7 +146,7 @@ std::size_t judge_in_threads(const std::vector<Expected>& all)
     return wrong;
 }
 
-// differing returns a few of the lines that occur more often on one side, so that a failure is short.
+// differing returns a few of the lines that occur more often on one side, to keep failure messages short.
 std::string differing(const Pieces& expected, const Pieces& actual)
 {
     std::string result;
@@ -164,7 +163,7 @@ std::string differing(const Pieces& expected, const Pieces& actual)
     return result;
 }
 
-// Vectors are the rows, read once.
+// Vectors contains the rows, read once.
 struct Vectors {
     Vectors()
     {
@@ -179,9 +178,9 @@ struct Vectors {
     }
 
     std::vector<Row> rows = read_cases();
-    std::vector<Expected> whole;   // what prints whole lines or nothing
+    std::vector<Expected> whole;   // rows that print whole lines or nothing
     std::vector<Expected> broken;  // the others
-    std::vector<Expected> silent;  // what prints nothing
+    std::vector<Expected> silent;  // rows that print nothing
 };
 
 class Threads : public testing::Test {

@@ -1,5 +1,4 @@
-// Advice test: every id can be followed, and a reason that says something false is noticed. fuzz/ follows the reasons of
-// all checks.
+// Advice test: every id can be followed, and a false reason is detected. fuzz/ follows the reasons of all checks.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +14,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// fault_of is what following the reason of a call shows.
+// fault_of returns the fault that following the reason of a call reveals.
 std::string fault_of(const Check& check, const std::vector<Value>& values)
 {
     const Build build;
@@ -24,7 +23,7 @@ std::string fault_of(const Check& check, const std::vector<Value>& values)
     return oracle::Follower().follow(check, values, build, answer, [](const auto&, const auto&) {});
 }
 
-// fault_of this one is of a check of one text that refuses in one step.
+// fault_of tests a check of one text that refuses in one step.
 std::string fault_of(Condition condition, const std::string& value)
 {
     return fault_of(
@@ -43,7 +42,7 @@ TEST(AdviceTest, EveryIdHasAWay)
     EXPECT_EQ(with_sentence, with_way);
 }
 
-// So every number that is said is one of the reason's.
+// Every number in a sentence therefore comes from the reason.
 TEST(AdviceTest, NoSentenceHasANumberOfItsOwn)
 {
     for (const Sentence& sentence : sentences())
@@ -70,7 +69,7 @@ TEST(AdviceTest, WhatIsTrueHolds)
     EXPECT_EQ("", fault_of(not_empty(), "a"));
 }
 
-// The verdict of each is the same with a reason that is true.
+// Each check would reach the same verdict with a true reason.
 TEST(AdviceTest, AFalseLimitIsNoticed)
 {
     EXPECT_EQ("does not come back with one step less: has 11 bytes; at most 5 are allowed",
@@ -108,7 +107,7 @@ TEST(AdviceTest, AReasonThatNobodyCanFollowIsNoticed)
     EXPECT_EQ("no way to follow not_equal", fault_of(not_equal(it, literal("a")), "b"));
 }
 
-// The limit of a part of a whole is said before that of the whole.
+// The limit of a part is reported before that of the whole.
 TEST(AdviceTest, LastOctetsHaveTheirOwnLimit)
 {
     for (const char* router : {"192.168.1.256", "192.168.1.255"}) {
@@ -117,7 +116,7 @@ TEST(AdviceTest, LastOctetsHaveTheirOwnLimit)
     }
 }
 
-// What is left of the label makes an address of the whole, whose length is another matter.
+// Shortening the label turns the whole value into an address, whose length is a different fault.
 TEST(AdviceTest, AReasonOfAnotherPartIsAnotherOne)
 {
     EXPECT_EQ("", fault_of(*find("TcmValidateVoIPSTUNServer"), {"2222222222222222222225G.1.1."}));

@@ -1,4 +1,4 @@
-// Agreement test: compares the descriptions with every row of vectors/*.ndjson, and with the declared arguments. fuzz/
+// Agreement test: compares the descriptions with every row of vectors/*.ndjson and with the declared arguments. fuzz/
 // compares them with the library.
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ using vectors::RowReason;
 
 namespace {
 
-// result_of shows a number that nothing was written to as the caller does.
+// result_of represents a number that was not written as the caller does.
 CallResult result_of(const Answer& answer)
 {
     CallResult result{answer.code, answer.out, answer.err, answer.is_flushed(), answer.after};
@@ -38,15 +38,15 @@ CallResult result_of(const Answer& answer)
     return result;
 }
 
-// told is what a row has of a reason.
+// told returns the fields of a reason that a row contains.
 RowReason told(const Answer& answer)
 {
     const rules::Reason& reason = answer.reason;
     return {std::string(reason.id), std::string(reason.name), reason.part, reason.item, reason.offset};
 }
 
-// is_beyond_rows tells checks of which a step is for another model, for what the wireless driver lists, or for calls that
-// do not return; or which has a step that no row reaches.
+// is_beyond_rows returns whether a check has a step for another model, for the wireless driver's list or for calls that
+// do not return, or any other step that no row reaches.
 bool is_beyond_rows(const Check& check)
 {
     constexpr std::string_view kOthers[] = {"WLAN_check_HNAP_SecurityType", "WLAN_check_radio_id",
@@ -55,7 +55,8 @@ bool is_beyond_rows(const Check& check)
            std::ranges::find(kOthers, check.name) != std::end(kOthers);
 }
 
-// A row holds with each C library, but its reason is that of long numbers. Rows reach every step, and each condition holds in some row.
+// A row holds for each C library, but its reason assumes a long of 64 bits. Rows reach every step, and each condition
+// is true in some row.
 TEST(AgreementTest, VectorsAndDescriptions)
 {
     std::size_t count = 0;
@@ -98,7 +99,7 @@ TEST(AgreementTest, VectorsAndDescriptions)
     }
 }
 
-// An answer of its own for some C libraries differs from the row's other one, or it would only repeat that.
+// A separate answer for some C libraries must differ from the row's main answer; otherwise it is redundant.
 TEST(AgreementTest, AnswersForSomeLibrariesDiffer)
 {
     std::map<Atoi, int> count;

@@ -1,4 +1,4 @@
-// Automaton test: what is known of all texts of a language.
+// Automaton test: statements that hold for all texts of a language.
 
 #include "rules/language/automaton.h"
 
@@ -45,7 +45,7 @@ TEST(AutomatonTest, Summary)
     EXPECT_EQ(summary(tail).longest, 5);
 }
 
-// Two cuts come to the same number, of which each says something else.
+// Two cuts select the same number, and each limits it differently.
 TEST(AutomatonTest, WhatFollowsTellsMoreBytesApart)
 {
     Languages languages;

@@ -12,8 +12,8 @@ using rules::Set;
 namespace {
 
 constexpr std::size_t kLongest = 9000;
-constexpr std::size_t kMostChanged = 160;  // texts in which bytes are put
-constexpr std::size_t kMostItems = 48;     // texts that lists are made of
+constexpr std::size_t kMostChanged = 160;  // texts that bytes are inserted into
+constexpr std::size_t kMostItems = 48;     // texts that lists are built from
 
 class Maker {
  public:
@@ -48,7 +48,7 @@ class Maker {
         return {members.front(), members[members.size() / 2], members.back()};
     }
 
-    // some_of returns short texts from everywhere.
+    // some_of returns short texts, spread evenly over the set.
     static std::vector<std::string> some_of(const std::set<std::string>& texts, std::size_t most)
     {
         constexpr std::size_t kShort = 200;
@@ -94,7 +94,7 @@ class Maker {
         }
     }
 
-    // groups makes each group of a shape as short and as long as it may be, and one byte more and less.
+    // groups generates each group of a shape at its minimum and maximum length, and one byte shorter and longer.
     void groups(const rules::Runs& shape)
     {
         for (std::size_t at = 0; at <= shape.size(); ++at) {
@@ -155,7 +155,7 @@ class Maker {
         return result;
     }
 
-    // bytes puts bytes at the beginning, the middle and the end of a text, and takes them away.
+    // bytes inserts bytes at the beginning, the middle and the end of a text, and removes bytes there.
     void bytes(const std::string& text, bool all)
     {
         const std::string tried = all ? Set::range(1, 255).members() : members_ + others_;

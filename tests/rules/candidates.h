@@ -1,4 +1,4 @@
-// Candidates: values that lie on both sides of what constraints say.
+// Candidates: values on both sides of the limits that constraints describe.
 #ifndef OSTREL_TESTS_RULES_CANDIDATES_H
 #define OSTREL_TESTS_RULES_CANDIDATES_H
 
@@ -10,7 +10,7 @@
 
 namespace ostrel::tests {
 
-// candidates returns texts for a form, made from the form and from known texts.
+// candidates returns texts for a form, derived from the form and from known texts.
 std::set<std::string> candidates(const rules::Form& form, const std::set<std::string>& known);
 
 // numbers returns ints for a form.

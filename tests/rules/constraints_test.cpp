@@ -1,4 +1,4 @@
-// Constraints test: what is said of each argument, compared with what the library accepts.
+// Constraints test: compares the constraints of each argument with the values that the library accepts.
 
 #include <gtest/gtest.h>
 
@@ -161,7 +161,7 @@ TEST(ConstraintsTest, KeywordsInAnyCaseAreOfferedAsTheyAreWritten)
     EXPECT_FALSE(protocol.form.recommended.front().ignores_case);
 }
 
-// What is said of which argument is shown.
+// Shows how much the constraints describe of which argument.
 TEST(ConstraintsTest, HowMuchIsSaid)
 {
     std::map<std::string, std::string> names;

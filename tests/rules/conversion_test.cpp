@@ -1,4 +1,4 @@
-// Conversion test: what descriptions make of character references.
+// Conversion test: how descriptions convert character references.
 
 #include <gtest/gtest.h>
 

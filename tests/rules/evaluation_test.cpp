@@ -1,4 +1,4 @@
-// Evaluation test: what is counted, and conditions that are asked for no reason.
+// Evaluation test: the counts, and conditions that are evaluated without a reason.
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,7 @@ TEST(CountsTest, EachStepAndConditionCountsOnceInACall)
 
 TEST(CountsTest, CasesAndItemsCountToo)
 {
-    // Empty, a byte outside; the two cases and what refuses in each of them.
+    // Empty, a byte outside; the two cases and the refusal in each of them.
     const Check& host = *find("ValidateURL");
     // Empty, a byte outside, only digits, too many labels; for each label: empty, too long.
     const Check& name = *find("TcmValidateDomainName");
@@ -66,7 +66,7 @@ TEST(OutsideTest, SaysWhy)
     }
 }
 
-// registered_with makes a check of one text and another, which is a secret and may not be NULL.
+// registered_with makes a check of two texts, of which the second is secret and must not be NULL.
 Check registered_with(std::vector<Step> steps)
 {
     std::vector<ArgumentWords> arguments;
@@ -90,7 +90,7 @@ TEST(HidingTest, HidesSecretsAlone)
     EXPECT_EQ("abc " + length_shown(3), evaluate_hiding(kMostWork, check, values, {}).out);
 }
 
-// The answer that is given is that of the call before.
+// The answer passed to the second call still contains the result of the first.
 TEST(ExplainTest, NothingIsLeftOfAnotherCall)
 {
     const std::vector<Value> refused = {"65536"};
@@ -117,7 +117,7 @@ TEST(WriteTest, WhatIsWrittenIsJudgedFromItsBeginning)
     EXPECT_EQ(2U, judged.size);
 }
 
-// Nothing is at fault where a condition is asked for.
+// The offset is 0 unless a condition has found a fault.
 TEST(OffsetTest, IsZeroWithoutAFault)
 {
     EXPECT_EQ(0, answer_of({refuse(1, above("offset", 0)), refuse(2, below("offset", 0))}, {""}).code);
@@ -151,7 +151,7 @@ TEST(WorkTest, ALimitMayBeReached)
     EXPECT_EQ(0U, least % 2);
 }
 
-// Where a search begins to compare, it compares little at most places.
+// At most positions, a search compares only a few bytes.
 TEST(WorkTest, OfASearchIsLittleMoreThanOneOfTheText)
 {
     const Check check = registered_with({refuse(1, contains("one", literal("abc")))});
@@ -159,7 +159,7 @@ TEST(WorkTest, OfASearchIsLittleMoreThanOneOfTheText)
     EXPECT_EQ(Outside::kNo, evaluate_within(4096, check, values, {}).outside);
 }
 
-// Of another model, what only one model has is refused.
+// Another model refuses the values that only one model supports.
 TEST(ModelTest, OfAnotherModel)
 {
     Build other;
@@ -169,7 +169,7 @@ TEST(ModelTest, OfAnotherModel)
     EXPECT_EQ(1001, answer_of("WLAN_check_HNAP_SecurityType", {"1", "auto", "x", "AES"}, other).code);
 }
 
-// No reason is asked for where cases are distinguished.
+// Distinguishing cases requires no reason.
 TEST(WhenTest, TakesEveryCondition)
 {
     static const Table kTable = {{"a column"}, {{"a"}, {"b"}}};

@@ -25,9 +25,9 @@ using vectors::shown;
 
 namespace {
 
-constexpr std::size_t kMostRows = 3;  // in which candidates are put
+constexpr std::size_t kMostRows = 3;  // rows that candidates are inserted into
 
-// A build whose driver lists channels.
+// build returns a build whose driver lists channels.
 const rules::Build& build() { return oracle::builds_with_channels().front(); }
 
 bool is_in_range(Kind kind, long long number)

@@ -1,4 +1,4 @@
-// Experiment: calls of one function that test what is said of its arguments.
+// Experiment: calls of one function that test the constraints of its arguments.
 #ifndef OSTREL_TESTS_RULES_EXPERIMENT_H
 #define OSTREL_TESTS_RULES_EXPERIMENT_H
 
@@ -20,14 +20,14 @@ class Experiment {
  public:
     Experiment(const catalogue::Function& function, const rules::Check& check);
 
-    // change makes so many calls of changed rows: what is accepted must obey.
+    // change makes that many calls with changed rows: accepted values must obey the constraints.
     void change(std::size_t times, calling::Capture& capture);
 
-    // vary puts candidates for an argument in accepted rows: what is accepted must obey and, where that is said to
-    // be enough, the reverse. Recommended values must be accepted, too.
+    // vary inserts candidates for an argument into accepted rows: accepted values must obey the constraints and, if
+    // the constraints are sufficient, vice versa. Recommended values must be accepted too.
     void vary(std::size_t argument, calling::Capture& capture);
 
-    // pass_null tells what NULL does there, by the description and, where the call can be made, by the library.
+    // pass_null returns the outcomes of NULL according to the description and, if the call is possible, the library.
     std::set<rules::NullOutcome> pass_null(std::size_t argument, calling::Capture& capture);
 
     // constraints returns the form of an argument, or NULL.
@@ -37,14 +37,14 @@ class Experiment {
         return found == constraints_.end() ? nullptr : &found->second;
     }
 
-    std::string difference;  // of the first value that is not as was said
+    std::string difference;  // of the first value that contradicts the constraints
     std::size_t accepted = 0;
     std::size_t refused = 0;
 
  private:
     using Values = std::vector<catalogue::Value>;
 
-    // call tells whether the library accepts the values. Nothing: the call must not be made, or builds differ.
+    // call returns whether the library accepts the values, or nothing if the call must not be made or builds differ.
     std::optional<bool> call(const Values& values, calling::Capture& capture);
     void tell(std::string_view what, const Values& values, std::size_t argument);
     void compare(const Values& values, std::size_t argument, bool is_accepted);

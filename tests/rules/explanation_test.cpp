@@ -1,4 +1,4 @@
-// Explanation test: what is said of each check, compared with what the vectors and the library show.
+// Explanation test: compares the explanation of each check with the vectors and the library.
 
 #include <gtest/gtest.h>
 
@@ -32,8 +32,8 @@ void add_lines(const std::vector<Said>& steps, std::vector<SaidLine>& lines)
     }
 }
 
-// Pattern is a line as it is explained, taken apart at what it holds. What an argument's name stands for is known from a
-// row: the value that was passed, or the text that the argument holds after the call.
+// Pattern is an explained line, split at its placeholders. A row supplies the text for an argument's name: the value
+// that was passed, or the text that the argument contains after the call.
 class Pattern {
  public:
     Pattern(const SaidLine& line, const Row& row) : is_error_(line.stream == rules::Line::Stream::kErr)
@@ -56,7 +56,7 @@ class Pattern {
         parts_.back().append(rest, text.end());
     }
 
-    // ends returns where a text may continue after the line that begins there.
+    // ends returns the offsets at which a text may continue after a line that begins at the given one.
     [[nodiscard]] std::set<std::size_t> ends(const std::string& text, std::size_t begin) const
     {
         std::set<std::size_t> places = {begin};
@@ -78,7 +78,7 @@ class Pattern {
     }
 
  private:
-    // An argument that is changed before it is printed is left open.
+    // An argument that is changed before it is printed may match any text.
     static std::map<std::string, std::string> names_in(const Row& row)
     {
         std::map<std::string, std::string> names;
@@ -98,7 +98,7 @@ class Pattern {
     bool is_error_;
 };
 
-// is_made_of tells that a text is nothing but lines of these patterns, one after the other.
+// is_made_of returns whether a text is a sequence of lines that match these patterns.
 bool is_made_of(const std::string& text, const std::vector<Pattern>& patterns)
 {
     std::set<std::size_t> places = {0};
@@ -128,10 +128,10 @@ class Explained : public testing::TestWithParam<const Function*> {
     const Check& check_ = *function_.check;
 };
 
-// A line that no row prints is one that cannot be printed; one that is not explained is missed.
+// An explained line that no row prints cannot be printed; a printed line must be explained.
 TEST_P(Explained, LinesAreThoseThatArePrinted)
 {
-    constexpr std::size_t kLongest = 2000;  // what a longer text is made of would take too long to find out
+    constexpr std::size_t kLongest = 2000;  // matching longer texts would take too long
     std::vector<SaidLine> lines;
     add_lines(rules::explain(check_, oracle::library_build()).steps, lines);
     std::vector<bool> are_printed(lines.size());
@@ -160,7 +160,7 @@ TEST_P(Explained, CodesAreThoseThatVectorsReach)
     EXPECT_EQ(reached, std::set<int>(codes.begin(), codes.end()));
 }
 
-// is_accepted asks the description first, since a call must not end the process.
+// is_accepted evaluates the description first, since the call must not end the process.
 bool is_accepted(const Function& function, const std::vector<Value>& values)
 {
     const auto answer = rules::evaluate(*function.check, values, oracle::library_build());
@@ -171,7 +171,7 @@ bool is_accepted(const Function& function, const std::vector<Value>& values)
     return caller.call() == 0;
 }
 
-// Keywords are what completion offers: each is accepted with the other arguments of some row.
+// Completion offers the keywords: each is accepted with the other arguments of some row.
 TEST_P(Explained, KeywordsAreAccepted)
 {
     for (std::size_t i = 0; check_.is_verdict && i < check_.arguments.size(); ++i) {
@@ -189,7 +189,7 @@ TEST_P(Explained, KeywordsAreAccepted)
     }
 }
 
-// What several have in common is described once, and what sets them apart is not.
+// Similar arguments share one description, except for the words that distinguish them.
 TEST(ExplanationTest, ThoseThatAreDescribedTogetherAreToldApart)
 {
     const auto what = [](std::string_view name, std::size_t argument = 0) {

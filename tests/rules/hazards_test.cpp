@@ -1,5 +1,5 @@
-// Hazards test: each value that is said to be accepted with a byte in some place is accepted by the library, with that
-// byte there. That there are no others, the calls of agreement_test.cpp show.
+// Hazards test: the library accepts each value that is listed as accepted with a byte in some place, and the byte is
+// there. The calls of agreement_test.cpp show that the list is complete.
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ namespace {
 
 class Hazards : public testing::Test {
  protected:
-    // held is what the argument holds before or after an accepted call; nothing where the call is refused.
+    // held returns the texts of the argument before or after an accepted call, and nothing for a refused one.
     std::vector<std::string> held(const Function& function, const Exposure& exposure,
                                   const std::vector<Value>& values)
     {
@@ -63,7 +63,7 @@ TEST_F(Hazards, EachWitnessIsAccepted)
     EXPECT_GT(calls, 10000U);
 }
 
-// Whatever is a text is spoken of, before the call and, where it can be written to, after it.
+// Each text is listed, before the call and, if the call can write to it, after the call.
 TEST_F(Hazards, EachTextIsSpokenOf)
 {
     for (const Function& function : catalogue::functions()) {

@@ -1,4 +1,4 @@
-// Hosts test: what is said of hosts, URLs and e-mail addresses that are refused.
+// Hosts test: the sentences for refused hosts, URLs and e-mail addresses.
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ TEST(HostsTest, Names)
     EXPECT_EQ("label 2 has 21 bytes; at most 20 are allowed", said("a.abcdefghij0123456789x"));
 }
 
-// A host is taken for an address where it cannot be a name.
+// A host is treated as an address if it cannot be a name.
 TEST(HostsTest, NamesOrAddresses)
 {
     const auto said = [](const std::string& value) { return told("ValidateURL", {value}); };
@@ -89,7 +89,7 @@ TEST(HostsTest, MailAddresses)
               told("TcmValidateEmailAddress", {"a.b@c"}));
 }
 
-// What is said to be allowed is what a host may have, though the set that is tested first has "_" and ":" too.
+// The sentence lists the bytes that a host may contain, although the set that is tested first includes "_" and ":".
 TEST(HostsTest, OfTelephony)
 {
     const char* const registrar = "TcmValidateVoIPRegistrar";

@@ -1,4 +1,4 @@
-// Ids test: the fault that each condition tells, by itself and reversed, and the place of it.
+// Ids test: the fault that each condition reports, plain and negated, and the fault's position.
 
 #include <gtest/gtest.h>
 

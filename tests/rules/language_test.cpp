@@ -1,4 +1,4 @@
-// Language test: what languages hold, compared with every short text of a small alphabet.
+// Language test: compares the contents of languages with every short text of a small alphabet.
 
 #include <gtest/gtest.h>
 
@@ -111,7 +111,7 @@ TEST(LanguageTest, LeapYears)
     }
 }
 
-// part_of does once more what a cut does.
+// part_of implements a cut independently.
 std::string part_of(const std::string& text, const Cut& cut)
 {
     const std::size_t first = text.find(cut.separator);

@@ -1,4 +1,4 @@
-// Languages: samples of them, and the short texts that they are tried with.
+// Languages: sample languages, and the short texts to try them with.
 #ifndef OSTREL_TESTS_RULES_LANGUAGES_H
 #define OSTREL_TESTS_RULES_LANGUAGES_H
 
@@ -10,13 +10,13 @@
 
 namespace ostrel::tests {
 
-// for_each_text looks at all texts of an alphabet, up to a length.
+// for_each_text visits all texts of an alphabet, up to a length.
 void for_each_text(const std::string& alphabet, std::size_t longest,
                    const std::function<void(const std::string&)>& look, const std::string& begin = "");
 
 std::vector<rules::Cut> cuts();
 
-// inner_languages are judged in parts of texts.
+// inner_languages returns languages for parts of texts.
 std::vector<rules::Language> inner_languages(rules::Languages& languages);
 
 }  // namespace ostrel::tests

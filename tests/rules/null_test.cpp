@@ -1,4 +1,4 @@
-// Null test: what is said of NULL for an argument, compared with what becomes of calls.
+// Null test: compares the documented effect of NULL for an argument with the outcomes of calls.
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ class NullTest : public testing::TestWithParam<const Function*> {
     const Check& check_ = *function_.check;
 };
 
-// outcome_in_words calls the function in a process of its own.
+// outcome_in_words calls the function in a separate process.
 std::string outcome_in_words(const Function& function, const std::vector<Value>& values)
 {
     int code = 0;
@@ -66,8 +66,8 @@ std::set<std::string> outcomes_in(const std::string& text)
     return result;
 }
 
-// Calls that the description puts in the same place come to the same end, so that one of each is made; but after a NULL
-// that was printed the description says no more, and some rows more are tried.
+// Calls with the same described outcome end in the same way, so the test makes one of each. The description stops at a
+// NULL that is printed, so a few more rows are tried in that case.
 TEST_P(NullTest, WhatIsSaidIsWhatHappens)
 {
     constexpr std::size_t kMostCalls = 12;

@@ -1,4 +1,4 @@
-// Obedience: whether a value has what the constraints of its argument say, each word judged for itself.
+// Obedience: whether a value obeys the constraints of its argument, each of which is judged separately.
 #ifndef OSTREL_TESTS_RULES_OBEDIENCE_H
 #define OSTREL_TESTS_RULES_OBEDIENCE_H
 
@@ -17,7 +17,7 @@ class Obedience {
     // fault returns the first constraint that a text violates, or an empty text.
     std::string fault(const rules::Form& form, const std::string& text);
 
-    // fault_of does that for an argument of a call. NULL and other kinds than texts and numbers obey.
+    // fault_of does the same for an argument of a call. NULL, and any kind except texts and numbers, obeys.
     std::string fault_of(const rules::Constraints& constraints, const std::vector<catalogue::Value>& values,
                          std::size_t argument);
 

@@ -1,4 +1,4 @@
-// Parts test: reasons that are about a part of an argument say which part, and where it begins.
+// Parts test: a reason about a part of an argument names the part and the offset at which it begins.
 
 #include <gtest/gtest.h>
 
@@ -65,7 +65,7 @@ TEST(PartsTest, AreCalledTheSameInWhatIsRemembered)
     EXPECT_EQ("the port is 0; at least 1 is needed", told(answer_of(steps, {"a:0"})));
 }
 
-// A piece of a part is another thing.
+// A piece of a part does not inherit the part's name.
 TEST(PartsTest, LoseTheirNameWhenTheyAreCut)
 {
     const Expression port = called("the port", after_first(it, ":"));
@@ -100,7 +100,7 @@ TEST(PartsTest, MayBeItems)
     EXPECT_EQ("the entry is empty", told(answer_of(steps, {"a,,b"})));
 }
 
-// An address in a list is an item, and its octets are parts of that.
+// An address in a list is an item, and its octets are parts of the item.
 TEST(PartsTest, OfItems)
 {
     const Answer answer = answer_of("TcmValidateofferDNS", {"1.1.1.1, 1..10.1"});

@@ -1,4 +1,4 @@
-// Pattern test: what regular expressions match, compared with the languages that they are written for.
+// Pattern test: compares the matches of regular expressions with the languages that they were generated from.
 
 #include "rules/language/pattern.h"
 

@@ -1,4 +1,4 @@
-// Reasons test: what is said of values that the checks of the services refuse.
+// Reasons test: the sentences for values that the checks of the services refuse.
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// said is the argument and what is said of it.
+// said returns the argument's name and the sentence about it.
 std::string said(std::string_view name, const std::vector<Value>& values)
 {
     const Answer answer = answer_of(name, values);

@@ -1,5 +1,5 @@
-// Registration test: every description is in the module whose header declares the function, and one that names what is
-// not there says so.
+// Registration test: every description is in the module whose header declares the function, and a description that
+// refers to something undefined is rejected.
 
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ TEST(RegistrationTest, TheModuleIsThatOfTheHeader)
     }
 }
 
-// fault registers a check with such steps and returns the error.
+// fault registers a check with these steps and returns the error.
 std::string fault(std::vector<Step> steps, std::vector<ArgumentWords> arguments)
 {
     try {

@@ -1,4 +1,4 @@
-// Room test: the bytes that descriptions say a buffer must have, with an unreadable page after them.
+// Room test: buffers of exactly the described size, followed by an unreadable page.
 
 #include <gtest/gtest.h>
 #include <ostrel/lan_check.h>
@@ -19,10 +19,10 @@ namespace ostrel::tests {
 
 namespace {
 
-// kOther is what a buffer holds that nothing was written to.
+// kOther fills a buffer before the call.
 constexpr char kOther = '\xAA';
 
-// died holds for a memory fault, also for one that a sanitizer reports.
+// died returns whether the status is that of a memory fault, including one that a sanitizer reports.
 bool died(int status) { return WIFSIGNALED(status) ? WTERMSIG(status) != SIGABRT : WEXITSTATUS(status) != 0; }
 
 // Buffer is memory that ends at an unreadable page.
@@ -33,7 +33,7 @@ class Buffer {
         std::memset(begin_, kOther, size);
     }
 
-    // hold puts a text into the buffer, and zeros after it.
+    // hold copies a text into the buffer and fills the rest with zeros.
     void hold(const std::string& text)
     {
         std::memset(begin_, 0, size_);

@@ -33,7 +33,7 @@ Reason read_as(long long number, Reason result)
     return result;
 }
 
-// limited says which limit the number read has passed.
+// limited adds the limit that the number exceeds.
 Reason limited(std::string_view limit, Reason result)
 {
     result.limit = limit;
@@ -209,7 +209,7 @@ std::vector<Expectation> of_forms_and_lists()
     };
 }
 
-// What is said of a part, of an item, and of a text that was rewritten.
+// of_places returns the sentences for a part, for an item, and for a text that was rewritten.
 std::vector<Expectation> of_places()
 {
     return {

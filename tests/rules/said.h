@@ -1,4 +1,4 @@
-// Said: reasons, and what a reader expects to be said of each. It is written by hand, not taken from sentences.cpp.
+// Said: reasons, and the sentence that a reader expects for each, written by hand and not copied from sentences.cpp.
 #ifndef OSTREL_TESTS_RULES_SAID_H
 #define OSTREL_TESTS_RULES_SAID_H
 
@@ -14,7 +14,7 @@ struct Expectation {
     std::string sentence;
 };
 
-// all_said has every id in every form.
+// all_said returns every id in every form.
 const std::vector<Expectation>& all_said();
 
 }  // namespace ostrel::rules

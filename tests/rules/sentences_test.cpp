@@ -1,4 +1,4 @@
-// Sentences test: what is said for each id, in each of its forms, is what a reader expects.
+// Sentences test: the sentence for each id, in each of its forms, is the one that a reader expects.
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ TEST(SentencesTest, AreAsExpected)
         EXPECT_EQ(said.sentence, sentence(said.reason)) << said.reason.id;
 }
 
-// is_of_one returns whether the singular is used for what was found or is allowed.
+// is_of_one returns whether the found or allowed value takes the singular.
 bool is_of_one(const Datum& datum)
 {
     if (const auto* number = std::get_if<long long>(&datum)) return *number == 1;
@@ -37,7 +37,7 @@ bool is_of_one(const Datum& datum)
     return set == nullptr || set->size() == 1;
 }
 
-// forms_of names those in which a sentence is said of a reason: "found one", "read".
+// forms_of returns the names of the forms that a sentence takes for a reason: "found one", "read".
 std::set<std::string> forms_of(std::string_view text, const Reason& said)
 {
     std::set<std::string> forms = {"said"};
@@ -93,7 +93,7 @@ Reason of(std::string_view id, std::size_t argument = 0)
     return reason;
 }
 
-// What was found may be hidden; a reason without a place or a limit is said all the same.
+// The found value may be hidden; a reason without a place or a limit still has a sentence.
 TEST(SentencesTest, SayWhatIsNotShown)
 {
     EXPECT_EQ("should end before byte ", sentence(of("too_much")));
@@ -122,7 +122,7 @@ Check of_one()
     return check_of(std::move(arguments));
 }
 
-// The second one is a secret.
+// The second argument is secret.
 Check of_two()
 {
     std::vector<ArgumentWords> arguments;
@@ -138,7 +138,7 @@ Reason of_item(Reason reason, std::string text)
     return reason;
 }
 
-// An argument is named if a user passes several; an output is not passed.
+// An argument is named if the user passes several; outputs do not count.
 TEST(FullSentencesTest, NameWhatTheySpeakOf)
 {
     EXPECT_EQ("is empty", full_sentence(of("empty"), of_one()));

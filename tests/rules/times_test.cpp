@@ -1,4 +1,4 @@
-// Times test: what is said of dates, times and time zones that are refused.
+// Times test: the sentences for refused dates, times and time zones.
 
 #include <gtest/gtest.h>
 
@@ -71,7 +71,7 @@ TEST(TimeZoneTest, BothOrNone)
     EXPECT_EQ("end", answer_of(name, {"x", ""}).reason.name);
 }
 
-// What is accepted with a line has the reason of the line.
+// A value that is accepted but prints a line has the reason of that line.
 TEST(TimeZoneTest, UnprintableValuesPass)
 {
     const Answer answer = answer_of("TIME_check_local_time_zone", {"+08:\t0"});

@@ -22,7 +22,7 @@ using rules::Condition;
 using rules::Counts;
 using rules::Step;
 
-// refusals lists the refusing steps of a check, in their order.
+// refusals returns the refusing steps of a check, in order.
 std::vector<const Step*> refusals(const std::vector<Step>& steps)
 {
     std::vector<const Step*> result;
@@ -41,9 +41,9 @@ const Check* target_of(const Step& refusal)
     return refusal.condition.kind == Condition::Kind::kRefusedBy ? refusal.condition.target : nullptr;
 }
 
-// A path names the refusing steps that lead to a refusal: that of the check that is called, that of the check by which
-// it refuses, and so on. "TcmValidateIPRouter 1, TcmValidateIPAddress 3" is the third refusal of that address, met by
-// the first of the router's.
+// A path names the refusing steps that lead to a refusal: the step of the called check, then the step of the check that
+// the first one delegates to, and so on. "TcmValidateIPRouter 1, TcmValidateIPAddress 3" is the third refusal of the
+// address, reached through the first of the router.
 std::string step_name(const Check& check, std::size_t index)
 {
     return std::string(check.name) + " " + std::to_string(index + 1);
@@ -63,7 +63,7 @@ std::vector<std::string> paths_of(const Check& check)
     return result;
 }
 
-// path_of is the one that a call took.
+// path_of returns the path that a call took.
 std::string path_of(const Check& check, const Counts& counts)
 {
     const std::vector<const Step*> all = refusals(check.steps);
@@ -75,7 +75,7 @@ std::string path_of(const Check& check, const Counts& counts)
     return target == nullptr ? name : name + ", " + path_of(*target, counts);
 }
 
-// paths_shown counts the rows with a reason, by the path that their call took.
+// paths_shown counts the rows with a reason by the path that their call took.
 std::map<std::string, std::size_t> paths_shown()
 {
     std::map<std::string, std::size_t> result;
@@ -91,7 +91,7 @@ std::map<std::string, std::size_t> paths_shown()
     return result;
 }
 
-// A refusal that tells two faults apart has a step for each.
+// A refusal for two different faults has a step for each.
 TEST(VectorReasonsTest, ConditionsHaveAStepEach)
 {
     for (const Check& check : rules::checks()) {
@@ -100,7 +100,7 @@ TEST(VectorReasonsTest, ConditionsHaveAStepEach)
     }
 }
 
-// What no row shows, by the end of the path.
+// Unshown is a refusal that no row shows, identified by the end of its path.
 struct Unshown {
     std::string_view path;
     std::string_view why;

@@ -1,4 +1,4 @@
-// Vocabulary test: the words by themselves.
+// Vocabulary test: each word alone.
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ TEST(BuildTest, NumbersAmongOtherBytes)
     EXPECT_EQ(0, read_number("", Build::Atoi::kLong64).value);
     EXPECT_EQ(0, read_number("x1", Build::Atoi::kLong64).value);
     EXPECT_EQ(0, read_number("- 1", Build::Atoi::kLong64).value);
-    // What comes after a piece of a text is not looked at.
+    // Bytes after a piece of a text are not read.
     EXPECT_EQ(1, read_number(std::string_view("  1").substr(0, 1), Build::Atoi::kLong64).begin);
     EXPECT_EQ(0, read_number(std::string_view("-1").substr(0, 0), Build::Atoi::kLong64).value);
 }

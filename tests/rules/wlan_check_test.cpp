@@ -1,4 +1,4 @@
-// Wireless LAN test: what is said of values that its checks refuse, and the words that they alone need.
+// Wireless LAN test: the sentences for values that its checks refuse, and the words that only these checks need.
 
 #include <gtest/gtest.h>
 #include <ostrel/wlan_check.h>
@@ -11,7 +11,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// said is the argument and what is said of it.
+// said returns the argument's name and the sentence about it.
 std::string said(std::string_view name, const std::vector<Value>& values, const Build& build = {})
 {
     const Answer answer = answer_of(name, values, build);

@@ -1,4 +1,4 @@
-// Sets of bytes written as pairs of first and last: "09AF" is 0 to 9 and A to F, "--" is "-" alone.
+// Sets of bytes, written as pairs of first and last byte: "09AF" is 0 to 9 and A to F, "--" is "-" alone.
 #ifndef OSTREL_TESTS_SUPPORT_BYTE_RANGES_H
 #define OSTREL_TESTS_SUPPORT_BYTE_RANGES_H
 
@@ -6,7 +6,7 @@
 
 namespace ostrel::tests {
 
-// in_ranges tells whether the byte lies in one of the ranges.
+// in_ranges returns whether the byte lies in one of the ranges.
 inline bool in_ranges(std::string_view pairs, int byte)
 {
     for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {

@@ -28,9 +28,10 @@ void check(bool succeeded, const char* what)
 
 [[noreturn]] void become_child(const std::function<int()>& body, int out, int err)
 {
-    // A parent that is killed takes along a child that never returns.
+    // Kills a child that never returns when its parent is killed.
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    // A core limit of 0 does not keep a core away from a handler program; not being dumpable does.
+    // A core limit of 0 does not apply to a core that is piped to a handler program; a process that is not dumpable
+    // produces none.
     prctl(PR_SET_DUMPABLE, 0);
     const rlimit no_core = {0, 0};
     setrlimit(RLIMIT_CORE, &no_core);
@@ -41,7 +42,7 @@ void check(bool succeeded, const char* what)
     _exit(status);
 }
 
-// drain appends what can be read now and tells whether more may come.
+// drain appends the bytes that can be read now and returns whether more may follow.
 bool drain(int descriptor, std::string& text)
 {
     std::array<char, 65536> bytes;  // NOLINT(cppcoreguidelines-pro-type-member-init)
@@ -75,9 +76,9 @@ Child::Child(const std::function<int()>& body) : start_(Clock::now())
     std::array<int, 2> out{};
     std::array<int, 2> err{};
     check(pipe2(out.data(), O_CLOEXEC) == 0 && pipe2(err.data(), O_CLOEXEC) == 0, "pipe2");
-    fcntl(out[0], F_SETFL, O_NONBLOCK);  // of a child that was killed only what is there is read
+    fcntl(out[0], F_SETFL, O_NONBLOCK);  // the last read after a kill must not wait for more
     fcntl(err[0], F_SETFL, O_NONBLOCK);
-    std::fflush(nullptr);  // or the child would print what the parent has not yet
+    std::fflush(nullptr);  // otherwise the child would print the parent's unflushed output too
     pid_ = fork();
     check(pid_ >= 0, "fork");
     if (pid_ == 0) become_child(body, out[1], err[1]);
@@ -104,7 +105,7 @@ ChildEnd Child::wait(std::chrono::milliseconds limit)
     std::array<pollfd, 2> streams = {{{out_, POLLIN, 0}, {err_, POLLIN, 0}}};
     while ((streams[0].fd >= 0 || streams[1].fd >= 0) && remaining_ms(deadline) > 0) {
         if (poll(streams.data(), streams.size(), remaining_ms(deadline)) <= 0) continue;
-        // A stream that has ended is polled no more.
+        // poll ignores a stream that has ended.
         if (streams[0].revents != 0 && !drain(out_, end.out)) streams[0].fd = -1;
         if (streams[1].revents != 0 && !drain(err_, end.err)) streams[1].fd = -1;
     }

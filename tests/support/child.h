@@ -1,4 +1,4 @@
-// Child: a function run in a process of its own, for calls that end the process or never return.
+// Child: runs a function in a separate process, for calls that end the process or never return.
 #ifndef OSTREL_TESTS_SUPPORT_CHILD_H
 #define OSTREL_TESTS_SUPPORT_CHILD_H
 
@@ -11,18 +11,18 @@
 
 namespace ostrel::tests {
 
-// ChildEnd is how a child ended and what it printed until then, flushed by itself or by its return.
+// ChildEnd describes how a child ended, with the output that it flushed itself or by returning.
 struct ChildEnd {
-    bool timed_out = false;  // it was still running at the limit, and was killed
+    bool timed_out = false;  // it was still running at the limit and was killed
     int signal = 0;          // the signal that ended it; 0: none, or timed out
-    int status = -1;         // what its body returned; -1: it did not return
+    int status = -1;         // the value that its body returned; -1: it did not return
     std::string out;
     std::string err;
 };
 
 void PrintTo(const ChildEnd& end, std::ostream* stream);
 
-// Child starts the body at once in a forked process, which leaves no core file. Several may run side by side.
+// Child starts the body immediately in a forked process, which leaves no core file. Several may run at a time.
 class Child {
  public:
     // body returns 0 to 255.
@@ -31,7 +31,8 @@ class Child {
     Child& operator=(const Child&) = delete;
     ~Child();
 
-    // wait returns how the child ended, or kills it when the limit, counted from its start, has passed. Once only.
+    // wait returns how the child ended, and kills it once the limit, counted from its start, has passed. Call it
+    // only once.
     ChildEnd wait(std::chrono::milliseconds limit);
 
  private:
@@ -41,7 +42,7 @@ class Child {
     int err_ = -1;
 };
 
-// run_in_child is a child that is waited for at once.
+// run_in_child starts a child and waits for it.
 ChildEnd run_in_child(std::chrono::milliseconds limit, const std::function<int()>& body);
 
 }  // namespace ostrel::tests

@@ -11,7 +11,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// What ends by a signal or never returns is tested in children, so these must not take one end for another.
+// Other tests run calls that end by a signal or never return in children, so a child must not confuse these endings.
 TEST(Child, TellsReturnSignalAndTimeOutApart)
 {
     const ChildEnd returned = run_in_child(milliseconds(10000), [] {

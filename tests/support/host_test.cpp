@@ -1,4 +1,4 @@
-// A host that supplies the two utilities: they are called, and what they answer holds.
+// A host that defines the two utilities: the library calls them and uses their results.
 
 #include <gtest/gtest.h>
 #include <ostrel/result_code.h>

@@ -1,4 +1,4 @@
-// The numbers that the library reads itself, against atoi's answers.
+// Compares the library's own parser of numbers with atoi.
 
 #include "src/support/number.h"
 
@@ -12,7 +12,7 @@ namespace {
 using ostrel::leading_number;
 using ostrel::read_number;
 
-// for_each_text runs through all texts of up to that length over the alphabet, each after the prefix.
+// for_each_text visits all texts of up to that length over the alphabet, each preceded by the prefix.
 template <typename Visit>
 void for_each_text(const std::string& prefix, const std::string& alphabet, int longest, const Visit& visit)
 {

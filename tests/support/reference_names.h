@@ -1,4 +1,4 @@
-// Reference names: the named character references of ISO 8859-1 and of XML, and the byte that each names.
+// reference_names: the named character references of ISO 8859-1 and of XML, and the byte that each denotes.
 #ifndef OSTREL_TESTS_SUPPORT_REFERENCE_NAMES_H
 #define OSTREL_TESTS_SUPPORT_REFERENCE_NAMES_H
 

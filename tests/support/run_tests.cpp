@@ -14,8 +14,8 @@ namespace {
 constexpr int kFailed = 1;
 constexpr int kSkipped = 77;
 
-// Counts remember how many tests there were. They are counted by a listener, which a program that only lists
-// its tests does not call.
+// Counts derives the exit status from the numbers of tests. It is a listener because a program that only lists its
+// tests does not call listeners.
 class Counts : public testing::EmptyTestEventListener {
  public:
     [[nodiscard]] int status() const { return status_; }
@@ -38,7 +38,7 @@ class Counts : public testing::EmptyTestEventListener {
     int status_ = 0;
 };
 
-// Swap puts another stream in the place of standard output when a failure is told.
+// Swap exchanges standard output for another stream when a failure is reported.
 class Swap : public testing::EmptyTestEventListener {
  public:
     explicit Swap(std::FILE*& other) : other_(other) {}
@@ -49,14 +49,14 @@ class Swap : public testing::EmptyTestEventListener {
     std::FILE*& other_;
 };
 
-// print_failures_where_they_are_seen prints failures to the original standard output even during a capture. In the
-// capture they would be lost, and would be judged as output of the check.
+// print_failures_where_they_are_seen prints failures to the original standard output even during a capture, which
+// would hide them and judge them as output of the check.
 void print_failures_where_they_are_seen(testing::TestEventListeners& listeners)
 {
     static std::FILE* other = stdout;
     testing::TestEventListener* const printer = listeners.Release(listeners.default_result_printer());
     if (printer == nullptr) return;
-    // Listeners are told of a failure in this order; the last one undoes what the first one does.
+    // Listeners are notified of a failure in this order; the last one undoes the swap of the first.
     listeners.Append(new Swap(other));
     listeners.Append(printer);
     listeners.Append(new Swap(other));

@@ -1,11 +1,11 @@
-// run_tests: what the main of every test program ends with.
+// run_tests: the last call of every test program's main.
 #ifndef OSTREL_TESTS_SUPPORT_RUN_TESTS_H
 #define OSTREL_TESTS_SUPPORT_RUN_TESTS_H
 
 namespace ostrel::tests {
 
-// run_tests runs them and returns the exit status: 1 if a test failed or there was none to run. 77, which ctest
-// is told to count as skipped, where one was skipped; where the environment has CI set, that is a failure.
+// run_tests runs the tests and returns the exit status: 1 if a test failed or none ran; 77, which ctest is configured
+// to count as skipped, if a test was skipped. If the environment sets CI, a skipped test is a failure.
 int run_tests();
 
 }  // namespace ostrel::tests

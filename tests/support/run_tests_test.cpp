@@ -1,4 +1,4 @@
-// run_tests in a process of its own: what a program with such tests ends with, by whether CI is set.
+// Runs run_tests in a separate process and checks the exit status, with and without CI set.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -32,7 +32,7 @@ TEST(Sample, DISABLED_FailsInACapture)
     EXPECT_EQ("before after", captured) << "the capture holds more";
 }
 
-// run_samples runs those of the samples whose names match.
+// run_samples runs the samples whose names match.
 ChildEnd run_samples(const std::string& samples, const char* ci)
 {
     return run_in_child(std::chrono::seconds(60), [&] {

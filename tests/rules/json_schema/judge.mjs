@@ -1,5 +1,5 @@
-// Judges texts with ajv: node judge.mjs FILE, where the file has the schema and, for each definition, texts with what
-// is expected. Writes each difference as a line of JSON.
+// Judges texts with ajv: node judge.mjs FILE. The file contains the schema and, for each definition, texts with their
+// expected verdicts. Prints each difference as a line of JSON.
 import { readFileSync } from "node:fs";
 import Ajv2020 from "ajv/dist/2020.js";
 
