@@ -1,4 +1,4 @@
-"""The interface of the library is the committed one, and a change of it would not go unseen.
+"""The interface of the library matches the committed one, and a change would be detected.
 
 usage: abi_test.py LIBRARY SOURCE_DIR
 """
@@ -14,7 +14,7 @@ import unittest
 
 class Abi(unittest.TestCase):
     def setUp(self):
-        """A tree that holds what scripts/abi looks at, so that the baseline can be another one."""
+        """Copies the files that scripts/abi reads into a temporary tree, where a test can change the baseline."""
         self.tree = pathlib.Path(tempfile.mkdtemp())
         self.addCleanup(shutil.rmtree, self.tree)
         for name in ("scripts/abi", "abi/ostrel_check.abi"):

@@ -1,5 +1,4 @@
-// The export list, the public headers, the catalogue and the library that is loaded: all name the same
-// things.
+// The export list, the public headers, the catalogue and the loaded library all name the same functions and data.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -60,7 +59,7 @@ std::vector<std::string> catalogue_names()
     return names;
 }
 
-// public_headers returns the paths as hosts write them, without api.h, which declares nothing.
+// public_headers returns the paths as hosts include them, without api.h, which declares nothing.
 std::vector<std::string> public_headers()
 {
     const std::filesystem::path root = OSTREL_SOURCE_DIR "/include";
@@ -86,7 +85,7 @@ std::vector<std::string> declared_names()
     return names;
 }
 
-// differences returns what occurs more often in one list than in the other, so that a failure is short.
+// differences returns the names that occur more often in one list than in the other, to keep failure messages short.
 std::vector<std::string> differences(const std::vector<std::string>& a, const std::vector<std::string>& b)
 {
     const std::multiset<std::string> sorted_a(a.begin(), a.end());
@@ -124,7 +123,7 @@ TEST(Exports, TheHeadersDeclareWhatIsListed)
     EXPECT_EQ(std::vector<std::string>(), differences(listed_names(), declared_names()));
 }
 
-// Headers in folders are included by the header of that name.
+// The header with a folder's name includes the headers in that folder.
 TEST(Exports, CheckHeaderIncludesEveryOther)
 {
     const std::string include = OSTREL_SOURCE_DIR "/include/";
@@ -146,7 +145,7 @@ TEST(Exports, EachEntryIsTheFunctionOfItsName)
     EXPECT_EQ(static_cast<const void*>(ostrel_ctype), dlsym(RTLD_DEFAULT, "ostrel_ctype"));
 }
 
-// Every name comes from the library's file, and from the variant's when a variant is asked for.
+// Every name comes from the library's file, or from the variant's file if LD_LIBRARY_PATH selects a variant.
 TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
 {
     const char* asked_for = std::getenv("LD_LIBRARY_PATH");  // NOLINT(concurrency-mt-unsafe)
@@ -164,7 +163,7 @@ TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
     dlclose(library);
 }
 
-// What a refusal is called, and what that means.
+// The name of each result code and its meaning.
 TEST(ResultCodes, HaveTheNamesOfTheHeaderAndAMeaning)
 {
     const std::string header = contents(OSTREL_SOURCE_DIR "/include/ostrel/result_code.h");

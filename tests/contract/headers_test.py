@@ -1,4 +1,4 @@
-"""Each public header compiles alone and twice over, as C90 and as C++, with every compiler given.
+"""Each public header compiles alone and when included twice, as C90 and as C++, with every compiler given.
 
 usage: headers_test.py SOURCE_DIR COMPILER...
 
@@ -23,7 +23,7 @@ def compile_text(compiler, standard, language, text):
 
 class Headers(unittest.TestCase):
     def compile_each(self, headers, text, is_accepted):
-        """compile_each compiles the text, with each header in place of %s, every way there is."""
+        """compile_each compiles the text with each header in place of %s, for every compiler and standard."""
         for compiler in COMPILERS:
             is_cpp = compiler.endswith("++")
             for standard in CPP_STANDARDS if is_cpp else C_STANDARDS:
@@ -41,7 +41,7 @@ class Headers(unittest.TestCase):
         self.compile_each(HEADERS, "#include <%s>\n#include <%s>\nextern int ostrel_test_unit;\n", True)
 
     def test_a_fault_is_seen(self):
-        """Otherwise the test above would pass with any header."""
+        """Without this check, the test above could accept any header."""
         self.compile_each(HEADERS[:1], "#include <%s>\n;;int f(void) { return undeclared; }\n", False)
 
     def test_line_comments_are_seen(self):

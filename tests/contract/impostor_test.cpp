@@ -1,5 +1,5 @@
-// A host that defines functions of the library's own names, as hosts do: calls inside the library stay
-// inside.
+// A host that defines functions with the library's names, as real hosts do: calls inside the library still reach the
+// library's own functions.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ int impostor_answer()
 
 }  // namespace
 
-// The host's functions. Each answers what no function of the library does.
+// The host's functions. Each returns a value that no function of the library returns.
 int ValidateString(int /*min_len*/, int /*max_len*/, const char* /*charset*/, const char* /*value*/)
 {
     return impostor_answer();
@@ -47,7 +47,7 @@ extern "C" __attribute__((visibility("default"))) int ValidateURL(const char* /*
 {
     return impostor_answer();
 }
-// The host's table knows no digit and no letter.
+// The host's table classifies no byte as a digit or a letter.
 const unsigned char ostrel_ctype[256] = {};
 
 namespace ostrel::tests {

@@ -1,5 +1,5 @@
-// Hostile values through every text argument of every function, each against an unreadable page, with a limit
-// of time: no crash, no run beyond the value, no answer that the catalogue does not list, linear time.
+// Passes hostile values in every text argument of every function, each next to an unreadable page, with a time limit:
+// no crash, no access beyond the value, no answer that the catalogue does not list, linear time.
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ namespace {
 
 constexpr std::size_t kShort = std::size_t{1} << 12;
 
-// long_size is a megabyte, or what OSTREL_LONGEST_TEXT in the environment says.
+// long_size returns OSTREL_LONGEST_TEXT from the environment, or a megabyte if it is not set.
 std::size_t long_size()
 {
     const char* limit = std::getenv("OSTREL_LONGEST_TEXT");  // NOLINT(concurrency-mt-unsafe)
@@ -66,8 +66,7 @@ const std::vector<std::string>& hostile_texts()
     return texts;
 }
 
-// try_all calls the function with the text in each text argument in turn, and returns how many answers are not
-// listed.
+// try_all calls the function with the text in each text argument in turn, and returns the number of unlisted answers.
 int try_all(const Function& function, const std::string& text, std::array<Caller, 2>& callers)
 {
     int unlisted = 0;
@@ -92,7 +91,7 @@ class Misuse : public testing::TestWithParam<const Function*> {};
 TEST_P(Misuse, HostileValuesInEveryTextArgument)
 {
     const Function& function = *GetParam();
-    const std::vector<std::string>& texts = hostile_texts();  // made once, before the first child
+    const std::vector<std::string>& texts = hostile_texts();  // built once, before the first child
     const ChildEnd end = run_in_child(kLimit, [&] {
         if (std::freopen("/dev/null", "w", stdout) == nullptr) return 2;
         std::array<Caller, 2> callers = {Caller(Edge::kEnd), Caller(Edge::kBegin)};

@@ -1,4 +1,4 @@
-"""Whoever knows one path of a function knows all: its module has the same path in every tree.
+"""The module of a function has the same path in every tree.
 
 usage: paths_test.py SOURCE_DIR VECTORS_TEST OSTREL_CHECK
 """
@@ -12,7 +12,7 @@ import unittest
 
 SOURCE = pathlib.Path(sys.argv[1])
 TESTS, TOOL = sys.argv[2:]
-# A table of data, which is neither called nor described.
+# A data table: it cannot be called and has no description.
 TABLE = "ostrel_ctype"
 
 NAMES = re.findall(r"^    (\w+);$", (SOURCE / "abi/exports.map").read_text(), re.MULTILINE)

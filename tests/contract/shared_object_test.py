@@ -1,9 +1,9 @@
-"""What the finished file is made of, read with readelf.
+"""Checks the contents of the finished shared object with readelf.
 
 usage: shared_object_test.py LIBRARY EMPTY SOURCE_DIR [READELF]
 
-EMPTY is a library without any code of its own, made by the same compiler and link options: whatever is in
-it as well comes from the start-up files and is not held against LIBRARY.
+EMPTY is a library without code, built with the same compiler and link options: anything that it also contains comes
+from the start-up files and is allowed in LIBRARY.
 """
 
 import collections
@@ -28,7 +28,7 @@ def read(*arguments):
 
 
 def plain(name):
-    """plain drops the version that the C library's names carry."""
+    """plain removes the version suffix of the C library's names."""
     return name.split("@")[0]
 
 
@@ -38,7 +38,7 @@ def dynamic_symbols(path):
         columns = line.split()
         if len(columns) < 8 or not re.fullmatch(r"\d+:", columns[0]):
             continue
-        # Some targets list where a section begins.
+        # Some targets list section symbols.
         if columns[3] == "SECTION":
             continue
         symbols.append(Symbol(columns[7], columns[3], columns[4], columns[5], columns[6] != "UND"))
@@ -51,7 +51,7 @@ def relocations(path):
         columns = line.split()
         if len(columns) < 3 or not columns[2].startswith("R_"):
             continue
-        # Without a symbol the fourth column is the addend alone.
+        # Without a symbol, the fourth column contains the addend alone.
         found.append(Relocation(columns[2], plain(columns[4]) if len(columns) > 4 else ""))
     return found
 
@@ -128,10 +128,10 @@ class SharedObject(unittest.TestCase):
         self.assertEqual([], [name for name in names if name.startswith("_Z")])
 
     def test_no_writable_data_of_its_own(self):
-        """A section may hold what it holds in the empty library, and nothing else."""
+        """A writable section must be as large as it is in the empty library."""
         empty = sections(EMPTY)
         for name, (flags, size) in sections(LIBRARY).items():
-            # The linker's own: filled while loading, and read-only from then on.
+            # The linker's own sections: the loader fills them and makes them read-only.
             if "W" not in flags or name in (".dynamic", ".got", ".got.plt"):
                 continue
             if name in (".got2", ".plt") and "PowerPC" in self.header:
@@ -145,7 +145,7 @@ class SharedObject(unittest.TestCase):
         self.assertNotRegex(self.segments, r"^\s+TLS\s")
 
     def test_no_relocation_of_its_own(self):
-        """Imports need a relocation each; of others there are as many as in the empty library."""
+        """Each import needs a relocation; the number of others equals that of the empty library."""
         allowed = set(self.listed_imports)
         of_start_up_files = relocations(EMPTY)
         own = collections.Counter()
@@ -153,7 +153,7 @@ class SharedObject(unittest.TestCase):
             if relocation.symbol:
                 if relocation in of_start_up_files:
                     continue
-                # RISC-V and PowerPC have one kind for all addresses of symbols.
+                # RISC-V and PowerPC use one kind for all symbol addresses.
                 self.assertRegex(relocation.kind, r"_(JU?MP_SLOT?|GLOB_DAT?)$|^R_(RISCV_64|PPC_ADDR32)$", relocation)
                 self.assertIn(relocation.symbol, allowed)
             else:
@@ -161,7 +161,7 @@ class SharedObject(unittest.TestCase):
         allowed_own = collections.Counter(
             relocation.kind for relocation in of_start_up_files if not relocation.symbol)
         if "PowerPC" in self.header:
-            # With 32 bits it addresses what lies beside the code through a table of addresses.
+            # 32-bit PowerPC reaches data outside the code through a table of addresses.
             allowed_own["R_PPC_RELATIVE"] = own["R_PPC_RELATIVE"]
         self.assertEqual(allowed_own, own)
 
@@ -177,7 +177,7 @@ class SharedObject(unittest.TestCase):
         self.assertRegex(self.segments, r"(?m)^\s+GNU_RELRO\s")
 
     def test_no_floating_point(self):
-        """On MIPS each floating-point instruction shows itself by its name; one processor speaks for all."""
+        """On MIPS, each floating-point instruction has a distinct name; one processor is representative of all."""
         if "MIPS" not in self.header:
             return
         code = subprocess.run([READELF.replace("readelf", "objdump"), "--disassemble", "--no-show-raw-insn", LIBRARY],
@@ -195,13 +195,13 @@ class SharedObject(unittest.TestCase):
 
     def test_every_loader_finds_its_hash_table(self):
         self.assertIn("(HASH)", self.dynamic)
-        # On MIPS the GNU table has a form of its own, which no loader needs.
+        # On MIPS, the GNU table has a different form, which no loader needs.
         self.assertEqual("MIPS" not in self.header, "(GNU_HASH)" in self.dynamic)
         self.assertNotIn("XHASH", self.dynamic)
 
     def test_the_empty_library_is_empty(self):
-        """Whatever it held would be overlooked above."""
-        # musl's start-up files show two names, which the export list hides.
+        """The tests above would ignore any symbol of its own."""
+        # musl's start-up files define two names, which the export list hides.
         names = {plain(symbol.name) for symbol in dynamic_symbols(EMPTY) if symbol.name} - {"_init", "_fini"}
         self.assertEqual(set(), {name for name in names if not STARTUP_SYMBOLS.fullmatch(name)})
 

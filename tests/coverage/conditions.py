@@ -1,7 +1,7 @@
-"""Says which conditions of src/ no test has seen to decide: llvm-cov export … | conditions.py
+"""Lists the conditions of src/ that no test has shown to decide: llvm-cov export … | conditions.py
 
-A condition decides where two calls differ in it, no other that was evaluated differs, and the decision does. What is
-not shown must be listed in mcdc.txt with the reason why no call can show it, and nothing else may be listed there.
+A condition decides if two calls differ in it and in the decision, but in no other evaluated condition. A condition that
+is not shown must be listed in mcdc.txt with the reason why no call can show it, and mcdc.txt may list no other.
 """
 
 import json
@@ -20,7 +20,7 @@ NAMED = {"file": "file", "line": "line", "condition": "text"}
 
 class Condition(NamedTuple):
     file: str
-    number: int  # of the line where it begins
+    number: int  # of the line on which it begins
     line: str    # the text of that line, without indentation and comments
     text: str
     shown: bool
@@ -42,7 +42,7 @@ class Source:
         return Condition(self.file, first, self.rows[first - 1].strip(), " ".join(" ".join(rows).split()), shown)
 
     def operators(self):
-        """operators returns the place of each operator that makes conditions of its operands."""
+        """operators returns the position of each operator whose operands are conditions."""
         for token in tokens(self.code):
             if token.text in ("&&", "||"):
                 line = self.code.count("\n", 0, token.offset) + 1
@@ -55,9 +55,9 @@ def within(place, decision):
 
 
 def conditions(exported, root):
-    """conditions returns those of each decision; a template has its decisions once for each set of arguments.
+    """conditions returns the conditions of each decision; a template has its decisions once per set of arguments.
 
-    The compiler leaves out what it cannot judge, such as one decision inside another. Of these, each operator is
+    The compiler omits decisions that it cannot judge, such as one inside another. For these, each operator is
     returned as a condition that is not shown.
     """
     files = {pathlib.Path(file["filename"]).resolve(): file for file in exported["data"][0]["files"]}
@@ -79,7 +79,7 @@ def conditions(exported, root):
 
 
 def report(found, path):
-    """report prints what is wrong and returns whether nothing is."""
+    """report prints the faults and returns whether there are none."""
     missing = {condition for condition in found if not condition.shown}
     listed = Listed(path, missing, NAMED)
     wrong = ["%s:%d: not seen to decide: %s\n    %s" %

@@ -1,4 +1,4 @@
-"""What fails the gate of the conditions, and what passes it."""
+"""Inputs that pass the gate of the conditions, and inputs that fail it."""
 
 import contextlib
 import io
@@ -16,7 +16,7 @@ ENTRY = "file: src/a.cpp\nline: %s\ncondition: %s\nwhy: so it is\n"
 
 class Gate(unittest.TestCase):
     def judge(self, shown, listed, decisions=1):
-        """judge returns whether the gate is passed, and what is printed."""
+        """judge returns whether the gate passes, and its output."""
         with tempfile.TemporaryDirectory() as folder:
             root = pathlib.Path(folder).resolve()
             (root / "src").mkdir()

@@ -1,5 +1,5 @@
-// Goes into the library that counts what is executed: a child that ends by a signal, or that never returns,
-// still leaves its counts.
+// Linked into the library that counts executed code: a child that ends by a signal, or that never returns, still
+// writes its counts.
 
 #ifdef __clang__
 extern "C" int __llvm_profile_write_file();
@@ -33,7 +33,7 @@ void dump(int signal_number)
     std::raise(signal_number);
 }
 
-// The tests allow a call that never returns 300 ms. A third of that is enough to get into its loop.
+// The tests give a call that never returns 300 ms. It reaches its loop in a third of that.
 void start_timer()
 {
     const itimerval once = {{0, 0}, {0, 100000}};

@@ -2,7 +2,7 @@
 
 #include <string.h>
 
-/* The union converts a pointer to an object to a pointer to a function, which C90 does not forbid. */
+/* function converts an object pointer to a function pointer, for which C90 has no cast. */
 union function {
     void* address;
     int (*p)(char*);

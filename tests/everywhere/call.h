@@ -2,7 +2,7 @@
 #ifndef OSTREL_TESTS_EVERYWHERE_CALL_H
 #define OSTREL_TESTS_EVERYWHERE_CALL_H
 
-/* Value is an argument of a call, as one of the three. */
+/* Value is an argument of a call; one of the members is used. */
 struct value {
     char* pointer;
     int integer;

@@ -1,4 +1,4 @@
-"""What scripts/footprint writes, with invented figures.
+"""Tests the output of scripts/footprint with invented figures.
 
 usage: footprint_test.py SOURCE_DIR
 """

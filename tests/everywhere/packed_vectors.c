@@ -22,7 +22,7 @@ static unsigned long number_from(const unsigned char** from)
            (unsigned long)bytes[3] << 24;
 }
 
-/* signed_number reads 32 bits whatever the width of long. */
+/* signed_number interprets 32 bits as a signed number, for any width of long. */
 static long signed_number(unsigned long number)
 {
     return number > 0x7FFFFFFFUL ? -(long)(0xFFFFFFFFUL - number) - 1 : (long)number;
@@ -85,7 +85,7 @@ char* write_text(const struct text* text, char* to)
         const size_t total = times * length;
         size_t made = total < length ? total : length;
         memcpy(to, from, made);
-        /* Doubling, because copying single bytes is slow under emulation. */
+        /* Doubles the copied size each time because copying single bytes is slow under emulation. */
         while (made < total) {
             const size_t more = made < total - made ? made : total - made;
             memcpy(to + made, to, more);
@@ -117,7 +117,7 @@ unsigned long open_rows(const char* path)
     return number_from(&at);
 }
 
-/* read_texts returns the first of them. */
+/* read_texts returns the first of the texts. */
 static struct text read_texts(unsigned long count)
 {
     struct text first = {NULL, 0};

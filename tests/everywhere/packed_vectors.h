@@ -6,13 +6,13 @@
 
 #define MOST_ARGUMENTS 4
 
-/* Text is the place of a text in the file. The empty text has no parts. */
+/* Text refers to a text in the file. The empty text has no parts. */
 struct text {
     const unsigned char* parts;
     unsigned long count;
 };
 
-/* Argument is as pack_vectors.cpp describes it. */
+/* Argument corresponds to an argument in pack_vectors.cpp. */
 struct argument {
     unsigned long size; /* of the memory for the number or for each text; 0 for NULL */
     unsigned long number;
@@ -34,13 +34,13 @@ struct row {
     struct argument arguments[MOST_ARGUMENTS];
 };
 
-/* open_rows reads the whole file and returns the number of rows, or ends the program. */
+/* open_rows reads the whole file and returns the number of rows; it exits if that fails. */
 unsigned long open_rows(const char* path);
 
-/* next_row reads a row. */
+/* next_row reads the next row. */
 void next_row(struct row* row);
 
-/* next_text returns the text after this one, of several. */
+/* next_text returns the text that follows this one. */
 struct text next_text(const struct text* text);
 
 /* text_length returns the number of bytes without a terminator. */

@@ -2,8 +2,8 @@
 
    usage: packed_vectors_test LIBRARY VECTORS
 
-   Each row is run twice, with each argument ending, and with each argument beginning, at an unreadable page. The
-   last line is "N rows, N failed". */
+   Each row runs twice: once with each argument ending at an unreadable page, once with each argument beginning at
+   one. The last line is "N rows, N failed". */
 #define _GNU_SOURCE
 #include <dlfcn.h>
 #include <signal.h>
@@ -17,7 +17,7 @@
 #include "call.h"
 #include "packed_vectors.h"
 
-/* More than any row needs. Unused pages cost nothing. */
+/* These sizes exceed the need of any row. Unused pages cost nothing. */
 #define AREA ((size_t)17 << 20)
 #define PRINTS ((size_t)34 << 20)
 
@@ -107,7 +107,7 @@ static size_t file_size(int file)
     return (size_t)status.st_size;
 }
 
-/* differ_printed empties the file for the next row. */
+/* differ_printed compares the printed text, and empties the file for the next row. */
 static int differ_printed(const char* what, int file, const struct text* text)
 {
     const size_t size = file_size(file);
@@ -227,6 +227,6 @@ int main(int argc, char** argv)
         }
     }
     fprintf(report, "%lu rows, %lu failed\n", run_rows, failed);
-    /* Without a row, nothing is proved. */
+    /* A run without rows proves nothing. */
     return failed > 0 || run_rows == 0 || fclose(report) != 0;
 }
