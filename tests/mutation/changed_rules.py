@@ -1,4 +1,4 @@
-"""rules_test with changes to the descriptions: compiled, linked and run."""
+"""Compiles, links and runs rules_test with changed descriptions."""
 
 import concurrent.futures
 import os
@@ -17,7 +17,7 @@ SECONDS = 60
 UNCHANGED = 0
 QUICK = ["--gtest_break_on_failure", "--gtest_brief=1"]
 SHORT = {"OSTREL_LONGEST_TEXT": "9000"}
-# The tests that start processes. They take longer than all others together.
+# These tests start processes and take longer than all others together.
 SLOW = "Checks/NullTest.*"
 
 
@@ -43,7 +43,7 @@ class Workshop:
         program = self.folder / "rules_test"
         command = list(self.link)
         command[command.index("-o") + 1] = str(program)
-        # Before the archives, so that the linker takes nothing for this file from them.
+        # Objects precede the archives, otherwise the linker would take the unchanged file from an archive.
         command[command.index("-o") + 2:command.index("-o") + 2] = map(str, (made, *others))
         done = run(command, cwd=self.build.folder)
         if done.returncode != 0:
@@ -51,7 +51,7 @@ class Workshop:
         return program
 
     def main_of_each(self):
-        """main_of_each returns the object of a main function that runs the tests with each change in turn."""
+        """main_of_each returns the object with the main function that runs the tests with each change in turn."""
         if self.each is None:
             self.each = self.folder / "each.o"
             words = next(iter(self.build.commands.values()))
@@ -62,7 +62,7 @@ class Workshop:
 
     def with_all(self, file, text, numbered):
         """with_all builds the program with all of these mutants. It returns the program, the numbers of those that do
-        not compile, and of those that cannot be combined with others."""
+        not compile, and the numbers of those that cannot be combined with others."""
         left, kept, broken = dict(numbered), set(), []
         while True:
             source, others = with_all(text, left, kept)
@@ -73,7 +73,7 @@ class Workshop:
             told = re.findall(r"/%s:(\d+):\d+: +(error|required)" % pathlib.Path(file).name, errors)
             wrong = {owner[int(line)] for line, _ in told}
             if 0 in wrong:
-                # Something needs a constant that is a function now.
+                # Some code needs a constant, which is now a function.
                 named = set(re.findall(r"in expansion of macro '(\w+)'", errors)) - kept
                 if not named:
                     raise SystemExit(errors)
@@ -86,7 +86,7 @@ class Workshop:
         return dict(os.environ, OSTREL_TEST_FIRST=file.removeprefix("rules/").removesuffix(".cpp"), **more)
 
     def notices(self, program, file, more, *options):
-        """notices tells whether a test of the program fails."""
+        """notices returns whether a test of the program fails."""
         def limit():
             resource.setrlimit(resource.RLIMIT_CPU, (SECONDS, SECONDS))
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
@@ -96,7 +96,7 @@ class Workshop:
                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode != 0
 
     def noticed(self, program, file, numbers):
-        """noticed returns the numbers of the changes that a quick test notices, with short rows."""
+        """noticed returns the numbers of the changes that a quick test notices when it reads short rows only."""
         done = subprocess.run([str(program), *QUICK, "--gtest_filter=-" + SLOW], cwd=self.folder, text=True,
                               input="\n".join(map(str, [UNCHANGED, *numbers])), stdout=subprocess.PIPE,
                               stderr=subprocess.PIPE, check=False, env=self.environment(file, **SHORT))
@@ -117,7 +117,7 @@ class Workshop:
         yield from ((numbered[number], "killed" if number in noticed else "unknown") for number in [*tried, *others])
 
     def alone(self, mutant, text):
-        """alone judges a mutant in a build of its own, by each test and each row. The slow tests read no rows with long
+        """alone judges a mutant in a separate build, with each test and each row. The slow tests skip rows with long
         texts."""
         text = text[:mutant.offset] + mutant.replacement + text[mutant.end:]
         made, errors = self.compile(mutant.file, text)

@@ -20,7 +20,7 @@ EVALUATION = {"build", "character_references", "condition_words", "conditions", 
               "number_conditions", "operands", "register", "sentences", "set", "shared", "step_words",
               "text_conditions"}
 
-# Each word can be replaced by the other.
+# Either word of a pair can replace the other.
 PAIRS = [("below", "above"), ("shorter_than", "longer_than"), ("one_of", "none_of"), ("empty", "not_empty"),
          ("length_is", "length_not"), ("among", "not_among"), ("equal", "not_equal"), ("has_shape", "lacks_shape"),
          ("all_of", "any_of"), ("before_first", "before_last"), ("after_first", "after_last"),
@@ -77,7 +77,7 @@ def steps(found):
 
 
 def orders(found, text):
-    """orders swaps adjacent refusing steps, and leaves each of them out."""
+    """orders swaps adjacent refusing steps, and removes each of them."""
     every = list(steps(found))
     for (first, end), (second, last) in zip(every, every[1:]):
         one, other = (text[found[a].offset:found[b].end] for a, b in ((first, end), (second, last)))

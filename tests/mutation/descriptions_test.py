@@ -1,4 +1,4 @@
-"""What is changed in a description, and what is not."""
+"""Tests which parts of a description are changed."""
 
 import unittest
 

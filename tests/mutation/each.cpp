@@ -1,5 +1,5 @@
-// Runs the tests with each of the changes that are compiled into the program. A line of standard input is the number of
-// a change; the program prints that number, and 1 if a test failed or 0. The rows are read once, for all changes.
+// Runs the tests with each of the changes that are compiled into the program. Each line of standard input is the number
+// of a change; the program prints that number, then 1 if a test failed and 0 otherwise. It reads the rows only once.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

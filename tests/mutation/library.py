@@ -1,4 +1,4 @@
-"""The library with one changed file: compiled and linked."""
+"""Compiles and links the library with one changed file."""
 
 import json
 import pathlib
@@ -9,7 +9,7 @@ import subprocess
 
 LIBRARY = "libostrel_check.so"
 OBJECTS = "src/CMakeFiles/ostrel_check.dir/"
-# Precompiled, because reading these headers would take most of the time of each compilation.
+# The headers are precompiled because reading them would take most of the time of each compilation.
 PRELUDE = "".join("#include <%s>\n" % name for name in
                   ("cstddef", "cstdint", "cstdio", "cstdlib", "cstring", "string_view"))
 
@@ -19,7 +19,7 @@ def run(command, **options):
 
 
 class Build:
-    """Build knows how a build folder compiles the sources of one library, and how it links."""
+    """Build contains the commands with which a build folder compiles the sources of one library and links it."""
 
     def __init__(self, root, folder, objects):
         self.folder = folder
@@ -50,7 +50,7 @@ class Build:
 
 
 class Sources:
-    """Sources holds the library's files and which of them each one includes."""
+    """Sources contains the library's files and the includes of each."""
 
     def __init__(self, root):
         self.root = root
@@ -87,7 +87,7 @@ class Sources:
 
 
 class LibraryBuild(Build):
-    """LibraryBuild is the build of the library and of the tests that can notice a change in it."""
+    """LibraryBuild builds the library and the tests that can notice a change in it."""
 
     def __init__(self, folder, sources):
         super().__init__(sources.root, folder, OBJECTS)
@@ -98,7 +98,7 @@ class LibraryBuild(Build):
         return super().link_command(target) + (["-fuse-ld=gold"] if shutil.which("ld.gold") else [])
 
     def compiled_in(self, file):
-        """compiled_in returns the test programs that compile a source of the library themselves."""
+        """compiled_in returns the test programs that compile the source of the library themselves."""
         objects = self.folder.glob("tests/**/CMakeFiles/*.dir/__/__/%s.o" % file)
         names = {re.search(r"CMakeFiles/(\w+)\.dir/", str(path)).group(1) for path in objects}
         return sorted(name for name in names if name.endswith("_test") and (self.folder / "bin" / name).exists())
@@ -129,7 +129,7 @@ class Workshop:
         return output if done.returncode == 0 else None
 
     def make(self, file, text):
-        """make builds the library with the text in place of the file's. It returns "made", "same" where the object code
+        """make builds the library with the text in place of the file's. It returns "made", "same" if the object code
         does not change, or "broken"."""
         overlay = self.folder / "overlay"
         shutil.rmtree(overlay, ignore_errors=True)
@@ -160,7 +160,7 @@ class Workshop:
         return "made"
 
     def link(self, command, output, replaced):
-        """link returns whether it succeeds. A change may leave a symbol undefined."""
+        """link returns whether linking succeeds, since a change may leave a symbol undefined."""
         words = [replaced.get(word, word) for word in command]
         words[words.index("-o") + 1] = str(output)
         return run(words, cwd=self.build.folder).returncode == 0

@@ -1,4 +1,4 @@
-"""Lists of exceptions, each with the reason why it is one."""
+"""Lists of exceptions, each with its reason."""
 
 import fnmatch
 
@@ -6,7 +6,7 @@ OPTIONAL = ("in", "above")
 
 
 class Entry:
-    """Entry is a reason and what it applies to."""
+    """Entry is a reason and the items to which it applies."""
 
     def __init__(self, text, path, keys):
         self.values = {key: [] for key in (*keys, "why")}
@@ -25,7 +25,7 @@ class Entry:
                 raise SystemExit("%s: an entry has no %s: %s" % (path.name, needed, text))
 
     def covers(self, facts):
-        """covers returns whether the entry applies, and notes which of its lines did."""
+        """covers returns whether the entry applies, and records which of its lines matched."""
         facts = {key: "*" if "*" in self.values[key] else fact for key, fact in facts.items()
                  if self.values[key]}
         if any(fact not in self.values[key] for key, fact in facts.items()):
@@ -42,8 +42,8 @@ class Listed:
     """Listed are entries separated by empty lines; "#" begins a comment.
 
         file: src/support/text.cpp
-        in: the function, where the line's text is not enough
-        above: the text of the line above, where that is not enough either
+        in: the function, if the line's text is ambiguous
+        above: the text of the line above, if the function is ambiguous too
         line: the text of the source line
         why: the reason, one line or several
 
@@ -64,7 +64,7 @@ class Listed:
         return item in self.known
 
     def stale(self, patterns):
-        """stale returns the lines that fit no item any more."""
+        """stale returns the lines that no longer match any item."""
         return ["%s: %s: %s" % (entry.values["file"][0], *unused) for entry in self.entries
                 for unused in entry.unused()
                 if any(fnmatch.fnmatch(entry.values["file"][0], pattern) for pattern in patterns)]

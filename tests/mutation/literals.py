@@ -1,4 +1,4 @@
-"""The ways in which characters and texts are changed."""
+"""Mutators for characters and texts."""
 
 import re
 import zlib

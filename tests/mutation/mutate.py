@@ -32,8 +32,8 @@ def digest(data):
 
 
 class Results:
-    """Results stores the status of each mutant until its file changes. A mutant that survived is tried again when the
-    tests change."""
+    """Results stores the status of each mutant until its file changes. A surviving mutant is tried again if the tests
+    change."""
 
     def __init__(self, path, texts, programs):
         self.path = path
@@ -67,7 +67,7 @@ class Results:
 
 
 class Worker:
-    """Worker judges mutants in a process of its own."""
+    """Worker judges mutants in a separate process."""
 
     def __init__(self, suites, folder):
         self.suites = suites
@@ -77,7 +77,7 @@ class Worker:
 
     @staticmethod
     def hide_var():
-        """hide_var mounts an empty /var for this process alone, if it may, because a check writes a file there."""
+        """hide_var mounts an empty /var for this process alone, if permitted, because a check writes a file there."""
         libc = ctypes.CDLL(None, use_errno=True)
         new_mounts, private = 0x00020000, 0x44000
         if os.geteuid() == 0 and libc.unshare(new_mounts) == 0:
@@ -137,7 +137,7 @@ def arguments(command, what, folder):
 
 
 def folder_of(given, build, name):
-    """folder_of creates the folder for the work. A sample and a full run have different ones and can run at once."""
+    """folder_of creates the work folder. A sample and a full run use different ones and can run concurrently."""
     folder = (build if given.sample is not None else build.parent) / name
     folder.mkdir(parents=True, exist_ok=True)
     return folder

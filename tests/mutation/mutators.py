@@ -1,6 +1,6 @@
-"""The ways in which a source file is changed, one at a time.
+"""Mutators, each of which changes one place of a source file.
 
-Each mutator yields changes: the offset, the offset after the end, and the replacement.
+A mutator yields changes: the offset, the offset after the end, and the replacement.
 """
 
 import re
@@ -18,7 +18,7 @@ OPERATORS = {
 }
 UNARY = {"++": "--", "--": "++"}
 WORDS = {"true": "false", "false": "true", "nullptr": None, "__func__": '"nobody"'}
-# FUNCTION matches the name of a function that begins in the first column, or the empty name after one.
+# FUNCTION matches the name of a function that begins in the first column, or an empty name after the end of one.
 FUNCTION = re.compile(r"^(?:[a-z\[][^=;]*?(\w+)\(|\}\n|namespace)", re.MULTILINE)
 CODE = re.compile(r"OSTREL_[A-Z_]+$")
 CODES = ["OSTREL_VALID", "OSTREL_INVALID", "OSTREL_INVALID_VALUE", "OSTREL_OUT_OF_RANGE"]
@@ -26,7 +26,7 @@ NOT_CODES = {"OSTREL_MODEL", "OSTREL_ACCOUNT_REALM", "OSTREL_SETUP_REALM"}
 FLAGS = ["CT_UPPER", "CT_LOWER", "CT_DIGIT", "CT_CNTRL", "CT_PUNCT", "CT_SPACE", "CT_XLETTER", "CT_BLANK"]
 SETS = ["kDigits", "kAlnum", "kPppDigits", "kHexDigits", "kAsciiPrintable", "kLatin1Printable", "kIpv4",
         "kHost", "kUrl", "kHostPort", "kName", "kMail", "kDescription", "kDeviceName", "kRouterName", "kCisName"]
-# No statement that could be left out begins with one of these words.
+# A statement that begins with one of these words cannot be removed.
 DECLARING = {"const", "constexpr", "static", "using", "namespace", "struct", "class", "enum", "extern",
              "inline", "explicit", "public", "private", "protected", "template", "typedef", "auto", "bool",
              "char", "int", "unsigned", "signed", "long", "short", "void", "double", "float", "return", "if",
@@ -38,14 +38,14 @@ class Mutant(NamedTuple):
     offset: int
     end: int
     replacement: str
-    line: str      # the text of the line where it begins, without indentation and comments
-    change: str    # as shown to a reader: "27 -> 28", and "27 -> 28 #2" for the second such change in the line
+    line: str      # the text of the line on which it begins, without indentation and comments
+    change: str    # as displayed: "27 -> 28", and "27 -> 28 #2" for the second such change in the line
     number: int    # of the line
     function: str  # that contains it
     above: str     # the text of the nearest line above that is not only a comment
 
 
-# NAMED maps the keys of an entry in equivalent.txt to the fields that they are compared with.
+# NAMED maps the keys of an entry in equivalent.txt to the fields with which they are compared.
 NAMED = {"file": "file", "in": "function", "above": "above", "line": "line", "change": "change"}
 
 
@@ -104,7 +104,7 @@ def constants(found, text):
 
 
 def limits(found, text):
-    """limits changes one use of a named number that has several."""
+    """limits changes one use of a named number that is used several times."""
     named = re.findall(r"constexpr (?:int|unsigned|std::size_t) (k\w+) =", text)
     for name in named:
         uses = [token for token in found if token.kind == "name" and token.text == name]
@@ -147,7 +147,7 @@ def conditions(found, text):
             continue
         last = closing(found, i + 1)
         first = i + 2
-        for j in range(first, last):  # after what the statement declares
+        for j in range(first, last):  # skips what the statement declares
             if found[j].text == ";":
                 first = j + 1
         if is_comparison(found, first, last):

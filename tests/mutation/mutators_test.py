@@ -1,4 +1,4 @@
-"""What is changed in a source file, and what is not."""
+"""Tests which parts of a source file are changed."""
 
 import pathlib
 import sys

@@ -1,7 +1,7 @@
-"""One source file with all its changes: the program selects one of them when it runs.
+"""Generates one source file with all its changes, of which the program selects one at run time.
 
 A function gets a body for each change inside it. A check in a list, and a constant of a namespace, become functions
-that are called in their place.
+that are called instead.
 """
 
 import re
@@ -54,7 +54,7 @@ def checks(found, at, last):
 
 
 def constant(head, end):
-    """constant returns the constant that is defined there, in a list that is empty without one."""
+    """constant returns a list with the constant that is defined there, or an empty list."""
     at = first_of(head, "=[{(")
     if not head or head[0].text not in ("const", "constexpr") or at is None or \
             head[at].text == "(" and head[at + 1].kind != "string":
@@ -64,7 +64,7 @@ def constant(head, end):
 
 def regions(found):
     i = first = 0  # the current token, and the first one of its declaration
-    inside = []    # for each open bracket, whether it is that of a namespace
+    inside = []    # for each open bracket, whether it opens a namespace
     while i < len(found):
         text, head = found[i].text, found[first:i]
         if text in "([":
@@ -99,7 +99,7 @@ def with_all(text, numbered, kept):
 
     The constants in kept remain constants.
     """
-    # A static assertion would need the constants, which become functions.
+    # A static assertion needs constants, which become functions here.
     text = re.sub(r"static_assert\([^;]*;", lambda found: " " * len(found.group()), text)
     mutants_of = {region: [] for region in regions(tokens(text)) if region.name not in kept}
     others = []

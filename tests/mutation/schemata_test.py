@@ -1,4 +1,4 @@
-"""A file with all its changes, and what selects one of them."""
+"""Tests the file with all changes and the selection of one of them."""
 
 import re
 import unittest
@@ -42,7 +42,7 @@ class Schemata(unittest.TestCase):
         self.assertIn("{ return length >= kMost; }", cases.values())
         self.assertIn('return check("one", below(2));', cases.values())
         self.assertIn('return check("one", above(1));', cases.values())
-        # Without the cases, what is left is the text.
+        # Without the cases, the original text remains.
         plain = re.sub(r"\ncase \d+:\n//@.*?\n//@\nbreak;", "", source, flags=re.DOTALL)
         self.assertIn("default: { return length > kMost; }", plain)
         self.assertIn('default: return check("one", below(1));', plain)

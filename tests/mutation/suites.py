@@ -1,4 +1,4 @@
-"""The tests that judge a changed library, the most likely to notice first."""
+"""Selects the tests that judge a changed library, in descending order of their chance to notice the change."""
 
 import ctypes
 import os
@@ -10,14 +10,14 @@ import subprocess
 import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
-import vectors  # noqa: E402  it is there
+import vectors  # noqa: E402  (its folder must be known first)
 
 LIBC = ctypes.CDLL(None)
 DIE_WITH_PARENT = 1
 
-# Files whose test program has another name.
+# Files whose test program has a different name.
 PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test"}
-# This program compares times. A limit of processor time would make the clock coarse, and a busy machine can make the
+# This program compares times. A limit on processor time would make the clock coarse, and a busy machine can make the
 # program fail, so only repeated failures count.
 TIMED = {"subnets_test"}
 EVERY_VECTOR = ("vectors_test", "*")
@@ -48,7 +48,7 @@ class Suites:
         return programs
 
     def own(self, file):
-        """own returns the suites of the module, and of the modules in the same folder of src/."""
+        """own returns the suites of the module and of the modules in the same folder of src/."""
         module = pathlib.PurePath(file).relative_to("src").with_suffix("")
         names = [str(module), *(name for name in self.vectors if name.startswith(f"{module.parent}/"))]
         found = [("vectors_test", name + ".*") for name in names if name in self.vectors]
@@ -74,7 +74,7 @@ class Suites:
         return found
 
     def passes(self, suite, workshop, seconds, library=None):
-        """passes returns whether all tests pass within that much processor time."""
+        """passes returns whether all tests pass within that processor time."""
         tries = 3 if suite[0] in TIMED else 1
         return any(self.run(suite, workshop, seconds, library) for _ in range(tries))
 

@@ -18,7 +18,7 @@ class Token(NamedTuple):
     kind: str
     text: str
     offset: int
-    spaced: bool  # with white space on both sides, as the formatter writes operators of two operands
+    spaced: bool  # has white space on both sides, as the formatter writes binary operators
 
     @property
     def end(self):
@@ -26,13 +26,13 @@ class Token(NamedTuple):
 
 
 def without_directives(text):
-    """without_directives blanks preprocessor lines, which keeps offsets."""
+    """without_directives replaces preprocessor lines with blanks, which preserves offsets."""
     pattern = re.compile(r"^[ \t]*#(?:[^\n\\]|\\.|\\\n)*", re.MULTILINE)
     return pattern.sub(lambda found: re.sub(r"[^\n]", " ", found.group()), text)
 
 
 def without_comments(text):
-    """without_comments blanks comments, which keeps offsets."""
+    """without_comments replaces comments with blanks, which preserves offsets."""
     return PATTERN.sub(lambda found: re.sub(r"[^\n]", " ", found.group()) if found.lastgroup == "comment"
                        else found.group(), text)
 

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""compare_test.py OSTREL_CHECK SOURCE_DIR: every difference that "compare" tells is one, and "same" has no exception.
+"""compare_test.py OSTREL_CHECK SOURCE_DIR: every difference that "compare" reports is real, and "same" has no exception.
 
-The model's side is judged by standard.py, the gateway's by the library.
+standard.py judges values for the model, the library judges them for the gateway.
 """
 
 import json
@@ -22,7 +22,7 @@ def compare(path, *options):
 
 
 def judge(cases):
-    """judge returns the code of each call, or the reason why there is none."""
+    """judge returns the code of each call, or None if the call returned none."""
     lines = [json.dumps({"check": check, "args": args}) for check, args in cases]
     batch = subprocess.run([program, "batch", "--stream"], input="\n".join(lines) + "\n", capture_output=True,
                            text=True)
@@ -30,7 +30,7 @@ def judge(cases):
 
 
 def call_of(entry, value, others):
-    """call_of returns the arguments of a call, in the order of the check's."""
+    """call_of returns the check and the arguments of a call, in the order of the check's parameters."""
     given = [one for one in catalogue[entry["check"]] if not one.get("output_only")]
     args = []
     for one in given:
@@ -45,7 +45,7 @@ def call_of(entry, value, others):
     return entry["check"], args
 
 
-# Values of many forms, with which "same" is tried.
+# Values of many forms to test "same" with.
 TRIED = ["", "0", "1", "-1", "-2", "2", "4", "10", "1540", "1541", "65535", "65536", "2147483647", "true", "false",
          "a", "A", "Off", "None", "tcp", "TCP", "UDP", "2026-11-22T12:00:00", "2026-02-29T12:00:00",
          "2026-11-22T12:00:00.5Z", "192.168.1.1", "0.0.0.0", "255.255.255.255", "02:00:00:00:00:01", "a" * 8,

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""dumps_test.py OSTREL_CHECK SOURCE_DIR: counts of dumps in the summary, and dumps that are judged in parts."""
+"""dumps_test.py OSTREL_CHECK SOURCE_DIR: the summary's counts for dumps, and dumps that are judged in pieces."""
 
 import json
 import pathlib
@@ -23,7 +23,7 @@ COUNT = 100
 
 
 def matches(pattern, path):
-    """matches tells that a pattern of the map, which may spell an instance out, is for a path."""
+    """matches returns whether a pattern of the map, which may contain instance numbers, matches a path."""
     names, of_path = pattern.split("."), path.split(".")
     return len(names) == len(of_path) and all(
         one == other or (one == "{i}" and other.isdigit()) for one, other in zip(names, of_path))

@@ -1,4 +1,4 @@
-"""The same gateways as rows of CSV, as rows of JSON, and as trees of JSON."""
+"""Writes the same gateways as rows of CSV, as rows of JSON, and as trees of JSON."""
 
 import csv
 import io

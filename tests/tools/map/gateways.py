@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""gateways.py COUNT: writes the configurations of so many gateways as CSV, and the faults planted in them as JSON.
+"""gateways.py COUNT: writes the configurations of that many gateways as CSV, and the injected faults as JSON.
 
-As a module it makes the same gateways for tests, in any form.
+As a module, it generates the same gateways for tests, in any form.
 """
 
 import csv
@@ -141,7 +141,7 @@ def good_gateway(number):
     return {ROOT + path: value for path, value in gateway.items()}
 
 
-# A fault: a parameter, its bad value (None: it is left out), the check that notices, the argument at fault, the reason.
+# A fault: a parameter, its bad value (None: missing), the check that detects it, the argument at fault, the reason.
 FAULTS = [
     ("DeviceInfo.ProvisioningCode", "TLCO.GRP2", "PARAM_check_provisioning_code", "value_p", "wrong_length"),
     ("ManagementServer.URL", "https://acs.example.net/", "MGTSERVER_check_server_url", "value_p", "wrong_prefix"),

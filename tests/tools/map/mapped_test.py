@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""mapped_test.py OSTREL_CHECK SOURCE_DIR: dumps of gateways judged by a map."""
+"""mapped_test.py OSTREL_CHECK SOURCE_DIR: judges dumps of gateways with a map."""
 
 import json
 import pathlib
@@ -20,7 +20,7 @@ COUNT = 100
 
 
 def batch(text, *options, map_file=tr_098, code=None):
-    """batch judges a dump; it returns the results, what was counted, and the summary."""
+    """batch judges a dump and returns the results, the counts and the summary."""
     run = subprocess.run([program, "batch", "--json", "--map", map_file, *options], input=text, capture_output=True,
                          text=True)
     assert code is None or run.returncode == code, run.stderr
@@ -40,7 +40,7 @@ def place_of(result):
 
 
 def essence(results):
-    """essence is what no form of a dump may change."""
+    """essence returns the facts that must be the same for every form of a dump."""
     return sorted((one["gateway"], one["parameter"], one["check"], one["verdict"], one["code"] or 0,
                    json.dumps(one.get("reason"), sort_keys=True)) for one in results)
 
@@ -92,7 +92,7 @@ class Fleet(unittest.TestCase):
 
 
 class Rows(unittest.TestCase):
-    """Maps that a test writes for itself."""
+    """Maps that the test writes itself."""
 
     def judge(self, parameters, rows, *options, header="gateway,parameter,value"):
         with tempfile.NamedTemporaryFile("w", suffix=".json") as file:

@@ -1,4 +1,4 @@
-"""What a data model allows, read from a file of facts: a second witness for "ostrel-check compare"."""
+"""Judges which values a data model allows, from a file of facts: an independent check of "ostrel-check compare"."""
 
 import base64
 import binascii
@@ -11,7 +11,7 @@ BOUNDS = {"int": (-(2**31), 2**31 - 1), "unsignedInt": (0, 2**32 - 1)}
 
 
 class Facts:
-    """Facts is a row of such a file."""
+    """Facts is a row of a file of facts."""
 
     def __init__(self, row):
         self.type = row["type"].removeprefix("list of ")
@@ -22,14 +22,14 @@ class Facts:
             self.limits[name].append(limit.removeprefix(name + " "))
 
     def allows(self, value):
-        """allows tells whether the model allows a value."""
+        """allows returns whether the model allows a value."""
         if self.is_list:
             items = value.split(",") if value else []
             return self._within("list length", len(value)) and all(self._allows_item(item) for item in items)
         return self._allows_item(value)
 
     def has_form(self, value):
-        """has_form tells whether a value is written as one of the type, whatever the limits are."""
+        """has_form returns whether a value has the syntax of the type, regardless of its limits."""
         kind = self.type
         if kind in BOUNDS:
             return re.fullmatch(r"[+-]?[0-9]+", value) is not None
@@ -77,13 +77,13 @@ class Facts:
 
 
 def is_address(value):
-    """is_address tells an IPv4 address whose numbers have no leading zeros."""
+    """is_address returns whether a value is an IPv4 address without leading zeros."""
     parts = value.split(".")
     return len(parts) == 4 and all(re.fullmatch(r"0|[1-9][0-9]{0,2}", one) and int(one) < 256 for one in parts)
 
 
 def is_date_time(value):
-    """is_date_time tells a date and a time as XML Schema writes them."""
+    """is_date_time returns whether a value is a date and time in the syntax of XML Schema."""
     match = re.fullmatch(
         r"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d)(\.\d+)?(Z|[+-](0\d|1[0-3]):[0-5]\d|[+-]14:00)?", value)
     if match is None:
@@ -96,7 +96,7 @@ def is_date_time(value):
 
 
 def decoded(value):
-    """decoded returns the bytes of base64, or None."""
+    """decoded returns the bytes that a base64 text encodes, or None."""
     try:
         data = base64.b64decode(value, validate=True)
     except (binascii.Error, ValueError):

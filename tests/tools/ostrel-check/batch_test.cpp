@@ -122,7 +122,7 @@ TEST(Batch, EveryFormOfACaseInJson)
     struct CaseInJson {
         std::string_view line;
         const char* verdict;
-        const char* meaning;  // or "", where others choose the words
+        const char* meaning;  // or "" if a third party chooses the words
     };
     const std::vector<CaseInJson> forms = {
         {R"({"check": "PARAM_check_port", "args": ["80"]})", "accepted", "valid"},

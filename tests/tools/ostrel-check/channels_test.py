@@ -1,4 +1,4 @@
-"""--channels for a user who is not root, and where no mount namespace may be made.
+"""Tests --channels for a user who is not root, and on systems that forbid mount namespaces.
 
 usage: channels_test.py OSTREL_CHECK
 """
@@ -21,7 +21,7 @@ def run(*command, text=""):
 
 class Channels(unittest.TestCase):
     def setUp(self):
-        # Other users may not have access to the folder of the program.
+        # Other users may have no access to the program's folder.
         self.folder = tempfile.mkdtemp()
         self.addCleanup(shutil.rmtree, self.folder)
         os.chmod(self.folder, 0o755)
@@ -55,7 +55,7 @@ class Channels(unittest.TestCase):
             self.assertTrue(shown.stdout.endswith("3 cases: 3 accepted, 0 refused\n"), shown)
 
     def test_where_namespaces_are_forbidden_that_line_alone_is_not_judged(self):
-        # The system makes no user namespace for who is in another root.
+        # The kernel refuses a user namespace to a process with a changed root.
         if os.geteuid() != 0 or run("unshare", "-m", "true").returncode != 0:
             self.skipTest("needs root")
         root = os.path.join(self.folder, "root")

@@ -1,4 +1,4 @@
-"""Completion in bash and zsh, as shown to somebody who presses Tab.
+"""Completion in bash and zsh, as a user who presses Tab sees it.
 
 usage: completion_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -45,8 +45,8 @@ class Shell:
         os.write(self.terminal, keys.encode())
 
     def at_prompt(self, keys, wanted):
-        """at_prompt sends the keys and returns the output up to the prompt after what is wanted: keys that come before
-        the prompt go to the terminal, not to the shell."""
+        """at_prompt sends the keys and returns the output up to the prompt that follows the wanted text, since keys typed
+        before the prompt would go to the terminal instead of the shell."""
         self.shown = ""
         self.send(keys)
         end = time.monotonic() + self.LONGEST
@@ -59,7 +59,7 @@ class Shell:
 
     def completed(self, line):
         """completed returns the words of a line after Tab."""
-        # ^A goes to the beginning of the line. What is shown is the line of the command, and then its output.
+        # ^A moves to the beginning of the line. The terminal shows the command line, then its output.
         shown = self.at_prompt(line + "\t\x01show_words \n", "<<.*?>>")
         return re.search(r"(?s)<<(.*?)>>", shown)[1].replace("\r", "").strip("\n").split("\n")
 
@@ -69,7 +69,7 @@ class Shell:
 
 
 class Completion:
-    """Completion is what both shells do."""
+    """Completion tests what both shells have in common."""
 
     def setUp(self):
         self.folder = tempfile.mkdtemp()

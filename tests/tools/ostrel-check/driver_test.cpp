@@ -1,4 +1,4 @@
-// The check of the wireless channel, with an answer in the driver's place.
+// The check of the wireless channel, with a stand-in for the driver's answer.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ namespace {
 
 class Driver : public testing::Test {
  protected:
-    // Each test has a folder for temporary files of its own, so that it can see that none is left.
+    // Each test has a separate folder for temporary files, so it can detect leftovers.
     void SetUp() override
     {
         if (!calling::can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
@@ -38,7 +38,7 @@ class Driver : public testing::Test {
     }
 
  private:
-    std::string folder_ = "/tmp/ostrel driver.XXXXXX";  // a blank in its name does no harm
+    std::string folder_ = "/tmp/ostrel driver.XXXXXX";  // the blank must do no harm
 };
 
 TEST_F(Driver, ListsTheChannelsGiven)
@@ -71,7 +71,7 @@ TEST_F(Driver, AnswersABatchToo)
     EXPECT_EQ(-1, rows[1]["code"]);
 }
 
-// WithTool puts a shell script first on the path that is called wlctl.
+// WithTool installs a shell script named wlctl at the front of the PATH.
 class WithTool {
  public:
     explicit WithTool(std::string_view script)
@@ -117,7 +117,7 @@ TEST_F(Driver, ThatIsMissingDoesNotRefuseTheValue)
     EXPECT_EQ("no_driver_list", rows[0]["reason"]["id"]);
     EXPECT_EQ("the driver returned no list: wlctl was not found", rows[0]["reason"]["text"]);
     EXPECT_NE(std::string::npos, rows[0]["err"].get<std::string>().find("wlctl"));
-    EXPECT_EQ("refused", rows[1]["verdict"]);  // which needs no list
+    EXPECT_EQ("refused", rows[1]["verdict"]);  // this verdict needs no list
     EXPECT_EQ("accepted", rows[2]["verdict"]);
     EXPECT_EQ(1, rows[3]["summary"]["no_driver"]);
     const RunResult single = run({"WLAN_check_channel", "6", "RADIO_2.4GHz"});
@@ -136,7 +136,7 @@ TEST_F(Driver, ThatFailsDoesNotRefuseTheValue)
     EXPECT_EQ("no such device\n", rows[0]["err"]);
 }
 
-// A tool that says something and lists channels all the same has listed them.
+// A tool that prints a warning but also lists channels succeeds.
 TEST_F(Driver, MayGrumble)
 {
     const WithTool tool("#!/bin/sh\necho slow >&2\necho 1 6 11\n");
@@ -144,7 +144,7 @@ TEST_F(Driver, MayGrumble)
               run({"WLAN_check_channel", "6", "RADIO_2.4GHz"}));
 }
 
-// A tool that hangs leaves no list that a later call could take for the driver's.
+// A tool that hangs must leave no list that a later call could mistake for the driver's.
 TEST_F(Driver, MayHang)
 {
     const WithTool tool("#!/bin/sh\nsleep 60\n");
@@ -153,7 +153,7 @@ TEST_F(Driver, MayHang)
     EXPECT_EQ(3, run({"batch", "--limit-time", "0.3"}, "WLAN_check_channel 6 RADIO_2.4GHz\n").status);
 }
 
-// The file of one fixed name would mix the lists up if two processes ran the check at once.
+// Two processes that ran the check concurrently would mix up their lists in the file with the fixed name.
 TEST_F(Driver, IsAskedByOneProcessAtATime)
 {
     std::string input;

@@ -1,4 +1,4 @@
-// The examples are whole: every function is in them, and every line is a case.
+// The examples are complete: they cover every function, and every line is a case.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ TEST(Examples, JudgeEveryFunctionAndHoldGoodAndRefusedValues)
 {
     std::vector<std::string> arguments = {"batch", "--json"};
     for (const auto& entry : std::filesystem::directory_iterator(OSTREL_SOURCE_DIR "/examples")) {
-        // Scripts make cases and are none.
+        // Scripts generate cases but contain none.
         if (entry.is_regular_file() && entry.path().extension() != ".py") arguments.push_back(entry.path());
     }
     const RunResult outcome = run(arguments);

@@ -1,4 +1,4 @@
-"""Explanations of checks: explain, list and the reference, compared with the sources; and former mistakes.
+"""Compares explanations of checks (explain, list and the reference) with the sources, and tests former mistakes.
 
 usage: explain_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -12,7 +12,7 @@ import unittest
 
 LITERAL = r'"((?:[^"\\]|\\.)*)"'
 
-# Never printed; docs/decisions.md says why.
+# Never printed; docs/decisions.md explains why.
 NEVER_PRINTED = [
     r"Error in %s: Error dhcp lease time:%s\n\n",
     r"Error in %s: The value %s should be between [0,4296967296)\n",
@@ -26,7 +26,7 @@ def output_of(*words):
 
 
 def printed_by(text):
-    """printed_by returns the literals that a source file passes on to be printed."""
+    """printed_by returns the literals that a source file passes to printing functions."""
     text = re.sub(r'"\s*\n\s*"', "", text)
     for match in re.finditer(r"\b(?:refuse|inform|line|remark|fprintf)\([^;]*?" + LITERAL, text):
         yield match.group(1)
@@ -71,7 +71,7 @@ class Explained(unittest.TestCase):
         unprinted = set(literals)
         for line in explained:
             matching = {literal for literal in literals if as_pattern(literal).fullmatch(line)}
-            # A byte in the place of a ":" is printed alone.
+            # A byte that replaces a ":" is printed alone.
             self.assertTrue(matching or line == "<byte>", line)
             unprinted -= matching
         self.assertEqual(NEVER_PRINTED, sorted(unprinted))

@@ -1,8 +1,8 @@
-"""The values of a fleet: in each form, interrupted and resumed, and summed from pieces.
+"""Judges the values of a fleet: in each form, interrupted and resumed, and summed from pieces.
 
 usage: fleet_test.py OSTREL_CHECK SOURCE_DIR [ROWS]
 
-With a million rows or more it prints how many of each form were judged in a second, and with how much memory.
+With a million rows or more, it prints the rate and the memory use for each form.
 """
 
 import filecmp
@@ -19,7 +19,7 @@ import unittest
 
 PIECES = 8
 GATEWAY = 20  # values
-# Of the program and of its workers, each on its own, however many values there are.
+# The limit for the program and for each of its workers, independent of the number of values.
 MOST_MEMORY = 64 << 20
 
 FORMS = {"fleet.ndjson": "ndjson", "fleet.csv": "csv", "fleet-dump.csv": "csv", "fleet.json": "json"}
@@ -27,7 +27,7 @@ LINE = re.compile(rb'"line":\d+,')
 
 
 def without_line(result):
-    """without_line is a result without the number of its line, which depends on the form."""
+    """without_line returns a result without its line number, which depends on the form."""
     return LINE.sub(b"", result, count=1)
 
 
@@ -41,16 +41,16 @@ def options_of(name):
 
 
 def ends_row(name, line):
-    """ends_row tells that a row of a form ends with that line, or a gateway in nested JSON."""
+    """ends_row returns whether a row of a form, or a gateway in nested JSON, ends with that line."""
     if name == "fleet.json":
         return line.startswith(b"}")
-    return line.endswith(b"\r\n") or not name.endswith(".csv")  # a value of CSV may hold the other end
+    return line.endswith(b"\r\n") or not name.endswith(".csv")  # a CSV value may contain the other line end
 
 
 def write_pieces(name, whole, piece):
-    """write_pieces cuts a form after whole gateways and writes the pieces to files, the names of which it yields.
+    """write_pieces splits a form between gateways, writes the pieces to files and yields their names.
 
-    It keeps a line, for the memory of this process would count as that of the program.
+    It keeps one line at a time, since the memory of this process would count as the program's.
     """
     gateways = -(-ROWS // (PIECES * GATEWAY))
     is_tree = name == "fleet.json"
@@ -88,9 +88,9 @@ class Fleet(unittest.TestCase):
 
     @classmethod
     def judge(cls, name, *words):
-        """judge writes the results and the summary to files and returns the name of that of the results.
+        """judge writes the results and the summary to files and returns the name of the results file.
 
-        On a busy machine a worker may wait for its turn longer than a call may usually take.
+        On a busy machine, a worker may wait for the processor longer than the usual time limit of a call.
         """
         begin = time.monotonic()
         with open(cls.path(name), "wb") as results:
@@ -106,7 +106,7 @@ class Fleet(unittest.TestCase):
 
     @classmethod
     def summary(cls, name):
-        """summary is that of results, and what it says of dumps."""
+        """summary returns the summary of results without its member for dumps, and that member."""
         with open(cls.path(name + ".summary"), encoding="utf-8") as file:
             summary = json.load(file)
         return summary, summary.pop("map", None)
@@ -170,7 +170,7 @@ class Fleet(unittest.TestCase):
                 results.write(process.stdout.read(100))
                 if part < 3:
                     process.send_signal((signal.SIGINT, signal.SIGTERM)[part % 2])
-                # Not at once, for the memory of this process would count as that of the programs after it.
+                # Copied in pieces, since the memory of this process would count as that of the later programs.
                 shutil.copyfileobj(process.stdout, results)
                 err = process.stderr.read()
                 process.stdout.close()
@@ -195,7 +195,7 @@ class Fleet(unittest.TestCase):
         results = [self.judge(f"piece{i}", piece, *options_of(name), "--format", FORMS[name])
                    for i, piece in enumerate(pieces)]
         self.same(self.path(name + ".whole.summary"), self.summarise(*[result + ".summary" for result in results]))
-        # Lines are numbered in the piece.
+        # Line numbers are relative to the piece.
         with open(self.whole, "rb") as whole:
             for result in results:
                 with open(result, "rb") as part:

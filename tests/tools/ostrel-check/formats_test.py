@@ -1,4 +1,4 @@
-"""The formats that a batch reads: one text has one verdict in all of them.
+"""The formats that a batch reads: a text has the same verdict in each of them.
 
 usage: formats_test.py OSTREL_CHECK
 """
@@ -45,7 +45,7 @@ def in_rows(rows, delimiter):
 
 
 def write(form, cases):
-    """A file of that format, of pairs of a check and its one value."""
+    """A file of that format with pairs of a check and its only value."""
     if form == "words":
         return "".join(f"{check} {in_words(text)}\n" for check, text in cases)
     objects = [{"check": check, "args": [text]} for check, text in cases]
@@ -57,7 +57,7 @@ def write(form, cases):
 
 
 class OneText(unittest.TestCase):
-    """One text has one verdict, whatever the format."""
+    """A text has the same verdict in every format."""
 
     TEXTS = ("", "secret", "Straße", "日本", "naïve café", "a,b", 'a"b', '"', "a\tb", "a\nb", "a\r\nb", "#a", "{a}", "@null",
              "a\\b", "\\xE9", " a ", "é", "\x7f", "\x01", "\ufeff", "\u0080", "\u00ff", "0", "1.10", "'", "€" * 30, "ß" * 20,
@@ -128,7 +128,7 @@ class OneText(unittest.TestCase):
 
 
 class Malformed(unittest.TestCase):
-    """Malformed records are reported, and the rest is judged."""
+    """Malformed records are reported, and the others are judged."""
 
     def test_numbers_are_those_of_json(self):
         for token in ("01", "-01", "00", "1.", "-", "--1", "+1", ".5", "1.e1", "1e", "1e+", "1e1.5", "1.5.5", "0x1", "1 2",
@@ -287,7 +287,7 @@ class Json(unittest.TestCase):
 
 
 class Choice(unittest.TestCase):
-    """The format is that of the file's name, or of its first bytes."""
+    """The file's name or its first bytes determine the format."""
 
     def test_by_name_and_by_first_bytes(self):
         cases = [("PARAM_check_port", "1"), ("PARAM_check_bool_value", "x,y")]
@@ -317,7 +317,7 @@ class Choice(unittest.TestCase):
 
 
 class Large(unittest.TestCase):
-    """Records are cut out of chunks at any place, by any number of jobs."""
+    """Records may cross chunk boundaries anywhere, with any number of jobs."""
 
     @classmethod
     def setUpClass(cls):

@@ -1,4 +1,4 @@
-"""A batch that is interrupted, or that runs out of disk space, and resumes later.
+"""A batch that is interrupted or runs out of disk space, and resumes later.
 
 usage: interrupt_test.py OSTREL_CHECK
 """
@@ -152,7 +152,7 @@ class Interruption(Cases):
 
 class FullDisk(Cases):
     def assert_goes_on(self, output, *options, room):
-        """assert_goes_on has a file of limited size and compares both parts with the whole."""
+        """assert_goes_on runs a batch into a file of limited size, resumes it, and compares both parts with the whole."""
         with open(output, "wb") as file:
             full = subprocess.run([PROGRAM, "batch", *options, self.cases], stdout=file, stderr=subprocess.PIPE,
                                   check=False, preexec_fn=room)
@@ -162,7 +162,7 @@ class FullDisk(Cases):
         self.assertTrue(first.endswith(b"\n"))
         whole = batch(*options, self.cases).stdout
         rest = self.go_on(full.stderr, *options).stdout
-        if "--json" in options:  # the summary at the end is of the part
+        if "--json" in options:  # the summary at the end covers only its part
             whole, rest = (text[:text[:-1].rindex(b"\n")] for text in (whole, rest))
         self.assertTrue(whole == first + rest)
         return full.stderr

@@ -1,4 +1,4 @@
-"""The catalogue in JSON, the manual page, help, and a batch that is cut into pieces.
+"""The catalogue in JSON, the manual page, help, and a batch that is split into pieces.
 
 usage: pages_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -130,7 +130,7 @@ class Surroundings(unittest.TestCase):
 class Pieces(unittest.TestCase):
     @staticmethod
     def without_lines(text):
-        """A line is counted in its piece."""
+        """Removes line numbers, which are relative to the piece."""
         return re.sub(r'^{"line":[0-9]+,', "{", text, flags=re.MULTILINE)
 
     def test_parallel_results_are_those_of_one_run(self):

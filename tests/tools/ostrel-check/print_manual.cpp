@@ -1,4 +1,4 @@
-// Prints the lists of the manual page that say what can be given: the synopsis, or the options.
+// Prints a list of the manual page: the synopsis or the options.
 //
 //   print_manual synopsis|options
 
@@ -16,7 +16,7 @@ namespace {
 
 std::string in_small_letters(const std::string& text) { return CLI::detail::to_lower(text); }
 
-// argument_of is the type of an option in mdoc: its words, or a name for its value.
+// argument_of returns the type of an option in mdoc: its words, or a name for its value.
 std::string argument_of(const CLI::Option& option)
 {
     if (option.get_items_expected_max() == 0) return "";

@@ -1,4 +1,4 @@
-// Readers: a file of any bytes has the same records, however its bytes arrive.
+// Readers: a file of any bytes yields the same records for every division into chunks.
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ std::string shown(const Item& item)
            std::string(item.text);
 }
 
-// Reading of a file, as a supervisor and its worker do it.
+// FileReading reads a file as a supervisor and its worker do.
 class FileReading {
  public:
     FileReading(FileFormat format, const Reading& reading)
@@ -34,7 +34,7 @@ class FileReading {
     {
     }
 
-    // add has more bytes arrive; false: nothing more is read.
+    // add supplies more bytes and returns false if nothing more is read.
     bool add(std::string_view bytes, bool is_end)
     {
         rest_ += bytes;

@@ -11,7 +11,7 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[3] / "vectors"))
-import vectors  # noqa: E402  it is there
+import vectors  # noqa: E402  (its folder must be known first)
 
 
 def batch(lines, *options):

@@ -48,7 +48,7 @@ class Schema(unittest.TestCase):
     def test_of_the_conformance_vectors(self):
         files = [SOURCE / "vectors/wireless.ndjson", *sorted((SOURCE / "vectors/wlan_check").iterdir())]
         lines = "".join(path.read_text() for path in files)
-        # What the check is expected to print is in members that a result has too.
+        # A vector stores the expected output in members that a result also has.
         rows = [json.loads(line) for line in run(lines, "--json", "--channels", "1 6 11").splitlines()]
         for row in rows:
             self.validator.validate(row)

@@ -1,4 +1,4 @@
-// Runs ostrel-check as a user would.
+// Runs ostrel-check as a user does.
 #ifndef OSTREL_TESTS_RUN_H
 #define OSTREL_TESTS_RUN_H
 
@@ -11,7 +11,7 @@
 namespace ostrel::tool {
 
 struct RunResult {
-    int status = 0;  // 128 and the signal's number where a signal ended it
+    int status = 0;  // 128 plus the signal's number if a signal ended it
     std::string out;
     std::string err;
 
@@ -20,19 +20,19 @@ struct RunResult {
 
 void PrintTo(const RunResult& outcome, std::ostream* stream);
 
-// program is the path of ostrel-check: that of the build, or what OSTREL_CHECK in the environment says.
+// program returns the path of ostrel-check: OSTREL_CHECK in the environment, or the build's.
 std::string program();
 
-// run runs ostrel-check with those arguments and that standard input.
+// run runs ostrel-check with these arguments and this standard input.
 RunResult run(std::vector<std::string> arguments, std::string_view input = "");
 
-// run_batch runs the batch in JSON over that input, and reads each line; the last is the summary.
+// run_batch runs a batch with JSON results over the input and parses each line; the last one is the summary.
 std::vector<nlohmann::json> run_batch(std::string_view input, std::vector<std::string> options = {});
 
-// summary_of reads the table's last line.
+// summary_of returns the last line of the table.
 std::string summary_of(const RunResult& outcome);
 
-// File is a file that lasts as long as this does.
+// File is a file that its destructor removes.
 class File {
  public:
     explicit File(std::string_view text);

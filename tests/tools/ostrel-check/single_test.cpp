@@ -13,7 +13,7 @@ std::string usage_error(const std::string& problem)
     return "ostrel-check: " + problem + "\nostrel-check --help shows how to use it.\n";
 }
 
-// value_error is the message for values that a check does not take.
+// value_error returns the message for values that a check does not take.
 std::string value_error(const std::string& problem, const std::string& name)
 {
     return "ostrel-check: " + problem + "\nostrel-check explain " + name + " says what it takes.\n";

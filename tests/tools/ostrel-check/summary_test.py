@@ -110,7 +110,7 @@ class Sum(unittest.TestCase):
         return json.dumps({**json.loads(self.summary(self.row())), "map": dumps}) + "\n"
 
     def test_of_dumps_is_added_too(self):
-        """Of very many paths those are kept that come first by their bytes, whatever the order of the pieces."""
+        """Of very many paths, the first ones in byte order are kept, for any order of the pieces."""
         random.seed(2)
         pieces = []
         for _ in range(8):
@@ -137,7 +137,7 @@ class Sum(unittest.TestCase):
         self.assertIn(": it says nothing\n", text)
 
     def test_numbers_are_tokens(self):
-        """An id is a text as it is written, also where no double holds the number."""
+        """An id keeps its spelling, even if its number does not fit in a double."""
         lines = "".join(f'{{"id":{token},"check":"PARAM_check_port","args":["{i}00000"]}}\n'
                         for i, token in enumerate(("1.10", "1e999", "9" * 400, "-7"), 1))
         results = run("batch", "--stream", "--with-args", text=lines).stdout.splitlines(keepends=True)

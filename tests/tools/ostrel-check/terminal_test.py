@@ -21,9 +21,9 @@ COLOUR = re.compile(r"\x1b\[[0-9]*m")
 
 
 def at_terminal(*arguments, text=(), columns=80, keys=(), **environment):
-    """at_terminal runs the program at a terminal, types each of the keys when what belongs to it has appeared, and returns
-    its status and all that appears."""
-    # The program starts when the terminal has its width.
+    """at_terminal runs the program at a terminal, types each of the keys after its text has appeared, and returns the
+    status and the complete output."""
+    # The program starts after the terminal's width is set.
     start, starting = os.pipe()
     child, terminal = pty.fork()
     if child == 0:
@@ -216,7 +216,7 @@ class Waiting(unittest.TestCase):
         slow = ["PARAM_check_port 1\n", 1.6, "PARAM_check_port 70000\n", 60.0]
         status, shown = at_terminal("batch", text=slow, keys=[("between 0~65535", "\x03")])
         self.assertEqual(130, status)
-        # What the terminal shows after it has done what is written for it.
+        # The text that remains on the terminal after carriage returns and erasures.
         lines = [re.split(r"\r(?:\x1b\[K)?", line)[-1].replace("\x1b[K", "") for line in COLOUR.sub("", shown).split("\n")]
         self.assertEqual(["      1  accepted      0  PARAM_check_port 1",
                           "      2  refused     601  PARAM_check_port 70000",

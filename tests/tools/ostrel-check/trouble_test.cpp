@@ -1,4 +1,4 @@
-// Cases that end their process or do not return, readers that go away, and closed streams.
+// Cases that end their process or do not return, readers that exit, and closed streams.
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -67,7 +67,7 @@ TEST(Trouble, TableNamesTheCaseAndItsAssertion)
     EXPECT_EQ("8 cases: 2 accepted, 1 refused, 3 ended the process, 2 did not return\n", summary_of(outcome));
 }
 
-// What the description says of a value need not be waited for.
+// If the description predicts that a call never returns, the program does not wait for it.
 TEST(Trouble, ThatIsKnownNeedsNoCall)
 {
     std::string lines;
@@ -103,7 +103,7 @@ TEST(Trouble, OfManyCasesIsOvercome)
 int shell(const std::string& command)
 {
     setenv("CHECK", program().c_str(), 1);
-    // NOLINTNEXTLINE(bugprone-command-processor): pipelines are what is tested.
+    // NOLINTNEXTLINE(bugprone-command-processor): the test needs pipelines.
     const int status = std::system(("bash -c '" + command + "'").c_str());
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
 }
