@@ -1,4 +1,4 @@
-// The character-class table, entry by entry against the ranges that it is made of.
+// Compares each entry of the character-class table with the ranges that define it.
 
 #include <gtest/gtest.h>
 #include <ostrel/character_class.h>
@@ -30,7 +30,7 @@ constexpr std::array<Range, 23> kRanges = {{
     {0x67, 0x7A, 0x02},  // g to z
     {0x7B, 0x7E, 0x10},  // { to ~
     {0x7F, 0x7F, 0x08},  // delete
-    {0x80, 0x9F, 0x00},  // no class at all
+    {0x80, 0x9F, 0x00},  // no class
     {0xA0, 0xA0, 0xA0},  // no-break space: space, blank
     {0xA1, 0xBF, 0x10},  // signs
     {0xC0, 0xD6, 0x01},  // upper-case accented letters

@@ -1,4 +1,4 @@
-// The character sets: their exact sizes, and every byte through every text.
+// The character sets: their exact sizes, and every byte against every set.
 
 #include <gtest/gtest.h>
 #include <ostrel/character_sets.h>
@@ -66,7 +66,7 @@ TEST(CharacterSets, EveryByteThroughEveryText)
     }
 }
 
-// Each byte alone as a set admits itself and no other.
+// A set of one byte admits that byte and no other.
 TEST(CharacterSets, EveryByteAgainstEveryByte)
 {
     for (int member = 0x01; member <= 0xFF; ++member) {

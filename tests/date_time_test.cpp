@@ -1,4 +1,4 @@
-// Every day of four hundred years and every offset, by the calendar of the C++ library.
+// Compares every day of four hundred years with the calendar of the C++ library, and tests every offset.
 
 #include <gtest/gtest.h>
 #include <ostrel/date_time.h>
@@ -12,7 +12,7 @@ namespace ostrel::tests {
 
 namespace {
 
-// is_calendar_day leaves the calendar to the C++ library, and the missing lower bound to the first line.
+// is_calendar_day uses the calendar of the C++ library. The check has no lower bound for the day, hence the first line.
 bool is_calendar_day(int year, unsigned month, int day)
 {
     if (day < 1) return month >= 1 && month <= 12;
@@ -21,7 +21,7 @@ bool is_calendar_day(int year, unsigned month, int day)
         .ok();
 }
 
-// padded writes a number of at most that many digits with leading zeros.
+// padded returns the number with leading zeros; it must not have more than width digits.
 template <typename Number>
 std::string padded(Number number, std::size_t width)
 {
@@ -43,7 +43,7 @@ TEST(ValidateDay, EveryDayOfFourHundredYears)
     }
 }
 
-// A year below 0 is a leap year as one above 0 is.
+// The leap-year rule is the same for years below and above 0.
 TEST(ValidateDay, LeapDaysOfNegativeYears)
 {
     for (int year = -800; year <= 800; ++year) {
@@ -84,7 +84,7 @@ TEST(TcmValidateDaylightSavingsTime, EveryDayWithoutAYear)
     }
 }
 
-// There are as many offsets as there are hours and minutes, each of which is one.
+// Each hour and minute is an offset, and the number of accepted texts shows that there are no others.
 TEST(TcmValidateTimeZoneFormate, EverySixCharactersOfItsAlphabet)
 {
     for (const char* sign : {"+", "-"}) {

@@ -1,4 +1,4 @@
-// What the vectors cannot say of the generic checks: calls that never return.
+// Tests of the generic checks that the vectors cannot express: calls that never return.
 
 #include <gtest/gtest.h>
 #include <ostrel/parameter_check.h>
@@ -16,7 +16,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// The digit scan of these two looks at the first character for ever, and prints nothing meanwhile.
+// The digit scan of these two checks reads the first character forever without printing anything.
 TEST(ParameterCheckDigitScan, NeverReturnsForAValueThatBeginsWithADigit)
 {
     constexpr milliseconds kLimit(300);

@@ -1,4 +1,4 @@
-// A library built for another ISP knows that ISP's realms, and the default ones no longer.
+// A library built for another ISP accepts that ISP's realms instead of the default ones.
 
 #include <gtest/gtest.h>
 #include <ostrel/accounts.h>

@@ -1,4 +1,4 @@
-// The time that a list takes.
+// The processor time for a list.
 
 #include <gtest/gtest.h>
 #include <ostrel/subnets.h>
@@ -12,7 +12,7 @@ namespace ostrel::tests {
 
 namespace {
 
-// cpu_seconds is the least of several runs, in time of the processor: other processes do not count.
+// cpu_seconds returns the least processor time of several runs, which excludes other processes.
 double cpu_seconds(const std::string& list, const char* lan_address, int code)
 {
     std::clock_t least = std::numeric_limits<std::clock_t>::max();
@@ -24,8 +24,8 @@ double cpu_seconds(const std::string& list, const char* lan_address, int code)
     return static_cast<double>(least) / CLOCKS_PER_SEC;
 }
 
-// expect_linear compares the time for lists of which one is 64 times as long as the other; a time that grew
-// with the square would be 4096 times as long.
+// expect_linear compares the times for two lists, one of which is 64 times as long as the other; with quadratic
+// growth, its time would be 4096 times as long.
 void expect_linear(const std::string& small, const std::string& large, const char* lan_address, int code)
 {
     ASSERT_EQ(64U, large.size() / small.size());
@@ -48,7 +48,7 @@ TEST(ReservedAddresses, TakeLinearTimeWithoutEquallyLongNeighbours)
 
 TEST(ReservedAddresses, TakeLinearTimeForItemsThatEndDifferently)
 {
-    // A search that compared from the first byte on would compare nearly all of the first item at each place of the
+    // A search that compared from the first byte would compare nearly all of the first item at each position of the
     // third.
     const auto list = [](std::size_t length) {
         const std::string same(length / 4 - 2, 'a');

@@ -2,7 +2,7 @@
 //
 // usage: vectors_test [MODULE]...
 //
-// With modules, only their files are read: vectors_test hosts wlan_check/keys. A folder names all modules in it.
+// Modules restrict the files that are read: vectors_test hosts wlan_check/keys. A folder selects all its modules.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -33,7 +33,7 @@ namespace {
 
 std::string judged_row;
 
-// tell_row says which row ends the process, and lets it end as it would have.
+// tell_row prints the row that ends the process, and raises the signal again with its default action.
 void tell_row(int signal)
 {
     static_cast<void>(!write(STDERR_FILENO, judged_row.data(), judged_row.size()));
@@ -59,7 +59,7 @@ class VectorTest : public testing::Test {
         judged_row = row.file.string() + ":" + std::to_string(row.line) + "\n";
         const testing::ScopedTrace trace(row.file.c_str(), row.line, shown(row.text));
         if (!row.fault.empty()) FAIL() << row.fault;
-        // The rows share them, for most of a row's time would go into mapping their memory.
+        // All rows share the callers, since mapping their memory would take most of a row's time.
         static std::array<Caller, 2> callers = {Caller(Edge::kEnd), Caller(Edge::kBegin)};
         for (Caller& caller : callers) {
             caller.load(*row.given.function, row.given.values);

@@ -3,7 +3,7 @@
 usage: commands_test.py BUILD_FOLDER SOURCE_FOLDER
 
 It runs itself again in a mount namespace in which /usr/local is empty and the reader is root. The commands run in a
-folder like a clone whose release has been built.
+folder that resembles a clone with a built release.
 """
 
 import contextlib
@@ -23,7 +23,7 @@ import documents
 INSIDE = "--inside"
 SKIPPED = 77
 
-# Slow scripts are not run. They must exist, have no syntax error, and know the options that the document shows.
+# Slow scripts are not run. They must exist, have no syntax error, and accept the options that the document shows.
 LONG = {"scripts/quickstart", "scripts/test", "scripts/test-everywhere", "scripts/prove", "scripts/fuzz",
         "scripts/mutate", "scripts/coverage", "scripts/bench", "scripts/hazards",
         "scripts/abi", "scripts/footprint", "scripts/manual", "scripts/stubs", "sql/generate.py"}
@@ -67,7 +67,7 @@ def run(command, **options):
 
 
 class Clone(contextlib.AbstractContextManager):
-    """Clone is a folder like a clone of the project after scripts/quickstart."""
+    """Clone is a folder that resembles a clone of the project after scripts/quickstart."""
 
     def __init__(self):
         self.folder = pathlib.Path(tempfile.mkdtemp())
@@ -180,7 +180,7 @@ class Commands(unittest.TestCase):
 
 
 def enter_namespace():
-    """enter_namespace runs this test again where it may mount, or skips it if that is not allowed."""
+    """enter_namespace runs this test again in a namespace where it may mount, or skips it if that is not allowed."""
     unshare = ["unshare", "--mount"] + ([] if os.geteuid() == 0 else ["--user", "--map-root-user"])
     if run([*unshare, "mount", "-t", "tmpfs", "none", "/usr/local"]).returncode != 0:
         print("skipped: mount namespaces are not allowed")

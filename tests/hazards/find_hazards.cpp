@@ -1,8 +1,8 @@
-// Finds what accepted values may contain, and prints the lines of docs/hazards.md.
+// Finds which hazardous bytes accepted values may contain, and prints the lines of docs/hazards.md.
 //
-// It tries every hazardous byte in many places of the accepted values of vectors/, inserted and as a replacement, for
-// each argument that is a text. For a buffer it also searches the content after the call, whichever argument the byte
-// comes from. The descriptions of rules/ decide what is accepted. rules_test compares them with the library.
+// It tries every hazardous byte at many positions of the accepted values of vectors/, inserted and as a replacement,
+// for each argument that is a text. For a buffer it also searches the content after the call, for bytes from any
+// argument. The descriptions of rules/ decide whether a value is accepted; rules_test compares them with the library.
 
 #include <algorithm>
 #include <array>
@@ -43,7 +43,7 @@ std::string hazardous_bytes()
     return {bytes.begin(), bytes.end()};
 }
 
-// texts_of returns the texts of an argument, which can be changed if it is not const.
+// texts_of returns pointers to the texts of an argument, which are const if the argument is.
 template <typename V>
 auto texts_of(V& value)
 {
@@ -56,7 +56,7 @@ auto texts_of(V& value)
     return texts;
 }
 
-// Attempt is a text before and after a byte.
+// Attempt is the text before a byte and the text after it.
 struct Attempt {
     std::string before;
     std::string after;
@@ -157,8 +157,8 @@ std::size_t size_of(const Values& values)
     return size;
 }
 
-// seeds_of selects values evenly from the shortest to the longest. It adds copies of each in which one argument has all
-// bytes, because that may be a set.
+// seeds_of selects values evenly from the shortest to the longest. It adds copies of each in which one argument
+// contains all bytes, because that argument may be a set.
 std::vector<Values> seeds_of(std::vector<Values> accepted)
 {
     std::ranges::stable_sort(accepted, {}, size_of);

@@ -14,7 +14,7 @@ import tempfile
 import unittest
 
 WARNINGS = ["-std=c90", "-pedantic-errors", "-Wall", "-Wextra", "-Wshadow", "-Wconversion", "-Wformat=2", "-Werror"]
-LONG = 60  # seconds; a daemon that hangs is killed after that
+LONG = 60  # seconds after which a hanging daemon is killed
 
 
 def run(*command, **options):
@@ -31,7 +31,7 @@ def installed_natively(scratch):
 
 
 def installed_as_documented(scratch):
-    """installed_as_documented runs the commands of docs/porting.md in a folder like a clone."""
+    """installed_as_documented runs the commands of docs/porting.md in a folder that resembles a clone."""
     block = re.search(r"```sh\n(prefix=(\S+)\n.*?)```", (SOURCE / "docs/porting.md").read_text(), re.S)
     for entry in SOURCE.iterdir():
         if entry.name != "build":
@@ -113,7 +113,7 @@ class Daemon(unittest.TestCase):
         self.assertNotRegex(DAEMON.read_text(), r"PARAM_check_ui[24]_value\(")
 
     def test_nobody_need_read_the_reports(self):
-        """Much more than a pipe holds, which the library flushes at each refusal."""
+        """The output far exceeds the capacity of a pipe, and the library flushes it at each refusal."""
         count = 2000
         self.assert_answers(b"wan.mtu: refused, 402\n" * count, b"wan.mtu 9999%s\n" % (b"x" * 200) * count)
 

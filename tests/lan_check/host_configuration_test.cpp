@@ -1,4 +1,4 @@
-// What rows cannot say of the lease time: the address that is refused.
+// Tests of the lease time that rows cannot express: the refused address.
 
 #include <gtest/gtest.h>
 #include <ostrel/lan_check.h>
@@ -23,7 +23,7 @@ TEST(LeaseTime, NoOtherAddressIsRefusedOrRead)
     EXPECT_EQ(0, LAN_check_dhcp_lease_time(pointer(1)));
 }
 
-// The line holds the value, and reading the one at that address ends the process.
+// The refusal prints the value, and reading it at that address ends the process.
 TEST(LeaseTime, TheAddressOfAllOnesIsRefused)
 {
     EXPECT_DEATH(LAN_check_dhcp_lease_time(pointer(UINTPTR_MAX)), "");

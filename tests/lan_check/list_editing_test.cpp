@@ -1,4 +1,4 @@
-// The bytes that an edit of a list writes, and those that it leaves.
+// The bytes that an edit of a list writes, and those that it does not touch.
 
 #include <gtest/gtest.h>
 #include <ostrel/lan_check.h>
@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kRoom = 256;
 
-// unfilled is a buffer that holds the text and its terminator, and after them bytes other than zero.
+// unfilled returns a buffer with the text and its terminator, followed by nonzero bytes.
 std::string unfilled(const std::string& text)
 {
     std::string buffer(kRoom, '\xAA');

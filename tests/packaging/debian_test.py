@@ -96,7 +96,7 @@ class Debian(unittest.TestCase):
         self.assertEqual((0, ""), (result.returncode, result.stdout))
 
     def test_lintian_sees_a_fault(self):
-        """Otherwise the test above might pass with any package."""
+        """Without this check, the test above might accept any package."""
         tree = self.scratch / "faulty"
         run("dpkg-deb", "--raw-extract", self.files[0], tree)
         for copyright_file in tree.rglob("copyright"):

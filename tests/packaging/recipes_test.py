@@ -116,7 +116,7 @@ class Recipes(unittest.TestCase):
             self.assertIn("ostrel-%s/CMakeLists.txt" % VERSION, files.getnames())
 
     def test_no_recipe_states_a_licence(self):
-        """The tree states none. All recipes get one together."""
+        """The tree states no licence. If it gets one, all recipes get it together."""
         for recipe in ("openwrt/Makefile", "buildroot/ostrel-check/ostrel-check.mk"):
             self.assertNotRegex((SOURCE / "packaging" / recipe).read_text(), r"(?m)^\w*LICENSE\w* *:?=")
 

@@ -1,4 +1,4 @@
-"""Adds a check with a range to a copy of the tree, as CONTRIBUTING.md says, builds the copy and runs its tests.
+"""Adds a check with a range to a copy of the tree, following CONTRIBUTING.md, builds the copy and runs its tests.
 
 usage: recipe_test.py BUILD_FOLDER SOURCE_FOLDER
 
@@ -20,7 +20,7 @@ import unittest
 NAME = "L3FORWARDING_check_preference"
 MOST_FILES = 8
 SKIPPED = 77
-# The new check has no rows with long texts, and those of other checks would take most of the time.
+# The new check has no rows with long texts, and the long texts of other checks would take most of the time.
 LIMITS = {"OSTREL_LONGEST_TEXT": "9000"}
 PRINTED = "Error in L3FORWARDING_check_preference: Invalid preference:%s, RANGE[1, 255]\n"
 
@@ -40,7 +40,7 @@ def row(value, reason=None):
     return json.dumps(made) + "\n"
 
 
-# By hand: the anchor in each file, and what is added before it.
+# The edits by hand: the anchor in each file, and the text that is inserted before it.
 EDITS = {
     "vectors/l3forwarding_check.ndjson": ("", "".join([
         row("1"), row("2"), row("254"), row("255"), row("12 ms"),
@@ -95,7 +95,7 @@ def run(command, folder, **environment):
 
 
 class Copy:
-    """Copy is a copy of the tree, with a build folder that takes unchanged objects from another one."""
+    """Copy is a copy of the tree, with a build folder that reuses unchanged objects of another one."""
 
     def __init__(self, folder):
         self.folder = folder
@@ -117,7 +117,7 @@ class Copy:
         return {name for name, before in self.before.items() if (self.folder / name).read_bytes() != before}
 
     def keep(self, made):
-        """keep links the objects of the other build that depend on no changed file and on no path of the tree."""
+        """keep links the objects of the other build that depend neither on changed files nor on the tree's path."""
         commands = json.loads((BUILD / "compile_commands.json").read_text())
         places = {name for command in commands
                   for name in re.findall(r"-D(\w+)=\S*%s" % re.escape(str(SOURCE)), command["command"])}

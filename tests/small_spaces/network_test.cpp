@@ -62,7 +62,7 @@ TEST_F(SmallSpaces, Addresses)
                 octets.push_back(before + octet + std::string(".2.3.4").substr(std::string(before).size()));
         }
     }
-    // With three other octets of one digit there is room for nine: 0 to 9 with 0 to 8 zeros, and so on.
+    // Next to three octets of one digit, an octet may have nine digits: 0 to 9 with 0 to 8 zeros, and so on.
     EXPECT_EQ(4 * (10 * 9 + 90 * 8 + 156 * 7), expect_each({"TcmValidateIPAddress"}, octets)[0]);
 
     Texts stations;

@@ -86,7 +86,7 @@ TEST_F(SmallSpaces, TimeZones)
 // Names and near misses, numbers in each form, and pieces of references in every order.
 TEST_F(SmallSpaces, CharacterReferences)
 {
-    Texts texts = {"&amp;lt;", "&amp;amp;", "&#38;#65;", "&#x26;lt&#59;"};  // what results is not read again
+    Texts texts = {"&amp;lt;", "&amp;amp;", "&#38;#65;", "&#x26;lt&#59;"};  // results are not converted again
     for (const auto& [name, byte] : reference_names()) {
         const std::string reference = "&" + name + ";";
         for (const std::string& text :

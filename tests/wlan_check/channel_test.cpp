@@ -31,7 +31,7 @@ class Channel : public testing::Test {
     void SetUp() override
     {
         if (!can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
-        // Where /var is everybody's, the tests of other build folders wait here.
+        // If /var is shared, the tests of other build folders wait here.
         lock_ = open("/var", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
         ASSERT_EQ(0, flock(lock_, LOCK_EX));
         fs::remove(kChannelList);
@@ -53,8 +53,8 @@ class Channel : public testing::Test {
         close(lock_);
     }
 
-    // tool installs a wlctl that notes how it is called and then does what the shell script says. The folder
-    // is the whole PATH, so the script has the shell's own commands alone.
+    // tool installs a wlctl that records its call and then runs the shell script. The folder is the whole PATH, so
+    // the script can use only the shell's built-in commands.
     void tool(const std::string& script)
     {
         const fs::path file = folder_ / "wlctl";
@@ -65,8 +65,8 @@ class Channel : public testing::Test {
 
     void list(const std::string& text) { tool("printf '" + text + "'"); }
 
-    // Reply is a code and what came to the descriptors of standard output and standard error, from the shell and
-    // the tool too.
+    // Reply is a code and the bytes written to the descriptors of standard output and standard error, including
+    // those of the shell and the tool.
     struct Reply {
         int code = 0;
         std::string out;
@@ -237,7 +237,7 @@ TEST_F(Channel, IsLookedForWhateverTheToolsExitStatus)
     EXPECT_FALSE(list_is_left());
 }
 
-// The shell says so in its own words.
+// The shell chooses the wording of the error.
 TEST_F(Channel, IsRefusedWhenThereIsNoTool)
 {
     const Reply reply = ask("6");
@@ -248,7 +248,7 @@ TEST_F(Channel, IsRefusedWhenThereIsNoTool)
     EXPECT_FALSE(list_is_left());
 }
 
-// The link leads nowhere, so that neither the shell nor the check can open the file.
+// The link is dangling, so neither the shell nor the check can open the file.
 TEST_F(Channel, IsRefusedAndNothingDeletedWhenTheListCannotBeOpened)
 {
     list("6");

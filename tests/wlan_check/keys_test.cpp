@@ -1,4 +1,4 @@
-// What the vectors cannot say of the keys: which bytes of a WEP key block are written.
+// Tests of the keys that the vectors cannot express: which bytes of a WEP key block are written.
 
 #include <gtest/gtest.h>
 #include <ostrel/result_code.h>
@@ -20,7 +20,7 @@ constexpr char kFilling = '\x5A';
 using Keys = std::array<std::string, 4>;
 using Block = std::array<char, 4 * kDistance>;
 
-// block_of lays the keys out in a block whose other bytes are all set.
+// block_of stores the keys in a block whose other bytes are all set.
 Block block_of(const Keys& keys)
 {
     Block block;
@@ -31,8 +31,7 @@ Block block_of(const Keys& keys)
     return block;
 }
 
-// check answers what WLAN_check_wepkeys does, and expects it to write a NUL at the given keys and nothing
-// else.
+// check returns the code of WLAN_check_wepkeys, and expects it to write a NUL at the given keys and nothing else.
 int check(const Keys& keys, const std::array<bool, 4>& emptied)
 {
     Block block = block_of(keys);

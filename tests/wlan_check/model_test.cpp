@@ -1,4 +1,4 @@
-// A build for another model than M2840: one radio, and WEP with RADIUS.
+// A build for a model other than M2840: one radio, and WEP with RADIUS.
 
 #include <gtest/gtest.h>
 #include <ostrel/result_code.h>

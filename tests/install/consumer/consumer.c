@@ -1,6 +1,6 @@
 #include <ostrel/check.h>
 
-/* The build defines the version that it found. */
+/* The build defines the version of the package that it found. */
 #if OSTREL_CHECK_VERSION_MAJOR != FOUND_MAJOR || OSTREL_CHECK_VERSION_MINOR != FOUND_MINOR || \
     OSTREL_CHECK_VERSION_PATCH != FOUND_PATCH
 #error "the headers are of another version than the one found"

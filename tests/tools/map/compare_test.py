@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""compare_test.py OSTREL_CHECK SOURCE_DIR: every difference that "compare" reports is real, and "same" has no exception.
+"""compare_test.py OSTREL_CHECK SOURCE_DIR: each difference that "compare" reports is real; "same" has no exception.
 
 standard.py judges values for the model, the library judges them for the gateway.
 """

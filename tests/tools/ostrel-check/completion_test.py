@@ -45,7 +45,7 @@ class Shell:
         os.write(self.terminal, keys.encode())
 
     def at_prompt(self, keys, wanted):
-        """at_prompt sends the keys and returns the output up to the prompt that follows the wanted text, since keys typed
+        """at_prompt sends the keys and returns the output up to the prompt that follows the wanted text. Keys typed
         before the prompt would go to the terminal instead of the shell."""
         self.shown = ""
         self.send(keys)
