@@ -200,7 +200,7 @@ class SharedObject(unittest.TestCase):
         self.assertNotIn("XHASH", self.dynamic)
 
     def test_the_empty_library_is_empty(self):
-        """The tests above would ignore any symbol of its own."""
+        """The tests above ignore everything that the empty library contains, so it must define nothing."""
         # musl's start-up files define two names, which the export list hides.
         names = {plain(symbol.name) for symbol in dynamic_symbols(EMPTY) if symbol.name} - {"_init", "_fini"}
         self.assertEqual(set(), {name for name in names if not STARTUP_SYMBOLS.fullmatch(name)})

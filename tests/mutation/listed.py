@@ -47,7 +47,7 @@ class Listed:
         line: the text of the source line
         why: the reason, one line or several
 
-    keys maps the keys that an entry may have, besides "why", to the fields of an item that they are compared with. A
+    keys maps the keys that an entry may have, besides "why", to the fields of an item with which they are compared. A
     key may occur several times, and "*" matches anything. An entry applies to the items that match one value of each
     key.
     """

@@ -11,7 +11,7 @@ def units(literal):
 
 
 def another(character):
-    """another returns the next letter or digit, or the one before the last."""
+    """another returns the next letter or digit, or the previous one for the last."""
     if character in "zZ9":
         return {"z": "y", "Z": "Y", "9": "8"}[character]
     return chr(ord(character) + 1)

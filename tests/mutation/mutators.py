@@ -147,7 +147,7 @@ def conditions(found, text):
             continue
         last = closing(found, i + 1)
         first = i + 2
-        for j in range(first, last):  # skips what the statement declares
+        for j in range(first, last):  # skips the init-statement
             if found[j].text == ";":
                 first = j + 1
         if is_comparison(found, first, last):

@@ -1,4 +1,4 @@
-"""Selects the tests that judge a changed library, in descending order of their chance to notice the change."""
+"""Selects the tests that judge a changed library, starting with those that are most likely to notice the change."""
 
 import ctypes
 import os

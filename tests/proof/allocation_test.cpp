@@ -276,7 +276,7 @@ void report(const char* what, std::size_t calls, const Counts& allowed)
 
 TEST(Allocation, AWatchedRequestIsSeenAndNamed)
 {
-    // A direct call of a function that the compiler knows might be optimised as if it could not change the watch.
+    // The compiler knows strdup and could assume that a direct call does not change the watch.
     char* (*volatile duplicate)(const char*) = strdup;
     watch.count = 0;
     watch.on = true;

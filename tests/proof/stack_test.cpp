@@ -88,7 +88,7 @@ const char* find_part(const char* text, const char* part)
     }
 }
 
-// atoi behaves like the C library's with a long of 64 bits: a number outside its range becomes LONG_MAX or LONG_MIN.
+// atoi behaves like the C library's with a 64-bit long: it truncates a long, which saturates at LONG_MAX or LONG_MIN.
 int atoi(const char* nptr) noexcept
 {
     while (*nptr == ' ' || (*nptr >= '\t' && *nptr <= '\r')) ++nptr;

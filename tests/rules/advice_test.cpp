@@ -42,7 +42,7 @@ TEST(AdviceTest, EveryIdHasAWay)
     EXPECT_EQ(with_sentence, with_way);
 }
 
-// Every number in a sentence therefore comes from the reason.
+// No sentence contains a number, so every printed number comes from the reason.
 TEST(AdviceTest, NoSentenceHasANumberOfItsOwn)
 {
     for (const Sentence& sentence : sentences())

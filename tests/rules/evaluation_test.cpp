@@ -147,7 +147,7 @@ TEST(WorkTest, ALimitMayBeReached)
     const std::vector<Value> values = {"80"};
     std::uint64_t least = 1;
     while (evaluate_within(least, *find("TcmValidatePort"), values, {}).outside != Outside::kNo) ++least;
-    // Its length, its digits and its number, each of two bytes.
+    // The work covers its length, its digits and its number, each of two bytes.
     EXPECT_EQ(0U, least % 2);
 }
 

@@ -56,7 +56,7 @@ class Pattern {
         parts_.back().append(rest, text.end());
     }
 
-    // ends returns the offsets at which a text may continue after a line that begins at the given one.
+    // ends returns the offsets at which a line that begins at the given offset may end.
     [[nodiscard]] std::set<std::size_t> ends(const std::string& text, std::size_t begin) const
     {
         std::set<std::size_t> places = {begin};
@@ -128,7 +128,7 @@ class Explained : public testing::TestWithParam<const Function*> {
     const Check& check_ = *function_.check;
 };
 
-// An explained line that no row prints cannot be printed; a printed line must be explained.
+// Every explained line must be printed by some row, and every printed line must be explained.
 TEST_P(Explained, LinesAreThoseThatArePrinted)
 {
     constexpr std::size_t kLongest = 2000;  // matching longer texts would take too long

@@ -13,7 +13,7 @@ using vectors::Row;
 
 const std::vector<Row>& all_rows();
 
-// rows_of returns the rows of a function that hold on every gateway.
+// rows_of returns the rows of a function that apply to every gateway.
 using Rows = std::vector<std::reference_wrapper<const Row>>;
 const Rows& rows_of(const catalogue::Function& function);
 

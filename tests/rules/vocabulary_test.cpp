@@ -130,7 +130,7 @@ TEST(WordsTest, Tables)
                           print(line("<found>"))},
                          {primary, second});
     };
-    EXPECT_THROW(paired("1", "3"), std::logic_error);  // nothing has the name
+    EXPECT_THROW(paired("1", "3"), std::logic_error);  // no value has this name
     const auto looked_up = [](const char* part) {
         return answer_of({refuse(-1, not_(in_table(kPairs, {{0, Match::How::kPart, "one"}}))),
                           remember("found", cell(1)), print(line("<found>"))},
