@@ -60,7 +60,7 @@ class Impostor : public testing::Test {
     void TearDown() override { EXPECT_EQ(0, impostor_calls) << "the library called the host's function"; }
 };
 
-// Without this the tests below would prove nothing.
+// Without this test, the ones below would prove nothing.
 TEST(ImpostorProof, TheHostsNamesWinOutsideTheLibrary)
 {
     EXPECT_EQ(reinterpret_cast<void*>(&ValidateString), dlsym(RTLD_DEFAULT, "ValidateString"));

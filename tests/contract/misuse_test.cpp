@@ -102,7 +102,7 @@ TEST_P(Misuse, HostileValuesInEveryTextArgument)
     EXPECT_EQ(0, end.status) << testing::PrintToString(end);
 }
 
-// All arguments empty, and each number at its limits.
+// Leaves all texts empty, and passes each number at its limits.
 TEST_P(Misuse, EmptyValuesWithEveryExtremeNumber)
 {
     const Function& function = *GetParam();

@@ -3,7 +3,7 @@
 import collections
 import re
 
-# Command is the text of a command, and the output that the document shows below it or None.
+# Command is the text of a command, and the output that the document shows below it, or None.
 Command = collections.namedtuple("Command", "number text output")
 
 SHELL = ("", "sh")
@@ -29,8 +29,8 @@ def blocks(text):
 
 
 def in_console(first, lines):
-    """in_console reads a block in which each command begins with "$ ", its other lines with "> ", and its output is
-    below."""
+    """in_console parses a block in which the first line of each command begins with "$ ", its other lines with "> ", and
+    its output follows."""
     found = []
     for number, line in enumerate(lines, first):
         if line.startswith("$ "):

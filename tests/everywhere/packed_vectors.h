@@ -18,7 +18,7 @@ struct argument {
     unsigned long number;
     unsigned long number_after;
     unsigned long texts;
-    struct text before; /* the first of them */
+    struct text before; /* the first of the texts */
     struct text after;
 };
 

@@ -87,7 +87,7 @@ class Install(unittest.TestCase):
         run(CMAKE, "--install", build, "--prefix", self.scratch / "nothing")
         self.assertEqual([], [path for path in (self.scratch / "nothing").rglob("*") if path.is_file()])
 
-        # It is installed if the project asks for it.
+        # The library is installed if the project requests it.
         run(CMAKE, "-DOSTREL_INSTALL=ON", build)
         run(CMAKE, "--install", build, "--prefix", self.scratch / "library")
         installed = {path.name for path in (self.scratch / "library").rglob("*")}

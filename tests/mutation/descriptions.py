@@ -15,7 +15,7 @@ from mutate import ROOT, Results, arguments, conduct, folder_of
 from mutators import numbers, operators
 from tokens import closing
 
-# The files that evaluate descriptions and make reasons. Descriptions are in the files that list checks.
+# The files that evaluate descriptions and produce reasons. Descriptions are in the files that list checks.
 EVALUATION = {"build", "character_references", "condition_words", "conditions", "evaluate", "expression_words", "lists",
               "number_conditions", "operands", "register", "sentences", "set", "shared", "step_words",
               "text_conditions"}

@@ -42,7 +42,7 @@ class Mutant(NamedTuple):
     change: str    # as displayed: "27 -> 28", and "27 -> 28 #2" for the second such change in the line
     number: int    # of the line
     function: str  # that contains it
-    above: str     # the text of the nearest line above that is not only a comment
+    above: str     # the text of the nearest line above that contains code
 
 
 # NAMED maps the keys of an entry in equivalent.txt to the fields with which they are compared.

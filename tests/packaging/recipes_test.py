@@ -1,4 +1,4 @@
-"""The recipes for OpenWrt and Buildroot, checked against stand-ins for the two build systems.
+"""Tests the recipes for OpenWrt and Buildroot with stand-ins for the two build systems.
 
 usage: recipes_test.py BUILD_DIR SOURCE_DIR CMAKE
 """

@@ -1,4 +1,4 @@
-"""How many instructions each function takes for long values, counted by callgrind.
+"""Counts with callgrind how many instructions each function takes for long values.
 
 usage: instructions_test.py VALGRIND PROGRAM together|each BYTES...
 
@@ -9,7 +9,7 @@ catches any growth that is faster than the value's.
 
 The contract demands one exception, the list of reserved addresses: for each item whose neighbour is as long as
 itself, the rest of the list is searched. There the bound is a fixed number of instructions per item and byte; for
-long items that are alike, the bound is the cost of a list of short items that has the same length.
+long items that are nearly alike, the bound is the cost of a list of short items that has the same length.
 """
 
 import collections

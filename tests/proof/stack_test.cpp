@@ -239,7 +239,7 @@ class Stack : public testing::Test {
     std::map<std::string_view, std::size_t> deepest_;
 };
 
-// Without this the tests below could pass for the wrong reason.
+// Without this test, the ones below could pass for the wrong reason.
 int needs_a_thousand_bytes(const char* value)
 {
     volatile char room[1000];

@@ -179,7 +179,7 @@ struct Vectors {
 
     std::vector<Row> rows = read_cases();
     std::vector<Expected> whole;   // rows that print whole lines or nothing
-    std::vector<Expected> broken;  // the others
+    std::vector<Expected> broken;  // rows that print incomplete lines
     std::vector<Expected> silent;  // rows that print nothing
 };
 
@@ -235,7 +235,7 @@ TEST_F(Threads, JudgeEveryVectorThatPrintsACharacter)
     judge(vectors().broken, add_bytes);
 }
 
-// Without this the tests above could pass for the wrong reason.
+// Without this test, the ones above could pass for the wrong reason.
 TEST(ThreadsProof, ABrokenLineIsSeen)
 {
     Pieces expected;

@@ -30,7 +30,7 @@ class Experiment {
     // pass_null returns the outcomes of NULL according to the description and, if the call is possible, the library.
     std::set<rules::NullOutcome> pass_null(std::size_t argument, calling::Capture& capture);
 
-    // constraints returns the form of an argument, or NULL.
+    // constraints returns the constraints of an argument, or NULL if there are none.
     [[nodiscard]] const rules::Constraints* constraints(std::size_t argument) const
     {
         const auto found = constraints_.find(argument);

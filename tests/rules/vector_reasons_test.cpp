@@ -83,7 +83,7 @@ std::map<std::string, std::size_t> paths_shown()
         if (!row.reason) continue;
         const Check& check = *row.given.function->check;
         rules::Build build = oracle::library_build();
-        build.atoi = rules::Build::Atoi::kLong64;  // for which the row is written
+        build.atoi = rules::Build::Atoi::kLong64;  // rows are written for this one
         Counts counts;
         rules::evaluate(check, catalogue::completed(*row.given.function, row.given.values), build, &counts);
         ++result[path_of(check, counts)];

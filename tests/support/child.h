@@ -25,7 +25,7 @@ void PrintTo(const ChildEnd& end, std::ostream* stream);
 // Child starts the body immediately in a forked process, which leaves no core file. Several may run at a time.
 class Child {
  public:
-    // body returns 0 to 255.
+    // body must return 0 to 255.
     explicit Child(const std::function<int()>& body);
     Child(const Child&) = delete;
     Child& operator=(const Child&) = delete;

@@ -1,4 +1,4 @@
-// Many cases, from files and from standard input.
+// Batches of cases, from files and from standard input.
 
 #include <gtest/gtest.h>
 

@@ -151,7 +151,7 @@ class Width(unittest.TestCase):
     def test_pages_have_that_of_the_terminal(self):
         for page in (["list"], ["explain", "WLAN_check_wepkeys"]):
             narrow, of_narrow = self.width(*page, columns=60)
-            self.assertLessEqual(narrow, 72 if page == ["list"] else 60)  # a check's own usage is one line
+            self.assertLessEqual(narrow, 72 if page == ["list"] else 60)  # a check's usage is a single line
             wide, of_wide = self.width(*page, columns=200)
             self.assertTrue(100 < wide <= 200, wide)
             self.assertLess(of_wide.count("\n"), of_narrow.count("\n"))
@@ -169,7 +169,7 @@ class Width(unittest.TestCase):
     def test_a_table_is_wrapped(self):
         line = "WLAN_check_beacon_type WPA3-and-something-that-is-long\n"
         width, shown = self.width("batch", columns=60, text=[line])
-        self.assertLessEqual(width, 72)  # the name and the value are a line
+        self.assertLessEqual(width, 72)  # the name and the value fit in one line
         self.assertEqual("      1  refused     402  WLAN_check_beacon_type\n"
                          "           WPA3-and-something-that-is-long\n"
                          "         invalid value: is none of None, Basic, WPA, 11i,\n"
