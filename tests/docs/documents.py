@@ -29,7 +29,7 @@ def blocks(text):
 
 
 def in_console(first, lines):
-    """in_console parses a block in which the first line of each command begins with "$ ", its other lines with "> ", and
+    """in_console parses a block in which the first line of each command begins with "$ " and its other lines with "> ";
     its output follows."""
     found = []
     for number, line in enumerate(lines, first):
