@@ -1,4 +1,4 @@
-// Caller passes given values to a function and shows what it wrote, with an unreadable page at each argument.
+// Caller passes values to a function and returns what the function wrote. Each argument adjoins an unreadable page.
 #ifndef OSTREL_CALLING_CALLER_H
 #define OSTREL_CALLING_CALLER_H
 
@@ -10,10 +10,10 @@
 
 namespace ostrel::calling {
 
-// Edge says which end of each argument's memory lies against an unreadable page.
+// Edge selects the end of each argument's memory that adjoins an unreadable page.
 enum class Edge { kEnd, kBegin };
 
-// GuardedMemory is memory between two unreadable pages. It grows as needed and is used again and again.
+// GuardedMemory is memory between two unreadable pages. It grows as needed and is reused.
 class GuardedMemory {
  public:
     GuardedMemory() = default;
@@ -21,7 +21,8 @@ class GuardedMemory {
     GuardedMemory& operator=(const GuardedMemory&) = delete;
     ~GuardedMemory();
 
-    // place returns memory for size bytes next to the unreadable page at that edge. Its content is lost.
+    // place returns memory for size bytes next to the unreadable page at the given edge. The earlier contents are
+    // lost.
     char* place(std::size_t size, Edge edge);
 
  private:
@@ -31,8 +32,8 @@ class GuardedMemory {
     std::size_t usable_ = 0;  // bytes between the two unreadable pages
 };
 
-// Written is what an argument that the function may write to holds after the call; NULL for a number that was
-// not written, and for a buffer that was NULL.
+// Written is an argument that the function may write to, with its value after the call. The value is NULL for a
+// number that was not written, and for a buffer that was NULL.
 struct Written {
     const catalogue::Argument* argument;
     catalogue::Value value;
@@ -42,15 +43,14 @@ class Caller {
  public:
     explicit Caller(Edge edge = Edge::kEnd) : edge_(edge) {}
 
-    // load takes the values of all arguments, or of all that are not only written. Throws
-    // std::invalid_argument, with a message for the user, when their number, kinds or ranges do not suit the
-    // function.
+    // load takes a value for each argument, or for each argument except those that are only written. It throws
+    // std::invalid_argument, with a message for the user, if their number, kinds or ranges do not match the function.
     void load(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 
-    // call calls the function with what was loaded.
+    // call calls the function with the loaded values.
     int call() { return function_->invoke(raw_); }
 
-    // written reads what the function may have written.
+    // written returns the arguments that the function may have written, with their values.
     [[nodiscard]] std::vector<Written> written() const;
 
  private:

@@ -29,8 +29,8 @@ Prints& map_prints()
     return *static_cast<Prints*>(memory);
 }
 
-// own_prints is the memory of those captures that are given none: mapping it anew would take longer than most
-// calls.
+// own_prints returns the memory for captures that are constructed without any. It is mapped only once, because
+// mapping takes longer than most calls.
 Prints& own_prints()
 {
     static Prints& prints = map_prints();

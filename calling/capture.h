@@ -1,4 +1,4 @@
-// Capture collects what is printed, without a file and without a system call.
+// Capture collects printed output without a file and without a system call.
 #ifndef OSTREL_CALLING_CAPTURE_H
 #define OSTREL_CALLING_CAPTURE_H
 
@@ -9,17 +9,16 @@
 
 namespace ostrel::calling {
 
-// open_stream opens a stream that passes the cookie and what is written to a function, as fopencookie does.
+// open_stream opens a stream that, like those of fopencookie, passes the cookie and the output to a function.
 std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int buffering);
 
-// Prints is memory for what is printed. It is meant for untouched, zeroed memory of mmap, of which only what
-// is written to counts. Shared with another process it shows that process what was printed, even when this
-// one has come to its end.
+// Prints is memory for printed output. It is meant for zeroed memory from mmap, of which untouched pages take no
+// space. Another process that shares the memory can read what was printed even after this process has ended.
 struct Prints {
     struct Text {
         static constexpr std::size_t kCapacity = std::size_t{32} << 20;
         std::size_t size;
-        bool cut;  // more was printed than there is room for
+        bool cut;  // more was printed than fits
         char bytes[kCapacity];
 
         [[nodiscard]] std::string_view view() const { return {bytes, size}; }
@@ -28,11 +27,11 @@ struct Prints {
     Text err;
 };
 
-// PrintedView is what was printed, in place. It holds until more is printed.
+// PrintedView is a view of the printed output. It is valid until more is printed.
 struct PrintedView {
-    std::string_view out;     // what went to standard output
+    std::string_view out;     // printed to standard output
     std::size_t flushed = 0;  // how many of its bytes had been flushed when the call returned
-    std::string_view err;     // what went to standard error
+    std::string_view err;     // printed to standard error
     bool cut = false;
 };
 
@@ -42,25 +41,25 @@ struct Printed {
     std::string err;
 };
 
-// Capture takes the place of standard output and standard error for as long as it lives. One at a time. It
-// replaces this process's streams and not its descriptors: what a process prints that the library starts goes to
-// those as ever.
+// Capture replaces standard output and standard error during its lifetime. Only one may exist at a time. It replaces
+// the streams of this process and not its descriptors, so processes that the library starts still print to the
+// originals.
 class Capture {
  public:
     Capture();
-    // This one collects in memory that the caller owns.
+    // This constructor collects in memory that the caller owns.
     explicit Capture(Prints& prints);
     Capture(const Capture&) = delete;
     Capture& operator=(const Capture&) = delete;
     ~Capture();
 
-    // take returns what was printed since the last time.
+    // take returns the output since the last take or clear, and clears it.
     Printed take();
 
-    // look shows what was printed since the last take or clear.
+    // look returns a view of the output since the last take or clear.
     PrintedView look();
 
-    // clear forgets what was printed.
+    // clear discards the output.
     void clear();
 
  private:

@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 
 void write(const char* file, const std::string& text) { std::ofstream(file) << text; }
 
-// enter_mount_namespace takes a user namespace with it where the user may not have the one alone. The user stays
-// who it is: the right to mount comes with the namespace.
+// enter_mount_namespace enters a user namespace too if the user may not create a mount namespace alone. The user id
+// stays the same, and the user namespace grants the right to mount.
 bool enter_mount_namespace()
 {
     const std::string user = std::to_string(geteuid());
@@ -31,7 +31,7 @@ bool enter_mount_namespace()
     return true;
 }
 
-// keep puts what is at one path at another.
+// keep makes an entry available at another path.
 void keep(const fs::directory_entry& entry, const fs::path& place)
 {
     if (entry.is_symlink()) {
@@ -48,8 +48,8 @@ void keep(const fs::directory_entry& entry, const fs::path& place)
     mount(entry.path().c_str(), place.c_str(), nullptr, MS_BIND | MS_REC, nullptr);
 }
 
-// cover_var mounts an empty folder over /var. What is in it is kept: programs, temporary files and what is to be read
-// may be there.
+// cover_var mounts an empty folder over /var and keeps the former contents available, because programs, temporary
+// files and input files may be there.
 void cover_var()
 {
     const int covered = open(kChannelFolder, O_PATH | O_DIRECTORY | O_CLOEXEC);

@@ -1,4 +1,4 @@
-// A /var of this process's own, for the list of channels, which is a file of one fixed name there.
+// A private /var for this process: the list of channels is a file there with a fixed name.
 #ifndef OSTREL_CALLING_OWN_VAR_H
 #define OSTREL_CALLING_OWN_VAR_H
 
@@ -7,13 +7,13 @@ namespace ostrel::calling {
 inline constexpr char kChannelFolder[] = "/var";
 inline constexpr char kChannelList[] = "/var/hnapwl0chlist";
 
-// move_to_own_var moves this process, and the children that it starts from then on, to a mount namespace in which /var
-// is a folder of its own with the same files and folders in it. It says whether /var can be written to; where the
-// system allows no such namespace, /var stays everybody's. To be called before there is a second thread.
+// move_to_own_var moves this process, and the children that it starts afterwards, to a mount namespace in which /var
+// is a private folder with the same files and folders. It returns whether /var is writable. If the system allows no
+// such namespace, /var stays the shared one. Call it before starting a second thread.
 bool move_to_own_var();
 
-// can_list_channels tells whether the list can be written to a /var of this process's own, or else to everybody's. The
-// first call moves this process there.
+// can_list_channels returns whether the list can be written, to a private /var if possible and otherwise to the
+// shared one. The first call moves this process.
 bool can_list_channels();
 
 }  // namespace ostrel::calling

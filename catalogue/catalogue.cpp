@@ -19,7 +19,7 @@ struct List {
     }
 };
 
-// What a function takes is deduced from its declaration; the rest is described in rules/.
+// list_functions deduces the arguments of each function from its declaration. Everything else is described in rules/.
 std::vector<Function> list_functions()
 {
     List list;

@@ -9,8 +9,8 @@
 
 namespace ostrel::catalogue {
 
-// functions lists every exported function, by family. Throws std::logic_error for one whose description does not suit
-// its declaration.
+// functions lists every exported function, by family. Throws std::logic_error if a description does not match its
+// declaration.
 const std::vector<Function>& functions();
 
 // families lists the families, in the order of their functions.

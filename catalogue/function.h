@@ -1,4 +1,4 @@
-// Function: what is known of an exported function, by its declaration and its description, so that it can be called.
+// Function: the declaration and the description of an exported function, as needed to call it.
 #ifndef OSTREL_CATALOGUE_FUNCTION_H
 #define OSTREL_CATALOGUE_FUNCTION_H
 
@@ -38,11 +38,11 @@ struct Function {
 // kUnwritten is the value of an output number before the call. No function writes it.
 inline constexpr long long kUnwritten = std::numeric_limits<int>::min();
 
-// completed adds values for the arguments that are only written, where they were left out.
+// completed adds values for the arguments that are only written, if they were omitted.
 std::vector<Value> completed(const Function& function, std::span<const Value> given);
 
-// room_of says how many bytes a caller provides for a buffer, or for each of several texts. The values are those of all
-// arguments.
+// room_of returns the number of bytes that a caller provides for a buffer, or for each of several texts. values
+// contains the values of all arguments.
 std::size_t room_of(const Function& function, std::size_t argument, std::span<const Value> values);
 
 namespace detail {
@@ -91,7 +91,8 @@ struct Signature<F> {
 
 }  // namespace detail
 
-// described makes a function with its description. Throws std::logic_error where that has other kinds of arguments.
+// described returns a function with its description. Throws std::logic_error if the description has other kinds of
+// arguments.
 Function described(std::string_view name, std::string_view family, std::vector<Kind> kinds,
                    const void* address, int (*invoke)(std::span<const Raw>));
 

@@ -10,16 +10,17 @@ namespace ostrel::catalogue {
 
 namespace {
 
-// No name is longer. The number of typing errors takes time that grows with the square of this.
+// No name is longer than kLongestName. The time to count typing errors grows with the square of it.
 constexpr std::size_t kLongestName = 64;
 constexpr std::size_t kMostShown = 3;
-// A single letter is in nearly every name.
+// A single letter occurs in nearly every name.
 constexpr std::size_t kShortest = 2;
 
 bool is_letter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 bool is_capital(char c) { return c >= 'A' && c <= 'Z'; }
 
-// begins_word tells that a word of a name begins there: after "_", or with a capital after a small letter.
+// begins_word returns whether a word of a name begins there: after a byte that is not a letter, or with a capital
+// after a small letter.
 bool begins_word(std::string_view name, std::size_t at)
 {
     if (at == 0 || !is_letter(name[at - 1])) return true;
@@ -38,7 +39,7 @@ std::vector<std::string_view> words_of(std::string_view name)
     return words;
 }
 
-// typing_errors counts the bytes that were left out, added, changed, or swapped with the next one.
+// typing_errors counts the bytes that were omitted, added, changed, or swapped with the next one.
 std::size_t typing_errors(std::string_view a, std::string_view b)
 {
     std::vector<std::size_t> row(b.size() + 1);
@@ -58,8 +59,8 @@ std::size_t typing_errors(std::string_view a, std::string_view b)
     return row.back();
 }
 
-// Similar is a name with what it is sorted by: the typing errors, or whether the word is a part of a word of the name;
-// and the length.
+// Similar is a name with its sort keys: the number of typing errors, or whether the name contains the word as a whole
+// word, and then the length.
 using Similar = std::tuple<std::size_t, std::size_t, std::string_view>;
 
 std::vector<std::string_view> first_ones(std::vector<Similar> found)

@@ -1,4 +1,4 @@
-// Names: what somebody may have meant who wrote a name that there is not.
+// Names: suggestions for misspelt and incomplete names.
 #ifndef OSTREL_CATALOGUE_NAMES_H
 #define OSTREL_CATALOGUE_NAMES_H
 
@@ -10,22 +10,22 @@
 
 namespace ostrel::catalogue {
 
-// in_lower_case changes ASCII letters alone.
+// in_lower_case changes only ASCII letters.
 std::string in_lower_case(std::string_view text);
 
-// find_in_any_case finds the function whose name differs from that at most in its case, or returns NULL where none or
-// several do.
+// find_in_any_case returns the function whose name differs from the given one at most in case, or NULL if there are
+// none or several.
 const Function* find_in_any_case(std::string_view name);
 
-// similar_names returns at most three of the names: those that contain the word, in any case; else those that a few
-// typing errors lead to, in the name or in a word of it. The most similar one comes first.
+// similar_names returns at most three of the names: those that contain the word, in any case, or otherwise those that
+// a few typing errors in the name or in a word of it lead to. The most similar one comes first.
 std::vector<std::string_view> similar_names(std::string_view word,
                                             const std::vector<std::string_view>& names);
 
-// did_you_mean asks "; did you mean a, b or c?", or is empty where no name is similar.
+// did_you_mean returns "; did you mean a, b or c?", or an empty text if no name is similar.
 std::string did_you_mean(std::string_view word, const std::vector<std::string_view>& names);
 
-// unknown_function is the message for a name that the catalogue does not hold, with the names that are similar.
+// unknown_function returns the message for a name that is not in the catalogue, with similar names.
 std::string unknown_function(std::string_view name);
 
 }  // namespace ostrel::catalogue

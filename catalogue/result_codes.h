@@ -1,4 +1,4 @@
-// Result codes: the one table of what they are called and what they mean.
+// Result codes: the only table of their names and meanings.
 #ifndef OSTREL_CATALOGUE_RESULT_CODES_H
 #define OSTREL_CATALOGUE_RESULT_CODES_H
 
@@ -6,10 +6,10 @@
 
 namespace ostrel::catalogue {
 
-// meaning says what a result code means, in a few words.
+// meaning returns the meaning of a result code in a few words.
 std::string_view meaning(int code);
 
-// constant returns the name that result_code.h has for a result code; empty for any other number.
+// constant returns the name of a result code in result_code.h, or an empty text for any other number.
 std::string_view constant(int code);
 
 }  // namespace ostrel::catalogue

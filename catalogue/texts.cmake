@@ -1,10 +1,11 @@
-# Makes texts.cpp: files of the source tree as string literals, so that the program needs none of them later.
+# Generates texts.cpp, which embeds files of the source tree as string literals, so that the program does not read
+# them.
 set(hazards ${PROJECT_SOURCE_DIR}/docs/hazards.md)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS catalogue.schema.json ${hazards})
 file(READ catalogue.schema.json OSTREL_SCHEMA)
-# The end of that page holds a line for each argument.
+# The end of that page has a line for each argument.
 file(READ ${hazards} OSTREL_HAZARDS)
 string(REGEX REPLACE "^.*\n```json\n(.*)```\n$" "\\1" OSTREL_HAZARDS "${OSTREL_HAZARDS}")
 configure_file(texts.cpp.in texts.cpp @ONLY)
-# Compilers promise less than these literals need, and manage far more.
+# These literals are longer than a compiler must support, but compilers accept far longer ones.
 set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/texts.cpp PROPERTIES COMPILE_OPTIONS -Wno-overlength-strings)

@@ -44,7 +44,7 @@ void require_room(std::size_t size)
     if (size > kLongestText) throw std::invalid_argument("a text is longer than 16 MiB");
 }
 
-// append_times doubles what it has, so that long texts are made in few steps.
+// append_times doubles the text repeatedly, which builds long texts in few steps.
 void append_times(std::string& result, const std::string& part, std::size_t count)
 {
     const std::size_t begin = result.size();

@@ -1,5 +1,5 @@
 // Aim chooses the inputs of one function so that every step and condition of its description is met often. It keeps
-// inputs that met one, and changes those that met the rarest again.
+// inputs that met one, and makes new inputs from those that met the rarest.
 #ifndef OSTREL_FUZZ_AIM_H
 #define OSTREL_FUZZ_AIM_H
 

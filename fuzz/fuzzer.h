@@ -16,7 +16,7 @@
 
 namespace ostrel::fuzz {
 
-// RunResult is what a run of an input shows.
+// RunResult is the outcome of running an input.
 enum class RunResult {
     kAgreed,
     kOutside,  // nothing was called: the contract does not cover the call
@@ -29,9 +29,9 @@ class Fuzzer {
     // Throws std::invalid_argument for an unknown family.
     explicit Fuzzer(std::string_view family);
 
-    // run decodes an input, makes its call, and follows the reason if it is refused. A build without a list of channels
-    // leaves out the calls that would ask the wireless driver. counts counts the steps of that call, and further those
-    // of the calls that the reason leads to.
+    // run decodes an input, makes its call, and follows the reason if the call is refused. If build has no list of
+    // channels, it skips calls that would query the wireless driver. It adds the steps of the call to counts, and
+    // those of the calls that the reason leads to to further.
     RunResult run(std::string_view input, const rules::Build& build, rules::Counts* counts = nullptr,
                   rules::Counts* further = nullptr);
 

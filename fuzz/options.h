@@ -21,7 +21,7 @@ struct ReplayOptions {
     std::vector<std::filesystem::path> folders;
 };
 
-// read_options ends the program after --help and for a wrong option.
+// read_options ends the program after --help and after an invalid option.
 ReplayOptions read_options(int argc, char** argv);
 
 }  // namespace ostrel::fuzz

@@ -23,13 +23,13 @@ using catalogue::Function;
 
 namespace {
 
-// Totals are printed at the end: the standard streams are captured as long as a fuzzer exists.
+// Totals are printed at the end, because the standard streams are captured while a fuzzer exists.
 struct Totals {
     std::size_t agreed = 0;
     std::size_t outside = 0;
     std::size_t failures = 0;
     std::size_t refused = 0;
-    std::size_t calls = 0;  // compared with the library, with those that reasons lead to
+    std::size_t calls = 0;  // compared with the library, including those that reasons lead to
     std::string text;
     std::vector<std::string> unproven;
 
@@ -95,7 +95,7 @@ class Replay {
         };
         for (std::size_t i = 0; i < random; ++i) next();
         if (!may_refuse(function)) return;
-        // The inputs do not suit a check that refuses less than one of a hundred.
+        // If a check refuses fewer than one input in a hundred, the inputs do not suit it.
         const std::size_t wanted = refusals == 0 ? 0 : fuzzer_.refused() + refusals;
         for (std::size_t i = 0; i < 100 * refusals && fuzzer_.refused() < wanted; ++i) next();
         if (fuzzer_.refused() < wanted)
@@ -149,7 +149,7 @@ std::vector<const Function*> chosen(std::string_view family, const ReplayOptions
     return result;
 }
 
-// are_met returns whether nothing is below the floor, and prints the rarest.
+// are_met returns whether no count is below the floor, and prints the rarest.
 bool are_met(const rules::Counts& counts, const rules::Counts& further, const ReplayOptions& options)
 {
     std::vector<oracle::StepCount> rows = oracle::table(counts);
@@ -173,7 +173,7 @@ bool are_met(const rules::Counts& counts, const rules::Counts& further, const Re
     return below == 0;
 }
 
-// require_families throws if inputs are in a folder that is not named after a family: nothing would run them.
+// require_families throws if inputs are in a folder that is not named after a family, because they would never run.
 void require_families(const std::vector<std::filesystem::path>& folders)
 {
     const std::vector<std::string_view> families = catalogue::families();

@@ -10,8 +10,8 @@
 
 namespace ostrel::fuzz {
 
-// seeds returns the calls of a function in vectors/. In copies of some of them, one argument is replaced by what its
-// description names: keywords, limits and their neighbours, shapes, NULL.
+// seeds returns the calls of a function in vectors/. In copies of some of them, one argument is replaced by a value
+// that its description names: a keyword, a limit or its neighbour, a shape, or NULL.
 std::vector<std::string> seeds(const Fuzzer& fuzzer, const catalogue::Function& function,
                                const std::vector<vectors::Row>& rows);
 

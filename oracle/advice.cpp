@@ -19,7 +19,7 @@ constexpr std::string_view kNobody = "no check has it: that none is met";
 constexpr std::string_view kPutBack = "what was refused, put back, is one step less";
 constexpr std::string_view kOutside = "the contract does not cover such a call, and it is not made";
 
-// In the order of ids.
+// kWays is sorted by id.
 constexpr Way kWays[] = {
     {"a_multiple", nullptr, kNobody},
     {"accepted", nullptr, kNobody},
@@ -105,8 +105,8 @@ const Way* way_of(std::string_view id)
     return way == std::end(kWays) || way->id != id ? nullptr : way;
 }
 
-// data_fault describes a reason that found something else than the value contains, or whose sentence has another
-// number.
+// data_fault describes a reason that reports something other than the value contains, or whose sentence has a
+// different number.
 std::string data_fault(const Refusal& refusal)
 {
     const Reason& reason = refusal.reason();

@@ -1,4 +1,4 @@
-// Advice: each reason is followed, as by a user who reads its sentence. The same reason must not occur again then, and
+// Advice: follows each reason as a user would who reads its sentence. The same reason must not occur again then, and
 // must occur with one step less. A description that agrees with the library in every code may still state a false
 // reason.
 #ifndef OSTREL_ORACLE_ADVICE_H
@@ -18,14 +18,15 @@
 
 namespace ostrel::oracle {
 
-// Advice is the calls that a refused call leads to.
+// Advice lists the calls that a refused call leads to.
 struct Advice {
     std::vector<Values> followed;  // the reason must not occur again
     std::vector<Values> less;      // one step less: the same reason, or another one that comes first
     std::vector<Values> attempts;  // each may be one step less, or be accepted
 };
 
-// Way is how the reasons of an id are followed. An id that no check has, or that nobody can follow, has no function.
+// Way defines how to follow the reasons of an id. An id that no check has, or that cannot be followed, has no
+// function.
 struct Way {
     std::string_view id;
     void (*advise)(const Refusal& refusal, Advice& advice);

@@ -19,8 +19,8 @@ class Contents {
  public:
     explicit Contents(const catalogue::Function& function);
 
-    // fault names a byte of an accepted call at a place where docs/hazards.md has none; or returns an empty text. after
-    // is what each argument that the function may write to holds, in order.
+    // fault names a byte of an accepted call in a place where docs/hazards.md does not list it, or returns an empty
+    // text. after has the final value of each argument that the function may write to, in order.
     [[nodiscard]] std::string fault(std::span<const catalogue::Value> values,
                                     std::span<const catalogue::Value> after) const;
 

@@ -21,7 +21,7 @@ struct StepCount {
 std::vector<StepCount> table(const rules::Counts& counts);
 
 // add_table adds the counts of an earlier run from a file, so that runs with several libraries make one table. Throws
-// std::runtime_error if the file is not of these descriptions.
+// std::runtime_error if the file does not match these descriptions.
 void add_table(const std::filesystem::path& file, std::vector<StepCount>& rows);
 
 // write_table writes the rows in the order of their counts. Throws std::runtime_error if it cannot.

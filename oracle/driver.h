@@ -17,7 +17,7 @@ class Driver {
     Driver& operator=(const Driver&) = delete;
     ~Driver();
 
-    // What the C library's functions do to the file.
+    // The effects of the C library's functions on the file.
     void write_list();
     std::FILE* open_list(const char* modes);
     void delete_list() { has_left_its_list_ = false; }

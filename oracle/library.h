@@ -1,4 +1,4 @@
-// Library: the build of the library that is loaded, as the descriptions need it.
+// Library: the build of the loaded library, as the descriptions need it.
 #ifndef OSTREL_ORACLE_LIBRARY_H
 #define OSTREL_ORACLE_LIBRARY_H
 
@@ -9,8 +9,8 @@
 
 namespace ostrel::oracle {
 
-// library_build returns the build of the library that is loaded. For a variant, OSTREL_TEST_MODEL,
-// OSTREL_TEST_ACCOUNT_REALM and OSTREL_TEST_SETUP_REALM in the environment have its options.
+// library_build returns the build of the loaded library. For a variant, OSTREL_TEST_MODEL, OSTREL_TEST_ACCOUNT_REALM
+// and OSTREL_TEST_SETUP_REALM in the environment contain its options.
 const rules::Build& library_build();
 
 // builds_with_channels returns copies of that build with different lists of channels, for a Driver that lists them.

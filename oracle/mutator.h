@@ -16,7 +16,7 @@ class Mutator {
     // next returns a seed with some changes. It is valid until the next call.
     const std::string& next();
 
-    // This one returns from with few changes or none.
+    // This overload returns from with few changes or none.
     const std::string& next(const std::string& from);
 
  private:

@@ -74,7 +74,7 @@ void leave_range(const Refusal& refusal, Advice& advice)
     add(refusal, advice.followed, limits.at(1) + 1);
 }
 
-// What the number is read as is refused too.
+// The int that the number is read as is refused too.
 void fit_int(const Refusal& refusal, Advice& advice)
 {
     for (const long long number : refusal.some(refusal.allowed_numbers()))

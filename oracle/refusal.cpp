@@ -13,7 +13,7 @@ using rules::Value;
 
 namespace {
 
-// written_text returns what a buffer holds after the call.
+// written_text returns the contents of a buffer after the call.
 const std::string* written_text(const rules::Check& check, const rules::Answer& answer, std::size_t argument)
 {
     std::size_t written = 0;
@@ -21,7 +21,7 @@ const std::string* written_text(const rules::Check& check, const rules::Answer& 
     return written < answer.after.size() ? std::get_if<std::string>(&answer.after[written]) : nullptr;
 }
 
-// converts returns whether a check writes the result of a conversion to an argument, and judges that.
+// converts returns whether a check writes the result of a conversion to an argument, and judges that result.
 bool converts(const rules::Check& check)
 {
     return std::ranges::any_of(check.steps, [](const rules::Step& step) {
@@ -92,7 +92,7 @@ Values Refusal::with_byte(char byte) const
     return with_whole(std::string(whole_).replace(reason().offset.value(), 1, 1, byte));
 }
 
-// The number keeps its width, as a field of a date needs it.
+// with_number preserves the width of the number, because a field of a date needs it.
 Values Refusal::with_number(long long number) const
 {
     if (!is_text_) return with_argument(reason().argument.value(), number);

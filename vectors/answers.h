@@ -1,4 +1,4 @@
-// Answers: which answer of a row holds. Some depend on the C library.
+// Answers: selects the answer of a row that applies. Some answers depend on the C library.
 #ifndef OSTREL_VECTORS_ANSWERS_H
 #define OSTREL_VECTORS_ANSWERS_H
 
@@ -13,10 +13,10 @@ using Atoi = rules::Build::Atoi;
 
 inline constexpr std::array kAtois = {Atoi::kLong64, Atoi::kLong32, Atoi::kWrapping};
 
-// has_answer_for tells whether the row has an answer for such a C library alone.
+// has_answer_for returns whether the row has an answer for only this kind of C library.
 bool has_answer_for(const nlohmann::json& row, Atoi atoi);
 
-// answered is the row with the answer for such a C library as its only one.
+// answered returns the row with the answer for this kind of C library as its only answer.
 nlohmann::json answered(const nlohmann::json& row, Atoi atoi);
 
 }  // namespace ostrel::vectors

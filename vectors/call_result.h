@@ -1,4 +1,4 @@
-// CallResult: everything that a call leaves.
+// CallResult: all effects of a call.
 #ifndef OSTREL_VECTORS_CALL_RESULT_H
 #define OSTREL_VECTORS_CALL_RESULT_H
 
@@ -11,8 +11,8 @@
 
 namespace ostrel::vectors {
 
-// CallResult is the code, the output and the written arguments of a call. Two results print readably when they
-// differ.
+// CallResult is the code, the output and the written arguments of a call. A test that compares two results prints
+// them readably if they differ.
 struct CallResult {
     int code = 0;
     std::string out;
@@ -25,13 +25,13 @@ struct CallResult {
 
 void PrintTo(const CallResult& result, std::ostream* stream);
 
-// values_of returns what is in the memory of a call.
+// values_of returns the values of the written arguments.
 std::vector<catalogue::Value> values_of(const std::vector<calling::Written>& written);
 
-// actual_result calls what is loaded.
+// actual_result makes the loaded call and returns its result.
 CallResult actual_result(calling::Caller& caller, calling::Capture& capture);
 
-// shown quotes a text as JSON does; of a long one only the ends are shown.
+// shown returns a text quoted as in JSON. A long text is reduced to its ends.
 std::string shown(const std::string& text);
 
 }  // namespace ostrel::vectors

@@ -1,4 +1,4 @@
-// Rows: the lines of the files in this folder, and what they promise of a call.
+// Rows: the lines of the files in this folder, and the results that they promise.
 #ifndef OSTREL_VECTORS_ROWS_H
 #define OSTREL_VECTORS_ROWS_H
 
@@ -16,13 +16,13 @@
 
 namespace ostrel::vectors {
 
-// Promise is what a row says of the call.
+// Promise is the result that a row states for its call.
 struct Promise {
-    CallResult result;        // what the row leaves out is the silent default
-    bool is_written = false;  // or else what the caller holds stays as it was
+    CallResult result;        // members that the row omits have their defaults
+    bool is_written = false;  // otherwise the arguments are unchanged
 };
 
-// RowReason is what a user is to be told of a refusal, as the row says it. What does not apply is empty.
+// RowReason is the reason for a refusal that a row states. Members that do not apply are empty.
 struct RowReason {
     std::string id;
     std::string argument;
@@ -35,33 +35,32 @@ struct RowReason {
 
 void PrintTo(const RowReason& reason, std::ostream* stream);
 
-// Row is one line of a file: what is passed, and what it promises. One that cannot be run has a fault that says
-// why.
+// Row is one line of a file: a call and its promised result. If the row cannot be run, fault describes why.
 struct Row {
     std::filesystem::path file;
-    std::string module;  // the path of the file in vectors/, without the ending
+    std::string module;  // the path of the file in vectors/, without the extension
     int line = 0;
     std::string text;
     std::string fault;
     calling::Case given;
     Promise promise;
-    std::map<Atoi, Promise> elsewhere;  // with such a C library it is this one
+    std::map<Atoi, Promise> elsewhere;  // replaces promise with such a C library
     std::optional<RowReason> reason;
 };
 
-// read_rows returns every row of every file, in order, but those of the module that OSTREL_TEST_FIRST in the environment
-// names before all others, and without those that have a longer text than OSTREL_LONGEST_TEXT says. Where modules or
-// folders are named, only their files are read. Throws std::invalid_argument where a file has no row, or where there is
-// no such file.
+// read_rows returns the rows of all files in order, starting with the module that OSTREL_TEST_FIRST in the
+// environment names. It omits rows with a text longer than OSTREL_LONGEST_TEXT. If modules or folders are named, it
+// reads only their files. Throws std::invalid_argument if a file has no row or does not exist.
 std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 
-// read_cases returns every row of every file. Throws std::invalid_argument for one with a fault.
+// read_cases returns the rows of all files. Throws std::invalid_argument if a row has a fault.
 std::vector<Row> read_cases();
 
-// longest_text returns the length of the longest text that is passed.
+// longest_text returns the length of the longest text among the arguments.
 std::size_t longest_text(const calling::Case& given);
 
-// expected_result is what a row promises where the caller holds before, with the C library at hand or another one.
+// expected_result returns the result that a row promises if before is what the arguments contain before the call,
+// with this C library or another one.
 CallResult expected_result(const Row& row, const std::vector<calling::Written>& before,
                            Atoi atoi = rules::atoi_here());
 
