@@ -1,4 +1,4 @@
-// Arena: memory that a worker and its supervisor share, so that what a worker has done outlives it.
+// Arena: memory that a worker and its supervisor share, so that a worker's results outlive it.
 #ifndef OSTREL_TOOLS_BATCH_ARENA_H
 #define OSTREL_TOOLS_BATCH_ARENA_H
 
@@ -23,20 +23,20 @@ inline constexpr std::size_t kOutput = std::size_t{256} << 20;
 // count_lines counts the line ends of a text.
 std::uint64_t count_lines(std::string_view text);
 
-// Progress is how far a worker has come with its chunk.
+// Progress is how far a worker has processed its chunk.
 struct Progress {
     std::size_t read = 0;  // bytes of the input
     std::uint64_t line = 0;
-    // The line to go on with; in a text of several gateways, where one of them begins.
+    // The line to continue with. In a text of several gateways, it is the line where one of them begins.
     std::uint64_t next = 0;
     std::size_t part = 0;     // records of the text that is being read
-    bool is_within = false;   // records of a gateway were judged, and others of it were not
+    bool is_within = false;   // some records of a gateway were judged and some were not
     std::size_t written = 0;  // bytes of the output
-    std::uint64_t cases = 0;  // whose results are there
+    std::uint64_t cases = 0;  // with results in the output
     std::uint64_t refused = 0;
     Log::Size log;
 
-    // advance goes on after a record, to the next one of the same text or to the next text.
+    // advance moves past a record, to the next one of the same text or to the next text.
     void advance(std::string_view text, bool has_more, const Record& record)
     {
         const bool ends_gateway = has_more && record.kind == Record::Kind::kGatewayEnd;
@@ -50,11 +50,11 @@ struct Progress {
     }
 };
 
-// Arena is mapped whole; of its pages only those that were written to exist.
+// Arena is mapped as a whole, but only the pages that were written to take memory.
 class Arena {
  public:
-    // commit makes known how far the worker has come, in one step: whenever the worker ends, progress() is
-    // either the one before or the new one.
+    // commit publishes the progress atomically: whenever the worker ends, progress() returns either the previous or
+    // the new progress.
     void commit(const Progress& progress)
     {
         const std::uint64_t next = commits_.load(std::memory_order_relaxed) + 1;
@@ -65,16 +65,16 @@ class Arena {
     [[nodiscard]] std::uint64_t commits() const { return commits_.load(std::memory_order_acquire); }
     [[nodiscard]] const Progress& progress() const { return progress_[commits() & 1]; }
 
-    std::size_t file = 0;  // which of the files the input is from
+    std::size_t file = 0;  // index of the input's file
     FileFormat format = FileFormat::kWords;
     std::size_t preamble_size = 0;  // of the input, which begins with the preamble of the file
     std::size_t input_size = 0;
     std::array<char, 2 * kLongestText + kChunk> input;
     std::array<char, kOutput> output;
     calling::Prints prints;
-    Log log;  // of what has been judged since it was last taken
+    Log log;  // of the records judged since it was last taken
 
-    // The supervisor asks the worker to stop after the current record.
+    // ask_to_stop makes the worker stop after the current record. Only the supervisor calls it.
     void ask_to_stop() { is_to_stop_.store(true, std::memory_order_relaxed); }
     [[nodiscard]] bool is_to_stop() const { return is_to_stop_.load(std::memory_order_relaxed); }
 
@@ -98,7 +98,7 @@ struct Unmap {
 // map_arena throws std::system_error.
 std::unique_ptr<Arena, Unmap> map_arena();
 
-// release_pages returns to the system the pages after the first size bytes of a part of an arena.
+// release_pages returns pages of an array of the arena to the system, but keeps those of the first size bytes.
 void release_pages(char* begin, std::size_t capacity, std::size_t size);
 
 }  // namespace ostrel::tool

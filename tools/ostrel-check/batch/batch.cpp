@@ -34,14 +34,14 @@ class Batch {
     int run()
     {
         if (!begin()) return error_ == EPIPE ? kExitAccepted : stop();
-        // Chunks are given out in order, and taken back in that order.
+        // Chunks are assigned in order, and their results are taken in the same order.
         while (true) {
             if (StopSignals::number() != 0) {
                 clear_keys();
                 for (const auto& slot : busy_) slot->ask_to_stop();
             }
             take_finished();
-            if (error_ == EPIPE) return exit_code();  // nobody reads any more
+            if (error_ == EPIPE) return exit_code();  // the reader has closed the pipe
             if (error_ != 0 || is_stopped()) return stop();
             const bool can_read = !idle_.empty() && StopSignals::number() == 0 && !input_.is_at_end();
             if (busy_.empty() && !can_read) return finish();
@@ -52,7 +52,7 @@ class Batch {
     }
 
  private:
-    // begin writes what precedes the results. A batch that goes on adds to results that have it.
+    // begin writes the text that precedes the results. A resumed batch appends to results that already have it.
     bool begin()
     {
         const Style& style = rules_->style;
@@ -63,7 +63,7 @@ class Batch {
         return error_ == 0;
     }
 
-    // is_stopped tells that what was to be finished is.
+    // is_stopped returns whether the batch was interrupted and the work in progress at the front is finished.
     [[nodiscard]] bool is_stopped() const
     {
         return StopSignals::number() != 0 && (busy_.empty() || !busy_.front()->is_running());
@@ -80,7 +80,7 @@ class Batch {
         meter_.show(advance);
     }
 
-    // take_finished writes out what is done at the front.
+    // take_finished writes the finished results at the front.
     void take_finished()
     {
         while (!busy_.empty() && !busy_.front()->is_running()) {
@@ -101,17 +101,17 @@ class Batch {
         }
     }
 
-    // wait waits until there is something to do, and says whether there is something to read.
+    // wait waits until there is something to do, and returns whether there is input to read.
     bool wait(bool can_read)
     {
         if (can_read && input_.is_ready()) return true;
         std::vector<pollfd> waiting = {{signals_.descriptor(), POLLIN, 0}};
-        if (StopSignals::number() != 0) waiting.front().fd = -1;  // it is known
+        if (StopSignals::number() != 0) waiting.front().fd = -1;  // already noticed
         if (can_read) waiting.push_back({input_.descriptor(), POLLIN, 0});
         for (const auto& slot : busy_) {
             if (slot->is_running()) waiting.push_back({slot->answers(), POLLIN, 0});
         }
-        // A call that does not return is noticed after one to one and an eighth of its limit.
+        // A call that does not return is detected after 1 to 1 1/8 times its limit.
         const double longest = meter_.is_wanted() ? 250.0 : 1000.0;
         const double tick = std::clamp(rules_->limit / 8 * 1000, 1.0, longest);
         poll(waiting.data(), waiting.size(), busy_.empty() ? -1 : static_cast<int>(tick));
@@ -135,7 +135,7 @@ class Batch {
         busy_.back()->judge(*chunk);
     }
 
-    // skip takes the texts that begin before the first line off a chunk, and says whether something is left.
+    // skip removes the texts that begin before the first line from a chunk, and returns whether anything is left.
     bool skip(Chunk& chunk)
     {
         if (chunk.line >= rules_->start_line) return true;
@@ -147,24 +147,24 @@ class Batch {
         return !chunk.text.empty();
     }
 
-    // clear_keys takes away, once, what the terminal shows of the keys that interrupt.
+    // clear_keys erases, once, what the terminal shows for the interrupt keys.
     void clear_keys()
     {
         if (!std::exchange(is_interrupted_, true)) meter_.clear_keys();
     }
 
-    // stop ends a batch that has not come to its end.
+    // stop ends an unfinished batch and reports where it stopped.
     int stop()
     {
         meter_.clear();
-        // The signal may have come since the batch last looked for one.
+        // The signal may have arrived since the last check for one.
         if (StopSignals::number() != 0) clear_keys();
         if (error_ != 0) {
             say("ostrel-check: cannot write the results: " + std::generic_category().message(error_) + "\n");
         }
         sum_up();
         std::string where = "stopped after line " + std::to_string(line_ - 1);
-        // The records of a JSON file may be on one line, and the results of a gateway too many to be kept back.
+        // The records of a JSON file may be on one line, and a gateway may have too many results to hold back.
         if (is_within_line_) {
             where = rules_->reading.map == nullptr ? "stopped within line "
                                                    : "stopped within the gateways of line ";
@@ -203,8 +203,8 @@ class Batch {
         return std::max(summary_.tally().exit_code(), is_readable ? kExitAccepted : kExitUsage);
     }
 
-    // sum_up says whether the summary could be written. Among the lines of a stream or the rows of CSV it would be one
-    // too many, and after results that could not be written there is no room for it.
+    // sum_up returns whether the summary could be written. The summary does not follow the results if they are lines
+    // of a stream or rows of CSV, or if they could not be written.
     bool sum_up()
     {
         summary_.add_unreadable_files(input_.unreadable_files());
@@ -230,13 +230,13 @@ class Batch {
     std::vector<std::unique_ptr<Slot>> idle_;
     std::deque<std::unique_ptr<Slot>> busy_;
     Summary summary_;
-    std::uint64_t bytes_ = 0;  // that were read
-    std::size_t file_ = 0;     // the one that was judged last, to before the line
+    std::uint64_t bytes_ = 0;  // read so far
+    std::size_t file_ = 0;     // index of the file judged last, before the line
     std::uint64_t line_;
-    int error_ = 0;  // why results could not be written
+    int error_ = 0;  // errno of the failed write of results
     bool has_begun_ = false;
     bool is_interrupted_ = false;
-    bool is_within_line_ = false;  // records of the line were written, and others were not
+    bool is_within_line_ = false;  // some records of the line were written and some were not
     std::unique_ptr<Reader> skipping_;
     Meter meter_;
 };

@@ -17,7 +17,7 @@ struct Head {
     std::uint32_t example = 0;
 };
 
-// A worker that was told more kinds of cases than that forgets them, and tells their examples again.
+// A worker that has logged this many kinds of cases forgets them, and logs their examples again.
 constexpr std::size_t kMostKnown = std::size_t{1} << 14;
 
 }  // namespace

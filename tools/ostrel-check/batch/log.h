@@ -1,4 +1,4 @@
-// Log: what a worker tells its supervisor of the records that it judged, in memory that both share.
+// Log: a worker's account of the records that it judged, in memory that it shares with its supervisor.
 #ifndef OSTREL_TOOLS_BATCH_LOG_H
 #define OSTREL_TOOLS_BATCH_LOG_H
 
@@ -14,8 +14,8 @@
 
 namespace ostrel::tool {
 
-// Log holds no pointers. What has been committed in it is not changed until the supervisor has taken it, so that it is
-// whole whenever the worker ends.
+// Log contains no pointers. Committed entries do not change until the supervisor has taken them, so they are intact
+// whenever the worker ends.
 struct Log {
     static constexpr std::size_t kMostRecords = std::size_t{1} << 16;
     static constexpr std::size_t kRows = std::size_t{1} << 20;
@@ -25,12 +25,12 @@ struct Log {
     // Entry is a record, a line without one, or the end of a gateway.
     struct Entry {
         std::uint32_t row = kNoRow;
-        std::uint32_t lines = 0;     // of the input, that end with it
+        std::uint32_t lines = 0;     // of the input that end with it
         std::uint32_t written = 0;   // bytes of the output, up to its end
-        GatewayCounts gateway = {};  // without parameters: it is none
+        GatewayCounts gateway = {};  // no parameters: not the end of a gateway
     };
 
-    // Size is how much of the log is in use.
+    // Size is the part of the log that is in use.
     struct Size {
         std::uint32_t entries = 0;
         std::uint32_t rows = 0;
@@ -40,8 +40,8 @@ struct Log {
     std::array<Entry, kMostRecords> entries;
     std::array<char, kRows> rows;
 
-    // has_room tells that two more entries fit, whatever they are: one of the worker's and the supervisor's on the
-    // record that ended the worker. is_half_full is for who may wait for a better place to stop.
+    // has_room returns whether two more entries of any size fit: one of the worker, and one of the supervisor for the
+    // record that ended the worker. is_half_full tells a worker that can choose where to stop to do so.
     static bool has_room(const Size& size)
     {
         return size.entries + 2 <= kMostRecords && size.bytes + 2 * kLongestRow <= kRows;
@@ -55,15 +55,15 @@ struct Log {
 // for_each_row calls visit with each row of a log, in order.
 void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const SummaryRow&)>& visit);
 
-// LogWriter adds to a log. It knows which rows are there already, and which examples it has told.
+// LogWriter adds to a log. It remembers which rows the log contains, and which examples it has logged.
 class LogWriter {
  public:
     explicit LogWriter(Log& log) : log_(&log) {}
 
-    // begin forgets the rows: the supervisor has taken them.
+    // begin forgets the rows, because the supervisor has taken them.
     void begin() { ++round_; }
 
-    // add adds a record. The example is asked for where none of that kind of case was told before.
+    // add adds a record. It calls example only for the first case of a kind.
     void add(Log::Size& size, const SummaryRow& row, std::uint32_t lines, std::size_t written,
              const std::function<std::string()>& example);
 

@@ -43,7 +43,7 @@ void Slot::judge(const Chunk& chunk)
     arena_->format = chunk.format;
     arena_->preamble_size = chunk.preamble.size();
     arena_->input_size = chunk.preamble.size() + chunk.text.size();
-    // Not std::ranges::copy, which g++ 12 makes a loop over bytes.
+    // g++ 12 compiles std::ranges::copy to a loop over bytes.
     chunk.preamble.copy(arena_->input.data(), chunk.preamble.size());
     chunk.text.copy(arena_->input.data() + chunk.preamble.size(), chunk.text.size());
     Progress progress;
@@ -64,7 +64,7 @@ void Slot::start_round()
     commits_seen_ = arena_->commits();
     seen_at_ = Clock::now();
     if (worker_ == 0) start_worker();
-    // A worker that has ended meanwhile is noticed by look.
+    // look detects a worker that has ended meanwhile.
     write_all(orders_.writing.number(), "g");
 }
 
@@ -89,12 +89,12 @@ void Slot::look()
     } else if (std::chrono::duration<double>(now - seen_at_).count() > rules_->limit) {
         is_running_ = false;
         stop_worker();
-        if (arena_->commits() != commits_seen_) return;  // it went on at the last moment
+        if (arena_->commits() != commits_seen_) return;  // it made progress at the last moment
         conclude(Verdict::kNoReturn, describe_no_return(rules_->limit));
     }
 }
 
-// conclude decides on the record at which the worker ended, and goes on after it.
+// conclude sets the verdict on the record at which the worker ended, and continues after it.
 void Slot::conclude(Verdict verdict, std::string problem)
 {
     Progress progress = arena_->progress();
@@ -108,7 +108,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
             cases_.read(text, progress.part);
             result.function = cases_.function();
         } catch (const std::exception&) {
-            // A record that cannot be read ends no worker.
+            // A record that cannot be read cannot have ended the worker.
             result.function = nullptr;
         }
         result.values = &cases_.values();
@@ -137,7 +137,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
     arena_->commit(progress);
 }
 
-// write_out writes what is done, and returns how much of the results was written.
+// write_out writes the output, and returns how many bytes of results were written.
 std::size_t Slot::write_out(int descriptor, int& error)
 {
     std::size_t written = 0;
@@ -146,7 +146,7 @@ std::size_t Slot::write_out(int descriptor, int& error)
         const Fitted fitted = write_what_fits(descriptor, text);
         error = fitted.error;
         if (text.data() == heading_.data()) {
-            // A heading without results is of no use.
+            // A heading without results is useless.
             if (error != 0) take_back(descriptor, fitted.size);
         } else {
             written += fitted.size;
@@ -158,7 +158,7 @@ std::size_t Slot::write_out(int descriptor, int& error)
     return written;
 }
 
-// count adds to a summary what has been written, and returns how many entries of the log that is.
+// count adds the written results to a summary, and returns the number of their log entries.
 std::uint32_t Slot::count(std::size_t written, Summary& summary)
 {
     const Log& log = arena_->log;
@@ -197,7 +197,7 @@ Taken Slot::take(int descriptor, Summary& summary)
         for (std::uint32_t i = done; i < progress.log.entries; ++i) taken.line -= log.entries[i].lines;
     }
     taken.is_within_line = done > 0 && log.entries[done - 1].lines == 0;
-    // The last line of a file may lack its end.
+    // The last line of a file may have no line end.
     if (taken.is_within_line && taken.error == 0 && is_done() && arena_->format != FileFormat::kJson) {
         taken.is_within_line = false;
         ++taken.line;

@@ -18,20 +18,20 @@ namespace ostrel::tool {
 
 using Clock = std::chrono::steady_clock;
 
-// Rules are what holds for every line of a batch.
+// Rules are the settings that apply to every line of a batch.
 struct Rules {
     Style style;
     Reading reading;
     double limit = 2;  // seconds that a call may take
     std::vector<std::string> files;
     std::uint64_t start_line = 1;    // of the first file, with which the batch begins
-    std::uint64_t first_number = 1;  // that of the first file's first line
+    std::uint64_t first_number = 1;  // number of the first file's first line
 };
 
-// Taken is what became of the results that were to be written out.
+// Taken is the outcome of writing results.
 struct Taken {
-    int error = 0;                // why not all of them were: an errno
-    std::uint64_t line = 0;       // after the last one whose results were
+    int error = 0;                // errno if not all of them were written
+    std::uint64_t line = 0;       // after the last one whose results were written
     bool is_within_line = false;  // results of that line were written, and more are to follow
 };
 
@@ -42,32 +42,32 @@ class Slot {
     Slot& operator=(const Slot&) = delete;
     ~Slot();
 
-    // judge starts to have a chunk judged.
+    // judge starts judging a chunk.
     void judge(const Chunk& chunk);
 
-    // look sees whether the worker has answered, has ended or makes no progress.
+    // look checks whether the worker has answered, has ended or makes no progress.
     void look();
 
     [[nodiscard]] bool is_running() const { return is_running_; }
 
-    // answers is what to wait for while the slot is running.
+    // answers returns the descriptor to wait for while the slot is running.
     [[nodiscard]] int answers() const { return answers_.reading.number(); }
 
-    // ask_to_stop has the worker stop after the current record.
+    // ask_to_stop makes the worker stop after the current record.
     void ask_to_stop() { arena_->ask_to_stop(); }
 
-    // take writes out what is done and counts what could be written. What is left of the chunk goes on, unless the
-    // worker was asked to stop.
+    // take writes the results so far and counts those that could be written. The worker then continues with the rest
+    // of the chunk, unless it was asked to stop.
     Taken take(int descriptor, Summary& summary);
 
-    // judged tells how much of the chunk has been judged and not been taken.
+    // judged returns how much of the chunk has been judged but not taken.
     [[nodiscard]] const Progress& judged() const { return arena_->progress(); }
-    // left is how many bytes of the chunk have not been judged.
+    // left returns the number of bytes of the chunk that have not been judged.
     [[nodiscard]] std::size_t left() const { return arena_->rest_of_input().size(); }
 
     [[nodiscard]] std::size_t file() const { return arena_->file; }
 
-    // is_done tells that the chunk has been judged and taken.
+    // is_done returns whether the whole chunk has been judged and taken.
     [[nodiscard]] bool is_done() const { return !is_running_ && arena_->rest_of_input().empty(); }
 
  private:

@@ -17,7 +17,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// Judge judges records, with the same memory again and again.
+// Judge judges records and reuses its memory.
 class Judge {
  public:
     Judge(Arena& arena, Style style, const Reading& reading, const std::vector<std::string>& files)
@@ -60,7 +60,7 @@ class Judge {
         return progress.written < kEnoughOutput && !Log::is_half_full(progress.log) && !arena_->is_to_stop();
     }
 
-    // judge tells whether the text holds another record.
+    // judge returns whether the text contains another record.
     bool judge(std::string_view text, Progress& progress)
     {
         result_.clear();
@@ -104,7 +104,7 @@ class Judge {
         }
         call();
         if (result_.verdict != Verdict::kRefused) return;
-        // The time that the reason takes is not the call's.
+        // The time limit of the call does not include finding the reason.
         arena_->commit(progress);
         explain(result_);
     }
@@ -140,7 +140,7 @@ class Judge {
         write(progress);
     }
 
-    // write_nothing answers a line without a case: with an empty one where each line is to have its own.
+    // write_nothing writes the result of a line without a case: an empty line if each line must have a result.
     void write_nothing(Progress& progress)
     {
         if (style_.format == Format::kStream && !style_.no_results) arena_->output[progress.written++] = '\n';
@@ -164,12 +164,12 @@ class Judge {
         if (text_.capacity() > kEnoughOutput) text_ = std::string();
     }
 
-    // note logs the record that was read last, at whose end the progress is now.
+    // note logs the last record. progress is at its end already.
     void note(Progress& progress)
     {
         const auto lines = static_cast<std::uint32_t>(progress.next - noted_line_);
         noted_line_ = progress.next;
-        // The end of its last gateway was noted.
+        // The end of its last gateway has been logged.
         if (map_ != nullptr && !kind_ && lines == 0) return;
         const Record& record = cases_.record();
         if (kind_ == Record::Kind::kCase) {
@@ -193,11 +193,11 @@ class Judge {
     std::uint64_t noted_line_ = 0;
     Result result_;
     LogWriter log_;
-    std::optional<Record::Kind> kind_;  // of what was read last; none: nothing
+    std::optional<Record::Kind> kind_;  // of the last record; none: there was none
     Redactor redactor_;
     std::string text_;
     std::string parameter_;
-    std::string said_;  // on standard error, with what the driver said
+    std::string said_;  // standard error, including the driver's
 };
 
 }  // namespace

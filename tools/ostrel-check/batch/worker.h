@@ -11,13 +11,13 @@
 
 namespace ostrel::tool {
 
-// A worker stops when it has written so much, and leaves it to the supervisor to take what is there. Within a gateway it
-// stops later, so that what was taken mostly ends where a batch can go on.
+// A worker stops after writing kEnoughOutput, so that the supervisor takes the output. Within a gateway it continues
+// up to kMostOutput, so that the output usually ends where a batch can be resumed.
 inline constexpr std::size_t kEnoughOutput = std::size_t{4} << 20;
 inline constexpr std::size_t kMostOutput = 8 * kEnoughOutput;
 
-// run_worker serves until its supervisor closes the pipe of orders: for each byte that comes it judges a part
-// of what the arena holds, from the current progress on, and answers with a byte.
+// run_worker runs until its supervisor closes the orders pipe. For each byte that it reads, it judges a part of the
+// arena's input, from the current progress on, and answers with a byte.
 [[noreturn]] void run_worker(Arena& arena, const Style& style, const Reading& reading,
                              const std::vector<std::string>& files, const Descriptor& orders,
                              const Descriptor& answers);

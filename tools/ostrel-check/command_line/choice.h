@@ -1,4 +1,4 @@
-// Options that take one of a few words. The words are the type that help, manual page and completion show.
+// Options that take one of a few words. Help, manual page and completion show the words as the type.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
 #define OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
 
@@ -10,10 +10,10 @@
 
 namespace ostrel::tool {
 
-// kOr is between the words in the name of the type.
+// kOr separates the words in the name of the type.
 inline constexpr char kOr = '|';
 
-// refuse_others has an option refuse what is none of the words.
+// refuse_others makes an option refuse any other word.
 template <typename Word>
 CLI::Option* refuse_others(CLI::Option* option, const std::vector<Word>& words)
 {

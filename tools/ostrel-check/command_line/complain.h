@@ -1,4 +1,4 @@
-// Complain: wrong usage, on standard error, with what to do about it.
+// Complain: messages about wrong usage, on standard error, with advice.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_COMPLAIN_H
 #define OSTREL_TOOLS_COMMAND_LINE_COMPLAIN_H
 
@@ -13,15 +13,15 @@ namespace ostrel::tool {
 inline constexpr std::string_view kAdviceOnNames =
     "ostrel-check list WORD finds checks by a word of their names or rules.\n";
 
-// complain says what is wrong, and returns the exit code. The advice is a line.
+// complain prints the problem and the advice, which is a line, and returns the exit code.
 int complain(std::string_view problem, std::string_view advice);
 
 int complain_of_usage(std::string_view problem);
 
-// complain_of_name asks what was meant by a word that is neither a command nor a check.
+// complain_of_name reports a word that is neither a command nor a check, with suggestions.
 int complain_of_name(const CLI::App& app, const std::string& name);
 
-// find_meant returns the check of that name, or NULL. It says so where the name has another case.
+// find_meant returns the check of that name, or NULL. It prints a note if the name differs in case.
 const catalogue::Function* find_meant(const std::string& name);
 
 }  // namespace ostrel::tool

@@ -25,7 +25,7 @@ void add_names(Candidates& candidates)
         candidates.push_back({std::string(function.name), rules::accepted(*function.check, gateway())});
 }
 
-// values_of returns the candidates of a type: words are in small letters, kinds of words in capital ones.
+// values_of returns the candidates of a type. Literal words are in lower case, and kinds of words in upper case.
 Candidates values_of(const std::string& type)
 {
     Candidates candidates;
@@ -54,7 +54,7 @@ Candidates long_options_of(const CLI::App& app)
     return candidates;
 }
 
-// keywords_at returns the keywords of the argument that the value of that number belongs to.
+// keywords_at returns the keywords of the argument that the value at this index belongs to.
 Candidates keywords_at(std::string_view name, std::size_t value)
 {
     const Function* function = catalogue::find_in_any_case(name);
@@ -73,7 +73,7 @@ Candidates keywords_at(std::string_view name, std::size_t value)
     return {};
 }
 
-// Parser goes through the words as the parser does, up to the one that is to be completed.
+// Parser reads the words before the one to complete, as the command-line parser does.
 class Parser {
  public:
     explicit Parser(const CLI::App& app) : app_(&app) {}
@@ -158,7 +158,7 @@ class Parser {
     }
 
     const CLI::App* app_;                  // the program, or one of its commands
-    const CLI::Option* option_ = nullptr;  // which waits for its value
+    const CLI::Option* option_ = nullptr;  // the option that still needs its value
     bool only_words_ = false;              // after "--"
     std::string check_;
     std::size_t values_ = 0;  // of the check, or of the command

@@ -1,4 +1,4 @@
-// Complete: what a word on the command line may become.
+// Complete: completion of a word on the command line.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_COMPLETE_H
 #define OSTREL_TOOLS_COMMAND_LINE_COMPLETE_H
 
@@ -15,7 +15,7 @@ inline constexpr std::string_view kFiles = "@files";
 
 struct Candidate {
     std::string word;
-    std::string what;  // in a few words; may be empty
+    std::string what;  // a short description; may be empty
 };
 
 // complete returns the candidates for the last of the words, which are those after the program's name. Names are

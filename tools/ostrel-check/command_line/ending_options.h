@@ -1,4 +1,4 @@
-// Options of calls, and those that say where a batch begins, how it is summed up and how it ends.
+// Options of calls, and options for the beginning, the summary and the end of a batch.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_ENDING_OPTIONS_H
 #define OSTREL_TOOLS_COMMAND_LINE_ENDING_OPTIONS_H
 
@@ -18,16 +18,16 @@ struct EndingOptions {
     std::vector<std::string> files;  // to be added up
 };
 
-// add_call_options adds those of a call, which single verdicts have as well.
+// add_call_options adds the options of a call, which single verdicts have as well.
 void add_call_options(CLI::App& app, Manner& manner, std::optional<std::string>& channels);
 
-// add_ending_options is for batch, which has its other options already.
+// add_ending_options adds options to batch, which has its other options already.
 void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules);
 
-// add_summarise_options is for summarise.
+// add_summarise_options adds the options of summarise.
 void add_summarise_options(CLI::App& summarise, EndingOptions& options);
 
-// closing_of says what follows from the options.
+// closing_of returns the closing that the options select.
 Closing closing_of(const EndingOptions& options, const Style& style);
 
 }  // namespace ostrel::tool

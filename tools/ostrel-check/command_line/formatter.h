@@ -1,4 +1,4 @@
-// Formatter: help as the command line has it; the parser knows nothing of NAME and VALUE.
+// Formatter: help with the NAME and VALUE that the parser does not know.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_FORMATTER_H
 #define OSTREL_TOOLS_COMMAND_LINE_FORMATTER_H
 
@@ -17,10 +17,10 @@ std::vector<const CLI::Option*> options_of(const CLI::App& app);
 // positionals_of returns the others.
 std::vector<const CLI::Option*> positionals_of(const CLI::App& app);
 
-// synopses_of returns the ways to call the program, a line each.
+// synopses_of returns the ways to call the program, one per line.
 std::vector<std::string> synopses_of(const CLI::App& app);
 
-// usage_of returns those lines as help begins with them.
+// usage_of returns those lines in the form in which help begins with them.
 std::string usage_of(const CLI::App& app);
 
 class Formatter : public CLI::Formatter {

@@ -1,4 +1,4 @@
-// Options: what can be given on the command line. Help, completion and the lists of the manual page are made from it.
+// Options: the command line. Help, completion and the lists of the manual page are generated from it.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_OPTIONS_H
 #define OSTREL_TOOLS_COMMAND_LINE_OPTIONS_H
 
@@ -36,7 +36,7 @@ struct Options {
     std::vector<std::string> words;
 };
 
-// make_command_line returns the commands with their options, which are put into options.
+// make_command_line returns the commands with their options. Parsing stores the values in options.
 std::unique_ptr<CLI::App> make_command_line(Options& options);
 
 }  // namespace ostrel::tool

@@ -1,4 +1,4 @@
-// The options of batch that say how its files are read.
+// The options of batch that control how its files are read.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_READING_OPTIONS_H
 #define OSTREL_TOOLS_COMMAND_LINE_READING_OPTIONS_H
 
@@ -8,7 +8,7 @@
 
 namespace ostrel::tool {
 
-// add_reading has the options put into reading, which must outlive the command.
+// add_reading adds the options. Parsing stores their values in reading, which must outlive the command.
 void add_reading(CLI::App& batch, Reading& reading);
 
 }  // namespace ostrel::tool

@@ -12,10 +12,10 @@ int show_comparison(const Options& options);
 int show_list(const Options& options);
 int show_explanation(const Options& options);
 
-// show_candidates shows what the last of the words may become.
+// show_candidates prints the completions of the last of the words.
 int show_candidates(const CLI::App& app, const Options& options);
 
-// show_help shows what was asked for: help or the version.
+// show_help prints what was requested: help or the version.
 int show_help(const CLI::App& app, const CLI::Success& success);
 
 }  // namespace ostrel::tool

@@ -1,4 +1,4 @@
-// Constraints: what is derived from the descriptions of rules/ when the program is built.
+// Constraints: data that the build derives from the descriptions of rules/.
 #ifndef OSTREL_TOOLS_EXPLAIN_CONSTRAINTS_H
 #define OSTREL_TOOLS_EXPLAIN_CONSTRAINTS_H
 
@@ -6,10 +6,10 @@
 
 namespace ostrel::tool {
 
-// constraints is an object of JSON: for each check what each argument must be, or null.
+// constraints returns a JSON object with the constraints of each argument of each check, or null.
 std::string_view constraints();
 
-// json_schema is what list --json-schema prints.
+// json_schema returns the output of list --json-schema.
 std::string_view json_schema();
 
 }  // namespace ostrel::tool

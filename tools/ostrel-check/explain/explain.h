@@ -1,4 +1,4 @@
-// Explain: what a check wants, laid out from its description.
+// Explain: the requirements of a check, laid out from its description.
 #ifndef OSTREL_TOOLS_EXPLAIN_EXPLAIN_H
 #define OSTREL_TOOLS_EXPLAIN_EXPLAIN_H
 
@@ -17,7 +17,7 @@ std::string declaration_of(const catalogue::Function& function);
 // explain returns the page of a check, for a terminal.
 std::string explain(const catalogue::Function& function, const Look& look);
 
-// list_checks shows the checks with their arguments and what they accept.
+// list_checks lists the checks with their arguments and what they accept.
 std::string list_checks(const Selection& selection, const Look& look);
 
 // reference returns the pages of the checks in Markdown.

@@ -10,7 +10,7 @@
 
 namespace ostrel::tool {
 
-// write_hazards says what an accepted value of each argument may contain.
+// write_hazards writes what an accepted value of each argument may contain.
 void write_hazards(Page& page, const catalogue::Function& function);
 
 // add_hazards adds the members "may_contain" and "may_contain_after" to an argument that is a text.

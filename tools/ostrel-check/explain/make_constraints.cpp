@@ -1,6 +1,7 @@
-// make_constraints FILE: writes a source that holds what follows from the descriptions of rules/ for programs and forms.
+// make_constraints FILE: writes a source file with constraints that follow from the descriptions of rules/, for
+// programs and forms.
 //
-// It takes longer than a command may, so it is run by the build.
+// The build runs it, because it is too slow for a command.
 
 #include <algorithm>
 #include <array>
@@ -113,7 +114,7 @@ ordered_json json_of(const Constraints& constraints, const rules::Check& check)
     return result;
 }
 
-// definition_of says in the words of JSON Schema what a text must be.
+// definition_of returns the JSON Schema definition of a text.
 ordered_json definition_of(const Constraints& constraints, const rules::Argument& argument)
 {
     const Form& form = constraints.form;
@@ -137,7 +138,7 @@ ordered_json definition_of(const Constraints& constraints, const rules::Argument
     return result;
 }
 
-// judges_text tells whether an argument is a text, and all that the check is given.
+// judges_text returns whether an argument is a text and the only input of the check.
 bool judges_text(const rules::Check& check, std::size_t argument)
 {
     using Kind = rules::Argument::Kind;

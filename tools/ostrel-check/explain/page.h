@@ -1,4 +1,4 @@
-// Page: what is said of a check, for a terminal or in Markdown.
+// Page: the text about a check, for a terminal or in Markdown.
 #ifndef OSTREL_TOOLS_EXPLAIN_PAGE_H
 #define OSTREL_TOOLS_EXPLAIN_PAGE_H
 
@@ -23,7 +23,8 @@ class Page {
     void item(std::string_view label, std::string_view text);
     void detail(std::string_view text);  // of the last item
 
-    // Steps may be nested. note and line belong to the last step of that depth; line is what is printed.
+    // Steps may be nested. note and line belong to the last step of that depth. line shows a line that the check
+    // prints.
     void step(std::size_t depth, std::string_view number, std::string_view text);
     void note(std::size_t depth, std::string_view text);
     void line(std::size_t depth, std::string_view label, std::string_view text);
@@ -38,10 +39,10 @@ class Page {
     std::string text_;
 };
 
-// in_markdown escapes what has a meaning in Markdown.
+// in_markdown escapes characters that have a meaning in Markdown.
 std::string in_markdown(std::string_view text);
 
-// as_code puts any text between back quotes.
+// as_code encloses any text in back quotes.
 std::string as_code(std::string_view text);
 
 }  // namespace ostrel::tool

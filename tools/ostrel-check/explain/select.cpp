@@ -10,7 +10,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// said_of is what is searched, with a line end between what does not belong together.
+// said_of returns the text to search, with a line end between unrelated parts.
 std::string said_of(const catalogue::Function& function)
 {
     std::string text(function.name);

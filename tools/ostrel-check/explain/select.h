@@ -1,4 +1,4 @@
-// Select: checks that are found by words.
+// Select: finds checks by words.
 #ifndef OSTREL_TOOLS_EXPLAIN_SELECT_H
 #define OSTREL_TOOLS_EXPLAIN_SELECT_H
 
@@ -12,8 +12,8 @@ namespace ostrel::tool {
 
 using Selection = std::vector<const catalogue::Function*>;
 
-// select returns the checks of that family, or of all where it is empty, that have each of the patterns in their name,
-// in what they accept, or in the name or the description of an argument. Case does not matter.
+// select returns the checks of that family, or of all families if it is empty, that contain each of the patterns in
+// their name, in what they accept, or in the name or the description of an argument. It ignores case.
 Selection select(std::string_view family, const std::vector<std::string>& patterns);
 
 }  // namespace ostrel::tool

@@ -12,9 +12,9 @@
 
 namespace ostrel::tool {
 
-// StandIn answers in place of the driver as long as it lives: its own wlctl is the first on PATH and lists the
-// channels. A user who cannot write the driver's answer to /var gets a /var of this process's own.
-// Throws std::invalid_argument for a list that holds anything but numbers and blanks.
+// StandIn replaces the driver during its lifetime: its own wlctl is the first on PATH and lists the channels. If the
+// user may not write the driver's answer to /var, the process gets a private /var. Throws std::invalid_argument if
+// the list contains anything but numbers and blanks.
 class StandIn {
  public:
     explicit StandIn(std::string_view channels);
@@ -22,7 +22,7 @@ class StandIn {
     StandIn& operator=(const StandIn&) = delete;
     ~StandIn();
 
-    // problem says why it cannot answer; it is empty where it can.
+    // problem returns why StandIn cannot answer, or an empty text if it can.
     [[nodiscard]] const std::string& problem() const { return problem_; }
 
  private:
@@ -32,8 +32,8 @@ class StandIn {
     std::string problem_;
 };
 
-// Turn waits until no other process runs a check that asks the driver: such a check uses a file of one fixed
-// name. For any other check it does nothing. still_waiting is called again and again.
+// Turn waits until no other process runs a check that queries the driver, because such a check uses a file with a
+// fixed name. For any other check it does nothing. It calls still_waiting repeatedly while it waits.
 class Turn {
  public:
     explicit Turn(
@@ -43,14 +43,14 @@ class Turn {
     Descriptor lock_;
 };
 
-// Heard is what the driver answered in a call.
+// Heard is the driver's answer in a call.
 struct Heard {
     std::vector<int> channels;
-    std::string said;     // on standard error, by the driver's tool or by the shell
+    std::string said;     // standard error of the driver's tool or of the shell
     std::string problem;  // why there is no list; empty: there is one
 };
 
-// Listening records what the driver answers until heard(); a check is called in between.
+// Listening records the driver's answers until heard(). A check is called in between.
 class Listening {
  public:
     Listening();
@@ -69,7 +69,7 @@ class Listening {
     Descriptor standard_error_;
 };
 
-// clean_up_after removes the files of a check that was stopped while it asked the driver.
+// clean_up_after removes the files of a check that was stopped while it queried the driver.
 void clean_up_after(const catalogue::Function& function);
 
 }  // namespace ostrel::tool

@@ -31,7 +31,7 @@ std::size_t position_of(const catalogue::Function& function)
     return static_cast<std::size_t>(&function - catalogue::functions().data());
 }
 
-// functions_that lists, by their position in the catalogue, those for which something holds.
+// functions_that returns whether a condition holds, for each function of the catalogue.
 std::vector<bool> functions_that(bool (*holds)(const rules::Check&))
 {
     std::vector<bool> result;
@@ -40,7 +40,7 @@ std::vector<bool> functions_that(bool (*holds)(const rules::Check&))
     return result;
 }
 
-// is_explained tells that the description comes to the same end as the call did.
+// is_explained returns whether the description predicts the outcome of the call.
 bool is_explained(const Result& result, const Answer& answer)
 {
     using rules::Outside;
@@ -141,7 +141,7 @@ void explain_lack(Result& result, const Record& record)
 
 namespace {
 
-// write_lack says why there was no call, although nothing is wrong with the record.
+// write_lack writes why there was no call although the record is correct.
 void write_lack(JsonWriter& json, const Result& result)
 {
     const Record& record = *result.record;

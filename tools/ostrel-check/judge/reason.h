@@ -1,4 +1,4 @@
-// Reason: why a check refused, or ended its process, by the description of the check.
+// Reason: why a check refused, or ended its process, according to the description of the check.
 #ifndef OSTREL_TOOLS_JUDGE_REASON_H
 #define OSTREL_TOOLS_JUDGE_REASON_H
 
@@ -13,29 +13,31 @@
 
 namespace ostrel::tool {
 
-// gateway is the build that this program belongs to. It may be told what the wireless driver lists.
+// gateway returns the build that this program belongs to. The caller may set the channels that the wireless driver
+// lists.
 rules::Build& gateway();
 
-// explain sets the reason of a result that is neither an acceptance nor an answer, by the description of its check.
+// explain sets the reason of a result that is neither an acceptance nor an answer, from the description of its check.
 void explain(Result& result);
 
-// is_known_not_to_return tells that the description says so of a call. Where it does, answer_at_once sets the verdict.
+// is_known_not_to_return returns whether, according to the description, a call does not return. If so, answer_at_once
+// sets the verdict.
 bool is_known_not_to_return(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 void answer_at_once(Result& result);
 
-// asks_driver tells that the wireless driver is asked in a call.
+// asks_driver returns whether a call queries the wireless driver.
 bool asks_driver(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 
-// blame_driver sets the verdict on a call for which the driver returned no list, with the reason.
+// blame_driver sets the verdict and the reason of a call for which the driver returned no list.
 void blame_driver(Result& result, std::string_view problem);
 
-// explain_by_driver sets the reason of a result by what the driver answered in the call.
+// explain_by_driver sets the reason of a result from the driver's answer in the call.
 void explain_by_driver(Result& result, const Heard& heard);
 
 // write_reasons adds the members "reason" and "remarks" to an object.
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding);
 
-// explain_lack sets the reason of a record for which no call could be made, although nothing is wrong with it.
+// explain_lack sets the reason of a record for which no call could be made although the record is correct.
 void explain_lack(Result& result, const Record& record);
 
 }  // namespace ostrel::tool

@@ -15,10 +15,10 @@ using rules::length_shown;
 
 namespace {
 
-// A shorter secret is in too many texts that do not hold it.
+// A shorter secret occurs by chance in too many texts.
 constexpr std::size_t kShortestSought = 4;
 
-// arguments_of lists the arguments that the values of a case belong to: those that are only written may be left out.
+// arguments_of returns the argument of each value of a case. Arguments that are only written may have been omitted.
 std::vector<const rules::Argument*> arguments_of(const Result& result)
 {
     const catalogue::Function& function = *result.function;
@@ -79,7 +79,7 @@ void Redactor::find_secrets(const Result& result, Encoding encoding)
     }
     std::erase_if(secrets_, [](const std::string& secret) { return secret.empty(); });
     if (encoding == Encoding::kUtf8) return;
-    // What is passed through is in UTF-8.
+    // Members that are passed through are in UTF-8.
     const std::size_t count = secrets_.size();
     for (std::size_t i = 0; i < count; ++i) secrets_.push_back(utf8_of(secrets_[i], encoding));
 }
@@ -126,7 +126,7 @@ void Redactor::redact_lines(Result& result)
         if (printed.empty()) shown.clear();
         printed = shown;
     };
-    // The C library's report of an assertion names the condition alone.
+    // The C library's report of an assertion contains only the condition, not the values.
     const bool is_assertion = result.verdict == Verdict::kEnded && told.err.empty() &&
                               result.printed.err.find("Assertion `") != std::string_view::npos &&
                               !mentions_secret(result.printed.err);

@@ -12,12 +12,13 @@
 
 namespace ostrel::tool {
 
-// Redactor shows the length of each secret value in its place. It holds the texts of the result that it changed last.
+// Redactor replaces each secret value by its length. It owns the texts of the result that it changed last.
 class Redactor {
  public:
-    // redact takes the secrets out of a result that has its reason: out of values, lines, what was written, the reason,
-    // and the members that are passed through. Lines that the description does not tell are replaced whole. Of a
-    // malformed record only the id and the parameter are passed through: which of the others is a secret is not known.
+    // redact removes the secrets from a result that already has its reason: from values, lines, written arguments,
+    // the reason, and the members that are passed through. It replaces the whole output to a stream if the
+    // description does not predict it. For a malformed record it passes through only the id and the parameter,
+    // because any other member may be a secret.
     void redact(Result& result, Encoding encoding);
 
  private:
@@ -37,7 +38,7 @@ class Redactor {
     std::deque<std::string> members_;  // that were replaced
 };
 
-// without_quotations is a message about a line that could not be read, up to what it quotes of the line.
+// without_quotations returns a message about an unreadable line, cut off before its quotation of the line.
 std::string without_quotations(std::string_view problem);
 
 }  // namespace ostrel::tool

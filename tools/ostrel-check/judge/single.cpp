@@ -24,13 +24,13 @@ using calling::Caller;
 
 namespace {
 
-// One-byte messages from the process of the check to the one that waits.
+// One-byte messages from the process of the check to the process that waits for it.
 constexpr std::string_view kReturnMark = "r";
 constexpr std::string_view kAssertionMark = "a";
 
 constexpr std::size_t kHanging = 2;
 
-// Marker marks what the library prints as it arrives, to distinguish it from the messages of this program.
+// Marker marks the library's output as it arrives, to distinguish it from the messages of this program.
 class Marker {
  public:
     explicit Marker(int descriptor)
@@ -84,7 +84,7 @@ Marker& marker_of(int descriptor)
     return descriptor == STDOUT_FILENO ? out : error;
 }
 
-// pass_on returns what the C library expects of a stream; it must not throw.
+// pass_on returns what the C library expects of a stream. It must not throw.
 ssize_t pass_on(int descriptor, std::string_view text)
 {
     try {
@@ -105,15 +105,15 @@ ssize_t print_error(void* news, const char* bytes, std::size_t size)
     return pass_on(STDERR_FILENO, {bytes, size});
 }
 
-// watch_output passes on what is printed as it arrives. The verdict begins on a line of its own, and an assertion
-// is distinguished from any other abort.
+// watch_output passes on output as it arrives. It tracks whether a line has begun, for the verdict that follows, and
+// distinguishes an assertion from any other abort.
 void watch_output(const Descriptor& news)
 {
     stdout = calling::open_stream(print, nullptr, isatty(STDOUT_FILENO) == 1 ? _IOLBF : _IOFBF);
     stderr = calling::open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
 }
 
-// verdict_line is the verdict, its first word in colour at a terminal.
+// verdict_line returns the verdict. Its first word is coloured at a terminal.
 std::string verdict_line(const Result& result)
 {
     std::string text;
@@ -125,7 +125,7 @@ std::string verdict_line(const Result& result)
            text.substr(end);
 }
 
-// call_check calls and finds the reason.
+// call_check makes the call and finds the reason.
 void call_check(Caller& caller, Result& result, const Descriptor& news)
 {
     std::optional<Listening> listening;
@@ -156,7 +156,7 @@ void call_check(Caller& caller, Result& result, const Descriptor& news)
     _exit(exit_code(result.verdict));
 }
 
-// wait_for_news waits for a byte of the check's process: nothing comes when it has ended or the time is over.
+// wait_for_news waits for a byte from the check's process, until the process has ended or the time is over.
 enum class News { kReturned, kAsserted, kEnded, kNone };
 
 News wait_for_news(const Descriptor& news, double seconds)

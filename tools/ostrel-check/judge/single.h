@@ -1,4 +1,4 @@
-// Single: one case, judged in a process of its own, with the check's own lines as they come.
+// Single: judges one case in a separate process, and prints the check's lines as they arrive.
 #ifndef OSTREL_TOOLS_JUDGE_SINGLE_H
 #define OSTREL_TOOLS_JUDGE_SINGLE_H
 
@@ -9,15 +9,15 @@
 
 namespace ostrel::tool {
 
-// Manner is how one case is judged.
+// Manner controls how one case is judged.
 struct Manner {
     double limit = 2;            // seconds that the call may take
     bool tries_known = false;    // also a call that is known not to return
     std::string driver_problem;  // why --channels could not replace the wireless driver; or empty
 };
 
-// judge_one judges the values, prints the verdict and returns the exit code. Throws std::invalid_argument, with
-// a message for the user, for values that the check does not take.
+// judge_one judges the values, prints the verdict and returns the exit code. Throws std::invalid_argument, with a
+// message for the user, if the values do not match the check's arguments.
 int judge_one(const catalogue::Function& function, std::span<const std::string> words, const Manner& manner);
 
 }  // namespace ostrel::tool

@@ -44,7 +44,7 @@ std::uint64_t Tally::sum() const { return std::accumulate(counts.begin(), counts
 
 void Result::clear()
 {
-    // Most results have no reason, and making one anew takes time.
+    // Most results have no reason, and resetting one takes time.
     if (!why.text.empty() || !why.reason.id.empty()) why = Why();
     verdict = Verdict::kMalformed;
     function = nullptr;

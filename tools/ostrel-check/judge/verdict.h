@@ -1,4 +1,4 @@
-// Verdict: what became of a case.
+// Verdict: the outcome of a case.
 #ifndef OSTREL_TOOLS_JUDGE_VERDICT_H
 #define OSTREL_TOOLS_JUDGE_VERDICT_H
 
@@ -33,11 +33,12 @@ inline constexpr std::size_t kVerdicts = 7;
 std::string_view name_of(Verdict verdict);
 std::string_view json_name(Verdict verdict);
 
-// has_code tells that what the check returned says something of the value, is_code that it is a result code.
+// has_code returns whether the result of the check is an outcome for the value, and is_code whether it is a result
+// code.
 bool has_code(Verdict verdict);
 bool is_code(Verdict verdict);
 
-// The exit codes, of which the highest wins.
+// The exit codes. The highest one wins.
 inline constexpr int kExitAccepted = 0;
 inline constexpr int kExitRefused = 1;
 inline constexpr int kExitUsage = 2;
@@ -58,34 +59,34 @@ struct Tally {
     [[nodiscard]] std::uint64_t sum() const;
 };
 
-// Why is the reason of a refusal, or of a call that did not come back.
+// Why is the reason for a refusal, or for a call that did not return.
 struct Why {
     std::string text;  // in a sentence; empty: the reason is not known
     rules::Reason reason;
     std::vector<rules::Reason> remarks;  // reasons of the steps that printed and did not decide, in order
 };
 
-// Result is a case and what became of it. The views belong to whoever made it.
+// Result is a case and its outcome. It does not own the memory of its views.
 struct Result {
     Verdict verdict = Verdict::kMalformed;
     const catalogue::Function* function = nullptr;  // NULL: malformed
     const std::vector<catalogue::Value>* values = nullptr;
     const Record* record = nullptr;  // NULL: none
     int code = 0;
-    std::string problem;  // malformed, ended or not returned: in words
+    std::string problem;  // describes a malformed case, or a call that ended or did not return
     calling::PrintedView printed;
     std::vector<calling::Written> after;
     bool is_tried = true;  // the check was called
     Why why = {};
 
-    // clear makes it ready for the next case.
+    // clear prepares for the next case.
     void clear();
 };
 
 // judge sets the verdict on a call that returned.
 void judge(Result& result, int code);
 
-// describe says the verdict in a line: "refused: 802, too long (has 34 bytes; at most 32 are allowed)".
+// describe returns the verdict as a line: "refused: 802, too long (has 34 bytes; at most 32 are allowed)".
 std::string describe(const Result& result);
 
 }  // namespace ostrel::tool
