@@ -20,10 +20,10 @@ using rules::Language;
 using rules::Languages;
 using Kind = Difference::Kind;
 
-// Gateway is what the description says of the values that the check accepts.
+// Gateway describes the texts that the check accepts and refuses, according to its description.
 struct Gateway {
-    Language accepted;  // every text that can be accepted is of it
-    Language refused;   // every text that can be refused is of it
+    Language accepted;  // contains every text that can be accepted
+    Language refused;   // contains every text that can be refused
     bool is_decided = false;
 };
 
@@ -82,7 +82,7 @@ class Comparer {
         return {claim.holds, claim.fails, claim.is_decided};
     }
 
-    // is_of tells whether a value would show a difference of that kind, were it judged so.
+    // is_of returns whether a value with such an outcome would be a difference of that kind.
     bool is_of(Kind kind, const std::string& value)
     {
         const bool is_ascii = std::ranges::all_of(value, [](unsigned char c) { return c < 0x80; });
@@ -98,7 +98,7 @@ class Comparer {
         return languages_.contains(standard_.foreign, value);
     }
 
-    // is_allowed_utf8 is for texts that are a character again and again.
+    // is_allowed_utf8 expects a text that repeats one character.
     bool is_allowed_utf8(const std::string& value)
     {
         if (!standard_.is_text || !facts_.keywords.empty()) return false;
@@ -131,7 +131,7 @@ class Comparer {
         return found;
     }
 
-    // search follows the description to a text; a description that leaves something open may lead astray.
+    // search derives texts from the description. If the description is incomplete, they may show no difference.
     std::optional<Difference> search(Kind kind)
     {
         constexpr int kMostTexts = 8;
@@ -155,7 +155,7 @@ class Comparer {
     bool is_proved_none_refused()
     {
         if (!gateway_.is_decided || has_others_ || !standard_.is_known) return false;
-        // Numbers beyond an int are read as other numbers.
+        // A number that does not fit in an int is read as a different number.
         const bool has_beyond =
             facts_.type == "unsignedInt" &&
             languages_.contains(standard_.values, std::to_string(std::numeric_limits<unsigned>::max()));
@@ -171,7 +171,7 @@ class Comparer {
             languages_, languages_.both({form, gateway_.accepted, languages_.negated(standard_.least)}));
     }
 
-    // usual_values are what people would try first.
+    // usual_values returns the values that people would try first.
     std::vector<std::string> usual_values()
     {
         std::vector<std::string> values = {"1x", ""};

@@ -1,4 +1,4 @@
-// Comparison of what a data model allows with what the gateway's check accepts.
+// Comparison of the values that a data model allows with those that the gateway's check accepts.
 #ifndef OSTREL_TOOLS_MAP_COMPARE_H
 #define OSTREL_TOOLS_MAP_COMPARE_H
 
@@ -13,18 +13,18 @@
 
 namespace ostrel::tool {
 
-// Relation is that of the values that the check accepts to those that the model allows.
+// Relation compares the values that the check accepts with those that the model allows.
 enum class Relation {
     kSame,
     kNarrower,  // the check refuses some that are allowed
     kWider,     // it accepts some that are not allowed
     kOther,     // both
-    kUnknown,   // no difference was found, and it is not proved that there is none
+    kUnknown,   // no difference was found, but equality is not proved
 };
 
 std::string_view name_of(Relation relation);
 
-// Difference is a value on which the two disagree. The library has judged it.
+// Difference is a value on which the model and the check disagree, confirmed by a call of the library.
 struct Difference {
     enum class Kind {
         kRefused,   // allowed and refused
@@ -42,14 +42,15 @@ struct Comparison {
     const MapEntry* entry = nullptr;
     const ModelFacts* facts = nullptr;
     Relation relation = Relation::kUnknown;
-    // No difference is left of the two kinds that relation speaks of but those that it says there are.
+    // is_proved means that the kinds kRefused and kAccepted have no differences other than those that relation
+    // states.
     bool is_proved = false;
     std::vector<Difference> differences = {};  // at most one of each kind
     std::size_t tried = 0;                     // values that were judged
 };
 
-// compare judges with the library, in processes of its own. Throws std::invalid_argument where the map's entry lacks
-// what a comparison needs.
+// compare calls the library in separate processes. Throws std::invalid_argument if the map's entry lacks data that a
+// comparison needs.
 Comparison compare(const Map& map, const MapEntry& entry, const ModelFacts& facts);
 
 }  // namespace ostrel::tool

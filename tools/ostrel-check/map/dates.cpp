@@ -26,7 +26,7 @@ Language number_of_two(Languages& languages, int low, int high)
     return languages.words(words, false);
 }
 
-// days has the days of the calendar.
+// days returns the days of the calendar.
 Language days(Languages& languages)
 {
     const Language year = languages.both({digits(languages, 4), languages.negated(languages.text("0000"))});

@@ -1,4 +1,4 @@
-// Dates and times as XML Schema writes them.
+// Dates and times in the notation of XML Schema.
 #ifndef OSTREL_TOOLS_MAP_DATES_H
 #define OSTREL_TOOLS_MAP_DATES_H
 
@@ -6,8 +6,8 @@
 
 namespace ostrel::tool {
 
-// date_times has the days of the calendar from the year 1 to 9999 with a time, which may have a fraction of a second
-// and a zone.
+// date_times returns the days of the calendar from the year 1 to 9999 with a time, which may have a fraction of a
+// second and a time zone.
 rules::Language date_times(rules::Languages& languages);
 
 }  // namespace ostrel::tool

@@ -15,7 +15,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-// Position counts the lines that a parser has gone through.
+// Position counts the lines that a parser has read.
 class Position {
  public:
     using iterator_category = std::input_iterator_tag;
@@ -39,7 +39,7 @@ class Position {
     std::size_t* line_;
 };
 
-// Places follows a parser and notes where each part begins.
+// Places records the line where each part begins, as a parser reads it.
 class Places {
  public:
     Places(const std::size_t& line, std::map<std::string, std::size_t>& lines) : line_(line), lines_(lines) {}
@@ -132,7 +132,7 @@ Document::Document(std::string file) : file_(std::move(file))
                                         return true;
                                     });
     } catch (const ordered_json::parse_error& error) {
-        // What comes before the colon is the parser's own numbering.
+        // The text before the first colon is the parser's own numbering.
         const std::string_view message = error.what();
         const std::size_t colon = message.find(": ");
         throw std::invalid_argument(

@@ -59,7 +59,7 @@ const Member& Dump::require(std::string_view name) const
     return *member;
 }
 
-// path_name is the name of the column or member that a row has its path in; empty: there is none.
+// path_name returns the name of the column or member with the path of a row, or an empty text if there is none.
 std::string_view Dump::path_name() const
 {
     if (!reading_.parameter.empty()) return reading_.parameter;
@@ -71,7 +71,7 @@ std::string_view Dump::path_name() const
 
 void Dump::read_json(std::string_view text)
 {
-    // What follows the object belongs to the array that it is in.
+    // The text after the object belongs to the enclosing array.
     const std::size_t end = text.rfind('}');
     if (end == std::string_view::npos) {
         const bool is_blank = text.find_first_not_of(" \t\r\n") == std::string_view::npos;
@@ -90,7 +90,7 @@ void Dump::read_json(std::string_view text)
     }
     path_ = require(name).value;
     if (json_.size() == 1 && json_.parameter(0).path == value) {
-        value_ = json_.parameter(0).value;  // it was given as base64
+        value_ = json_.parameter(0).value;  // it was in base64
     } else {
         value_ = json_.bytes_of(require(value));
         std::erase_if(record_.members, [&](const Member& one) { return one.name == value; });

@@ -14,29 +14,31 @@
 
 namespace ostrel::tool {
 
-// plain_reading is how the rows are read that a map is for.
+// plain_reading returns the settings for reading the rows that a map applies to.
 Reading plain_reading(const Reading& reading);
 
-// Dump reads a text of a file after the other: a row of CSV, or an object of JSON, which is a row or all of a gateway.
+// Dump reads the texts of a file one after another. A text is a row of CSV, or an object of JSON, which is a row or a
+// whole gateway.
 class Dump {
  public:
     // Throws std::invalid_argument with a message for the user.
     Dump(FileFormat format, const Reading& reading, std::string_view preamble);
 
-    // next is that of the file's reader.
+    // next does the same as the file's reader.
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
-    // read reads a text, whose rows are returned then. Throws std::invalid_argument with a message for the user, after
-    // which there is no row.
+    // read reads a text, and next_row then returns its rows. Throws std::invalid_argument with a message for the
+    // user. In that case there are no rows.
     void read(std::string_view text);
 
-    // next_row returns a row of the text; line is left as it is. It holds until the next one.
+    // next_row stores the next row of the text except its line, or returns false. The row is valid until the next
+    // call.
     bool next_row(DumpRow& row);
 
-    // is_whole_gateway tells that the text was all of a gateway.
+    // is_whole_gateway returns whether the text was a whole gateway.
     [[nodiscard]] bool is_whole_gateway() const { return is_whole_gateway_; }
 
-    // gateway is what the row's column of gateways holds.
+    // gateway returns the content of the row's gateway column.
     [[nodiscard]] std::string_view gateway() const { return gateway_; }
 
  private:

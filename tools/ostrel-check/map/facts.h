@@ -1,4 +1,4 @@
-// Facts: what a data model says of its parameters.
+// Facts: what a data model states about its parameters.
 #ifndef OSTREL_TOOLS_MAP_FACTS_H
 #define OSTREL_TOOLS_MAP_FACTS_H
 
@@ -11,15 +11,15 @@
 
 namespace ostrel::tool {
 
-// Range has two ends, of which either may be missing.
+// Range has two ends, either of which may be missing.
 struct Range {
     std::optional<long long> low;
     std::optional<long long> high;
 };
 
 struct ModelFacts {
-    std::string type;    // as the model has it; "string" for "list of string"
-    std::string limits;  // as the model has them
+    std::string type;    // as in the model; "string" for "list of string"
+    std::string limits;  // as in the model
     bool is_list = false;
     bool is_hidden = false;  // read back as an empty text
     bool is_writable = false;

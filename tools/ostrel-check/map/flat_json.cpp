@@ -53,7 +53,7 @@ bool FlatJson::start(bool is_array)
     return true;
 }
 
-// enter adds a name to the path, or the number of the element.
+// enter appends a name, or the number of the element, to the path.
 void FlatJson::enter(std::string_view name)
 {
     Level& level = levels_.back();

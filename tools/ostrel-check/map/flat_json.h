@@ -1,4 +1,4 @@
-// FlatJson: the values of an object of JSON, each with its path.
+// FlatJson: the values of a JSON object, each with its path.
 #ifndef OSTREL_TOOLS_MAP_FLAT_JSON_H
 #define OSTREL_TOOLS_MAP_FLAT_JSON_H
 
@@ -16,15 +16,15 @@
 
 namespace ostrel::tool {
 
-// A value that is directly in the object under a name without "." is a member. Every other value is a parameter: its
-// path is made of the names that lead to it and, for an element of an array, of its number from 1. null is not a value;
-// {"base64": text} is the bytes.
+// A value that is directly in the object under a name without "." is a member. Every other value is a parameter. Its
+// path consists of the names that lead to it and, for an element of an array, the element's number from 1. null is
+// not a value, and {"base64": text} is its decoded bytes.
 class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson> {
  public:
     explicit FlatJson(Encoding encoding) : encoding_(encoding) {}
 
-    // read reads an object. What it returns holds until the next one. Throws std::invalid_argument with a message for
-    // the user.
+    // read reads an object. The results are valid until the next object. Throws std::invalid_argument with a message
+    // for the user.
     void read(std::string_view text);
 
     struct Parameter {
@@ -35,7 +35,7 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
     [[nodiscard]] Parameter parameter(std::size_t index) const;
     [[nodiscard]] const std::vector<Member>& members() const { return members_; }
 
-    // bytes_of is the value of a member.
+    // bytes_of returns the value of a member.
     [[nodiscard]] std::string_view bytes_of(const Member& member);
 
     // The base class calls these, and has its own versions of the others.
@@ -61,7 +61,7 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
     struct Level {
         bool is_array;
         std::size_t count;      // of elements
-        std::size_t path_size;  // of what leads to it
+        std::size_t path_size;  // of the path to it
     };
     struct Offsets {  // in texts_
         std::size_t path;

@@ -1,4 +1,4 @@
-// Reading a map: each problem is told with the file, the line and the place.
+// Reading a map, with messages that contain the file, the line and the place of a problem.
 #ifndef OSTREL_TOOLS_MAP_LOAD_H
 #define OSTREL_TOOLS_MAP_LOAD_H
 
@@ -9,8 +9,8 @@
 
 namespace ostrel::tool {
 
-// load_map reads a map, whose texts become bytes of that encoding where they are compared with values or passed. Throws
-// std::invalid_argument with the file, the line and the place of what is wrong.
+// load_map reads a map. Texts that are compared with values or passed are converted to that encoding. Throws
+// std::invalid_argument with the file, the line and the place of a problem.
 Map load_map(const std::string& file, Encoding encoding);
 
 }  // namespace ostrel::tool

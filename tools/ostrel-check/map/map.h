@@ -24,14 +24,14 @@ struct TextHash {
 template <typename T>
 using ByText = std::unordered_map<std::string, T, TextHash, std::equal_to<>>;
 
-// WordTable says what is passed for a value of the model.
+// WordTable contains the text that is passed for each value of the model.
 using WordTable = ByText<std::string>;
 
-// Source is where an argument comes from.
+// Source defines where the value of an argument comes from.
 struct Source {
     enum class Kind {
         kValue,     // the parameter itself
-        kSibling,   // other parameters of the same gateway; of several, each is one of the argument's texts
+        kSibling,   // other parameters of the same gateway; if several, each is one of the argument's texts
         kConstant,  // always the same text
     };
     Kind kind = Kind::kValue;
@@ -46,22 +46,22 @@ struct MapEntry {
     PathPattern path;
     const catalogue::Function* function = nullptr;
     std::vector<Source> sources = {};       // of each argument that must be given, in order
-    std::vector<std::string> skipped = {};  // values that say nothing
+    std::vector<std::string> skipped = {};  // values that carry no information
     std::vector<std::string> tried = {};    // values for comparisons
     std::string because = {};
     std::size_t call = 0;   // entries of one number make the same call, each for another of its parameters
     std::size_t line = 0;   // of the map's file
-    std::size_t value = 0;  // the argument that the value is; where it is none, the number of arguments
-    bool has_siblings = false;  // so that all of a gateway must be known before the call
+    std::size_t value = 0;  // index of the value among the arguments, or their number if it is none
+    bool has_siblings = false;  // the whole gateway must be known before the call
 };
 
 struct NotMapped {
     std::string path;
-    std::string check;  // that has a name like it; may be empty
+    std::string check;  // a check with a similar name; may be empty
     std::string because;
 };
 
-// KnownPath is what a map says of the paths that have a general form in common.
+// KnownPath is the map's information about the paths with one general form.
 struct KnownPath {
     std::vector<std::size_t> entries = {};
     bool is_sibling = false;  // other parameters may need it
@@ -70,7 +70,7 @@ struct KnownPath {
 struct Map {
     std::string file;
     std::string about;
-    std::string root;   // what all paths begin with
+    std::string root;   // the prefix of all paths
     std::string facts;  // the path of the file of facts; empty: none
     std::vector<MapEntry> entries;
     std::vector<NotMapped> not_mapped;

@@ -17,7 +17,7 @@ MapCutter::MapCutter(FileFormat format, const Reading& reading)
 Cut MapCutter::cut(std::string_view bytes, bool is_end)
 {
     const std::size_t all = bytes.size();
-    // What the file's cutter has cut off is not given to it again.
+    // The file's cutter must not receive the bytes again that it has cut off.
     Cut cut = cutter_->cut(bytes.substr(whole_), is_end);
     if (cut.preamble > 0) {
         preamble_ = bytes.substr(whole_ + cut.dropped, cut.preamble);
@@ -47,7 +47,7 @@ Cut MapCutter::cut(std::string_view bytes, bool is_end)
     return cut;
 }
 
-// look goes through the rows that are new, and notes where the last gateway begins.
+// look reads the new rows, and records where the last gateway begins.
 void MapCutter::look(std::string_view bytes)
 {
     if (seen_ == bytes.size()) return;
@@ -55,7 +55,7 @@ void MapCutter::look(std::string_view bytes)
         try {
             dump_ = std::make_unique<Dump>(format_, *reading_, preamble_);
         } catch (const std::invalid_argument&) {
-            seen_ = begin_ = bytes.size();  // every reader will say so
+            seen_ = begin_ = bytes.size();  // every reader will report it
             return;
         }
     }
@@ -67,7 +67,7 @@ void MapCutter::look(std::string_view bytes)
     }
 }
 
-// read_text skips what cannot be read; the worker reports the error.
+// read_text skips text that cannot be read; the worker reports the error.
 void MapCutter::read_text(std::string_view text)
 {
     try {

@@ -1,4 +1,4 @@
-// MapCutter: cuts a file after whole gateways, and counts what the map does not know.
+// MapCutter: cuts a file after whole gateways, and counts the gateways whose rows are not adjacent.
 #ifndef OSTREL_TOOLS_MAP_MAP_CUTTER_H
 #define OSTREL_TOOLS_MAP_MAP_CUTTER_H
 
@@ -32,10 +32,10 @@ class MapCutter : public Cutter {
     std::string preamble_;
     std::unique_ptr<Dump> dump_;
     std::string gateway_;
-    bool is_in_gateway_ = false;  // rows of it have been seen, and more may come
+    bool is_in_gateway_ = false;  // rows of it have been seen, and more may follow
     std::size_t whole_ = 0;       // bytes at the front that are whole texts
-    std::size_t seen_ = 0;        // bytes at the front that were looked at
-    std::size_t begin_ = 0;       // where the gateway that is not complete begins
+    std::size_t seen_ = 0;        // bytes at the front that have been read
+    std::size_t begin_ = 0;       // where the incomplete gateway begins
 };
 
 }  // namespace ostrel::tool

@@ -1,4 +1,4 @@
-// MapReader: the calls that a map makes of a dump, as a Reader returns records.
+// MapReader: a Reader whose records are the calls that a map makes from a dump.
 #ifndef OSTREL_TOOLS_MAP_MAP_READER_H
 #define OSTREL_TOOLS_MAP_MAP_READER_H
 
@@ -12,7 +12,8 @@
 
 namespace ostrel::tool {
 
-// A text is a chunk of a file, of whole gateways. Its records are the calls; the last one is followed by nothing.
+// MapReader takes a whole chunk of a file, which contains only whole gateways, as one text. After the last record of
+// a text, read returns Found::kNothing.
 class MapReader : public Reader {
  public:
     // The map must outlive the reader. Throws std::invalid_argument with a message for the user.
@@ -26,12 +27,13 @@ class MapReader : public Reader {
     // skip skips whole gateways.
     std::size_t skip(std::string_view rest, std::uint64_t line) override;
 
-    // read goes on where it was, or begins again: a worker may have to go on where another one ended. Nothing is
-    // thrown: what is wrong with a row is its record's problem, and the next row is read.
+    // read continues at its position, or starts again if necessary, because a worker may have to continue where
+    // another one ended. It does not throw: a fault of a row becomes the problem of its record, and the next row is
+    // read.
     Found read(std::string_view text, std::size_t part, Record& record) override;
 
  private:
-    // Next is what comes next of a text.
+    // Next is the next event in a text.
     enum class Next { kRow, kGatewayEnd, kProblem, kNothing };
 
     void begin(std::string_view text);
@@ -51,16 +53,16 @@ class MapReader : public Reader {
     std::string gateway_;
     bool is_in_gateway_ = false;
     bool is_whole_gateway_ = false;  // and it is one text
-    bool is_ending_ = false;         // the calls at the end of the gateway are made
-    std::uint64_t end_line_ = 0;     // then: where the next one begins
-    bool has_waiting_ = false;       // a row of the next gateway waits for that
-    bool is_read_ = false;           // rows are taken of a text
+    bool is_ending_ = false;         // the calls at the end of the gateway are being made
+    std::uint64_t end_line_ = 0;     // in this case, where the next gateway begins
+    bool has_waiting_ = false;       // a row of the next gateway is waiting for the end of this one
+    bool is_read_ = false;           // rows of a text are being taken
 
     std::string_view text_;
     std::string_view rest_;
-    std::size_t begin_ = 0;  // of the row that was read last, in the text
+    std::size_t begin_ = 0;  // of the last row, in the text
     std::size_t next_part_ = 0;
-    std::uint64_t line_ = 0;  // from the begin of the text
+    std::uint64_t line_ = 0;  // from the beginning of the text
     std::uint64_t next_line_ = 0;
 };
 

@@ -1,4 +1,4 @@
-// Mapper: makes the calls of checks of the parameters of a gateway, as a map says.
+// Mapper: makes the calls of checks for the parameters of a gateway, according to a map.
 #ifndef OSTREL_TOOLS_MAP_MAPPER_H
 #define OSTREL_TOOLS_MAP_MAPPER_H
 
@@ -17,15 +17,15 @@
 
 namespace ostrel::tool {
 
-// Lack is why a call cannot be made, although nothing is wrong with the value.
+// Lack is the reason why a call cannot be made although the value is not at fault.
 struct Lack {
     std::string_view id;        // "missing_sibling" or "no_word"; empty: nothing is missing
-    std::string_view argument;  // the one that cannot be had
-    std::string parameter;      // where it should come from
+    std::string_view argument;  // the one that has no value
+    std::string parameter;      // the parameter that its value should come from
     std::string text;           // in a sentence
 };
 
-// DumpRow is a parameter of a gateway. The views need to hold until the next row is taken.
+// DumpRow is a parameter of a gateway. Its views must be valid until the next row is taken.
 struct DumpRow {
     std::string_view path;
     std::string_view value;
@@ -33,9 +33,9 @@ struct DumpRow {
     std::span<const Member> members = {};  // that results repeat
 };
 
-// A mapper is given the rows of one gateway after the other. Calls of one parameter come at once, and so does a
-// parameter without a check; calls that need other parameters too come at the gateway's end, in the order of their rows.
-// It keeps what belongs to one gateway.
+// Mapper takes the rows of one gateway after another. It makes calls that need one parameter, and reports a parameter
+// without a check, immediately. It makes calls that need other parameters too at the end of the gateway, in the order
+// of their rows. It stores the data of only one gateway.
 class Mapper {
  public:
     explicit Mapper(const Map& map) : map_(&map) {}
@@ -44,11 +44,11 @@ class Mapper {
     void take(const DumpRow& row);
     void end_gateway();
 
-    // next makes the next call, or false: another row is needed. The record holds until then. Where something
-    // is missing, the record has no items.
+    // next makes the next call, or returns false if it needs another row. The record is valid until the next call. If
+    // something is missing, the record has no items.
     bool next(Record& record, Lack& lack);
 
-    // counts is of the gateway, so far.
+    // counts returns the counts of the current gateway so far.
     [[nodiscard]] const GatewayCounts& counts() const { return counts_; }
 
  private:

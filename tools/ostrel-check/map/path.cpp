@@ -42,7 +42,7 @@ void PathPattern::append(std::string& out, std::span<const std::string_view> num
 
 bool PathPattern::matches(std::string_view path, std::span<const std::string_view> numbers) const
 {
-    // Only a pattern that spells a number out has fewer {i} than the path has numbers.
+    // A pattern has fewer {i} than the path has numbers only if it contains a literal number.
     if (instances() == numbers.size()) return true;
     for (std::string_view rest = text_; !rest.empty();) {
         const std::size_t dot = std::min(rest.find('.'), rest.size());
@@ -59,8 +59,8 @@ void generalise(std::string_view path, std::string& general, std::vector<std::st
 {
     general = path;
     numbers.clear();
-    // Numbers are short and rare, so that most of a path is only passed over.
-    std::size_t grown = 0;  // so much longer than the path it has become
+    // Numbers are short and rare, so most of a path is skipped.
+    std::size_t grown = 0;  // how much longer than the path it has become
     for (std::size_t begin = 0; begin < path.size(); ++begin) {
         const bool begins_name = begin == 0 || path[begin - 1] == '.';
         if (!begins_name || path[begin] < '0' || path[begin] > '9') continue;

@@ -1,4 +1,4 @@
-// Path: the names of a parameter, with {i} for the number of an instance.
+// Path: the names of a parameter, with {i} for instance numbers.
 #ifndef OSTREL_TOOLS_MAP_PATH_H
 #define OSTREL_TOOLS_MAP_PATH_H
 
@@ -10,10 +10,10 @@
 
 namespace ostrel::tool {
 
-// kInstance is in a pattern where a path has a number.
+// kInstance replaces a number of a path in a pattern.
 inline constexpr std::string_view kInstance = "{i}";
 
-// PathPattern is a path as a map has it.
+// PathPattern is a path in the notation of a map.
 class PathPattern {
  public:
     PathPattern() = default;
@@ -21,16 +21,17 @@ class PathPattern {
 
     [[nodiscard]] const std::string& text() const { return text_; }
 
-    // general is the pattern with {i} for the numbers in it too: what all paths have in common that can be meant.
+    // general returns the pattern with {i} in place of its literal numbers: the form that all matching paths have in
+    // common.
     [[nodiscard]] std::string general() const;
 
-    // instances tells how many {i} there are.
+    // instances returns the number of {i}.
     [[nodiscard]] std::size_t instances() const { return pieces_.size() - 1; }
 
-    // append writes the path with these numbers, of which it uses as many from the front as it has {i}.
+    // append appends the path with these numbers. It uses as many of them, from the front, as the pattern has {i}.
     void append(std::string& out, std::span<const std::string_view> numbers) const;
 
-    // matches tells whether a path has the numbers that the pattern spells out, its general form being the same.
+    // matches returns whether a path has the literal numbers of the pattern. Their general forms must be the same.
     [[nodiscard]] bool matches(std::string_view path, std::span<const std::string_view> numbers) const;
 
  private:
@@ -38,8 +39,8 @@ class PathPattern {
     std::vector<std::string> pieces_;  // between the {i}
 };
 
-// generalise writes a path with {i} for each name that is a number, and lists those numbers, which are views into
-// the path.
+// generalise writes a path with {i} in place of each name that is a number. It lists those numbers as views into the
+// path.
 void generalise(std::string_view path, std::string& general, std::vector<std::string_view>& numbers);
 
 }  // namespace ostrel::tool

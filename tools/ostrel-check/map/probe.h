@@ -1,4 +1,4 @@
-// Probe: a value judged by an entry's check, the other arguments being the map's examples.
+// Probe: judges a value with an entry's check and with the map's examples as the other arguments.
 #ifndef OSTREL_TOOLS_MAP_PROBE_H
 #define OSTREL_TOOLS_MAP_PROBE_H
 
@@ -13,19 +13,19 @@ namespace ostrel::tool {
 
 class Probe {
  public:
-    // Throws std::invalid_argument where an example is missing.
+    // Throws std::invalid_argument if an example is missing.
     Probe(const Map& map, const MapEntry& entry);
 
-    // predict returns the code by the description; none where the description does not cover the call.
+    // predict returns the code according to the description, or nothing if the description does not cover the call.
     [[nodiscard]] std::optional<int> predict(const std::string& value) const;
 
-    // judge returns the library's code; none where the check does not return.
+    // judge returns the library's code, or nothing if the check does not return.
     [[nodiscard]] std::optional<int> judge(const std::string& value) const;
 
-    // reason says in a sentence why the value is refused.
+    // reason returns a sentence that explains why the value is refused.
     [[nodiscard]] std::string reason(const std::string& value) const;
 
-    // others are the other arguments that were passed, by name.
+    // others returns the other arguments that were passed, by name.
     [[nodiscard]] const std::vector<std::pair<std::string, std::string>>& others() const { return others_; }
 
  private:

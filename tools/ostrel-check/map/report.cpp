@@ -25,7 +25,7 @@ std::string_view name_of(Kind kind)
     return kNames.at(static_cast<std::size_t>(kind));
 }
 
-// shown has escapes for control bytes; other characters stay as they are.
+// shown returns a value with escapes for control bytes. Other characters are unchanged.
 std::string shown(std::string_view value)
 {
     std::string text;
@@ -39,7 +39,7 @@ std::string shown(std::string_view value)
     return text;
 }
 
-// brief shows a value; one that is a character again and again is counted.
+// brief returns a short form of a value. For a repeated character it shows the number of times.
 std::string brief(const std::string& value)
 {
     constexpr std::size_t kLongest = 40;
@@ -56,7 +56,7 @@ std::string brief(const std::string& value)
     return "\"" + shown(value) + "\"";
 }
 
-// standing says what is known of an entry in a few words.
+// standing returns in a few words what is known about an entry.
 std::string standing(const Comparison& one)
 {
     std::string text(name_of(one.relation));

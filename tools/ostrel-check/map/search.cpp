@@ -15,7 +15,7 @@ using rules::Language;
 using rules::Languages;
 using rules::Leaf;
 
-// plainest is the byte of a set that is read most easily.
+// plainest returns the most readable byte of a set.
 char plainest(const rules::Set& set)
 {
     constexpr std::string_view kOrder =

@@ -1,4 +1,4 @@
-// Search: texts of a language that a person can read.
+// Search: readable texts of a language.
 #ifndef OSTREL_TOOLS_MAP_SEARCH_H
 #define OSTREL_TOOLS_MAP_SEARCH_H
 
@@ -9,11 +9,11 @@
 
 namespace ostrel::tool {
 
-// shortest_text is one of the shortest texts of a language, of letters and digits as far as that can be. There is
-// none where the language is empty or too large to be looked at.
+// shortest_text returns one of the shortest texts of a language, made of letters and digits if possible. It returns
+// nothing if the language is empty or too large to search.
 std::optional<std::string> shortest_text(rules::Languages& languages, rules::Language one);
 
-// reads_number tells whether a language is about a number that is read anywhere.
+// reads_number returns whether any part of a language depends on a number that is read.
 bool reads_number(const rules::Languages& languages, rules::Language one);
 
 }  // namespace ostrel::tool

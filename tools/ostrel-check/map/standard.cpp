@@ -15,7 +15,7 @@ using rules::Languages;
 using rules::Set;
 
 constexpr std::size_t kMany = Languages::kMany;
-constexpr Set kWritten = Set::range(0x20, 0x7F) | Set("\t\n\r");  // what XML can hold of ASCII
+constexpr Set kWritten = Set::range(0x20, 0x7F) | Set("\t\n\r");  // the ASCII that XML can contain
 
 class StandardBuilder {
  public:
@@ -67,7 +67,7 @@ class StandardBuilder {
         return languages_.repeated(languages_.byte(set), least, most);
     }
 
-    // of_lengths has texts of that many of one, as the limits say.
+    // of_lengths returns the texts that repeat one as often as the limits allow.
     Language of_lengths(const std::vector<Range>& lengths, Language one, std::size_t factor = 1)
     {
         if (lengths.empty()) return languages_.repeated(one, 0);
@@ -99,7 +99,7 @@ class StandardBuilder {
         Standard result;
         result.form = languages_.repeated(one, 0);
         result.values = of_lengths(lengths, one);
-        // So many bytes are at most so many characters.
+        // A text of so many bytes has at most so many characters.
         const bool has_least =
             std::ranges::any_of(lengths, [](const Range& range) { return range.low.value_or(0) > 1; });
         result.least = has_least ? result.values : of_lengths(lengths, byte);
@@ -108,7 +108,7 @@ class StandardBuilder {
         return result;
     }
 
-    // written has the numbers from low to high, without leading zeros.
+    // written returns the numbers from low to high, without leading zeros.
     Language written(long long low, long long high)
     {
         std::vector<Language> parts;
@@ -152,7 +152,7 @@ class StandardBuilder {
         const Language octet = languages_.decimals(0, 255);
         const Language dot = languages_.text(".");
         const Language values = languages_.joined({octet, dot, octet, dot, octet, dot, octet});
-        // Some parameters may be empty, and the type may have addresses of IPv6.
+        // Some parameters may be empty, and the type may include IPv6 addresses.
         const Language half = languages_.repeated(rules::kAlnum | Set(":./%-"));
         const Language six = languages_.joined({half, languages_.text(":"), half});
         return {values, values, {}, {}, values, languages_.either({values, six, languages_.no_byte()})};
@@ -174,7 +174,7 @@ class StandardBuilder {
         return result;
     }
 
-    // base64 is written without line breaks.
+    // base64 returns base64 without line breaks.
     Standard base64()
     {
         const Set all("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/");
@@ -206,7 +206,7 @@ class StandardBuilder {
         return result;
     }
 
-    // url knows some texts that are URLs for certain.
+    // url returns, as allowed values, some texts that are certainly URLs.
     Standard url()
     {
         Standard result = text_of(facts_.lengths);
@@ -220,7 +220,7 @@ class StandardBuilder {
 
     Standard list(const Standard& one)
     {
-        // In any text there are items, where nothing is said of them.
+        // If the items are not restricted, any text is a list of items.
         if (one.is_text && facts_.keywords.empty()) return text_of(facts_.list_lengths);
         const auto items = [&](Language item) {
             const Language more = languages_.repeated(languages_.joined(languages_.text(","), item), 0);
@@ -231,7 +231,7 @@ class StandardBuilder {
         result.values = languages_.both({items(one.values), length});
         result.form = items(one.form);
         result.least = languages_.both({items(one.least), length});
-        // Blanks may be around the commas.
+        // Blanks may surround the commas.
         result.most = length;
         return result;
     }

@@ -7,16 +7,16 @@
 
 namespace ostrel::tool {
 
-// Standard is exact for texts of ASCII. Of a text with other characters, the model counts characters and a check
-// counts bytes; least and most bound from both sides what is allowed then.
+// Standard is exact for ASCII texts. In a text with other characters, the model counts characters and a check counts
+// bytes, so least and most are lower and upper bounds of what is allowed.
 struct Standard {
-    rules::Language values;   // texts of ASCII that are allowed
-    rules::Language form;     // texts of ASCII that have the type's form, limits aside
+    rules::Language values;   // allowed ASCII texts
+    rules::Language form;     // ASCII texts that have the type's form, regardless of limits
     rules::Language others;   // those of form that are certainly not allowed
-    rules::Language foreign;  // texts of ASCII without blanks that certainly do not have the type's form
-    rules::Language least;    // every text of it that has the type's form is allowed
-    rules::Language most;     // every text that is allowed is of it
-    bool is_text = false;     // it may hold other characters
+    rules::Language foreign;  // ASCII texts without blanks that certainly do not have the type's form
+    rules::Language least;    // every text in it that has the type's form is allowed
+    rules::Language most;     // contains every allowed text
+    bool is_text = false;     // it may contain other characters
     bool is_known = true;     // false: nothing is known of the type, or of a pattern
 };
 

@@ -1,4 +1,4 @@
-// Unmapped: what dumps of gateways hold apart from judged values.
+// Unmapped: what dumps of gateways contain apart from judged values.
 #ifndef OSTREL_TOOLS_MAP_UNMAPPED_H
 #define OSTREL_TOOLS_MAP_UNMAPPED_H
 
@@ -15,14 +15,14 @@ namespace ostrel::tool {
 
 struct Map;
 
-// why_unmapped is what a map says of a path that it has no check for; mostly nothing.
+// why_unmapped returns the map's explanation for a path without a check, which is usually empty.
 std::string_view why_unmapped(const Map& map, std::string_view path);
 
-// SplitGateways knows the last gateways of a batch.
+// SplitGateways remembers the last gateways of a batch.
 class SplitGateways {
  public:
-    // begin notes that rows of a gateway begin, and counts it where other rows of it have ended before. Without a name it
-    // is a gateway of its own.
+    // begin records that rows of a gateway begin, and counts the gateway if earlier rows of it have ended. Without a
+    // name, it is a separate gateway.
     void begin(std::string_view gateway);
 
     [[nodiscard]] std::uint64_t count() const { return count_; }
@@ -34,7 +34,7 @@ class SplitGateways {
     std::array<std::size_t, 4096> known_{};  // hashes of gateways, by their last bits
 };
 
-// DumpCounts is of gateways and their parameters.
+// DumpCounts counts gateways and their parameters.
 struct DumpCounts {
     std::uint64_t gateways = 0;
     std::uint64_t parameters = 0;
@@ -43,13 +43,13 @@ struct DumpCounts {
     std::uint64_t split = 0;
 };
 
-// Unmapped has at most so many paths, the first ones in the order of their bytes; parameters of others are counted
-// together, also when they come again. So the sum of those of pieces is that of the whole.
+// Unmapped stores at most kMostPaths paths, the first ones in byte order. It counts the parameters of other paths
+// together, even if the paths occur again. Therefore the sum over pieces is the same as for the whole.
 class Unmapped {
  public:
     static constexpr std::size_t kMostPaths = 10'000;
 
-    // has_map tells that something was judged by a map, and use_map says so.
+    // has_map returns whether anything was judged by a map. use_map sets this.
     [[nodiscard]] bool has_map() const { return has_map_; }
     void use_map() { has_map_ = true; }
 
@@ -59,7 +59,7 @@ class Unmapped {
     void note_split(std::string_view first);
     void add(const Unmapped& other);
 
-    // text says what was counted, a line each; json is the same as an object.
+    // text returns the counts, one per line. json returns them as an object.
     [[nodiscard]] std::string text() const;
     [[nodiscard]] nlohmann::ordered_json json() const;
 

@@ -34,7 +34,7 @@ long long read_number(const Argument& argument, std::string_view word)
         append_escaped(message, word, 40);
         throw std::invalid_argument(message.append("\" is not one"));
     }
-    // Whatever is far outside the range of an argument stays outside.
+    // A number far outside the range of an argument stays outside.
     if (read.ec != std::errc()) number = 1ULL << 62;
     const auto magnitude = static_cast<long long>(std::min(number, 1ULL << 62));
     return negative ? -magnitude : magnitude;
@@ -72,7 +72,7 @@ bool are_texts(std::span<const Item> items)
     return std::ranges::all_of(items, [](const Item& item) { return item.kind == Item::Kind::kText; });
 }
 
-// take fills values and tells whether the items were neither too few nor too many.
+// take fills values, and returns whether there were neither too few nor too many items.
 bool take(const Function& function, std::span<const Item> items, bool outputs_given,
           std::vector<Value>& values)
 {

@@ -11,25 +11,24 @@
 
 namespace ostrel::tool {
 
-// Cases reads one text after the other, with the same memory.
+// Cases reads one text after another and reuses its memory.
 class Cases {
  public:
     explicit Cases(const Reading& reading) : reading_(&reading) {}
 
-    // open prepares for the texts of a file; for the file that is open it does nothing.
+    // open prepares for the texts of a file. It does nothing if the file is already open.
     void open(std::size_t file, FileFormat format, std::string_view preamble);
 
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
-    // read reads a record as a Reader does, and finds the check and the arguments of a case; false: the text holds no
-    // record.
-    // Throws std::invalid_argument with a message for the user.
+    // read reads a record as a Reader does, and finds the check and the arguments of a case. It returns false if the
+    // text contains no record. Throws std::invalid_argument with a message for the user.
     bool read(std::string_view text, std::size_t part);
 
-    // has_more tells that the text holds another record, also after read has thrown.
+    // has_more returns whether the text contains another record, even after read has thrown.
     [[nodiscard]] bool has_more() const { return found_ == Found::kMore; }
 
-    // After read has thrown, these show how far it came: function is NULL where no check could be made out.
+    // After read has thrown, these return what it had found. function returns NULL if no check was found.
     [[nodiscard]] const catalogue::Function* function() const { return function_; }
     [[nodiscard]] const std::vector<catalogue::Value>& values() const { return values_; }
     [[nodiscard]] const Record& record() const { return record_; }

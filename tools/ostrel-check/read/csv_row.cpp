@@ -10,7 +10,7 @@ namespace {
 
 constexpr char kQuote = '"';
 
-// skip_quoted returns the place after the closing quotation mark, or npos where there is none.
+// skip_quoted returns the position after the closing quotation mark, or npos if there is none.
 std::size_t skip_quoted(std::string_view text, std::size_t at)
 {
     for (++at;; ++at) {
@@ -54,7 +54,7 @@ void CsvRow::split(std::string_view row, char delimiter)
     if (row.ends_with('\r')) row.remove_suffix(1);
     fields_.clear();
     unquoted_.clear();
-    unquoted_.reserve(row.size());  // views into it must hold
+    unquoted_.reserve(row.size());  // views into it must stay valid
     const bool has_quotes = row.find(kQuote) != std::string_view::npos;
     const auto refuse = [&](const char* what) {
         throw std::invalid_argument("field " + std::to_string(fields_.size() + 1) + " " + what);
@@ -80,7 +80,8 @@ void CsvRow::split(std::string_view row, char delimiter)
     }
 }
 
-// take_quoted adds the field that begins with a quotation mark, and returns the place after the closing one, or npos.
+// take_quoted adds the field that begins with a quotation mark. It returns the position after the closing one, or
+// npos.
 std::size_t CsvRow::take_quoted(std::string_view row, std::size_t at)
 {
     const std::size_t end = skip_quoted(row, at);

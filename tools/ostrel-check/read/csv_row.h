@@ -1,4 +1,4 @@
-// A row of CSV: where it ends, and its fields.
+// A row of CSV: its end and its fields.
 #ifndef OSTREL_TOOLS_READ_CSV_ROW_H
 #define OSTREL_TOOLS_READ_CSV_ROW_H
 
@@ -9,24 +9,24 @@
 
 namespace ostrel::tool {
 
-// RowEnd is where the row at the front of a text ends, with its line end.
+// RowEnd is the end of the row at the front of a text, after its line end.
 struct RowEnd {
     std::size_t size = 0;
     bool is_open = false;  // the text ends within quotation marks, or where more of the row may follow
 };
 
-// find_row_end looks for the end of a row. A row whose quotation marks are broken is its first line, so that what follows is
-// read all the same. Where the text is all there is, is_open tells that such a mark is never closed, and size is that
-// of the first line.
+// find_row_end finds the end of a row. A row with faulty quotation marks ends with its first line, so that the
+// following lines are still read. If a quotation mark is not closed, is_open is set and size is that of the first
+// line.
 RowEnd find_row_end(std::string_view text, char delimiter);
 
-// CsvRow splits a row, with the same memory again and again.
+// CsvRow splits rows and reuses its memory.
 class CsvRow {
  public:
     // split throws std::invalid_argument with a message for the user.
     void split(std::string_view row, char delimiter);
 
-    // fields hold as long as the row does, and until the next one is split.
+    // fields returns views that are valid as long as the row is, and until the next split.
     [[nodiscard]] const std::vector<std::string_view>& fields() const { return fields_; }
 
  private:

@@ -11,7 +11,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// LineCutter cuts after lines; what a line is a subclass says.
+// LineCutter cuts after lines. A subclass may define what a line is.
 class LineCutter : public Cutter {
  public:
     Cut cut(std::string_view bytes, bool is_end) override
@@ -67,7 +67,7 @@ class CsvCutter : public LineCutter {
     }
 
  private:
-    // cut_row returns 0 where more must arrive.
+    // cut_row returns 0 if it needs more bytes.
     [[nodiscard]] std::size_t cut_row(std::string_view bytes, bool is_end) const
     {
         if (bytes.empty()) return 0;

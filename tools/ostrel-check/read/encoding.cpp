@@ -117,7 +117,7 @@ void decode_base64(std::string& bytes, std::string_view text)
         bits = bits << 6 | static_cast<unsigned>(digit);
         if (i % 4 != 3) continue;
         const std::size_t made = i + 1 == text.size() ? 3 - padding : 3;
-        // What padding leaves over is zero, or two texts would mean the same bytes.
+        // The bits that padding leaves over must be zero, or two texts would encode the same bytes.
         if ((bits & ((1U << 8 * (3 - made)) - 1)) != 0) refuse();
         for (std::size_t byte = 0; byte < made; ++byte) {
             bytes += static_cast<char>(bits >> (16 - 8 * byte) & 0xFF);

@@ -10,14 +10,15 @@
 
 namespace ostrel::tool {
 
-// format_of_name knows the usual endings.
+// format_of_name recognizes the usual extensions.
 std::optional<FileFormat> format_of_name(std::string_view name);
 
-// format_of_bytes looks at the first line, or at as much of it as there is. Lines of JSON are words, unless only JSON may
-// be in them.
+// format_of_bytes examines the first line, or as much of it as there is. Lines of JSON have the format of words,
+// unless they may contain only JSON.
 FileFormat format_of_bytes(std::string_view front, const Reading& reading);
 
-// why_not_text says what a file is that is not text in UTF-8, and what to do; otherwise it is empty.
+// why_not_text describes a file that is not text in UTF-8, and what to do about it. Otherwise it returns an empty
+// text.
 std::string_view why_not_text(std::string_view front);
 
 }  // namespace ostrel::tool

@@ -66,10 +66,10 @@ void Input::end_file()
     size_ = taken_;
 }
 
-// fill reads once; false: nothing has become known.
+// fill reads once. It returns false if this changed nothing.
 bool Input::fill()
 {
-    // What was given out has been used by now.
+    // The texts that were returned are no longer in use.
     if (taken_ > 0) std::memmove(buffer_.data(), buffer_.data() + taken_, size_ - taken_);
     size_ -= taken_;
     taken_ = 0;
@@ -86,7 +86,7 @@ bool Input::fill()
     return true;
 }
 
-// begin_file looks at the first bytes of a file; false: more must arrive.
+// begin_file examines the first bytes of a file. It returns false if it needs more.
 bool Input::begin_file()
 {
     constexpr std::size_t kEnough = std::size_t{64} << 10;
@@ -110,7 +110,7 @@ void Input::drop(std::size_t size)
     taken_ += size;
 }
 
-// take_preamble keeps the preamble, if a reader can use it.
+// take_preamble stores the preamble, and returns whether a reader can use it.
 bool Input::take_preamble(std::size_t size)
 {
     preamble_ = rest().substr(0, size);
@@ -138,7 +138,7 @@ Chunk Input::make_chunk()
     return chunk;
 }
 
-// next_chunk cuts off what is whole, or says why nothing can be read where the file has been read to.
+// next_chunk cuts off whole texts, or reports why nothing can be read at the current position.
 std::optional<Chunk> Input::next_chunk()
 {
     if (problem_.empty()) {
@@ -171,7 +171,7 @@ std::optional<Chunk> Input::read()
     if (cutter_ == nullptr && !begin_file()) return {};
     std::optional<Chunk> chunk = next_chunk();
     if (file_.number() < 0) return chunk;
-    // What is left may be whole without more bytes: a problem, or texts after it.
+    // The rest may be complete without more bytes: a problem, or texts after it.
     is_ready_ = !problem_.empty() || (chunk && !chunk->problem.empty());
     if (!chunk && is_file_read_) end_file();
     if (chunk && is_file_read_) is_ready_ = true;

@@ -16,9 +16,9 @@
 
 namespace ostrel::tool {
 
-// Chunk is some whole texts of one file, as a Reader takes them. The views hold until the next read.
+// Chunk is a sequence of whole texts of one file, as a Reader takes them. Its views are valid until the next read.
 struct Chunk {
-    std::size_t file = 0;    // which of the files
+    std::size_t file = 0;    // index of the file
     std::uint64_t line = 1;  // the number of the first line
     FileFormat format = FileFormat::kWords;
     std::string_view preamble;  // of the file
@@ -30,21 +30,20 @@ struct Chunk {
 
 class Input {
  public:
-    // The files are named as the user names them; "-" is standard input. The lines of the first one are numbered from
-    // first_number.
+    // The user names the files; "-" is standard input. The lines of the first one are numbered from first_number.
     Input(const std::vector<std::string>& files, const Reading& reading, std::uint64_t first_number);
 
-    // is_at_end tells that every file has been read. It opens the next file where one has ended, and says on
-    // standard error what cannot be read.
+    // is_at_end returns whether every file has been read. After the end of a file, it opens the next one. It reports
+    // on standard error what cannot be read.
     bool is_at_end();
 
-    // is_ready tells that read has something to return without reading.
+    // is_ready returns whether read can return a chunk without reading from the file.
     [[nodiscard]] bool is_ready() const { return is_ready_; }
 
-    // descriptor is what the next read reads from.
+    // descriptor returns the descriptor that the next read reads from.
     [[nodiscard]] int descriptor() const { return file_.number(); }
 
-    // read reads once, waiting if need be, and returns what has become whole texts.
+    // read reads once, waiting if necessary, and returns the texts that are now complete.
     std::optional<Chunk> read();
 
     [[nodiscard]] std::uint64_t unreadable_files() const { return unreadable_files_; }
@@ -65,13 +64,13 @@ class Input {
     const std::vector<std::string>* files_;
     const Reading* reading_;
     std::uint64_t first_number_;
-    std::size_t next_ = 0;  // of the files: the one after that which is open
+    std::size_t next_ = 0;  // index of the file after the open one
     Descriptor file_;
     FileFormat format_ = FileFormat::kWords;
-    std::unique_ptr<Cutter> cutter_;  // none: the file's first bytes are still to be looked at
+    std::unique_ptr<Cutter> cutter_;  // none: the first bytes of the file have not been examined
     std::string preamble_;
     std::string preamble_problem_;
-    std::string problem_;  // of the place that was reached
+    std::string problem_;  // at the current position
     bool ends_file_ = false;
     std::uint64_t line_ = 1;
     std::uint64_t problem_line_ = 1;
@@ -79,7 +78,7 @@ class Input {
     bool is_file_read_ = false;
     bool is_ready_ = false;
     std::vector<char> buffer_;
-    std::size_t taken_ = 0;  // bytes at the front that were given out
+    std::size_t taken_ = 0;  // bytes at the front that were returned or dropped
     std::size_t size_ = 0;
     std::uint64_t unreadable_files_ = 0;
 };

@@ -1,4 +1,4 @@
-// Items: texts of a file as arguments.
+// Items: converts texts of a file to arguments.
 #ifndef OSTREL_TOOLS_READ_ITEMS_H
 #define OSTREL_TOOLS_READ_ITEMS_H
 
@@ -11,10 +11,10 @@
 
 namespace ostrel::tool {
 
-// Items makes items, whose views hold until it begins again.
+// Items makes items. Their views are valid until the next call of begin.
 class Items {
  public:
-    // begin makes room for the items of a record of that size, each byte of which is used twice at most.
+    // begin reserves memory for the items of a record of that size. They use each byte at most twice.
     void begin(std::size_t size, Encoding encoding)
     {
         encoding_ = encoding;
@@ -26,7 +26,7 @@ class Items {
     Item of_text(std::string_view text);
     Item of_base64(std::string_view text);
 
-    // compact returns JSON without what is blank outside of its strings.
+    // compact returns JSON without the blanks outside its strings.
     std::string_view compact(std::string_view json);
 
  private:
@@ -36,7 +36,7 @@ class Items {
     }
 
     Encoding encoding_ = Encoding::kUtf8;
-    std::string made_;  // what is not in the record itself
+    std::string made_;  // texts that are not in the record itself
 };
 
 }  // namespace ostrel::tool

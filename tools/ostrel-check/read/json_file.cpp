@@ -15,14 +15,14 @@ std::size_t skip_blanks(std::string_view text, std::size_t at)
     return std::min(text.find_first_not_of(kBlanks, at), text.size());
 }
 
-// Element is how far the element at the front of a text has been looked at.
+// Element is the state of a scan of the element at the front of a text.
 struct Element {
     std::size_t at = 0;
     std::size_t depth = 0;
     bool is_in_string = false;
     bool is_whole = false;
 
-    // look goes on to the end of the element, or of the text.
+    // look continues to the end of the element, or of the text.
     void look(std::string_view text)
     {
         while (at < text.size() && !is_whole) {
@@ -99,12 +99,12 @@ class JsonCutter : public Cutter {
  private:
     enum class Expected { kBegin, kFirst, kElement, kRestOfElement, kComma, kAnotherObject, kNothing };
 
-    // cut_separators goes on to the next element, and drops or cuts off what is before it.
+    // cut_separators moves to the next element, and drops or cuts off the bytes before it.
     std::size_t cut_separators(std::string_view bytes, std::size_t at, Cut& cut)
     {
         while (true) {
             at = skip_blanks(bytes, at);
-            // What follows an element belongs to it, what precedes the first is dropped.
+            // Separators after an element belong to it. Those before the first element are dropped.
             (cut.size == 0 ? cut.dropped : cut.size) = cut.size == 0 ? at : at - cut.dropped;
             if (at == bytes.size()) return at;
             const char c = bytes[at];
@@ -133,7 +133,7 @@ class JsonCutter : public Cutter {
         }
     }
 
-    // take_element cuts off the element at a place, if it is JSON.
+    // take_element cuts off the element at a position, if it is JSON.
     std::size_t take_element(std::string_view bytes, std::size_t at, Cut& cut)
     {
         find_fault(bytes.substr(at, element_.at), cut);
@@ -143,7 +143,7 @@ class JsonCutter : public Cutter {
         return at + element_.at;
     }
 
-    // find_fault complains of invalid JSON. What the reader refuses for other reasons it leaves to that.
+    // find_fault reports invalid JSON, except for faults that the reader reports.
     void find_fault(std::string_view element, Cut& cut)
     {
         const std::size_t nul = element.find('\0');
@@ -169,7 +169,7 @@ class JsonCutter : public Cutter {
         }
     }
 
-    // complain names the place by its column; the line is known to whoever counts the lines of the file.
+    // complain stores a problem and its position. count_columns adds the column; the line follows from the position.
     static void complain(Cut& cut, std::string problem, std::size_t at)
     {
         cut.problem = std::move(problem);
@@ -177,14 +177,15 @@ class JsonCutter : public Cutter {
         cut.ends_file = true;
     }
 
-    // count_columns keeps the column of the place after what is dropped and cut off, and says the one of a problem.
+    // count_columns counts the column after the bytes that are dropped and cut off, and adds the column of a problem
+    // to its message.
     void count_columns(std::string_view bytes, Cut& cut)
     {
         const auto count = [&](std::string_view text) {
             const std::size_t line_end = text.rfind('\n');
             if (line_end != std::string_view::npos) column_ = 1;
             text.remove_prefix(line_end == std::string_view::npos ? 0 : line_end + 1);
-            // A byte that goes on with a character has no column of its own.
+            // The continuation bytes of a character occupy no column.
             column_ += static_cast<std::size_t>(std::ranges::count_if(
                 text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
         };

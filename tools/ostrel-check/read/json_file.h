@@ -1,4 +1,4 @@
-// Records that are the elements of an array of JSON, or objects one after the other.
+// Records that are the elements of a JSON array, or consecutive objects.
 #ifndef OSTREL_TOOLS_READ_JSON_FILE_H
 #define OSTREL_TOOLS_READ_JSON_FILE_H
 
@@ -11,7 +11,7 @@
 
 namespace ostrel::tool {
 
-// JsonReader takes an element with the blanks, the line ends and the comma after it.
+// JsonReader takes an element with the blanks, line ends and comma after it.
 class JsonReader : public Reader {
  public:
     explicit JsonReader(const Reading& reading) : object_(reading) {}
@@ -23,7 +23,7 @@ class JsonReader : public Reader {
     JsonObject object_;
 };
 
-// make_json_cutter makes a cutter that stops at invalid JSON, and says at which line and column that is.
+// make_json_cutter returns a cutter that stops at invalid JSON, and reports the line and column of it.
 std::unique_ptr<Cutter> make_json_cutter();
 
 }  // namespace ostrel::tool

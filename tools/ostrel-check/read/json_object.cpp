@@ -11,7 +11,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// Names are compared with each other.
+// The number of members is limited because their names are compared with each other.
 constexpr std::size_t kMostMembers = 1000;
 
 }  // namespace

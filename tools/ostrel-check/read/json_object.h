@@ -1,4 +1,4 @@
-// A record that is an object of JSON.
+// A record that is a JSON object.
 #ifndef OSTREL_TOOLS_READ_JSON_OBJECT_H
 #define OSTREL_TOOLS_READ_JSON_OBJECT_H
 
@@ -16,8 +16,8 @@
 
 namespace ostrel::tool {
 
-// JsonObject reads {"check": name, "args": [...]} and keeps every other member. A problem does not keep it from
-// reading on, so that a result can say which record has it.
+// JsonObject reads {"check": name, "args": [...]} and keeps every other member. It continues after a problem, so that
+// a result can identify the record.
 class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonObject> {
  public:
     explicit JsonObject(const Reading& reading);
@@ -54,7 +54,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
         kTexts,     // of an array that is one argument
         kWrapping,  // {"base64": text}
         kBase64,
-        kOther,   // of such an object, which has nothing else
+        kOther,   // any other member of such an object, which is not allowed
         kPassed,  // the value of a member that is passed through
         kEnd,
     };
@@ -77,7 +77,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     Items items_;
     std::vector<std::vector<Item>> value_items_;
 
-    // Of the record that is being read.
+    // The state of the record that is being read.
     std::string_view text_;
     Record* record_ = nullptr;
     ByteKinds kinds_;
@@ -86,7 +86,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     State outside_wrapping_ = State::kItems;
     std::vector<Item>* argument_ = nullptr;  // or all arguments
     std::size_t depth_ = 0;
-    std::size_t skipped_ = 0;  // arrays and objects that are open and passed over
+    std::size_t skipped_ = 0;  // arrays and objects that are open and skipped
     std::size_t begin_ = 0;    // of a value that is passed through
     std::size_t texts_ = 0;    // the item whose texts are read
     std::string_view name_;

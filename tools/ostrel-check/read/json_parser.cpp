@@ -29,7 +29,7 @@ ByteKinds kinds_in(std::string_view text)
     std::uint64_t low = 0;
     std::uint64_t backslash = 0;
     const auto look = [&](std::uint64_t eight) {
-        // What is subtracted borrows from the next byte only where the mark is set already.
+        // The subtraction borrows from the next byte only if the mark is already set.
         high |= eight;
         low |= (eight - 0x20 * kOnes) & ~eight;
         const std::uint64_t other = eight ^ ('\\' * kOnes);

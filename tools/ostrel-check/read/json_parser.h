@@ -11,14 +11,14 @@
 
 namespace ostrel::tool {
 
-// kDeepest is how deep JSON may be nested. The parser calls itself for each level, so a handler must return false
+// kDeepest limits how deeply JSON may be nested. The parser recurses for each level, so a handler must return false
 // beyond it.
 inline constexpr std::size_t kDeepest = 32;
 
-// TokenStream lets the parser see the first digit alone of digits in a row, unless it is 0. The parser computes the value
-// of each number, although only its token is asked for, and refuses one that no double holds; of such a token it finds
-// the same end and the same faults, and a small value. And of a string it sees what begins with the first escape: what is
-// before that stays where it is.
+// TokenStream hides all but the first of several consecutive digits from the parser, unless the first is 0. The
+// parser computes the value of each number, although only the token is needed, and refuses a number that no double
+// can represent. With hidden digits it finds the same end and the same faults of the token, and the value is small.
+// TokenStream also skips the beginning of a string up to the first escape, because those bytes stay in place.
 class TokenStream : public rapidjson::InsituStringStream {
  public:
     explicit TokenStream(char* text) : GenericInsituStringStream(text) {}
@@ -35,7 +35,7 @@ class TokenStream : public rapidjson::InsituStringStream {
         }
         return taken;
     }
-    // PutBegin is called at the begin of a string, after its quotation mark, and at that of a number.
+    // PutBegin is called at the beginning of a string, after its quotation mark, and at the beginning of a number.
     char* PutBegin()
     {
         char* const begin = GenericInsituStringStream::PutBegin();
@@ -57,7 +57,7 @@ class TokenStream : public rapidjson::InsituStringStream {
 
 }  // namespace ostrel::tool
 
-// The parser works with a copy of such a stream, which the compiler can keep in registers.
+// The parser works on a copy of such a stream, which the compiler can keep in registers.
 template <>
 struct rapidjson::StreamTraits<ostrel::tool::TokenStream> {
     enum { copyOptimization = 1 };  // NOLINT(readability-identifier-naming)
@@ -65,8 +65,8 @@ struct rapidjson::StreamTraits<ostrel::tool::TokenStream> {
 
 namespace ostrel::tool {
 
-// JsonParser parses a copy of a text, in which it decodes the strings, so that what a handler is told stays valid
-// until the next text. Numbers come as the text has them.
+// JsonParser parses a copy of a text and decodes the strings in it, so the strings that a handler receives stay valid
+// until the next text. Numbers are passed as in the text.
 class JsonParser {
  public:
     template <typename Handler>
@@ -80,12 +80,12 @@ class JsonParser {
                                                                                                  handler);
     }
 
-    // offset returns, while a handler is told of the begin or the end of an array or an object, how far the parser has
-    // come: after the bracket.
+    // offset returns the position of the parser, after the bracket, while a handler is told of the beginning or the
+    // end of an array or an object.
     [[nodiscard]] std::size_t offset() const { return stream_->Tell(); }
 
-    // offset_of returns where something is in the text that a handler was told of: a number, or a string after its
-    // quotation mark.
+    // offset_of returns the position in the text of something that a handler received: a number, or a string after
+    // its quotation mark.
     [[nodiscard]] std::size_t offset_of(const char* told) const
     {
         return static_cast<std::size_t>(told - copy_.data());
@@ -96,10 +96,10 @@ class JsonParser {
     TokenStream* stream_ = nullptr;
 };
 
-// describe says what is wrong with JSON, for the user.
+// describe returns a message about a JSON error, for the user.
 std::string describe(rapidjson::ParseErrorCode error);
 
-// ByteKinds says which kinds of bytes a text holds.
+// ByteKinds lists the kinds of bytes that a text contains.
 struct ByteKinds {
     bool has_controls = false;  // below 0x20
     bool has_backslashes = false;
@@ -108,15 +108,15 @@ struct ByteKinds {
 
 ByteKinds kinds_in(std::string_view text);
 
-// require_json throws std::invalid_argument, with a message for the user, for what no JSON holds: a NUL byte, and a
-// byte that is not UTF-8. It returns the kinds of bytes.
+// require_json throws std::invalid_argument, with a message for the user, if the text contains a NUL byte or a byte
+// that is not UTF-8, which no JSON contains. It returns the kinds of bytes.
 ByteKinds require_json(std::string_view text);
 
-// end_of_string returns where the string of JSON ends that begins at a quotation mark: after the closing one, or at the
+// end_of_string returns the end of the JSON string that begins at a quotation mark: after the closing mark, or at the
 // end of the text.
 std::size_t end_of_string(std::string_view text, std::size_t at);
 
-// append_compact appends JSON without the blanks and line ends that are outside of its strings.
+// append_compact appends JSON without the blanks and line ends outside its strings.
 void append_compact(std::string& out, std::string_view json);
 
 }  // namespace ostrel::tool

@@ -157,7 +157,7 @@ bool JsonObject::end()
     return true;
 }
 
-// finish_value goes on after a member that is an argument.
+// finish_value continues after a member that is an argument.
 void JsonObject::finish_value()
 {
     if (state_ == State::kValue) state_ = State::kMembers;

@@ -29,7 +29,7 @@ Found LineReader::read(std::string_view text, std::size_t /*part*/, Record& reco
     return Found::kRecord;
 }
 
-// read_words takes the first word for the name of the check, and each other one for an argument.
+// read_words takes the first word as the name of the check, and the others as its arguments.
 void LineReader::read_words(std::string_view line, Record& record)
 {
     const std::size_t nul = line.find('\0');

@@ -1,4 +1,4 @@
-// Records that are lines: words, or an object of JSON.
+// Records that are lines: words, or a JSON object.
 #ifndef OSTREL_TOOLS_READ_LINES_H
 #define OSTREL_TOOLS_READ_LINES_H
 
@@ -12,7 +12,7 @@ namespace ostrel::tool {
 
 class LineReader : public Reader {
  public:
-    // With only_json a line of words is invalid JSON.
+    // If only_json is set, a line of words is invalid JSON.
     LineReader(const Reading& reading, bool only_json);
 
     std::size_t next(std::string_view rest) override;

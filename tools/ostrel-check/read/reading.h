@@ -1,4 +1,4 @@
-// Reading: how the records of a batch are read, as the user chose it.
+// Reading: the user's settings for reading the records of a batch.
 #ifndef OSTREL_TOOLS_READ_READING_H
 #define OSTREL_TOOLS_READ_READING_H
 
@@ -29,10 +29,10 @@ struct Reading {
     std::vector<std::string> values;  // the columns or members that are the arguments, in their order
     bool is_strict = false;           // unknown and duplicate members are malformed
     bool needs_check = true;          // a record without a check is malformed
-    const Map* map = nullptr;         // the files are dumps of gateways, and it says what judges them
-    SplitGateways* split = nullptr;   // counts gateways whose rows are not together
-    std::string parameter;            // of rows of a dump: the column that has the path; empty: a usual name
-    std::string group;                // and the one that tells the gateways apart; empty: a file is a gateway
+    const Map* map = nullptr;         // the files are dumps of gateways, and this map selects the checks
+    SplitGateways* split = nullptr;   // counts gateways whose rows are not adjacent
+    std::string parameter;            // of rows of a dump: the column with the path; empty: a usual name
+    std::string group;                // the column that identifies the gateway; empty: a file is a gateway
 };
 
 }  // namespace ostrel::tool

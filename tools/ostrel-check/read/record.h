@@ -1,4 +1,4 @@
-// Record: what a reader found in one record of a file, whatever the file's format.
+// Record: the content of one record of a file, in any format.
 #ifndef OSTREL_TOOLS_READ_RECORD_H
 #define OSTREL_TOOLS_READ_RECORD_H
 
@@ -10,9 +10,9 @@
 
 namespace ostrel::tool {
 
-// Item is an argument, or a value from which one is made. A text is the bytes that are passed: characters have
-// become bytes of the encoding that the user chose, and base64 has been decoded. A number and a Boolean are texts,
-// as their tokens are in the file.
+// Item is an argument, or a value from which one is made. text contains the bytes that are passed: characters are
+// already encoded as the user chose, and base64 is decoded. Numbers and Booleans are texts with their tokens from the
+// file.
 struct Item {
     enum class Kind {
         kText,
@@ -27,29 +27,29 @@ struct Item {
 // Member is a member or a column that no reader needs and that each result repeats.
 struct Member {
     std::string_view name;   // in UTF-8, without escapes
-    std::string_view value;  // a token of JSON as the file has it, or a text as the file has it
+    std::string_view value;  // a JSON token or a text, as in the file
     bool is_json = false;
 };
 
-// GatewayCounts is what the dump of a gateway holds apart from judged values.
+// GatewayCounts counts what the dump of a gateway contains apart from judged values.
 struct GatewayCounts {
     std::uint32_t parameters = 0;  // all of them
-    std::uint32_t skipped = 0;     // because the map says that their values say nothing
-    std::uint32_t repeated = 0;    // siblings that came before, the values of which are lost
+    std::uint32_t skipped = 0;     // because the map says that their values carry no information
+    std::uint32_t repeated = 0;    // siblings that occurred again, whose earlier values are lost
 };
 
-// Record is filled again and again. Its views belong to the reader and to the text that was read, and hold until
-// the next record is read.
+// Record is reused. Its views refer to the reader and to the text that was read, and are valid until the next record
+// is read.
 struct Record {
-    // Kind is what was found. Only what a map reads has other kinds than cases.
+    // Kind is what was found. Only a map finds anything but cases.
     enum class Kind {
         kCase,
         kUnmapped,    // a parameter that the map has no check for
         kGatewayEnd,  // all of a gateway has been read
     };
     Kind kind = Kind::kCase;
-    std::uint64_t line = 0;  // where the record begins, counted from the begin of its text
-    std::string_view check;  // its name; empty where the record has none
+    std::uint64_t line = 0;  // where the record begins, counted from the beginning of its text
+    std::string_view check;  // its name; empty if the record has none
     std::string_view path;   // of a parameter without a check
     GatewayCounts counts;    // at the end of a gateway
     std::uint64_t end = 0;   // there too: the line where the next gateway begins
@@ -57,10 +57,10 @@ struct Record {
     std::vector<Member>
         members;               // "id" and "parameter" among them, in the order of the record, no name twice
     std::string_view problem;  // not empty: why there is no call
-    std::string_view problem_id;        // and in a word, where the record itself is not at fault
-    std::string_view problem_argument;  // the argument that cannot be had
+    std::string_view problem_id;        // id of the problem, if the record itself is not at fault
+    std::string_view problem_argument;  // the argument that has no value
     std::string_view problem_path;      // and the parameter that it would come from
-    bool may_have_spares = false;       // items that the check does not take and that are empty mean nothing
+    bool may_have_spares = false;       // excess empty items mean nothing
 
     void clear()
     {

@@ -28,7 +28,7 @@ int hexadecimal(char c)
     return -1;
 }
 
-// read_escape reads what follows a backslash and returns the place after it.
+// read_escape reads the text after a backslash and returns the position after it.
 std::size_t read_escape(std::string_view text, std::size_t at, std::string& word)
 {
     if (at == text.size()) throw std::invalid_argument("a \\ is the last character");
@@ -54,7 +54,7 @@ std::size_t read_escape(std::string_view text, std::size_t at, std::string& word
     return at + 1;
 }
 
-// read_quoted reads up to the closing quotation mark and returns the place after it.
+// read_quoted reads up to the closing quotation mark and returns the position after it.
 std::size_t read_quoted(std::string_view line, std::size_t at, std::string& word)
 {
     const char mark = line[at++];

@@ -14,12 +14,12 @@
 
 namespace ostrel::tool {
 
-// Words holds the words of a line. It is filled again and again, so that its memory is used again.
+// Words contains the words of a line. It is reused, to reuse its memory.
 class Words {
  public:
-    // split reads words separated by blanks, 'literal text', "text with escapes", escapes outside quotation
-    // marks, and # where a word could begin for a comment. Throws std::invalid_argument with a message for
-    // the user.
+    // split reads words separated by blanks, 'literal text', "text with escapes", escapes outside quotation marks,
+    // and comments that begin with # where a word could begin. Throws std::invalid_argument with a message for the
+    // user.
     void split(std::string_view line);
 
     [[nodiscard]] std::span<const std::string> all() const { return {words_.data(), count_}; }
@@ -45,12 +45,12 @@ inline constexpr std::string_view kNull = "@null";
 // item_of returns the item of a word; its text is a view into the word.
 Item item_of(std::string_view word);
 
-// read_values assigns the words to the arguments: numbers, texts, NULL, one word for each block. Arguments that
-// are only written may be left out, all together. Throws std::invalid_argument.
+// read_values assigns the words to the arguments: numbers, texts, NULL, one word for each block. The arguments that
+// are only written may be omitted, but only all together. Throws std::invalid_argument.
 void read_values(const catalogue::Function& function, std::span<const std::string> words,
                  std::vector<catalogue::Value>& values);
 
-// usage_of names a check and what it takes: "NAME value min:number".
+// usage_of returns the name of a check and its arguments: "NAME value min:number".
 std::string usage_of(const catalogue::Function& function);
 
 }  // namespace ostrel::tool
