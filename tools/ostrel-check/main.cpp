@@ -32,7 +32,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// rules_of returns what the options say of judging.
+// rules_of returns the rules with the options that control judging.
 Rules& rules_of(Options& options)
 {
     Rules& rules = options.rules;
@@ -66,7 +66,7 @@ int judge_words(const CLI::App& app, Options& options)
     }
 }
 
-// run_batch_of judges what is in files as the options say.
+// run_batch_of judges the contents of files according to the options.
 int run_batch_of(Options& options)
 {
     Rules& rules = rules_of(options);
@@ -127,7 +127,7 @@ int run(int argc, char** argv)
 int main(int argc, char** argv)
 {
     ostrel::tool::occupy_standard_descriptors();
-    // A closed pipe is noticed when writing.
+    // A closed pipe is detected when writing.
     std::signal(SIGPIPE, SIG_IGN);
     try {
         return ostrel::tool::run(argc, argv);

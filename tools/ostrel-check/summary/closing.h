@@ -1,4 +1,4 @@
-// Closing: how a batch is summed up and ended.
+// Closing: the settings for the end of a batch.
 #ifndef OSTREL_TOOLS_SUMMARY_CLOSING_H
 #define OSTREL_TOOLS_SUMMARY_CLOSING_H
 
@@ -16,8 +16,8 @@ struct Closing {
     bool exits_with_zero = false;
 };
 
-// write_summary writes the summary where it belongs: to its file, else after the results where it may follow them, else
-// to standard error. It says whether it could, and on standard error why not.
+// write_summary writes the summary to its file if it has one, otherwise after the results if it may follow them, and
+// otherwise to standard error. It returns whether it could, and reports an error on standard error.
 bool write_summary(const Closing& closing, const Summary& summary, bool follows_results);
 
 }  // namespace ostrel::tool

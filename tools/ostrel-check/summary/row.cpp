@@ -11,7 +11,7 @@ namespace ostrel::tool {
 namespace {
 
 constexpr std::size_t kLongestPath = 256;
-// Of a longer text in an example the beginning is shown, and how long it is.
+// Of a longer text, an example shows the beginning and the length.
 constexpr std::size_t kLongestShown = 200;
 
 bool is_instance(std::string_view name)
@@ -21,7 +21,7 @@ bool is_instance(std::string_view name)
     return std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-// cut_text is the beginning of a long text, to the end of a character where it has characters.
+// cut_text returns the beginning of a long text. It does not split characters if the text is UTF-8.
 std::string_view cut_text(std::string_view text, std::size_t size)
 {
     if (text.size() <= size) return text;
@@ -44,7 +44,7 @@ catalogue::Value shortened(const catalogue::Value& value)
     return result;
 }
 
-// append_valid adds a text, with what is not UTF-8 as \xNN.
+// append_valid appends a text, with bytes that are not UTF-8 as \xNN.
 void append_valid(std::string& out, std::string_view text)
 {
     while (!text.empty()) {
@@ -57,7 +57,7 @@ void append_valid(std::string& out, std::string_view text)
     }
 }
 
-// member_text is a member of the record as a text; it is empty where the record has none of that name.
+// member_text returns a member of the record as a text, or an empty text if the record has no member of that name.
 std::string member_text(const Result& result, std::string_view name)
 {
     const Member* member = result.record == nullptr ? nullptr : result.record->find(name);
@@ -69,7 +69,7 @@ std::string member_text(const Result& result, std::string_view name)
 void append_counted_parameter(std::string& out, std::string_view path)
 {
     path = cut_text(path, kLongestPath);
-    // What precedes the first dot names the tree.
+    // The name before the first dot is that of the tree.
     const std::size_t root = std::min(path.find('.'), path.size());
     append_valid(out, path.substr(0, root));
     path.remove_prefix(root);

@@ -22,7 +22,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-// Rows is what a line holds. Views of its rows are into texts.
+// Rows is the content of a line. The views of its rows refer to texts.
 struct Rows {
     std::vector<CountedRow> counted;
     Unmapped unmapped;
@@ -33,7 +33,7 @@ struct Rows {
 
 [[noreturn]] void refuse(const std::string& problem) { throw std::invalid_argument(problem); }
 
-// text_of is a member's text; of another value, its JSON.
+// text_of returns a member's text, or the JSON of any other value.
 std::optional<std::string> text_of(const ordered_json& object, const char* name)
 {
     const auto found = object.find(name);
@@ -68,7 +68,7 @@ std::uint64_t number_of(const ordered_json& object, const char* name)
     return found->get<std::uint64_t>();
 }
 
-// common_of reads what rows of a summary and results have in common.
+// common_of reads the members that rows of a summary and results have in common.
 SummaryRow common_of(const ordered_json& given)
 {
     SummaryRow row;
@@ -160,7 +160,7 @@ void complain(const std::string& file, std::uint64_t line, std::string_view prob
     say(message + "\n");
 }
 
-// add_file says whether all of the file was read.
+// add_file returns whether the whole file was read.
 bool add_file(Summary& summary, const std::string& file)
 {
     std::ifstream opened;

@@ -1,4 +1,4 @@
-// Summarise: adds up what batches wrote that judged pieces of one input.
+// Summarise: adds up the output of batches that judged pieces of one input.
 #ifndef OSTREL_TOOLS_SUMMARY_SUMMARISE_H
 #define OSTREL_TOOLS_SUMMARY_SUMMARISE_H
 
@@ -9,12 +9,12 @@
 
 namespace ostrel::tool {
 
-// summarise adds the summaries and the results that the files hold, says on standard error what cannot be read, prints
+// summarise adds up the summaries and the results in the files, reports on standard error what cannot be read, prints
 // the sum and returns the exit code.
 int summarise(const std::vector<std::string>& files, bool as_json);
 
-// add_line adds a line: a summary in JSON, with rows, or a result in JSON. Throws std::invalid_argument, with a message
-// for the user, for anything else, and has added nothing then.
+// add_line adds a line: a summary in JSON, with rows, or a result in JSON. For anything else, it adds nothing and
+// throws std::invalid_argument with a message for the user.
 void add_line(Summary& summary, const std::string& line);
 
 }  // namespace ostrel::tool

@@ -1,4 +1,4 @@
-// Summary: what became of the records of a batch, by check, parameter and reason.
+// Summary: the outcomes of the records of a batch, by check, parameter and reason.
 #ifndef OSTREL_TOOLS_SUMMARY_SUMMARY_H
 #define OSTREL_TOOLS_SUMMARY_SUMMARY_H
 
@@ -19,13 +19,13 @@ namespace ostrel::tool {
 // CountedRow is a row with the number of its records.
 struct CountedRow {
     SummaryRow row;
-    bool is_others = false;  // of the parameters that are not counted one by one
+    bool is_others = false;  // of the parameters that are not counted individually
     std::uint64_t count = 0;
 };
 
-// Summary has at most so many parameters of a check, the first ones in the order of their bytes; the records of others
-// are counted together. A parameter that is among the others stays there, whatever comes later. So the sum of the
-// summaries of pieces is the summary of the whole.
+// Summary stores at most kMostParameters parameters of a check, the first ones in byte order. It counts the records
+// of other parameters together. A parameter that is among the others stays there, whatever follows. Therefore the sum
+// of the summaries of pieces is the summary of the whole.
 class Summary {
  public:
     static constexpr std::size_t kMostParameters = 1000;
@@ -35,14 +35,15 @@ class Summary {
     void add(const CountedRow& counted);
     void add_unreadable_files(std::uint64_t count) { unreadable_files_ += count; }
 
-    // The counts of dumps.
+    // unmapped returns the counts of dumps.
     [[nodiscard]] Unmapped& unmapped() { return unmapped_; }
     [[nodiscard]] const Unmapped& unmapped() const { return unmapped_; }
 
     [[nodiscard]] const Tally& tally() const { return tally_; }
     [[nodiscard]] std::uint64_t unreadable_files() const { return unreadable_files_; }
 
-    // for_each visits the rows in the order of the catalogue, of the parameters, and of verdicts, codes and reasons.
+    // for_each visits the rows in the order of the catalogue, then of the parameters, then of verdicts, codes and
+    // reasons.
     void for_each(const std::function<void(const CountedRow&)>& visit) const;
 
  private:
@@ -58,7 +59,7 @@ class Summary {
 
     static void add(Kinds& kinds, const SummaryRow& row, std::uint64_t count);
 
-    std::vector<OfCheck> checks_;  // as in the catalogue; and last, what belongs to no check
+    std::vector<OfCheck> checks_;  // as in the catalogue; the last one is for records without a check
     Tally tally_;
     Unmapped unmapped_;
     std::uint64_t unreadable_files_ = 0;

@@ -8,8 +8,8 @@
 
 namespace ostrel::tool {
 
-// summary_text and summary_json say what became of the records: of each family of checks, with_rows of each row, and
-// in the last line of the text of all. The JSON is one line.
+// summary_text and summary_json show the outcomes of the records of each family of checks and, if with_rows is set,
+// of each row. The last line of the text shows the totals. The JSON is one line.
 std::string summary_text(const Summary& summary, bool with_rows);
 std::string summary_json(const Summary& summary, bool with_rows);
 

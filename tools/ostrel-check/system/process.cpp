@@ -73,19 +73,19 @@ pid_t fork_guarded()
     const pid_t child = fork();
     if (child < 0) throw failure("cannot start a process");
     if (child > 0) {
-        setpgid(child, child);  // both sides do it, so that neither acts before it is done
+        setpgid(child, child);  // both processes do it, so that neither continues too early
         return child;
     }
     setpgid(0, 0);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != parent) _exit(0);
-    // A core handler at the other end of a pipe ignores the limit, so the process is also marked.
+    // A core handler that reads from a pipe ignores the limit, so the process is also marked.
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
     prctl(PR_SET_DUMPABLE, 0);
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGTTOU, SIG_IGN);
-    // What the supervisor does about these is not the child's to do.
+    // The child must not handle these signals as the supervisor does.
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
     return 0;

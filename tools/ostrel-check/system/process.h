@@ -1,4 +1,4 @@
-// Processes: a check may crash or hang in one of its own.
+// Processes: checks run in separate processes, because they may crash or hang.
 #ifndef OSTREL_TOOLS_SYSTEM_PROCESS_H
 #define OSTREL_TOOLS_SYSTEM_PROCESS_H
 
@@ -9,7 +9,7 @@
 
 namespace ostrel::tool {
 
-// Descriptor is an open file that is closed at the end.
+// Descriptor is an open file. The destructor closes it.
 class Descriptor {
  public:
     explicit Descriptor(int number = -1) : number_(number) {}
@@ -36,12 +36,11 @@ struct Pipe {
 // make_pipe throws std::system_error.
 Pipe make_pipe();
 
-// fork_guarded forks: 0 in the child, its process id in the parent. The child leads a process group of its
-// own, dies with its parent, leaves no core file and survives a closed pipe. Throws
-// std::system_error.
+// fork_guarded forks. It returns 0 in the child, and the child's process id in the parent. The child leads its own
+// process group, dies with its parent, leaves no core file and survives a closed pipe. Throws std::system_error.
 pid_t fork_guarded();
 
-// Ending says how a process ended.
+// Ending is how a process ended.
 struct Ending {
     bool by_signal = false;
     int number = 0;  // of the signal, or the exit status
@@ -50,36 +49,36 @@ struct Ending {
 // wait_for waits for a child to end.
 Ending wait_for(pid_t child);
 
-// stop ends a child and what it has started, and waits for the child.
+// stop kills a child and the processes that it has started, and waits for the child.
 void stop(pid_t child);
 
-// mentions_assertion tells the C library's report of a failed assertion.
+// mentions_assertion returns whether the output contains the C library's report of a failed assertion.
 bool mentions_assertion(std::string_view printed);
 
-// describe_ending says in words what ended the process of a check.
+// describe_ending describes what ended the process of a check.
 std::string describe_ending(const Ending& ending, bool by_assertion);
 
-// describe_no_return says that a call was given up after so many seconds.
+// describe_no_return describes a call that did not return within so many seconds.
 std::string describe_no_return(double seconds);
 
-// occupy_standard_descriptors keeps a pipe or a file from taking the number of a standard stream that is
-// closed. Using that stream goes on to fail.
+// occupy_standard_descriptors prevents a pipe or a file from taking the number of a closed standard stream. Using
+// that stream still fails.
 void occupy_standard_descriptors();
 
-// say writes to standard error, if that can be.
+// say writes to standard error and ignores errors.
 void say(std::string_view text);
 
-// write_what_fits writes a text and returns how much of it was written, and why not all: an errno, or 0.
+// write_what_fits writes a text. It returns how much of it was written, and 0 or the errno that prevented more.
 struct Fitted {
     std::size_t size = 0;
     int error = 0;
 };
 Fitted write_what_fits(int descriptor, std::string_view text);
 
-// take_back removes the last bytes that were written to a file; from anything else nothing can be taken back.
+// take_back removes the last bytes that were written to a regular file. It does nothing for anything else.
 void take_back(int descriptor, std::size_t size);
 
-// write_all writes everything, or says by false that nobody reads any more. Throws std::system_error.
+// write_all writes everything, or returns false if the reader has closed the pipe. Throws std::system_error.
 bool write_all(int descriptor, std::string_view text);
 
 }  // namespace ostrel::tool

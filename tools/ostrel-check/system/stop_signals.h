@@ -8,8 +8,8 @@
 
 namespace ostrel::tool {
 
-// StopSignals takes SIGINT and SIGTERM for as long as it lives, unless they were ignored before. The second of a kind
-// ends the process as ever. One at a time.
+// StopSignals handles SIGINT and SIGTERM during its lifetime, unless they were ignored before. The second signal of a
+// kind ends the process. Only one StopSignals may exist at a time.
 class StopSignals {
  public:
     StopSignals();
@@ -17,10 +17,10 @@ class StopSignals {
     StopSignals& operator=(const StopSignals&) = delete;
     ~StopSignals();
 
-    // descriptor can be read from when a signal has come.
+    // descriptor returns a descriptor that is readable after a signal has arrived.
     [[nodiscard]] int descriptor() const { return pipe_.reading.number(); }
 
-    // number is that of the first signal that came, or 0.
+    // number returns the first signal that arrived, or 0.
     [[nodiscard]] static int number();
 
  private:

@@ -17,7 +17,7 @@ constexpr int kNotFound = 127;  // the status of a shell that cannot find a comm
 
 // NOLINTBEGIN(concurrency-mt-unsafe): there is one thread
 
-// pager is the command, or NULL where none is wanted.
+// pager returns the command, or NULL if none is wanted.
 const char* pager()
 {
     const char* terminal = std::getenv("TERM");
@@ -51,7 +51,7 @@ void show_page(std::string_view text)
         write_all(STDOUT_FILENO, text);
         return;
     }
-    // Keys that interrupt are the pager's to understand.
+    // The pager handles the interrupt keys.
     std::signal(SIGINT, SIG_IGN);
     std::signal(SIGQUIT, SIG_IGN);
     pipe.reading.close();

@@ -1,4 +1,4 @@
-// Pager: a long page, shown by the program that the user chose for that.
+// Pager: shows a long page with the program that the user chose.
 #ifndef OSTREL_TOOLS_TERMINAL_PAGER_H
 #define OSTREL_TOOLS_TERMINAL_PAGER_H
 
@@ -6,8 +6,8 @@
 
 namespace ostrel::tool {
 
-// show_page writes a text to standard output, on a terminal by $PAGER, or by less where nothing is chosen. less ends by
-// itself where one screen is enough, unless $LESS says otherwise.
+// show_page writes a text to standard output. On a terminal, it uses $PAGER, or less by default. less ends by itself
+// if the text fits on one screen, unless $LESS says otherwise.
 void show_page(std::string_view text);
 
 }  // namespace ostrel::tool

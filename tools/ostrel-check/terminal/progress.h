@@ -1,4 +1,4 @@
-// Meter: how far a batch has come, for somebody who waits at a terminal.
+// Meter: the progress of a batch, for a user who waits at a terminal.
 #ifndef OSTREL_TOOLS_TERMINAL_PROGRESS_H
 #define OSTREL_TOOLS_TERMINAL_PROGRESS_H
 
@@ -10,22 +10,22 @@
 
 namespace ostrel::tool {
 
-// Advance is how far a batch has come.
+// Advance is the progress of a batch.
 struct Advance {
     std::uint64_t cases = 0;
     std::uint64_t refused = 0;
     std::uint64_t bytes = 0;  // of the input
 };
 
-// size_of is the number of bytes in the files, or nothing where one of them is not a regular file.
+// size_of returns the number of bytes in the files, or nothing if one of them is not a regular file.
 std::optional<std::uint64_t> size_of(const std::vector<std::string>& files);
 
-// describe says it in a line of at most 80 columns. The bytes skipped were not judged and took no time.
+// describe returns the progress in a line of at most 80 columns. The skipped bytes were not judged and took no time.
 std::string describe(const Advance& advance, double seconds, std::optional<std::uint64_t> size,
                      std::uint64_t skipped);
 
-// Meter writes one line to standard error and over it again, if that is a terminal and the batch has taken
-// longer than a second. The line goes away before anything else is written.
+// Meter writes one line to standard error and overwrites it, if standard error is a terminal and the batch has run
+// for more than a second. Clear the line before writing anything else.
 class Meter {
  public:
     explicit Meter(std::optional<std::uint64_t> size);
@@ -37,10 +37,10 @@ class Meter {
     void show(const Advance& advance);
     void clear();
 
-    // clear_keys takes away what the terminal shows of the keys that interrupt.
+    // clear_keys erases what the terminal shows for the interrupt keys.
     void clear_keys() const;
 
-    // is_due tells that it is time to show something.
+    // is_due returns whether it is time to show the progress.
     [[nodiscard]] bool is_due() const;
     [[nodiscard]] bool is_wanted() const { return is_wanted_; }
 

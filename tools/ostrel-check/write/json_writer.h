@@ -1,4 +1,4 @@
-// Values of calls as JSON, by RapidJSON.
+// Values of calls as JSON, written with RapidJSON.
 #ifndef OSTREL_TOOLS_WRITE_JSON_WRITER_H
 #define OSTREL_TOOLS_WRITE_JSON_WRITER_H
 
@@ -15,8 +15,8 @@
 
 namespace ostrel::tool {
 
-// JsonWriter copies what needs no escapes, and the JSON that it is given, at once; RapidJSON's own writer goes through both
-// byte by byte, which takes half of the time that a result takes.
+// JsonWriter copies texts that need no escapes, and finished JSON, as a whole. RapidJSON's own writer processes both
+// byte by byte, which takes half of the time for a result.
 class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
  public:
     using Writer::Writer;
@@ -31,7 +31,7 @@ class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
         place[text.size() + 1] = '"';
     }
 
-    // members writes some members of an object at once, as they are to be written.
+    // members writes some members of an object at once, without changes.
     void members(std::string_view json)
     {
         Prefix(rapidjson::kStringType);
@@ -46,10 +46,10 @@ class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
     void text(std::string_view text);
 };
 
-// write_text writes a text in UTF-8; what is not valid is escaped as \xNN.
+// write_text writes a text in UTF-8, with invalid bytes escaped as \xNN.
 void write_text(JsonWriter& json, std::string_view text);
 
-// write_bytes writes bytes of a value as a text, or as {"base64": text} where they do not decode.
+// write_bytes writes the bytes of a value as a text, or as {"base64": text} if they cannot be decoded.
 void write_bytes(JsonWriter& json, std::string_view bytes, Encoding encoding);
 
 void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encoding);
@@ -57,10 +57,10 @@ void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encod
 // write_member writes the value of a member that is passed through.
 void write_member(JsonWriter& json, const Member& member);
 
-// text_of returns a member that is passed through as a text: a text as it is, everything else as JSON.
+// text_of returns a member that is passed through: a text unchanged, and any other value as JSON.
 std::string text_of(const Member& member);
 
-// append_bytes is write_bytes where JSON is made without a writer.
+// append_bytes does the same as write_bytes for JSON that is built without a writer.
 void append_bytes(std::string& out, std::string_view bytes, Encoding encoding);
 
 }  // namespace ostrel::tool

@@ -8,7 +8,7 @@
 
 namespace ostrel::tool {
 
-// append_csv adds a row, and csv_header returns the row that precedes all of them.
+// append_csv appends a row, and csv_header returns the row that precedes all others.
 void append_csv(std::string& out, const Style& style, const Location& place, const Result& result);
 std::string csv_header(const Style& style);
 

@@ -11,14 +11,14 @@ namespace ostrel::tool {
 
 namespace {
 
-// What a result says itself. A member of that name that came in is put into "given".
+// kOwn lists the members that a result defines. A member of the input with one of these names is put into "given".
 constexpr std::array<std::string_view, 16> kOwn = {"file",   "line",    "check", "verdict", "code", "meaning",
                                                    "reason", "remarks", "out",   "flushed", "err",  "cut",
                                                    "after",  "args",    "given", "tried"};
 
 bool is_own(std::string_view name) { return std::ranges::find(kOwn, name) != kOwn.end(); }
 
-// ResultLine writes one line after the other, with the same memory.
+// ResultLine writes one line after another and reuses its memory.
 class ResultLine {
  public:
     ResultLine() : json_(buffer_) {}

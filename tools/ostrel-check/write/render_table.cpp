@@ -11,11 +11,11 @@ namespace ostrel::tool {
 
 namespace {
 
-// A table is for people: of long texts it shows the beginning.
+// A table is for people, so it shows only the beginning of long texts.
 constexpr std::size_t kLongestShown = 200;
 constexpr int kMostLinesShown = 8;
 
-// Where the verdict begins.
+// kIndentation is the column in which the verdict begins.
 constexpr std::size_t kIndentation = 9;
 constexpr std::size_t kHanging = 2;
 
@@ -27,7 +27,7 @@ void append_padded(std::string& out, std::string_view text, std::size_t width, b
     if (!to_the_right) out += blanks;
 }
 
-// append_printed shows what was printed line by line, each after a mark.
+// append_printed appends the printed lines, each after a mark.
 void append_printed(std::string& out, std::string_view text, std::string_view mark, std::size_t columns)
 {
     for (int shown = 0; !text.empty(); ++shown) {
@@ -44,7 +44,7 @@ void append_printed(std::string& out, std::string_view text, std::string_view ma
     }
 }
 
-// append_whose names the record as it names itself.
+// append_whose appends the record's id and parameter.
 void append_whose(std::string& out, const Result& result)
 {
     if (result.record == nullptr) return;

@@ -9,10 +9,10 @@
 
 namespace ostrel::tool {
 
-// append_row adds a result to a table.
+// append_row appends a result to a table.
 void append_row(std::string& out, const Style& style, const Location& place, const Result& result);
 
-// append_after adds a line for each argument that the check may have written to.
+// append_after appends a line for each argument that the check may have written to.
 void append_after(std::string& out, const Result& result, std::size_t indentation, std::size_t columns);
 
 // kLibrary precedes each line that the library itself printed.
