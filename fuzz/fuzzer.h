@@ -35,8 +35,8 @@ class Fuzzer {
     RunResult run(std::string_view input, const rules::Build& build, rules::Counts* counts = nullptr,
                   rules::Counts* further = nullptr);
 
-    // fault describes the last input that differed: the expected row, as in vectors/, and the actual one; or what is
-    // wrong with the reason.
+    // fault describes the last input that differed, by the expected row, as in vectors/, and the actual one, or by
+    // the fault in the reason.
     [[nodiscard]] const std::string& fault() const { return fault_; }
 
     // encode returns the input for a call; nothing if the function is not of this family or a text is too long.

@@ -39,7 +39,7 @@ std::span<const Way> ways();
 class Follower {
  public:
     // follow follows the reason of a refused call. It passes each further call and its answer to visit, and counts
-    // their steps. It returns what is wrong, or an empty text. fault_call is the call that showed it.
+    // their steps. It returns a description of the fault, or an empty text. fault_call is the call that showed it.
     std::string follow(const rules::Check& check, const Values& values, const rules::Build& build,
                        const rules::Answer& answer,
                        const std::function<void(const Values&, const rules::Answer&)>& visit,

@@ -14,8 +14,9 @@ namespace ostrel::oracle {
 
 class CallComparer {
  public:
-    // agrees makes the call twice, with every argument ending and with every argument beginning at an unreadable page.
-    // It compares the code, what was printed and flushed, and what was written. The contract must cover the call.
+    // agrees makes the call twice, with every argument ending and with every argument beginning at an unreadable
+    // page. It compares the code, the output, how much was flushed, and the written arguments. The contract must cover
+    // the call.
     bool agrees(const catalogue::Function& function, const std::vector<rules::Value>& values,
                 const rules::Answer& expected);
 

@@ -41,7 +41,7 @@ struct Log {
     std::array<char, kRows> rows;
 
     // has_room returns whether two more entries of any size fit: one of the worker, and one of the supervisor for the
-    // record that ended the worker. is_half_full tells a worker that can choose where to stop to do so.
+    // record that ended the worker. If is_half_full, a worker stops at the next place where a batch can be resumed.
     static bool has_room(const Size& size)
     {
         return size.entries + 2 <= kMostRecords && size.bytes + 2 * kLongestRow <= kRows;

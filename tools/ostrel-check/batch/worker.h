@@ -11,8 +11,8 @@
 
 namespace ostrel::tool {
 
-// A worker stops after writing kEnoughOutput, so that the supervisor takes the output. Within a gateway it continues
-// up to kMostOutput, so that the output usually ends where a batch can be resumed.
+// A worker stops after writing kEnoughOutput, and the supervisor then takes the output. Within a gateway it continues
+// up to kMostOutput, because a batch can usually be resumed only between gateways.
 inline constexpr std::size_t kEnoughOutput = std::size_t{4} << 20;
 inline constexpr std::size_t kMostOutput = 8 * kEnoughOutput;
 

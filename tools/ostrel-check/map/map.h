@@ -1,4 +1,4 @@
-// Map: which check judges which parameter of a configuration, and where the check's other arguments come from.
+// Map: assigns checks to parameters of a configuration, and defines the sources of their other arguments.
 #ifndef OSTREL_TOOLS_MAP_MAP_H
 #define OSTREL_TOOLS_MAP_MAP_H
 

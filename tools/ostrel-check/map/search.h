@@ -9,7 +9,7 @@
 
 namespace ostrel::tool {
 
-// shortest_text returns one of the shortest texts of a language, made of letters and digits if possible. It returns
+// shortest_text returns one of the shortest texts of a language, with letters and digits if possible. It returns
 // nothing if the language is empty or too large to search.
 std::optional<std::string> shortest_text(rules::Languages& languages, rules::Language one);
 

@@ -43,7 +43,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     static constexpr const char* kNotAnArray = "\"args\" must be an array";
     static constexpr const char* kNotBase64 = "an object that is an argument must be {\"base64\": text}";
 
-    // State is what is read next.
+    // State is the part of the record that is read next.
     enum class State {
         kObject,   // the record itself
         kMembers,  // its members

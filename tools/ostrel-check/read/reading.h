@@ -18,7 +18,7 @@ enum class FileFormat {
     kNdjson,  // a line is an object of JSON
     kCsv,     // RFC 4180, with a header
     kTsv,     // the same with tabs
-    kJson,    // an array of objects, or objects one after the other, over as many lines as they need
+    kJson,    // an array of objects, or consecutive objects, over any number of lines
 };
 
 struct Reading {

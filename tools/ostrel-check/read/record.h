@@ -52,14 +52,14 @@ struct Record {
     std::string_view check;  // its name; empty if the record has none
     std::string_view path;   // of a parameter without a check
     GatewayCounts counts;    // at the end of a gateway
-    std::uint64_t end = 0;   // there too: the line where the next gateway begins
+    std::uint64_t end = 0;   // likewise: the line where the next gateway begins
     std::vector<Item> items;
     std::vector<Member>
         members;               // "id" and "parameter" among them, in the order of the record, no name twice
     std::string_view problem;  // not empty: why there is no call
     std::string_view problem_id;        // id of the problem, if the record itself is not at fault
     std::string_view problem_argument;  // the argument that has no value
-    std::string_view problem_path;      // and the parameter that it would come from
+    std::string_view problem_path;      // the parameter that its value would come from
     bool may_have_spares = false;       // excess empty items mean nothing
 
     void clear()

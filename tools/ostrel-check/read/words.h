@@ -14,7 +14,7 @@
 
 namespace ostrel::tool {
 
-// Words contains the words of a line. It is reused, to reuse its memory.
+// Words contains the words of a line. Its memory is reused for the next line.
 class Words {
  public:
     // split reads words separated by blanks, 'literal text', "text with escapes", escapes outside quotation marks,

@@ -12,8 +12,8 @@
 
 namespace ostrel::tool {
 
-// append_escaped appends bytes, with control bytes, DEL and bytes from 0x80 as \xNN. It cuts
-// a text after limit bytes and appends its size.
+// append_escaped appends bytes, with control bytes, DEL and bytes from 0x80 as \xNN. It cuts a text after limit bytes
+// and appends its size.
 void append_escaped(std::string& out, std::string_view bytes, std::size_t limit);
 
 // append_word appends a text as a word that Words reads as the same text, unless it is cut.
