@@ -17,8 +17,8 @@ std::string in_lower_case(std::string_view text);
 // none or several.
 const Function* find_in_any_case(std::string_view name);
 
-// similar_names returns at most three of the names: those that contain the word, in any case, or otherwise those that
-// a few typing errors in the name or in a word of it lead to. The most similar one comes first.
+// similar_names returns at most three of the names: those that contain the word, in any case, or otherwise those of
+// which the name, or a word of it, differs by a few typing errors. The most similar name is the first.
 std::vector<std::string_view> similar_names(std::string_view word,
                                             const std::vector<std::string_view>& names);
 

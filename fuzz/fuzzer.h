@@ -30,8 +30,8 @@ class Fuzzer {
     explicit Fuzzer(std::string_view family);
 
     // run decodes an input, makes its call, and follows the reason if the call is refused. If build has no list of
-    // channels, it skips calls that would query the wireless driver. It adds the steps of the call to counts, and
-    // those of the calls that the reason leads to to further.
+    // channels, it skips calls that would query the wireless driver. counts counts the steps of the call, and further
+    // counts those of the calls that the reason leads to.
     RunResult run(std::string_view input, const rules::Build& build, rules::Counts* counts = nullptr,
                   rules::Counts* further = nullptr);
 

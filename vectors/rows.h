@@ -59,8 +59,8 @@ std::vector<Row> read_cases();
 // longest_text returns the length of the longest text among the arguments.
 std::size_t longest_text(const calling::Case& given);
 
-// expected_result returns the result that a row promises if before is what the arguments contain before the call,
-// with this C library or another one.
+// expected_result returns the result that a row promises. before contains the arguments before the call, and atoi
+// selects this C library or another one.
 CallResult expected_result(const Row& row, const std::vector<calling::Written>& before,
                            Atoi atoi = rules::atoi_here());
 

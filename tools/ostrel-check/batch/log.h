@@ -55,7 +55,7 @@ struct Log {
 // for_each_row calls visit with each row of a log, in order.
 void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const SummaryRow&)>& visit);
 
-// LogWriter adds to a log. It remembers which rows the log contains, and which examples it has logged.
+// LogWriter adds to a log. It remembers which rows the log contains, and which examples it has written.
 class LogWriter {
  public:
     explicit LogWriter(Log& log) : log_(&log) {}

@@ -31,7 +31,7 @@ std::size_t position_of(const catalogue::Function& function)
     return static_cast<std::size_t>(&function - catalogue::functions().data());
 }
 
-// functions_that returns whether a condition holds, for each function of the catalogue.
+// functions_that returns, for each function of the catalogue, whether its check meets a condition.
 std::vector<bool> functions_that(bool (*holds)(const rules::Check&))
 {
     std::vector<bool> result;

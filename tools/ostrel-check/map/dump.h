@@ -24,7 +24,7 @@ class Dump {
     // Throws std::invalid_argument with a message for the user.
     Dump(FileFormat format, const Reading& reading, std::string_view preamble);
 
-    // next does the same as the file's reader.
+    // next returns the same as next of the file's reader.
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
     // read reads a text, and next_row then returns its rows. Throws std::invalid_argument with a message for the
