@@ -98,7 +98,7 @@ class Comparer {
         return languages_.contains(standard_.foreign, value);
     }
 
-    // is_allowed_utf8 expects a text that repeats one character.
+    // is_allowed_utf8 returns whether the model allows a text that repeats one character.
     bool is_allowed_utf8(const std::string& value)
     {
         if (!standard_.is_text || !facts_.keywords.empty()) return false;

@@ -16,7 +16,7 @@ struct Standard {
     rules::Language foreign;  // ASCII texts without blanks that certainly do not have the type's form
     rules::Language least;    // every text in it that has the type's form is allowed
     rules::Language most;     // contains every allowed text
-    bool is_text = false;     // it may contain other characters
+    bool is_text = false;     // texts may contain other characters
     bool is_known = true;     // false: nothing is known of the type, or of a pattern
 };
 

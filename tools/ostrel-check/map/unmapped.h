@@ -21,8 +21,8 @@ std::string_view why_unmapped(const Map& map, std::string_view path);
 // SplitGateways remembers the last gateways of a batch.
 class SplitGateways {
  public:
-    // begin records that rows of a gateway begin, and counts the gateway if earlier rows of it have ended. Without a
-    // name, it is a separate gateway.
+    // begin records that rows of a gateway begin, and counts the gateway if earlier rows of it have ended. It ignores
+    // a gateway without a name, which is a separate one each time.
     void begin(std::string_view gateway);
 
     [[nodiscard]] std::uint64_t count() const { return count_; }

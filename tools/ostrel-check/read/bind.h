@@ -19,7 +19,8 @@ const catalogue::Function& bind_check(const Record& record);
 void bind(const catalogue::Function& function, std::span<const Item> items,
           std::vector<catalogue::Value>& values);
 
-// without_spares returns the items of a record without excess items that mean nothing to the check.
+// without_spares returns the items of a record without the excess empty items at the end, which mean nothing to the
+// check.
 std::span<const Item> without_spares(const catalogue::Function& function, const Record& record);
 
 }  // namespace ostrel::tool

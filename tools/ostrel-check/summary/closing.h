@@ -17,7 +17,7 @@ struct Closing {
 };
 
 // write_summary writes the summary to its file if it has one, otherwise after the results if it may follow them, and
-// otherwise to standard error. It returns whether it could, and reports an error on standard error.
+// otherwise to standard error. It returns whether this succeeded, and reports an error on standard error.
 bool write_summary(const Closing& closing, const Summary& summary, bool follows_results);
 
 }  // namespace ostrel::tool

@@ -20,7 +20,7 @@ class StopSignals {
     // descriptor returns a descriptor that is readable after a signal has arrived.
     [[nodiscard]] int descriptor() const { return pipe_.reading.number(); }
 
-    // number returns the first signal that arrived, or 0.
+    // number returns the number of the first signal that arrived, or 0.
     [[nodiscard]] static int number();
 
  private:

@@ -22,7 +22,7 @@ inline constexpr std::size_t kColumns = 80;
 // kAnyWidth disables wrapping.
 inline constexpr std::size_t kAnyWidth = 0;
 
-// columns_of returns the width of a terminal, or otherwise if the descriptor has none.
+// columns_of returns the width of a terminal. For anything else it returns the value of otherwise.
 std::size_t columns_of(int descriptor, std::size_t otherwise);
 
 // Look is the appearance of a page.

@@ -57,7 +57,7 @@ void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encod
 // write_member writes the value of a member that is passed through.
 void write_member(JsonWriter& json, const Member& member);
 
-// text_of returns a member that is passed through: a text unchanged, and any other value as JSON.
+// text_of returns a member that is passed through as a text: a text unchanged, and any other value as JSON.
 std::string text_of(const Member& member);
 
 // append_bytes does the same as write_bytes for JSON that is built without a writer.
