@@ -7,7 +7,7 @@ FOLDER = pathlib.Path(__file__).resolve().parent
 
 
 def text_of(value):
-    """text_of returns an argument of a row, with its notation for long texts written out."""
+    """text_of returns an argument of a row, with its long texts expanded."""
     if isinstance(value, dict):
         return text_of(value["repeat"]) * value["times"] if "repeat" in value else "".join(map(text_of, value["join"]))
     return [text_of(text) for text in value] if isinstance(value, list) else value

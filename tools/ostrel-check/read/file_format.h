@@ -10,7 +10,7 @@
 
 namespace ostrel::tool {
 
-// format_of_name recognizes the usual extensions.
+// format_of_name recognises the usual extensions.
 std::optional<FileFormat> format_of_name(std::string_view name);
 
 // format_of_bytes examines the first line, or as much of it as there is. Lines of JSON have the format of words,

@@ -66,7 +66,7 @@ void Input::end_file()
     size_ = taken_;
 }
 
-// fill reads once. It returns false if this changed nothing.
+// fill reads once. It returns false if nothing changed.
 bool Input::fill()
 {
     // The texts that were returned are no longer in use.
