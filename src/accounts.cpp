@@ -15,8 +15,8 @@ using namespace ostrel;
 
 namespace {
 
-// The realms of the ISP served, with their "@". They are arrays because a constant view would be a pointer,
-// which needs a relocation.
+// The realms of the ISP served, with their "@". They are arrays because a constant view would be a pointer, which needs
+// a relocation.
 constexpr char kAccountRealm[] = OSTREL_ACCOUNT_REALM;
 constexpr char kSetupRealm[] = OSTREL_SETUP_REALM;
 
@@ -35,8 +35,8 @@ constexpr Text kOtherUserName = text(1, 131, kLatin1Printable);
 
 constexpr int kNoType = 0;
 
-// account_type returns the type of a name that has 18 to 30 characters before the account realm, at most two
-// of them "#".
+// account_type returns the type of a name that has 18 to 30 characters before the account realm, of which at most two
+// are "#".
 int account_type(std::string_view part, int separators)
 {
     const std::size_t length = part.size();
@@ -57,7 +57,7 @@ int setup_type(std::string_view part, int separators)
     return separators == 1 && part.size() == 17 && part[12] == '#' ? 6 : kNoType;
 }
 
-// cut_realm takes the realm off the end of a name that has at least one character before it.
+// cut_realm removes the realm from the end of a name that has at least one character before it.
 bool cut_realm(std::string_view& name, std::string_view realm)
 {
     if (name.size() == realm.size() || !ends_with(name, realm)) return false;
@@ -71,7 +71,7 @@ int TcmValidateProvisioningCode(const char* value)
 {
     const std::string_view code = value;
     if (code.size() != 15) return OSTREL_INVALID_VALUE;
-    constexpr char kShape[] = "000.004.004.999";  // each digit is the highest that its place allows
+    constexpr char kShape[] = "000.004.004.999";  // each digit is the highest one allowed at its position
     for (std::size_t i = 0; i < code.size(); ++i) {
         const char highest = kShape[i];
         const char lowest = highest == '.' ? '.' : '0';

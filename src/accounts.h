@@ -1,4 +1,4 @@
-// Lengths and characters of passwords that several checks ask for.
+// Lengths and characters of passwords that several checks require.
 #ifndef OSTREL_SRC_ACCOUNTS_H
 #define OSTREL_SRC_ACCOUNTS_H
 

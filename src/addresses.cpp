@@ -22,14 +22,14 @@ constexpr std::size_t kMacAddressLength = 17;  // six octets of two digits and f
     return contains(kHexDigits, digits[0]) && contains(kHexDigits, digits[1]);
 }
 
-// is_group_digit tells whether the second hexadecimal digit of an address carries the group bit. The codes of
-// 'A' and 'a' are odd where the digits' values are even.
+// is_group_digit returns whether the second hexadecimal digit of an address sets the group bit. The codes of 'A' and
+// 'a' are odd, but the values of these digits are even.
 bool is_group_digit(char digit) { return (digit >= 'A' ? digit - 'A' : digit - '0') % 2 != 0; }
 
 bool has_length_of_mac_address(const char* value) { return std::strlen(value) == kMacAddressLength; }
 
-// The next two say what they find only of a value that has the length of an address. One that is accepted needs
-// not be measured: it has its length by its form.
+// The next two functions print only if the value has the length of an address. An accepted value needs no such test,
+// because the parse fixes its length.
 
 bool refuse_group_address(const char* value)
 {
@@ -43,7 +43,7 @@ bool refuse_separator(const char* value, char separator)
     return false;
 }
 
-// goes_on tells whether a separator and an octet follow. Calls in a row instead of a loop save a seventh of the
+// goes_on returns whether a separator and an octet follow. Successive calls instead of a loop save a seventh of the
 // time.
 inline bool goes_on(const char* value, int at)
 {
@@ -59,9 +59,9 @@ bool is_mac_address(const char* value, bool station_only)
            goes_on(value, 14) && value[kMacAddressLength] == '\0';
 }
 
-// skip_octet returns where a number of up to 255 at the start of the text ends, NULL where there is none. It looks at
-// three characters whether or not they are digits, because a processor that has to guess how many digits there are is
-// often wrong: an address takes half the time. For the same reason, a product takes the place of a second condition.
+// skip_octet returns the end of a number of up to 255 at the start of the text, or NULL if there is none. It always
+// examines three characters, because branches on the number of digits are mispredicted often: without them an address
+// takes half the time. For the same reason, a product replaces a second condition.
 inline const char* skip_octet(const char* text)
 {
     while (text[0] == '0' && digit(text[1]) <= kLargestDigit) ++text;
@@ -69,7 +69,7 @@ inline const char* skip_octet(const char* text)
     if (first > kLargestDigit) return nullptr;
     const unsigned second = digit(text[1]);
     const bool has_second = second <= kLargestDigit;
-    const unsigned third = digit(text[1 + has_second]);  // the second character again if that is not a digit
+    const unsigned third = digit(text[1 + has_second]);  // the second character again if it is not a digit
     const bool has_third = third <= kLargestDigit;
     const unsigned number = first * 100 + second * 10 + third;
     if (number * has_third > 255) return nullptr;

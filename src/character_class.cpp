@@ -2,7 +2,7 @@
 
 namespace {
 
-// Short names, so that a row of the table shows sixteen bytes.
+// Short names keep a table row of sixteen bytes on one line.
 constexpr unsigned char N = 0;
 constexpr unsigned char U = CT_UPPER;
 constexpr unsigned char L = CT_LOWER;

@@ -11,10 +11,10 @@ constexpr unsigned kNoNumber = 100;  // above every limit
 constexpr unsigned kLastHour = 24;
 constexpr unsigned kLastMinute = 59;
 constexpr unsigned kLastSecond = 59;
-constexpr unsigned kLastOffsetHour = 59;  // the hours of an offset go as far as its minutes
+constexpr unsigned kLastOffsetHour = 59;  // the hours of an offset have the same limit as its minutes
 constexpr unsigned kLastZoneHour = 12;
 
-// Reader walks through a value. Each step tells whether the value goes on as asked; none goes beyond the
+// Reader walks through a value. Each step returns whether the value continues as required; none goes past the
 // terminator, which is neither a digit nor a separator.
 class Reader {
  public:
@@ -38,7 +38,7 @@ class Reader {
         return true;
     }
 
-    // sign is branch-free: which of the two it is cannot be predicted.
+    // sign has no branch, because a branch on the sign would be mispredicted often.
     bool sign()
     {
         const bool is_sign = (*at_ == '+') | (*at_ == '-');
@@ -52,14 +52,14 @@ class Reader {
     const char* at_;
 };
 
-// Date is what a date-time must be known of to judge its day.
+// Date has the fields by which the day of a date-time is judged.
 struct Date {
     unsigned year = 0;
     unsigned month = 0;
     unsigned day = 0;
 };
 
-// read_day_and_time reads "DDThh:mm:ss", which all forms share. Here and below, inline saves a fifth of the
+// read_day_and_time reads "DDThh:mm:ss", which all forms share. Inlining it and the function below saves a fifth of the
 // time of a date-time.
 inline bool read_day_and_time(Reader& reader, Date& date)
 {
@@ -79,7 +79,7 @@ inline bool read_offset(Reader& reader, unsigned last_hour)
 bool read_date_time(Reader reader, Date& date)
 {
     const unsigned century = reader.two_digits();
-    const unsigned year = reader.two_digits();  // is none where the century is none
+    const unsigned year = reader.two_digits();  // kNoNumber if the century is
     if (year == kNoNumber) return false;
     date.year = century * 100 + year;
     const bool extended = reader.separator('-');
@@ -101,7 +101,7 @@ constexpr int kDaysOfMonth[] = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 3
 
 bool is_leap_year(int year) { return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0); }
 
-// is_day has no lower bound: day 0 and days below are days of any month.
+// is_day has no lower bound: day 0 and negative days are valid in every month.
 bool is_day(int year, unsigned month, int day)
 {
     if (month < 1 || month > 12) return false;
@@ -126,7 +126,7 @@ int TcmValidateTime(const char* value)
 int TcmValidateDaylightSavingsTime(const char* value)
 {
     if (TcmValidateTime(value) == OSTREL_VALID) return OSTREL_VALID;
-    Date date;  // year 0 is a leap year: 29 February is a day of every form without a year
+    Date date;  // year 0 is a leap year, so 29 February is valid in every form without a year
     return judge(read_yearless(Reader(value), date) && is_date(date));
 }
 

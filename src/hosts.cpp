@@ -18,8 +18,8 @@ constexpr int kMostLabels = 6;
 constexpr std::ptrdiff_t kLongestUrl = 256;
 constexpr int kLargestPort = 65535;
 
-// skip_domain_name returns where a domain name at the start of the text ends, NULL where there is none. It needs no
-// test of its own for dots that lead, trail or follow each other: they leave an empty label.
+// skip_domain_name returns the end of a domain name at the start of the text, or NULL if there is none. Leading,
+// trailing and adjacent dots need no separate test, because they produce an empty label.
 const char* skip_domain_name(const char* text)
 {
     const char* const name = text;
@@ -41,7 +41,7 @@ const char* skip_host(const char* text)
 
 bool is_whole(const char* end) { return end != nullptr && *end == '\0'; }
 
-// skip_scheme takes "scheme://" and "schemes://".
+// skip_scheme accepts "scheme://" and "schemes://".
 const char* skip_scheme(const char* text, const char* scheme)
 {
     for (; *scheme != '\0'; ++scheme) {
@@ -51,8 +51,8 @@ const char* skip_scheme(const char* text, const char* scheme)
     return std::strncmp(text, "://", 3) == 0 ? text + 3 : nullptr;
 }
 
-// is_url checks only the path against the characters of a URL, because the other components allow fewer. A ":" in
-// the path would end the host if there was none before.
+// is_url tests only the path for the characters of a URL, because the other components allow fewer. Without a port, a
+// ":" in the path would end the host, so it is refused.
 bool is_url(const char* value, const char* scheme)
 {
     const char* rest = skip_scheme(value, scheme);
@@ -61,7 +61,7 @@ bool is_url(const char* value, const char* scheme)
     if (rest == nullptr) return false;
     const bool has_port = *rest == ':';
     if (has_port) {
-        // Of what begins with no digit, nothing is skipped, and it is refused unless it is a path.
+        // Without a digit nothing is skipped, and the rest is refused unless it is a path.
         const int port = read_number(++rest);
         if (port < 0 || port > kLargestPort) return false;
     }

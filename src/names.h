@@ -1,4 +1,4 @@
-// The name rules that other rules call; the exported ones are <ostrel/names.h>.
+// Name rules that other rules call; <ostrel/names.h> declares the exported ones.
 #ifndef OSTREL_SRC_NAMES_H
 #define OSTREL_SRC_NAMES_H
 

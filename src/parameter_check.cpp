@@ -28,15 +28,15 @@ constexpr int kLargestTestBuffer = 0x100000;
 
 constexpr Limits kPorts{0, 65535, OSTREL_OUT_OF_RANGE};
 
-// require_digits returns OSTREL_VALID for the empty value and refuses one that begins with a non-digit.
-// A value that begins with a digit never gets an answer, because the scan does not advance.
+// require_digits returns OSTREL_VALID for the empty value and refuses one that begins with a non-digit. For a value
+// that begins with a digit it never returns, because the scan does not advance.
 int require_digits(const char* value_p, const char* function)
 {
     while (value_p[0] != '\0') {
         if (!contains(kDigits, value_p[0])) {
             return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s is invalid\n", function, value_p);
         }
-        // C++ lets a compiler assume that a loop without effects ends; this is an effect.
+        // C++ lets a compiler assume that a loop without side effects terminates; this is a side effect.
         asm volatile("" ::: "memory");
     }
     return OSTREL_VALID;
@@ -111,7 +111,7 @@ int PARAM_check_ui2_value(const char* value_p)
     require_value(value_p, kModule);
     if (const int code = require_digits(value_p, __func__); code != OSTREL_VALID) return code;
     const int number = leading_number(value_p);
-    // Only the empty value comes this far, and reads as 0.
+    // Only the empty value reaches this line, and its number is 0.
     if (number >= 0 && number < 65536) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
     // GCOVR_EXCL_START
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s should be between [0,65536)\n", __func__,
@@ -123,7 +123,7 @@ int PARAM_check_ui4_value(const char* value_p)
 {
     require_value(value_p, kModule);
     if (const int code = require_digits(value_p, __func__); code != OSTREL_VALID) return code;
-    // Here too.
+    // The same applies here.
     if (leading_number(value_p) >= 0) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
     // GCOVR_EXCL_START
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s should be between [0,4296967296)\n",
@@ -168,7 +168,7 @@ int PARAM_check_string_len(const char* value_p, unsigned min_len, unsigned max_l
 int PARAM_check_string_prefix(const char* value_p, const char* first_chars)
 {
     require_value(value_p, kModule);
-    // The empty value's terminator is found at the end of first_chars.
+    // strchr finds the terminator of an empty value at the end of first_chars.
     return std::strchr(first_chars, value_p[0]) != nullptr ? OSTREL_VALID : OSTREL_INVALID;
 }
 

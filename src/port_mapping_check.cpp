@@ -19,7 +19,7 @@ constexpr Limits kPermanentLease{0, 0, OSTREL_LEASE_NOT_PERMANENT};
 constexpr int kTcp = 0;
 constexpr int kUdp = 1;
 
-// The ports of the gateway's own services, each list ended by -1.
+// The ports of the gateway's own services. Each list ends with -1.
 constexpr int kReservedTcpPorts[] = {80, 161, 443, 1723, 1728, 6667, 7547, -1};
 constexpr int kReservedUdpPorts[] = {161, 5060, -1};
 
@@ -27,8 +27,8 @@ constexpr int kReservedUdpPorts[] = {161, 5060, -1};
 constexpr int kFirstMediaPort = 54000;
 constexpr int kLastMediaPort = 54999;
 
-// is_port_reserved and is_wan_udp_port_available print a line under their own names when a port is taken; the
-// check that asked prints a second one.
+// is_port_reserved and is_wan_udp_port_available print a line under their own names if a port is taken; the calling
+// check then prints a second one.
 bool is_port_reserved(const char* value_p, const int* reserved)
 {
     require_value(value_p, kModule);

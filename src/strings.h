@@ -1,4 +1,4 @@
-// The string rules that other rules call; the exported ones are <ostrel/strings.h>.
+// String rules that other rules call; <ostrel/strings.h> declares the exported ones.
 #ifndef OSTREL_SRC_STRINGS_H
 #define OSTREL_SRC_STRINGS_H
 
@@ -9,12 +9,12 @@
 
 namespace ostrel {
 
-// validate_length returns 0, OSTREL_TOO_SHORT or OSTREL_TOO_LONG. The limits are signed: a negative minimum
-// lets every length through, a negative maximum none. Exact for any length, also beyond what an int can hold.
+// validate_length returns 0, OSTREL_TOO_SHORT or OSTREL_TOO_LONG. The limits are signed: a negative minimum accepts
+// every length, a negative maximum none. The result is exact even for lengths that do not fit in an int.
 int validate_length(int min_len, int max_len, std::size_t length);
 
-// Text is how long a text may be and what it may consist of, packed into a number: compilers read a structure from
-// memory where a number is part of an instruction.
+// Text packs the limits of a length and the allowed set into one number: compilers load a structure from memory, but
+// put a number into the instruction.
 enum class Text : std::uint32_t {};
 
 constexpr Text text(std::uint8_t min_len, std::uint8_t max_len, CharSet allowed)
@@ -22,8 +22,8 @@ constexpr Text text(std::uint8_t min_len, std::uint8_t max_len, CharSet allowed)
     return static_cast<Text>(static_cast<std::uint32_t>(allowed) << 16U | unsigned{max_len} << 8U | min_len);
 }
 
-// validate_string is ValidateString with a ready set. A value that it accepts is read once: its length is known when
-// its last character has been looked up.
+// validate_string is ValidateString with a predefined set. It reads an accepted value once: the lookup of the last
+// character also determines the length.
 int validate_string(const char* value, int min_len, int max_len, CharSet allowed);
 int validate_string(const char* value, Text rule);
 

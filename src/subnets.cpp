@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kMostOfferedServers = 2;
 
-// after_last_dot returns the text itself where it has no dot.
+// after_last_dot returns the text itself if it contains no dot.
 const char* after_last_dot(const char* text)
 {
     const char* dot = std::strrchr(text, '.');
@@ -33,7 +33,7 @@ bool is_in(const char* address, std::string_view subnet)
     return std::strncmp(address, subnet.data(), subnet.size()) == 0;
 }
 
-// host_number reads what follows the last "."; the address has been found valid.
+// host_number reads the number after the last "."; the address must be valid.
 int host_number(const char* address) { return leading_number(after_last_dot(address)); }
 
 bool is_host_number(int number) { return number >= 1 && number <= 254; }
@@ -51,11 +51,11 @@ std::string_view trim(std::string_view text)
     return text;
 }
 
-// is_repeated returns whether the item occurs anywhere in the rest of the list, if that ends or has a "," as many bytes
-// from its start as the item has.
+// is_repeated returns whether the item occurs anywhere in the rest of the list, provided that the rest has the item's
+// length or has a "," at that offset.
 //
-// The search compares the last byte of a possible match first, where the items of most lists differ, and
-// moves on by a whole item from a ",", which no match includes.
+// The search compares the last byte of a possible match first, because the items of most lists differ there. At a ","
+// it skips a whole item, because no match contains one.
 bool is_repeated(std::string_view item, std::string_view rest)
 {
     const std::size_t length = item.size();

@@ -15,9 +15,9 @@ using namespace ostrel;
 
 namespace {
 
-constexpr std::size_t kOffsetSize = 7;  // of an offset and its terminator
+constexpr std::size_t kOffsetSize = 7;  // an offset with its terminator
 
-// A row begins with its offset, so that a pointer to it is the offset's text.
+// A row begins with its offset, so a pointer to the row is also the text of the offset.
 const char* name_of(const char* row) { return row + kOffsetSize; }
 
 const char* row_after(const char* row)
@@ -26,12 +26,12 @@ const char* row_after(const char* row)
     return name + std::strlen(name) + 1;
 }
 
-// The three lookups stop at the first row that matches, byte by byte, and print a line when none does. Any part of a
-// name matches. The analyzer does not know that an empty row ends the table.
+// The three lookups stop at the first row that matches, byte by byte, and print a line if none does. Any substring of a
+// name matches. The analyzer cannot see that an empty row ends the table.
 // NOLINTBEGIN(clang-analyzer-security.ArrayBound)
 
-// get_tzone_name_by_tzone copies the name of the first row whose offset holds tzone, at most 55 bytes with
-// the terminator. A substring of an offset is enough: "01:00" finds "-01:00".
+// get_tzone_name_by_tzone copies the name of the first row whose offset contains tzone, at most 55 bytes including the
+// terminator. A substring of an offset is sufficient: "01:00" finds "-01:00".
 int get_tzone_name_by_tzone(const char* tzone, char* name_out)
 {
     for (const char* row = kTimeZones; *row != '\0'; row = row_after(row)) {
@@ -43,7 +43,7 @@ int get_tzone_name_by_tzone(const char* tzone, char* name_out)
     return refuse(OSTREL_WRONG_FORM, "Error in %s: Error Time Zone:%s\n\n", __func__, tzone);
 }
 
-// get_tzone_by_tzone_name copies the offset, 7 bytes with the terminator, of the first row whose name holds
+// get_tzone_by_tzone_name copies the offset, 7 bytes including the terminator, of the first row whose name contains
 // name.
 int get_tzone_by_tzone_name(char* tzone_out, const char* name)
 {
@@ -55,8 +55,7 @@ int get_tzone_by_tzone_name(char* tzone_out, const char* name)
     return refuse(OSTREL_WRONG_FORM, "Error in %s: Error Time Zone Name:%s\n\n", __func__, name);
 }
 
-// is_tzone_consistent_with_tz_name looks for a row whose offset is tzone, all of it, and whose name holds
-// name.
+// is_tzone_consistent_with_tz_name searches for a row whose offset equals tzone and whose name contains name.
 int is_tzone_consistent_with_tz_name(const char* tzone, const char* name)
 {
     for (const char* row = kTimeZones; *row != '\0'; row = row_after(row)) {
@@ -114,7 +113,7 @@ int TIME_check_sync_daylight_saving_time(const char* start, const char* end)
         __func__, start, end);
 }
 
-// The next three let a value pass that is empty or not printable: that is how an unset value gets through.
+// The next three accept a value that is empty or not printable, because an unset value must pass.
 
 int TIME_check_local_time_zone(const char* value)
 {

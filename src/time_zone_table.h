@@ -4,9 +4,9 @@
 
 namespace ostrel {
 
-// kTimeZones is one text, so that it holds no pointers: a row is an offset and a name, each with its
-// terminator, and an empty row ends it. The rows and their order are contract, the spelling of the names and
-// of the zero offset included.
+// kTimeZones is one text, so that it needs no pointers: a row is an offset and a name, each with its terminator, and an
+// empty row ends the table. The rows and their order are part of the contract, including the spelling of the names and
+// of the zero offset.
 constexpr char kTimeZones[] =
     // clang-format off
     "-12:00\0International Date Line West\0"

@@ -1,4 +1,4 @@
-// Verdicts: a rule and its refusal in one call, for the rules that many checks have in common.
+// Verdicts: a rule and its refusal in one call, for rules that many checks share.
 //
 // Each function returns OSTREL_VALID if the rule accepts the value. Otherwise it prints the line with the name of the
 // check and the value, flushes every output stream and returns the code of the refusal.
@@ -11,21 +11,21 @@
 
 namespace ostrel {
 
-// line returns the format as it is. The compiler checks it here against the arguments that a verdict prints it with:
-// the name of the check and the value, which a format may leave out.
+// line returns the format unchanged. Here the compiler checks it against the arguments with which a verdict prints it:
+// the name of the check and the value, which a format may omit.
 [[gnu::format(printf, 1, 2), gnu::always_inline]] inline const char* line(const char* format, ...)
 {
     return format;
 }
 
-// Limits of a number or a length, both included, and the code of a refusal.
+// Limits of a number or a length, both inclusive, and the code of a refusal.
 struct Limits {
     int min;
     int max;
     int otherwise = OSTREL_INVALID_VALUE;
 };
 
-// code_or_refuse passes on what a rule has found.
+// code_or_refuse takes the result code of a rule.
 int code_or_refuse(int code, const char* value, const char* line, const char* check = __builtin_FUNCTION());
 
 // number_or_refuse judges the number that atoi reads.
@@ -42,7 +42,7 @@ int keyword_or_refuse(const char* value, const char* keywords, const char* line,
 // text_or_refuse refuses with the code of validate_string.
 int text_or_refuse(const char* value, Text rule, const char* line, const char* check = __builtin_FUNCTION());
 
-// rule_or_refuse is code_or_refuse with OSTREL_INVALID_VALUE in place of OSTREL_INVALID.
+// rule_or_refuse is code_or_refuse, but returns OSTREL_INVALID_VALUE in place of OSTREL_INVALID.
 int rule_or_refuse(int code, const char* value, const char* line, const char* check = __builtin_FUNCTION());
 
 }  // namespace ostrel

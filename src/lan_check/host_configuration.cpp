@@ -97,7 +97,7 @@ int LAN_check_config_password(const char* value_p)
 int LAN_check_dhcp_lease_time(const char* value_p)
 {
     require_value(value_p, kModule);
-    // It is the address that is compared, with one that no string has; a lease time of any text is accepted.
+    // The pointer itself is compared, with one that no string has; a lease time of any text is accepted.
     if (reinterpret_cast<std::uintptr_t>(value_p) != UINTPTR_MAX) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: Error dhcp lease time:%s\n\n", __func__, value_p);
 }
@@ -105,7 +105,7 @@ int LAN_check_dhcp_lease_time(const char* value_p)
 int LAN_check_use_allocated_wan(const char* value_p)
 {
     require_value(value_p, kModule);
-    // The sense is inverted: the three keywords are what is refused.
+    // The test is inverted: the three keywords are refused.
     if (!is_one_of(value_p, kRefusedUses)) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: Error use allocated wan:%s\n\n", __func__, value_p);
 }

@@ -20,7 +20,7 @@ constexpr Limits kIntervals{1, INT_MAX};
 
 }  // namespace
 
-// The line numbers of the assertions are contract; they are not those of this file.
+// The line numbers of the assertions are part of the contract; they are not those of this file.
 
 int MGTSERVER_check_server_url(const char* value_p)
 {

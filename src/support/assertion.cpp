@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 
-// The hook is declared here because <assert.h> leaves it out where NDEBUG is defined. uClibc comes first: it
-// also claims to be glibc.
+// The hook is declared here because <assert.h> does not declare it if NDEBUG is defined. uClibc is tested first,
+// because it also claims to be glibc.
 extern "C" {
 #if defined(__UCLIBC__)
 // NOLINTNEXTLINE(readability-redundant-declaration)  it is redundant where NDEBUG is not defined
@@ -21,7 +21,7 @@ void fail_assertion(const char* condition, const char* module, const char* funct
 {
 #if defined(__UCLIBC__)
     __assert(condition, module, static_cast<int>(line), function);
-    std::abort();  // the hook can be configured so that it only reports
+    std::abort();  // the hook can be configured to report without ending the process
 #elif defined(__GLIBC__)
     __assert_fail(condition, module, line, function);
 #else

@@ -1,4 +1,4 @@
-// Assertions that hold in every build type: a NULL value is the caller's error and ends the process.
+// Assertions that are active in every build type: a NULL value is the caller's error and ends the process.
 #ifndef OSTREL_SUPPORT_ASSERTION_H
 #define OSTREL_SUPPORT_ASSERTION_H
 
@@ -8,8 +8,8 @@ namespace ostrel {
 [[noreturn]] void fail_assertion(const char* condition, const char* module, const char* function,
                                  unsigned line);
 
-// require_value asserts on a NULL value_p and returns any other as it is; function and line are those of the
-// calling check unless stated.
+// require_value asserts that value_p is not NULL and returns it; unless stated, function and line are those of the
+// calling check.
 inline const char* require_value(const char* value_p, const char* module, unsigned line = __builtin_LINE(),
                                  const char* function = __builtin_FUNCTION())
 {

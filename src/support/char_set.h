@@ -1,7 +1,7 @@
-// Sets of bytes, and those that the rules judge characters against.
+// Sets of bytes, including those by which the rules judge characters.
 //
-// Members are given as texts as people read them; bytes from 0x80 up are members like any others, whatever the
-// sign of char. The terminator is in no set, so that whoever walks through a value by a set stops at its end.
+// Members are written as texts; bytes from 0x80 up are members like any others, whatever the sign of char. No set
+// contains the terminator, so a scan by a set stops at the end of the value.
 #ifndef OSTREL_SUPPORT_CHAR_SET_H
 #define OSTREL_SUPPORT_CHAR_SET_H
 
@@ -12,17 +12,17 @@
 
 namespace ostrel {
 
-// Memberships holds a word for each byte value, in which each of the sets below has its bit.
+// Memberships has a word for each byte value, with one bit for each of the sets below.
 struct Memberships {
     std::uint16_t words[256] = {};
 };
 
 [[gnu::visibility("hidden")]] extern const Memberships kMemberships;
 
-// CharSet is one of the sets, by its bit.
+// CharSet identifies a set by its bit.
 enum class CharSet : std::uint16_t {};
 
-// CharSetTexts are the members of all sets, by their bits.
+// CharSetTexts lists the members of all sets, ordered by bit.
 struct CharSetTexts {
     const char* texts[15];
 };
@@ -46,7 +46,7 @@ consteval bool is_subset(const char* members, const char* of)
     return true;
 }
 
-// char_set returns the set that has these members, in whatever order. One that is not among the texts does not compile.
+// char_set returns the set with these members, in any order. If there is no such set, the call does not compile.
 consteval CharSet char_set(const char* members)
 {
     unsigned bit = 0;
@@ -78,9 +78,9 @@ inline bool contains(CharSet set, char c)
     return (kMemberships.words[static_cast<unsigned char>(c)] & static_cast<unsigned>(set)) != 0;
 }
 
-// OwnSet is a set that a caller brings along. It is cleared in quarters, which compilers do with plain stores;
-// for all at once they take an instruction that costs more to start than a short value costs to judge. Its members are
-// taken four at a time, because a loop around each would cost more than they do.
+// OwnSet is a set that a caller supplies. It is cleared in quarters, which compilers do with plain stores; to clear it
+// as a whole they use an instruction whose start-up costs more than judging a short value. Members are added four at a
+// time, because the overhead of a loop for each would cost more than the additions.
 class OwnSet {
  public:
     explicit OwnSet(const char* members)
@@ -113,7 +113,7 @@ class OwnSet {
 
 inline bool contains(const OwnSet& set, char c) { return set.contains(c); }
 
-// first_outside returns the first byte of the text that is not in the set, its terminator if all others are.
+// first_outside returns the first byte of the text that is not in the set, which is the terminator if all others are.
 template <typename Set>
 inline const char* first_outside(Set set, const char* text)
 {

@@ -9,11 +9,11 @@ namespace ostrel {
 namespace {
 
 constexpr int kHighestNumber = 255;
-// kBeyond is what a higher number becomes; as a byte it is the control character SUB.
+// kBeyond replaces a number that is too large; as a byte it is the control character SUB.
 constexpr int kBeyond = 0x100 + 0x1A;
 constexpr std::size_t kLongestName = 6;
 
-// kLatin1Names holds the names of the characters from 0xA0 up, in code order (HTML 4, entity set Latin-1).
+// kLatin1Names lists the names of the characters from 0xA0 up, in code order (HTML 4, entity set Latin-1).
 constexpr int kFirstLatin1 = 0xA0;
 constexpr char kLatin1Names[96][kLongestName + 1] = {
     "nbsp",   "iexcl",  "cent",   "pound",  "curren", "yen",    "brvbar", "sect",    // A0
@@ -30,8 +30,8 @@ constexpr char kLatin1Names[96][kLongestName + 1] = {
     "oslash", "ugrave", "uacute", "ucirc",  "uuml",   "yacute", "thorn",  "yuml",    // F8
 };
 
-// Reference is the text after an "&": the byte that it names and its length, the ";" included. A
-// length of 0 means that it is none.
+// Reference is the text after an "&": the byte that it denotes, and its length including the ";". The length is 0 if
+// the text is not a reference.
 struct Reference {
     int byte;
     std::size_t length;
@@ -48,7 +48,7 @@ int digit_value(char c, int base)
     return base;
 }
 
-// numeric_reference reads the digits after a prefix of that many bytes.
+// numeric_reference reads the digits after a prefix of the given length.
 Reference numeric_reference(std::string_view text, std::size_t prefix, int base)
 {
     int number = 0;

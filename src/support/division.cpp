@@ -1,4 +1,4 @@
-// Nothing here divides by zero, and the run-time support of ARM compilers would import raise for the case.
+// Nothing here divides by zero, but the run-time support of ARM compilers would import raise for that case.
 #if defined(__ARM_EABI__)
 extern "C" {
 int __aeabi_idiv0(int quotient);

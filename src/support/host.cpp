@@ -6,8 +6,8 @@
 #include "src/support/character_references.h"
 #include "src/support/text.h"
 
-// Weak, so that a host without them can load the library; visible, so that the loader may bind them to the
-// host's.
+// They are weak so that the library can be loaded by a host without them, and visible so that the loader can bind them
+// to the host's.
 extern "C" {
 [[gnu::weak, gnu::visibility("default")]] int cmsUtl_strcmp(const char* a, const char* b);
 [[gnu::weak, gnu::visibility("default")]] int htmlToText(char* text, std::size_t length);

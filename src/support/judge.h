@@ -1,4 +1,4 @@
-// What a rule without codes of its own returns.
+// The result of a rule without result codes of its own.
 #ifndef OSTREL_SUPPORT_JUDGE_H
 #define OSTREL_SUPPORT_JUDGE_H
 

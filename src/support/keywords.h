@@ -1,7 +1,7 @@
 // Lists of keywords.
 //
-// A list is written as people read it, with a "|" between the keywords, and becomes one text without pointers when it
-// is compiled: each keyword follows its distance to the next one, and a 0 follows the last.
+// A list is written with a "|" between the keywords and compiled into one text without pointers: each keyword is
+// preceded by its distance to the next one, and the last is followed by a 0.
 #ifndef OSTREL_SUPPORT_KEYWORDS_H
 #define OSTREL_SUPPORT_KEYWORDS_H
 
@@ -32,7 +32,7 @@ consteval Keywords<size + 1> keywords(const char (&list)[size])
 
 bool is_one_of(const char* value, const char* keywords);
 
-// is_one_of_ignoring_case folds the letters A to Z of the value only; the keywords are in small letters.
+// is_one_of_ignoring_case folds only the letters A to Z of the value; the keywords are in lower case.
 bool is_one_of_ignoring_case(const char* value, const char* keywords);
 
 }  // namespace ostrel

@@ -7,7 +7,7 @@ namespace ostrel {
 
 namespace {
 
-constexpr std::ptrdiff_t kMostDigits = 9;  // that an int holds, whichever they are
+constexpr std::ptrdiff_t kMostDigits = 9;  // any number of so many digits fits in an int
 
 }  // namespace
 
@@ -16,7 +16,7 @@ int read_number(const char*& text)
     const char* const start = text;
     unsigned number = 0;
     for (; digit(*text) <= kLargestDigit; ++text) number = number * 10 + digit(*text);
-    // The C library decides about a sign, white space and numbers that are too large.
+    // The C library interprets signs, white space and numbers that are too large.
     if (text == start || text - start > kMostDigits) return std::atoi(start);
     return static_cast<int>(number);
 }

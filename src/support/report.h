@@ -1,6 +1,6 @@
-// Report lines: the one place that formats and flushes them.
+// Report lines: only this module formats and flushes them.
 //
-// Each message is one output call, so that lines of concurrent callers never break inside.
+// Each message is one output call, so that lines of concurrent callers are not interleaved.
 #ifndef OSTREL_SUPPORT_REPORT_H
 #define OSTREL_SUPPORT_REPORT_H
 
@@ -12,7 +12,7 @@ namespace ostrel {
 // inform prints the line and flushes every output stream.
 [[gnu::format(printf, 1, 2)]] void inform(const char* format, ...);
 
-// remark prints the line and leaves the flushing to whoever prints next.
+// remark prints the line without flushing it; a later message does.
 [[gnu::format(printf, 1, 2)]] void remark(const char* format, ...);
 
 }  // namespace ostrel

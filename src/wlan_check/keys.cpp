@@ -21,7 +21,7 @@ namespace {
 constexpr auto kPassPhraseTypes = keywords("WPA-PSK|WPA-AUTO-PSK|WPA2-PSK");
 constexpr auto kRadiusTypes = keywords("WPA-RADIUS|WPA-AUTO-RADIUS|WPA2-RADIUS");
 
-constexpr unsigned kWepKeysLine = 500;  // the line that the assertion names is part of its text
+constexpr unsigned kWepKeysLine = 500;  // the assertion prints this line number
 
 constexpr std::size_t kWepKeys = 4;
 constexpr Limits kKeyIndices{0, kWepKeys - 1};
@@ -68,7 +68,7 @@ int WLAN_check_preshared_key2(const char* psk, const char* passphrase)
                               line("Error in %s: Error PreSharedKey:%s\n\n", __func__, psk));
     }
     if (passphrase[0] != '\0') {
-        // What is judged as a pass phrase is the key, which is empty: a pass phrase alone is always refused.
+        // The empty key is judged in place of the pass phrase, so a pass phrase alone is always refused.
         return refuse(TcmValidateKPP(psk), "Error in %s: Error KeyPassphrase:%s\n\n", __func__, passphrase);
     }
     inform("Error in %s: Error PreSharedKey:%s\n\n", __func__, psk);
@@ -92,7 +92,7 @@ int WLAN_check_wepkeys(char* keys)
                           "Error in %s: The key should not contain non hexa char: %s\n\n", __func__, key);
         }
         const std::size_t length = std::strlen(key);
-        // Never so: an empty key is not printable.
+        // This never happens: an empty key is not printable.
         if (length == 0) {  // GCOVR_EXCL_BR_LINE
             // GCOVR_EXCL_START
             inform("Error in %s: skip wepkeys[%d] for empty string\n", __func__, static_cast<int>(i));

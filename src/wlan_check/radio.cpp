@@ -26,14 +26,14 @@ constexpr auto kStandards = keywords("a|b|g|n");
 constexpr char kListFile[] = "/var/hnapwl0chlist";
 constexpr char kListCommand[] = "wlctl -i wl0 channels > /var/hnapwl0chlist";
 constexpr int kMostListed = 15;
-constexpr int kHighestChannel = 13;  // channel 14 is not accepted, even where the driver offers it
+constexpr int kHighestChannel = 13;  // channel 14 is refused even if the driver lists it
 
 struct ChannelPair {
     int primary;
     int second;
 };
 
-// 1 to 4 and 7 pair upward, the others downward; no second channel at all is the pair of zeros.
+// Channels 1 to 4 and 7 pair upward, the others downward; two zeros mean no second channel.
 constexpr ChannelPair kPairs[] = {{1, 3}, {2, 4}, {3, 5},  {4, 6},  {5, 3},   {6, 4},   {7, 9},
                                   {8, 6}, {9, 7}, {10, 8}, {11, 9}, {12, 10}, {13, 11}, {0, 0}};
 // The second channel is the centre of the 40 MHz pair.
@@ -71,10 +71,10 @@ bool is_5_ghz_channel(int channel)
     }
 }
 
-// is_listed_by_driver asks the wireless driver's tool which channels it allows at this moment.
+// is_listed_by_driver calls the wireless driver's tool, which lists the channels that are allowed at that moment.
 bool is_listed_by_driver(int channel)
 {
-    // The tool's exit status says nothing that the list does not.
+    // The exit status adds nothing to the list.
     // NOLINTNEXTLINE(bugprone-command-processor)
     [[maybe_unused]] const int status = std::system(kListCommand);
     std::FILE* list = std::fopen(kListFile, "r");
@@ -104,7 +104,7 @@ int WLAN_check_channel(const char* channel, const char* radio)
     if (equals(channel, "0")) return OSTREL_VALID;
     const int number = leading_number(channel);
     if (is_2_4_ghz(radio)) return require(is_listed_by_driver(number));
-    // Text without a number reads as 0 and passes for the automatic channel on this band.
+    // Text without a number is 0, which selects the automatic channel on this band.
     return require(is_5_ghz(radio) && (number == 0 || is_5_ghz_channel(number)));
 }
 

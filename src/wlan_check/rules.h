@@ -1,4 +1,4 @@
-// What several files of the wireless checks ask.
+// Rules that several files of the wireless checks share.
 #ifndef OSTREL_WLAN_CHECK_RULES_H
 #define OSTREL_WLAN_CHECK_RULES_H
 
@@ -6,11 +6,11 @@
 
 namespace ostrel {
 
-// is_model_m2840 asks about the product model that the library was built for. It asks the host's comparison
-// at each call: where a host has one, its answer decides.
+// is_model_m2840 returns whether the library was built for that product model. It calls the host's comparison each
+// time, because its result takes precedence.
 inline bool is_model_m2840() { return host_equals(OSTREL_MODEL, "M2840"); }
 
-// is_wep_type tells whether an HNAP security type is one of WEP.
+// is_wep_type returns whether an HNAP security type is a WEP type.
 bool is_wep_type(const char* type);
 
 }  // namespace ostrel
