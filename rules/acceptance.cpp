@@ -81,7 +81,7 @@ Acceptance::Outcome Acceptance::follow(const Step& step, Scope& scope)
             result.accepts = holds;
         }
     } else if (step.code.is_its) {
-        // The code of the other check is not 0 if it has refused.
+        // If the other check refuses, its code is not 0.
         const bool has_refused =
             step.condition.kind == Condition::Kind::kRefusedBy && !step.condition.is_negated;
         const bool may_be_zero =
@@ -115,7 +115,7 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
         const Claim where_it_holds = claims_.both(holds, a);
         return claims_.either(where_it_holds, claims_.both(fails, b));
     };
-    // A value that only one case remembers is read only in that case. Values unknown in both cases may differ.
+    // A value that only one case stores is read only in that case. Values unknown in both cases may differ.
     const auto is_same = [](const Term& a, const Term& b) {
         return a == b && a.kind != Term::Kind::kUnknown && a.kind != Term::Kind::kDays;
     };
@@ -131,7 +131,7 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
             chosen(first.goes_on, second.goes_on)};
 }
 
-// forget is for values that may have been written.
+// forget drops what is known of values that may have been written.
 void Acceptance::forget(const std::vector<Write>& writes, Scope& scope)
 {
     for (const Write& one : writes) {
@@ -140,7 +140,7 @@ void Acceptance::forget(const std::vector<Write>& writes, Scope& scope)
     }
 }
 
-// This one is for values that an iteration may leave to the next.
+// This overload drops what is known of values that an iteration may pass on to the next.
 void Acceptance::forget(const std::vector<Step>& steps, Scope& scope)
 {
     for (const Step& step : steps) {
@@ -157,7 +157,7 @@ Acceptance::Outcome Acceptance::repeat(const Step& step, Scope& scope)
     forget(step.steps, scope);
     const std::optional<Claim> all = for_items(list, step, scope);
     if (all) return going_on(*all);
-    // An iteration that can end the call may leave items that are not judged.
+    // An iteration that can end the call may skip the remaining items.
     return {unknown(anything()), claims_.never(), unknown(anything())};
 }
 

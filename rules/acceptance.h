@@ -1,7 +1,7 @@
 // Acceptance: the texts of one argument for which a check returns 0, derived from its steps without a call.
 //
-// It is for constraints.cpp. What cannot be expressed exactly is bounded from above, so a claim may be too weak but is
-// never false; numbers beyond an int have their exact value.
+// It is used only by constraints.cpp. If an exact result cannot be expressed, it is bounded from above, so a claim may
+// be too weak but is never false; numbers beyond an int have their exact value.
 #ifndef OSTREL_RULES_ACCEPTANCE_H
 #define OSTREL_RULES_ACCEPTANCE_H
 
@@ -27,18 +27,18 @@ class Acceptance {
     {
     }
 
-    // claim says when the check returns 0. The target is neither NULL nor only written.
+    // claim returns the condition under which the check returns 0. The target must be neither NULL nor only written.
     Claim claim();
 
  private:
-    // Scope is a check whose steps are followed: the one that was called, or one that it calls.
+    // Scope is a check whose steps are followed: the called one, or one that it calls.
     struct Scope {
         std::vector<Term> slots;
         Term item = {};
         bool is_called = false;
     };
 
-    // Outcome says when steps return 0, continue with the next item, or reach their end.
+    // Outcome states when steps return 0, continue with the next item, or reach their end.
     struct Outcome {
         Claim accepts;
         Claim skips;
@@ -87,7 +87,7 @@ class Acceptance {
     const Build& build_;
     const Check& check_;
     std::size_t target_;
-    std::size_t variables_;  // how many there are: arguments, and items of lists
+    std::size_t variables_;  // their number: arguments, and items of lists
 };
 
 }  // namespace ostrel::rules

@@ -1,4 +1,4 @@
-// What conditions imply for the target.
+// The implications of conditions for the target.
 
 #include <algorithm>
 

@@ -34,7 +34,7 @@ Claim Acceptance::above_days(const Term& judged, const Term& days)
     claim = claims_.either(claim, beyond_where(is_month(short_months), 30));
     claim = claims_.either(claim, beyond_where(is_month(long_months), 31));
     claim = claims_.either(claim, beyond_where(is_month(~Intervals(1, 12)), 0));
-    // In any month, no day up to 0 is above its end, and every day from 32 is.
+    // In any month, no day up to 0 is after its end, and every day from 32 is.
     claim = claims_.either(claim, above(31));
     return claims_.both(claim, above(0));
 }

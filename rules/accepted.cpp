@@ -1,4 +1,4 @@
-// What is accepted, in a line.
+// Describes in one line what a check accepts.
 #include <algorithm>
 #include <span>
 
@@ -11,12 +11,12 @@ namespace {
 
 using Kind = Step::Kind;
 
-// kNothing stands for steps that refuse everything.
+// kNothing describes steps that refuse everything.
 constexpr std::string_view kNothing = "nothing";
 
 class Summary {
  public:
-    // phrase says what these steps accept; it is empty if they accept everything.
+    // phrase describes what these steps accept; it is empty if they accept everything.
     std::string phrase(std::span<const Step> steps, const Speaker& speaker)
     {
         std::vector<Clause> clauses;
@@ -108,8 +108,8 @@ class Summary {
         return text;
     }
 
-    // refuse adds what must hold for a step not to refuse. It returns false if the step refuses everything that is
-    // left.
+    // refuse adds the condition under which a step does not refuse. It returns false if the step refuses everything
+    // that remains.
     bool refuse(std::vector<Clause>& clauses, const Condition& condition, const Speaker& speaker)
     {
         const bool is_use = condition.kind == Condition::Kind::kRefusedBy && !condition.is_negated;
@@ -136,7 +136,7 @@ class Summary {
         if (condition.kind == Condition::Kind::kNull) return true;  // NULL is described with the argument
         const Clause refused = speaker.clause(condition);
         const Clause wanted = speaker.clause(condition, false);
-        // If both a condition and its opposite are refused, nothing is left.
+        // If both a condition and its opposite are refused, nothing remains.
         if (std::ranges::any_of(clauses, [&](const Clause& one) { return one.text() == refused.text(); }))
             return false;
         if (std::ranges::any_of(clauses, [&](Clause& one) { return includes(one, wanted); })) return true;
@@ -144,7 +144,7 @@ class Summary {
         return true;
     }
 
-    // is_flat recognizes a check that only refuses.
+    // is_flat returns whether a check only refuses.
     static bool is_flat(const Check& check)
     {
         return std::ranges::all_of(check.steps, [](const Step& step) {
@@ -156,7 +156,7 @@ class Summary {
     int depth_ = 0;
 };
 
-// remembers_twice reports whether several steps keep something under the same name.
+// remembers_twice returns whether several steps store something under the same name.
 bool remembers_twice(const std::vector<Step>& steps, std::vector<int>& counts)
 {
     return std::ranges::any_of(steps, [&](const Step& step) {

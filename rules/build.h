@@ -10,7 +10,7 @@
 namespace ostrel::rules {
 
 struct Build {
-    // Atoi is how a number that does not fit in an int is read.
+    // Atoi is the way in which a number that does not fit in an int is read.
     enum class Atoi {
         kLong64,    // the low 32 bits of a long of 64 bits, which saturates
         kLong32,    // as an int that saturates
@@ -25,13 +25,13 @@ struct Build {
     std::optional<std::vector<int>> channels = std::nullopt;
 };
 
-// atoi_here tests the C library of this machine.
+// atoi_here tests the C library that is running.
 Build::Atoi atoi_here();
 
-// Number is the number that atoi reads at the beginning of a text.
+// Number is the number that atoi reads at the start of a text.
 struct Number {
     int value = 0;
-    bool beyond_int = false;  // other builds may read another value
+    bool beyond_int = false;  // other builds may read a different value
     std::size_t begin = 0;    // of the sign and the digits
     std::size_t end = 0;
 };

@@ -1,4 +1,4 @@
-// Claim: what a condition implies for one argument, the target, whatever the others are.
+// Claim: the implication of a condition for one argument, the target, whatever the others are.
 #ifndef OSTREL_RULES_CLAIM_H
 #define OSTREL_RULES_CLAIM_H
 
@@ -13,7 +13,7 @@ namespace ostrel::rules {
 // Variables are arguments of the check, by number.
 using Variables = std::set<std::size_t>;
 
-// Limit is a limit that another argument sets.
+// Limit is a limit set by another argument.
 struct Limit {
     enum class Kind { kMinLength, kMaxLength, kMinimum, kMaximum, kCharacters };
 
@@ -23,12 +23,12 @@ struct Limit {
     bool operator==(const Limit&) const = default;
 };
 
-// Factors is a condition as a conjunction of parts.
+// Factors is a condition written as a conjunction.
 struct Factors {
-    Language own = {};  // for the target alone
+    Language own = {};  // depends only on the target
     std::vector<Limit> limits = {};
-    bool is_entangled = false;  // there is a part that depends on the target and others, or is unknown
-    Variables entangled = {};   // the others in limits and in that part
+    bool is_entangled = false;  // a factor depends on the target and others, or is unknown
+    Variables entangled = {};   // the others in limits and in that factor
 
     bool operator==(const Factors&) const = default;
 };
@@ -36,7 +36,7 @@ struct Factors {
 struct Claim {
     Language holds;          // every text of the target for which the condition can hold
     Language fails;          // every text for which it can fail
-    bool is_decided = true;  // the target alone decides, so no text is in both
+    bool is_decided = true;  // the target alone decides, so the two languages are disjoint
     bool is_about_target = true;
     Variables others = {};     // other arguments that it depends on
     bool are_negated = false;  // factors are those of the negation
@@ -45,7 +45,7 @@ struct Claim {
     bool operator==(const Claim&) const = default;
 };
 
-// Claims makes claims with one pool of languages.
+// Claims creates claims that share one pool of languages.
 class Claims {
  public:
     explicit Claims(Languages& languages) : languages_(languages) {}
@@ -54,10 +54,10 @@ class Claims {
     Claim always() { return decided(languages_.any()); }
     Claim never() { return decided(languages_.nothing()); }
 
-    // unknown depends on these arguments in an unknown way. If there are none, no other argument has an effect.
+    // unknown depends on these arguments in an unknown way. If there are none, no other argument matters.
     Claim unknown(Variables variables, std::size_t target);
 
-    // beyond says that the limit set by the other argument is exceeded.
+    // beyond states that the limit set by the other argument is exceeded.
     Claim beyond(Limit limit);
 
     Claim negated(Claim claim);

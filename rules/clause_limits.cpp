@@ -7,7 +7,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// between returns the part of a predicate between its beginning and the unit.
+// between returns the substring of a predicate between its beginning and the unit.
 std::string between(const std::string& predicate, std::string_view beginning, std::string_view unit)
 {
     if (!predicate.starts_with(beginning)) return "";
@@ -32,7 +32,7 @@ bool merge(Clause& one, const Clause& other, std::string_view least, std::string
     return true;
 }
 
-// least_bytes returns the minimum number of bytes in a predicate; 0: none, or not a fixed number.
+// least_bytes returns the minimum number of bytes in a predicate, or 0 if there is none or it is not a fixed number.
 int least_bytes(const std::string& predicate)
 {
     if (predicate == "is not empty") return 1;

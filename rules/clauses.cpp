@@ -40,7 +40,7 @@ std::string driver_list(long long first, long long highest)
            std::to_string(first) + " that the wireless driver lists";
 }
 
-// choice says "is a or b", or "is none of a, b".
+// choice returns "is a or b", or "is none of a, b".
 std::string choice(const std::vector<std::string>& words, bool holds)
 {
     if (words.size() == 1) return (holds ? "is " : "is not ") + words[0];
@@ -49,7 +49,7 @@ std::string choice(const std::vector<std::string>& words, bool holds)
 
 }  // namespace
 
-// counted says "8 bytes", or "as many bytes as min_len says".
+// counted returns "8 bytes", or "as many bytes as min_len says".
 std::string Speaker::counted(const Expression& number, std::string_view unit) const
 {
     const Expression* fixed = constant(number);
@@ -63,7 +63,7 @@ std::string Speaker::set(const Expression& expression) const
     return "the bytes of " + value(expression);
 }
 
-// among says that a byte is one of a set, or is none of it.
+// among states that a byte is in a set, or not.
 std::string Speaker::among(const Expression& expression, bool holds) const
 {
     const Expression* fixed = constant(expression);
@@ -71,7 +71,7 @@ std::string Speaker::among(const Expression& expression, bool holds) const
     return std::string(holds ? "is one of " : "is none of ") + (is_set ? "these: " : "") + set(expression);
 }
 
-// other names the text that a text is compared with.
+// other names the text with which a text is compared.
 std::string Speaker::other(const Expression& expression) const
 {
     const Expression* fixed = constant(expression);
@@ -205,7 +205,7 @@ Clause Speaker::outside_clause(const Condition& condition, bool holds) const
     return {value(judged), (holds ? "contains a byte other than " : "contains only ") + allowed};
 }
 
-// is_beginning recognizes a comparison with a prefix of the same length.
+// is_beginning returns whether the condition compares with a prefix of the same length.
 bool Speaker::is_beginning(const Expression& judged, const Expression& other) const
 {
     if (judged.kind != Expression::Kind::kSlice || judged.of.size() < 3) return false;

@@ -1,4 +1,4 @@
-// Conditions: what a text or a number is tested for.
+// Conditions: the tests of texts and numbers.
 #ifndef OSTREL_RULES_CONDITION_H
 #define OSTREL_RULES_CONDITION_H
 
@@ -15,7 +15,7 @@ namespace ostrel::rules {
 
 struct Check;
 
-// Group is a part of a shape: least to most bytes of one set.
+// Group is one element of a shape: least to most bytes of one set.
 struct Group {
     Set set;
     std::size_t least = 1;
@@ -26,7 +26,7 @@ struct Group {
 // Shape is a sequence of groups. A group of variable length has no byte in common with the next one.
 using Shape = std::vector<Group>;
 
-// GrammarFault says where a text violates a grammar. found and allowed are for the sentence of the id.
+// GrammarFault locates where a text violates a grammar. The sentence of the id uses found and allowed.
 struct GrammarFault {
     std::string_view id;
     std::size_t offset = 0;
@@ -34,22 +34,22 @@ struct GrammarFault {
     std::string allowed = {};
 };
 
-// Grammar is written by hand, for what the vocabulary cannot express. All ids that it returns are listed.
+// Grammar is written by hand, for rules that the vocabulary cannot express. ids lists every id that it returns.
 struct Grammar {
-    std::string_view what;                   // what a valid text is: "an IPv4 address"
+    std::string_view what;                   // the name of a valid text: "an IPv4 address"
     std::vector<std::string_view> ids;       // of its faults
     std::vector<std::string_view> accepted;  // valid texts
     std::vector<std::string_view> refused;   // texts that violate it, in the order of ids
     std::optional<GrammarFault> (*judge)(std::string_view text, const Build& build);
 };
 
-// Table is a list of rows that belong together.
+// Table is a list of rows whose cells belong together.
 struct Table {
     std::vector<std::string_view> columns;  // their contents, in words
     std::vector<std::vector<std::string_view>> rows;
 };
 
-// Match is how a text or a number must match a column of a row.
+// Match defines how a text or a number must match a column of a row.
 struct Match {
     enum class How {
         kEqual,   // it is the text of the cell
@@ -62,7 +62,7 @@ struct Match {
     Expression value;
 };
 
-// Condition holds or not. If it holds, it provides the reason for a refusal.
+// Condition holds or does not. If it holds, it provides the reason for a refusal.
 struct Condition {
     enum class Kind {
         kAlways,

@@ -1,4 +1,4 @@
-// Constraints: what an argument must be, as far as its description proves it, for programs and forms.
+// Constraints: the requirements on an argument, as far as its description proves them, for programs and forms.
 //
 // They do not cover numbers beyond an int, which builds read differently.
 #ifndef OSTREL_RULES_CONSTRAINTS_H
@@ -17,7 +17,7 @@
 
 namespace ostrel::rules {
 
-// Form is what a text must be. All members that are set apply.
+// Form is the required form of a text. All members that are set apply.
 struct Form {
     std::optional<std::size_t> min_length;  // in bytes
     std::optional<std::size_t> max_length;
@@ -46,7 +46,7 @@ struct Constraints {
     Form form = {};
     std::vector<Limit> limits = {};            // set by other arguments
     std::vector<std::size_t> depends_on = {};  // other arguments on which the accepted values depend
-    bool is_necessary = false;                 // something is set, and every accepted value satisfies it
+    bool is_necessary = false;                 // some member is set, and every accepted value satisfies all
     bool is_sufficient = false;  // every value that satisfies it is accepted if the other arguments are valid
     bool is_schema_sufficient = false;  // the same with only lengths, keywords in their case and the pattern
     bool is_secret = false;
@@ -57,7 +57,7 @@ struct Constraints {
 // number.
 bool has_constraints(const Check& check, std::size_t argument);
 
-// constraints_of says what the check accepts for an argument.
+// constraints_of returns the constraints of the check on an argument.
 Constraints constraints_of(const Check& check, std::size_t argument, const Build& build);
 
 }  // namespace ostrel::rules

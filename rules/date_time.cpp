@@ -12,7 +12,7 @@ Shape joined_shapes(std::initializer_list<Shape> shapes)
     return result;
 }
 
-// Forms are the forms of complete values, and of the offset of a time zone.
+// Forms are the forms of complete values, and that of the offset of a time zone.
 struct Forms {
     Shape compact_date_time;
     Shape date_time;

@@ -1,4 +1,4 @@
-// Datum in words: what a reason has found or allows, and texts in printable form.
+// Datum in words: what a reason found or allows, and texts in printable form.
 #ifndef OSTREL_RULES_DATUM_H
 #define OSTREL_RULES_DATUM_H
 
@@ -10,10 +10,10 @@
 
 namespace ostrel::rules {
 
-// in_words shows a datum; a long list as its size and the text that is closest to what was found.
+// in_words shows a datum; a long list is shown as its size and the text that is closest to what was found.
 std::string in_words(const Datum& datum, const Datum& found = {});
 
-// is_one reports whether the singular applies.
+// is_one returns whether the singular applies.
 bool is_one(const Datum& datum);
 
 // keyword_in_words shows a keyword, quoted if it could be mistaken for something else.

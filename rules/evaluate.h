@@ -1,4 +1,4 @@
-// Evaluation: what a check does, according to its description.
+// Evaluation: the effects of a check, according to its description.
 #ifndef OSTREL_RULES_EVALUATE_H
 #define OSTREL_RULES_EVALUATE_H
 
@@ -18,7 +18,7 @@ namespace ostrel::rules {
 // Value is NULL, a text, a number, or the texts of several blocks.
 using Value = std::variant<std::nullptr_t, std::string, long long, std::vector<std::string>>;
 
-// Outside says why the contract leaves the result of a call open, so that it must not be made.
+// Outside is the reason why the contract leaves the result of a call open. Such a call must not be made.
 enum class Outside {
     kNo,
     kAssertion,     // an assertion fails for NULL: the process ends
@@ -43,7 +43,7 @@ struct Answer {
     [[nodiscard]] bool is_flushed() const { return flushed == out.size(); }
 };
 
-// Counts is how often each step of each check acted, and how often each condition held and did not.
+// Counts records how often each step of each check acted, and how often each condition held and failed.
 struct Counts {
     struct OfCheck {
         std::vector<std::uint64_t> steps;
@@ -58,15 +58,15 @@ struct Counts {
 Answer evaluate(const Check& check, std::span<const Value> values, const Build& build,
                 Counts* counts = nullptr);
 
-// kMostWork is for a reason, which must not take longer than its call.
+// kMostWork limits the work for a reason, which must not take longer than its call.
 inline constexpr std::uint64_t kMostWork = std::uint64_t{128} << 20U;
 
-// evaluate_within gives up after examining that many bytes; a byte that is examined twice counts twice.
+// evaluate_within gives up after examining the given number of bytes; a byte that is examined twice counts twice.
 Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 
-// explain_within is evaluate_within without output and final contents of arguments. The answer may be reused from
-// another call.
+// explain_within is evaluate_within without output and final contents of arguments. The answer of another call may be
+// reused.
 void explain_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                     const Build& build, Answer& answer);
 
@@ -74,8 +74,8 @@ void explain_within(std::uint64_t bytes, const Check& check, std::span<const Val
 Answer evaluate_hiding(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 
-// room returns the size that a buffer must have in a call; nullopt: that of its text, or the size depends on an
-// argument that is NULL.
+// room returns the size that a buffer must have in a call. It is nullopt if that is the size of its text, or if it
+// depends on an argument that is NULL.
 std::optional<std::size_t> room(const Check& check, std::size_t argument, std::span<const Value> values);
 
 }  // namespace ostrel::rules

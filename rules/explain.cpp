@@ -13,7 +13,7 @@ namespace {
 
 using Kind = Step::Kind;
 
-// missing says what a part of a text is if there is no separator.
+// missing describes a part of a text that has no separator.
 std::string missing(const Expression& expression)
 {
     switch (expression.kind) {
@@ -34,7 +34,7 @@ class Explainer {
     std::vector<int> codes;  // besides 0, in the order of the steps
     bool reads_numbers = false;
 
-    // steps describes what can happen. It returns true if every call ends there.
+    // steps describes the possible outcomes. It returns true if every call ends there.
     bool steps(const std::vector<Step>& steps, Speaker& speaker, bool is_called, std::vector<Said>& result)
     {
         for (const Step& step : steps) {
@@ -57,13 +57,13 @@ class Explainer {
                step.kind == Kind::kSkip;
     }
 
-    // is_nowhere recognizes a step that writes to nothing that this check has.
+    // is_nowhere returns whether a step writes to nothing that this check has.
     static bool is_nowhere(const Step& step, const Speaker& speaker)
     {
         return step.kind == Kind::kWrite && speaker.value(step.writes[0].target).empty();
     }
 
-    // say adds a step. It returns true if no call goes on after it.
+    // say adds a step. It returns true if no call continues after it.
     bool say(const Step& step, Speaker& speaker, bool is_called, std::vector<Said>& all)
     {
         Said& result = all.emplace_back();
@@ -187,7 +187,7 @@ class Explainer {
         return {speaker.line(line), when, line.stream, line.is_flushed};
     }
 
-    // add says when a group's line is printed; several groups may share a line.
+    // add states when a group's line is printed; several groups may share a line.
     static void add(std::vector<SaidLine>& lines, const Group& group, const Line& line,
                     const Speaker& speaker)
     {
@@ -201,7 +201,8 @@ class Explainer {
         }
     }
 
-    // uses describes, once each, the other checks that a condition calls; its_codes are the codes that they return.
+    // uses describes, once each, the other checks that a condition calls; its_codes receives the codes that they
+    // return.
     std::vector<Said> uses(const Condition& condition, const Speaker& speaker, bool always,
                            std::vector<int>& its_codes)
     {

@@ -26,7 +26,7 @@ std::string room_of(const Argument& argument, const Speaker& speaker)
     return "the length of its text and the terminator";
 }
 
-// written lists what an argument may become.
+// add_written lists the values that may be written to an argument.
 void add_written(const std::vector<Step>& steps, std::size_t argument, const Speaker& speaker,
                  std::vector<std::string>& values)
 {

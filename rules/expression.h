@@ -1,4 +1,4 @@
-// Expressions and lines: the texts and numbers that conditions judge, and what is printed.
+// Expressions and lines: the texts and numbers that conditions judge, and the output.
 #ifndef OSTREL_RULES_EXPRESSION_H
 #define OSTREL_RULES_EXPRESSION_H
 
@@ -13,14 +13,14 @@
 
 namespace ostrel::rules {
 
-// Conversion derives a text from another one; written by hand.
+// Conversion derives a text from another one; it is written by hand.
 struct Conversion {
     std::string_view what;  // "with character references replaced"
     std::string (*convert)(std::string_view text);
     std::vector<std::string> changed = {};  // texts that it changes, one for each kind of change
 };
 
-// Expression is a text, a number or a set. A text in place of a number is read as atoi reads it.
+// Expression is a text, a number or a set. A text used as a number is read as atoi reads it.
 struct Expression {
     enum class Kind {
         kName,  // an argument or a remembered value; "": the subject, which is the item or the first argument
@@ -30,7 +30,7 @@ struct Expression {
         kModel,         // the product model of the build
         kAccountRealm,  // the realm of the ISP's access accounts
         kSetupRealm,    // the realm of the ISP's set-up accounts
-        kNowhere,       // for an argument that another check writes to and this one ignores
+        kNowhere,       // the target of another check's write that this one ignores
         kItem,          // in a list: the item or the key
         kIndex,         // in a list: the number of the item, from 0
         kRest,          // in a list: what follows the separator after the item
@@ -67,7 +67,7 @@ struct Expression {
     std::size_t slot = 0;        // of a name: set at registration
 };
 
-// Line is printed with the value of <name> in its place: an argument, a remembered value, <item>, <index>, <byte> or
+// Line is printed with each <name> replaced by its value: an argument, a remembered value, <item>, <index>, <byte> or
 // <offset>.
 struct Line {
     enum class Stream { kOut, kErr };

@@ -1,4 +1,4 @@
-// What is known at some step, so that impossible cases are left out.
+// The facts that are known at some step, by which impossible cases are omitted.
 #include <algorithm>
 
 #include "rules/phrases.h"

@@ -9,7 +9,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// reads_number returns true if a number is read anywhere.
+// reads_number returns true if any condition reads a number.
 bool reads_number(const Languages& languages, Language one)
 {
     const Leaf* leaf = languages.leaf(one);
@@ -171,7 +171,7 @@ class Writer {
         }
     }
 
-    // write_pattern returns true if all parts have a pattern; others are left out. Lengths are members of the form.
+    // write_pattern returns true if all parts have a pattern; the others are omitted. Lengths are members of the form.
     bool write_pattern()
     {
         bool is_whole = true;

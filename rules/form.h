@@ -1,4 +1,4 @@
-// Forms: a language as lengths, bytes, keywords, numbers and a pattern. It is for constraints.cpp.
+// Forms: a language as lengths, bytes, keywords, numbers and a pattern. They are used only by constraints.cpp.
 #ifndef OSTREL_RULES_FORM_H
 #define OSTREL_RULES_FORM_H
 
@@ -11,7 +11,7 @@ namespace ostrel::rules {
 struct Said {
     Form form = {};
     bool is_all = false;
-    bool is_all_in_schema = false;  // without what JSON Schema cannot express
+    bool is_all_in_schema = false;  // ignoring what JSON Schema cannot express
 };
 
 // form_of_text describes what all texts of a language have in common.
@@ -20,11 +20,11 @@ Said form_of_text(Languages& languages, Language one);
 // form_of_number is for an int; it has only the minimum and the maximum.
 Said form_of_number(const Languages& languages, Language one);
 
-// language_of contains the texts that satisfy a form, except for its pattern.
+// language_of returns the texts that satisfy a form, except for its pattern.
 Language language_of(Languages& languages, const Form& form);
 
-// Offer is what a user should be offered of a language: numbers without spaces and leading zeros, keywords in their
-// case. There is none if that is all of it.
+// Offer is the part of a language that a user should be offered: numbers without spaces and leading zeros, keywords in
+// their case. It is unset if that is the whole language.
 struct Offer {
     Form form;
     Language language;

@@ -1,4 +1,4 @@
-// What a user should be offered if more is accepted.
+// The part of a language that a user should be offered.
 
 #include <algorithm>
 #include <limits>
@@ -11,7 +11,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// leaf_among finds the leaf of a condition of that kind.
+// leaf_among returns the leaf of a condition of the given kind.
 const Leaf* leaf_among(const Languages& languages, Language one, Leaf::Kind kind)
 {
     for (const Language part : parts_of(languages, one)) {
@@ -21,7 +21,7 @@ const Leaf* leaf_among(const Languages& languages, Language one, Leaf::Kind kind
     return nullptr;
 }
 
-// written has the numbers in decimal.
+// written returns the numbers in decimal.
 Language written(Languages& languages, const Intervals& numbers)
 {
     std::vector<Language> parts;
@@ -40,7 +40,7 @@ std::optional<Offer> keywords_of(Languages& languages, Language one, const std::
     return offer;
 }
 
-// numbers_within keeps the numbers that are in the language in their decimal form.
+// numbers_within returns the numbers whose decimal form is in the language.
 std::optional<Intervals> numbers_within(Languages& languages, Language one, const Form& form,
                                         Intervals numbers)
 {
@@ -82,7 +82,7 @@ std::optional<Offer> list_of(Languages& languages, Language one, const Form& for
     const Language item = item_of(languages, list, form);
     const std::optional<Offer> each = offer_of(languages, item, form.item.front());
     if (!each) return std::nullopt;
-    // Of the rest, only what such items do not imply is kept.
+    // Of the remaining parts, only those that such items do not imply are kept.
     std::vector<Language> parts = {languages.items(list.byte, {}, each->language)};
     for (const Language part : parts_of(languages, one)) {
         if (!includes(languages, part, parts.front())) parts.push_back(part);

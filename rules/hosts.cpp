@@ -26,8 +26,8 @@ Check host()
                        {refuse(-1, refused_by("TcmValidateIPAddress", {called("the IPv4 address", it)}))})});
 }
 
-// The first ":" after the scheme ends the host, even if it is in the path. The set of the whole is wider than those of
-// host and port, and is tested after them, so that no reason allows a byte that is then refused.
+// The first ":" after the scheme ends the host, even if it is in the path. The set of the whole contains those of host
+// and port and is tested after them, so that no reason allows a byte that is then refused.
 Check url(std::string_view name, std::string_view what, int code, Words schemes)
 {
     const Condition has_port = contains("rest", literal(":"));
@@ -58,7 +58,7 @@ Check mail_outline()
                   refuse(-1, empty(called("the part after the last \".\"", after_last(after, "."))))});
 }
 
-// The set is wider than that of a host. For a byte that is in neither, the reason has the narrower one, so that its
+// The set contains that of a host. For a byte that is in neither, the reason has the smaller one, so that its
 // replacement is not refused.
 Step refuse_outside(const Set& set) { return refuse(803, all_of({outside(set), outside(kHost)})); }
 

@@ -1,4 +1,4 @@
-// What a step does for each item of a list.
+// The execution of a step for each item of a list.
 
 #include "rules/run.h"
 
@@ -30,7 +30,7 @@ void place_piece(Operand& piece, const Operand& whole, std::string_view text)
     if (whole.place.judged) piece.place.judged = Span{whole.place.judged->begin + begin, text.size()};
 }
 
-// run_list restores the item of the enclosing list.
+// run_list restores the item of the enclosing list afterwards.
 Run::Flow Run::run_list(const Step& step, Frame& frame)
 {
     const List& list = *step.list;

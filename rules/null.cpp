@@ -38,7 +38,8 @@ std::string in_words(const NullEnd& end)
     return "";
 }
 
-// in_words says which call ends how, or lists the ends alone if that would be too long or the conditions are unknown.
+// in_words describes which call ends how, or lists only the ends if that would be too long or the conditions are
+// unknown.
 std::string in_words(const std::vector<NullEnd>& ends, const std::set<std::string>& sources)
 {
     constexpr std::size_t kLongest = 200;

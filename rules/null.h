@@ -21,7 +21,7 @@ enum class NullOutcome {
     kDepends,    // on the other arguments
 };
 
-// null_outcome is for arguments that are not numbers.
+// null_outcome accepts only arguments that are not numbers.
 NullOutcome null_outcome(const Check& check, std::size_t argument, const Build& build);
 
 }  // namespace ostrel::rules

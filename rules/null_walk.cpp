@@ -10,14 +10,14 @@ namespace {
 
 using Kind = Step::Kind;
 
-// Truth is what is known of a condition. kStops: the call ends during its evaluation.
+// Truth is what is known about a condition. kStops: the call ends during its evaluation.
 enum class Truth { kNever, kMaybe, kAlways, kStops };
 
 class Walk {
  public:
     std::vector<NullEnd> ends;
     std::set<std::string> sources;  // the arguments on which it depends
-    bool is_printed = false;        // NULL is, by a step that may act
+    bool is_printed = false;        // a step that may act prints NULL
 
     // run returns true if the call may continue after the steps.
     bool run(const std::vector<Step>& steps, Speaker& speaker, const std::string& where)
@@ -135,7 +135,7 @@ class Walk {
             case Condition::Kind::kRefusedBy:
                 return judge_use(condition, speaker, where);
             case Condition::Kind::kRow: {
-                // A row is compared match by match, until one fails.
+                // A row is compared match by match until one fails.
                 const auto& matches = condition.matches;
                 const auto null = std::ranges::find_if(
                     matches, [&](const Match& match) { return speaker.reads_null(match.value); });
@@ -156,7 +156,7 @@ class Walk {
         return *known ? Truth::kAlways : Truth::kNever;
     }
 
-    // A part is judged only if those before it do not decide.
+    // A part is judged only if the parts before it do not decide.
     Truth judge_parts(const Condition& condition, const Speaker& speaker, const std::string& where)
     {
         const bool all = condition.kind == Condition::Kind::kAllOf;
@@ -210,7 +210,7 @@ class Walk {
         return refuses != condition.is_negated ? Truth::kAlways : Truth::kNever;
     }
 
-    std::vector<int> its_codes_;  // of the check that was last judged
+    std::vector<int> its_codes_;  // those of the check that was judged last
 };
 
 }  // namespace

@@ -19,7 +19,7 @@ struct NullEnd {
         kAccepted,
         kRefused,
         kAnswered,  // with a number instead of a result code
-        kPrinted,   // left to the C library, which has to print NULL
+        kPrinted,   // passed to the C library, which must print NULL
         kFault,
         kAsserted,
         kStays,  // it does not return
@@ -36,7 +36,7 @@ struct NullEnds {
     std::set<std::string> sources;  // the other arguments on which it depends
 };
 
-// add adds the codes that are new.
+// add appends the codes that are not in the list yet.
 void add(std::vector<int>& codes, const std::vector<int>& more);
 
 // null_ends follows the steps of a check. The argument must not be a number.

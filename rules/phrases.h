@@ -23,7 +23,7 @@ struct Meant {
     std::set<std::string> sources = {};    // the arguments from which it is derived
 };
 
-// Facts are what is known of texts at some step, by the words for them.
+// Facts are the facts known about texts at some step, by the words for these texts.
 struct Facts {
     std::set<std::string> empty = {};
     std::set<std::string> not_empty = {};
@@ -67,11 +67,11 @@ class Speaker {
     [[nodiscard]] Clause clause(const Condition& condition, bool holds = true) const;
     [[nodiscard]] std::string when(const Condition& condition) const { return clause(condition).text(); }
 
-    // known is for a condition that always or never holds; otherwise nullopt.
+    // known returns whether a condition always or never holds; otherwise nullopt.
     [[nodiscard]] std::optional<bool> known(const Condition& condition) const;
 
-    // learn records that a condition holds from here on, or does not; forget, that a name refers to something else.
-    // meet keeps what two paths to the same step have in common.
+    // learn records that a condition holds or fails from here on; forget records that a name now refers to something
+    // else. meet keeps the facts that two paths to the same step share.
     void learn(const Condition& condition, bool holds);
     void forget(const Step& step);
     void meet(const Speaker& other);
@@ -83,8 +83,8 @@ class Speaker {
     // line shows a line with <name> for a value and \n for a line end.
     [[nodiscard]] std::string line(const Line& line) const;
 
-    // pass_null makes an argument NULL. is_null is true for an expression that is NULL, reads_null for one that reads
-    // it.
+    // pass_null makes an argument NULL. is_null returns true for an expression that is NULL, reads_null for one that
+    // reads it.
     void pass_null(std::size_t argument) { slots_[argument].is_null = true; }
     [[nodiscard]] bool is_null(const Expression& expression) const;
     [[nodiscard]] bool reads_null(const Expression& expression) const;

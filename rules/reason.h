@@ -15,7 +15,7 @@
 namespace ostrel::rules {
 
 // Datum is nothing, a number, a text, a set of bytes, or a list of texts or numbers. The texts of a list belong to the
-// description, which outlives it.
+// description, which outlives the list.
 using Datum = std::variant<std::monostate, long long, std::string, Set, std::vector<std::string_view>,
                            std::vector<long long>>;
 
@@ -40,7 +40,7 @@ struct Reason {
     std::optional<long long> read_as;  // the number that atoi reads, if the text is not just an int
     std::string_view limit;            // of a number beyond an int: the id for the number that is read
 
-    // clear resets it for reuse. One without an id is already empty.
+    // clear resets the reason for reuse. A reason without an id is already empty.
     void clear()
     {
         if (id.empty()) return;

@@ -1,4 +1,4 @@
-// JSON of a reason, the same in all formats.
+// JSON of a reason, identical in all formats.
 #ifndef OSTREL_RULES_REASON_JSON_H
 #define OSTREL_RULES_REASON_JSON_H
 
@@ -16,13 +16,13 @@ void append_json_text(std::string& out, std::string_view bytes);
 // AppendBytes appends bytes of a value as JSON.
 using AppendBytes = void (*)(std::string& out, std::string_view bytes);
 
-// append_json_datum appends a datum that is not nothing.
+// append_json_datum appends a datum, which must not be nothing.
 void append_json_datum(std::string& out, const Datum& datum, AppendBytes append_bytes);
 
 // append_json_reason appends a reason and its sentence as an object, without secret values.
 void append_json_reason(std::string& out, Reason given, const Check& check);
 
-// append_json_told is the same for a reason without secrets whose sentence is known.
+// append_json_told does the same for a reason without secrets whose sentence is known.
 void append_json_told(std::string& out, const Reason& reason, std::string_view sentence,
                       AppendBytes append_bytes);
 

@@ -193,7 +193,7 @@ std::vector<Check> make_checks()
 
 const std::vector<Check>& checks()
 {
-    // Links are addresses, so the list must not move afterwards.
+    // Links are addresses, so the list must not be moved afterwards.
     static const std::vector<Check> all = make_checks();
     return all;
 }

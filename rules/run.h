@@ -1,4 +1,4 @@
-// Run: one evaluation. It is only for the files that implement evaluate.h.
+// Run: one evaluation. Only the files that implement evaluate.h use it.
 #ifndef OSTREL_RULES_RUN_H
 #define OSTREL_RULES_RUN_H
 
@@ -14,7 +14,7 @@
 
 namespace ostrel::rules {
 
-// Place is the argument from which a text or number comes, and the part of it.
+// Place identifies the argument from which a text or number comes, and the part of it.
 struct Place {
     std::optional<std::size_t> argument;
     std::optional<std::size_t> item;
@@ -59,7 +59,7 @@ struct Integer {
     }
 };
 
-// Frame is a check in evaluation: the one that was called, or one that another calls.
+// Frame is a check being evaluated: the called one, or one that another calls.
 struct Frame {
     const Check& check;
     std::vector<Operand> slots;
@@ -69,7 +69,7 @@ struct Frame {
     long long index = 0;
     bool is_last_item = false;
     const std::vector<std::string_view>* row = nullptr;  // of a table, the last that was found
-    bool is_called = false;  // it is the check that was called, whose writes are kept
+    bool is_called = false;                              // this is the called check, whose writes are kept
     int code = 0;
     bool is_refusal = false;
 };
@@ -111,7 +111,7 @@ class Run {
     Operand computed(const Expression& expression, Frame& frame);
     std::string_view keep(std::string text) { return kept_.emplace_front(std::move(text)); }
 
-    // Conditions. If a reason is wanted, it is stored in reason_.
+    // Conditions. If a reason is requested, it is stored in reason_.
     static bool same(std::string_view a, std::string_view b, bool ignores_case);
     static std::size_t common(std::string_view text,
                               const Condition& prefixes);  // in bytes, with the best one

@@ -25,7 +25,7 @@ namespace ostrel::rules {
 //   {found:one|many} {allowed:one|many}
 //                        the first form if the number or the count is 1, otherwise the second
 // The subject is the part that the reason names, or the argument, unless the sentence has its own. In that case the
-// part says where: "in the host, byte 9 is ...".
+// part is the location: "in the host, byte 9 is ...".
 struct Sentence {
     std::string_view id;
     std::string_view text;
@@ -38,18 +38,18 @@ std::span<const Sentence> sentences();
 // find_sentence returns the sentence of that id, or NULL.
 const Sentence* find_sentence(std::string_view id);
 
-// sentence says why, without the argument's name: "has 34 bytes; at most 32 are allowed". It is empty for an id that
-// has no sentence.
+// sentence returns the reason without the argument's name: "has 34 bytes; at most 32 are allowed". It is empty for an
+// id without a sentence.
 std::string sentence(const Reason& reason);
 
 // full_sentence begins with the subject: the item of a list, and the argument if a user passes several.
 std::string full_sentence(const Reason& reason, const Check& check);
 
-// hide_secret removes the value that was found if its argument is a secret; single bytes stay.
+// hide_secret removes the value that was found if its argument is a secret; single bytes remain.
 void hide_secret(Reason& reason, const Check& check);
 Reason without_secret(Reason reason, const Check& check);
 
-// without_trace_of_secret also removes single bytes, and numbers that were read in the value; lengths stay.
+// without_trace_of_secret also removes single bytes, and numbers that were read from the value; lengths remain.
 Reason without_trace_of_secret(Reason reason, const Check& check);
 
 }  // namespace ostrel::rules

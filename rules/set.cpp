@@ -15,7 +15,7 @@ struct Group {
     std::string_view words;
 };
 
-// In the order in which they are named. A group leaves its members out of the later ones.
+// The order in which groups are named. The members of a group are excluded from later groups.
 constexpr Group kGroups[] = {
     {kLatin1, "printable Latin-1 characters"},
     {kPrintable, "printable ASCII characters"},
@@ -56,7 +56,7 @@ class Parts {
 
  private:
     std::string text_;
-    std::size_t last_ = 0;  // where the last comma is
+    std::size_t last_ = 0;  // the offset of the last comma
 };
 
 // add_runs adds runs of at least four bytes by their ends, one part each, and the other bytes as one part.

@@ -1,4 +1,4 @@
-// Term: an expression of unknown arguments: part of one of them, or unknown.
+// Term: an expression over unknown arguments: a part of one of them, or unknown.
 #ifndef OSTREL_RULES_TERM_H
 #define OSTREL_RULES_TERM_H
 

@@ -12,7 +12,7 @@ using Kind = Condition::Kind;
 
 constexpr auto kMissing = std::string_view::npos;
 
-// A search compares this many bytes with the part at once, in the worst case at every offset.
+// A search compares this many bytes of the part at once, in the worst case at every offset.
 constexpr std::size_t kQuickBytes = 16;
 
 std::string one_byte(std::string_view text, std::size_t offset)
@@ -26,7 +26,7 @@ struct Progress {
     bool may_end = false;  // at the offset
     std::size_t offset = 0;
     Set expected;
-    const Group* group = nullptr;  // the one at fault
+    const Group* group = nullptr;  // the one that fails
 };
 
 Progress match(std::string_view text, const Shape& shape)

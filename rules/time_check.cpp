@@ -100,7 +100,8 @@ constexpr int kNameRoom = 55;
 
 using Lines = std::vector<Line>;
 
-// Part of an offset or name is sufficient to fill in the other, but to agree the offset must be complete.
+// A substring of an offset or a name is sufficient to fill in the other, but for the two to agree the offset must be
+// complete.
 Check zone_and_name()
 {
     const Effects no_name =

@@ -22,7 +22,7 @@ std::string Speaker::number(const Expression& expression) const
     return (is_named ? "" : "the number in ") + value(expression);
 }
 
-// A part that has a name is followed by what it is.
+// A part with a name is followed by what it is.
 std::string Speaker::value(const Expression& expression) const
 {
     const std::string_view part = expression.part;

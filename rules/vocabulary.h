@@ -17,7 +17,7 @@
 
 namespace ostrel::rules {
 
-// Code is what a check returns: a number, or the result of the other check in the condition.
+// Code is the result of a check: a number, or the result of the other check in the condition.
 struct Code {
     Code(int fixed) : number(fixed) {}
     Code(Expression computed) : number(std::move(computed)) {}

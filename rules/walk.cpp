@@ -110,7 +110,7 @@ class Keywords {
         }
     }
 
-    // look adds what is allowed if the condition must hold, or must fail; or both, if it distinguishes cases.
+    // look adds the allowed words if the condition must hold, or must fail; or both, if it distinguishes cases.
     void look(const Condition& condition, std::optional<bool> holds)
     {
         for (const Condition& part : condition.parts) look(part, holds);

@@ -1,4 +1,4 @@
-// The functions with which descriptions are written. README.md lists them.
+// The functions in which descriptions are written. README.md lists them.
 #ifndef OSTREL_RULES_WORDS_H
 #define OSTREL_RULES_WORDS_H
 
@@ -45,7 +45,7 @@ Expression larger(std::initializer_list<Expression> numbers);
 Expression days(Expression year, Expression month);  // of a month; 0 for none
 Expression cell(int column);                         // of the last row that was found
 
-// Conditions. Without a text they judge it.
+// Conditions. Without a text they judge the default subject.
 Condition always();
 Condition null(Expression argument);
 Condition empty(Expression text = it);

@@ -5,7 +5,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// To an empty list a text of any length is added, without a terminator. In another list a comma and a terminator are
+// A text of any length is added to an empty list, without a terminator. In any other list a comma and a terminator are
 // also written, so 159 bytes need 161.
 Check add_allowed_address()
 {

@@ -1,4 +1,4 @@
-// What may follow a byte.
+// The continuations of a text after its first byte.
 #include "rules/language/language.h"
 
 namespace ostrel::rules {

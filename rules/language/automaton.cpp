@@ -8,8 +8,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// Classes partitions the bytes by the sets for the first byte of a text. What may follow is the same for all bytes of a
-// class.
+// Classes partitions the bytes by the sets for the first byte of a text. All bytes of a class have the same
+// continuations.
 class Classes {
  public:
     Classes(const Languages& languages, Language one) : languages_(languages) { look_at(one); }
@@ -50,8 +50,8 @@ char first_of(const Set& set)
     return static_cast<char>(byte);
 }
 
-// explore follows a language byte by byte. Its states are languages: what may follow the bytes so far. It returns
-// nothing if there are too many or, if that is the question, when a text is found.
+// explore follows a language byte by byte. Its states are languages: the possible continuations of the bytes so far. It
+// returns nothing if there are too many states or, with must_be_empty, when it finds a text.
 std::optional<Automaton> explore(Languages& languages, Language one, bool must_be_empty)
 {
     Automaton result;

@@ -1,4 +1,4 @@
-// Automaton: a language as states, with which its texts can be counted, measured and compared.
+// Automaton: a language as states, by which its texts can be counted, measured and compared.
 #ifndef OSTREL_RULES_LANGUAGE_AUTOMATON_H
 #define OSTREL_RULES_LANGUAGE_AUTOMATON_H
 
@@ -24,7 +24,7 @@ struct Automaton {
     std::vector<State> states;  // the first is the start
 };
 
-// Summary is what all texts of a language have in common.
+// Summary contains the common properties of all texts of a language.
 struct Summary {
     bool is_empty = true;
     std::size_t shortest = 0;
@@ -34,16 +34,16 @@ struct Summary {
     std::optional<std::vector<std::string>> texts;  // all, if they are few
 };
 
-// kMostStates limits the size. A language that needs more states is left unknown.
+// kMostStates limits the size. A language that needs more states is treated as unknown.
 inline constexpr std::size_t kMostStates = 20000;
 
 std::optional<Automaton> automaton_of(Languages& languages, Language one);
 std::optional<Summary> summary_of(Languages& languages, Language one);
 
-// is_empty returns true if the language certainly has no text.
+// is_empty returns true if the language is known to have no text.
 bool is_empty(Languages& languages, Language one);
 
-// includes returns true if every text of the other is certainly in it.
+// includes returns true if every text of the other is known to be in it.
 bool includes(Languages& languages, Language one, Language other);
 
 }  // namespace ostrel::rules

@@ -17,7 +17,7 @@ struct Interval {
 
 class Intervals {
  public:
-    // Ends that mean no limit.
+    // Bounds that mean no limit.
     static constexpr long long kLowest = std::numeric_limits<long long>::min();
     static constexpr long long kHighest = std::numeric_limits<long long>::max();
 
@@ -30,7 +30,7 @@ class Intervals {
     Intervals operator~() const;
     bool operator==(const Intervals&) const = default;
 
-    // moved adds a number to each.
+    // moved adds a number to each member.
     [[nodiscard]] Intervals moved(long long by) const;
 
     [[nodiscard]] bool contains(long long number) const;

@@ -1,4 +1,4 @@
-// Languages built of others, each stored once.
+// Languages composed of others, each stored once.
 #include "rules/language/language.h"
 
 #include <algorithm>
@@ -96,7 +96,7 @@ Language Languages::joined(Language first, Language second)
     if (second == no_byte_) return first;
     const Node& head = nodes_[first.id];
     if (head.kind == Kind::kJoined) return joined(head.of[0], joined(head.of[1], second));
-    // Adjacent repetitions of the same are merged.
+    // Adjacent repetitions of the same language are merged.
     const Node& tail = nodes_[second.id];
     const Language next = tail.kind == Kind::kJoined ? tail.of[0] : second;
     const Node& following = nodes_[next.id];
@@ -140,7 +140,7 @@ Language Languages::negated(Language one)
     return opposite;
 }
 
-// opposite_of pushes a negation inward: past choices, intersections and most leaves.
+// opposite_of pushes a negation inward, past choices, intersections and most leaves.
 Language Languages::opposite_of(Language one)
 {
     const Node& node = nodes_[one.id];

@@ -1,7 +1,7 @@
-// Languages: sets of texts, built of bytes, sequences, choices, repetitions, intersections and complements.
+// Languages: sets of texts, composed of bytes, sequences, choices, repetitions, intersections and complements.
 //
 // Equal languages are stored once. A language that comes from a condition is kept as a leaf: a length, a number,
-// keywords. Numbers are read as by atoi, but have no limit.
+// keywords. Numbers are read as by atoi, but without a limit.
 #ifndef OSTREL_RULES_LANGUAGE_LANGUAGE_H
 #define OSTREL_RULES_LANGUAGE_LANGUAGE_H
 
@@ -27,10 +27,10 @@ struct Language {
     bool operator==(const Language&) const = default;
 };
 
-// kEveryByte has the bytes that a text can have.
+// kEveryByte contains every byte that a text can contain.
 inline constexpr Set kEveryByte = Set::range(1, 255);
 
-// Cut returns part of a text, like the expression of that name.
+// Cut extracts part of a text, like the expression of that name.
 struct Cut {
     Expression::Kind kind;
     std::string separator;
@@ -107,7 +107,7 @@ class Languages {
     Language byte(const Set& set);
     Language text(std::string_view text, bool ignores_case = false);
     Language joined(Language first, Language second);
-    // For parts that are calls: a list is evaluated in order by every compiler, so results do not depend on the
+    // Computed parts are passed as a list, which every compiler evaluates in order, so results do not depend on the
     // compiler.
     Language joined(const std::vector<Language>& parts);
     Language either(const std::vector<Language>& parts);
@@ -128,13 +128,13 @@ class Languages {
     std::optional<Language> within(const Cut& cut, Language inner);
     Language items(char separator, const Set& trimmed, Language inner);
 
-    // leap_years has the texts that atoi reads as a leap year.
+    // leap_years returns the texts that atoi reads as a leap year.
     Language leap_years();
 
-    // decimals has the numbers from 0, without leading zeros.
+    // decimals returns the numbers from 0, without leading zeros.
     Language decimals(long long low, long long high);
 
-    // after returns what may follow that byte.
+    // after returns the possible continuations after that byte.
     Language after(Language one, char byte);
     [[nodiscard]] bool contains(Language one, std::string_view text);
 

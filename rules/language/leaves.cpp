@@ -32,7 +32,7 @@ std::size_t limit(long long high)
 
 Intervals from_zero(const Intervals& numbers) { return numbers & Intervals(0, Intervals::kHighest); }
 
-// is_deterministic returns true if greedy matching without backtracking loses no text.
+// is_deterministic returns true if greedy matching without backtracking misses no text.
 bool is_deterministic(const Runs& shape)
 {
     for (std::size_t i = 0; i < shape.size(); ++i) {
@@ -157,7 +157,7 @@ std::optional<Language> Languages::within(const Cut& cut, Language inner)
         case Expression::Kind::kAfterLast:
             return keep_leaf(std::move(leaf),
                              either({inner_without, joined({any_, separator, inner_without})}));
-        default:  // through the last
+        default:  // kThroughLast
             return keep_leaf(
                 std::move(leaf),
                 either({empty_without, joined(both({inner, joined(any_, separator)}), without)}));

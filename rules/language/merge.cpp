@@ -129,7 +129,7 @@ void Languages::merge_sets(Kind kind, std::vector<Language>& parts)
 }
 
 // drop_opposites decides a list that contains a part and its opposite, and removes from a part what another part
-// decides. It knows only opposites that have been created.
+// decides. It finds only opposites that have already been created.
 void Languages::drop_opposites(Kind kind, std::vector<Language>& parts)
 {
     const Kind inside = kind == Kind::kEither ? Kind::kBoth : Kind::kEither;

@@ -10,7 +10,7 @@ const Set kWhite = Set::range('\t', '\r') | kBlank;  // what atoi skips
 
 }  // namespace
 
-// direct_number is for numbers other than 0, which need digits.
+// direct_number handles numbers other than 0, which need digits.
 Language Languages::direct_number(const Intervals& numbers)
 {
     const Language zeros = repeated(Set("0"));
@@ -58,7 +58,7 @@ Language Languages::leap_years()
     return either({of_number({0, 0}), joined({repeated(kWhite), sign, either({divisible, century}), rest})});
 }
 
-// decimals_of_length is for limits with the same number of digits.
+// decimals_of_length handles limits with the same number of digits.
 Language Languages::decimals_of_length(std::string low, const std::string& high)
 {
     if (low.empty()) return no_byte_;
@@ -94,7 +94,7 @@ Language Languages::decimals(long long low, long long high)
     while (last.empty() || first.size() < last.size()) {
         const std::size_t rest = first.size() - 1;
         if (first == "1" + std::string(rest, '0')) {
-            // All numbers of some lengths.
+            // All numbers of these lengths.
             const std::size_t most = last.empty() ? kMany : last.size() - 2;
             parts.push_back(joined({byte(kDigits - Set("0")), repeated(byte(kDigits), rest, most)}));
             if (last.empty()) return either(parts);

@@ -12,7 +12,7 @@ using Pattern = std::optional<std::string>;
 constexpr std::string_view kEnd = "(?![\\s\\S])";  // "$" would accept a line end
 constexpr std::string_view kNever = "(?!)";
 
-// Context is that of a part of a text: the bytes that it can have, and what follows it.
+// Context describes the surroundings of a part of a text: the bytes that it can contain, and what follows it.
 struct Context {
     Set bytes;
     std::string end;
@@ -60,7 +60,7 @@ class Writer {
         return leaf.kind == Leaf::Kind::kWithin && (leaf.cut.separator.size() == 1 || is_after);
     }
 
-    // same returns the language of a leaf without a special notation.
+    // same returns the language of a leaf that has no special notation.
     Language same(Language one)
     {
         const Leaf* leaf = languages_.leaf(one);
@@ -68,7 +68,7 @@ class Writer {
         return is_own ? one : languages_.node(one).of[0];
     }
 
-    // plain matches without lookahead.
+    // plain matches without a lookahead.
     Pattern plain(Language one, const Set& bytes)
     {
         const Node& node = languages_.node(one);
@@ -143,7 +143,7 @@ class Writer {
         return result.empty() ? std::string(kNever) : "(?:" + result + ")";
     }
 
-    // run_of returns the bytes of a part that only restricts bytes.
+    // run_of returns the allowed bytes if a part restricts only bytes.
     std::optional<Set> run_of(Language part)
     {
         const Node& node = languages_.node(part);
@@ -153,7 +153,7 @@ class Writer {
         return one.kind == Kind::kByte ? std::optional(one.set) : std::nullopt;
     }
 
-    // all_of matches one part and uses lookahead for the others. Bytes that one part excludes can be ignored in the
+    // all_of matches one part and uses lookaheads for the others. Bytes that one part excludes can be ignored in the
     // others.
     Pattern all_of(const std::vector<Language>& parts, const Context& context)
     {

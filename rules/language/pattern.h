@@ -9,8 +9,8 @@
 
 namespace ostrel::rules {
 
-// pattern_of returns an expression that matches the texts of a language, in which each byte is the character of the
-// same number. It is valid with and without the flag u. Some languages have none.
+// pattern_of returns an expression that matches the texts of a language, with each byte as the character of the same
+// number. It is valid with and without the flag u. Some languages have none.
 std::optional<std::string> pattern_of(Languages& languages, Language one);
 
 // class_of returns an expression for one byte of the set.

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kMostTexts = 40;
 
-// Measure examines the states of an automaton from which a text is accepted.
+// Measure examines the states from which the automaton can accept a text.
 class Measure {
  public:
     explicit Measure(const Automaton& automaton) : automaton_(automaton), lives_(find_living()) {}
@@ -65,7 +65,7 @@ class Measure {
         return result;
     }
 
-    // has_circle repeatedly removes states that no other leads to.
+    // has_circle repeatedly removes states that no other state leads to.
     bool has_circle()
     {
         std::vector<std::size_t> arrows(lives_.size());
@@ -111,7 +111,7 @@ class Measure {
         }
     }
 
-    // count_texts uses the order found by has_circle.
+    // count_texts uses the order that has_circle found.
     std::size_t count_texts()
     {
         std::vector<std::size_t> counts(lives_.size());

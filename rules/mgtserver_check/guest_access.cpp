@@ -5,8 +5,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// A malformed value above 0 prints the first line and returns its code; a value that is not above 0 returns the code
-// for the number, whether it is malformed or not.
+// A malformed value above 0 prints the first line and returns its code; any value that is not above 0 returns the code
+// for the number, even if it is malformed.
 Check guests()
 {
     const Condition is_malformed = refused_by("ValidateString", {1, 2, kDigits, "value"});

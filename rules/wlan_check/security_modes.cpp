@@ -54,7 +54,7 @@ std::vector<Check> lists_by_mode()
                                    "modes:readwrite mode <readwrite_mode> invalid \n\n"),
                               line("Error in WLAN_check_IEEE11i_encryption_modes: Error IEEE11i encryption "
                                    "modes:<value>\n\n")})),
-        // Its lines say "encryption" too.
+        // The lines of this check say "encryption" too.
         check(
             "WLAN_check_IEEE11i_authentication_modes",
             {text("value", "an IEEE 802.11i authentication mode"), mode},

@@ -1,4 +1,4 @@
-// Shared by the descriptions of the wireless LAN checks.
+// Elements that the descriptions of the wireless LAN checks share.
 #ifndef OSTREL_RULES_WLAN_CHECK_SHARED_H
 #define OSTREL_RULES_WLAN_CHECK_SHARED_H
 
