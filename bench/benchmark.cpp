@@ -1,4 +1,4 @@
-// Times every contender on every shape of its family's values, which are the same for all.
+// Times every contender on every shape of its family's values. All contenders judge the same values.
 //
 // The arguments are those of Google Benchmark. A benchmark is named family/shape/contender.
 #include <benchmark/benchmark.h>
@@ -14,7 +14,7 @@ using namespace ostrel::bench;
 
 namespace {
 
-// allocations counts what the program and every library in it take from the heap.
+// allocations counts the heap allocations of the program and of every library in it.
 std::size_t allocations = 0;
 
 }  // namespace
@@ -46,7 +46,7 @@ extern "C" void* realloc(void* block, std::size_t size)
 
 namespace {
 
-// corpus makes a corpus when it is first needed, so that a run of some benchmarks makes no others.
+// corpus creates a corpus when it is first needed, so that a run of a few benchmarks creates no others.
 const Corpus& corpus(const std::string& name, Shape shape)
 {
     static std::map<std::pair<std::string, Shape>, std::unique_ptr<const Corpus>> all;
@@ -55,7 +55,7 @@ const Corpus& corpus(const std::string& name, Shape shape)
     return *entry;
 }
 
-// require_same_verdict keeps the comparison fair: a contender that refuses a valid value did other work.
+// require_same_verdict keeps the comparison fair: a contender that refuses a valid value did different work.
 void require_same_verdict(const Contender& contender, const Corpus& values, std::size_t accepted)
 {
     if (accepted == values.values().size()) return;

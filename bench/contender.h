@@ -1,4 +1,4 @@
-// Contender: something that judges the values of a family: our rule, a peer or a limit.
+// Contender: a judge of the values of a family, which is our rule, a peer or a limit.
 #ifndef OSTREL_BENCH_CONTENDER_H
 #define OSTREL_BENCH_CONTENDER_H
 
@@ -15,11 +15,11 @@ namespace ostrel::bench {
 struct Contender {
     std::string family;
     std::string name;
-    std::function<std::size_t(const Corpus&)> pass;  // judges every value once and counts those accepted
+    std::function<std::size_t(const Corpus&)> pass;  // judges every value once and counts the accepted ones
 };
 
-// contender makes one from a function that judges one value. The loop is compiled around the call, at the same cost for
-// all.
+// contender creates one from a function that judges one value. The loop is compiled around the call, at the same cost
+// for each contender.
 template <typename Accepts>
 Contender contender(std::string family, std::string name, Accepts accepts)
 {
@@ -34,7 +34,8 @@ Contender contender(std::string family, std::string name, Accepts accepts)
 
 using Contenders = std::vector<Contender>;
 
-// contenders returns all that the program is linked with: peers/all.cpp includes the peers, alone.cpp does not.
+// contenders returns all contenders that are linked into the program: peers/all.cpp includes the peers, alone.cpp does
+// not.
 Contenders contenders();
 
 // Each of these adds contenders for the families that it supports.
@@ -48,8 +49,8 @@ void add_libyang(Contenders& all);
 void add_urls(Contenders& all);  // uriparser and libcurl
 void add_cares(Contenders& all);
 
-// pattern returns the regular expression for a family's valid values. It is anchored at both ends and uses only what
-// every engine supports.
+// pattern returns the regular expression for a family's valid values. It is anchored at both ends and uses only syntax
+// that every engine supports.
 std::string pattern(const std::string& family);
 
 }  // namespace ostrel::bench

@@ -41,7 +41,7 @@ class Random {
     std::uint64_t state_;
 };
 
-// some returns a text of so many characters, each one of the members.
+// some returns a text of the given length, with characters from members.
 std::string some(Random& random, std::size_t length, std::string_view members);
 
 // number returns a decimal number from low to high, padded with zeros to the width.
@@ -58,7 +58,7 @@ constexpr Shape kShapes[] = {Shape::kValid, Shape::kRefusedFirst, Shape::kRefuse
 
 const char* name_of(Shape shape);
 
-// ValueFamily makes the values of one kind: valid ones, and hostile ones of at least a length.
+// ValueFamily generates values of one kind: valid ones, and hostile ones of at least the given length.
 struct ValueFamily {
     std::string name;
     std::function<std::string(Random&)> valid;
@@ -69,7 +69,7 @@ struct ValueFamily {
 constexpr std::size_t kCorpusSize = 65536;  // the branch predictor learns fewer distinct values
 constexpr std::size_t kHostileLength = 512;
 
-// Corpus holds the values in one text, each with its terminator.
+// Corpus stores the values in one text, each with its terminator.
 class Corpus {
  public:
     Corpus(const ValueFamily& family, Shape shape, std::size_t size = kCorpusSize);
@@ -83,7 +83,7 @@ class Corpus {
     std::vector<const char*> values_;
 };
 
-// families lists all, in the order of the table.
+// families returns all families, in the order of the table.
 const std::vector<ValueFamily>& families();
 
 const ValueFamily& family(std::string_view name);

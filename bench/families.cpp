@@ -24,7 +24,8 @@ std::string mac(Random& random)
     return address;
 }
 
-// host makes names like those of servers: two to four labels of letters, digits and "-", the last one of letters.
+// host generates names like those of servers: two to four labels of letters, digits and "-", the last one of letters
+// only.
 std::string host(Random& random)
 {
     std::string name;
@@ -47,7 +48,7 @@ std::string url(Random& random)
     return text;
 }
 
-// date_time makes the one form that every contender accepts: with dashes and an offset.
+// date_time generates the one form that every contender accepts: with dashes and an offset.
 std::string date_time(Random& random)
 {
     return number(random, 1970, 2099, 4) + "-" + number(random, 1, 12, 2) + "-" + number(random, 1, 28, 2) +
@@ -72,8 +73,8 @@ std::string rates(Random& random)
 
 std::string servers(Random& random) { return ipv4(random) + (random.one_in(2) ? "," : ", ") + ipv4(random); }
 
-// reservations makes different addresses of one subnet. All have the same length, because an address that is a prefix
-// of another counts as repeated.
+// reservations generates different addresses of one subnet. All have the same length, because an address that is a
+// prefix of another counts as repeated.
 std::string reservations(Random& random)
 {
     std::string list;
@@ -86,7 +87,7 @@ std::string reservations(Random& random)
     return list;
 }
 
-// repeated makes a hostile value of many pieces.
+// repeated generates a hostile value of many pieces.
 auto repeated(const std::string& head, std::string (*piece)(Random&), const std::string& between)
 {
     return [=](Random& random, std::size_t length) {
@@ -96,7 +97,7 @@ auto repeated(const std::string& head, std::string (*piece)(Random&), const std:
     };
 }
 
-// members makes values of a set's characters, and long ones as hostile values.
+// members generates values of a set's characters, and long ones as hostile values.
 ValueFamily members(const char* name, std::string_view set, unsigned shortest, unsigned longest)
 {
     const std::string all(set);

@@ -27,7 +27,7 @@ int main(int argc, char** argv)
             for (const Contender& each : all) {
                 if (each.family != family.name) continue;
                 const std::string name = family.name + '/' + name_of(shape) + '/' + each.name + '/' + argv[1];
-                each.pass(corpus);  // work that is done once, such as binding symbols, is not counted
+                each.pass(corpus);  // one-time work, such as binding symbols, is not counted
                 CALLGRIND_TOGGLE_COLLECT;
                 each.pass(corpus);
                 CALLGRIND_TOGGLE_COLLECT;

@@ -6,7 +6,7 @@ namespace ostrel::bench {
 
 namespace {
 
-// read_each_byte is a function of its own, as the rules are.
+// read_each_byte is a separate function, because the rules are.
 [[gnu::noinline]] unsigned read_each_byte(const char* value)
 {
     unsigned sum = 0;

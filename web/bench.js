@@ -1,5 +1,5 @@
 // Compares the time of verdicts with that of validator, including everything that a page does: values are passed as
-// strings, and where stated a refused value comes with its reason.
+// strings and, where stated, the time of a refused value includes its reason.
 //
 //   OSTREL_WEB_BUILD=build/web/web node web/bench.js
 
@@ -12,7 +12,7 @@ const {load} = await import(pathToFileURL(join(build, 'package/index.js')).href)
 const validator = createRequire(join(build, 'node_modules/'))('validator');
 const ostrel = await load();
 
-// What a user types on the way to a valid value, and valid values.
+// Partial values as a user types them, and valid values.
 const cases = [
   {
     name: 'e-mail',

@@ -1,4 +1,4 @@
-// Prints what generate.js needs of the descriptions, as JSON.
+// Prints the data that generate.js needs from the descriptions, as JSON.
 
 #include <cstdio>
 #include <optional>
@@ -37,7 +37,7 @@ std::string_view name_of(NullOutcome outcome)
     return "";
 }
 
-// json_of has what the catalogue of the command line does not have.
+// json_of returns the data that the catalogue of the command line lacks.
 std::string json_of(const Check& check)
 {
     std::string out = "{\"name\":";
@@ -122,7 +122,7 @@ class Phrases {
     std::set<std::string> all_;
 };
 
-// subject_first adds the subject to a sentence that does not name it.
+// subject_first adds the subject to a sentence that has none of its own.
 std::string subject_first(const ostrel::rules::Sentence& sentence)
 {
     return (sentence.has_subject ? "" : "{subject} ") + std::string(sentence.text);

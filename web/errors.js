@@ -1,6 +1,6 @@
 // Errors for calls that would stop the gateway's daemon.
 
-// FailedAssertion: the daemon would have ended.
+// FailedAssertion: the assertion would have ended the daemon.
 export class FailedAssertion extends Error {
   constructor(condition, check, module, line) {
     super(`${module}:${line}: ${check}: Assertion \`${condition}' failed.`);

@@ -5,7 +5,7 @@ import {placeOf} from './sentences.js';
 const kAround = 16;  // characters that are shown on each side
 const kHidden = '\u2022';
 
-// excerptOf returns an element that shows it. For a secret no other character is shown.
+// excerptOf returns an element that shows the excerpt. For a secret it shows only the character at fault.
 export function excerptOf(value, offset, encoding, isSecret) {
   const {character, index} = placeOf(value, offset, encoding);
   const shown = (part) => [...(isSecret ? kHidden.repeat([...part].length) : part)];

@@ -6,8 +6,5 @@ export interface FormOptions {
   sentences?: Language;
 }
 
-/**
- * Has the fields of a form that name a check judged while people type.
- * Returns a function that ends it.
- */
+/** Judges the fields of a form that name a check while the user types. Returns a function that stops this. */
 export function attach(form: HTMLFormElement, ostrel: Ostrel, options?: FormOptions): () => void;

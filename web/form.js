@@ -77,7 +77,7 @@ class Field {
       return this.#refuse(error instanceof RangeError ? this.words.cannot_be_stored : this.words.stops);
     }
     if (verdict.valid !== false) return this.#settle();
-    // The form is blocked immediately. The reason follows, unless more has been typed by then.
+    // The form is blocked immediately. The reason follows, unless the user has typed more by then.
     input.setCustomValidity(this.words.refused);
     Promise.resolve().then(() => turn === this.#turn && verdict.reason).then(
       (reason) => turn === this.#turn && this.#tell(reason),
@@ -134,13 +134,13 @@ class Field {
     return made;
   }
 
-  // #prepare offers keywords, and finds how many bytes are allowed.
+  // #prepare offers keywords, and determines how many bytes are allowed.
   async #prepare() {
     const constraints = await this.check.constraints;
     const limits = constraints[this.check.arguments.indexOf(this.argument)];
     if (!limits) return;
     const keywords = limits.recommended?.keywords ?? limits.keywords;
-    // For a text of a fixed form the length is of no interest.
+    // The length of a text of a fixed form is of no interest.
     if (!keywords && !limits.shape && !limits.separator) this.#mostBytes = limits.max_length;
     this.#showBytes();
     const {input} = this;
@@ -185,7 +185,7 @@ class Field {
     this.#showBytes();
   }
 
-  // #otherOf returns the other field that the reason is about, if any.
+  // #otherOf returns the other field that the reason names, if any.
   #otherOf({argument, item}) {
     const names = this.with.get(argument)?.fields;
     const other = names && this.#input(names[item] ?? names[0]);

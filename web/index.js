@@ -10,10 +10,10 @@ export {FailedAssertion, NeverReturns};
 
 const kNoChannel = -1;
 const kPage = 0x10000;
-const kSpare = 2048;  // bytes beyond the texts of the call, for blocks and for what a check writes
+const kSpare = 2048;  // bytes in addition to the texts of the call, for blocks and for output
 const kNothingWritten = Object.freeze({});
 
-// Verdict is the result of a call. What the call printed is found by judging again, because few callers need it.
+// Verdict is the result of a call. Printed lines are found by judging again, because few callers need them.
 class Verdict {
   #asked;  // print and explain
   #judged;

@@ -1,4 +1,4 @@
-// A module of WebAssembly: passed by the caller, or fetched from the folder of the package.
+// A WebAssembly module, passed by the caller or fetched from the folder of the package.
 
 export async function compiled(given, url) {
   if (given instanceof WebAssembly.Module) return given;

@@ -1,4 +1,4 @@
-// The module of reasons: finds why a check refused a call, from its description.
+// The module of reasons: it finds why a check refused a call, from the description of the check.
 
 import {most, put, take} from './text.js';
 
@@ -33,7 +33,7 @@ const kKeptJson = 6;
 
 const decoder = new TextDecoder();
 
-// longest returns the maximum size of a call: each value has a head, and so has each text of a block.
+// longest returns the maximum size of a call: each value has a header, and so has each text of a block.
 function longest(values, isLatin1) {
   let sum = 0;
   for (const value of values) {
@@ -44,7 +44,7 @@ function longest(values, isLatin1) {
   return sum;
 }
 
-// Memory is the memory of a module, with the place from which it reads calls.
+// Memory is the memory of a module, and the place from which the module reads calls.
 export class Memory {
   #exports;
   #isLatin1;
@@ -68,7 +68,7 @@ export class Memory {
     this.#numbers = new Int32Array(buffer);
   }
 
-  // write writes a call.
+  // write stores a call.
   write(check, values) {
     const size = longest(values, this.#isLatin1);
     if (size > this.#room) {
@@ -101,7 +101,7 @@ export class Memory {
     return end;
   }
 
-  // numbers returns the memory as numbers, valid until a call is written.
+  // numbers returns the memory as numbers, valid until the next call is written.
   numbers() {
     this.#look();
     return this.#numbers;
@@ -111,7 +111,7 @@ export class Memory {
     return take(this.#bytes, at, length, true);
   }
 
-  // sentence reads ASCII, for which the decoder is fastest.
+  // sentence reads ASCII, which the decoder handles fastest.
   sentence(at, length) {
     return decoder.decode(this.#bytes.subarray(at, at + length));
   }
@@ -120,10 +120,10 @@ export class Memory {
 const asText = (text) => text;
 const asData = (json) => Object.freeze(JSON.parse(json));
 
-// whole combines the halves of a number of 64 bits.
+// whole joins the halves of a number of 64 bits.
 const whole = (low, high) => (low >> 31 === high ? low : high * 2 ** 32 + (low >>> 0));
 
-// Reasons is an instance of the module. Texts that stay at their address are read once.
+// Reasons is an instance of the module. Texts whose address is permanent are read once.
 class Reasons {
   #exports;
   #memory;

@@ -1,7 +1,7 @@
-// Sentences for users: why a value was refused, in the language of a file such as sentences/en.js or sentences/de.js.
+// Sentences for users: the reason for a refusal, in the language of a file such as sentences/en.js or sentences/de.js.
 
 const kMostWords = 40;  // a longer list is too long to read
-const kLongest = 64;    // characters that are shown of a text
+const kLongest = 64;    // characters of a text that are shown
 const kCategories = ['zero', 'one', 'two', 'few', 'many', 'other'];
 
 const filledIn = (template, value) => template.replace(/\{([^}]*)\}/g, (_, name) => value(name));
@@ -51,7 +51,7 @@ export function placeOf(text, offset, encoding) {
   return {character: '', index, number};
 }
 
-// Teller puts one reason into words. In its texts each character is a byte; with an encoding they are decoded.
+// Teller describes one reason. In its texts each character is a byte; with an encoding they are decoded.
 class Teller {
   constructor(reason, language, {subject = '', text, encoding}) {
     Object.assign(this, {reason, language, subject, encoding});
@@ -59,7 +59,7 @@ class Teller {
     this.place = isMapped ? placeOf(text, reason.offset, encoding) : null;
   }
 
-  // escaped shows the beginning of a text, with escapes for what is invisible.
+  // escaped returns the beginning of a text, with escapes for invisible characters.
   escaped(bytes) {
     let text = bytes.slice(0, kLongest);
     if (this.encoding === 'utf-8') {
@@ -74,7 +74,7 @@ class Teller {
     return filledIn(this.language.quoted, () => this.escaped(bytes));
   }
 
-  // shown shows a character in a sentence. isByte: only a byte of it is known.
+  // shown returns a character for a sentence. isByte: only one byte of it is known.
   shown(character, isByte) {
     if (character === ' ') return this.phrased('a space');
     if (character === '"') return this.phrased('a quotation mark');
@@ -84,7 +84,7 @@ class Teller {
     return inHex(character.codePointAt(0));
   }
 
-  // byte shows the character at fault, or only the byte if the text is unknown.
+  // byte returns the character at fault, or only the byte if the text is unknown.
   byte() {
     const {found} = this.reason;
     if (this.place?.character) return this.shown(this.place.character, false);
@@ -179,10 +179,10 @@ class Teller {
   }
 }
 
-// clause says why, without the initial capital and the full stop.
+// clause returns the reason without the initial capital and the full stop.
 export const clause = (reason, language, options = {}) => new Teller(reason, language, options).tell();
 
-// sentence says why. With options.text, the value, it shows and counts characters instead of bytes.
+// sentence returns the reason. With options.text, the value, it shows and counts characters instead of bytes.
 export function sentence(reason, language, options = {}) {
   const said = clause(reason, language, {subject: language.subject, ...options});
   return said === '' ? language.refused : `${capital(said)}.`;

@@ -1,4 +1,4 @@
-// Copies texts into and out of the memory of a module. A value that cannot be passed completely is an error.
+// Copies texts into and out of the memory of a module. A value that cannot be passed completely raises an error.
 
 const kHighSurrogates = 0xd800;
 const kLowSurrogates = 0xdc00;
@@ -36,7 +36,7 @@ export function put(bytes, at, text, isLatin1) {
 export const most = (text, isLatin1) => text.length * (isLatin1 ? 1 : 3) + 1;
 
 const decoder = new TextDecoder('utf-8', {ignoreBOM: true});
-const kShort = 64;      // bytes; for these calling the decoder would take longer
+const kShort = 64;      // bytes; shorter texts are decoded faster without the decoder
 const kAtOnce = 0x1000;  // bytes that are passed as arguments
 
 // take reads length bytes.

@@ -1,6 +1,6 @@
-// Judges a family's values a number of times: judge FAMILY CONTENDER PASSES
+// Judges a family's values the given number of times: judge FAMILY CONTENDER PASSES
 //
-// The difference between two runs is what the additional passes of the second execute.
+// The difference between two runs is the cost of the additional passes of the second.
 #include <cstdlib>
 
 #include "bench/contender.h"

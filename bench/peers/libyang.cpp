@@ -9,7 +9,7 @@ namespace ostrel::bench {
 
 namespace {
 
-// kModule has a leaf for each family, of the type that a modeller would choose.
+// kModule defines a leaf for each family, with the type that a modeller would choose.
 constexpr char kModule[] = R"(
 module ostrel-bench {
   yang-version 1.1;

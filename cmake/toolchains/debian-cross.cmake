@@ -1,5 +1,5 @@
-# What the toolchain files of Debian's cross compilers share. Before including it they set OSTREL_TRIPLET, the name
-# that the compiler's programs begin with, and OSTREL_EMULATOR, the program that runs the target's.
+# Common settings of the toolchain files for Debian's cross compilers. Before they include this file, they set
+# OSTREL_TRIPLET, the prefix of the compiler's programs, and OSTREL_EMULATOR, which runs the target's programs.
 set(CMAKE_SYSTEM_NAME Linux)
 string(REGEX REPLACE "-.*" "" CMAKE_SYSTEM_PROCESSOR ${OSTREL_TRIPLET})
 

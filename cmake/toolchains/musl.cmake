@@ -1,8 +1,8 @@
-# musl, on the processor of this machine. Debian has a compiler driver for C alone: C++ is compiled with musl's headers
-# in the place of glibc's, and what is linked, is linked by the C driver.
+# musl, on the processor of this machine. Debian has only a C compiler driver: C++ is compiled with musl's headers in
+# place of glibc's, and the C driver links.
 set(CMAKE_C_COMPILER musl-gcc)
 set(CMAKE_CXX_COMPILER g++)
-# A program in C++ could not be linked.
+# A C++ program cannot be linked.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
 
 execute_process(COMMAND g++ -dumpversion OUTPUT_VARIABLE version OUTPUT_STRIP_TRAILING_WHITESPACE)
@@ -15,5 +15,5 @@ string(JOIN " " CMAKE_CXX_FLAGS_INIT
     -isystem /usr/include/${machine}/c++/${version}
     -isystem /usr/include/${musl}
     -isystem ${own}
-    # The C++ library's headers, which are those for glibc, ask for its version.
+    # The C++ library's headers were configured for glibc and test its version.
     "'-D__GLIBC_PREREQ(major,minor)=0'")

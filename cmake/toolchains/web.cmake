@@ -5,5 +5,5 @@ set(CMAKE_C_COMPILER clang-19)
 set(CMAKE_CXX_COMPILER clang++-19)
 set(CMAKE_C_COMPILER_TARGET wasm32-wasi)
 set(CMAKE_CXX_COMPILER_TARGET wasm32-wasi)
-# Nothing that is linked can run without what imports it.
+# A linked program cannot run without the module that imports it.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)

@@ -1,4 +1,4 @@
-/* What judge.c asks the descriptions about a call. */
+/* The questions of judge.c about a call, which the descriptions answer. */
 #ifndef OSTREL_SQL_CALL_H
 #define OSTREL_SQL_CALL_H
 
@@ -11,11 +11,11 @@
 extern "C" {
 #endif
 
-/* ostrel_room returns how many bytes a buffer must have in this call, or 0 if it runs out of memory. */
+/* ostrel_room returns the size that a buffer must have in this call, or 0 if it runs out of memory. */
 size_t ostrel_room(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
                    unsigned argument);
 
-/* ostrel_explain allocates the text that is wanted, and returns false if it runs out of memory. */
+/* ostrel_explain allocates the requested text, and returns false if it runs out of memory. */
 bool ostrel_explain(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
                     OstrelWish wish, OstrelAnswer* answer);
 

@@ -25,7 +25,7 @@ typedef struct {
     size_t block_size;
 } OstrelArgument;
 
-/* OstrelSlot holds one argument of a call. */
+/* OstrelSlot is one argument of a call. */
 typedef struct {
     const char* text;
     char* buffer; /* allocated with malloc, or NULL */
@@ -33,7 +33,7 @@ typedef struct {
     unsigned natural;
 } OstrelSlot;
 
-/* OstrelHindrance says why SQL must not call a check. */
+/* OstrelHindrance is the reason why SQL must not call a check. */
 typedef enum { kNone, kNeverReturns, kRunsShell } OstrelHindrance;
 
 typedef struct {

@@ -1,4 +1,4 @@
-// Room and reasons, from the descriptions. This is the interface between C++ and C: no exception leaves it.
+// Buffer sizes and reasons, from the descriptions. This is the interface between C++ and C: no exception leaves it.
 
 #include <algorithm>
 #include <cstdlib>
@@ -86,7 +86,7 @@ std::string after(const OstrelCheck& check, const OstrelSlot* slots)
     return out.empty() ? "[]" : out + "]";
 }
 
-// lengths returns all that may be shown of a call with a secret.
+// lengths returns everything that may be shown of a call with a secret.
 std::string lengths(const OstrelCheck& check, const OstrelText* given)
 {
     std::string out;
@@ -105,7 +105,7 @@ std::string lengths(const OstrelCheck& check, const OstrelText* given)
     return out;
 }
 
-// reason returns an empty text or object if finding the reason would take too long.
+// reason returns an empty text or object if the search for the reason would take too long.
 std::string reason(const OstrelCheck& called, const OstrelText* given, const OstrelSlot* slots,
                    OstrelWish wish, int code)
 {

@@ -23,7 +23,7 @@ __attribute__((format(printf, 2, 3))) int ostrel_host_fprintf(FILE* stream, cons
 int ostrel_host_putchar(int c);
 int ostrel_host_puts(const char* text);
 int ostrel_host_fflush(FILE* stream);
-/* Nothing is run. The check that would run a shell is never called. */
+/* No command is run. The check that would run a shell is never called. */
 int ostrel_host_system(const char* command);
 
 #ifdef __cplusplus

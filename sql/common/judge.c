@@ -20,7 +20,7 @@ __attribute__((format(printf, 3, 4))) static bool fail(OstrelFault* fault, Ostre
     return false;
 }
 
-/* is_name returns whether a message can contain a text. SQL may pass any bytes in place of a name. */
+/* is_name returns whether a message may contain the text. SQL may pass arbitrary bytes as a name. */
 static bool is_name(const char* text, size_t size)
 {
     static const char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
@@ -82,7 +82,7 @@ const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t val
     return check;
 }
 
-/* read_integer reads a decimal integer with nothing before or after it. */
+/* read_integer reads a decimal integer that is the whole text. */
 static bool read_integer(const OstrelText* given, long long lowest, long long highest, long long* number)
 {
     const char first = given->bytes[0];
@@ -92,7 +92,7 @@ static bool read_integer(const OstrelText* given, long long lowest, long long hi
     return end == given->bytes + given->size && end[-1] >= '0' && *number >= lowest && *number <= highest;
 }
 
-/* load_value takes a value that SQL passes. load_buffer allocates the buffers. */
+/* load_value loads a value that SQL passes. load_buffer allocates the buffers. */
 static bool load_value(const OstrelCheck* check, const OstrelArgument* argument, const OstrelText* given,
                        OstrelSlot* slot, OstrelFault* fault)
 {
@@ -129,7 +129,7 @@ static bool load_value(const OstrelCheck* check, const OstrelArgument* argument,
     return false;
 }
 
-/* load_buffer copies the texts of an argument that the check writes to, and returns false without memory. */
+/* load_buffer copies the texts of an argument that the check writes to, and returns false if it runs out of memory. */
 static bool load_buffer(const OstrelCheck* check, const OstrelText* given, const OstrelText* own,
                         OstrelSlot* slots, unsigned i)
 {

@@ -13,7 +13,7 @@ typedef struct {
     size_t size;
 } OstrelText;
 
-/* OstrelWish is the text that is wanted in addition to the code. */
+/* OstrelWish selects the text that is returned in addition to the code. */
 typedef enum {
     kCode,    /* none */
     kLine,    /* what the check prints to standard output */

@@ -1,4 +1,4 @@
-/* Printing: what the library's sources print is kept in memory. */
+/* Printing: the output of the library's sources is kept in memory. */
 #ifndef OSTREL_SQL_PRINT_H
 #define OSTREL_SQL_PRINT_H
 
@@ -12,7 +12,7 @@ typedef struct {
     bool is_lost; /* there was not enough memory for all of it */
 } OstrelPrints;
 
-/* ostrel_capture keeps what this thread prints to standard output from now on. With NULL it is discarded. */
+/* ostrel_capture stores what this thread prints to standard output from now on. With NULL, it is discarded. */
 void ostrel_capture(OstrelPrints* prints);
 
 #endif

@@ -20,7 +20,7 @@ static void judge(const OstrelCheck* check, const OstrelText* given, OstrelWish 
     if (!ostrel_judge(check, given, wish, answer, &fault)) ostrel_raise(&fault);
 }
 
-/* judge_one is the function of one check: its arguments are text, integer and bigint. */
+/* judge_one implements the function of one check: its arguments are text, integer and bigint. */
 static Datum judge_one(FunctionCallInfo fcinfo, const OstrelCheck* check)
 {
     OstrelFault fault;
@@ -47,7 +47,7 @@ static Datum judge_one(FunctionCallInfo fcinfo, const OstrelCheck* check)
     Datum ostrel_check_##name(PG_FUNCTION_ARGS) { return judge_one(fcinfo, &ostrel_checks[index]); }
 #include "sql/postgresql/functions.inc"
 
-/* OstrelCall is a call whose check is named, with a text[] or a bytea[] of values. */
+/* OstrelCall is a call of a named check, with a text[] or a bytea[] of values. */
 typedef struct {
     const OstrelCheck* check;
     OstrelText given[kMostArguments];

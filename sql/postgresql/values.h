@@ -1,4 +1,4 @@
-/* Values: from the server to a check, and back. */
+/* Values: conversion between the server and a check. */
 #ifndef OSTREL_SQL_POSTGRESQL_VALUES_H
 #define OSTREL_SQL_POSTGRESQL_VALUES_H
 
@@ -18,7 +18,7 @@ void pg_attribute_noreturn() ostrel_raise(const OstrelFault* fault);
  */
 OstrelText ostrel_take(Datum value, bool is_text, char* room);
 
-/* ostrel_told moves the text of the answer to memory of the server; it returns NULL if there is none. */
+/* ostrel_told moves the text of the answer into memory of the server; it returns NULL if there is none. */
 char* ostrel_told(OstrelAnswer* answer);
 
 /*

@@ -11,11 +11,11 @@
 
 SQLITE_EXTENSION_INIT1
 
-/* sqlite3_ostrel_init is what SQLite calls when it loads the file. */
+/* sqlite3_ostrel_init is the entry point that SQLite calls when it loads the file. */
 __attribute__((visibility("default"))) int sqlite3_ostrel_init(sqlite3* database, char** error,
                                                                const sqlite3_api_routines* api);
 
-/* OstrelQuestion is what a function with the name of a check as its argument returns. */
+/* OstrelQuestion describes the result of a function that takes the name of a check. */
 typedef struct {
     const char* sql_name;
     OstrelWish wish;
@@ -42,7 +42,7 @@ static bool take(sqlite3_value* value, int type, OstrelText* text, char** copy)
         text->size = (size_t)sqlite3_value_bytes(value);
         return text->bytes != NULL;
     }
-    const void* blob = sqlite3_value_blob(value); /* NULL where it is empty */
+    const void* blob = sqlite3_value_blob(value); /* NULL if it is empty */
     text->size = (size_t)sqlite3_value_bytes(value);
     *copy = sqlite3_malloc64(text->size + 1);
     if (*copy == NULL) return false;
@@ -93,7 +93,7 @@ static void judge(sqlite3_context* context, const OstrelCheck* check, const Ostr
     }
 }
 
-/* call_check is the function of one check. */
+/* call_check implements the function of one check. */
 static void call_check(sqlite3_context* context, int count, sqlite3_value** values)
 {
     const OstrelCheck* const check = sqlite3_user_data(context);
@@ -105,7 +105,10 @@ static void call_check(sqlite3_context* context, int count, sqlite3_value** valu
     }
 }
 
-/* call_question is a function whose first argument names the check. SQLite keeps the check for a constant name. */
+/*
+ * call_question implements a function whose first argument names the check. SQLite keeps the check if the name is
+ * constant.
+ */
 static void call_question(sqlite3_context* context, int count, sqlite3_value** values)
 {
     const OstrelQuestion* const question = sqlite3_user_data(context);

@@ -1,4 +1,4 @@
-// The environment of the library: atoi and assertions of the C library, the wireless driver, two utilities.
+// The environment of the library: atoi and assertions of the C library, the wireless driver, the two utilities.
 
 #include <unistd.h>
 
@@ -25,7 +25,7 @@ constexpr int kNoChannel = -1;
 
 extern "C" {
 
-// ostrel_configure sets the kind of gateway and the utilities of the page.
+// ostrel_configure sets the properties of the gateway, and which of the two utilities the page supplies.
 void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts);
 
 void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts)
@@ -35,7 +35,7 @@ void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts)
     has_convert = converts;
 }
 
-// A number that does not fit in a long saturates, and the int has its lowest 32 bits.
+// A number that does not fit in a long saturates, and the int gets its lowest 32 bits.
 int atoi(const char* text)
 {
     while (*text == ' ' || (*text >= '\t' && *text <= '\r')) ++text;

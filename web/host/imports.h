@@ -1,4 +1,4 @@
-// Imports: what the page supplies.
+// Imports: functions that the page supplies.
 #ifndef OSTREL_WEB_HOST_IMPORTS_H
 #define OSTREL_WEB_HOST_IMPORTS_H
 
@@ -8,7 +8,7 @@
 
 extern "C" {
 
-// page_write receives a message in parts. ends: this is the last part.
+// page_write receives a message in parts. ends is true for the last part.
 OSTREL_IMPORT(write) void page_write(int stream, const char* text, std::size_t length, bool ends);
 
 OSTREL_IMPORT(flush) void page_flush();
@@ -18,10 +18,10 @@ OSTREL_IMPORT(flush) void page_flush();
                                                 const char* function);
 [[noreturn]] OSTREL_IMPORT(never_return) void page_never_return();
 
-// page_channel returns the channel at that index of the list of the wireless driver, or -1 at its end.
+// page_channel returns the channel at that index in the list of the wireless driver, or -1 at its end.
 OSTREL_IMPORT(channel) int page_channel(int index);
 
-// The two utilities, if the page has them.
+// The two utilities, if the page supplies them.
 OSTREL_IMPORT(compare) int page_compare(const char* a, const char* b);
 OSTREL_IMPORT(convert) void page_convert(char* text, std::size_t length);
 }

@@ -1,5 +1,5 @@
-// The C library's functions for texts, which end the call where one of them is NULL. In WebAssembly address 0 can be
-// read, so a NULL would be judged as an empty value.
+// The C library's text functions, which end the call if an argument is NULL. In WebAssembly, address 0 can be read, so
+// NULL would be judged as an empty value.
 
 #include <cstddef>
 

@@ -1,4 +1,4 @@
-// Printing. Only the conversions that messages of the library use are supported.
+// Printing. Only the conversions that the library's messages use are supported.
 
 #include <cstdarg>
 #include <cstdio>

@@ -1,4 +1,4 @@
-// Included before each source of the library: what the headers of WASI lack, and the endless loop.
+// Included before each source of the library: declarations that the headers of WASI lack, and the endless loop.
 #ifndef OSTREL_WEB_HOST_WASI_H
 #define OSTREL_WEB_HOST_WASI_H
 

@@ -12,7 +12,7 @@
 
 namespace ostrel::web {
 
-// room_for_call returns the place for calls of at most size bytes, valid until a larger size is requested.
+// room_for_call returns the buffer for calls of at most size bytes, valid until a larger size is requested.
 char* room_for_call(std::size_t size);
 
 // written_call reads the call, valid until the next one is read.

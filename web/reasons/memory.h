@@ -1,4 +1,4 @@
-// Memory: what only the build of the package needs leaves no trace in the module.
+// Memory: data that only the build of the package needs leaves no trace in the module.
 #ifndef OSTREL_WEB_REASONS_MEMORY_H
 #define OSTREL_WEB_REASONS_MEMORY_H
 

@@ -65,10 +65,10 @@ OSTREL_EXPORT(add_channel) void ostrel_add_channel(int channel) { gateway.channe
 
 OSTREL_EXPORT(reserve) char* ostrel_reserve(std::size_t size) { return ostrel::web::room_for_call(size); }
 
-// ostrel_told returns the place where explain stores the reason.
+// ostrel_told returns the address at which explain stores the reason.
 OSTREL_EXPORT(told) const Told* ostrel_told() { return &told; }
 
-// ostrel_explain stores the reason for the call that was written. It returns false if the call is not a refusal.
+// ostrel_explain stores the reason for the written call. It returns false if the call is not a refusal.
 OSTREL_EXPORT(explain) bool ostrel_explain(std::size_t check)
 {
     called = &descriptions()[check];

@@ -21,7 +21,7 @@ void append_number(std::string& bytes, std::uint64_t number)
     bytes += static_cast<char>(number);
 }
 
-// zigzag keeps small numbers short, whatever their sign.
+// zigzag keeps small numbers short, whether positive or negative.
 std::uint64_t zigzag(std::int64_t number)
 {
     return (static_cast<std::uint64_t>(number) << 1U) ^ static_cast<std::uint64_t>(number >> 63);

@@ -14,7 +14,7 @@ namespace {
 
 using rules::Set;
 
-// More sets than the descriptions have, so that only sets of callers are converted again.
+// There are more entries than sets in the descriptions, so only sets of callers are converted again.
 constexpr std::size_t kMostSets = 64;
 
 struct KnownSet {
@@ -25,7 +25,7 @@ struct KnownSet {
 std::forward_list<KnownSet> known_sets;
 std::size_t known_count = 0;
 
-// The JSON of a set that is not kept.
+// The JSON of a set that is not cached.
 std::string other_json;
 
 Told::Text text_of(std::string_view text) { return {text.data(), text.size()}; }
@@ -69,7 +69,7 @@ Told::Datum set(const Set& members)
     return at(Told::Datum::kJson, other_json.data(), other_json.size());
 }
 
-// A std::string_view is where it begins and its bytes.
+// The page reads a std::string_view as its address and its size.
 static_assert(sizeof(std::string_view) == sizeof(Told::Text) &&
               sizeof(long long) == 2 * sizeof(std::int32_t));
 

@@ -27,7 +27,7 @@ struct Told {
             kNumbers,  // their address and count; each the low and the high 32 bits
             kTexts,    // their address and count; each an address that stays valid, and a size
             kJson,
-            kKeptJson,  // whose address stays valid
+            kKeptJson,  // the address stays valid
         };
         Kind kind = kNothing;
         std::int32_t first = 0;
@@ -48,7 +48,7 @@ struct Told {
     Text sentence;
 };
 
-// tell stores a reason and its sentence, which must stay valid as long as the page reads them.
+// tell stores a reason and its sentence, which must stay valid until the page has read them.
 void tell(Told& told, const rules::Reason& reason, std::string_view sentence);
 
 }  // namespace ostrel::web

@@ -11,7 +11,7 @@ namespace ostrel::web {
 
 namespace {
 
-// blank makes a part whose fields are read next.
+// blank creates a part whose fields are read next.
 template <typename T>
 T blank()
 {
@@ -44,7 +44,7 @@ class Unpacker {
 
     std::vector<rules::Check> checks()
     {
-        // Those that others ask have their place before they are read.
+        // Checks that others call are allocated before they are read.
         std::vector<rules::Check> checks(parts_[Packed::number<rules::Check>()].size());
         checks_ = checks.data();
         for (std::size_t i = 0; i < checks.size(); ++i) read(checks[i], i);
@@ -69,7 +69,7 @@ class Unpacker {
         }
     }
 
-    // count is a number of parts, the place of one, or a size.
+    // count reads a number of parts, the index of one, or a size.
     std::size_t count() { return static_cast<std::size_t>(number()); }
 
     // read reads a part that is elsewhere in the pack.
@@ -108,7 +108,7 @@ class Unpacker {
     void field(const rules::Grammar*& grammar) { pointer(pack_.grammars, grammar); }
     void field(const rules::Conversion*& conversion) { pointer(pack_.conversions, conversion); }
 
-    // A table is never given back: what names it is there for as long as the program.
+    // A table is never freed: those that refer to it live as long as the program.
     void field(const rules::Table*& table)
     {
         if (count() == 0) return;

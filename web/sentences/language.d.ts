@@ -1,4 +1,4 @@
-/** The texts of one language. README.md says how to add another. */
+/** The texts of one language. README.md explains how to add another. */
 export interface Language {
   /** For plural forms: 'en'. */
   readonly locale: string;
@@ -18,9 +18,9 @@ export interface Language {
   readonly wide: string;
   readonly hidden_wide: string;
   readonly one_wide: string;
-  /** By the id of the reason. */
+  /** Keyed by the id of the reason. */
   readonly sentences: Readonly<Record<string, string>>;
-  /** By their English form. */
+  /** Keyed by their English form. */
   readonly phrases: Readonly<Record<string, string>>;
 }
 

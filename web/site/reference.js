@@ -1,4 +1,4 @@
-// The reference: which article is shown, the search, and the fields to try.
+// The reference: the article shown, the search, and the fields for trying checks.
 
 import english from './ostrel/sentences/en.js';
 import {sentence} from './ostrel/sentences.js';
@@ -13,7 +13,7 @@ function shown(name, className, text) {
   return made;
 }
 
-// articleOf is the article that has the anchor in it.
+// articleOf returns the article that contains the anchor.
 const articleOf = (hash) => document.getElementById(hash)?.closest('main > *');
 
 function route() {

@@ -4,13 +4,13 @@ export const escaped = (text) => String(text).replace(/[&<>"]/g, (c) => `&#${c.c
 const code = (text) => `<code>${escaped(text)}</code>`;
 const codes = (texts) => `<ul class="words">${texts.map((text) => `<li>${code(text === '' ? '""' : text)}</li>`).join('')}</ul>`;
 
-// Characters are bytes. What cannot be seen is shown by its number.
+// Each character is a byte. Invisible ones are shown as their number.
 function visible(c) {
   if (c === ' ') return 'blank';
   return c > ' ' && c <= '~' ? c : `\\x${c.charCodeAt(0).toString(16).toUpperCase().padStart(2, '0')}`;
 }
 
-// runs writes a set of characters by the ends of its runs: "A to Z".
+// runs describes a set of characters by the ends of its runs: "A to Z".
 export function runs(members) {
   const result = [];
   for (let i = 0; i < members.length; ++i) {
@@ -111,7 +111,7 @@ function fieldsOf(check) {
     })).join('');
 }
 
-// articleOf is the section about a check.
+// articleOf returns the section about a check.
 export function articleOf(check) {
   const answers = check.codes.map(({code: number, name, meaning}) =>
     `<tr><td>${number}</td><td>${code(name)}</td><td>${escaped(meaning)}</td></tr>`).join('');

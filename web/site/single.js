@@ -1,4 +1,4 @@
-// The page of one file: the modules are in it as text, for nothing can be fetched from a disk.
+// The page of the single file: it contains the modules as text, because a page opened from a disk can fetch nothing.
 
 import {load} from './ostrel/index.js';
 import {startPortal} from './portal.js';

@@ -1,4 +1,4 @@
-// Agreement: the fields of the specimen portal and ostrel-check judge the same random values alike.
+// Agreement: the fields of the specimen portal and ostrel-check give the same verdicts on random values.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';
@@ -14,7 +14,7 @@ const kSamples = ['Home', '6', '11i', 'WPAand11i', '0123456789abcdef'.repeat(4),
   'user@example.net', 'user#0001@example.net', 'AlwaysOn', 'OnDemand', 'Manual', '300', 'service', '1492', '65536',
   '4294967377', '99999999999999999999', '255.255.0.0', '10.0.0.1', 'x'.repeat(32), 'x'.repeat(33), '\u00fc'.repeat(16)];
 
-// Random numbers of a fixed seed, so that a fault comes again.
+// Random numbers with a fixed seed, so that a failure can be reproduced.
 let seed = 20;
 function random(below) {
   seed = (Math.imul(seed, 1664525) + 1013904223) >>> 0;
@@ -22,7 +22,7 @@ function random(below) {
 }
 const pick = (list) => list[random(list.length)];
 
-// A value is a sample with some characters changed, or made of characters alone.
+// A value is a sample with some characters changed, or a text of random characters.
 function value() {
   const characters = random(4) === 0 ? Array.from({length: random(12)}, () => pick(kCharacters)) : [...pick(kSamples)];
   for (let changes = random(3); changes > 0; --changes) {
@@ -46,7 +46,7 @@ test('the fields of the portal judge as ostrel-check does', async (t) => {
   const told = {accepted: 0, refused: 0};
   for (const name of names) {
     const values = Array.from({length: kValues}, value);
-    // Each is judged as by a keystroke. The call is noted, with what it takes from other fields.
+    // Each value is judged as by a keystroke. The call is recorded, with the arguments that come from other fields.
     const judged = await page.evaluate(async ([field, all]) => {
       const input = document.querySelector(`[name=${field}]`);
       const {checks} = await import('/ostrel/checks.js');

@@ -71,7 +71,7 @@ test('forms', async (t) => {
     await retype(page, '#mask', '255.255.255.0');
     await page.keyboard.press('Enter');
     assert.equal(await saved(), 'Saved.');
-    // What a script has written is judged, too.
+    // Values written by a script are judged, too.
     await page.$eval('#mask', (input) => {
       input.value = '255.0.255.0';
       input.form.querySelector('.saved').textContent = '';

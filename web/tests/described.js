@@ -1,17 +1,17 @@
-// What the descriptions say about a call in addition to the reason.
+// The details of a call that the descriptions give in addition to the reason.
 
 import {Memory} from '../reasons.js';
 import {checks, moduleOf} from './files.js';
 
-// What ends a program is never called.
+// Functions that end a program are never called.
 const noWasi = {wasi_snapshot_preview1: new Proxy({}, {get: () => () => 0})};
 const {exports} = new WebAssembly.Instance(moduleOf('described.wasm'), noWasi);
 exports._initialize();
 const memory = new Memory(exports, true);
 const stackPointer = exports.__stack_pointer.value;
 
-// answered returns the result of calling an export, or null if the description reads NULL, fails an assertion or
-// does not return: that ends it.
+// answered returns the result of calling an export. It returns null if the export traps, because the description reads
+// NULL, fails an assertion or does not return.
 function answered(call) {
   try {
     return call();

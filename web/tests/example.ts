@@ -34,7 +34,7 @@ ostrel.judge('Param_check_string_len', 'x', 0, 5);
 // @ts-expect-error lengths are numbers
 ostrel.judge('Param_check_string_len', 'x', '0', 5);
 
-// What is only written may be left out.
+// Arguments that are only written may be omitted.
 const account: number | null = ostrel.judge('TcmValidatePPPUsername', 'x').after.account_type;
 const offset: string | null = ostrel.judge('HNAPCORE_check_timezone', 'UTC', '').after.offset_out;
 const keys: readonly string[] = ostrel.judge('WLAN_check_wepkeys', ['', '', '', '']).after.keys;
@@ -58,7 +58,7 @@ try {
   if (error instanceof NeverReturns) console.log(error.message);
 }
 
-// What a portal does with reasons and forms.
+// A portal's use of reasons and forms.
 if (reason) {
   const said: string = sentence(reason, german, {text: '65536', encoding: ostrel.encoding});
   console.log(said, clause(reason, english), placeOf('65536', reason.offset ?? 0).character, bytesOf('65536'));

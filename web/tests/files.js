@@ -1,4 +1,4 @@
-// What was built. OSTREL_WEB_BUILD names the folder.
+// The built files. OSTREL_WEB_BUILD names the folder.
 
 import {readFileSync} from 'node:fs';
 import {join} from 'node:path';

@@ -1,4 +1,4 @@
-// Memory: no value is judged instead of another, none is cut, and an error has no later effect.
+// Memory: each call judges its own value, none is cut, and an error has no later effect.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';

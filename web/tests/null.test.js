@@ -1,5 +1,5 @@
-// NULL: address 0 can be read in WebAssembly, so nothing faults by itself. The same rules are built once more with each
-// access watched; what is said of each argument, and what the wrapper does, are held against that.
+// NULL: address 0 can be read in WebAssembly, so nothing faults by itself. The same rules are built again with every
+// access observed; the descriptions of each argument and the behaviour of the wrapper are compared with that.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';
@@ -47,7 +47,7 @@ function watched() {
   });
 }
 
-// outcomeOf calls the rules that are watched.
+// outcomeOf calls the observed rules.
 function outcomeOf(bare, check, values) {
   const pointer = bare.exports.__stack_pointer;
   const before = pointer.value;
@@ -62,7 +62,7 @@ function outcomeOf(bare, check, values) {
 test('each NULL answers as described', async (t) => {
   const bare = watched();
   const ostrel = await load({encoding: 'latin1'});
-  const seen = new Map();  // by check and argument, whether the description knows an answer
+  const seen = new Map();  // by check and argument, whether the description has an answer
   let calls = 0;
   for (const row of rows) {
     const check = checkOf(row.check);

@@ -1,4 +1,4 @@
-// A browser and a server of the site, for tests. Nothing but that server may be asked for anything.
+// A browser and a server of the site, for tests. Pages may send requests only to that server.
 
 import assert from 'node:assert/strict';
 import {createReadStream, existsSync} from 'node:fs';
@@ -17,7 +17,7 @@ export const kPolicy = "default-src 'none'; script-src 'self' 'wasm-unsafe-eval'
   "style-src 'self'; base-uri 'none'; form-action 'none'";
 export const site = join(build, 'site');
 
-// serve delivers the site under a content security policy, and what a test adds.
+// serve delivers the site, and the pages of a test, under a content security policy.
 export async function serve(t, {policy = kPolicy, pages = {}} = {}) {
   const server = createServer((request, response) => {
     const name = normalize(decodeURIComponent(new URL(request.url, 'http://x').pathname));
@@ -45,7 +45,7 @@ export async function started(t) {
   return browser;
 }
 
-// opened opens a page and notes what goes wrong in it and what it asks for.
+// opened opens a page and records its errors and its requests.
 export async function opened(t, browser, url, options = {}) {
   const context = await browser.newContext(options);
   t.after(() => context.close());
@@ -61,7 +61,7 @@ export async function opened(t, browser, url, options = {}) {
 
 export const isReady = (page) => page.waitForSelector('[data-ready]', {state: 'attached'});
 
-// checkNetwork: nothing but the site was asked for.
+// checkNetwork asserts that the page sent requests only to the site.
 export function checkNetwork(page, base) {
   for (const url of page.asked) assert.ok(url.startsWith(`${base}/`) || url.startsWith('data:'), url);
 }
@@ -72,7 +72,7 @@ export async function retype(page, selector, text) {
   await page.locator(selector).pressSequentially(text);
 }
 
-// said is the description of a field.
+// said returns the description of a field.
 export const said = (page, selector) => page.$eval(selector, (input) =>
   input.getAttribute('aria-describedby').split(' ').map((id) => document.getElementById(id))
     .filter((one) => !one.hidden).map((one) => one.innerText).filter(Boolean).join(' | '));

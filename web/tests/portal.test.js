@@ -1,4 +1,4 @@
-// The specimen portal as a page: its policy, what a keystroke costs, and whether everybody can use it.
+// The specimen portal as a page: its policy, the cost of a keystroke, and its accessibility.
 
 import assert from 'node:assert/strict';
 import {readFileSync} from 'node:fs';

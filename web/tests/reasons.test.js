@@ -21,7 +21,7 @@ test('reasons, long 64', async (t) => {
   t.diagnostic(`${refused.length} reasons of ${rows.length} rows`);
 });
 
-// ostrel-check reads numbers with this machine's long. Rows in which that matters say it.
+// ostrel-check reads numbers with this machine's long. Rows for which that matters are marked.
 test('reasons, long 32', async (t) => {
   const ostrel = await load({encoding: 'latin1', long: 32});
   let asNative = 0;

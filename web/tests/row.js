@@ -11,7 +11,7 @@ function valueOf(json) {
   return Array.isArray(json) ? json.map(textOf) : textOf(json);
 }
 
-// answerOf returns the result for a long of that many bits, or nothing if the row has none.
+// answerOf returns the result for a long of the given size in bits, or null if the row has none.
 function answerOf(row, long) {
   if (row.overflow && long === 32) return null;
   const answer = (long === 32 && row.long32) || row;
@@ -32,7 +32,7 @@ export const rowsOf = (name, lines) => lines.split('\n').filter(Boolean).map((li
     place: `${name}:${i + 1}`,
     check: row.check,
     values: row.args.map(valueOf),
-    depends: row.overflow || row.long32 !== undefined,  // on how many bits a long has
+    depends: row.overflow || row.long32 !== undefined,  // on the size of a long
     answers: {32: answerOf(row, 32), 64: answerOf(row, 64)},
   };
 });

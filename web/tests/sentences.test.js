@@ -21,7 +21,8 @@ for (const row of rows) {
   if (reason) refused.push({row, reason});
 }
 
-// Characters are positions as bytes are, and the subject is what each language puts first.
+// A sentence may have {character} in place of {position}. The subject is not compared, because only some languages name
+// it.
 const kSame = {character: 'position'};
 const parametersOf = (text) => [...new Set([...text.matchAll(/\{(\w+)/g)].map(([, name]) => kSame[name] ?? name))]
   .filter((name) => name !== 'subject').sort();
@@ -40,7 +41,7 @@ test('no id lacks a sentence or a parameter', () => {
   }
 });
 
-// A limit of one sentence is in another's, from the ";" on.
+// A sentence can contain the limit of another one, from its ";" on.
 test('a limit can be told of a number that is too large', () => {
   for (const {reason} of refused.filter(({reason: {limit}}) => limit)) {
     assert.match(german.sentences[reason.limit], /;/, reason.limit);
@@ -54,7 +55,7 @@ test('no fixed phrase lacks a translation, and none is translated in vain', () =
 
 test('English is what the reasons say', (t) => {
   for (const {row, reason} of refused) {
-    // Where a call has several arguments, the reason names the one.
+    // If a call has several arguments, the reason names the one at fault.
     const {argument, text} = reason;
     const severalGiven = checkOf(row.check).arguments.filter(({output}) => !output).length > 1;
     let expected = text;

@@ -1,4 +1,4 @@
-// The site: every check is on it, it can be searched and tried, from a server and from a disk; and pictures of it.
+// The site: it contains every check, and searching and trying work, from a server and from a disk; with screenshots.
 
 import assert from 'node:assert/strict';
 import {mkdirSync, readFileSync} from 'node:fs';

@@ -1,4 +1,5 @@
-// Every row of the vectors: the module with each value at the edge of its memory, and the wrapper, here and in a browser.
+// Every row of the vectors: the module with each value at the edge of its memory, and the wrapper in Node and in a
+// browser.
 
 import assert from 'node:assert/strict';
 import {readFileSync} from 'node:fs';

@@ -1,10 +1,10 @@
-// Every row by the wrapper; the same in Node and in a browser.
+// Judges every row through the wrapper; used in Node and in a browser.
 
 import {complete, kUnwritten} from '../arguments.js';
 
 const kWritten = ['buffer', 'blocks', 'integer_out'];
 
-// held is what the arguments hold that can be written to, before the call.
+// held returns the contents of the arguments that can be written to, before the call.
 const held = (check, values) => complete(check, values).filter((_, i) => kWritten.includes(check.arguments[i].kind))
   .map((value) => (value === kUnwritten ? null : value));
 
@@ -13,13 +13,14 @@ export function expectedOf(row, check, long) {
   return {...answer, after: answer.after ?? held(check, row.values)};
 }
 
-// mixed is a number that depends on each character of a text and on the number before.
+// mixed returns a number that depends on each character of a text and on the previous number.
 function mixed(number, text) {
   for (let i = 0; i < text.length; ++i) number = Math.imul(number ^ text.charCodeAt(i), 0x01000193);
   return number;
 }
 
-// judgedRows judges the rows that say what the answer is. It lists those that differ, and sums up the reasons.
+// judgedRows judges the rows that contain an answer. It lists those that differ, and computes a checksum of the
+// reasons.
 export async function judgedRows(load, rows, long) {
   const ostrel = await load({encoding: 'latin1', long});
   const faults = [];
