@@ -29,7 +29,7 @@ def _read(path):
         elif line.startswith("ob="):
             in_library = LIBRARY in line
         elif line.startswith("calls="):
-            skip = True  # the next line has the instructions of the callee
+            skip = True  # the next line counts the instructions of the callee
         elif re.match(r"[0-9+*-]", line):
             if skip:
                 skip = False

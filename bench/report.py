@@ -15,7 +15,7 @@ import sys
 import goals
 
 LIMITS = ("reading", "strlen")
-# The name of each family on the page.
+# The names of the families on the page.
 NAMES = {
     "ipv4": "IPv4 address", "mac": "MAC address", "host": "host name", "url": "URL", "email": "e-mail address",
     "account": "account", "date_time": "date-time", "printable": "printable string", "password": "password",
@@ -53,7 +53,7 @@ def read_times(path):
 
 
 def ratio_to(ours, other):
-    """ratio_to returns how many times as long the other takes, by the medians, or with noise by the fastest
+    """ratio_to returns the other's time as a multiple of ours, by the medians, or if they are noisy by the fastest
     repetitions."""
     if max(ours[1], other[1]) <= NOISY:
         return other[0] / ours[0]
@@ -113,7 +113,7 @@ def multiples(row):
 
 
 def faster(row):
-    """faster returns the peers that take less time than we do."""
+    """faster returns the peers that take less time than our rule."""
     return [contender for contender, multiple in multiples(row) if multiple < 1 and contender not in LIMITS]
 
 
@@ -182,7 +182,7 @@ def page_table(table):
 
 
 def write_page(path, text):
-    """write_page puts the text at its place in the page. A page that does not exist becomes the text."""
+    """write_page inserts the text into the page. If the page does not exist, the text becomes the page."""
     if path.exists():
         before, begin, rest = path.read_text(encoding="utf-8").partition(BEGIN)
         _, end, after = rest.partition(END)

@@ -1,5 +1,5 @@
-"""The parts of a run on Dask: what may judge, who judges what, and what came of it."""
-# Most of Dask has no types.
+"""Runs parts on Dask: requires the right program on each worker, distributes the parts, and collects the outcomes."""
+# Dask is mostly untyped.
 # mypy: allow-untyped-calls
 
 import asyncio
@@ -26,11 +26,12 @@ _SECONDS_BETWEEN_LOOKS = 0.2
 
 @contextlib.contextmanager
 def connect(address: str | None, jobs: int) -> Iterator[Client]:
-    """connect reaches a scheduler, or begins a cluster of this process alone: what judges are processes anyway."""
-    # A timer of a cluster that is closed complains to nobody.
+    """connect connects to a scheduler, or starts a cluster in this process; its tasks run programs as processes
+    anyway."""
+    # A timer of a closed cluster logs errors that concern no user.
     logging.getLogger("asyncio").setLevel(logging.CRITICAL)
     if address is None:
-        # It samples what runs a hundred times a second.
+        # The profiler would sample the running tasks a hundred times a second.
         with dask.config.set({"distributed.worker.profile.enabled": False}), \
                 LocalCluster(n_workers=1, threads_per_worker=jobs, processes=False, memory_limit=0,
                              dashboard_address="127.0.0.1:0") as cluster, Client(cluster) as client:
@@ -49,7 +50,7 @@ def connect(address: str | None, jobs: int) -> Iterator[Client]:
 
 
 def require_program(client: Client, job: Job) -> None:
-    """require_program asks each worker for its program, before anything is judged."""
+    """require_program asks each worker for the identity of its program, before anything is judged."""
     try:
         client.wait_for_workers(1, timeout=_SECONDS_TO_CONNECT)
     except (TimeoutError, asyncio.TimeoutError) as error:
@@ -64,7 +65,7 @@ def require_program(client: Client, job: Job) -> None:
 
 def judge_all(client: Client, job: Job, parts: Sequence[Part], tell: Callable[[Part, Outcome], None],
               look: Callable[[int], None]) -> None:
-    """judge_all judges the parts, tells what becomes of each, and lets look be called in between."""
+    """judge_all judges the parts, passes each outcome to tell, and calls look in between."""
     keys = {f"judge-{part.name}-{os.path.basename(part.file)}-{job.number}": part for part in parts}
     finished: queue.SimpleQueue[Future] = queue.SimpleQueue()
     futures = client.map(functools.partial(ostrel_part.judge, job), parts, key=list(keys), pure=False)
@@ -105,7 +106,7 @@ def _outcome_of(future: Future, part: Part) -> Outcome:
 
 
 def _stop(client: Client, job: Job, futures: Sequence[Future]) -> None:
-    """_stop leaves no part running: workers outlive the run, and what they do not finish is to be removed."""
+    """_stop stops all parts: workers outlive the run, and incomplete results must be removed."""
     with contextlib.suppress(Exception):
         client.cancel(futures)
         client.run(ostrel_program.abandon, job.number, on_error="ignore")

@@ -33,9 +33,9 @@ PROGRAM = "ostrel-check"
 
 USAGE = 2
 INCOMPLETE = 4
-# What the exit code of a batch is for a case of each verdict; the highest wins.
+# The exit code of a batch for a case with each verdict; the highest one is returned.
 EXIT_CODES = {"refused": 1, "malformed": 2, "no_driver": 2, "ended": 3, "no_return": 3}
-# These the runner sets, or takes itself.
+# Options that the runner sets, or interprets itself.
 OWN_OPTIONS = ("--json", "--stream", "--format-out", "--only-refused", "--summary", "--summary-only", "--summary-file",
                "--exit-zero", "--start-line", "--jobs", "--map")
 UNITS = {"": 1, "k": 1 << 10, "M": 1 << 20, "G": 1 << 30}
@@ -53,7 +53,7 @@ def size_of(text: str) -> int:
 
 
 def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
-    """parse returns what the runner is to do, and the options of ostrel-check after the first "--"."""
+    """parse returns the arguments of the runner, and the options of ostrel-check after the first "--"."""
     at = words.index("--") if "--" in words else len(words)
     parser = argparse.ArgumentParser(
         prog="ostrel-fleet", description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter,
@@ -84,7 +84,7 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
 
 
 def require_options(program: str, manifest: Manifest) -> None:
-    """require_options lets the program judge nothing, so that it complains once about options that it does not take."""
+    """require_options runs the program without cases, so that it reports invalid options only once."""
     said = ostrel_program.output_of(program, "batch", "--stream", "--exit-zero", "--summary", "json", *manifest.words())
     if said:
         raise Refused(f"{shlex.join(manifest.options)}: a file is among the options of ostrel-check")
@@ -174,7 +174,7 @@ class Run:
         plan.write_whole(self._folder / plan.SUMMARY, text)
 
     def _nothing(self, unread: int) -> str:
-        """_nothing is the summary of files that could not be read."""
+        """_nothing returns the summary of files that could not be read."""
         nothing = json.loads(self._summarise(["\n"], "json"))
         nothing["summary"]["unreadable_files"] = unread
         return json.dumps(nothing) + "\n"
@@ -192,7 +192,7 @@ def size_in(part: Part) -> int:
 
 @contextlib.contextmanager
 def signals_raise() -> Iterator[None]:
-    """signals_raise lets the first signal end the run in order, and a second one at once."""
+    """signals_raise makes the first signal end the run in order, and a second one immediately."""
     def interrupt(number: int, _: FrameType | None) -> None:
         signal.signal(number, signal.SIG_DFL)
         raise Interrupted(number)

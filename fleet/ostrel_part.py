@@ -1,5 +1,5 @@
-"""What a worker of the cluster does: it judges a part of the files, and puts what came out in place when that is whole.
-The runner sends this module to the workers, so it needs nothing but Python's own library."""
+"""Runs on a worker of the cluster: judges a part of the files, and moves the results into place when they are complete.
+The runner sends this module to the workers, so it needs only Python's standard library."""
 
 import contextlib
 import dataclasses
@@ -15,7 +15,7 @@ from typing import Any, BinaryIO, Literal
 
 import ostrel_program
 
-# TEMPORARY is how the name of a file ends that is not whole.
+# TEMPORARY is the suffix of the name of an incomplete file.
 TEMPORARY = ".tmp"
 
 _MOST_SENT = 1 << 26
@@ -24,7 +24,7 @@ _MOST_OF_LINE = 1 << 20
 
 @dataclasses.dataclass(frozen=True)
 class Job:
-    """Job is what the parts of a run have in common. Each start of the runner has another number."""
+    """Job contains the values that all parts of a run share. Each start of the runner has a different number."""
 
     number: str
     folder: str
@@ -35,8 +35,8 @@ class Job:
 
 @dataclasses.dataclass(frozen=True)
 class Part:
-    """Part is a file, or a block of its lines. A file that could not be looked at when the run was planned has no
-    state; a part without an end goes to that of its file."""
+    """Part is a file, or a block of its lines. The state is None if the file could not be examined when the run was
+    planned; a part without an end extends to the end of its file."""
 
     name: str
     file: str
@@ -49,8 +49,8 @@ class Part:
 
 @dataclasses.dataclass(frozen=True)
 class Outcome:
-    """Outcome is what became of a part: it is done; it is missing, for a reason that lies in its file; or the whole run
-    must stop. A part may be done with a problem, and is judged again by the next run all the same."""
+    """Outcome is the result of a part: it is done; it is missing, because of a problem in its file; or the whole run
+    must stop. A part may be done with a problem, and is still judged again by the next run."""
 
     kind: Literal["done", "missing", "stop"]
     problem: str = ""
@@ -60,7 +60,7 @@ class Outcome:
 
 
 class Unreadable(Exception):
-    """Unreadable: the file cannot be judged, and others can."""
+    """Unreadable: this file cannot be judged, but others can."""
 
 
 def results_of(job: Job, part: Part) -> pathlib.Path:
@@ -72,7 +72,7 @@ def mark_of(job: Job, part: Part) -> pathlib.Path:
 
 
 def read_mark(path: pathlib.Path) -> dict[str, Any]:
-    """read_mark returns what is known of a part that was judged; nothing where it was not."""
+    """read_mark returns the record of a part that was judged, or an empty one if it was not."""
     try:
         mark: dict[str, Any] = json.loads(path.read_bytes())
         part: dict[str, Any] = mark["part"]
@@ -84,7 +84,7 @@ def read_mark(path: pathlib.Path) -> dict[str, Any]:
 
 
 def is_finished(job: Job, part: Part) -> bool:
-    """is_finished tells whether the part was judged as it is now, and its results are there."""
+    """is_finished returns whether the part was judged in its present state and its results exist."""
     mark = read_mark(mark_of(job, part))
     if mark.get("part") != part or mark["problem"]:
         return False
@@ -95,8 +95,8 @@ def is_finished(job: Job, part: Part) -> bool:
 
 @contextlib.contextmanager
 def whole(path: pathlib.Path) -> Iterator[BinaryIO]:
-    """whole opens a file that gets its name when all of it is written. The name that it has before that is its own:
-    another worker may be at the same part, where the scheduler took one for dead that is not."""
+    """whole opens a file that receives its name when it is complete. Its temporary name is unique, because another
+    worker may be judging the same part after the scheduler wrongly considered this one dead."""
     temporary = path.with_name(f".{path.name}.{socket.gethostname()}-{os.getpid()}-{secrets.token_hex(4)}{TEMPORARY}")
     try:
         with open(temporary, "x+b") as file:
@@ -109,7 +109,7 @@ def whole(path: pathlib.Path) -> Iterator[BinaryIO]:
 
 
 def judge(job: Job, part: Part) -> dict[str, Any]:
-    """judge judges a part, unless it was finished by a worker that did not live to say so. It returns an Outcome."""
+    """judge judges a part, unless a worker that died before reporting has finished it. It returns an Outcome."""
     return dataclasses.asdict(_outcome_of(job, part))
 
 
@@ -172,8 +172,8 @@ def _send(part: Part, source: int, pipe: int) -> None:
 
 
 def _end_of(part: Part, source: BinaryIO, out: BinaryIO) -> tuple[str, str]:
-    """_end_of returns what is wrong at the end of a file, and what may be: a line without an end was cut where its
-    record is malformed, and may have been cut where it is not."""
+    """_end_of returns a definite and a possible problem at the end of a file: a last line without a line end was cut if
+    its record is malformed, and may have been cut otherwise."""
     size = os.fstat(source.fileno()).st_size
     last = os.pread(source.fileno(), 1, size - 1) if size > 0 and part.end in (None, size) else b"\n"
     if last == b"\n":

@@ -1,4 +1,4 @@
-"""The folder of a run: what was planned, what is finished, and what an earlier run left there."""
+"""The folder of a run: its plan, the finished parts, and the files that an earlier run left."""
 
 import dataclasses
 import fcntl
@@ -16,22 +16,22 @@ MANIFEST = "run.json"
 SUMMARY = "summary.json"
 FOLDERS = ("results", "done")
 
-# Formats by the ends of names, as ostrel-check has them.
+# Formats by file name suffix, the same as in ostrel-check.
 FORMATS = {".ndjson": "ndjson", ".jsonl": "ndjson", ".json": "json", ".csv": "csv", ".tsv": "tsv", ".tab": "tsv",
            ".words": "words"}
-# In these a record is a line, so that a file can be cut after any of them.
+# In these formats a record is a line, so a file can be split after any of them.
 LINES = ("ndjson", "words")
 
 _PIECE = 1 << 22
 
 
 class Refused(Exception):
-    """Refused: the run cannot begin, or go on, in the way that was asked for."""
+    """Refused: the run cannot begin or continue as requested."""
 
 
 @dataclasses.dataclass(frozen=True)
 class Manifest:
-    """Manifest is what a run was begun with. With any other it would end with other results."""
+    """Manifest contains the parameters with which a run was begun. With any others its results would differ."""
 
     identity: str
     files: tuple[str, ...]
@@ -41,7 +41,7 @@ class Manifest:
     block: int
 
     def words(self) -> tuple[str, ...]:
-        """words are the options of ostrel-check."""
+        """words returns the options of ostrel-check."""
         return self.options if self.map is None else (*self.options, "--map", self.map)
 
 
@@ -83,7 +83,7 @@ def begin(folder: pathlib.Path, manifest: Manifest) -> None:
 
 
 def require_same(begun: Manifest, now: Manifest) -> None:
-    """require_same refuses to go on with a run that was begun with something else."""
+    """require_same refuses to continue a run that was begun with different parameters."""
     for field in dataclasses.fields(Manifest):
         before, after = getattr(begun, field.name), getattr(now, field.name)
         if before != after:
@@ -93,7 +93,7 @@ def require_same(begun: Manifest, now: Manifest) -> None:
 
 
 def lock(folder: pathlib.Path) -> int:
-    """lock keeps a second runner out of the folder, as long as the descriptor is open."""
+    """lock keeps a second runner out of the folder while the descriptor is open."""
     descriptor = os.open(folder, os.O_RDONLY | os.O_DIRECTORY)
     try:
         fcntl.flock(descriptor, fcntl.LOCK_EX | fcntl.LOCK_NB)
@@ -106,8 +106,8 @@ def lock(folder: pathlib.Path) -> int:
 
 
 def remove_temporary(folder: pathlib.Path) -> None:
-    """remove_temporary removes what a worker left that was killed. One that is still at work for an earlier run finds
-    its file gone, and puts nothing in place."""
+    """remove_temporary removes the files that a killed worker left. A worker that is still active for an earlier run
+    finds its file missing, and moves nothing into place."""
     for name in ("", *FOLDERS):
         for path in (folder / name).glob(f".*{ostrel_part.TEMPORARY}"):
             path.unlink(missing_ok=True)
@@ -123,14 +123,16 @@ def _told_format(options: Sequence[str]) -> str | None:
 
 
 def _begins_as_text(file: BinaryIO) -> bool:
-    """_begins_as_text: of what is compressed, or in UTF-16, ostrel-check says so once, and not for each block."""
+    """_begins_as_text returns whether a file may be split. ostrel-check reports a compressed or UTF-16 file once if it
+    is not split, and otherwise once per block."""
     front = file.read(4)
     file.seek(0)
     return front.startswith(b"\xef\xbb\xbf") or all(32 <= byte < 127 or byte in b"\t\r\n" for byte in front)
 
 
 def _blocks(file: BinaryIO, size: int, block: int) -> Iterator[tuple[int, int, int]]:
-    """_blocks cuts after lines, and returns where each block begins and ends, and the number of its first line."""
+    """_blocks splits a file after lines, and yields the begin and the end of each block, and the number of its first
+    line."""
     begin, line = 0, 1
     while begin < size:
         end, lines, last = begin, 0, b""
@@ -138,7 +140,7 @@ def _blocks(file: BinaryIO, size: int, block: int) -> Iterator[tuple[int, int, i
             wanted = min(block - (end - begin), _PIECE)
             last = file.read(wanted) if wanted > 0 else file.readline(_PIECE)
             if not last:
-                break  # it has become shorter; who judges it will say so
+                break  # the file has shrunk; the worker that judges it reports that
             end += len(last)
             lines += last.count(b"\n")
         yield begin, end, line
@@ -162,18 +164,19 @@ def _parts_of(number: int, file: str, manifest: Manifest) -> Iterator[Part]:
                                                   line=line)
                     return
     except OSError:
-        pass  # who is to judge it will say so
+        pass  # the worker that judges it reports that
     yield whole
 
 
 def make_plan(manifest: Manifest) -> list[Part]:
-    """make_plan returns the parts in the order of the files and of their lines, which is that of the parts' names."""
+    """make_plan returns the parts in the order of the files and of their lines, which is also the order of the parts'
+    names."""
     return [part for number, file in enumerate(manifest.files, 1) for part in _parts_of(number, file, manifest)]
 
 
 def sweep(job: Job, parts: Sequence[Part]) -> tuple[list[Part], list[str]]:
-    """sweep removes results that are incomplete or of files that have changed since. It returns the parts that are left
-    to judge, and says why any that had been judged are among them."""
+    """sweep removes results that are incomplete or belong to files that have changed since. It returns the parts that
+    remain to be judged, and the reasons why earlier results of these parts were dropped."""
     folder = pathlib.Path(job.folder)
     remove_temporary(folder)
     (folder / SUMMARY).unlink(missing_ok=True)

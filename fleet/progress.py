@@ -1,4 +1,4 @@
-"""How far a run has come, on one line of a terminal."""
+"""The progress of a run, on one line of a terminal."""
 
 import sys
 import time
@@ -8,11 +8,11 @@ _SECONDS_BETWEEN = 0.25
 
 
 class Failed(Exception):
-    """Failed: nothing more can be judged; --resume goes on when what the message says has been seen to."""
+    """Failed: nothing more can be judged. After the cause in the message is corrected, --resume continues the run."""
 
 
 class Progress:
-    """Progress shows nothing where nobody looks; messages are shown everywhere."""
+    """Progress shows the line only on a terminal; messages are always shown."""
 
     def __init__(self, parts: int, size: int, stream: TextIO = sys.stderr) -> None:
         self._parts, self._size = parts, size

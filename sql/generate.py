@@ -41,7 +41,7 @@ def hindrance_of(check):
     steps = list(steps_of(check["steps"]))
     if any(step["step"] == "never_return" for step in steps):
         return "kNeverReturns"
-    # The wireless driver is asked with a shell command.
+    # The wireless driver is queried with a shell command.
     if any("wireless driver" in step["text"] for step in steps):
         return "kRunsShell"
     return "kNone"
@@ -72,7 +72,7 @@ def row(check):
 ATTRIBUTES = "LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE;\n"
 POSTGRESQL_TYPES = {"kInteger": "integer", "kUnsigned": "bigint"}
 
-# The functions that take the name of a check, and what they return for texts and for bytes.
+# The functions that take the name of a check, and their result types for texts and for bytes.
 QUESTIONS = {"ostrel_code": ("integer", "integer"), "ostrel_valid": ("boolean", "boolean"),
              "ostrel_reason": ("jsonb", "jsonb"), "ostrel_line": ("text", "bytea"), "ostrel_after": ("jsonb", "jsonb")}
 

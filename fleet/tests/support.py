@@ -1,4 +1,4 @@
-"""What the tests of the runner share. The arguments of each are OSTREL_CHECK and SOURCE_DIR."""
+"""Helpers of the tests of the runner. The arguments of each test are OSTREL_CHECK and SOURCE_DIR."""
 
 import contextlib
 import json
@@ -17,7 +17,7 @@ RUNNER = SOURCE / "fleet" / "ostrel-fleet"
 PATH = f"{PROGRAM.parent}:/usr/bin:/bin"
 ENVIRONMENT = {**os.environ, "PATH": PATH, "PYTHONDONTWRITEBYTECODE": "1"}
 
-# A program that does not begin to read a part, so that something can happen to it in the meantime.
+# A program that delays reading a part, so that something can happen to it in the meantime.
 SLOW = f"""#!/bin/sh
 [ "$1" != batch ] || [ ! -p /dev/stdin ] || while [ -e "$SLOW_WHILE" ]; do sleep 0.02; done
 exec {PROGRAM} "$@"
@@ -34,7 +34,7 @@ def wait_until(condition, seconds=60):
 
 
 class Processes(unittest.TestCase):
-    """Processes is a test with a folder, and processes that end with it."""
+    """Processes is a test with a folder, and with processes that end with the test."""
 
     def setUp(self):
         scratch = tempfile.TemporaryDirectory()
@@ -72,12 +72,12 @@ class Folder(Processes):
         return path
 
     def make_fleet(self):
-        """make_fleet returns the same cases as rows, and for a map: as rows without checks, and as nested JSON."""
+        """make_fleet returns the same cases as rows and, for a map, as rows without checks and as nested JSON."""
         subprocess.run([SOURCE / "examples/fleet.py", "--rows", "400", self.scratch], check=True)
         return self.scratch / "fleet.csv", self.scratch / "fleet-dump.csv", self.scratch / "fleet.json"
 
     def slow_program(self):
-        """slow_program is a program that judges nothing as long as the file hold is there, and what it needs."""
+        """slow_program returns a program that judges nothing while the file hold exists, and its environment."""
         self.hold.touch()
         slow = self.scratch / "slow"
         slow.write_text(SLOW)
@@ -85,13 +85,13 @@ class Folder(Processes):
         return slow, {**ENVIRONMENT, "SLOW_WHILE": str(self.hold)}
 
     def fleet(self, *words, **options):
-        """fleet returns the exit code of the runner, and all that it printed."""
+        """fleet returns the exit code of the runner, and all its output."""
         process = self.start(RUNNER, *words, **options)
         said, _ = process.communicate(timeout=120)
         return process.returncode, said
 
     def judged(self, *words):
-        """judged is what a single batch prints, and the summary that it writes."""
+        """judged returns the output of a single batch, and the summary that it writes."""
         summary = self.scratch / "summary"
         result = subprocess.run([PROGRAM, "batch", "--stream", "--summary-file", summary, *words], check=False,
                                 stdout=subprocess.PIPE, stderr=subprocess.PIPE)
@@ -104,7 +104,8 @@ class Folder(Processes):
         return json.loads((self.out / "summary.json").read_bytes())
 
     def assert_whole(self, files, *options):
-        """assert_whole: the results and the summary are those of a single batch, and nothing else was left."""
+        """assert_whole asserts that the results and the summary are those of a single batch, and that nothing else is
+        left."""
         results, summary = self.judged(*options, *files)
         self.assertGreater(len(results), 0)
         self.assertTrue(results == self.joined())
@@ -120,7 +121,7 @@ class Folder(Processes):
         self.assertEqual([], sorted(self.out.rglob("*.tmp")))
 
     def at_work(self, process=None):
-        """at_work returns the files that are being written, by a process or by any."""
+        """at_work returns the files that are being written, by the given process or by any."""
         number = "*" if process is None else f"*-{process.pid}-*"
         return sorted((self.out / "results").glob(f".{number}.tmp"))
 
@@ -137,7 +138,7 @@ class Cluster(Folder):
         self.workers = []
 
     def start_worker(self, **environment):
-        """start_worker returns a worker that the scheduler knows."""
+        """start_worker returns a worker that has registered with the scheduler."""
         log = self.scratch / f"worker {len(self.workers)}"
         with open(log, "wb") as output:
             worker = subprocess.Popen(

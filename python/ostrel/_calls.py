@@ -1,4 +1,4 @@
-"""The call of a check by its name. The stub of this file is generated from the catalogue."""
+"""Calls of checks by name. The stub of this file is generated from the catalogue."""
 
 
 class Calls:

@@ -2,7 +2,7 @@
 
 
 class Error(Exception):
-    """Error is the base of the others."""
+    """Error is the base class of the others."""
 
 
 class MissingProgram(Error):
@@ -10,7 +10,7 @@ class MissingProgram(Error):
 
 
 class OtherVersion(Error):
-    """OtherVersion: the version of the program is not that of this package and its stubs."""
+    """OtherVersion: the version of the program differs from that of this package and its stubs."""
 
 
 class ProgramFailed(Error):

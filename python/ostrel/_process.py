@@ -1,4 +1,4 @@
-"""The program that judges, as a co-process."""
+"""The program that judges values, as a co-process."""
 
 import os
 import select
@@ -15,18 +15,18 @@ from ostrel._wire import Case, Encoding, lines_of
 
 NAME = "ostrel-check"
 
-# Cases that are written at once. Neither side has anything to do during the other's first and last piece.
+# The number of cases that are written at once. One side is idle while the other handles the first or the last piece.
 _PIECE = 128
 _MOST_READ = 1 << 18
 _SECONDS_TO_END = 5.0
 
 
 class Ended(Exception):
-    """Ended: the program has ended before it had answered."""
+    """Ended: the program ended before it had answered all cases."""
 
 
 def find_program(given: str | None) -> str:
-    """find_program returns the path of the program: the one given, that of OSTREL_CHECK, or the first on the PATH."""
+    """find_program returns the path of the program: the given one, that of OSTREL_CHECK, or the first on the PATH."""
     wanted = given or os.environ.get("OSTREL_CHECK") or NAME
     found = shutil.which(wanted)
     if found is None:
@@ -36,7 +36,7 @@ def find_program(given: str | None) -> str:
 
 
 def output_of(program: str, *arguments: str) -> str:
-    """output_of runs the program to its end."""
+    """output_of runs the program until it ends, and returns its output."""
     try:
         result = subprocess.run([program, *arguments], stdin=subprocess.DEVNULL, capture_output=True, check=False)
     except OSError as error:
@@ -56,16 +56,18 @@ def require_version(program: str) -> None:
 
 
 class Process:
-    """Process is a running program. One thread at a time may use it."""
+    """Process is a running program. Only one thread at a time may use it."""
 
     def __init__(self, program: str, encoding: Encoding, options: Sequence[str]) -> None:
         require_version(program)
         self._encoding: Encoding = encoding
-        # A socket, because writing to a pipe without a reader would end a caller that does not ignore SIGPIPE.
+        # A socket pair is used because writing to a pipe without a reader would end a caller that does not ignore
+        # SIGPIPE.
         self._socket, theirs = socket.socketpair()
         self._complaints = tempfile.TemporaryFile()
         with theirs:
-            # In a process group of its own, it does not get the interrupt that a terminal sends to the caller.
+            # In a separate process group, the program does not receive the interrupt that a terminal sends to the
+            # caller.
             self._child = subprocess.Popen(
                 [program, "batch", "--stream", "--format", "ndjson", "--encoding", encoding, *options],
                 stdin=theirs.fileno(), stdout=theirs.fileno(), stderr=self._complaints, process_group=0)
@@ -77,12 +79,12 @@ class Process:
         return self._child.pid
 
     def answer(self, cases: Sequence[Case], verdicts: list[Verdict]) -> None:
-        """answer appends the verdicts of the cases that have none yet. It reads while it writes, so that neither
-        side blocks the other for ever. Raises Ended when the program ends; the verdicts before that are kept."""
+        """answer appends the verdicts of the cases that have none yet. It reads while it writes, so that neither side
+        blocks the other forever. It raises Ended if the program ends; the verdicts received before that are kept."""
         next_case = len(verdicts)
         to_write = memoryview(b"")
         incomplete: list[bytes] = []
-        # A line that is too long is answered before the program has read all of it.
+        # The program answers a line that is too long before it has read all of it.
         while len(verdicts) < len(cases) or to_write:
             if not to_write and next_case < len(cases):
                 piece = cases[next_case:next_case + _PIECE]
@@ -106,7 +108,7 @@ class Process:
         except BlockingIOError:
             return 0
         except OSError:
-            return len(data)  # the program has ended; what it answered before that is still to be read
+            return len(data)  # the program has ended; its earlier answers are still to be read
 
     def _receive(self, has_more: bool, may_wait: bool) -> bytes:
         if may_wait:
@@ -123,7 +125,7 @@ class Process:
         return data
 
     def close(self) -> None:
-        """close lets the program end, and waits for that."""
+        """close ends the program, and waits until it has ended."""
         self._socket.close()
         try:
             self._child.wait(_SECONDS_TO_END)
@@ -133,7 +135,7 @@ class Process:
         self._complaints.close()
 
     def abandon(self) -> str:
-        """abandon ends the program at once, and says how it ended."""
+        """abandon kills the program, and returns a description of how it ended."""
         self._socket.close()
         self._child.kill()
         status = self._child.wait()
@@ -143,8 +145,8 @@ class Process:
         return f"status {status}" + (f": {said}" if said else "")
 
     def forget(self) -> None:
-        """forget leaves the program to the parent, for use after a fork. The copies of its files are closed, or it
-        would never see that the parent has closed them."""
+        """forget leaves the program to the parent after a fork. The copies of its files are closed, because otherwise
+        the program would not notice that the parent has closed them."""
         self._socket.close()
         self._complaints.close()
         self._child.returncode = 0  # the child of another process cannot be waited for

@@ -1,4 +1,5 @@
-"""A session: a co-process, for as many threads as there are, and again after it was killed or the caller forked."""
+"""A session: a co-process that several threads can use, and that is started again if it was killed or the caller
+forked."""
 
 import itertools
 import os
@@ -20,7 +21,7 @@ _MOST_ATTEMPTS = 3
 
 
 class _Owner:
-    """_Owner keeps the process, and outlives the session that is to end it."""
+    """_Owner keeps the process, and outlives the session, whose finalizer ends the process."""
 
     def __init__(self) -> None:
         self.lock = threading.Lock()
@@ -33,7 +34,8 @@ class _Owner:
             self.process = None
 
     def begin_again(self) -> None:
-        """begin_again is called in a child: the process is the parent's, and who held the lock is not here."""
+        """begin_again is called in a child process: the program belongs to the parent, and the thread that held the
+        lock does not exist here."""
         self.lock = threading.Lock()
         if self.process is not None:
             self.process.forget()
@@ -52,23 +54,23 @@ os.register_at_fork(after_in_child=_begin_again)
 
 
 class Session(Calls):
-    """Session judges values by a program of its own, which it starts when the first value comes, and again when
-    that program was killed. Threads may share a session; a process that was forked starts a program of its own.
+    """Session judges values with a separate program, which it starts for the first value, and again if that program
+    was killed. Threads may share a session; a forked process starts its own program.
 
-    program     the path or the name of ostrel-check; otherwise that of the environment variable OSTREL_CHECK, or
+    program     the path or the name of ostrel-check; the default is that of the environment variable OSTREL_CHECK, or
                 the first on the PATH
-    encoding    how a str becomes the bytes that are judged, and what is printed a str; bytes are passed as they are
+    encoding    how a str is converted to the bytes that are judged, and output to a str; bytes are passed unchanged
     limit_time  the seconds after which a call is given up; the program's default is 2
-    channels    what the wireless driver would answer, where there is none
+    channels    the channels that the wireless driver would list, for machines without one
 
-    checks has every check by its name, with its arguments and their constraints.
+    checks maps the name of every check to its description, with its arguments and their constraints.
     """
 
     def __init__(self, program: str | None = None, *, encoding: Encoding = "utf-8",
                  limit_time: float | None = None, channels: Iterable[int] | None = None) -> None:
         if encoding not in ("utf-8", "latin-1"):
             raise ValueError(f'the encoding is "utf-8" or "latin-1", not {encoding!r}')
-        # What makes another session like this one.
+        # The parameters for creating an equal session.
         self._parameters = {"program": program, "encoding": encoding, "limit_time": limit_time,
                             "channels": None if channels is None else (channels := tuple(channels))}
         self._program = program
@@ -84,7 +86,8 @@ class Session(Calls):
         weakref.finalize(self, self._owner.close)
 
     def __reduce__(self) -> str | tuple[Any, ...]:
-        """__reduce__ makes a session of another process: the one of the module is that process's own."""
+        """__reduce__ creates an equal session in another process; the session of the module becomes that process's
+        own."""
         return "DEFAULT" if self is DEFAULT else (partial(type(self), **self._parameters), ())
 
     def __repr__(self) -> str:
@@ -103,21 +106,21 @@ class Session(Calls):
 
     @property
     def pid(self) -> int | None:
-        """The process id of the program; None while there is none."""
+        """The process id of the program; None if none is running."""
         process = self._owner.process
         return None if process is None else process.pid
 
     def call(self, check: str, arguments: Iterable[Argument]) -> Verdict:
-        """call is judge for a check whose name is known only when the program runs."""
+        """call is judge for a check whose name is known only at run time."""
         (verdict,) = self._answer([(check, *arguments)])
         if verdict.verdict == "malformed":
             raise MalformedCall(verdict.meaning)
         return verdict
 
     def judge_many(self, cases: Iterable[Case], *, block: int = 1024) -> Iterator[Verdict]:
-        """judge_many judges cases, each the name of a check and its arguments, and yields the verdicts in their
-        order. It takes a block of them at a time and asks for the next one when those verdicts are used up. A case
-        that cannot be called has the verdict "malformed", so that one bad record does not end all."""
+        """judge_many judges cases, each the name of a check and its arguments, and yields the verdicts in their order.
+        It reads a block of them at a time, and the next one after those verdicts are consumed. A case that cannot be
+        called has the verdict "malformed", so that one bad record does not end the iteration."""
         if block < 1:
             raise ValueError("a block has at least one case")
         return self._answer_blocks(iter(cases), block)
@@ -147,12 +150,12 @@ class Session(Calls):
                         raise ProgramFailed(f"ostrel-check ended {attempts} times at {cases[len(verdicts)]!r:.200}, "
                                             f"the last time with {ending}") from None
                 except BaseException:
-                    # Answers to what was asked may still be on their way.
+                    # Answers to earlier cases may still arrive.
                     owner.process = None
                     process.abandon()
                     raise
         return verdicts
 
 
-# The session of the module.
+# The default session of the module.
 DEFAULT = Session()

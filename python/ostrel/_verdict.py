@@ -30,7 +30,7 @@ NOTHING: Mapping[str, Written] = MappingProxyType({})
 
 @dataclass(frozen=True, repr=False)
 class Reason:
-    """Reason is why a value was refused. Members that do not apply are None."""
+    """Reason states why a value was refused. Members that do not apply are None."""
 
     id: str
     """What is wrong, as an identifier that does not change."""
@@ -128,7 +128,7 @@ def text_of(value: Any) -> str:
     return base64.b64decode(value["base64"]).decode("utf-8", "surrogateescape")
 
 
-# The sets of the descriptions, by their words. There are few, and finding one is faster than making it.
+# The sets of the descriptions, keyed by their words. There are few, and a lookup is faster than creating one.
 _sets: dict[str, CharacterSet] = {}
 _MOST_SETS = 256
 
@@ -153,7 +153,7 @@ def _datum(value: Any) -> Any:
 
 
 def _reason(members: dict[str, Any]) -> Reason:
-    # Only these can be something else than a text or a number.
+    # Only these members can be other than a text or a number.
     for name in ("item_text", "found", "allowed"):
         if type(value := members.get(name)) in (dict, list):
             members[name] = _datum(value)
@@ -161,7 +161,7 @@ def _reason(members: dict[str, Any]) -> Reason:
 
 
 def _lines(out: str) -> tuple[str, ...]:
-    """_lines splits what was printed after each line end."""
+    """_lines splits the output after each line end."""
     lines = out.split("\n")
     last = lines.pop()
     printed = [line + "\n" for line in lines]
@@ -171,19 +171,19 @@ def _lines(out: str) -> tuple[str, ...]:
 
 
 def _made(kind: type[T], members: dict[str, Any]) -> T:
-    """_made makes an object of a frozen class. Setting each member with a call would take most of the time."""
+    """_made creates an object of a frozen class. Setting each member with a call would take most of the time."""
     made = object.__new__(kind)
     object.__setattr__(made, "__dict__", members)
     return made
 
 
-# Verdicts with nothing but the code, by their line: at most one for each check.
+# Verdicts with only a code, keyed by their line: at most one for each check.
 _plain: dict[str, Verdict] = {}
 
 
 def verdicts_of(lines: list[str]) -> list[Verdict]:
-    """verdicts_of reads lines of ostrel-check batch --stream. Each begins with the number of the record. Without it,
-    many lines are equal."""
+    """verdicts_of reads lines of ostrel-check batch --stream. Each begins with the number of the record. Without that
+    number, many lines are equal."""
     lines = ["{" + line[line.index(",") + 1:] for line in lines]
     known = [_plain.get(line) for line in lines]
     # Parsing all results as one document takes two thirds of the time of parsing each.

@@ -12,8 +12,8 @@ Argument = Text | int | Texts | None
 Case = Sequence[Argument]
 Quote = Callable[[str], str]
 
-# What JSONEncoder.encode calls for a text, in half its time. Characters beyond ASCII stay as they are: escaping them
-# would cost both sides more.
+# JSONEncoder.encode calls this function for a text; calling it directly takes half the time. Characters beyond ASCII
+# are unchanged, because escaping them would cost both sides more.
 _quoted: Quote = encoder.encode_basestring  # type: ignore[attr-defined]
 _escaped: Quote = encoder.encode_basestring_ascii  # type: ignore[attr-defined]
 
@@ -31,7 +31,7 @@ def _token(value: object, quote: Quote) -> str:
         return _token_of_bytes(value)
     if value is None:
         return "null"
-    # The truth of something is a number to Python, and hardly what was meant.
+    # A bool is an int in Python, but a bool as an argument is most likely a mistake.
     if isinstance(value, int) and not isinstance(value, bool):
         return int.__repr__(value)
     if isinstance(value, (list, tuple)):
@@ -48,8 +48,8 @@ def _line(case: Case, quote: Quote) -> str:
 
 
 def _token_of_surrogates(text: str) -> str:
-    """_token_of_surrogates turns what the error handler surrogateescape made of bytes into these bytes again. Any
-    other lone surrogate is left to the program, which says what is wrong with it."""
+    """_token_of_surrogates converts the lone surrogates of the error handler surrogateescape back to the original
+    bytes. Any other lone surrogate is left to the program, which reports the error."""
     try:
         return _token_of_bytes(text.encode("utf-8", "surrogateescape"))
     except UnicodeEncodeError:
@@ -57,7 +57,7 @@ def _token_of_surrogates(text: str) -> str:
 
 
 def lines_of(cases: Iterable[Case], encoding: Encoding) -> bytes:
-    """lines_of writes a line for each case."""
+    """lines_of returns a line for each case."""
     try:
         return "".join([_line(case, _quoted) for case in cases]).encode()
     except UnicodeEncodeError:

@@ -15,7 +15,7 @@ import support
 import ostrel
 
 COUNT = 100_000
-# One runs a shell for each value, and the others loop until their time limit.
+# One of these runs a shell for each value, and the others loop until their time limit.
 SLOW = {"WLAN_check_channel", "PARAM_check_ui2_value", "PARAM_check_ui4_value"}
 PIECES = ["", "%s%n", "A" * 300, "\n", "\r\n", "\x01", "\x7f", "\x85", "\u2028", "\udcff", "\udc80\udcc3", "é", "日本",
           "\U0001f4a9", "\"}\n{", "\\u0000", "','", "{\"base64\":\"AA==\"}", "0", "-1", "65535", "4294967296", "1.2.3.4",
@@ -53,7 +53,7 @@ class Maker:
 
 
 def token(value):
-    """token encodes an argument differently than the package: as escaped characters, or as base64."""
+    """token encodes an argument in a different way than the package does: as escaped characters, or as base64."""
     if isinstance(value, list):
         return [token(text) for text in value]
     if isinstance(value, str):
@@ -75,7 +75,7 @@ def content(value):
 
 
 def without_place(meaning):
-    """without_place removes the number of the wrong byte of a line, which depends on its encoding."""
+    """without_place removes the position of the invalid byte in a line, which depends on the encoding."""
     return re.sub(r" \(at byte \d+\)$", "", meaning)
 
 

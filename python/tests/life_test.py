@@ -19,7 +19,7 @@ from ostrel import _process
 
 
 def cases(count, first=0):
-    """cases returns cases of which every other one is refused, with different lines."""
+    """cases returns cases, of which every second one is refused, with different lines."""
     return [("LAN_check_interface_addr_type", "Static" if number % 2 else f"{number}")
             for number in range(first, first + count)]
 

@@ -10,12 +10,12 @@ import support
 import ostrel
 import vectors
 
-# Texts that are longer say nothing of their encoding, and most of the time would go to them.
+# Longer texts add nothing to the test of encodings, but would take most of the time.
 LONG = 1 << 16
 
 
 def carried(value, form):
-    """carried is an argument of a vector as a session takes it."""
+    """carried returns an argument of a vector in the form that a session accepts."""
     if isinstance(value, list):
         return [carried(text, form) for text in value]
     if not isinstance(value, str) or form == "latin-1":
@@ -25,7 +25,7 @@ def carried(value, form):
 
 
 def plain(value, encoding):
-    """plain is a text of a verdict as the vectors have it."""
+    """plain returns a text of a verdict in the form of the vectors."""
     if isinstance(value, (list, tuple)):
         return [plain(text, encoding) for text in value]
     if not isinstance(value, str) or encoding == "latin-1":
@@ -34,14 +34,14 @@ def plain(value, encoding):
 
 
 def members(row):
-    """members is what a vector says."""
+    """members returns the result that a vector expects."""
     reason = row.get("reason", {})
     return (row["code"], vectors.text_of(row.get("out", "")), vectors.text_of(row.get("err", "")),
             row.get("flushed", True), vectors.text_of(row.get("after")), reason)
 
 
 def found(row, verdict, encoding):
-    """found is the same of a verdict, as far as the vector says anything of it."""
+    """found returns the same members of a verdict, if the vector has them."""
     after = plain(list(verdict.after.values()), encoding) if "after" in row else None
     reason = {name: plain(getattr(verdict.reason, name), encoding) for name in row.get("reason", {})}
     return (verdict.code, plain("".join(verdict.lines), encoding), plain(verdict.err, encoding), verdict.flushed,
@@ -55,7 +55,7 @@ class Vectors(unittest.TestCase):
         self.assertGreater(len(self.rows), 7000)
 
     def judge(self, form, encoding, rows):
-        """judge returns the verdicts, each of which agrees with its vector."""
+        """judge returns the verdicts, and asserts that each agrees with its vector."""
         with ostrel.Session(encoding=encoding) as session:
             cases = ((row["check"], *(carried(value, form) for value in values)) for _, row, values in rows)
             verdicts = list(session.judge_many(cases))

@@ -11,11 +11,11 @@ import unittest
 import shared
 
 sys.path.insert(0, str(shared.SOURCE / "tests/docs"))
-import documents  # noqa: E402  it is beside another test
+import documents  # noqa: E402  it is next to another test
 import server  # noqa: E402
 
 TEXT = (shared.SOURCE / "docs/sql.md").read_text(encoding="utf-8")
-# These were run before the test.
+# These commands were run before the test.
 LONG = re.compile(r"scripts/setup |cmake --preset ")
 
 

@@ -33,7 +33,7 @@ def as_bytes(value):
 
 
 def bytes_in_sql(value):
-    """bytes_in_sql returns an expression with which the server makes long values."""
+    """bytes_in_sql returns an expression from which the server generates long values."""
     if isinstance(value, rows.Text):
         return " || ".join("decode(repeat('%s', %d), 'hex')" % (part.hex(), times) for part, times in value.pieces)
     return "'\\x%s'::bytea" % as_bytes(value).hex()
@@ -46,7 +46,8 @@ def text_in_sql(value):
 
 
 def loaded(calls):
-    """loaded returns the SQL for a table of calls: the number, the check, the values, and whether it is a verdict."""
+    """loaded returns the SQL for a table of calls: the number, the check, the values, and whether the check returns a
+    verdict."""
     lines = ["%d\t%s\t{%s}\t%s" % (i, name, ",".join('"\\\\\\\\x%s"' % as_bytes(value).hex() for value in values),
                                      VERDICTS[name]) for i, (name, values) in enumerate(calls)]
     return ("CREATE TEMPORARY TABLE calls(number integer, name text, given bytea[], is_verdict boolean);\n"
@@ -60,7 +61,7 @@ ANSWERS = """SELECT json_build_array(
 
 
 def answers(row):
-    """answers returns the query for one row. OFFSET prevents that the values are made several times."""
+    """answers returns the query for one row. OFFSET prevents the values from being generated several times."""
     return ANSWERS % "(SELECT '%s' AS name, ARRAY[%s] AS given, %s AS is_verdict OFFSET 0) AS calls" % (
         row.check, ", ".join(map(bytes_in_sql, row.values)), VERDICTS[row.check])
 
@@ -88,7 +89,7 @@ class Vectors(unittest.TestCase):
         self.assertEqual({rows.NULL, rows.NOT_CALLED}, set(self.left_out))
 
     def test_as_texts(self):
-        """Each row whose bytes are UTF-8, by the name of the check and by its own function."""
+        """Each row whose bytes are UTF-8 is called by the name of the check, and by the check's own function."""
         names = {"Param_check_bool_value": "param_check_bool_value_branding",
                  "Param_check_string_len": "param_check_string_len_signed"}
         queries, expected = [], []
@@ -120,7 +121,7 @@ class Hostile(unittest.TestCase):
         self.assertNotIn("Info in ", log)
 
     def test_texts(self):
-        """Each in a statement of its own."""
+        """Each value is passed in a separate statement."""
         queries = []
         for name, values in shared.hostile_calls(3000, 22):
             texts = [value.decode("utf-8", "ignore") if isinstance(value, bytes) else str(value) for value in values]
@@ -170,7 +171,7 @@ class Refusals(unittest.TestCase):
         self.assertIn("value has 6 bytes", SERVER.log.read_text(errors="replace"))
 
     def test_nothing_secret_in_any_detail(self):
-        """Each check with a secret, refused with a value that must not be seen."""
+        """Each check with a secret refuses a value that must not be shown."""
         secret = "\u00e9se\x01same"
         told = 0
         for check in shared.CHECKS:

@@ -7,8 +7,8 @@ import sys
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
 import vectors  # noqa: E402  it is there
 
-# Row is a row for SQL. values are bytes and numbers, in the order in which SQL passes them; after lists the allowed
-# results; reason is None if the row has none.
+# Row is a row for SQL. values contains bytes and numbers, in the order in which SQL passes them; after lists the
+# allowed results; reason is None if the row has none.
 Row = collections.namedtuple("Row", "place check values code out after reason is_verdict")
 
 WRITTEN = ("buffer", "blocks", "integer_out")
@@ -17,7 +17,7 @@ NULL = "an argument is NULL"
 
 
 class Text(bytes):
-    """Text keeps its pieces, each with the number of repetitions."""
+    """Text stores its pieces, each with the number of repetitions."""
     pieces = ()
 
 
@@ -56,8 +56,9 @@ def plain(value):
 
 
 def held(check, row):
-    """held lists what the arguments that the check writes to may hold after the call: the content in the row, or no
-    change. SQL does not pass output arguments, so there "no change" is the value of the row or nothing."""
+    """held lists the possible contents after the call of the arguments that the check writes to: the content in the
+    row, or no change. SQL does not pass output arguments, so for them "no change" is the value of the row or
+    nothing."""
     if "after" in row:
         return [plain(row["after"])]
     written = [argument for argument in check["arguments"] if argument["kind"] in WRITTEN]
@@ -69,7 +70,7 @@ def held(check, row):
 
 
 def rows(checks, not_called):
-    """rows returns the rows and a count of those left out, by the reason."""
+    """rows returns the rows, and the number of those left out, by reason."""
     by_name = {check["name"]: check for check in checks}
     found, left_out = [], collections.Counter()
     for place, row in vectors.rows():
@@ -90,5 +91,5 @@ def rows(checks, not_called):
 
 
 def told(reason):
-    """told returns the members of a reason that rows have."""
+    """told returns those members of a reason that rows contain."""
     return {name: reason[name] for name in ("id", "argument", "part", "item", "offset") if name in reason}

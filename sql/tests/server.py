@@ -23,7 +23,7 @@ max_parallel_workers_per_gather = 0
 
 
 class Failed(Exception):
-    """Failed contains what psql wrote to standard error."""
+    """Failed contains the error output of psql."""
 
 
 def as_other(command, *options):
@@ -84,7 +84,7 @@ class Server:
 
     def start(self):
         with open(self.log, "ab") as log:
-            # If this process ends in any way, its child gets the signal to end at once.
+            # If this process ends in any way, the child receives the signal to end immediately.
             self.process = subprocess.Popen(
                 as_other([self.tree.binaries / "postgres", "-D", self.data], "--pdeathsig", "QUIT"),
                 cwd=self.folder, stdin=subprocess.DEVNULL, stdout=log, stderr=subprocess.STDOUT)
@@ -102,7 +102,7 @@ class Server:
 
     def stop(self):
         if self.process is not None:
-            self.process.terminate()  # when the sessions have ended
+            self.process.terminate()  # the server ends after its sessions
             try:
                 self.process.wait(10)
             except subprocess.TimeoutExpired:
@@ -116,7 +116,7 @@ class Server:
                 "PATH": "%s:%s" % (self.tree.binaries, os.environ["PATH"])}
 
     def run(self, sql, database="postgres", check=True):
-        """run returns what psql prints, unaligned, without headers. The first error ends it."""
+        """run returns the output of psql, unaligned, without headers. It stops at the first error."""
         done = subprocess.run([self.tree.binaries / "psql", "-XqAt", "-v", "ON_ERROR_STOP=1", "-v", "VERBOSITY=verbose",
                                "-d", database, "-f", "-"],
                               check=False, input=sql.encode(), env=self.environment(), stdout=subprocess.PIPE,

@@ -27,7 +27,7 @@ def is_number(argument):
 
 
 def hostile_value(source):
-    """hostile_value returns a text without NUL, made of pieces that checks search for, sometimes a long one."""
+    """hostile_value returns a text without NUL, composed of pieces that checks search for, some of them long."""
     if source.random() < 0.0005:
         return source.choice(PIECES[1:]) * (20000 // source.randrange(1, 20))
     return b"".join(source.choice(PIECES) for _ in range(source.randrange(5)))

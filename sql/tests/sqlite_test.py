@@ -13,7 +13,7 @@ import rows
 import shared
 
 EXTENSION = str(shared.BUILD / "sqlite/ostrel")
-# What the library's sources may import: no function that writes to a stream or runs a command.
+# The functions that the library's sources may import; none of them writes to a stream or runs a command.
 ALLOWED = {"__assert_fail", "__isoc99_fscanf", "atoi", "fclose", "fopen", "memcpy", "memset", "stderr", "strchr",
            "strcmp", "strlen", "strncmp", "strrchr", "strstr", "unlink", "_GLOBAL_OFFSET_TABLE_"}
 
@@ -36,7 +36,7 @@ class Vectors(unittest.TestCase):
         texts = ["line", "after"] + (["reason", "valid"] if row.is_verdict else [])
         given = (row.check, *values)
         sql = "SELECT ostrel_code(%s), %s" % (marks, ", ".join("ostrel_%s(%s)" % (text, marks) for text in texts))
-        # As a blob: what a check prints need not be UTF-8.
+        # As a blob, because the output of a check need not be UTF-8.
         sql = sql.replace("ostrel_line(%s)" % marks, "CAST(ostrel_line(%s) AS BLOB)" % marks)
         code, line, after, *verdict = ask(database, sql, *given * (len(texts) + 1))
         self.assertEqual((row.code, row.out), (code, line or b""))
@@ -88,7 +88,7 @@ class Functions(unittest.TestCase):
             "ostrel_code", "ostrel_valid", "ostrel_reason", "ostrel_line", "ostrel_after"}
         self.assertLessEqual(expected, names)
         self.assertEqual((0, 601), ask(self.database, "SELECT PARAM_check_port(80), param_check_port('65536')"))
-        # -1 is a signed limit, and no unsigned one.
+        # -1 is a valid signed limit, but not a valid unsigned one.
         self.assertEqual((0,), ask(self.database, "SELECT param_check_string_len_signed('', -1, 1)"))
         self.refuses("PARAM_check_string_len: min_len is not an integer from 0 to 4294967295",
                      "SELECT param_check_string_len('', -1, 1)")

@@ -6,8 +6,8 @@
 
 OSTREL_CHECK_VERSION = 0.1.0
 OSTREL_CHECK_SOURCE = ostrel-$(OSTREL_CHECK_VERSION).tar.gz
-# The address of releases. Or set OSTREL_CHECK_OVERRIDE_SRCDIR to a source tree.
-# packaging/release makes the file ostrel-check.hash for the folder of this one.
+# The address of releases. Alternatively, set OSTREL_CHECK_OVERRIDE_SRCDIR to a
+# source tree. packaging/release creates ostrel-check.hash for this folder.
 OSTREL_CHECK_SITE = $(OSTREL_SOURCE_URL)
 # OSTREL_CHECK_LICENSE is not set, because the source tree states no licence. Ask
 # the developers before you distribute it.
