@@ -1,13 +1,13 @@
 #!/usr/bin/python3
-"""Makes the saved configurations of a fleet of gateways, for ostrel-check batch: the same values as CSV and as lines of
-JSON, which name a check for each value, and without checks, for the map of TR-098: as a dump in CSV, a row for each value,
-and as nested JSON, an object for each gateway.
+"""Generates the saved configurations of a fleet of gateways, for ostrel-check batch. The same values are written as CSV
+and as lines of JSON, which name a check for each value, and without checks for the map of TR-098: as a dump in CSV, with
+a row for each value, and as nested JSON, with an object for each gateway.
 
 usage: fleet.py [--rows N] [--seed N] [--refused SHARE] FOLDER
 
-FOLDER gets fleet.csv, fleet.ndjson, fleet-dump.csv and fleet.json. A gateway has 20 values, in the same order in each file; its name is
-the id of each. So many of them are refused as --refused says (0.1), for reasons that support desks meet. The same seed
-makes the same files.
+The files are fleet.csv, fleet.ndjson, fleet-dump.csv and fleet.json in FOLDER. A gateway has 20 values, in the same
+order in each file; its name is the id of each. --refused is the share of values that are refused (0.1), for reasons that
+support desks meet. The same seed generates the same files.
 
   examples/fleet.py --rows 2000 /tmp
   ostrel-check batch --summary-only /tmp/fleet.ndjson
@@ -57,8 +57,8 @@ def key(dice):
     return f"{dice.getrandbits(256):064x}"
 
 
-# Path below InternetGatewayDevice, check, what makes a good value, values that are refused. In the order of the tree, so
-# that what has a folder in common is together.
+# Path below InternetGatewayDevice, check, generator of good values, refused values. The parameters are in the order of
+# the tree, so those of one folder are adjacent.
 PARAMETERS = [
     ("ManagementServer.PeriodicInformInterval", "MGTSERVER_check_periodic_inform_interval", numbers(60, 86400),
      ["0", "", "-60"]),
@@ -90,7 +90,7 @@ PARAMETERS = [
      ["tcp", "both", "TCP/UDP"]),
 ]
 
-# So many values of each parameter are made; a fleet repeats them.
+# The number of different values of each parameter; a fleet repeats them.
 VARIETY = 4096
 
 
@@ -105,7 +105,7 @@ def as_json(value):
 
 
 def tree_of(cells):
-    """tree_of is the configuration of one gateway, with a cell for each value."""
+    """tree_of returns the configuration of one gateway, with a cell for each value."""
     tree = {}
     for (path, *_), cell in zip(PARAMETERS, cells):
         *folders, name = path.split(".")
@@ -117,7 +117,7 @@ def tree_of(cells):
 
 
 def forms():
-    """forms is what each file has for one gateway, with %s in the place of its name and of each value."""
+    """forms returns the content of each file for one gateway, with %s in place of its name and of each value."""
     csv_lines = "".join(f"%s,InternetGatewayDevice.{path},{check},%s\r\n" for path, check, *_ in PARAMETERS)
     dump_lines = "".join(f"%s,InternetGatewayDevice.{path},%s\r\n" for path, *_ in PARAMETERS)
     json_lines = "".join(
@@ -144,7 +144,7 @@ def write(folder, rows, seed, refused):
         as_rows.write("id,parameter,check,value\r\n")
         as_dump.write("id,parameter,value\r\n")
         as_tree.write("[\n")
-        block = 2048  # gateways that are made at a time
+        block = 2048  # gateways that are generated at a time
         for begin in range(0, gateways, block):
             names = [f"gateway-{number:07}" for number in range(begin, min(begin + block, gateways))]
             columns = [dice.choices(values, weights, k=len(names)) for values, weights in pools]

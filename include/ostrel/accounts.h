@@ -33,9 +33,9 @@ OSTREL_API int TcmValidateProvisioningCode(const char* value);
  *   5     set-up   16, no "#"
  *   6     set-up   17, one "#", at index 12
  *
- * The part is 18 to 30 characters before the account realm, 16 to 17 before the set-up realm. With three or
- * more "#" it is accepted wherever they are, and the type is not written. Any other user name is type 0:
- * 1 to 131 characters of CHARSET_LATIN1_PRINTABLE.
+ * The part has 18 to 30 characters before the account realm, 16 to 17 before the set-up realm. With three or
+ * more "#" it is accepted wherever they are, and the type is not written. Any other user name is type 0: 1 to
+ * 131 characters of CHARSET_LATIN1_PRINTABLE.
  *
  * account_type: receives the type if the name is accepted, except as stated above; otherwise it is unchanged.
  *

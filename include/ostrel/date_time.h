@@ -29,7 +29,7 @@
  * ValidateDay: a day of a month of a year of the Gregorian calendar, which is applied to every year,
  * including negative ones.
  *
- * month: 1 to 12; any other is refused. A negative number becomes a huge one.
+ * month: 1 to 12; any other is refused. A negative number is converted to a huge one.
  * day:   at most the month's length. There is no lower bound: 0 and negative days are valid.
  */
 OSTREL_API int ValidateDay(int year, unsigned month, int day);

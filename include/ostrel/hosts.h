@@ -14,9 +14,9 @@
  * TcmValidateDomainName: a host name in the style of RFC 952 and RFC 1123: 1 to 6 labels separated by dots,
  * each of 1 to 20 characters of CHARSET_HOST (letters, digits, "-").
  *
- * Narrower than RFC 1123, which allows labels of up to 63 characters and any number of labels; wider in
- * that a label may begin or end with "-". A single label such as "localhost" is valid; a final dot is not. A
- * value of only digits and dots is not a name but a number. The empty value is refused.
+ * This is narrower than RFC 1123, which allows labels of up to 63 characters and any number of labels, but
+ * wider in that a label may begin or end with "-". A single label such as "localhost" is valid; a final dot
+ * is not. A value of only digits and dots is not a name but a number. The empty value is refused.
  *
  * Returns 0; OSTREL_INVALID.
  */
@@ -38,10 +38,10 @@ OSTREL_API int ValidateURL(const char* value);
  * host: as for ValidateURL. port: digits only, 0 to 65535 as atoi reads them; an empty port is 0, and
  * how atoi reads a number that does not fit in an int is left to the C library. path: not examined further.
  *
- * Narrower than RFC 3986: none of "@", "%", "=", "&", "#" and "~" is allowed anywhere, user
+ * This is narrower than RFC 3986: none of "@", "%", "=", "&", "#" and "~" is allowed anywhere, user
  * information and IPv6 addresses are not supported, and the first ":" after the scheme separates host and
  * port wherever it is, so that a URL without a port is refused if its path contains a ":". A "?" directly
- * after the host is taken as part of the host, which makes it invalid.
+ * after the host is treated as part of the host, which makes it invalid.
  *
  * Returns 0; OSTREL_INVALID.
  */
@@ -59,8 +59,8 @@ OSTREL_API int TcmValidatefirmwareURL(const char* value);
  * isEmail: 5 or more bytes with at least one character before the first "@", at least one between it and the
  * last ".", and at least one after that.
  *
- * This is only the outline of an address of RFC 5321 and RFC 5322: no character is refused, not even a second
- * "@".
+ * This tests only the outline of an address of RFC 5321 and RFC 5322: no character is refused, not even a
+ * second "@".
  *
  * Returns 0; OSTREL_INVALID. Note that an address returns 0, which is false in C.
  */

@@ -1,7 +1,7 @@
 /*
  * Names: transport protocol and description of a port mapping, names of devices and of the router.
  *
- * The functions print nothing, keep nothing and do not change their arguments. No pointer may be NULL.
+ * The functions print nothing, keep no state and do not change their arguments. No pointer may be NULL.
  * Lengths count bytes; the sets are defined in character_sets.h.
  */
 #ifndef OSTREL_NAMES_H

@@ -3,7 +3,7 @@
  *
  * value_p is the value, a NUL-terminated byte string of any length; no check changes it. A check that prints
  * writes one line to standard output when it refuses a value, beginning "Error in <its own name>: ", and then
- * flushes all output streams. What a wrapped primitive prints is not flushed.
+ * flushes all output streams. Output of a wrapped primitive is not flushed.
  *
  * "Asserts" means that in every build type the C library's assertion hook reports a NULL value and ends the
  * process: the condition is "value_p != ((void *)0)", the module "parameter_check", the function the check.

@@ -8,7 +8,7 @@
 #define OSTREL_RESULT_CODE_H
 
 enum ostrel_result_code {
-    /* OSTREL_INVALID: the value is refused, for a reason that the code does not tell. */
+    /* OSTREL_INVALID: the value is refused, for a reason that the code does not specify. */
     OSTREL_INVALID = -1,
     OSTREL_VALID = 0,
 
@@ -20,7 +20,7 @@ enum ostrel_result_code {
     OSTREL_WRONG_FORM = 600,
     OSTREL_OUT_OF_RANGE = 601,
 
-    /* OSTREL_REPEATED: the entry would be in a list twice. */
+    /* OSTREL_REPEATED: the entry would occur twice in a list. */
     OSTREL_REPEATED = 701,
     /* OSTREL_NOT_IN_LIST: the entry to delete is not in the list. */
     OSTREL_NOT_IN_LIST = 702,

@@ -1,7 +1,7 @@
 /*
  * String primitives: length, membership in a character set, number range, occurrences.
  *
- * They print nothing, keep nothing and do not change their arguments. No pointer may be NULL. Values are
+ * They print nothing, keep no state and do not change their arguments. No pointer may be NULL. Values are
  * NUL-terminated byte strings of any length.
  */
 #ifndef OSTREL_STRINGS_H
@@ -24,7 +24,7 @@ OSTREL_API int ValidateString(int min_len, int max_len, const char* charset, con
 /*
  * ValidateNum: the characters of a number and its range, both ends inclusive.
  *
- * charset: the allowed bytes, as for ValidateString. The empty value passes and reads as 0.
+ * charset: the allowed bytes, as for ValidateString. The empty value passes this test and is read as 0.
  *
  * Returns 0; OSTREL_FORBIDDEN_CHARACTER; OSTREL_OUT_OF_RANGE: the number that the C library's atoi reads is
  * below min or above max.

@@ -5,9 +5,9 @@
  * and including the last "." of the one they are compared with. For addresses in dotted-decimal notation that
  * is the fixed /24 network; "192.168.1.5" and "192.168.001.5" are in different ones.
  *
- * The functions print nothing, keep nothing and do not change their arguments. No pointer may be NULL. Values
- * are NUL-terminated byte strings of any length; so are the items of a list. A space is the character 0x20;
- * a tab is not one. An address is valid as for TcmValidateIPAddress.
+ * The functions print nothing, keep no state and do not change their arguments. No pointer may be NULL.
+ * Values are NUL-terminated byte strings of any length; so are the items of a list. A space is the character
+ * 0x20; a tab is not one. An address is valid as for TcmValidateIPAddress.
  */
 #ifndef OSTREL_SUBNETS_H
 #define OSTREL_SUBNETS_H

@@ -16,8 +16,8 @@
  * "-00:00") and a name. It is searched from the top, and the first row that matches decides; comparisons are
  * case-sensitive.
  *
- * tzone:      a buffer of the caller, of 7 bytes if it may be filled in.
- * tzone_name: a buffer of the caller, of 55 bytes if it may be filled in.
+ * tzone:      a caller-owned buffer, of 7 bytes if it may be filled in.
+ * tzone_name: a caller-owned buffer, of 55 bytes if it may be filled in.
  *
  * Both empty: 0.
  * tzone_name empty: it receives the name of the first row whose offset contains tzone: for "+01:00" that is

@@ -2,7 +2,7 @@
  * Wireless primitives: keys, rates, beacon type and SSID of a wireless LAN.
  *
  * Values are NUL-terminated byte strings of any length; none may be NULL and none is changed. Every
- * comparison is byte by byte, so case counts everywhere. Only TcmValidateSSID prints.
+ * comparison is byte by byte and case-sensitive. Only TcmValidateSSID prints.
  */
 #ifndef OSTREL_WIRELESS_H
 #define OSTREL_WIRELESS_H

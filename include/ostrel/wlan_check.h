@@ -2,8 +2,8 @@
  * Wireless LAN checks: security modes, keys, radio and the other settings.
  *
  * Values are NUL-terminated byte strings of any length and must not be NULL; only WLAN_check_wepkeys tests
- * for it. Keywords are compared byte by byte and case counts, except in the name of a radio. An empty value
- * is not a keyword.
+ * for that. Keywords are compared byte by byte and case-sensitively, except the name of a radio. The empty
+ * value is not a keyword.
  *
  * A check that prints writes to standard output when it refuses a value, except as stated, and then flushes
  * all output streams; the texts are complete, and the first %s is the check's own name. WLAN_check_keys

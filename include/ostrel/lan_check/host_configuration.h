@@ -1,7 +1,7 @@
 /*
- * LAN checks: the interface, the DHCP service and what else is configured.
+ * LAN checks: the interface, the DHCP service and other settings.
  *
- * Read <ostrel/lan_check.h> first, for what all LAN checks have in common.
+ * <ostrel/lan_check.h> describes what all LAN checks have in common.
  */
 #ifndef OSTREL_LAN_CHECK_HOST_CONFIGURATION_H
 #define OSTREL_LAN_CHECK_HOST_CONFIGURATION_H

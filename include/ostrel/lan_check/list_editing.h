@@ -1,7 +1,7 @@
 /*
  * LAN checks: edits of lists.
  *
- * Read <ostrel/lan_check.h> first, for what all LAN checks have in common.
+ * <ostrel/lan_check.h> describes what all LAN checks have in common.
  */
 #ifndef OSTREL_LAN_CHECK_LIST_EDITING_H
 #define OSTREL_LAN_CHECK_LIST_EDITING_H
@@ -15,7 +15,7 @@
  * macAddress:  one MAC address of 17 characters, or several separated by one character each. Only the length
  *              is judged, which must be 18 times the number of addresses minus 1, and only if the list is
  *              not empty.
- * allowedList: the list, in a buffer of the caller of at least 161 bytes: 160 characters and the terminator.
+ * allowedList: the list, in a caller-owned buffer of at least 161 bytes: 160 characters and the terminator.
  *              If it is empty, macAddress is copied into it whatever its length: the buffer must be filled
  *              with zeros and have at least one byte more than macAddress. Otherwise ",", macAddress and a
  *              terminator are appended. The buffer changes only if 0 is returned.

@@ -1,7 +1,7 @@
 /*
  * HNAP core.
  *
- * Read <ostrel/mgtserver_check.h> first, for what these checks have in common.
+ * <ostrel/mgtserver_check.h> describes what these checks have in common.
  */
 #ifndef OSTREL_MGTSERVER_CHECK_HNAP_CORE_H
 #define OSTREL_MGTSERVER_CHECK_HNAP_CORE_H
@@ -19,7 +19,7 @@ OSTREL_API int HNAPCORE_check_username(const char* value);
 /*
  * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, with anything after it. Silent.
  *
- * offset_out: a buffer of the caller that receives what follows "UTC", or "+00:00" if nothing does, with the
+ * offset_out: a caller-owned buffer that receives what follows "UTC", or "+00:00" if nothing does, with the
  *             terminator. It must have room for that and for at least 7 bytes. What follows "UTC" is not
  *             examined. The buffer is unchanged on failure and must not overlap the value.
  *

@@ -1,7 +1,7 @@
 /*
  * The management server.
  *
- * Read <ostrel/mgtserver_check.h> first, for what these checks have in common.
+ * <ostrel/mgtserver_check.h> describes what these checks have in common.
  */
 #ifndef OSTREL_MGTSERVER_CHECK_MANAGEMENT_SERVER_H
 #define OSTREL_MGTSERVER_CHECK_MANAGEMENT_SERVER_H

@@ -31,8 +31,8 @@ OSTREL_API int WLAN_check_preshared_key2(const char* psk, const char* passphrase
 /*
  * WLAN_check_wepkeys: the four WEP keys (IEEE 802.11), of 10 or 26 hexadecimal digits and all of one length.
  *
- * keys: a block of the caller of 1028 bytes: four NUL-terminated keys, each in a buffer of 257 bytes,
- *       one directly after the other. A key that is empty or contains a byte outside 0x20 to 0x7E is skipped:
+ * keys: a caller-owned block of 1028 bytes: four NUL-terminated keys, each in a buffer of 257 bytes, one
+ *       directly after the other. A key that is empty or contains a byte outside 0x20 to 0x7E is skipped:
  *       its first byte, and nothing else, is set to NUL, even if a later key is refused. NULL fails an
  *       assertion: the condition is "value != ((void *)0)", the module "wlan_check", the line 500.
  *

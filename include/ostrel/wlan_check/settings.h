@@ -11,8 +11,8 @@
 /*
  * WLAN_check_ssid: an SSID, see TcmValidateSSID, whose line about the length is printed on every call.
  *
- * value: a buffer of the caller. Its HTML character references are replaced in place first, and they stay
- *        replaced whatever the result. "a&amp;b" is an SSID of 3 bytes.
+ * value: a caller-owned buffer. Its HTML character references are first replaced in place, and stay replaced
+ *        whatever the result. "a&amp;b" is an SSID of 3 bytes.
  *
  * The host's htmlToText does this. If there is none, the library replaces the names of HTML 4 for Latin-1
  * characters, the five of XML, and numbers from 1, decimal ("&#65;") and hexadecimal ("&#x41;"). Each becomes
