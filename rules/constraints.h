@@ -33,7 +33,7 @@ struct Form {
     Set trimmed = {};               // bytes that are removed from both ends of each item
     std::optional<std::size_t> min_items;
     std::optional<std::size_t> max_items;
-    std::vector<Form> item = {};  // one: what each item must be
+    std::vector<Form> item = {};  // one: the requirements on each item
     // A regular expression of ECMA-262, if bytes, lengths and keywords are not sufficient.
     std::string pattern = {};
     std::vector<Form> recommended = {};  // one: what a form should offer, if more is accepted

@@ -14,7 +14,7 @@ struct Said {
     bool is_all_in_schema = false;  // ignoring what JSON Schema cannot express
 };
 
-// form_of_text describes what all texts of a language have in common.
+// form_of_text describes the common properties of all texts of a language.
 Said form_of_text(Languages& languages, Language one);
 
 // form_of_number is for an int; it has only the minimum and the maximum.
@@ -31,7 +31,7 @@ struct Offer {
 };
 std::optional<Offer> offer_of(Languages& languages, Language one, const Form& form);
 
-// item_of returns what an item of a list can be, given the form of the whole text.
+// item_of returns the possible items of a list, given the form of the whole text.
 Language item_of(Languages& languages, const Leaf& list, const Form& form);
 
 // parts_of returns the conditions that all texts of a language satisfy.

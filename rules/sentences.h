@@ -13,14 +13,14 @@
 namespace ostrel::rules {
 
 // Sentence is the text for an id, with these fields:
-//   {found} {allowed}    what the reason has: a set as its members in words, a list as its words or, if it is long, as
-//                        their number and the one that is closest to what was found
-//   {form}               what kind of text was found, which is what "allowed" holds
+//   {found} {allowed}    the data of the reason: a set as its members in words, a list as its words or, if it is long, as
+//                        their number and the word that is closest to what was found
+//   {form}               the kind of text that was found, which "allowed" contains
 //   {byte}               the byte that was found, in printable form
 //   {position}           the offset, counted from 1
 //   {range}              the two limits of the allowed range
 //   {read}               "read as " unless the text is just the number that was found
-//   {read_as}            what a number beyond an int is read as
+//   {read_as}            the value as which a number beyond an int is read
 //   {limit}              the limit that this number then breaks: the sentence of that id, from its ";" on
 //   {found:one|many} {allowed:one|many}
 //                        the first form if the number or the count is 1, otherwise the second

@@ -22,7 +22,7 @@ std::string Speaker::number(const Expression& expression) const
     return (is_named ? "" : "the number in ") + value(expression);
 }
 
-// A part with a name is followed by what it is.
+// The name of a part is followed by a description of the part.
 std::string Speaker::value(const Expression& expression) const
 {
     const std::string_view part = expression.part;

@@ -16,7 +16,7 @@ bool prints(const Check& check);
 // may_not_return returns true if some calls of a check do not return.
 bool may_not_return(const Check& check);
 
-// asks_driver returns true if a check asks the wireless driver for its channels.
+// asks_driver returns true if a check queries the wireless driver for its channels.
 bool asks_driver(const Check& check);
 
 // tables lists the tables in the conditions of a check.

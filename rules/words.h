@@ -122,7 +122,7 @@ inline Line line(std::string_view text) { return {text}; }  // and all streams a
 inline Line unflushed(std::string_view text) { return {text, Line::Stream::kOut, false}; }
 inline Line to_stderr(std::string_view text) { return {text, Line::Stream::kErr, false}; }
 
-// Effects is what a step prints and writes, in order.
+// Effects are the lines and writes of a step, in order.
 struct Effects {
     Effects() = default;
     Effects(Line one) : lines{std::move(one)} {}

@@ -84,7 +84,7 @@ class Field {
       () => turn === this.#turn && this.#refuse(this.words.refused));
   }
 
-  // forget makes a pending reason obsolete.
+  // forget invalidates a pending reason.
   forget() {
     ++this.#turn;
   }

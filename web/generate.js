@@ -3,7 +3,7 @@
 //
 //   node generate.js DESCRIBE.WASM CATALOGUE.JSON RESULT_CODE.H PACKAGE.JSON BUILD FOLDER
 //
-// CATALOGUE.JSON is what ostrel-check list --json prints. BUILD is the value of ostrel.build, as JSON.
+// CATALOGUE.JSON is the output of ostrel-check list --json. BUILD is the value of ostrel.build, as JSON.
 
 import {execFileSync} from 'node:child_process';
 import {mkdirSync, readFileSync, writeFileSync} from 'node:fs';

@@ -57,7 +57,7 @@ class Ostrel {
   #reasons;
   #reasonOf;
   #loadReasons;
-  #judged;  // by the name of the check: what every call of it needs
+  #judged;  // by the name of the check: data that every call of it needs
   #asked = {print: (...call) => this.#print(...call), explain: (...call) => this.#explain(...call)};  // for verdicts
   #isBusy = false;
   #message;
@@ -176,7 +176,7 @@ class Ostrel {
     }
   }
 
-  // #room returns the memory, with room for so many bytes of a call.
+  // #room returns the memory, with room for size bytes of a call.
   #room(size) {
     if (this.#isBusy) throw new Error('called by itself');
     const missing = this.#base + size - this.#bytes().length;

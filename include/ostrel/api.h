@@ -1,4 +1,4 @@
-/* OSTREL_API marks what libostrel_check.so exports. */
+/* OSTREL_API marks the symbols that libostrel_check.so exports. */
 #ifndef OSTREL_API_H
 #define OSTREL_API_H
 

@@ -1,4 +1,4 @@
-/* Everything that libostrel_check.so exports. */
+/* Includes everything that libostrel_check.so exports. */
 #ifndef OSTREL_CHECK_H
 #define OSTREL_CHECK_H
 

@@ -16,7 +16,7 @@ typedef struct {
 /* OstrelWish selects the text that is returned in addition to the code. */
 typedef enum {
     kCode,    /* none */
-    kLine,    /* what the check prints to standard output */
+    kLine,    /* the output of the check to standard output */
     kAfter,   /* a JSON array with the contents of each argument that the check may write to */
     kReason,  /* the reason of a refusal as JSON */
     kSentence /* the same as a sentence; with a secret argument, only lengths */

@@ -12,7 +12,7 @@ typedef struct {
     bool is_lost; /* there was not enough memory for all of it */
 } OstrelPrints;
 
-/* ostrel_capture stores what this thread prints to standard output from now on. With NULL, it is discarded. */
+/* ostrel_capture stores the standard output of this thread from now on. With NULL, it is discarded. */
 void ostrel_capture(OstrelPrints* prints);
 
 #endif

@@ -1,4 +1,4 @@
--- What refuses rows with a reason, and domains for columns.
+-- Functions that refuse rows with a reason, and domains for columns.
 \echo Use "ALTER EXTENSION ostrel UPDATE TO '1.1'" to load this file. \quit
 
 CREATE FUNCTION ostrel_require("check" text, VARIADIC "values" text[]) RETURNS boolean

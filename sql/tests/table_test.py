@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Compares the files that sql/generate.py makes with the list of checks that the program prints."""
+"""Compares the files that sql/generate.py generates with the list of checks that the program prints."""
 
 import pathlib
 import shutil
