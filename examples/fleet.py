@@ -1,13 +1,13 @@
 #!/usr/bin/python3
 """Generates the saved configurations of a fleet of gateways, for ostrel-check batch. The same values are written as CSV
-and as lines of JSON, which name a check for each value, and without checks for the map of TR-098: as a dump in CSV, with
-a row for each value, and as nested JSON, with an object for each gateway.
+and as lines of JSON, which name a check for each value, and without checks for the map of TR-098: as a dump in CSV,
+with a row for each value, and as nested JSON, with an object for each gateway.
 
 usage: fleet.py [--rows N] [--seed N] [--refused SHARE] FOLDER
 
 The files are fleet.csv, fleet.ndjson, fleet-dump.csv and fleet.json in FOLDER. A gateway has 20 values, in the same
-order in each file; its name is the id of each. --refused is the share of values that are refused (0.1), for reasons that
-support desks meet. The same seed generates the same files.
+order in each file; its name is the id of each. --refused is the share of values that are refused (0.1), for reasons
+that support desks meet. The same seed generates the same files.
 
   examples/fleet.py --rows 2000 /tmp
   ostrel-check batch --summary-only /tmp/fleet.ndjson

@@ -13,8 +13,8 @@
 namespace ostrel::rules {
 
 // Sentence is the text for an id, with these fields:
-//   {found} {allowed}    the data of the reason: a set as its members in words, a list as its words or, if it is long, as
-//                        their number and the word that is closest to what was found
+//   {found} {allowed}    the data of the reason: a set as its members in words, a list as its words or, if it is long,
+//                        as their number and the word that is closest to what was found
 //   {form}               the kind of text that was found, which "allowed" contains
 //   {byte}               the byte that was found, in printable form
 //   {position}           the offset, counted from 1

@@ -1,4 +1,4 @@
-// The two utilities of the host process; no other file refers to them.
+// The two utilities of the host process; only this module refers to them.
 //
 // They are imported weakly: if the loading process supplies one, it is called; otherwise the library uses its own
 // equivalent.
