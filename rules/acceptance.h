@@ -1,7 +1,7 @@
 // Acceptance: the texts of one argument for which a check returns 0, derived from its steps without a call.
 //
-// It is used only by constraints.cpp. If an exact result cannot be expressed, it is bounded from above, so a claim may
-// be too weak but is never false; numbers beyond an int have their exact value.
+// If an exact result cannot be expressed, it is bounded from above, so a claim may be too weak but is never false.
+// Numbers beyond an int have their exact value.
 #ifndef OSTREL_RULES_ACCEPTANCE_H
 #define OSTREL_RULES_ACCEPTANCE_H
 

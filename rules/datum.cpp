@@ -32,7 +32,7 @@ std::size_t in_common(std::string_view one, std::string_view other, std::size_t 
     for (std::size_t i = 0; i + longest < one.size(); ++i) {
         for (std::size_t j = 0; j + longest < other.size(); ++j) {
             if (i + longest == one.size()) return longest;
-            // Skips offsets at which no longer match is possible.
+            // Skips starts from which no match can exceed the longest one.
             if (!same_letter(one[i + longest], other[j + longest])) continue;
             const std::string_view rest = other.substr(j);
             const auto differing = std::ranges::mismatch(one.substr(i), rest, same_letter);

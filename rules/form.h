@@ -20,7 +20,7 @@ Said form_of_text(Languages& languages, Language one);
 // form_of_number is for an int; it has only the minimum and the maximum.
 Said form_of_number(const Languages& languages, Language one);
 
-// language_of returns the texts that satisfy a form, except for its pattern.
+// language_of returns the texts that satisfy a form, ignoring its pattern.
 Language language_of(Languages& languages, const Form& form);
 
 // Offer is the part of a language that a user should be offered: numbers without spaces and leading zeros, keywords in
