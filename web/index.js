@@ -10,7 +10,7 @@ export {FailedAssertion, NeverReturns};
 
 const kNoChannel = -1;
 const kPage = 0x10000;
-const kSpare = 2048;  // bytes in addition to the texts of the call, for blocks and for output
+const kSpare = 2048;  // bytes beyond the texts of the call, for blocks and for buffers that a check writes to
 const kNothingWritten = Object.freeze({});
 
 // Verdict is the result of a call. Printed lines are found by judging again, because few callers need them.
