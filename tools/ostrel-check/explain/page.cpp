@@ -19,7 +19,7 @@ std::string with_label(std::string_view label, std::string_view text)
 
 void Page::wrap(std::string_view text, std::size_t indentation, std::size_t hanging)
 {
-    append_wrapped(text_, text, indentation, hanging, look_->columns);
+    if (look_) append_wrapped(text_, text, indentation, hanging, look_->columns);
 }
 
 void Page::bullet(std::size_t depth, std::string_view text)
