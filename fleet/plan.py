@@ -99,7 +99,7 @@ def lock(folder: pathlib.Path) -> int:
         fcntl.flock(descriptor, fcntl.LOCK_EX | fcntl.LOCK_NB)
     except BlockingIOError:
         os.close(descriptor)
-        raise Refused(f"another runner is at work in {folder}") from None
+        raise Refused(f"another runner is already using {folder}") from None
     except OSError:
         pass  # a file system without locks
     return descriptor

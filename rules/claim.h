@@ -54,7 +54,7 @@ class Claims {
     Claim always() { return decided(languages_.any()); }
     Claim never() { return decided(languages_.nothing()); }
 
-    // unknown depends on these arguments in an unknown way. If there are none, no other argument matters.
+    // unknown is a claim that may hold or not, depending on these arguments, or on the target alone if there are none.
     Claim unknown(Variables variables, std::size_t target);
 
     // beyond states that the limit set by the other argument is exceeded.

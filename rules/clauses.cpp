@@ -36,8 +36,8 @@ std::string in_plural(std::string predicate)
 
 std::string driver_list(long long first, long long highest)
 {
-    return " one of the channels up to " + std::to_string(highest) + " among the first " +
-           std::to_string(first) + " that the wireless driver lists";
+    return " one of the channels up to " + std::to_string(highest) + " that are among the first " +
+           std::to_string(first) + " listed by the wireless driver";
 }
 
 // choice returns "is a or b", or "is none of a, b".

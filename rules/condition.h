@@ -84,7 +84,7 @@ struct Condition {
         kContains,   // (text, text): the second occurs in it
         kShape,      // (text): it has one of shapes
         kGrammar,    // (text): it violates the grammar
-        kRow,        // a row of the table satisfies all matches; cells are those of the first such row
+        kRow,        // a row of the table satisfies all matches; cells are those of the first matching row
         kRefusedBy,  // (arguments): the other check does not return 0
         kListed,  // (number): among the first numbers[0] that the wireless driver lists, none above numbers[1]
         kLastItem,  // in a list: nothing follows the item

@@ -1,4 +1,4 @@
-// The facts that are known at some step, by which impossible cases are omitted.
+// Tracks what is known at each step, so that impossible cases can be left out.
 #include <algorithm>
 
 #include "rules/phrases.h"

@@ -21,7 +21,7 @@ namespace ostrel::rules {
 //   {range}              the two limits of the allowed range
 //   {read}               "read as " unless the text is just the number that was found
 //   {read_as}            the value as which a number beyond an int is read
-//   {limit}              the limit that this number then breaks: the sentence of that id, from its ";" on
+//   {limit}              the limit that the number, as it is read, violates: that sentence, from its ";" on
 //   {found:one|many} {allowed:one|many}
 //                        the first form if the number or the count is 1, otherwise the second
 // The subject is the part that the reason names, or the argument, unless the sentence has its own. In that case the

@@ -135,7 +135,7 @@ std::string Speaker::computed(const Expression& expression) const
                    bracketed(operands[0]);
         case Kind::kCell:
             return "the " + std::string(table_->columns[static_cast<std::size_t>(expression.of[0].number)]) +
-                   " of the first such row";
+                   " of the first matching row";
         default:
             return "";
     }

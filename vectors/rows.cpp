@@ -126,7 +126,7 @@ std::vector<Row> read_rows(const std::set<std::string>& modules)
         return first != nullptr && module_of(file) == first;
     };
     std::vector<std::filesystem::path> ordered(files.begin(), files.end());
-    // NOLINTNEXTLINE(modernize-use-ranges): clang 14 does not compile that one
+    // NOLINTNEXTLINE(modernize-use-ranges): clang 14 cannot compile std::ranges::stable_partition
     std::stable_partition(ordered.begin(), ordered.end(), comes_first);
     std::vector<Row> rows;
     for (const auto& file : ordered) append_file(rows, file);

@@ -154,7 +154,7 @@ class Interruption(support.Folder):
                                  env=environment)
             support.wait_until(lambda: len(self.at_work()) == 2)
             again = self.fleet("--resume", "--program", slow, self.out, env=environment)
-            self.assertEqual((2, f"ostrel-fleet: another runner is at work in {self.out}\n"), again)
+            self.assertEqual((2, f"ostrel-fleet: another runner is already using {self.out}\n"), again)
             got, said = support.interrupt(process, number)
             self.assertEqual(code, got, said)
             self.assertIn("interrupted\n0 of 4 parts are done; go on with\n", said)

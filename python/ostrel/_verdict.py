@@ -171,7 +171,8 @@ def _lines(out: str) -> tuple[str, ...]:
 
 
 def _made(kind: type[T], members: dict[str, Any]) -> T:
-    """_made creates an object of a frozen class. Setting each member with a call would take most of the time."""
+    """_made creates an object of a frozen class. It sets all members at once, because a call for each would take
+    most of the time."""
     made = object.__new__(kind)
     object.__setattr__(made, "__dict__", members)
     return made

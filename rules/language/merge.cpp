@@ -128,8 +128,8 @@ void Languages::merge_sets(Kind kind, std::vector<Language>& parts)
     flatten(kind, parts);
 }
 
-// drop_opposites decides a list that contains a part and its opposite, and removes from a part what another part
-// decides. It finds only opposites that have already been created.
+// drop_opposites replaces a list that contains a part and its opposite by all or no strings, and removes from a nested
+// list the parts that are opposites of other parts. It finds only opposites that have already been created.
 void Languages::drop_opposites(Kind kind, std::vector<Language>& parts)
 {
     const Kind inside = kind == Kind::kEither ? Kind::kBoth : Kind::kEither;

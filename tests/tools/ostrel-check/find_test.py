@@ -8,7 +8,7 @@ import subprocess
 import sys
 import unittest
 
-ADVICE = "ostrel-check list WORD finds checks by a word of their names or rules.\n"
+ADVICE = "ostrel-check list WORD searches the names and rules of all checks.\n"
 
 
 def run(*arguments):

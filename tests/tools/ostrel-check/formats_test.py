@@ -141,8 +141,8 @@ class Malformed(unittest.TestCase):
     def test_reasons(self):
         for line, meaning in (
                 (b'{"check":"PARAM_check_port","args":["\\u0000"]}',
-                 "argument value_p holds U+0000 (a NUL byte), where C would end the value"),
-                (b"PARAM_check_port 1\\x001", "argument value_p holds U+0000 (a NUL byte), where C would end the value"),
+                 "argument value_p contains U+0000 (a NUL byte), which would end the value in C"),
+                (b"PARAM_check_port 1\\x001", "argument value_p contains U+0000 (a NUL byte), which would end the value in C"),
                 (b'{"check":"PARAM_check_port","args":["\\ud800"]}', "a text holds a lone surrogate, which is not a character"),
                 (b'{"check":"PARAM_check_port","args":["\\udc00x"]}', "a text holds a lone surrogate, which is not a character"),
                 (b'{"check":"PARAM_check_port","args":["1"],"x":["\\udfff"]}',

@@ -122,7 +122,7 @@ TEST(Single, EscapesAreReadOnRequest)
     EXPECT_EQ(0, run({"TcmValidatePPPPassword", "a\\nb"}).status);
     EXPECT_EQ(
         (RunResult{2, "",
-                   value_error("argument value_p holds U+0000 (a NUL byte), where C would end the value",
+                   value_error("argument value_p contains U+0000 (a NUL byte), which would end the value in C",
                                "PARAM_check_port")}),
         run({"-e", "PARAM_check_port", "1\\x00"}));
     EXPECT_EQ((RunResult{2, "", usage_error("\\q is not an escape; a backslash is \\\\")}),
@@ -165,7 +165,7 @@ TEST(Single, WrongUsageExitsWithTwo)
     EXPECT_EQ((RunResult{2, "",
                          "ostrel-check: there is no check and no command \"PARAM_check_prot\"; did you mean "
                          "PARAM_check_port?\n"
-                         "ostrel-check list WORD finds checks by a word of their names or rules.\n"}),
+                         "ostrel-check list WORD searches the names and rules of all checks.\n"}),
               run({"PARAM_check_prot", "1"}));
     EXPECT_EQ((RunResult{2, "",
                          value_error("0 values were given; expected: PARAM_check_port value_p",

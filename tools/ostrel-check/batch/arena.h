@@ -27,7 +27,7 @@ std::uint64_t count_lines(std::string_view text);
 struct Progress {
     std::size_t read = 0;  // bytes of the input
     std::uint64_t line = 0;
-    // The line to continue with. In a text of several gateways, it is the line where one of them begins.
+    // The line at which to resume. If a text has several gateways, it is the first line of the current one.
     std::uint64_t next = 0;
     std::size_t part = 0;     // records of the text that is being read
     bool is_within = false;   // some records of a gateway were judged and some were not

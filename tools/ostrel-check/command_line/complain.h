@@ -11,9 +11,9 @@
 namespace ostrel::tool {
 
 inline constexpr std::string_view kAdviceOnNames =
-    "ostrel-check list WORD finds checks by a word of their names or rules.\n";
+    "ostrel-check list WORD searches the names and rules of all checks.\n";
 
-// complain prints the problem and the advice, which is a line, and returns the exit code.
+// complain prints the problem, then the advice, which includes its line end, and returns the exit code.
 int complain(std::string_view problem, std::string_view advice);
 
 int complain_of_usage(std::string_view problem);

@@ -122,7 +122,7 @@ bool FlatJson::scalar(std::string_view text, bool is_token)
     }
     enter(name_);
     if (text.find('\0') != std::string_view::npos) {
-        problem_ = path_ + " holds U+0000, where C would end the value";
+        problem_ = path_ + " contains U+0000, which would end the value in C";
         return false;
     }
     Offsets place{texts_.size(), path_.size(), 0, 0};

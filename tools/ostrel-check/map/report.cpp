@@ -64,8 +64,8 @@ std::string standing(const Comparison& one)
         return "no difference found in " + std::to_string(one.tried) + " values";
     }
     if (!one.is_proved) {
-        text += one.relation == Relation::kNarrower ? "; no value that only the gateway accepts is known"
-                                                    : "; no allowed value that it refuses is known";
+        text += one.relation == Relation::kNarrower ? "; no known value is accepted only by the gateway"
+                                                    : "; no known allowed value is refused by the gateway";
     }
     return text;
 }
@@ -210,7 +210,7 @@ std::string markdown_of(const Map& map, const std::vector<Comparison>& all)
 std::string report_of(const std::string& file, ReportFormat format)
 {
     const Map map = load_map(file, Encoding::kUtf8);
-    if (map.facts.empty()) throw std::invalid_argument(file + ": a comparison needs \"facts\"");
+    if (map.facts.empty()) throw std::invalid_argument(file + ": the map has no \"facts\" to compare with");
     const Model model = read_facts(map.facts);
     std::vector<Comparison> all;
     for (const MapEntry& entry : map.entries) {

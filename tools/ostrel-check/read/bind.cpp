@@ -44,7 +44,7 @@ void require_c_text(const Argument& argument, std::string_view text)
 {
     if (text.find('\0') == std::string_view::npos) return;
     throw std::invalid_argument("argument " + std::string(argument.name) +
-                                " holds U+0000 (a NUL byte), where C would end the value");
+                                " contains U+0000 (a NUL byte), which would end the value in C");
 }
 
 void set_text(Value& value, std::string_view text)

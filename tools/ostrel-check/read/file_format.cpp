@@ -33,12 +33,12 @@ struct Front {
 using namespace std::string_view_literals;
 
 constexpr std::array<Front, 8> kFronts = {{
-    {"\x1F\x8B", "the file is compressed with gzip; judge what gzip -cd writes"},
+    {"\x1F\x8B", "the file is compressed with gzip; decompress it with gzip -d"},
     {"\xFD"
      "7zXZ",
-     "the file is compressed with xz; judge what xz -cd writes"},
-    {"\x28\xB5\x2F\xFD", "the file is compressed with Zstandard; judge what zstd -cd writes"},
-    {"PK\x03\x04", "the file is a ZIP archive, as those of spreadsheets are; export it as CSV"},
+     "the file is compressed with xz; decompress it with xz -d"},
+    {"\x28\xB5\x2F\xFD", "the file is compressed with Zstandard; decompress it with zstd -d"},
+    {"PK\x03\x04", "the file is a ZIP archive, as spreadsheets are; export it as CSV"},
     {"\xFF\xFE\0\0"sv, kUtf32},
     {"\0\0\xFE\xFF"sv, kUtf32},
     {"\xFF\xFE", kUtf16},
