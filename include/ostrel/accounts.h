@@ -1,5 +1,5 @@
 /*
- * Accounts: provisioning code, PPP user name, passwords, and the fields of VoIP and e-mail accounts.
+ * Accounts: the provisioning code, the PPP user name, passwords, and the fields of VoIP and e-mail accounts.
  *
  * No pointer may be NULL. Only TcmValidateProvisioningCode prints. Lengths count bytes.
  */
@@ -9,12 +9,14 @@
 #include <ostrel/api.h>
 
 /*
- * TcmValidateProvisioningCode: "000.00d.00d.ddd" with four groups of three: the digits at positions 6 and 10
- * are 0 to 4, those at positions 12 to 14 are any, every other one is 0.
+ * TcmValidateProvisioningCode: "000.00d.00d.ddd", four groups of three digits. Positions count from 0. The
+ * digits at positions 6 and 10 must be 0 to 4, those at positions 12 to 14 may be any digit, and every other
+ * digit must be 0.
  *
- * Returns 0; OSTREL_INVALID_VALUE. For a refused value of 15 characters the first wrong position is printed,
- * without a flush: "TcmValidateProvisioningCode  pCode[%d] error\n", or at the positions 6, 10, 12, 13 and 14
- * "TcmValidateProvisioningCode  pCode[%d] error \n". For any other length nothing is printed.
+ * Returns 0 or OSTREL_INVALID_VALUE. If a value of 15 characters is refused, its first wrong position is
+ * printed without a flush: "TcmValidateProvisioningCode  pCode[%d] error \n" for position 6, 10, 12, 13 or
+ * 14, and "TcmValidateProvisioningCode  pCode[%d] error\n" for any other position. For a value of any other
+ * length, nothing is printed.
  */
 OSTREL_API int TcmValidateProvisioningCode(const char* value);
 
@@ -22,8 +24,8 @@ OSTREL_API int TcmValidateProvisioningCode(const char* value);
  * TcmValidatePPPUsername: the user name of a PPP account.
  *
  * If a name ends in one of the ISP's two realms (build options, by default "@example.net" and
- * "@setup.example.net", compared case-sensitively, with at least one character before them), the part before
- * the realm is judged. It contains only digits and "#":
+ * "@setup.example.net", compared case-sensitively) and has at least one character before it, only the part
+ * before the realm is checked. It must consist of digits and "#" in one of these forms:
  *
  *   type  realm    characters before the realm
  *   1     account  28, no "#"
@@ -33,20 +35,22 @@ OSTREL_API int TcmValidateProvisioningCode(const char* value);
  *   5     set-up   16, no "#"
  *   6     set-up   17, one "#", at index 12
  *
- * The part has 18 to 30 characters before the account realm, 16 to 17 before the set-up realm. With three or
- * more "#" it is accepted wherever they are, and the type is not written. Any other user name is type 0: 1 to
- * 131 characters of CHARSET_LATIN1_PRINTABLE.
+ * The part must have 18 to 30 characters before the account realm, or 16 to 17 before the set-up realm. A
+ * part with three or more "#" is accepted wherever they are, and the type is not written. Any other user name
+ * is of type 0 and must consist of 1 to 131 characters of CHARSET_LATIN1_PRINTABLE.
  *
  * account_type: receives the type if the name is accepted, except as stated above; otherwise it is unchanged.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER for the part before the realm or
- * for the whole name of type 0; OSTREL_INVALID_VALUE: the part has none of the forms.
+ * Returns 0, or the code of the first test that fails:
+ * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER: a fault in the part before the realm, or
+ *   in the whole name if it is of type 0;
+ * OSTREL_INVALID_VALUE: the part has none of the forms.
  */
 OSTREL_API int TcmValidatePPPUsername(const char* value, int* account_type);
 
 /*
- * The fields below return 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, in the order of
- * the tests. The sets are defined in character_sets.h.
+ * The functions below return 0, or the code of the first test that fails: OSTREL_TOO_SHORT, OSTREL_TOO_LONG
+ * or OSTREL_FORBIDDEN_CHARACTER, in this order. character_sets.h defines the sets.
  */
 
 /* TcmValidatePPPPassword: 1 to 67 bytes of CHARSET_LATIN1_PRINTABLE. */
@@ -74,10 +78,10 @@ OSTREL_API int TcmValidateVoIPPassword(const char* value);
 OSTREL_API int TcmValidateVoIPAreaCode(const char* value);
 
 /*
- * TcmValidatePort: a usable TCP or UDP port, 1 to 65535 as atoi reads it; what follows the digits is ignored.
- * Port 0 and the empty value are refused.
+ * TcmValidatePort: a usable TCP or UDP port, 1 to 65535 as atoi reads it. Characters after the digits are
+ * ignored. Port 0 and the empty value are refused.
  *
- * Returns 0; OSTREL_INVALID.
+ * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int TcmValidatePort(const char* value);
 

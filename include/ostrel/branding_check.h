@@ -2,8 +2,8 @@
  * Branding of the web portal.
  *
  * value is a NUL-terminated byte string of any length; only Param_check_datetime_value accepts NULL. A check
- * writes one line to standard output when it refuses a value, in which the first %s is its own name, and then
- * flushes all output streams.
+ * that refuses a value writes one line to standard output and then flushes all output streams. The first %s
+ * of the line is the name of the check.
  */
 #ifndef OSTREL_BRANDING_CHECK_H
 #define OSTREL_BRANDING_CHECK_H
@@ -11,11 +11,11 @@
 #include <ostrel/api.h>
 
 /*
- * The first eight checks limit the length; any bytes are accepted, and so is the empty value.
+ * The first eight checks limit only the length: they accept any bytes, and the empty value.
  *
- * Returns 0; OSTREL_TOO_LONG, with "Error in %s: The length of string :%s shoud not be less than %d\n" (the
- * value, the limit). The limit printed is one above the longest value that is accepted, and the message means
- * "must be less than".
+ * Returns 0, or prints "Error in %s: The length of string :%s shoud not be less than %d\n" with the value and
+ * the limit, and returns OSTREL_TOO_LONG. The limit printed is one more than the greatest length that is
+ * accepted; the message means "must be less than".
  */
 
 /* Param_check_ispname_value: at most 31 bytes; the limit printed is 32. */
@@ -43,24 +43,27 @@ OSTREL_API int Param_check_login_value(const char* value);
 OSTREL_API int Param_check_pword_value(const char* value);
 
 /*
- * Param_check_color_value: a colour: two hexadecimal digits of either case for each of red, green and blue,
- * without a leading "#".
+ * Param_check_color_value: a colour, written as two hexadecimal digits in either case for each of red, green
+ * and blue, without a leading "#".
  *
- * Returns 0; OSTREL_OUT_OF_RANGE: not 6 bytes, with
- *   "Error in %s: The length of color :%s shoud not be equal to %d\n" (the value, 6), which means "must be";
- * OSTREL_WRONG_FORM: another character, with
- *   "Error in %s: color :%s contain invalid char %c\n" (the value, the first such byte as it is).
+ * Returns 0, or the code of the first test that fails, after printing its line:
+ * OSTREL_OUT_OF_RANGE: the length is not 6 bytes:
+ *   "Error in %s: The length of color :%s shoud not be equal to %d\n" with the value and 6, which means
+ *   "must be";
+ * OSTREL_WRONG_FORM: a character is not a hexadecimal digit:
+ *   "Error in %s: color :%s contain invalid char %c\n" with the value and the first such byte, unchanged.
  */
 OSTREL_API int Param_check_color_value(const char* value);
 
 /*
  * Param_check_bool_value: "0" or "1".
  *
- * Returns 0; OSTREL_OUT_OF_RANGE, with "Error in %s: bool value :%s out of range\n" (the value).
+ * Returns 0, or prints "Error in %s: bool value :%s out of range\n" with the value and returns
+ * OSTREL_OUT_OF_RANGE.
  */
 OSTREL_API int Param_check_bool_value(const char* value);
 
-/* Param_check_datetime_value: always returns 0, also for NULL; the value is not examined. Silent. */
+/* Param_check_datetime_value: always returns 0, even for NULL; the value is not examined. Silent. */
 OSTREL_API int Param_check_datetime_value(const char* value);
 
 #endif

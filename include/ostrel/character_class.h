@@ -1,5 +1,5 @@
 /*
- * The character-class table: a class mask for each byte, by ISO 8859-1 (Latin-1).
+ * The character-class table: the class mask of each byte, according to ISO 8859-1 (Latin-1).
  *
  * Unlike <ctype.h> it does not depend on the locale, has no slot for EOF, and is indexed by the byte as an
  * unsigned char.
@@ -23,8 +23,8 @@ enum ostrel_character_class {
 };
 
 /*
- * ostrel_ctype: the classes of each byte. Read-only. The bytes 0x80 to 0x9F have no class at all, not even
- * CT_CNTRL; 0xA0 (no-break space) is CT_SPACE | CT_BLANK.
+ * ostrel_ctype: the classes of each byte. Read-only. The bytes 0x80 to 0x9F have no class, not even CT_CNTRL;
+ * 0xA0 (no-break space) is CT_SPACE | CT_BLANK.
  */
 OSTREL_API const unsigned char ostrel_ctype[256];
 

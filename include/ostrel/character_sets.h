@@ -16,7 +16,7 @@
 /* CHARSET_PPP_DIGITS: the local part of an ISP account name; "#" separates its fields. */
 #define CHARSET_PPP_DIGITS "0123456789#"
 
-/* CHARSET_HEX: the 22 hexadecimal digits of either case. */
+/* CHARSET_HEX: the 22 hexadecimal digits, in both cases. */
 #define CHARSET_HEX "0123456789ABCDEFabcdef"
 
 /* CHARSET_ASCII_PRINTABLE: the 95 characters 0x20 (space) to 0x7E (tilde), in code order. */
@@ -70,7 +70,7 @@
 /* CHARSET_CIS_NAME: a device name on the LAN: space, digits, letters and "-". */
 #define CHARSET_CIS_NAME " 0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-abcdefghijklmnopqrstuvwxyz"
 
-/* CHARSET_IDENT_LETTERS: what a device name may begin with. */
+/* CHARSET_IDENT_LETTERS: the characters with which a device name may begin. */
 #define CHARSET_IDENT_LETTERS "ABCDEFGHIJKLMNOPQRSTUVWXYZ_abcdefghijklmnopqrstuvwxyz"
 
 #endif

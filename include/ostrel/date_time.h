@@ -1,10 +1,11 @@
 /*
  * Dates, times and time-zone offsets, in the compact and the extended notation of ISO 8601.
  *
- * All return 0 or OSTREL_INVALID and print nothing. value is a NUL-terminated byte string of any length and
- * must not be NULL; the empty value is invalid.
+ * Every function returns 0 or OSTREL_INVALID and prints nothing. value is a NUL-terminated byte string of any
+ * length and must not be NULL; the empty value is invalid.
  *
- * The letters stand for decimal digits, every other character for itself; "T" is a capital:
+ * In the forms below, each letter represents a decimal digit, except the capital "T"; every other character
+ * represents itself:
  *
  *   YYYYMMDDThh:mm:ss           date-time, compact date
  *   YYYY-MM-DDThh:mm:ss         date-time
@@ -13,12 +14,13 @@
  *   MM-DDThh:mm:ss              switch-over without a year
  *   +hh:mm                      time-zone offset; "+" or "-"
  *
- * Year 1970 to 9999, month 1 to 12, day as for ValidateDay, hour 0 to 24, minute and second 0 to 59; hours
- * and minutes of the offset of a date-time 0 to 59 each.
+ * The year must be from 1970 to 9999, the month from 1 to 12, the hour from 0 to 24, and the minute and the
+ * second from 0 to 59; the day must be valid according to ValidateDay. The hours and the minutes in the
+ * offset of a date-time must each be from 0 to 59.
  *
  * Differences from ISO 8601: the time is in extended notation in every form; hour 24 may have minutes and
  * seconds; day 0 is valid; the offset of a date-time may have any hours up to 59; "-00:00" is valid; "Z",
- * fractions of a second and the second 60 are not.
+ * fractions of a second and the second 60 are invalid.
  */
 #ifndef OSTREL_DATE_TIME_H
 #define OSTREL_DATE_TIME_H
@@ -26,11 +28,10 @@
 #include <ostrel/api.h>
 
 /*
- * ValidateDay: a day of a month of a year of the Gregorian calendar, which is applied to every year,
- * including negative ones.
+ * ValidateDay: a date of the Gregorian calendar, which is applied to every year, including negative ones.
  *
- * month: 1 to 12; any other is refused. A negative number is converted to a huge one.
- * day:   at most the month's length. There is no lower bound: 0 and negative days are valid.
+ * month: 1 to 12; any other number is refused. A negative number is converted to a huge one.
+ * day:   at most the length of the month. There is no lower bound: 0 and negative days are valid.
  */
 OSTREL_API int ValidateDay(int year, unsigned month, int day);
 
@@ -38,8 +39,8 @@ OSTREL_API int ValidateDay(int year, unsigned month, int day);
 OSTREL_API int TcmValidateTime(const char* value);
 
 /*
- * TcmValidateDaylightSavingsTime: when daylight saving starts or ends: a date-time as for TcmValidateTime, or
- * a switch-over without a year, in which 29 February is always a day.
+ * TcmValidateDaylightSavingsTime: the time at which daylight saving starts or ends: a date-time as for
+ * TcmValidateTime, or a switch-over without a year, in which 29 February is always valid.
  */
 OSTREL_API int TcmValidateDaylightSavingsTime(const char* value);
 

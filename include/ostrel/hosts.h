@@ -3,7 +3,7 @@
  *
  * value is a NUL-terminated byte string of any length and must not be NULL; it is not changed. Nothing is
  * printed. Functions that return OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER test for
- * them in this order, before the form. The sets are defined in character_sets.h.
+ * them in this order, before they test the form. character_sets.h defines the sets.
  */
 #ifndef OSTREL_HOSTS_H
 #define OSTREL_HOSTS_H
@@ -18,7 +18,7 @@
  * wider in that a label may begin or end with "-". A single label such as "localhost" is valid; a final dot
  * is not. A value of only digits and dots is not a name but a number. The empty value is refused.
  *
- * Returns 0; OSTREL_INVALID.
+ * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int TcmValidateDomainName(const char* value);
 
@@ -26,7 +26,7 @@ OSTREL_API int TcmValidateDomainName(const char* value);
  * ValidateURL: a bare host, despite its name: a domain name (TcmValidateDomainName) or an IPv4 address
  * (TcmValidateIPAddress). A scheme, a port or a path is refused, and so is the empty value.
  *
- * Returns 0; OSTREL_INVALID.
+ * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int ValidateURL(const char* value);
 
@@ -35,52 +35,54 @@ OSTREL_API int ValidateURL(const char* value);
  *
  *   "x-dslf_cwmp://" or "x-dslf_cwmps://" (case-sensitive), host, [":" port], ["/" path]
  *
- * host: as for ValidateURL. port: digits only, 0 to 65535 as atoi reads them; an empty port is 0, and
- * how atoi reads a number that does not fit in an int is left to the C library. path: not examined further.
+ * host: as for ValidateURL. port: digits only, 0 to 65535 as atoi reads them; an empty port is 0, and the C
+ * library determines how atoi reads a number that does not fit in an int. path: not examined further.
  *
  * This is narrower than RFC 3986: none of "@", "%", "=", "&", "#" and "~" is allowed anywhere, user
  * information and IPv6 addresses are not supported, and the first ":" after the scheme separates host and
  * port wherever it is, so that a URL without a port is refused if its path contains a ":". A "?" directly
  * after the host is treated as part of the host, which makes it invalid.
  *
- * Returns 0; OSTREL_INVALID.
+ * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int TcmValidateServerURL(const char* value);
 
 /*
- * TcmValidatefirmwareURL: the URL of a firmware image: TcmValidateServerURL with the schemes "http://" and
- * "https://".
+ * TcmValidatefirmwareURL: the URL of a firmware image: as for TcmValidateServerURL, but with the scheme
+ * "http://" or "https://".
  *
- * Returns 0; OSTREL_WRONG_FORM, for every fault.
+ * Returns 0, or OSTREL_WRONG_FORM for every fault.
  */
 OSTREL_API int TcmValidatefirmwareURL(const char* value);
 
 /*
- * isEmail: 5 or more bytes with at least one character before the first "@", at least one between it and the
- * last ".", and at least one after that.
+ * isEmail: 5 or more bytes with at least one character before the first "@", at least one between that "@"
+ * and the last ".", and at least one after that ".".
  *
  * This tests only the outline of an address of RFC 5321 and RFC 5322: no character is refused, not even a
  * second "@".
  *
- * Returns 0; OSTREL_INVALID. Note that an address returns 0, which is false in C.
+ * Returns 0 or OSTREL_INVALID. Note that the result for an address is 0, which is false in C.
  */
 OSTREL_API int isEmail(const char* value);
 
 /*
  * TcmValidateEmailAddress: 5 to 64 characters of CHARSET_MAIL that isEmail accepts.
  *
- * The set has far fewer characters than RFC 5321 allows in a local part: neither "_" nor "+", for example.
+ * The set is much smaller than the one that RFC 5321 allows in a local part: it contains neither "_" nor "+",
+ * for example.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER; OSTREL_WRONG_FORM.
+ * Returns 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER or OSTREL_WRONG_FORM.
  */
 OSTREL_API int TcmValidateEmailAddress(const char* value);
 
 /*
  * TcmValidateVoIPRegistrar: the SIP registrar, 3 to 64 characters of CHARSET_NAME that ValidateURL accepts.
  *
- * "_" is in the set but not allowed in a host: it is refused for the form.
+ * "_" is in the set but is not allowed in a host, so a value that contains it is refused with
+ * OSTREL_WRONG_FORM.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER; OSTREL_WRONG_FORM.
+ * Returns 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER or OSTREL_WRONG_FORM.
  */
 OSTREL_API int TcmValidateVoIPRegistrar(const char* value);
 
@@ -88,9 +90,10 @@ OSTREL_API int TcmValidateVoIPRegistrar(const char* value);
  * TcmValidateVoIPSTUNServer: the STUN server, at most 64 characters of CHARSET_HOSTPORT: empty, or a host
  * that ValidateURL accepts.
  *
- * "_" and ":" are in the set but not allowed in a host: a value with a port is refused for the form.
+ * "_" and ":" are in the set but are not allowed in a host, so a value with a port is refused with
+ * OSTREL_WRONG_FORM.
  *
- * Returns 0; OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER; OSTREL_WRONG_FORM.
+ * Returns 0, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER or OSTREL_WRONG_FORM.
  */
 OSTREL_API int TcmValidateVoIPSTUNServer(const char* value);
 

@@ -1,10 +1,11 @@
 /*
  * Layer-3 forwarding checks: the fields of a static route.
  *
- * value is a NUL-terminated byte string of any length and must not be NULL; no check changes it. All return 0
- * or OSTREL_INVALID_VALUE. A check that refuses a value writes the stated line to standard output, in which
- * the first %s is its own name, and flushes all output streams. An accepted value prints nothing. Numbers are
- * read by atoi: text without a number is 0, and what follows the digits is ignored.
+ * value is a NUL-terminated byte string of any length and must not be NULL; no check changes it. Every check
+ * returns 0 or OSTREL_INVALID_VALUE. A check that refuses a value writes the stated line to standard output
+ * and flushes all output streams. The first %s of the line is the name of the check. A check that accepts a
+ * value prints nothing. Numbers are read with atoi: a string without a number is 0, and characters after the
+ * digits are ignored.
  */
 #ifndef OSTREL_L3FORWARDING_CHECK_H
 #define OSTREL_L3FORWARDING_CHECK_H
@@ -42,7 +43,7 @@ OSTREL_API int L3FORWARDING_check_ForwardingType(const char* value);
 OSTREL_API int L3FORWARDING_check_ForwardingMetric(const char* value);
 
 /*
- * L3FORWARDING_check_MTU: a number of 1 to 1540 bytes.
+ * L3FORWARDING_check_MTU: an MTU of 1 to 1540 bytes.
  *
  * Refuses with "Error in %s: Invalid MTU:%s, RANGE[%d, %d]\n" (the value, 1, 1540).
  */

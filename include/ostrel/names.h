@@ -12,7 +12,7 @@
 /*
  * TcmValidatePortMappingProtocol: exactly "TCP" or "UDP", in upper case.
  *
- * Returns 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0 or OSTREL_INVALID. The empty value is invalid.
  */
 OSTREL_API int TcmValidatePortMappingProtocol(const char* value);
 

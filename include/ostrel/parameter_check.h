@@ -29,14 +29,15 @@ OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_
  * PARAM_check_port: a port number of 0 to 65535 as atoi reads it: text without a number is 0 and what follows
  * the digits is ignored, so "abc", "80abc" and the empty value are accepted.
  *
- * Asserts. Returns 0; OSTREL_OUT_OF_RANGE, with "Error in %s: The port shoud be between 0~65535\n".
+ * A NULL value fails an assertion. Returns 0, or prints "Error in %s: The port shoud be between 0~65535\n"
+ * and returns OSTREL_OUT_OF_RANGE.
  */
 OSTREL_API int PARAM_check_port(const char* value_p);
 
 /*
  * PARAM_check_ip_addr: an IPv4 address, see TcmValidateIPAddress. Silent.
  *
- * Returns 0; OSTREL_INVALID_VALUE.
+ * Returns 0 or OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PARAM_check_ip_addr(const char* value_p);
 
@@ -44,21 +45,22 @@ OSTREL_API int PARAM_check_ip_addr(const char* value_p);
  * PARAM_check_Ordinary_MACAddress: the MAC address of one station, see isValidOrdinaryMACAddress, which may
  * print.
  *
- * Returns 0; OSTREL_INVALID_VALUE, also for NULL.
+ * Returns 0 or OSTREL_INVALID_VALUE. NULL is invalid.
  */
 OSTREL_API int PARAM_check_Ordinary_MACAddress(const char* value_p);
 
 /*
  * PARAM_check_MACAddress: a MAC address, see TcmValidateMACaddress, which may print, unflushed.
  *
- * Returns 0; OSTREL_INVALID_VALUE, also for NULL.
+ * Returns 0 or OSTREL_INVALID_VALUE. NULL is invalid.
  */
 OSTREL_API int PARAM_check_MACAddress(const char* value_p);
 
 /*
  * PARAM_check_transport_protocol: "TCP" or "UDP" in any mixture of upper and lower case.
  *
- * Returns 0; OSTREL_INVALID, with "Error in %s: The transport protocol:%s is error\n".
+ * Returns 0, or prints "Error in %s: The transport protocol:%s is error\n" with the value and returns
+ * OSTREL_INVALID.
  */
 OSTREL_API int PARAM_check_transport_protocol(const char* value_p);
 
@@ -72,7 +74,7 @@ OSTREL_API int PARAM_get_protocol_from_name(const char* value_p);
 /*
  * PARAM_check_hexa_string: hexadecimal digits of either case only; the empty value is valid. Silent.
  *
- * Asserts. Returns 0; OSTREL_INVALID.
+ * A NULL value fails an assertion. Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int PARAM_check_hexa_string(const char* value_p);
 
@@ -87,7 +89,7 @@ OSTREL_API int PARAM_check_printable_ascii_string(const char* value_p);
  * PARAM_check_provisioning_code: a provisioning code, see TcmValidateProvisioningCode, which may print,
  * unflushed.
  *
- * Returns 0; OSTREL_INVALID_VALUE.
+ * Returns 0 or OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PARAM_check_provisioning_code(const char* value_p);
 
@@ -106,35 +108,37 @@ OSTREL_API int PARAM_check_ui4_value(const char* value_p);
 /*
  * PARAM_check_bool_value: exactly "0" or "1".
  *
- * Asserts. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s out of range[0,1]\n".
+ * A NULL value fails an assertion. Returns 0, or prints "Error in %s: The value %s out of range[0,1]\n" with
+ * the value and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PARAM_check_bool_value(const char* value_p);
 
 /*
  * PARAM_check_bool_value_use_str: exactly "true" or "false", in lower case.
  *
- * Asserts. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s out of range[true, false]\n".
+ * A NULL value fails an assertion. Returns 0, or prints
+ * "Error in %s: The value %s out of range[true, false]\n" with the value and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PARAM_check_bool_value_use_str(const char* value_p);
 
 /*
  * PARAM_check_number: min_len to max_len decimal digits; the limits are lengths, not values. Silent.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString.
+ * Returns what ValidateString returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int PARAM_check_number(const char* value_p, int min_len, int max_len);
 
 /*
  * PARAM_check_num_range: decimal digits whose number is from min to max; the empty value is 0. Silent.
  *
- * Returns 0; OSTREL_FORBIDDEN_CHARACTER, OSTREL_OUT_OF_RANGE, as ValidateNum.
+ * Returns what ValidateNum returns: 0, OSTREL_FORBIDDEN_CHARACTER or OSTREL_OUT_OF_RANGE.
  */
 OSTREL_API int PARAM_check_num_range(const char* value_p, int min, int max);
 
 /*
  * PARAM_check_password: min_len to max_len characters of CHARSET_ALNUM. Silent.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString.
+ * Returns what ValidateString returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int PARAM_check_password(const char* value_p, int min_len, int max_len);
 
@@ -150,7 +154,7 @@ OSTREL_API int PARAM_check_string_len(const char* value_p, unsigned min_len, uns
  * PARAM_check_string_prefix: the first byte is one of first_chars, which must not be NULL. The empty value is
  * accepted. Silent.
  *
- * Asserts. Returns 0; OSTREL_INVALID.
+ * A NULL value fails an assertion. Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int PARAM_check_string_prefix(const char* value_p, const char* first_chars);
 

@@ -16,7 +16,8 @@
 /*
  * PORTMAPPING_check_remote_host: NULL or the empty value, which mean every remote host.
  *
- * Returns 0; OSTREL_REMOTE_HOST_NOT_WILDCARD, with "Error in %s: The remote host should be empty\n".
+ * Returns 0, or prints "Error in %s: The remote host should be empty\n" and returns
+ * OSTREL_REMOTE_HOST_NOT_WILDCARD.
  */
 OSTREL_API int PORTMAPPING_check_remote_host(const char* value_p);
 
@@ -51,7 +52,8 @@ OSTREL_API int PORTMAPPING_check_port_available(const char* port, int protocol);
  * PORTMAPPING_check_description: a description that TcmValidatePortMappingDescription accepts: 1 to 32
  * characters, each of 0x20 to 0x7E. value_p must not be NULL.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error port mapping description:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error port mapping description:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PORTMAPPING_check_description(const char* value_p);
 
@@ -59,7 +61,8 @@ OSTREL_API int PORTMAPPING_check_description(const char* value_p);
  * PORTMAPPING_check_lease_duration: a lease of 0 seconds as atoi reads it, which means a permanent mapping;
  * text without a number is 0. value_p must not be NULL.
  *
- * Returns 0; OSTREL_LEASE_NOT_PERMANENT, with "Error in %s: The port mapping lease should be zero\n".
+ * Returns 0, or prints "Error in %s: The port mapping lease should be zero\n" and returns
+ * OSTREL_LEASE_NOT_PERMANENT.
  */
 OSTREL_API int PORTMAPPING_check_lease_duration(const char* value_p);
 

@@ -13,7 +13,8 @@
 /*
  * PPP_check_connection_type: exactly "IP_Routed".
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wan connection type:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error wan connection type:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PPP_check_connection_type(const char* value);
 
@@ -28,23 +29,23 @@ OSTREL_API int PPP_check_user_name(const char* value);
 /*
  * PPP_check_tonline_password: the password of a T-Online account: 1 to 8 bytes of CHARSET_LATIN1_PRINTABLE.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with
- *   "Error in %s: Error ppp T-Online password:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error ppp T-Online password:%s\n\n" with the value and returns
+ * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int PPP_check_tonline_password(const char* value);
 
 /*
  * PPP_check_non_tonline_password: the password of any other provider's account, see TcmValidatePPPPassword.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with
- *   "Error in %s: Error none T-Online ppp password:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error none T-Online ppp password:%s\n\n" with the value and returns
+ * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int PPP_check_non_tonline_password(const char* value);
 
 /*
  * PPP_check_pppoe_service_name: any value except the empty one.
  *
- * Returns 0; OSTREL_EMPTY, with "Error in %s: Error ppp service name:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error ppp service name:%s\n\n" with the value and returns OSTREL_EMPTY.
  */
 OSTREL_API int PPP_check_pppoe_service_name(const char* value);
 
@@ -59,14 +60,15 @@ OSTREL_API int PPP_check_connection_trigger(const char* value);
 /*
  * PPP_check_idle_disconnect_time: any value except the empty one; it is not read as a number.
  *
- * Returns 0; OSTREL_EMPTY, with "Error in %s: Error disconnect time:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error disconnect time:%s\n\n" with the value and returns OSTREL_EMPTY.
  */
 OSTREL_API int PPP_check_idle_disconnect_time(const char* value);
 
 /*
  * PPP_check_route_protocol_rx: exactly "Off".
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error Rx route protocol:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error Rx route protocol:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PPP_check_route_protocol_rx(const char* value);
 
@@ -74,7 +76,8 @@ OSTREL_API int PPP_check_route_protocol_rx(const char* value);
  * PPP_check_shaping_rate: a number of -1 or more as atoi reads it; text without a number is 0, so the empty
  * value is accepted. The unit is left to the host.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error shaping rate:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error shaping rate:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PPP_check_shaping_rate(const char* value);
 
@@ -82,7 +85,8 @@ OSTREL_API int PPP_check_shaping_rate(const char* value);
  * PPP_check_shaping_burst_size: a number of 0 or more, read in the same way; unlike the rate it cannot be -1.
  * The unit is left to the host.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error shaping burst size:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error shaping burst size:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PPP_check_shaping_burst_size(const char* value);
 

@@ -31,7 +31,7 @@ OSTREL_API int isInSameSubnet(const char* reference, const char* address);
  * start's is not above the end's. A pool of one address is valid. lanAddress itself is not validated, but
  * without a "." it has no subnet and every pool is refused.
  *
- * Returns 0; OSTREL_INVALID.
+ * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int TcmValidateAddressRange(const char* startAddress, const char* endAddress,
                                        const char* lanAddress);
@@ -60,7 +60,7 @@ OSTREL_API int TcmValidateReservedAddress(const char* reservedList, const char* 
  * TcmValidateIPRouter: an address that the gateway may have on its LAN: a valid one that begins with
  * "192.168." (RFC 1918) and whose last number is from 1 to 254.
  *
- * Returns 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0 or OSTREL_INVALID. The empty value is invalid.
  */
 OSTREL_API int TcmValidateIPRouter(const char* address);
 

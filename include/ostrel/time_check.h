@@ -42,8 +42,9 @@ OSTREL_API int Time_validate_tzone_and_tzone_name(char* tzone, char* tzone_name)
  * TIME_check_sync_daylight_saving_time: start and end of daylight saving are both empty or both set; their
  * contents are not examined.
  *
- * Returns 0; OSTREL_WRONG_FORM, with "Error in %s: DaylightSavingsStart :%s and DaylightSavingsEnd :%s should
- * be set none or both\n" (start, end; one line, one space between "set" and "none").
+ * Returns 0, or prints
+ * "Error in %s: DaylightSavingsStart :%s and DaylightSavingsEnd :%s should be set none or both\n" with start,
+ * end; one line and one space between "set" and "none" and returns OSTREL_WRONG_FORM.
  */
 OSTREL_API int TIME_check_sync_daylight_saving_time(const char* start, const char* end);
 
@@ -63,7 +64,7 @@ OSTREL_API int TIME_check_local_time_zone(const char* value);
  *
  * A value that is empty or not printable is accepted, and the line of TIME_check_ascii_string is printed.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Failed check local timezone name.\n\n".
+ * Returns 0, or prints "Error in %s: Failed check local timezone name.\n\n" and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int TIME_check_local_time_zone_name(const char* value);
 
@@ -82,22 +83,24 @@ OSTREL_API int TIME_check_daylight_saving_start_or_end(const char* value);
 /*
  * TIME_check_ntpserver_length: 1 to 64 bytes.
  *
- * Returns 0; OSTREL_OUT_OF_RANGE, with "Error in %s: %s is out of range for the value of NTPServer\n" (the
- * value).
+ * Returns 0, or prints "Error in %s: %s is out of range for the value of NTPServer\n" with the value and
+ * returns OSTREL_OUT_OF_RANGE.
  */
 OSTREL_API int TIME_check_ntpserver_length(const char* value);
 
 /*
  * TIME_check_url: a bare host, see ValidateURL.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: %s is not validate URL\n" (the value).
+ * Returns 0, or prints "Error in %s: %s is not validate URL\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int TIME_check_url(const char* value);
 
 /*
  * TIME_check_ascii_string: one or more bytes, each of 0x20 to 0x7E.
  *
- * Returns 0; OSTREL_INVALID, with "Error in %s: %s is not printable ascii string\n" (the value).
+ * Returns 0, or prints "Error in %s: %s is not printable ascii string\n" with the value and returns
+ * OSTREL_INVALID.
  */
 OSTREL_API int TIME_check_ascii_string(const char* value);
 

@@ -38,14 +38,14 @@ OSTREL_API int TcmValidateKPP(const char* value);
  * TcmValidateRate: "Auto" or one of the twelve IEEE 802.11b/g rates in Mbit/s: "1", "2", "5.5", "6", "9",
  * "11", "12", "18", "24", "36", "48", "54".
  *
- * Returns 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0 or OSTREL_INVALID. The empty value is invalid.
  */
 OSTREL_API int TcmValidateRate(const char* value);
 
 /*
  * TcmValidateBeaconType: "None", "Basic", "WPA", "11i" or "WPAand11i".
  *
- * Returns 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0 or OSTREL_INVALID. The empty value is invalid.
  */
 OSTREL_API int TcmValidateBeaconType(const char* value);
 
@@ -68,7 +68,7 @@ OSTREL_API int TcmValidateSSID(const char* value);
  * Order is free and a rate may be repeated. Spaces and empty items are refused, and so is "Auto". A list may
  * be of any length.
  *
- * Returns 0; OSTREL_INVALID, also for the empty value.
+ * Returns 0 or OSTREL_INVALID. The empty value is invalid.
  */
 OSTREL_API int TcmValidateDataTransmitRates(const char* value);
 

@@ -23,7 +23,7 @@ OSTREL_API int HNAPCORE_check_username(const char* value);
  *             terminator. It must have room for that and for at least 7 bytes. What follows "UTC" is not
  *             examined. The buffer is unchanged on failure and must not overlap the value.
  *
- * Returns 0; OSTREL_INVALID.
+ * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int HNAPCORE_check_timezone(const char* value, char* offset_out);
 
@@ -31,7 +31,7 @@ OSTREL_API int HNAPCORE_check_timezone(const char* value, char* offset_out);
  * HNAPCORE_check_locale: a locale of the user interface, in any mixture of upper and lower case: en-us,
  * fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th (tags of RFC 5646). Silent.
  *
- * Returns 0; OSTREL_INVALID.
+ * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int HNAPCORE_check_locale(const char* value);
 

@@ -11,7 +11,8 @@
 /*
  * MGTSERVER_check_server_url: the URL of the management server, see TcmValidateServerURL.
  *
- * Asserts, line 41. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error server url:%s\n\n" (the value).
+ * A NULL value fails an assertion that reports line 41. Returns 0, or prints
+ * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_server_url(const char* value_p);
 
@@ -26,8 +27,9 @@ OSTREL_API int MGTSERVER_check_firmware_url(const char* value_p);
 /*
  * MGTSERVER_check_server_password: at most 256 bytes of any kind, or empty.
  *
- * Asserts, line 105. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error password:%s\n\n" (the value:
- * the password is printed).
+ * A NULL value fails an assertion that reports line 105. Returns 0, or prints
+ * "Error in %s: Error password:%s\n\n" with the value: the password is printed and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_server_password(const char* value_p);
 
@@ -41,7 +43,8 @@ OSTREL_API int MGTSERVER_check_conn_request_password(const char* value_p);
 /*
  * MGTSERVER_check_periodic_inform: whether the client reports periodically: any value except the empty one.
  *
- * Asserts, line 135. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error empty periodic inform\n\n".
+ * A NULL value fails an assertion that reports line 135. Returns 0, or prints
+ * "Error in %s: Error empty periodic inform\n\n" and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_periodic_inform(const char* value_p);
 
@@ -49,8 +52,8 @@ OSTREL_API int MGTSERVER_check_periodic_inform(const char* value_p);
  * MGTSERVER_check_periodic_inform_time: a date-time, see TcmValidateTime; neither the empty value nor the
  * "unknown time" of TR-069, "0001-01-01T00:00:00Z", is one.
  *
- * Asserts, line 210. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error periodic inform time:%s\n\n"
- * (the value).
+ * A NULL value fails an assertion that reports line 210. Returns 0, or prints
+ * "Error in %s: Error periodic inform time:%s\n\n" with the value and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_periodic_inform_time(const char* value_p);
 
@@ -59,8 +62,8 @@ OSTREL_API int MGTSERVER_check_periodic_inform_time(const char* value_p);
  * follows the digits is ignored, so "30abc" is accepted. There is no upper limit, but a number that does not
  * fit in an int may be read as 0 or less, and is then refused.
  *
- * Asserts, line 240. Returns 0; OSTREL_INVALID_VALUE, with
- * "Error in %s: Invalite periodic inform interval\n\n".
+ * A NULL value fails an assertion that reports line 240. Returns 0, or prints
+ * "Error in %s: Invalite periodic inform interval\n\n" and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_periodic_inform_interval(const char* value_p);
 

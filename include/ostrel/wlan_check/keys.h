@@ -11,7 +11,8 @@
 /*
  * WLAN_check_preshared_key: see TcmValidatePSK.
  *
- * Returns 0; OSTREL_WRONG_FORM, OSTREL_FORBIDDEN_CHARACTER, with "Error in %s: Error key pass phrase:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error key pass phrase:%s\n\n" with the value and returns
+ * OSTREL_WRONG_FORM or OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int WLAN_check_preshared_key(const char* value);
 
@@ -80,7 +81,8 @@ OSTREL_API int WLAN_check_keys(const char* key, const char* type, const char* en
  * WLAN_check_default_wep_key_index: a number of 0 to 3 as atoi reads it: text without a number is 0 and what
  * follows the digits is ignored, so "abc" and the empty value are accepted.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error default wep key index:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error default wep key index:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_default_wep_key_index(const char* value);
 

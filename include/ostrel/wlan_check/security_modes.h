@@ -11,21 +11,24 @@
 /*
  * WLAN_check_beacon_type: see TcmValidateBeaconType.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error beacon type:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error beacon type:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_beacon_type(const char* value);
 
 /*
  * WLAN_check_basic_encryption_modes: "WEPEncryption" or "None".
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic encryption modes:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error basic encryption modes:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_basic_encryption_modes(const char* value);
 
 /*
  * WLAN_check_basic_authentication_modes: "None" or "EAPAuthentication".
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic authentication modes:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error basic authentication modes:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_basic_authentication_modes(const char* value);
 
@@ -33,14 +36,16 @@ OSTREL_API int WLAN_check_basic_authentication_modes(const char* value);
  * WLAN_check_wpa_encryption_modes: "WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption",
  * "AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption" or "WEPandTKIPandAESEncryption".
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wpa encryption modes:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error wpa encryption modes:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_wpa_encryption_modes(const char* value);
 
 /*
  * WLAN_check_wpa_authentication_modes: "PSKAuthentication" or "EAPAuthentication".
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error wpa authentication modes:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error wpa authentication modes:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_wpa_authentication_modes(const char* value);
 
@@ -105,14 +110,14 @@ OSTREL_API int WLAN_check_HNAP_SecurityType(const char* setting1, const char* se
  * renewal: if it is "false", the other two are not examined.
  * type:    if it is "WEP-SHARED", "WEP-RADIUS" or "WEP-OPEN", the interval is not examined.
  *
- * Returns 0; OSTREL_INVALID.
+ * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int WLAN_check_HNAP_KeyRenewal(const char* renewal, const char* interval, const char* type);
 
 /*
  * WLAN_check_radius_sec: a RADIUS shared secret (RFC 2865) of 1 to 80 bytes of any kind. Silent.
  *
- * Returns 0; OSTREL_INVALID.
+ * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int WLAN_check_radius_sec(const char* value);
 

@@ -19,37 +19,40 @@
  * one byte of ISO 8859-1; a number above 255, which has no such byte, becomes 0x1A, so that the SSID is
  * refused. Anything else, including other names ("&euro;"), is unchanged, and the text never grows.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, with
- * "Error in %s: Error SSID:%s\n" (the resulting value).
+ * Returns 0, or prints "Error in %s: Error SSID:%s\n" with the resulting value and returns OSTREL_TOO_SHORT,
+ * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int WLAN_check_ssid(char* value);
 
 /*
  * WLAN_check_max_bit_rate: see TcmValidateRate.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error max bit rate:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error max bit rate:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_max_bit_rate(const char* value);
 
 /*
  * WLAN_check_basic_data_transmit_rate: see TcmValidateDataTransmitRates.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error basic data transmit rate:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error basic data transmit rate:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_basic_data_transmit_rate(const char* value);
 
 /*
  * WLAN_check_op_data_transmit_rate: exactly "1,2,5.5,6,9,11,12,18,24,36,48,54", or the empty value.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error operation data transmit rate:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error operation data transmit rate:%s\n\n" with the value and returns
+ * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_op_data_transmit_rate(const char* value);
 
 /*
  * WLAN_check_location_description: 0 to 4096 bytes of any kind.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with
- * "Error in %s: Error location description :%s length out of range. [0,%d]\n\n" (the value, 4096).
+ * Returns 0, or prints "Error in %s: Error location description :%s length out of range. [0,%d]\n\n" with the
+ * value and 4096 and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_location_description(const char* value);
 
@@ -82,7 +85,8 @@ OSTREL_API int WLAN_check_device_opration_mode(const char* value, int readwrite_
  * WLAN_check_DistanceFromRoot: a negative number as atoi reads it. ZERO AND POSITIVE DISTANCES ARE REFUSED,
  * and so is text without a number.
  *
- * Returns 0; OSTREL_INVALID_DISTANCE, with "Error in %s: Error DistanceFromRoot:%s\n\n".
+ * Returns 0, or prints "Error in %s: Error DistanceFromRoot:%s\n\n" with the value and returns
+ * OSTREL_INVALID_DISTANCE.
  */
 OSTREL_API int WLAN_check_DistanceFromRoot(const char* value);
 
