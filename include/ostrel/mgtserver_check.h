@@ -1,11 +1,13 @@
 /*
- * Management server, guest access, HNAP core.
+ * The management server, guest access and the HNAP core.
  *
  * The value is a NUL-terminated byte string of any length; no check changes it. A check that prints writes
- * its line to standard output when it refuses a value, in which the first %s is its own name unless stated,
- * and then flushes all output streams. "Asserts" means that in every build type the C library's assertion
- * hook reports a NULL value and ends the process: the condition is "value_p != ((void *)0)", the module
- * "mgtserver_check", the line as stated. For all other checks, the value must not be NULL.
+ * its line to standard output when it refuses a value, and then flushes all output streams. The first %s of
+ * the line is the name of the check unless stated otherwise.
+ *
+ * If a NULL value is said to fail an assertion, then in every build type the C library's assertion hook
+ * reports it and ends the process. It reports the condition "value_p != ((void *)0)", the module
+ * "mgtserver_check" and the stated line. For all other checks, the value must not be NULL.
  */
 #ifndef OSTREL_MGTSERVER_CHECK_H
 #define OSTREL_MGTSERVER_CHECK_H

@@ -1,8 +1,9 @@
 /*
- * Names: transport protocol and description of a port mapping, names of devices and of the router.
+ * Names: the transport protocol and the description of a port mapping, and the names of devices and of the
+ * router.
  *
  * The functions print nothing, keep no state and do not change their arguments. No pointer may be NULL.
- * Lengths count bytes; the sets are defined in character_sets.h.
+ * Lengths count bytes; character_sets.h defines the sets.
  */
 #ifndef OSTREL_NAMES_H
 #define OSTREL_NAMES_H
@@ -17,8 +18,8 @@
 OSTREL_API int TcmValidatePortMappingProtocol(const char* value);
 
 /*
- * The names below return 0, OSTREL_TOO_SHORT (empty), OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, in the
- * order of the tests.
+ * The functions below return 0, or the code of the first test that fails: OSTREL_TOO_SHORT (the empty value),
+ * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, in this order.
  */
 
 /* TcmValidatePortMappingDescription: 1 to 32 characters of CHARSET_DESCRIPTION: 0x20 to 0x7E. */

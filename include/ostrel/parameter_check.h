@@ -2,12 +2,13 @@
  * Generic parameter checks: values of common shapes.
  *
  * value_p is the value, a NUL-terminated byte string of any length; no check changes it. A check that prints
- * writes one line to standard output when it refuses a value, beginning "Error in <its own name>: ", and then
- * flushes all output streams. Output of a wrapped primitive is not flushed.
+ * writes one line to standard output when it refuses a value, and then flushes all output streams. The line
+ * begins with "Error in <its own name>: ". The output of a wrapped primitive is not flushed.
  *
- * "Asserts" means that in every build type the C library's assertion hook reports a NULL value and ends the
- * process: the condition is "value_p != ((void *)0)", the module "parameter_check", the function the check.
- * If neither that nor a code for NULL is stated, value_p must not be NULL.
+ * If a NULL value is said to fail an assertion, then in every build type the C library's assertion hook
+ * reports it and ends the process. It reports the condition "value_p != ((void *)0)", the module
+ * "parameter_check" and the name of the check. If neither an assertion nor a result for NULL is stated,
+ * value_p must not be NULL.
  */
 #ifndef OSTREL_PARAMETER_CHECK_H
 #define OSTREL_PARAMETER_CHECK_H
@@ -17,17 +18,19 @@
 /*
  * Param_check_string_len: a length of min_len to max_len bytes, compared as signed numbers.
  *
- * Asserts, with the condition "((void *)0) != value_p". Returns 0; OSTREL_TOO_SHORT (tested first),
- * OSTREL_TOO_LONG, with
- *   "Error in %s: The length of string:%s shoud not be less than %d\n" (the value, min_len) or
- *   "Error in %s: The length of string:%s shoud not be more than %d\n" (the value, max_len).
- * PARAM_check_string_len compares unsigned and is silent.
+ * A NULL value fails an assertion, with the condition "((void *)0) != value_p". Returns 0, or the code of the
+ * first test that fails, after printing its line:
+ * OSTREL_TOO_SHORT:
+ *   "Error in %s: The length of string:%s shoud not be less than %d\n" with the value and min_len;
+ * OSTREL_TOO_LONG:
+ *   "Error in %s: The length of string:%s shoud not be more than %d\n" with the value and max_len.
+ * PARAM_check_string_len compares unsigned numbers and is silent.
  */
 OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_len);
 
 /*
- * PARAM_check_port: a port number of 0 to 65535 as atoi reads it: text without a number is 0 and what follows
- * the digits is ignored, so "abc", "80abc" and the empty value are accepted.
+ * PARAM_check_port: a port number of 0 to 65535 as atoi reads it: a string without a number is 0, and
+ * characters after the digits are ignored, so "abc", "80abc" and the empty value are accepted.
  *
  * A NULL value fails an assertion. Returns 0, or prints "Error in %s: The port shoud be between 0~65535\n"
  * and returns OSTREL_OUT_OF_RANGE.
@@ -35,22 +38,22 @@ OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_
 OSTREL_API int PARAM_check_port(const char* value_p);
 
 /*
- * PARAM_check_ip_addr: an IPv4 address, see TcmValidateIPAddress. Silent.
+ * PARAM_check_ip_addr: an IPv4 address; see TcmValidateIPAddress. Silent.
  *
  * Returns 0 or OSTREL_INVALID_VALUE.
  */
 OSTREL_API int PARAM_check_ip_addr(const char* value_p);
 
 /*
- * PARAM_check_Ordinary_MACAddress: the MAC address of one station, see isValidOrdinaryMACAddress, which may
- * print.
+ * PARAM_check_Ordinary_MACAddress: the MAC address of one station; see isValidOrdinaryMACAddress, which may
+ * print without a flush.
  *
  * Returns 0 or OSTREL_INVALID_VALUE. NULL is invalid.
  */
 OSTREL_API int PARAM_check_Ordinary_MACAddress(const char* value_p);
 
 /*
- * PARAM_check_MACAddress: a MAC address, see TcmValidateMACaddress, which may print, unflushed.
+ * PARAM_check_MACAddress: a MAC address; see TcmValidateMACaddress, which may print without a flush.
  *
  * Returns 0 or OSTREL_INVALID_VALUE. NULL is invalid.
  */
@@ -72,7 +75,7 @@ OSTREL_API int PARAM_check_transport_protocol(const char* value_p);
 OSTREL_API int PARAM_get_protocol_from_name(const char* value_p);
 
 /*
- * PARAM_check_hexa_string: hexadecimal digits of either case only; the empty value is valid. Silent.
+ * PARAM_check_hexa_string: only hexadecimal digits, in either case. The empty value is valid. Silent.
  *
  * A NULL value fails an assertion. Returns 0 or OSTREL_INVALID.
  */
@@ -81,13 +84,13 @@ OSTREL_API int PARAM_check_hexa_string(const char* value_p);
 /*
  * PARAM_check_printable_ascii_string: one or more bytes, each of 0x20 to 0x7E. Silent.
  *
- * Returns 0; OSTREL_INVALID, also for the empty value and for NULL.
+ * Returns 0 or OSTREL_INVALID. The empty value and NULL are invalid.
  */
 OSTREL_API int PARAM_check_printable_ascii_string(const char* value_p);
 
 /*
- * PARAM_check_provisioning_code: a provisioning code, see TcmValidateProvisioningCode, which may print,
- * unflushed.
+ * PARAM_check_provisioning_code: a provisioning code; see TcmValidateProvisioningCode, which may print
+ * without a flush.
  *
  * Returns 0 or OSTREL_INVALID_VALUE.
  */
@@ -96,10 +99,12 @@ OSTREL_API int PARAM_check_provisioning_code(const char* value_p);
 /*
  * PARAM_check_ui2_value, PARAM_check_ui4_value: an unsigned integer of two or four bytes.
  *
- * FOR A VALUE THAT BEGINS WITH A DIGIT THEY NEVER RETURN. The empty value is accepted, any other is refused.
+ * FOR A VALUE THAT BEGINS WITH A DIGIT THEY NEVER RETURN. The empty value is accepted, and any other is
+ * refused.
  *
- * Assert. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: The value %s is invalid\n". The lines for a
- * number out of range, "Error in %s: The value %s should be between [0,65536)\n" and
+ * A NULL value fails an assertion. Both return 0, or print "Error in %s: The value %s is invalid\n" with the
+ * value and return OSTREL_INVALID_VALUE. The lines for a number out of range,
+ * "Error in %s: The value %s should be between [0,65536)\n" and
  * "Error in %s: The value %s should be between [0,4296967296)\n", are never printed.
  */
 OSTREL_API int PARAM_check_ui2_value(const char* value_p);
@@ -122,14 +127,15 @@ OSTREL_API int PARAM_check_bool_value(const char* value_p);
 OSTREL_API int PARAM_check_bool_value_use_str(const char* value_p);
 
 /*
- * PARAM_check_number: min_len to max_len decimal digits; the limits are lengths, not values. Silent.
+ * PARAM_check_number: min_len to max_len decimal digits. The limits are lengths, not values. Silent.
  *
  * Returns what ValidateString returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int PARAM_check_number(const char* value_p, int min_len, int max_len);
 
 /*
- * PARAM_check_num_range: decimal digits whose number is from min to max; the empty value is 0. Silent.
+ * PARAM_check_num_range: decimal digits that form a number from min to max. The empty value is read as 0.
+ * Silent.
  *
  * Returns what ValidateNum returns: 0, OSTREL_FORBIDDEN_CHARACTER or OSTREL_OUT_OF_RANGE.
  */
@@ -146,28 +152,29 @@ OSTREL_API int PARAM_check_password(const char* value_p, int min_len, int max_le
  * PARAM_check_string_len: a length of min_len to max_len bytes, compared as unsigned numbers: a negative
  * limit becomes a huge one. Silent.
  *
- * Returns 0; OSTREL_INVALID. Param_check_string_len compares signed and prints.
+ * Returns 0 or OSTREL_INVALID. Param_check_string_len compares signed numbers and prints.
  */
 OSTREL_API int PARAM_check_string_len(const char* value_p, unsigned min_len, unsigned max_len);
 
 /*
- * PARAM_check_string_prefix: the first byte is one of first_chars, which must not be NULL. The empty value is
- * accepted. Silent.
+ * PARAM_check_string_prefix: the first byte must be one of first_chars, which must not be NULL. The empty
+ * value is accepted. Silent.
  *
  * A NULL value fails an assertion. Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int PARAM_check_string_prefix(const char* value_p, const char* first_chars);
 
 /*
- * PARAM_check_dl_test_bufsize: the buffer size of a download test in bytes, 1 to 1048576, decimal digits
- * only.
+ * PARAM_check_dl_test_bufsize: the buffer size of a download test in bytes: 1 to 1048576, written in decimal
+ * digits only.
  *
  * Returns 0, or:
- * OSTREL_OUT_OF_RANGE: NULL, empty, or a number that overflows to a negative one, silently; or a character
- *   that is not a digit, with "Error in %s: The value %s is invalid\n";
- * OSTREL_WRONG_FORM: the number is 0, silently;
- * OSTREL_BUFFER_SIZE_TOO_LARGE: above 1048576, with
- *   "Error in %s: The value %s should be between [1,%d)\n" (the value, 1048576).
+ * OSTREL_OUT_OF_RANGE: the value is NULL or empty, or the number overflows to a negative one; nothing is
+ *   printed. Also if a character is not a digit, after printing
+ *   "Error in %s: The value %s is invalid\n" with the value;
+ * OSTREL_WRONG_FORM: the number is 0; nothing is printed;
+ * OSTREL_BUFFER_SIZE_TOO_LARGE: the number is above 1048576, after printing
+ *   "Error in %s: The value %s should be between [1,%d)\n" with the value and 1048576.
  */
 OSTREL_API int PARAM_check_dl_test_bufsize(const char* value_p);
 

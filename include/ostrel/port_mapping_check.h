@@ -1,12 +1,14 @@
 /*
  * Port mapping checks: the parameters of forwarding a WAN port to a host on the LAN.
  *
- * Only permanent mappings of one external port, open to every remote host, are supported. Values are
+ * Only permanent mappings of one external port that are open to every remote host are supported. Values are
  * NUL-terminated byte strings of any length; no check changes them. A check that refuses a value writes the
- * stated lines to standard output and flushes all output streams after each. An accepted value prints
- * nothing. Only PORTMAPPING_check_port_available asserts: in every build type the C library's assertion hook
- * reports NULL and ends the process; the condition is "value_p != ((void *)0)", the module
- * "port_mapping_check", the line that of the source.
+ * stated lines to standard output and flushes all output streams after each. The first %s of a line is the
+ * name of the check. A check that accepts a value prints nothing.
+ *
+ * Only PORTMAPPING_check_port_available asserts: in every build type, the C library's assertion hook reports
+ * a NULL value and ends the process. It reports the condition "value_p != ((void *)0)", the module
+ * "port_mapping_check" and the source line.
  */
 #ifndef OSTREL_PORT_MAPPING_CHECK_H
 #define OSTREL_PORT_MAPPING_CHECK_H
@@ -14,7 +16,7 @@
 #include <ostrel/api.h>
 
 /*
- * PORTMAPPING_check_remote_host: NULL or the empty value, which mean every remote host.
+ * PORTMAPPING_check_remote_host: NULL or the empty value, both of which mean every remote host.
  *
  * Returns 0, or prints "Error in %s: The remote host should be empty\n" and returns
  * OSTREL_REMOTE_HOST_NOT_WILDCARD.
@@ -22,28 +24,31 @@
 OSTREL_API int PORTMAPPING_check_remote_host(const char* value_p);
 
 /*
- * PORTMAPPING_check_external_port: a port that PARAM_check_port accepts, and not the wildcard.
+ * PORTMAPPING_check_external_port: a port that PARAM_check_port accepts and that is not the wildcard.
  *
- * Returns 0; OSTREL_WILDCARD_EXTERNAL_PORT: NULL or the empty value, with
- *   "Error in %s: The remote host should not be wildcard\n" (the port is meant);
- * OSTREL_OUT_OF_RANGE, with PARAM_check_port's line under PARAM_check_port's name.
+ * Returns 0, or:
+ * OSTREL_WILDCARD_EXTERNAL_PORT: NULL or the empty value, after printing
+ *   "Error in %s: The remote host should not be wildcard\n", which refers to the port;
+ * OSTREL_OUT_OF_RANGE: PARAM_check_port refuses the port and prints its line, with its own name.
  */
 OSTREL_API int PORTMAPPING_check_external_port(const char* value_p);
 
 /*
  * PORTMAPPING_check_port_available: a WAN port that the gateway does not reserve for its own services.
  *
- * port:     the number as atoi reads it; text without a number is port 0, which is free. With
- *           protocol 0 or 1 it is asserted, under the name is_port_reserved or is_wan_udp_port_available;
- *           with any other protocol it may be NULL.
- * protocol: 0 for TCP, 1 for UDP; with any other number every port is accepted.
+ * port:     the number as atoi reads it; a string without a number is port 0, which is free. With
+ *           protocol 0 or 1, a NULL port fails an assertion that reports the function is_port_reserved or
+ *           is_wan_udp_port_available, respectively; with any other protocol, port may be NULL.
+ * protocol: 0 for TCP, 1 for UDP; with any other number, every port is accepted.
  *
- * Reserved are the TCP ports 80, 161, 443, 1723, 1728, 6667 and 7547, and the UDP ports 161, 5060, and 54000
- * to 54999 for the media of the voice service.
+ * The reserved ports are the TCP ports 80, 161, 443, 1723, 1728, 6667 and 7547, and the UDP ports 161, 5060,
+ * and 54000 to 54999 (for the media of the voice service).
  *
- * Returns 0; OSTREL_INVALID_VALUE, with two lines, the port in both:
+ * Returns 0, or prints two lines with the port and returns OSTREL_INVALID_VALUE. The first line has the name
+ * of the function that finds the port reserved:
  *   "Error in is_port_reserved: The port:%s is reserved\n" or
- *   "Error in is_wan_udp_port_available: The udp port:%s is reserved sip rtp ports\n", and then
+ *   "Error in is_wan_udp_port_available: The udp port:%s is reserved sip rtp ports\n".
+ * The second line has the name of the check:
  *   "Error in %s: Error port mapping external port:%s\n\n".
  */
 OSTREL_API int PORTMAPPING_check_port_available(const char* port, int protocol);
@@ -58,8 +63,8 @@ OSTREL_API int PORTMAPPING_check_port_available(const char* port, int protocol);
 OSTREL_API int PORTMAPPING_check_description(const char* value_p);
 
 /*
- * PORTMAPPING_check_lease_duration: a lease of 0 seconds as atoi reads it, which means a permanent mapping;
- * text without a number is 0. value_p must not be NULL.
+ * PORTMAPPING_check_lease_duration: a lease of 0 seconds as atoi reads it, which means a permanent mapping; a
+ * string without a number is 0. value_p must not be NULL.
  *
  * Returns 0, or prints "Error in %s: The port mapping lease should be zero\n" and returns
  * OSTREL_LEASE_NOT_PERMANENT.

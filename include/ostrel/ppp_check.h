@@ -2,8 +2,8 @@
  * PPP connection checks: the parameters of the WAN connection (PPP, RFC 1661; PPPoE, RFC 2516).
  *
  * value is a NUL-terminated byte string of any length and must not be NULL; no check changes it. A check that
- * refuses a value writes one line to standard output, beginning "Error in <its own name>: " and ending in two
- * line breaks, and flushes all output streams. An accepted value prints nothing.
+ * refuses a value writes one line to standard output and flushes all output streams. The line begins with
+ * "Error in <its own name>: " and ends in two newlines. A check that accepts a value prints nothing.
  */
 #ifndef OSTREL_PPP_CHECK_H
 #define OSTREL_PPP_CHECK_H
@@ -21,8 +21,9 @@ OSTREL_API int PPP_check_connection_type(const char* value);
 /*
  * PPP_check_user_name: a user name that TcmValidatePPPUsername accepts, of any account type.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, OSTREL_INVALID_VALUE, as that
- * function returns them, with "Error in %s: Error ppp user name:%s\n\n" (the value).
+ * Returns what TcmValidatePPPUsername returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG,
+ * OSTREL_FORBIDDEN_CHARACTER or OSTREL_INVALID_VALUE. If that is not 0, prints
+ * "Error in %s: Error ppp user name:%s\n\n" with the value.
  */
 OSTREL_API int PPP_check_user_name(const char* value);
 
@@ -35,7 +36,7 @@ OSTREL_API int PPP_check_user_name(const char* value);
 OSTREL_API int PPP_check_tonline_password(const char* value);
 
 /*
- * PPP_check_non_tonline_password: the password of any other provider's account, see TcmValidatePPPPassword.
+ * PPP_check_non_tonline_password: the password of any other provider's account; see TcmValidatePPPPassword.
  *
  * Returns 0, or prints "Error in %s: Error none T-Online ppp password:%s\n\n" with the value and returns
  * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
@@ -52,8 +53,8 @@ OSTREL_API int PPP_check_pppoe_service_name(const char* value);
 /*
  * PPP_check_connection_trigger: exactly "OnDemand" or "AlwaysOn".
  *
- * Returns 0; OSTREL_EMPTY; OSTREL_INVALID_VALUE: any other value; both with
- *   "Error in %s: Error connection trigger:%s\n\n" (the value).
+ * Returns 0, or prints "Error in %s: Error connection trigger:%s\n\n" with the value and returns OSTREL_EMPTY
+ * for the empty value or OSTREL_INVALID_VALUE for any other.
  */
 OSTREL_API int PPP_check_connection_trigger(const char* value);
 
@@ -73,8 +74,8 @@ OSTREL_API int PPP_check_idle_disconnect_time(const char* value);
 OSTREL_API int PPP_check_route_protocol_rx(const char* value);
 
 /*
- * PPP_check_shaping_rate: a number of -1 or more as atoi reads it; text without a number is 0, so the empty
- * value is accepted. The unit is left to the host.
+ * PPP_check_shaping_rate: a number of -1 or more as atoi reads it; a string without a number is 0, so the
+ * empty value is accepted. The host defines the unit.
  *
  * Returns 0, or prints "Error in %s: Error shaping rate:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
@@ -82,8 +83,8 @@ OSTREL_API int PPP_check_route_protocol_rx(const char* value);
 OSTREL_API int PPP_check_shaping_rate(const char* value);
 
 /*
- * PPP_check_shaping_burst_size: a number of 0 or more, read in the same way; unlike the rate it cannot be -1.
- * The unit is left to the host.
+ * PPP_check_shaping_burst_size: a number of 0 or more, read in the same way; unlike the rate, it cannot be
+ * -1. The host defines the unit.
  *
  * Returns 0, or prints "Error in %s: Error shaping burst size:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.

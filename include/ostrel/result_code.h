@@ -1,5 +1,5 @@
 /*
- * Result codes: what every check returns.
+ * Result codes: the values that the checks return.
  *
  * 0 means that the value may be stored; every other code names the fault. The comment of each check lists the
  * codes that it returns.

@@ -9,20 +9,24 @@
 #include <ostrel/api.h>
 
 /*
- * GUESTACCESS_check_max_allowed_number: the number of guests that are allowed: 1 or 2 digits, above 0.
+ * GUESTACCESS_check_max_allowed_number: the number of guests that are allowed: 1 or 2 digits; the number must
+ * be greater than 0.
  *
- * Returns 0; OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
- * "Error in %s: Error max allowed number:%s\n\n" (the value). If the number that atoi reads is not above
- * 0, "Error in %s: Error min allowed number:%s\n\n" (the value) is printed too, and OSTREL_INVALID_VALUE is
- * returned whatever the first fault was: "abc" and the empty value print both lines, "0" only the second.
+ * Returns 0, or prints one line or both and returns the code of the last one:
+ * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, as ValidateString returns them:
+ *   "Error in %s: Error max allowed number:%s\n\n" with the value;
+ * OSTREL_INVALID_VALUE: the number that atoi reads is not greater than 0:
+ *   "Error in %s: Error min allowed number:%s\n\n" with the value.
+ * For "abc" and the empty value, both lines are printed; for "0", only the second.
  */
 OSTREL_API int GUESTACCESS_check_max_allowed_number(const char* value);
 
 /*
  * GUESTACCESS_check_password: 4 to 32 characters of CHARSET_ALNUM.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
- * "Error in %s: Error max allowed number:%s\n\n" (the value): the text says "number" here too.
+ * Returns what ValidateString returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER. If
+ * that is not 0, prints "Error in %s: Error max allowed number:%s\n\n" with the value: the line says "number"
+ * here too.
  */
 OSTREL_API int GUESTACCESS_check_password(const char* value);
 

@@ -1,5 +1,5 @@
 /*
- * HNAP core.
+ * The HNAP core.
  *
  * <ostrel/mgtserver_check.h> describes what these checks have in common.
  */
@@ -9,19 +9,21 @@
 #include <ostrel/api.h>
 
 /*
- * HNAPCORE_check_username: the administrator's name, 1 to 16 bytes of CHARSET_LATIN1_PRINTABLE.
+ * HNAPCORE_check_username: the name of the administrator, 1 to 16 bytes of CHARSET_LATIN1_PRINTABLE.
  *
- * Returns 0; OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER, as ValidateString, with
- * "Error in %s: Error max allowed number:%s\n\n" (the value): the text says "number" here too.
+ * Returns what ValidateString returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER. If
+ * that is not 0, prints "Error in %s: Error max allowed number:%s\n\n" with the value: the line says "number"
+ * here too.
  */
 OSTREL_API int HNAPCORE_check_username(const char* value);
 
 /*
- * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, with anything after it. Silent.
+ * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, followed by any text. Silent.
  *
- * offset_out: a caller-owned buffer that receives what follows "UTC", or "+00:00" if nothing does, with the
- *             terminator. It must have room for that and for at least 7 bytes. What follows "UTC" is not
- *             examined. The buffer is unchanged on failure and must not overlap the value.
+ * offset_out: a caller-owned buffer that receives the text after "UTC" and its terminator, or "+00:00" if
+ *             there is none. It must have room for that text, and for at least 7 bytes. The text after "UTC"
+ *             is
+ *             not examined. The buffer is unchanged on failure and must not overlap the value.
  *
  * Returns 0 or OSTREL_INVALID.
  */
@@ -29,7 +31,7 @@ OSTREL_API int HNAPCORE_check_timezone(const char* value, char* offset_out);
 
 /*
  * HNAPCORE_check_locale: a locale of the user interface, in any mixture of upper and lower case: en-us,
- * fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th (tags of RFC 5646). Silent.
+ * fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl or th-th (tags of RFC 5646). Silent.
  *
  * Returns 0 or OSTREL_INVALID.
  */

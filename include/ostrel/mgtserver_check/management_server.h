@@ -9,7 +9,7 @@
 #include <ostrel/api.h>
 
 /*
- * MGTSERVER_check_server_url: the URL of the management server, see TcmValidateServerURL.
+ * MGTSERVER_check_server_url: the URL of the management server; see TcmValidateServerURL.
  *
  * A NULL value fails an assertion that reports line 41. Returns 0, or prints
  * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE.
@@ -17,25 +17,27 @@
 OSTREL_API int MGTSERVER_check_server_url(const char* value_p);
 
 /*
- * MGTSERVER_check_firmware_url: the URL of a firmware image, see TcmValidatefirmwareURL.
+ * MGTSERVER_check_firmware_url: the URL of a firmware image; see TcmValidatefirmwareURL.
  *
- * Asserts, line 75. Returns 0; OSTREL_INVALID_VALUE, with "Error in %s: Error server url:%s\n\n" (the value),
- * which also says "server url".
+ * A NULL value fails an assertion that reports line 75. Returns 0, or prints
+ * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE. The line says
+ * "server url" here too.
  */
 OSTREL_API int MGTSERVER_check_firmware_url(const char* value_p);
 
 /*
- * MGTSERVER_check_server_password: at most 256 bytes of any kind, or empty.
+ * MGTSERVER_check_server_password: at most 256 bytes of any kind; the empty value is accepted.
  *
  * A NULL value fails an assertion that reports line 105. Returns 0, or prints
- * "Error in %s: Error password:%s\n\n" with the value: the password is printed and returns
+ * "Error in %s: Error password:%s\n\n" with the value, which is the password, and returns
  * OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_server_password(const char* value_p);
 
 /*
  * MGTSERVER_check_conn_request_username, MGTSERVER_check_conn_request_password: the credentials of a
- * connection request. Both call MGTSERVER_check_server_password, under whose name they print and assert.
+ * connection request. Both call MGTSERVER_check_server_password, whose name appears in the line and in the
+ * assertion.
  */
 OSTREL_API int MGTSERVER_check_conn_request_username(const char* value_p);
 OSTREL_API int MGTSERVER_check_conn_request_password(const char* value_p);
@@ -49,8 +51,8 @@ OSTREL_API int MGTSERVER_check_conn_request_password(const char* value_p);
 OSTREL_API int MGTSERVER_check_periodic_inform(const char* value_p);
 
 /*
- * MGTSERVER_check_periodic_inform_time: a date-time, see TcmValidateTime; neither the empty value nor the
- * "unknown time" of TR-069, "0001-01-01T00:00:00Z", is one.
+ * MGTSERVER_check_periodic_inform_time: a date-time; see TcmValidateTime. The empty value is refused, and so
+ * is the "unknown time" of TR-069, "0001-01-01T00:00:00Z".
  *
  * A NULL value fails an assertion that reports line 210. Returns 0, or prints
  * "Error in %s: Error periodic inform time:%s\n\n" with the value and returns OSTREL_INVALID_VALUE.
@@ -58,9 +60,9 @@ OSTREL_API int MGTSERVER_check_periodic_inform(const char* value_p);
 OSTREL_API int MGTSERVER_check_periodic_inform_time(const char* value_p);
 
 /*
- * MGTSERVER_check_periodic_inform_interval: seconds between two reports, above 0 as atoi reads it: what
- * follows the digits is ignored, so "30abc" is accepted. There is no upper limit, but a number that does not
- * fit in an int may be read as 0 or less, and is then refused.
+ * MGTSERVER_check_periodic_inform_interval: the number of seconds between two reports, which must be greater
+ * than 0 as atoi reads it. Characters after the digits are ignored, so "30abc" is accepted. There is no upper
+ * limit, but a number that does not fit in an int may be read as 0 or less, and is then refused.
  *
  * A NULL value fails an assertion that reports line 240. Returns 0, or prints
  * "Error in %s: Invalite periodic inform interval\n\n" and returns OSTREL_INVALID_VALUE.
