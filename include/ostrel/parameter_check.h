@@ -169,10 +169,10 @@ OSTREL_API int PARAM_check_string_prefix(const char* value_p, const char* first_
  * digits only.
  *
  * Returns 0, or:
- * OSTREL_OUT_OF_RANGE: the value is NULL or empty, or the number overflows to a negative one; nothing is
- *   printed. Also if a character is not a digit, after printing
+ * OSTREL_OUT_OF_RANGE: the value is NULL or empty, or its number overflows to a negative one, and nothing is
+ *   printed; or a character is not a digit, after printing
  *   "Error in %s: The value %s is invalid\n" with the value;
- * OSTREL_WRONG_FORM: the number is 0; nothing is printed;
+ * OSTREL_WRONG_FORM: the number is 0, and nothing is printed;
  * OSTREL_BUFFER_SIZE_TOO_LARGE: the number is above 1048576, after printing
  *   "Error in %s: The value %s should be between [1,%d)\n" with the value and 1048576.
  */

@@ -1,6 +1,6 @@
 /*
- * The version of the headers that a program is compiled with. The library exports no version: ask
- * pkg-config, CMake or the package manager which one is installed, see docs/compatibility.md.
+ * The version of the headers with which a program is compiled. The library exports no version: use
+ * pkg-config, CMake or the package manager to find out which one is installed; see docs/compatibility.md.
  */
 #ifndef OSTREL_VERSION_H
 #define OSTREL_VERSION_H
@@ -11,7 +11,7 @@
 #define OSTREL_CHECK_VERSION_PATCH 0
 
 /*
- * OSTREL_CHECK_VERSION_AT_LEAST: true in #if for headers of that version or a later one.
+ * OSTREL_CHECK_VERSION_AT_LEAST: true in #if if the headers have the given version or a later one.
  */
 #define OSTREL_CHECK_VERSION_AT_LEAST(major, minor, patch)                              \
     (OSTREL_CHECK_VERSION_MAJOR > (major) ||                                            \

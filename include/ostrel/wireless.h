@@ -1,5 +1,5 @@
 /*
- * Wireless primitives: keys, rates, beacon type and SSID of a wireless LAN.
+ * Wireless primitives: the keys, rates, beacon type and SSID of a wireless LAN.
  *
  * Values are NUL-terminated byte strings of any length; none may be NULL and none is changed. Every
  * comparison is byte by byte and case-sensitive. Only TcmValidateSSID prints.
@@ -10,9 +10,9 @@
 #include <ostrel/api.h>
 
 /*
- * TcmValueisValid: every byte of the value is one of allowed, which may be empty but not NULL.
+ * TcmValueisValid: every byte of the value must be one of allowed, which may be empty but not NULL.
  *
- * Returns 0, also for the empty value; OSTREL_FORBIDDEN_CHARACTER.
+ * Returns 0 or OSTREL_FORBIDDEN_CHARACTER. The empty value is valid.
  */
 OSTREL_API int TcmValueisValid(const char* value, const char* allowed);
 
@@ -20,8 +20,8 @@ OSTREL_API int TcmValueisValid(const char* value, const char* allowed);
  * TcmValidatePSK: a WPA pre-shared key in its raw form (IEEE 802.11, the 256-bit PSK): 64 characters of
  * CHARSET_HEX.
  *
- * Returns 0; OSTREL_WRONG_FORM: another length, tested first, the empty value included;
- * OSTREL_FORBIDDEN_CHARACTER.
+ * Returns 0, or the code of the first test that fails: OSTREL_WRONG_FORM if the value has any other length
+ * (the empty value included), or OSTREL_FORBIDDEN_CHARACTER.
  */
 OSTREL_API int TcmValidatePSK(const char* value);
 
@@ -29,14 +29,14 @@ OSTREL_API int TcmValidatePSK(const char* value);
  * TcmValidateKPP: a WPA pass phrase (IEEE 802.11, annex on the pass-phrase mapping): 8 to 63 characters of
  * CHARSET_ASCII_PRINTABLE.
  *
- * Returns 0; OSTREL_TOO_SHORT, also for the empty value; OSTREL_TOO_LONG, before any character is examined;
- * OSTREL_FORBIDDEN_CHARACTER.
+ * Returns 0, or the code of the first test that fails: OSTREL_TOO_SHORT (also for the empty value),
+ * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER. Both lengths are tested before any character is examined.
  */
 OSTREL_API int TcmValidateKPP(const char* value);
 
 /*
  * TcmValidateRate: "Auto" or one of the twelve IEEE 802.11b/g rates in Mbit/s: "1", "2", "5.5", "6", "9",
- * "11", "12", "18", "24", "36", "48", "54".
+ * "11", "12", "18", "24", "36", "48" or "54".
  *
  * Returns 0 or OSTREL_INVALID. The empty value is invalid.
  */
@@ -51,13 +51,13 @@ OSTREL_API int TcmValidateBeaconType(const char* value);
 
 /*
  * TcmValidateSSID: an SSID of 1 to 32 bytes (IEEE 802.11, SSID element), each of 0x20 to 0x7E. Spaces are
- * allowed anywhere; every byte from 0x80 up is refused.
+ * allowed anywhere; every byte of 0x80 or above is refused.
  *
- * Every call, whatever it returns, prints "Info in %s: The lenght of SSID is %d\n\n" (TcmValidateSSID, the
- * length in bytes) to standard output and flushes all output streams.
+ * Every call, whatever it returns, prints "Info in %s: The lenght of SSID is %d\n\n" with TcmValidateSSID and
+ * the length in bytes to standard output and flushes all output streams.
  *
- * Returns 0; OSTREL_TOO_LONG, before any byte is examined; OSTREL_FORBIDDEN_CHARACTER; OSTREL_TOO_SHORT: the
- * empty value.
+ * Returns 0, or the code of the first test that fails: OSTREL_TOO_SHORT for the empty value, OSTREL_TOO_LONG
+ * or OSTREL_FORBIDDEN_CHARACTER. The length is tested before any byte is examined.
  */
 OSTREL_API int TcmValidateSSID(const char* value);
 
@@ -65,8 +65,8 @@ OSTREL_API int TcmValidateSSID(const char* value);
  * TcmValidateDataTransmitRates: "all", "default", or one or more of the twelve rates separated by single
  * commas.
  *
- * Order is free and a rate may be repeated. Spaces and empty items are refused, and so is "Auto". A list may
- * be of any length.
+ * The rates may be in any order, and a rate may be repeated. Spaces and empty items are refused, and so is
+ * "Auto". A list may be of any length.
  *
  * Returns 0 or OSTREL_INVALID. The empty value is invalid.
  */

@@ -2,19 +2,19 @@
  * Wireless LAN checks: security modes, keys, radio and the other settings.
  *
  * Values are NUL-terminated byte strings of any length and must not be NULL; only WLAN_check_wepkeys tests
- * for that. Keywords are compared byte by byte and case-sensitively, except the name of a radio. The empty
+ * for NULL. Keywords are compared byte by byte and case-sensitively, except the name of a radio. The empty
  * value is not a keyword.
  *
  * A check that prints writes to standard output when it refuses a value, except as stated, and then flushes
- * all output streams; the texts are complete, and the first %s is the check's own name. WLAN_check_keys
+ * all output streams. The lines are stated in full; the first %s is the name of the check. WLAN_check_keys
  * writes to standard error, and so may the shell that WLAN_check_channel runs.
  *
  * Only WLAN_check_ssid and WLAN_check_wepkeys change their arguments.
  *
- * The host process may supply two utilities, exported from the program or a library that it has loaded:
+ * The host process may supply two functions, exported from the program or from a library that it has loaded:
  *
- *     int cmsUtl_strcmp(const char* a, const char* b);     0 for equal texts; any other number otherwise
- *     int htmlToText(char* text, size_t length);           rewrites the character references of the text in
+ *     int cmsUtl_strcmp(const char* a, const char* b);     0 for equal strings; any other number otherwise
+ *     int htmlToText(char* text, size_t length);           rewrites the character references of the string in
  *                                                          place; text[length] is the terminator, and a
  *                                                          shorter result must be terminated; the result is
  *                                                          ignored

@@ -3,9 +3,9 @@
  *
  * <ostrel/wlan_check.h> describes what all checks of the wireless LAN have in common.
  *
- * radio is "RADIO_2.4GHz" or "RADIO_5GHz", in any mixture of upper and lower case. Numbers are as atoi reads
- * them: text without a number, the empty value included, is 0. All return 0 or OSTREL_INVALID and print
- * nothing themselves.
+ * radio is "RADIO_2.4GHz" or "RADIO_5GHz", in any mixture of upper and lower case. Numbers are read with
+ * atoi: a string without a number, the empty value included, is 0. Every check returns 0 or OSTREL_INVALID
+ * and prints nothing itself.
  */
 #ifndef OSTREL_WLAN_CHECK_RADIO_H
 #define OSTREL_WLAN_CHECK_RADIO_H
@@ -18,28 +18,33 @@ OSTREL_API int WLAN_check_radio_id(const char* radio);
 /*
  * WLAN_check_channel: the channel of a radio.
  *
- * "0" selects the channel automatically and is valid for any radio, even one that does not exist. On 2.4 GHz
- * a channel is valid if it is below 14 and among the first 15 numbers that the driver lists: the shell runs
- * "wlctl -i wl0 channels > /var/hnapwl0chlist", and the file is read and deleted. If the file cannot be
- * opened, every channel is refused and nothing is deleted. If there is no wlctl, the shell says so on
- * standard error, and the list is empty; what wlctl itself writes to standard error appears there too. On 5
- * GHz the channels 36, 40, 44, 48, 149, 153, 157 and 161 are valid, and 0: also "00", text without a number
- * and the empty value.
+ * "0" selects the channel automatically and is valid for any radio, even one that does not exist.
  *
- * THE FILE HAS A FIXED NAME, so two calls must not run at once. Only the 2.4 GHz radio runs the command.
+ * On 2.4 GHz, a channel is valid if it is below 14 and among the first 15 numbers that the driver lists: the
+ * shell runs "wlctl -i wl0 channels > /var/hnapwl0chlist", and the file is read and deleted. If the file
+ * cannot be opened, every channel is refused and nothing is deleted. If there is no wlctl, the shell reports
+ * that on standard error, and the list is empty. Anything that wlctl writes to standard error also appears
+ * there.
+ *
+ * On 5 GHz, the valid channels are 36, 40, 44, 48, 149, 153, 157 and 161, and 0, which may also be written as
+ * "00", as a string without a number or as the empty value.
+ *
+ * THE FILE HAS A FIXED NAME, so two calls must not run at the same time. The command is run only for the 2.4
+ * GHz radio.
  */
 OSTREL_API int WLAN_check_channel(const char* channel, const char* radio);
 
 /*
  * WLAN_check_second_channel: the second channel of a 40 MHz pair on 2.4 GHz.
  *
- * The second channel is primary + 2 for 1 to 4 and 7, and primary - 2 for 5, 6 and 8 to 13; or both are 0.
+ * The second channel must be primary + 2 if primary is 1 to 4 or 7, and primary - 2 if it is 5, 6 or 8 to 13;
+ * or both must be 0.
  */
 OSTREL_API int WLAN_check_second_channel(const char* primary, const char* second);
 
 /*
  * WLAN_check_5g_second_channel: the centre of a 40 MHz pair on 5 GHz: 38 for 36 and 40, 46 for 44 and 48, 151
- * for 149 and 153, 159 for 157 and 161; or both are 0.
+ * for 149 and 153, or 159 for 157 and 161; or both must be 0.
  */
 OSTREL_API int WLAN_check_5g_second_channel(const char* primary, const char* second);
 

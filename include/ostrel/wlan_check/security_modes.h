@@ -9,7 +9,7 @@
 #include <ostrel/api.h>
 
 /*
- * WLAN_check_beacon_type: see TcmValidateBeaconType.
+ * WLAN_check_beacon_type: a beacon type; see TcmValidateBeaconType.
  *
  * Returns 0, or prints "Error in %s: Error beacon type:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
@@ -52,40 +52,48 @@ OSTREL_API int WLAN_check_wpa_authentication_modes(const char* value);
 /*
  * WLAN_check_IEEE11i_encryption_modes: an encryption mode of IEEE 802.11i (WPA2).
  *
- * readwrite_mode: which list applies.
- *                 0: "AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption",
+ * readwrite_mode: selects the list that applies.
+ *                 0: "AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption" or
  *                    "WEPandTKIPandAESEncryption"
- *                 1: "WEPEncryption", "TKIPEncryption", "WEPandTKIPEncryption"
+ *                 1: "WEPEncryption", "TKIPEncryption" or "WEPandTKIPEncryption"
  *
- * Returns 0; OSTREL_INVALID_VALUE, in the order of the tests:
- *   32 bytes or more: "Error in %s: Error IEEE11i encryption modes:%s length out of range. [0,31]\n\n"
- *   another mode:     "Error in %s: Error IEEE11i encryption modes:readwrite mode %d invalid \n\n"
- *   not in the list:  "Error in %s: Error IEEE11i encryption modes:%s\n\n"
+ * Returns 0, or OSTREL_INVALID_VALUE after printing the line of the first test that fails:
+ *   the value has 32 bytes or more:
+ *     "Error in %s: Error IEEE11i encryption modes:%s length out of range. [0,31]\n\n" with the value;
+ *   readwrite_mode is neither 0 nor 1:
+ *     "Error in %s: Error IEEE11i encryption modes:readwrite mode %d invalid \n\n" with readwrite_mode;
+ *   the value is not in the list:
+ *     "Error in %s: Error IEEE11i encryption modes:%s\n\n" with the value.
  */
 OSTREL_API int WLAN_check_IEEE11i_encryption_modes(const char* value, int readwrite_mode);
 
 /*
  * WLAN_check_IEEE11i_authentication_modes: an authentication mode of IEEE 802.11i.
  *
- * readwrite_mode: 0: "EAPAuthentication", "EAPandPSKAuthentication"; 1: "PSKAuthentication".
+ * readwrite_mode: selects the list that applies.
+ *                 0: "EAPAuthentication" or "EAPandPSKAuthentication"
+ *                 1: "PSKAuthentication"
  *
- * Codes, tests and texts as for WLAN_check_IEEE11i_encryption_modes: the texts say "encryption modes".
+ * The codes, the tests and the lines are those of WLAN_check_IEEE11i_encryption_modes: the lines say
+ * "encryption modes" here too.
  */
 OSTREL_API int WLAN_check_IEEE11i_authentication_modes(const char* value, int readwrite_mode);
 
 /*
  * WLAN_check_authentication_service_mode: "none" (in lower case), "LinkAuthentication" or "RadiusClient".
  *
- * Returns 0; OSTREL_INVALID_VALUE, with
- *   32 bytes or more: "Error in %s: Error authentication_service_mode:%s length out of range. [0,31]\n\n"
- *   otherwise:        "Error in %s: Error authentication_service_mode value invalid :%s\n\n"
+ * Returns 0, or OSTREL_INVALID_VALUE after printing the line of the first test that fails:
+ *   the value has 32 bytes or more:
+ *     "Error in %s: Error authentication_service_mode:%s length out of range. [0,31]\n\n" with the value;
+ *   the value is none of the three:
+ *     "Error in %s: Error authentication_service_mode value invalid :%s\n\n" with the value.
  */
 OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
 
 /*
  * WLAN_check_HNAP_SecurityType: an HNAP security type and the encryption that suits it. Silent.
  *
- * setting1, setting2: "0" and "auto" together allow WPA2 only.
+ * setting1, setting2: if they are "0" and "auto", only the WPA2 types are allowed.
  *
  *   type                                   encryption
  *   "WEP-OPEN", "WEP-SHARED"               "WEP-64" or "WEP-128"
@@ -94,20 +102,21 @@ OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
  *   "WPA2-PSK", "WPA2-RADIUS"              "AES"
  *   "WPA-AUTO-PSK", "WPA-AUTO-RADIUS"      "TKIPORAES"
  *
- * The two settings and the model, which is an option of the build, are compared with the host's
- * cmsUtl_strcmp.
+ * The two settings and the model, which is a build option, are compared with the cmsUtl_strcmp of the host.
  *
- * Returns 0; OSTREL_SECURITY_TYPE_NOT_ALLOWED: another type, the empty one included, or one not allowed here;
- * OSTREL_ENCRYPTION_MISMATCH.
+ * Returns 0, or:
+ * OSTREL_SECURITY_TYPE_NOT_ALLOWED: the type is not in the table (the empty type included), or is not allowed
+ *   with these settings or on this model;
+ * OSTREL_ENCRYPTION_MISMATCH: the encryption does not suit the type.
  */
 OSTREL_API int WLAN_check_HNAP_SecurityType(const char* setting1, const char* setting2, const char* type,
                                             const char* encryption);
 
 /*
  * WLAN_check_HNAP_KeyRenewal: the interval in seconds at which a group key is renewed: 600 to 7200, written
- * in 3 or 4 digits. Silent.
+ * with 3 or 4 digits. Silent.
  *
- * renewal: if it is "false", the other two are not examined.
+ * renewal: if it is "false", neither of the other arguments is examined.
  * type:    if it is "WEP-SHARED", "WEP-RADIUS" or "WEP-OPEN", the interval is not examined.
  *
  * Returns 0 or OSTREL_INVALID.

@@ -1,5 +1,5 @@
 /*
- * The other settings of a wireless LAN: SSID, rates, location, regulatory domain, role, distance.
+ * The other settings of a wireless LAN: SSID, rates, location, regulatory domain, role and distance.
  *
  * <ostrel/wlan_check.h> describes what all checks of the wireless LAN have in common.
  */
@@ -9,15 +9,15 @@
 #include <ostrel/api.h>
 
 /*
- * WLAN_check_ssid: an SSID, see TcmValidateSSID, whose line about the length is printed on every call.
+ * WLAN_check_ssid: an SSID; see TcmValidateSSID, which prints a line with the length on every call.
  *
- * value: a caller-owned buffer. Its HTML character references are first replaced in place, and stay replaced
- *        whatever the result. "a&amp;b" is an SSID of 3 bytes.
+ * value: a caller-owned buffer. Its HTML character references are first replaced in place, and they stay
+ *        replaced whatever the result. "a&amp;b" is an SSID of 3 bytes.
  *
- * The host's htmlToText does this. If there is none, the library replaces the names of HTML 4 for Latin-1
- * characters, the five of XML, and numbers from 1, decimal ("&#65;") and hexadecimal ("&#x41;"). Each becomes
- * one byte of ISO 8859-1; a number above 255, which has no such byte, becomes 0x1A, so that the SSID is
- * refused. Anything else, including other names ("&euro;"), is unchanged, and the text never grows.
+ * The host's htmlToText replaces them. If the host has none, the library replaces the HTML 4 names of Latin-1
+ * characters, the five names of XML, and numbers from 1, in decimal ("&#65;") or hexadecimal ("&#x41;"). Each
+ * becomes one byte of ISO 8859-1; a number above 255, which has no such byte, becomes 0x1A, so the SSID is
+ * refused. Anything else, including other names ("&euro;"), is unchanged, and the string never grows.
  *
  * Returns 0, or prints "Error in %s: Error SSID:%s\n" with the resulting value and returns OSTREL_TOO_SHORT,
  * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
@@ -25,7 +25,7 @@
 OSTREL_API int WLAN_check_ssid(char* value);
 
 /*
- * WLAN_check_max_bit_rate: see TcmValidateRate.
+ * WLAN_check_max_bit_rate: a rate; see TcmValidateRate.
  *
  * Returns 0, or prints "Error in %s: Error max bit rate:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
@@ -33,7 +33,7 @@ OSTREL_API int WLAN_check_ssid(char* value);
 OSTREL_API int WLAN_check_max_bit_rate(const char* value);
 
 /*
- * WLAN_check_basic_data_transmit_rate: see TcmValidateDataTransmitRates.
+ * WLAN_check_basic_data_transmit_rate: a list of rates; see TcmValidateDataTransmitRates.
  *
  * Returns 0, or prints "Error in %s: Error basic data transmit rate:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
@@ -52,38 +52,42 @@ OSTREL_API int WLAN_check_op_data_transmit_rate(const char* value);
  * WLAN_check_location_description: 0 to 4096 bytes of any kind.
  *
  * Returns 0, or prints "Error in %s: Error location description :%s length out of range. [0,%d]\n\n" with the
- * value and 4096 and returns OSTREL_INVALID_VALUE.
+ * value and 4096, and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int WLAN_check_location_description(const char* value);
 
 /*
- * WLAN_check_regulatory_domain: two decimal digits and one of "O", "I", "o" and "i" (outdoor, indoor).
+ * WLAN_check_regulatory_domain: two decimal digits followed by "O" or "o" (outdoor) or "I" or "i" (indoor).
  * Country letters are refused.
  *
- * Returns 0; OSTREL_INVALID_VALUE, with
- *   4 bytes or more:
- *     "Error in %s: Error regulatory domain :%s length out of range. [0,%d]\n\n" (the value, 3);
- *   otherwise:
- *     "Error in %s: Error regulatory domain value invalid :%s\n\n".
+ * Returns 0, or OSTREL_INVALID_VALUE after printing the line of the first test that fails:
+ *   the value has 4 bytes or more:
+ *     "Error in %s: Error regulatory domain :%s length out of range. [0,%d]\n\n" with the value and 3;
+ *   the value has any other fault:
+ *     "Error in %s: Error regulatory domain value invalid :%s\n\n" with the value.
  */
 OSTREL_API int WLAN_check_regulatory_domain(const char* value);
 
 /*
  * WLAN_check_device_opration_mode: the role of the device.
  *
- * readwrite_mode: which list applies. 0: "WirelessBridge", "WirelessRepeater", "WirelessStation";
- *                 1: "InfrastructureAccessPoint".
+ * readwrite_mode: selects the list that applies.
+ *                 0: "WirelessBridge", "WirelessRepeater" or "WirelessStation"
+ *                 1: "InfrastructureAccessPoint"
  *
- * Returns 0; OSTREL_INVALID_VALUE, in the order of the tests:
- *   32 bytes or more: "Error in %s: Error operating mode:%s length out of range. [0,31]\n\n"
- *   another mode:     "Error in %s: Error operating mode:readwrite mode %d invalid \n\n"
- *   not in the list:  "Error in %s: Error operating mode:%s\n\n"
+ * Returns 0, or OSTREL_INVALID_VALUE after printing the line of the first test that fails:
+ *   the value has 32 bytes or more:
+ *     "Error in %s: Error operating mode:%s length out of range. [0,31]\n\n" with the value;
+ *   readwrite_mode is neither 0 nor 1:
+ *     "Error in %s: Error operating mode:readwrite mode %d invalid \n\n" with readwrite_mode;
+ *   the value is not in the list:
+ *     "Error in %s: Error operating mode:%s\n\n" with the value.
  */
 OSTREL_API int WLAN_check_device_opration_mode(const char* value, int readwrite_mode);
 
 /*
  * WLAN_check_DistanceFromRoot: a negative number as atoi reads it. ZERO AND POSITIVE DISTANCES ARE REFUSED,
- * and so is text without a number.
+ * and so is a string without a number.
  *
  * Returns 0, or prints "Error in %s: Error DistanceFromRoot:%s\n\n" with the value and returns
  * OSTREL_INVALID_DISTANCE.
