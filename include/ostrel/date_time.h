@@ -4,7 +4,7 @@
  * Every function returns 0 or OSTREL_INVALID and prints nothing. value is a NUL-terminated byte string of any
  * length and must not be NULL; the empty value is invalid.
  *
- * In the forms below, each letter represents a decimal digit, except the capital "T"; every other character
+ * In the forms below, each letter except the capital "T" represents a decimal digit; every other character
  * represents itself:
  *
  *   YYYYMMDDThh:mm:ss           date-time, compact date

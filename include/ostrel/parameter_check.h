@@ -6,9 +6,9 @@
  * begins with "Error in <its own name>: ". The output of a wrapped primitive is not flushed.
  *
  * If a NULL value is said to fail an assertion, then in every build type the C library's assertion hook
- * reports it and ends the process. It reports the condition "value_p != ((void *)0)", the module
- * "parameter_check" and the name of the check. If neither an assertion nor a result for NULL is stated,
- * value_p must not be NULL.
+ * reports it and ends the process. It reports the condition "value_p != ((void *)0)" unless stated otherwise,
+ * the module "parameter_check" and the name of the check. If neither an assertion nor a result for NULL is
+ * stated, value_p must not be NULL.
  */
 #ifndef OSTREL_PARAMETER_CHECK_H
 #define OSTREL_PARAMETER_CHECK_H

@@ -4,7 +4,7 @@
  * Only permanent mappings of one external port that are open to every remote host are supported. Values are
  * NUL-terminated byte strings of any length; no check changes them. A check that refuses a value writes the
  * stated lines to standard output and flushes all output streams after each. The first %s of a line is the
- * name of the check. A check that accepts a value prints nothing.
+ * name of the check unless stated otherwise. A check that accepts a value prints nothing.
  *
  * Only PORTMAPPING_check_port_available asserts: in every build type, the C library's assertion hook reports
  * a NULL value and ends the process. It reports the condition "value_p != ((void *)0)", the module

@@ -44,16 +44,16 @@ OSTREL_API int TcmValidateAddressRange(const char* startAddress, const char* end
  * the text after a final ",": both are in the subnet only if lanAddress contains no ".".
  *
  * An item counts as repeated if its text occurs anywhere in the rest of the list, even inside a longer item,
- * and if the rest, without its leading spaces, is exactly as long as the item or has a "," directly after as
- * many characters. An immediate repetition is therefore found, a later one only if a "," happens to be in
- * that place, and "X,X " (with a space after the second item) is not found.
+ * and if the rest, without its leading spaces, is exactly as long as the item or has a "," at the offset that
+ * equals the length of the item. An immediate repetition is therefore found, a later one only if a ","
+ * happens to be at that offset, and "X,X " (with a space after the second item) is not found.
  *
  * Returns 0, OSTREL_INVALID if an item is in another subnet, or OSTREL_REPEATED. The first fault from the
  * left determines the result; the subnet of an item is tested before its repetition.
  *
  * The time is proportional to the length of the list, except that the rest of the list is searched for each
- * item that has a "," in that place. A list of many such items takes time proportional to the square of its
- * length.
+ * item after which a "," is at that offset. A list of many such items takes time proportional to the square
+ * of its length.
  */
 OSTREL_API int TcmValidateReservedAddress(const char* reservedList, const char* lanAddress);
 

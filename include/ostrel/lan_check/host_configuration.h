@@ -74,8 +74,7 @@ OSTREL_API int LAN_check_dns_servers(const char* value_p);
  * Always prints "Info in %s: Dhcp reserved addr: %s, lan ip:%s\n\n" with both arguments, and flushes.
  *
  * Returns 0, or prints "Error in %s: Error dhcp reserved addr: %s\n\n" with the list and returns
- * OSTREL_INVALID_VALUE: an item is in another subnet; or
- * OSTREL_REPEATED: an item is repeated.
+ * OSTREL_INVALID_VALUE if an item is in another subnet, or OSTREL_REPEATED.
  */
 OSTREL_API int LAN_check_dhcp_reserved_addr(const char* reservedList, const char* lanAddress);
 

@@ -12,10 +12,9 @@
  * LAN_check_add_allowedMACAddress: adds one or more stations to the list of those that are allowed on the
  * LAN. If the list is empty, it copies macAddress into it WITHOUT A BOUNDS CHECK AND WITHOUT A TERMINATOR.
  *
- * macAddress: one MAC address of 17 characters, or several, separated by one character each. Only the length
- * is
- *              checked, and only if the list is not empty: it must be 18 times the number of addresses minus
- *              1.
+ * macAddress:  one MAC address of 17 characters, or several, separated by one character each. Only the
+ *              length is checked, and only if the list is not empty: it must be 18 times the number of
+ *              addresses, minus 1.
  * allowedList: the list, in a caller-owned buffer of at least 161 bytes: 160 characters and the terminator.
  *              If it is empty, macAddress is copied into it whatever its length: the buffer must be filled
  *              with zeros and be at least one byte longer than macAddress. Otherwise ",", macAddress and a

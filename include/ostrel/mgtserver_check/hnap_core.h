@@ -22,8 +22,7 @@ OSTREL_API int HNAPCORE_check_username(const char* value);
  *
  * offset_out: a caller-owned buffer that receives the text after "UTC" and its terminator, or "+00:00" if
  *             there is none. It must have room for that text, and for at least 7 bytes. The text after "UTC"
- *             is
- *             not examined. The buffer is unchanged on failure and must not overlap the value.
+ *             is not examined. The buffer is unchanged on failure and must not overlap the value.
  *
  * Returns 0 or OSTREL_INVALID.
  */

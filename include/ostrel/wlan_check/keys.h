@@ -78,8 +78,8 @@ OSTREL_API int WLAN_check_wepkeys(char* keys);
  * OSTREL_FORBIDDEN_CHARACTER: a WEP key contains a byte outside 0x20 to 0x7E, after printing with the key
  *   "The key should not be empty or non printable ascii string: %s\n" and
  *   "The key should not contain non hexa char: %s\n";
- * OSTREL_ENCRYPTION_MISMATCH: the length of a WEP key does not suit the encryption; that of the
- *   empty key never does.
+ * OSTREL_ENCRYPTION_MISMATCH: the length of a WEP key does not suit the encryption; the length of an empty
+ *   key never does.
  */
 OSTREL_API int WLAN_check_keys(const char* key, const char* type, const char* encryption);
 
