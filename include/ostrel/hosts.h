@@ -38,10 +38,10 @@ OSTREL_API int ValidateURL(const char* value);
  * host: as for ValidateURL. port: digits only, 0 to 65535 as atoi reads them; an empty port is 0, and the C
  * library determines how atoi reads a number that does not fit in an int. path: not examined further.
  *
- * This is narrower than RFC 3986: none of "@", "%", "=", "&", "#" and "~" is allowed anywhere, user
- * information and IPv6 addresses are not supported, and the first ":" after the scheme separates host and
- * port wherever it is, so that a URL without a port is refused if its path contains a ":". A "?" directly
- * after the host is treated as part of the host, which makes it invalid.
+ * This is narrower than RFC 3986: none of "@", "%", "=", "&", "#" and "~" is allowed anywhere, and user
+ * information and IPv6 addresses are not supported. The first ":" after the scheme separates host and port
+ * wherever it is, so a URL without a port is refused if its path contains a ":". A "?" directly after the
+ * host is treated as part of the host, which makes it invalid.
  *
  * Returns 0 or OSTREL_INVALID.
  */
@@ -79,8 +79,7 @@ OSTREL_API int TcmValidateEmailAddress(const char* value);
 /*
  * TcmValidateVoIPRegistrar: the SIP registrar, 3 to 64 characters of CHARSET_NAME that ValidateURL accepts.
  *
- * "_" is in the set but is not allowed in a host, so a value that contains it is refused with
- * OSTREL_WRONG_FORM.
+ * "_" is in the set but is not allowed in a host, so a value that contains it fails the test of the form.
  *
  * Returns 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER or OSTREL_WRONG_FORM.
  */
@@ -90,8 +89,8 @@ OSTREL_API int TcmValidateVoIPRegistrar(const char* value);
  * TcmValidateVoIPSTUNServer: the STUN server, at most 64 characters of CHARSET_HOSTPORT: empty, or a host
  * that ValidateURL accepts.
  *
- * "_" and ":" are in the set but are not allowed in a host, so a value with a port is refused with
- * OSTREL_WRONG_FORM.
+ * "_" and ":" are in the set but are not allowed in a host, so a value with a port fails the test of the
+ * form.
  *
  * Returns 0, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER or OSTREL_WRONG_FORM.
  */

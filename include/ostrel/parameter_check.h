@@ -70,7 +70,7 @@ OSTREL_API int PARAM_check_transport_protocol(const char* value_p);
 /*
  * PARAM_get_protocol_from_name: the number of a protocol: 0 for "TCP", 1 for "UDP", 2 for anything else.
  *
- * Unlike the check above it compares case-sensitively: "tcp" is 2. Silent.
+ * Unlike PARAM_check_transport_protocol, it compares case-sensitively: "tcp" is 2. Silent.
  */
 OSTREL_API int PARAM_get_protocol_from_name(const char* value_p);
 
