@@ -120,11 +120,11 @@ TEST(Single, EscapesAreReadOnRequest)
     EXPECT_EQ(0, run({"-e", "TcmValidatePPPPassword", "caf\\xE9"}).status);
     EXPECT_EQ(1, run({"--escapes", "TcmValidatePPPPassword", "a\\nb"}).status);
     EXPECT_EQ(0, run({"TcmValidatePPPPassword", "a\\nb"}).status);
-    EXPECT_EQ(
-        (RunResult{2, "",
-                   value_error("argument value_p contains U+0000 (a NUL byte), which would end the value in C",
-                               "PARAM_check_port")}),
-        run({"-e", "PARAM_check_port", "1\\x00"}));
+    EXPECT_EQ((RunResult{
+                  2, "",
+                  value_error("argument value_p contains U+0000 (a NUL byte), which would end the value in C",
+                              "PARAM_check_port")}),
+              run({"-e", "PARAM_check_port", "1\\x00"}));
     EXPECT_EQ((RunResult{2, "", usage_error("\\q is not an escape; a backslash is \\\\")}),
               run({"-e", "PARAM_check_port", "\\q"}));
 }
