@@ -65,7 +65,7 @@ class Vectors(unittest.TestCase):
         self.assertGreater(len(found), 5000)
         self.assertEqual({rows.NULL, rows.NOT_CALLED}, set(left_out))
         document = " ".join((shared.SOURCE / "docs/sql.md").read_text(encoding="utf-8").split())
-        self.assertIn("except %d of the three checks that cannot be called, and %d with a NULL" % (
+        self.assertIn("except %d rows of the three checks that cannot be called and %d rows with a NULL" % (
             left_out[rows.NOT_CALLED], left_out[rows.NULL]), document)
 
 
