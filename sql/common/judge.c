@@ -62,8 +62,10 @@ static int compare_names(const void* name, const void* check)
 {
     const OstrelText* const text = name;
     const char* const other = ((const OstrelCheck*)check)->name;
-    const int order = strncmp(text->bytes, other, text->size);
-    return order == 0 && other[text->size] != '\0' ? -1 : order;
+    const size_t length = strlen(other);
+    /* Not strncmp, which would end at a NUL byte of the name. */
+    const int order = memcmp(text->bytes, other, text->size < length ? text->size : length);
+    return order != 0 ? order : (text->size > length) - (text->size < length);
 }
 
 const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t values, bool is_verdict,

@@ -106,6 +106,8 @@ class Functions(unittest.TestCase):
         self.refuses('there is no check "param_check_port"', "SELECT ostrel_code('param_check_port', 1)")
         self.refuses("there is no check of that name", "SELECT ostrel_code('\"%s\n', 1)")
         self.refuses("there is no check of that name", "SELECT ostrel_code(?, 1)", "PARAM_check_port\0")
+        self.refuses("there is no check of that name", "SELECT ostrel_code(?, 1)",
+                     "PARAM_check_port\0" + 100_000_000 * "x")
         self.refuses("the first argument is the name of a check", "SELECT ostrel_valid()")
         self.refuses("PARAM_check_number takes 3 values (value_p, min_len, max_len); 1 was given",
                      "SELECT ostrel_code('PARAM_check_number', 1)")
