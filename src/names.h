@@ -1,4 +1,4 @@
-// Name rules that other rules call; <ostrel/names.h> declares the exported ones.
+// Lengths and characters of names that several checks require.
 #ifndef OSTREL_SRC_NAMES_H
 #define OSTREL_SRC_NAMES_H
 
