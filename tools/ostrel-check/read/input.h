@@ -55,7 +55,6 @@ class Input {
     bool begin_file();
     std::optional<Chunk> next_chunk();
     Chunk make_chunk();
-    Chunk problem_chunk(std::string problem, std::size_t at);
     void end_file();
     void drop(std::size_t size);
     bool take_preamble(std::size_t size);
