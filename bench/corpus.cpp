@@ -43,8 +43,17 @@ std::string number(Random& random, unsigned low, unsigned high, std::size_t widt
 
 const char* name_of(Shape shape)
 {
-    constexpr const char* kNames[] = {"valid", "refused_first", "refused_last", "hostile"};
-    return kNames[static_cast<std::size_t>(shape)];
+    switch (shape) {
+        case Shape::kValid:
+            return "valid";
+        case Shape::kRefusedFirst:
+            return "refused_first";
+        case Shape::kRefusedLast:
+            return "refused_last";
+        case Shape::kHostile:
+            break;
+    }
+    return "hostile";
 }
 
 Corpus::Corpus(const ValueFamily& family, Shape shape, std::size_t size)

@@ -95,9 +95,20 @@ std::vector<std::string> texts_of(const Value& value)
 
 char letter_of(Kind kind)
 {
-    constexpr std::string_view kLetters = "tbbiun";
-    static_assert(static_cast<std::size_t>(Kind::kIntegerOut) + 1 == kLetters.size());
-    return kLetters[static_cast<std::size_t>(kind)];
+    switch (kind) {
+        case Kind::kText:
+            return 't';
+        case Kind::kBuffer:
+        case Kind::kBlocks:
+            return 'b';
+        case Kind::kInteger:
+            return 'i';
+        case Kind::kUnsigned:
+            return 'u';
+        case Kind::kIntegerOut:
+            break;
+    }
+    return 'n';
 }
 
 std::string packed_row(const Row& row, const Promise& promise, unsigned atois)

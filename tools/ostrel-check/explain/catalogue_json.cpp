@@ -1,6 +1,5 @@
 #include "explain/catalogue_json.h"
 
-#include <array>
 #include <nlohmann/json.hpp>
 
 #include "catalogue/result_codes.h"
@@ -23,16 +22,48 @@ namespace {
 
 std::string_view name_of(Kind kind)
 {
-    constexpr std::array<std::string_view, 6> kNames = {"text",    "buffer",   "blocks",
-                                                        "integer", "unsigned", "integer_out"};
-    return kNames.at(static_cast<std::size_t>(kind));
+    switch (kind) {
+        case Kind::kText:
+            return "text";
+        case Kind::kBuffer:
+            return "buffer";
+        case Kind::kBlocks:
+            return "blocks";
+        case Kind::kInteger:
+            return "integer";
+        case Kind::kUnsigned:
+            return "unsigned";
+        case Kind::kIntegerOut:
+            break;
+    }
+    return "integer_out";
 }
 
 std::string_view name_of(rules::Step::Kind kind)
 {
-    constexpr std::array<std::string_view, 10> kNames = {
-        "refuse", "accept", "print", "skip", "write", "keep", "case", "each", "reads", "never_return"};
-    return kNames.at(static_cast<std::size_t>(kind));
+    switch (kind) {
+        case rules::Step::Kind::kRefuse:
+            return "refuse";
+        case rules::Step::Kind::kAccept:
+            return "accept";
+        case rules::Step::Kind::kPrint:
+            return "print";
+        case rules::Step::Kind::kSkip:
+            return "skip";
+        case rules::Step::Kind::kWrite:
+            return "write";
+        case rules::Step::Kind::kRemember:
+            return "keep";
+        case rules::Step::Kind::kWhen:
+            return "case";
+        case rules::Step::Kind::kForEach:
+            return "each";
+        case rules::Step::Kind::kReads:
+            return "reads";
+        case rules::Step::Kind::kNeverReturns:
+            break;
+    }
+    return "never_return";
 }
 
 ordered_json json_of(const std::vector<Said>& steps);

@@ -1,6 +1,5 @@
 #include "explain/explain.h"
 
-#include <array>
 #include <span>
 
 #include "catalogue/result_codes.h"
@@ -23,9 +22,20 @@ namespace {
 
 std::string_view type_of(Kind kind)
 {
-    constexpr std::array<std::string_view, 6> kTypes = {"const char* ", "char* ",    "char* ",
-                                                        "int ",         "unsigned ", "int* "};
-    return kTypes.at(static_cast<std::size_t>(kind));
+    switch (kind) {
+        case Kind::kText:
+            return "const char* ";
+        case Kind::kBuffer:
+        case Kind::kBlocks:
+            return "char* ";
+        case Kind::kInteger:
+            return "int ";
+        case Kind::kUnsigned:
+            return "unsigned ";
+        case Kind::kIntegerOut:
+            break;
+    }
+    return "int* ";
 }
 
 void write_arguments(Page& page, const rules::Check& check, const rules::Explanation& explanation)

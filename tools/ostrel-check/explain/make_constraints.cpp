@@ -4,7 +4,6 @@
 // The build runs it, because it is too slow for a command.
 
 #include <algorithm>
-#include <array>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
@@ -35,16 +34,36 @@ rules::Build this_build()
 
 std::string_view name_of(Limit::Kind kind)
 {
-    constexpr std::array<std::string_view, 5> kNames = {"min_length", "max_length", "minimum", "maximum",
-                                                        "characters"};
-    return kNames.at(static_cast<std::size_t>(kind));
+    switch (kind) {
+        case Limit::Kind::kMinLength:
+            return "min_length";
+        case Limit::Kind::kMaxLength:
+            return "max_length";
+        case Limit::Kind::kMinimum:
+            return "minimum";
+        case Limit::Kind::kMaximum:
+            return "maximum";
+        case Limit::Kind::kCharacters:
+            break;
+    }
+    return "characters";
 }
 
 std::string_view name_of(NullOutcome outcome)
 {
-    constexpr std::array<std::string_view, 5> kNames = {"accepted", "refused", "assertion", "fault",
-                                                        "depends"};
-    return kNames.at(static_cast<std::size_t>(outcome));
+    switch (outcome) {
+        case NullOutcome::kAccepted:
+            return "accepted";
+        case NullOutcome::kRefused:
+            return "refused";
+        case NullOutcome::kAssertion:
+            return "assertion";
+        case NullOutcome::kFault:
+            return "fault";
+        case NullOutcome::kDepends:
+            break;
+    }
+    return "depends";
 }
 
 ordered_json json_of(const std::vector<std::string>& texts)

@@ -9,9 +9,23 @@ namespace ostrel::tool {
 
 std::string_view name_of(Verdict verdict)
 {
-    constexpr std::array<std::string_view, kVerdicts> kNames = {
-        "accepted", "refused", "answer", "malformed", "ended", "no return", "no driver"};
-    return kNames.at(static_cast<std::size_t>(verdict));
+    switch (verdict) {
+        case Verdict::kAccepted:
+            return "accepted";
+        case Verdict::kRefused:
+            return "refused";
+        case Verdict::kAnswer:
+            return "answer";
+        case Verdict::kMalformed:
+            return "malformed";
+        case Verdict::kEnded:
+            return "ended";
+        case Verdict::kNoDriver:
+            return "no driver";
+        case Verdict::kNoReturn:
+            break;
+    }
+    return "no return";
 }
 
 std::string_view json_name(Verdict verdict)
@@ -26,9 +40,20 @@ bool is_code(Verdict verdict) { return verdict == Verdict::kAccepted || verdict 
 
 int exit_code(Verdict verdict)
 {
-    constexpr std::array<int, kVerdicts> kCodes = {kExitAccepted, kExitRefused, kExitAccepted, kExitUsage,
-                                                   kExitEnded,    kExitEnded,   kExitUsage};
-    return kCodes.at(static_cast<std::size_t>(verdict));
+    switch (verdict) {
+        case Verdict::kAccepted:
+        case Verdict::kAnswer:
+            return kExitAccepted;
+        case Verdict::kRefused:
+            return kExitRefused;
+        case Verdict::kMalformed:
+        case Verdict::kNoDriver:
+            return kExitUsage;
+        case Verdict::kEnded:
+        case Verdict::kNoReturn:
+            break;
+    }
+    return kExitEnded;
 }
 
 int Tally::exit_code() const

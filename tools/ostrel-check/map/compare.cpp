@@ -1,7 +1,6 @@
 #include "map/compare.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <optional>
 
@@ -226,8 +225,19 @@ class Comparer {
 
 std::string_view name_of(Relation relation)
 {
-    constexpr std::array<std::string_view, 5> kNames = {"same", "narrower", "wider", "other", "unknown"};
-    return kNames.at(static_cast<std::size_t>(relation));
+    switch (relation) {
+        case Relation::kSame:
+            return "same";
+        case Relation::kNarrower:
+            return "narrower";
+        case Relation::kWider:
+            return "wider";
+        case Relation::kOther:
+            return "other";
+        case Relation::kUnknown:
+            break;
+    }
+    return "unknown";
 }
 
 Comparison compare(const Map& map, const MapEntry& entry, const ModelFacts& facts)

@@ -20,9 +20,15 @@ using Kind = Difference::Kind;
 
 std::string_view name_of(Kind kind)
 {
-    constexpr std::array<std::string_view, 3> kNames = {"allowed and refused", "not allowed and accepted",
-                                                        "not of the form and accepted"};
-    return kNames.at(static_cast<std::size_t>(kind));
+    switch (kind) {
+        case Kind::kRefused:
+            return "allowed and refused";
+        case Kind::kAccepted:
+            return "not allowed and accepted";
+        case Kind::kForeign:
+            break;
+    }
+    return "not of the form and accepted";
 }
 
 // shown returns a value with escapes for control bytes. Other characters are unchanged.
