@@ -1,4 +1,4 @@
-// Arena: memory that a worker and its supervisor share, so that a worker's results outlive it.
+// Memory that a worker shares with its supervisor, so that the worker's results outlive it.
 #ifndef OSTREL_TOOLS_BATCH_ARENA_H
 #define OSTREL_TOOLS_BATCH_ARENA_H
 
@@ -20,23 +20,24 @@ namespace ostrel::tool {
 inline constexpr std::size_t kChunk = std::size_t{256} << 10;
 inline constexpr std::size_t kOutput = std::size_t{256} << 20;
 
-// count_lines counts the line ends of a text.
+// count_lines returns the number of line feeds in the text.
 std::uint64_t count_lines(std::string_view text);
 
-// Progress is how far a worker has processed its chunk.
+// Progress describes how far a worker has processed its chunk.
 struct Progress {
-    std::size_t read = 0;  // bytes of the input
+    std::size_t read = 0;  // bytes of input that have been processed
     std::uint64_t line = 0;
-    // The line at which to resume. If a text has several gateways, it is the first line of the current one.
+    // The line at which to resume. If the current text contains several gateways, this is the first line of
+    // the current gateway.
     std::uint64_t next = 0;
-    std::size_t part = 0;     // records of the text that is being read
-    bool is_within = false;   // some records of a gateway were judged and some were not
-    std::size_t written = 0;  // bytes of the output
-    std::uint64_t cases = 0;  // with results in the output
+    std::size_t part = 0;     // number of records already read from the current text
+    bool is_within = false;   // only some of a gateway's records have been judged
+    std::size_t written = 0;  // bytes of output
+    std::uint64_t cases = 0;  // cases with results in the output
     std::uint64_t refused = 0;
     Log::Size log;
 
-    // advance moves past a record, to the next one of the same text or to the next text.
+    // advance moves past a record and, if it was the last one in the text, past the text.
     void advance(std::string_view text, bool has_more, const Record& record)
     {
         const bool ends_gateway = has_more && record.kind == Record::Kind::kGatewayEnd;
@@ -50,11 +51,11 @@ struct Progress {
     }
 };
 
-// Arena is mapped as a whole, but only the pages that were written to take memory.
+// The whole Arena is mapped, but only pages that have been written to occupy memory.
 class Arena {
  public:
-    // commit publishes the progress atomically: whenever the worker ends, progress() returns either the previous or
-    // the new progress.
+    // commit publishes the progress atomically. No matter when the worker ends, progress() returns either the
+    // previous or the new progress.
     void commit(const Progress& progress)
     {
         const std::uint64_t next = commits_.load(std::memory_order_relaxed) + 1;
@@ -65,14 +66,14 @@ class Arena {
     [[nodiscard]] std::uint64_t commits() const { return commits_.load(std::memory_order_acquire); }
     [[nodiscard]] const Progress& progress() const { return progress_[commits() & 1]; }
 
-    std::size_t file = 0;  // index of the input's file
+    std::size_t file = 0;  // index of the file that the input comes from
     FileFormat format = FileFormat::kWords;
-    std::size_t preamble_size = 0;  // of the input, which begins with the preamble of the file
+    std::size_t preamble_size = 0;  // the input begins with the file's preamble
     std::size_t input_size = 0;
     std::array<char, 2 * kLongestText + kChunk> input;
     std::array<char, kOutput> output;
     calling::Prints prints;
-    Log log;  // of the records judged since it was last taken
+    Log log;  // the records judged since the log was last taken
 
     // ask_to_stop makes the worker stop after the current record. Only the supervisor calls it.
     void ask_to_stop() { is_to_stop_.store(true, std::memory_order_relaxed); }
@@ -98,7 +99,8 @@ struct Unmap {
 // map_arena throws std::system_error.
 std::unique_ptr<Arena, Unmap> map_arena();
 
-// release_pages returns pages of an array of the arena to the system, but keeps those of the first size bytes.
+// release_pages returns the pages of one of the arena's arrays to the system, except those that contain its
+// first size bytes.
 void release_pages(char* begin, std::size_t capacity, std::size_t size);
 
 }  // namespace ostrel::tool

@@ -52,7 +52,8 @@ class Batch {
     }
 
  private:
-    // begin writes the text that precedes the results. A resumed batch appends to results that already have it.
+    // begin writes the header of CSV results. A resumed batch writes none, because it appends to results that
+    // already have one.
     bool begin()
     {
         const Style& style = rules_->style;
@@ -63,7 +64,8 @@ class Batch {
         return error_ == 0;
     }
 
-    // is_stopped returns whether the batch was interrupted and the work in progress at the front is finished.
+    // is_stopped returns whether the batch was interrupted and the slot at the front of the queue, if there
+    // is one, has finished its work.
     [[nodiscard]] bool is_stopped() const
     {
         return StopSignals::number() != 0 && (busy_.empty() || !busy_.front()->is_running());
@@ -80,7 +82,7 @@ class Batch {
         meter_.show(advance);
     }
 
-    // take_finished writes the finished results at the front.
+    // take_finished writes the results of the finished slots at the front of the queue.
     void take_finished()
     {
         while (!busy_.empty() && !busy_.front()->is_running()) {
@@ -94,7 +96,7 @@ class Batch {
             if (error_ != 0) return;
             if (!front.is_done()) {
                 if (front.is_running()) continue;
-                return;  // it was asked to stop
+                return;  // the slot was asked to stop
             }
             idle_.push_back(std::move(busy_.front()));
             busy_.pop_front();
@@ -106,12 +108,12 @@ class Batch {
     {
         if (can_read && input_.is_ready()) return true;
         std::vector<pollfd> waiting = {{signals_.descriptor(), POLLIN, 0}};
-        if (StopSignals::number() != 0) waiting.front().fd = -1;  // already noticed
+        if (StopSignals::number() != 0) waiting.front().fd = -1;  // the signal has already been noticed
         if (can_read) waiting.push_back({input_.descriptor(), POLLIN, 0});
         for (const auto& slot : busy_) {
             if (slot->is_running()) waiting.push_back({slot->answers(), POLLIN, 0});
         }
-        // A call that does not return is detected after 1 to 1 1/8 times its limit.
+        // With this tick, a call that does not return is detected after 1 to 1.125 times its time limit.
         const double longest = meter_.is_wanted() ? 250.0 : 1000.0;
         const double tick = std::clamp(rules_->limit / 8 * 1000, 1.0, longest);
         poll(waiting.data(), waiting.size(), busy_.empty() ? -1 : static_cast<int>(tick));
@@ -135,7 +137,8 @@ class Batch {
         busy_.back()->judge(*chunk);
     }
 
-    // skip removes the texts that begin before the first line from a chunk, and returns whether anything is left.
+    // skip removes from a chunk everything that begins before the start line, and returns whether anything is
+    // left.
     bool skip(Chunk& chunk)
     {
         if (chunk.line >= rules_->start_line) return true;
@@ -147,7 +150,7 @@ class Batch {
         return !chunk.text.empty();
     }
 
-    // clear_keys erases, once, what the terminal shows for the interrupt keys.
+    // clear_keys erases what the terminal shows for the interrupt keys. Only the first call has an effect.
     void clear_keys()
     {
         if (!std::exchange(is_interrupted_, true)) meter_.clear_keys();
@@ -157,14 +160,15 @@ class Batch {
     int stop()
     {
         meter_.clear();
-        // The signal may have arrived since the last check for one.
+        // The signal may have arrived after the last check.
         if (StopSignals::number() != 0) clear_keys();
         if (error_ != 0) {
             say("ostrel-check: cannot write the results: " + std::generic_category().message(error_) + "\n");
         }
         sum_up();
         std::string where = "stopped after line " + std::to_string(line_ - 1);
-        // The records of a JSON file may be on one line, and a gateway may have too many results to hold back.
+        // All records of a JSON file may be on one line, and a gateway may produce more results than a worker
+        // can hold back.
         if (is_within_line_) {
             where = rules_->reading.map == nullptr ? "stopped within line "
                                                    : "stopped within the gateways of line ";
@@ -203,8 +207,8 @@ class Batch {
         return std::max(summary_.tally().exit_code(), is_readable ? kExitAccepted : kExitUsage);
     }
 
-    // sum_up returns whether the summary could be written. The summary does not follow the results if they are lines
-    // of a stream or rows of CSV, or if they could not be written.
+    // sum_up writes the summary and returns whether this succeeded. The summary does not follow the results
+    // if they are in the stream or CSV format, or if they could not be written.
     bool sum_up()
     {
         summary_.add_unreadable_files(input_.unreadable_files());
@@ -231,12 +235,12 @@ class Batch {
     std::deque<std::unique_ptr<Slot>> busy_;
     Summary summary_;
     std::uint64_t bytes_ = 0;  // read so far
-    std::size_t file_ = 0;     // index of the file judged last, before the line
+    std::size_t file_ = 0;     // index of the file that line_ refers to
     std::uint64_t line_;
-    int error_ = 0;  // errno of the failed write of results
+    int error_ = 0;  // errno of a failed write of results, or 0
     bool has_begun_ = false;
     bool is_interrupted_ = false;
-    bool is_within_line_ = false;  // some records of the line were written and some were not
+    bool is_within_line_ = false;  // only some of the line's records have been written
     std::unique_ptr<Reader> skipping_;
     Meter meter_;
 };

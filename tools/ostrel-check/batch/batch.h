@@ -1,4 +1,4 @@
-// Batch: many cases, judged in worker processes, with the results in the order of the input.
+// Judging many cases in worker processes, with the results in the order of the input.
 #ifndef OSTREL_TOOLS_BATCH_BATCH_H
 #define OSTREL_TOOLS_BATCH_BATCH_H
 
@@ -7,7 +7,7 @@
 
 namespace ostrel::tool {
 
-// run_batch judges the files' lines and returns the exit code.
+// run_batch judges the records of the files and returns the exit code.
 int run_batch(const Rules& rules, const Closing& closing, unsigned jobs);
 
 }  // namespace ostrel::tool

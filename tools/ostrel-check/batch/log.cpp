@@ -7,7 +7,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// Head precedes the texts of a row: reason, parameter, example.
+// Head precedes the strings of a row (reason, parameter and example) and contains their sizes.
 struct Head {
     std::uint16_t check = 0;
     std::uint16_t verdict = 0;
@@ -17,7 +17,7 @@ struct Head {
     std::uint32_t example = 0;
 };
 
-// A worker that has logged this many kinds of cases forgets them, and logs their examples again.
+// A worker that has logged this many kinds of cases forgets them, and logs an example of each kind again.
 constexpr std::size_t kMostKnown = std::size_t{1} << 14;
 
 }  // namespace
@@ -53,7 +53,7 @@ std::uint32_t LogWriter::append(Log::Size& size, const SummaryRow& row)
     const std::size_t room = Log::kLongestRow - sizeof head;
     const std::string_view reason = row.reason.substr(0, room);
     const std::string_view parameter = row.parameter.substr(0, room - reason.size());
-    // An example that does not fit would be cut in the middle of its JSON.
+    // An example that does not fit is omitted, because cutting it would leave invalid JSON.
     const bool fits = row.example.size() <= room - reason.size() - parameter.size();
     const std::string_view example = fits ? row.example : std::string_view();
     head.reason = static_cast<std::uint32_t>(reason.size());

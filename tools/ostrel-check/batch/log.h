@@ -1,4 +1,4 @@
-// Log: a worker's account of the records that it judged, in memory that it shares with its supervisor.
+// A worker's log of the records that it has judged, in memory that it shares with its supervisor.
 #ifndef OSTREL_TOOLS_BATCH_LOG_H
 #define OSTREL_TOOLS_BATCH_LOG_H
 
@@ -14,34 +14,35 @@
 
 namespace ostrel::tool {
 
-// Log contains no pointers. Committed entries do not change until the supervisor has taken them, so they are intact
-// whenever the worker ends.
+// Log contains no pointers. Committed entries do not change until the supervisor has taken them, so they
+// remain intact no matter when the worker ends.
 struct Log {
     static constexpr std::size_t kMostRecords = std::size_t{1} << 16;
     static constexpr std::size_t kRows = std::size_t{1} << 20;
     static constexpr std::size_t kLongestRow = std::size_t{16} << 10;
     static constexpr std::uint32_t kNoRow = 0xFFFFFFFF;
 
-    // Entry is a record, a line without one, or the end of a gateway.
+    // Entry describes a record, a line without a record, or the end of a gateway.
     struct Entry {
         std::uint32_t row = kNoRow;
-        std::uint32_t lines = 0;     // of the input that end with it
-        std::uint32_t written = 0;   // bytes of the output, up to its end
-        GatewayCounts gateway = {};  // no parameters: not the end of a gateway
+        std::uint32_t lines = 0;     // number of input lines that end with it
+        std::uint32_t written = 0;   // bytes of output up to the end of its result
+        GatewayCounts gateway = {};  // no parameters unless this is the end of a gateway
     };
 
     // Size is the part of the log that is in use.
     struct Size {
         std::uint32_t entries = 0;
         std::uint32_t rows = 0;
-        std::uint32_t bytes = 0;  // of rows
+        std::uint32_t bytes = 0;  // bytes that the rows occupy
     };
 
     std::array<Entry, kMostRecords> entries;
     std::array<char, kRows> rows;
 
-    // has_room returns whether two more entries of any size fit: one of the worker, and one of the supervisor for the
-    // record that ended the worker. If is_half_full, a worker stops at the next place where a batch can be resumed.
+    // has_room returns whether two more entries of any size fit: one from the worker, and one from the
+    // supervisor for the record that ended the worker. If is_half_full returns true, the worker stops at the
+    // next place where the batch can be resumed.
     static bool has_room(const Size& size)
     {
         return size.entries + 2 <= kMostRecords && size.bytes + 2 * kLongestRow <= kRows;
@@ -55,15 +56,16 @@ struct Log {
 // for_each_row calls visit with each row of a log, in order.
 void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const SummaryRow&)>& visit);
 
-// LogWriter adds to a log. It remembers which rows the log contains, and which examples it has written.
+// LogWriter adds entries to a log. It remembers which rows the log contains, and which examples it has
+// written.
 class LogWriter {
  public:
     explicit LogWriter(Log& log) : log_(&log) {}
 
-    // begin forgets the rows, because the supervisor has taken them.
+    // begin forgets the rows of the log, because the supervisor has taken them.
     void begin() { ++round_; }
 
-    // add adds a record. It calls example only for the first case of a kind.
+    // add adds a record. It calls example only for the first record of each kind.
     void add(Log::Size& size, const SummaryRow& row, std::uint32_t lines, std::size_t written,
              const std::function<std::string()>& example);
 

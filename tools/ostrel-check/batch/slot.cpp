@@ -64,7 +64,7 @@ void Slot::start_round()
     commits_seen_ = arena_->commits();
     seen_at_ = Clock::now();
     if (worker_ == 0) start_worker();
-    // look detects a worker that has ended meanwhile.
+    // If the worker has ended in the meantime, look detects it.
     write_all(orders_.writing.number(), "g");
 }
 
@@ -94,7 +94,7 @@ void Slot::look()
     }
 }
 
-// conclude sets the verdict on the record at which the worker ended, and continues after it.
+// conclude sets the verdict on the record at which the worker ended, and moves past the record.
 void Slot::conclude(Verdict verdict, std::string problem)
 {
     Progress progress = arena_->progress();
@@ -137,7 +137,8 @@ void Slot::conclude(Verdict verdict, std::string problem)
     arena_->commit(progress);
 }
 
-// write_out writes the output, and returns how many bytes of results were written.
+// write_out writes the heading, the results and the conclusion. It returns the number of bytes written, not
+// counting the heading.
 std::size_t Slot::write_out(int descriptor, int& error)
 {
     std::size_t written = 0;
@@ -158,7 +159,7 @@ std::size_t Slot::write_out(int descriptor, int& error)
     return written;
 }
 
-// count adds the written results to a summary, and returns the number of their log entries.
+// count adds the written results to the summary, and returns the number of their log entries.
 std::uint32_t Slot::count(std::size_t written, Summary& summary)
 {
     const Log& log = arena_->log;
@@ -166,7 +167,7 @@ std::uint32_t Slot::count(std::size_t written, Summary& summary)
     std::uint32_t done = 0;
     while (done < size.entries && log.entries[done].written <= written) ++done;
     if (done < size.entries) {
-        // The batch resumes at the beginning of a line.
+        // The batch can resume only at the beginning of a line.
         while (done > 0 && log.entries[done - 1].lines == 0) --done;
     }
     std::vector<std::uint64_t> counts(size.rows);
@@ -197,7 +198,7 @@ Taken Slot::take(int descriptor, Summary& summary)
         for (std::uint32_t i = done; i < progress.log.entries; ++i) taken.line -= log.entries[i].lines;
     }
     taken.is_within_line = done > 0 && log.entries[done - 1].lines == 0;
-    // The last line of a file may have no line end.
+    // The last line of a file may not end in a line feed.
     if (taken.is_within_line && taken.error == 0 && is_done() && arena_->format != FileFormat::kJson) {
         taken.is_within_line = false;
         ++taken.line;

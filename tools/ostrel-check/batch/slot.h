@@ -1,4 +1,4 @@
-// Slot: a chunk of input and the worker that judges it, as the supervisor sees them.
+// A chunk of input and the worker that judges it, as the supervisor sees them.
 #ifndef OSTREL_TOOLS_BATCH_SLOT_H
 #define OSTREL_TOOLS_BATCH_SLOT_H
 
@@ -24,15 +24,15 @@ struct Rules {
     Reading reading;
     double limit = 2;  // seconds that a call may take
     std::vector<std::string> files;
-    std::uint64_t start_line = 1;    // of the first file, with which the batch begins
+    std::uint64_t start_line = 1;    // line of the first file at which the batch starts
     std::uint64_t first_number = 1;  // number of the first file's first line
 };
 
 // Taken is the outcome of writing results.
 struct Taken {
-    int error = 0;                // errno if not all of them were written
-    std::uint64_t line = 0;       // after the last one whose results were written
-    bool is_within_line = false;  // results of that line were written, and more are to follow
+    int error = 0;                // errno if some results could not be written
+    std::uint64_t line = 0;       // the line after the last one whose results were written
+    bool is_within_line = false;  // only some of the results of this line were written
 };
 
 class Slot {
@@ -45,7 +45,7 @@ class Slot {
     // judge starts judging a chunk.
     void judge(const Chunk& chunk);
 
-    // look checks whether the worker has answered, has ended or makes no progress.
+    // look checks whether the worker has answered, has ended, or is making no progress.
     void look();
 
     [[nodiscard]] bool is_running() const { return is_running_; }
@@ -60,7 +60,7 @@ class Slot {
     // of the chunk, unless it was asked to stop.
     Taken take(int descriptor, Summary& summary);
 
-    // judged returns how much of the chunk has been judged but not taken.
+    // judged returns the worker's progress. Its cases are only those whose results have not been taken.
     [[nodiscard]] const Progress& judged() const { return arena_->progress(); }
     // left returns the number of bytes of the chunk that have not been judged.
     [[nodiscard]] std::size_t left() const { return arena_->rest_of_input().size(); }
@@ -81,15 +81,15 @@ class Slot {
 
     const Rules* rules_;
     std::unique_ptr<Arena, Unmap> arena_;
-    Cases cases_;       // for the record that ended the worker
-    pid_t worker_ = 0;  // 0: none
+    Cases cases_;       // reads the record that ended the worker
+    pid_t worker_ = 0;  // 0 if there is no worker
     Pipe orders_;
     Pipe answers_;
     bool is_running_ = false;
     std::uint64_t commits_seen_ = 0;
     Clock::time_point seen_at_;
-    std::string heading_;     // what precedes the worker's output
-    std::string conclusion_;  // what follows the worker's output: the verdict on the case that ended it
+    std::string heading_;     // precedes the worker's output
+    std::string conclusion_;  // follows the worker's output, with the verdict on the case that ended it
 };
 
 }  // namespace ostrel::tool

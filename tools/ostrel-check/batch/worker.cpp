@@ -31,7 +31,8 @@ class Judge {
     {
     }
 
-    // round judges records until the input is done, the output or the log is full, or the supervisor asks to stop.
+    // round judges records until the input ends, the output or the log is full, or the supervisor asks it to
+    // stop.
     void round()
     {
         log_.begin();
@@ -60,7 +61,7 @@ class Judge {
         return progress.written < kEnoughOutput && !Log::is_half_full(progress.log) && !arena_->is_to_stop();
     }
 
-    // judge returns whether the text contains another record.
+    // judge judges one record of the text, and returns whether the text contains another.
     bool judge(std::string_view text, Progress& progress)
     {
         result_.clear();
@@ -104,7 +105,7 @@ class Judge {
         }
         call();
         if (result_.verdict != Verdict::kRefused) return;
-        // The time limit of the call does not include finding the reason.
+        // The call's time limit does not cover finding the reason.
         arena_->commit(progress);
         explain(result_);
     }
@@ -140,7 +141,7 @@ class Judge {
         write(progress);
     }
 
-    // write_nothing writes the result of a line without a case: an empty line if each line must have a result.
+    // write_nothing writes an empty line for a line without a case, if every line must have a result.
     void write_nothing(Progress& progress)
     {
         if (style_.format == Format::kStream && !style_.no_results) arena_->output[progress.written++] = '\n';
@@ -164,12 +165,12 @@ class Judge {
         if (text_.capacity() > kEnoughOutput) text_ = std::string();
     }
 
-    // note logs the last record. progress is at its end already.
+    // note logs the last record. progress has already moved past it.
     void note(Progress& progress)
     {
         const auto lines = static_cast<std::uint32_t>(progress.next - noted_line_);
         noted_line_ = progress.next;
-        // The end of its last gateway has been logged.
+        // The end of the chunk's last gateway has already been logged.
         if (map_ != nullptr && !kind_ && lines == 0) return;
         const Record& record = cases_.record();
         if (kind_ == Record::Kind::kCase) {
@@ -189,11 +190,11 @@ class Judge {
     calling::Capture capture_;
     calling::Caller caller_;
     Cases cases_;
-    const Map* map_;  // NULL: none
+    const Map* map_;  // NULL if there is none
     std::uint64_t noted_line_ = 0;
     Result result_;
     LogWriter log_;
-    std::optional<Record::Kind> kind_;  // of the last record; none: there was none
+    std::optional<Record::Kind> kind_;  // kind of the last record, if there was one
     Redactor redactor_;
     std::string text_;
     std::string parameter_;
@@ -205,7 +206,7 @@ class Judge {
 void run_worker(Arena& arena, const Style& style, const Reading& reading,
                 const std::vector<std::string>& files, const Descriptor& orders, const Descriptor& answers)
 {
-    // A program that a check runs must not read the batch, nor write between the results.
+    // A program that a check runs must not read the batch's input or write among its results.
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nothing, standard);
     Judge judge(arena, style, reading, files);

@@ -1,4 +1,4 @@
-// Worker: the process that judges the lines of a chunk.
+// The process that judges the records of a chunk.
 #ifndef OSTREL_TOOLS_BATCH_WORKER_H
 #define OSTREL_TOOLS_BATCH_WORKER_H
 
@@ -11,13 +11,14 @@
 
 namespace ostrel::tool {
 
-// A worker stops after writing kEnoughOutput, and the supervisor then takes the output. Within a gateway it continues
-// up to kMostOutput, because a batch can usually be resumed only between gateways.
+// A worker pauses after writing kEnoughOutput bytes, so that the supervisor can take the output. Within a
+// gateway, it continues up to kMostOutput bytes, because a batch can usually be resumed only between
+// gateways.
 inline constexpr std::size_t kEnoughOutput = std::size_t{4} << 20;
 inline constexpr std::size_t kMostOutput = 8 * kEnoughOutput;
 
-// run_worker runs until its supervisor closes the orders pipe. For each byte that it reads, it judges a part of the
-// arena's input, from the current progress on, and answers with a byte.
+// run_worker runs until its supervisor closes the orders pipe. For each byte that it reads from this pipe, it
+// judges more of the arena's input, starting at the current progress, and then answers with a byte.
 [[noreturn]] void run_worker(Arena& arena, const Style& style, const Reading& reading,
                              const std::vector<std::string>& files, const Descriptor& orders,
                              const Descriptor& answers);

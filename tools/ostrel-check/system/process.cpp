@@ -73,13 +73,14 @@ pid_t fork_guarded()
     const pid_t child = fork();
     if (child < 0) throw failure("cannot start a process");
     if (child > 0) {
-        setpgid(child, child);  // both processes do it, so that neither continues too early
+        setpgid(child, child);  // both processes do this, because either may continue first
         return child;
     }
     setpgid(0, 0);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != parent) _exit(0);
-    // A core handler that reads from a pipe ignores the limit, so the process is also marked.
+    // The limit does not apply if core files are piped to a handler, so the process is also marked as not
+    // dumpable.
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
     prctl(PR_SET_DUMPABLE, 0);

@@ -1,4 +1,4 @@
-// Processes: checks run in separate processes, because they may crash or hang.
+// Running checks in separate processes, because a check may crash or hang.
 #ifndef OSTREL_TOOLS_SYSTEM_PROCESS_H
 #define OSTREL_TOOLS_SYSTEM_PROCESS_H
 
@@ -36,14 +36,15 @@ struct Pipe {
 // make_pipe throws std::system_error.
 Pipe make_pipe();
 
-// fork_guarded forks. It returns 0 in the child, and the child's process id in the parent. The child leads its own
-// process group, dies with its parent, leaves no core file and survives a closed pipe. Throws std::system_error.
+// fork_guarded forks, and returns 0 in the child and the child's process id in the parent. The child leads
+// its own process group, dies with its parent, leaves no core file, and survives writing to a closed pipe.
+// Throws std::system_error.
 pid_t fork_guarded();
 
 // Ending is how a process ended.
 struct Ending {
     bool by_signal = false;
-    int number = 0;  // of the signal, or the exit status
+    int number = 0;  // signal number or exit status
 };
 
 // wait_for waits for a child to end.
@@ -58,7 +59,7 @@ bool mentions_assertion(std::string_view printed);
 // describe_ending describes what ended the process of a check.
 std::string describe_ending(const Ending& ending, bool by_assertion);
 
-// describe_no_return describes a call that did not return within so many seconds.
+// describe_no_return describes a call that did not return within the given number of seconds.
 std::string describe_no_return(double seconds);
 
 // occupy_standard_descriptors prevents a pipe or a file from taking the number of a closed standard stream. Using
@@ -68,14 +69,16 @@ void occupy_standard_descriptors();
 // say writes to standard error and ignores errors.
 void say(std::string_view text);
 
-// write_what_fits writes a text. It returns how much of it was written, and 0 or the errno that prevented more.
+// write_what_fits writes as much of the text as possible. It returns how much was written, and 0 or the errno
+// of the write that failed.
 struct Fitted {
     std::size_t size = 0;
     int error = 0;
 };
 Fitted write_what_fits(int descriptor, std::string_view text);
 
-// take_back removes the last bytes that were written to a regular file. It does nothing for anything else.
+// take_back removes the last size bytes that were written to a regular file. For any other kind of file, it
+// does nothing.
 void take_back(int descriptor, std::size_t size);
 
 // write_all writes everything, or returns false if the reader has closed the pipe. Throws std::system_error.

@@ -9,7 +9,7 @@ namespace ostrel::tool {
 namespace {
 
 volatile std::sig_atomic_t signal_number = 0;
-volatile std::sig_atomic_t news = -1;  // where the handler writes a byte
+volatile std::sig_atomic_t news = -1;  // the descriptor to which the handler writes a byte
 
 void take_signal(int number)
 {
