@@ -1,4 +1,4 @@
-// The wireless driver's tool, wlctl, which the check of the channel runs.
+// The wireless driver's tool, wlctl, which the channel check runs.
 #ifndef OSTREL_TOOLS_JUDGE_DRIVER_H
 #define OSTREL_TOOLS_JUDGE_DRIVER_H
 
@@ -12,9 +12,10 @@
 
 namespace ostrel::tool {
 
-// StandIn replaces the driver during its lifetime: its own wlctl is the first on PATH and lists the channels. If the
-// user may not write the driver's answer to /var, the process gets a private /var. Throws std::invalid_argument if
-// the list contains anything but numbers and blanks.
+// StandIn replaces the driver during its lifetime. It puts its own wlctl, which lists the given channels,
+// first on PATH. If the user may not write to /var, where the driver's answer is stored, the process gets a
+// private /var. The constructor throws std::invalid_argument if the list contains anything but numbers and
+// blanks.
 class StandIn {
  public:
     explicit StandIn(std::string_view channels);
@@ -22,7 +23,7 @@ class StandIn {
     StandIn& operator=(const StandIn&) = delete;
     ~StandIn();
 
-    // problem returns why StandIn cannot answer, or an empty text if it can.
+    // problem returns the reason why StandIn cannot replace the driver, or an empty string if it can.
     [[nodiscard]] const std::string& problem() const { return problem_; }
 
  private:
@@ -32,8 +33,9 @@ class StandIn {
     std::string problem_;
 };
 
-// Turn waits until no other process runs a check that queries the driver, because such a check uses a file with a
-// fixed name. For any other check it does nothing. It calls still_waiting repeatedly while it waits.
+// Turn waits until no other process is running a check that queries the driver, because such a check uses a
+// file with a fixed name. For any other check, it does nothing. While it waits, it calls still_waiting
+// repeatedly.
 class Turn {
  public:
     explicit Turn(
@@ -43,14 +45,14 @@ class Turn {
     Descriptor lock_;
 };
 
-// Heard is the driver's answer in a call.
+// Heard is the driver's answer during a call.
 struct Heard {
     std::vector<int> channels;
-    std::string said;     // standard error of the driver's tool or of the shell
-    std::string problem;  // why there is no list; empty: there is one
+    std::string said;     // standard error from the driver's tool or from the shell
+    std::string problem;  // why there is no list; empty if there is one
 };
 
-// Listening records the driver's answers until heard(). A check is called in between.
+// Listening records the driver's answers from its construction until heard(). A check is called in between.
 class Listening {
  public:
     Listening();
@@ -63,13 +65,13 @@ class Listening {
  private:
     void restore();
 
-    Descriptor list_;  // the file that the driver's answer is written to; the check removes its name
+    Descriptor list_;  // the file that receives the driver's answer; the check removes its name
     int list_error_ = 0;
     Descriptor said_;
     Descriptor standard_error_;
 };
 
-// clean_up_after removes the files of a check that was stopped while it queried the driver.
+// clean_up_after removes the file that a check leaves if it is stopped while it queries the driver.
 void clean_up_after(const catalogue::Function& function);
 
 }  // namespace ostrel::tool

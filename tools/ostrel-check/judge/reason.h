@@ -1,4 +1,4 @@
-// Reason: why a check refused, or ended its process, according to the description of the check.
+// The reason why a check refused, ended its process or did not return, according to its description.
 #ifndef OSTREL_TOOLS_JUDGE_REASON_H
 #define OSTREL_TOOLS_JUDGE_REASON_H
 
@@ -17,27 +17,28 @@ namespace ostrel::tool {
 // lists.
 rules::Build& gateway();
 
-// explain sets the reason of a result that is neither an acceptance nor an answer, from the description of its check.
+// explain uses the check's description to set the reason why the check refused, ended its process or did not
+// return.
 void explain(Result& result);
 
-// is_known_not_to_return returns whether, according to the description, a call does not return. If so, answer_at_once
-// sets the verdict.
+// is_known_not_to_return returns whether, according to the description, a call does not return. For such a
+// call, answer_at_once sets the verdict without calling the check.
 bool is_known_not_to_return(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 void answer_at_once(Result& result);
 
 // asks_driver returns whether a call queries the wireless driver.
 bool asks_driver(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 
-// blame_driver sets the verdict and the reason of a call for which the driver returned no list.
+// blame_driver sets the verdict and the reason for a call for which the driver returned no list.
 void blame_driver(Result& result, std::string_view problem);
 
-// explain_by_driver sets the reason of a result from the driver's answer in the call.
+// explain_by_driver sets the reason for a refusal from the driver's answer during the call.
 void explain_by_driver(Result& result, const Heard& heard);
 
 // write_reasons adds the members "reason" and "remarks" to an object.
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding);
 
-// explain_lack sets the reason of a record for which no call could be made although the record is correct.
+// explain_lack sets the reason why no call could be made for a record that is itself correct.
 void explain_lack(Result& result, const Record& record);
 
 }  // namespace ostrel::tool

@@ -15,10 +15,10 @@ using rules::length_shown;
 
 namespace {
 
-// A shorter secret occurs by chance in too many texts.
+// A shorter secret would occur by chance in too many strings.
 constexpr std::size_t kShortestSought = 4;
 
-// arguments_of returns the argument of each value of a case. Arguments that are only written may have been omitted.
+// arguments_of returns the argument for each value of a case. A case may omit arguments that are only written.
 std::vector<const rules::Argument*> arguments_of(const Result& result)
 {
     const catalogue::Function& function = *result.function;
@@ -171,7 +171,7 @@ void Redactor::redact(Result& result, Encoding encoding)
     if (result.verdict == Verdict::kMalformed) {
         result.problem = without_quotations(result.problem);
         result.why.text = without_quotations(result.why.text);
-        // Any of the values may be the secret.
+        // Any of the values may be a secret.
         if (result.record != nullptr) {
             for (const Item& item : result.record->items) {
                 if (!item.text.empty()) secrets_.emplace_back(item.text);

@@ -1,4 +1,4 @@
-// Redact: results without the values of secret arguments.
+// Removing the values of secret arguments from results.
 #ifndef OSTREL_TOOLS_JUDGE_REDACT_H
 #define OSTREL_TOOLS_JUDGE_REDACT_H
 
@@ -12,13 +12,14 @@
 
 namespace ostrel::tool {
 
-// Redactor replaces each secret value by its length. It owns the texts of the result that it changed last.
+// Redactor replaces each secret value with its length. It owns the strings of the last result that it
+// changed.
 class Redactor {
  public:
-    // redact removes the secrets from a result that already has its reason: from values, lines, written arguments,
-    // the reason, and the members that are passed through. It replaces the whole output to a stream if the
-    // description does not predict it. For a malformed record it passes through only the id and the parameter,
-    // because any other member may be a secret.
+    // redact removes the secrets from a result that already has its reason. It changes the values, the
+    // printed lines, the written arguments, the reason, and the members that are passed through. If the
+    // description does not predict the output to a stream, all of that output is replaced. For a malformed
+    // record, only the id and the parameter are passed through, because any other member may be a secret.
     void redact(Result& result, Encoding encoding);
 
  private:
@@ -35,10 +36,10 @@ class Redactor {
     std::string out_;
     std::string err_;
     Record record_;
-    std::deque<std::string> members_;  // that were replaced
+    std::deque<std::string> members_;  // replacements for members that contain secrets
 };
 
-// without_quotations returns a message about an unreadable line, cut off before its quotation of the line.
+// without_quotations returns a message about an unreadable line, cut off before it quotes the line.
 std::string without_quotations(std::string_view problem);
 
 }  // namespace ostrel::tool

@@ -24,7 +24,7 @@ using calling::Caller;
 
 namespace {
 
-// One-byte messages from the process of the check to the process that waits for it.
+// One-byte messages from the check's process to the process that waits for it.
 constexpr std::string_view kReturnMark = "r";
 constexpr std::string_view kAssertionMark = "a";
 
@@ -59,7 +59,7 @@ class Marker {
         if (begins_line_ && line.empty()) return;  // many lines end in two line feeds
         std::string shown(begins_line_ ? kLibrary : "");
         const bool is_whole = !shown.empty() && is_ended;
-        // Control bytes of a value must not reach a terminal.
+        // Control bytes in a value must not reach a terminal.
         if (is_terminal_) {
             append_escaped(shown, line, line.size());
         } else {
@@ -84,7 +84,7 @@ Marker& marker_of(int descriptor)
     return descriptor == STDOUT_FILENO ? out : error;
 }
 
-// pass_on returns what the C library expects of a stream. It must not throw.
+// pass_on returns what the C library expects from the write function of a stream. It must not throw.
 ssize_t pass_on(int descriptor, std::string_view text)
 {
     try {
@@ -105,15 +105,15 @@ ssize_t print_error(void* news, const char* bytes, std::size_t size)
     return pass_on(STDERR_FILENO, {bytes, size});
 }
 
-// watch_output passes on output as it arrives. It tracks whether a line has begun, for the verdict that follows, and
-// distinguishes an assertion from any other abort.
+// watch_output passes output on as it arrives. It tracks whether the output ends in the middle of a line,
+// because the verdict must begin a new line, and it distinguishes a failed assertion from any other abort.
 void watch_output(const Descriptor& news)
 {
     stdout = calling::open_stream(print, nullptr, isatty(STDOUT_FILENO) == 1 ? _IOLBF : _IOFBF);
     stderr = calling::open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
 }
 
-// verdict_line returns the verdict. Its first word is coloured at a terminal.
+// verdict_line returns the verdict as text. On a terminal, the part up to the colon is coloured.
 std::string verdict_line(const Result& result)
 {
     std::string text;
@@ -156,7 +156,7 @@ void call_check(Caller& caller, Result& result, const Descriptor& news)
     _exit(exit_code(result.verdict));
 }
 
-// wait_for_news waits for a byte from the check's process, until the process has ended or the time is over.
+// wait_for_news waits until the check's process sends a byte or ends, or until the time limit expires.
 enum class News { kReturned, kAsserted, kEnded, kNone };
 
 News wait_for_news(const Descriptor& news, double seconds)
@@ -198,7 +198,7 @@ int judge_one(const catalogue::Function& function, std::span<const std::string> 
         return conclude(result);
     }
 
-    const Turn turn(*result.function);  // before the time begins to count
+    const Turn turn(*result.function);  // before the time limit starts
     Pipe pipe = make_pipe();
     const pid_t child = fork_guarded();
     if (child == 0) call(caller, result, pipe.writing);

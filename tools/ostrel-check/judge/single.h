@@ -1,4 +1,4 @@
-// Single: judges one case in a separate process, and prints the check's lines as they arrive.
+// Judging one case in a separate process, and printing the check's output as it arrives.
 #ifndef OSTREL_TOOLS_JUDGE_SINGLE_H
 #define OSTREL_TOOLS_JUDGE_SINGLE_H
 
@@ -12,8 +12,8 @@ namespace ostrel::tool {
 // Manner controls how one case is judged.
 struct Manner {
     double limit = 2;            // seconds that the call may take
-    bool tries_known = false;    // also a call that is known not to return
-    std::string driver_problem;  // why --channels could not replace the wireless driver; or empty
+    bool tries_known = false;    // makes even a call that is known not to return
+    std::string driver_problem;  // why --channels could not replace the wireless driver, or empty
 };
 
 // judge_one judges the values, prints the verdict and returns the exit code. Throws std::invalid_argument, with a

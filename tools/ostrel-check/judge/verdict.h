@@ -1,4 +1,4 @@
-// Verdict: the outcome of a case.
+// The outcome of a case.
 #ifndef OSTREL_TOOLS_JUDGE_VERDICT_H
 #define OSTREL_TOOLS_JUDGE_VERDICT_H
 
@@ -20,16 +20,16 @@ namespace ostrel::tool {
 enum class Verdict {
     kAccepted,
     kRefused,
-    kAnswer,     // a number that is not a verdict
-    kMalformed,  // no case
+    kAnswer,     // the check returned a number that is not a verdict
+    kMalformed,  // the record does not describe a case
     kEnded,      // the check ended its process
     kNoReturn,
-    kNoDriver,  // the check refused because the wireless driver returned no list of channels
+    kNoDriver,  // not judged, because the wireless driver returned no channel list
 };
 
 inline constexpr std::size_t kVerdicts = 7;
 
-// name_of returns the verdict in a word or two, json_name in one.
+// name_of returns the verdict as one or two words, and json_name as a single word.
 std::string_view name_of(Verdict verdict);
 std::string_view json_name(Verdict verdict);
 
@@ -37,7 +37,7 @@ std::string_view json_name(Verdict verdict);
 bool has_code(Verdict verdict);
 bool is_code(Verdict verdict);
 
-// The exit codes. The highest one wins.
+// Exit codes. If several apply, the highest one is used.
 inline constexpr int kExitAccepted = 0;
 inline constexpr int kExitRefused = 1;
 inline constexpr int kExitUsage = 2;
@@ -45,7 +45,7 @@ inline constexpr int kExitEnded = 3;
 
 int exit_code(Verdict verdict);
 
-// Tally counts the cases of each verdict.
+// Tally counts the cases with each verdict.
 struct Tally {
     std::array<std::uint64_t, kVerdicts> counts{};
 
@@ -58,34 +58,35 @@ struct Tally {
     [[nodiscard]] std::uint64_t sum() const;
 };
 
-// Why is the reason for a refusal, or for a call that did not return.
+// Why is the reason why a check refused, ended its process or did not return.
 struct Why {
-    std::string text;  // in a sentence; empty: the reason is not known
+    std::string text;  // as a sentence; empty if the reason is not known
     rules::Reason reason;
-    std::vector<rules::Reason> remarks;  // reasons of the steps that printed and did not decide, in order
+    std::vector<rules::Reason> remarks;  // reasons of the steps that printed but did not decide, in order
 };
 
-// Result is a case and its outcome. It does not own the memory of its views.
+// Result is a case and its outcome. It does not own the memory that its views refer to.
 struct Result {
     Verdict verdict = Verdict::kMalformed;
-    const catalogue::Function* function = nullptr;  // NULL: malformed
+    const catalogue::Function* function = nullptr;  // NULL if no check was found
     const std::vector<catalogue::Value>* values = nullptr;
-    const Record* record = nullptr;  // NULL: none
+    const Record* record = nullptr;  // NULL if there is none
     int code = 0;
-    std::string problem;  // describes a malformed case, or a call that ended or did not return
+    std::string problem;  // describes a malformed case, or a call that ended its process or did not return
     calling::PrintedView printed;
     std::vector<calling::Written> after;
     bool is_tried = true;  // the check was called
     Why why = {};
 
-    // clear prepares for the next case.
+    // clear prepares the result for the next case.
     void clear();
 };
 
 // judge sets the verdict on a call that returned.
 void judge(Result& result, int code);
 
-// describe returns the verdict as a line: "refused: 802, too long (has 34 bytes; at most 32 are allowed)".
+// describe returns the verdict as a line, such as "refused: 802, too long (has 34 bytes; at most 32 are
+// allowed)".
 std::string describe(const Result& result);
 
 }  // namespace ostrel::tool

@@ -19,10 +19,10 @@ using rules::Language;
 using rules::Languages;
 using Kind = Difference::Kind;
 
-// Gateway describes the texts that the check accepts and refuses, according to its description.
+// Gateway describes the values that the check accepts and refuses, according to the check's description.
 struct Gateway {
-    Language accepted;  // contains every text that can be accepted
-    Language refused;   // contains every text that can be refused
+    Language accepted;  // contains every value that can be accepted
+    Language refused;   // contains every value that can be refused
     bool is_decided = false;
 };
 
@@ -81,7 +81,8 @@ class Comparer {
         return {claim.holds, claim.fails, claim.is_decided};
     }
 
-    // is_of returns whether a value with such an outcome would be a difference of that kind.
+    // is_of returns whether a value can be a difference of the given kind, if the check has the corresponding
+    // outcome.
     bool is_of(Kind kind, const std::string& value)
     {
         const bool is_ascii = std::ranges::all_of(value, [](unsigned char c) { return c < 0x80; });
@@ -97,7 +98,8 @@ class Comparer {
         return languages_.contains(standard_.foreign, value);
     }
 
-    // is_allowed_utf8 returns whether the model allows a text that repeats one character.
+    // is_allowed_utf8 returns whether the model allows a UTF-8 string, which depends only on the number of
+    // its characters.
     bool is_allowed_utf8(const std::string& value)
     {
         if (!standard_.is_text || !facts_.keywords.empty()) return false;
@@ -130,7 +132,8 @@ class Comparer {
         return found;
     }
 
-    // search derives texts from the description. If the description is incomplete, they may show no difference.
+    // search derives values from the description. If the description is incomplete, they may not be
+    // differences.
     std::optional<Difference> search(Kind kind)
     {
         constexpr int kMostTexts = 8;

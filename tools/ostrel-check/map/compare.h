@@ -1,4 +1,4 @@
-// Comparison of the values that a data model allows with those that the gateway's check accepts.
+// Comparing the values that a data model allows with those that the gateway's check accepts.
 #ifndef OSTREL_TOOLS_MAP_COMPARE_H
 #define OSTREL_TOOLS_MAP_COMPARE_H
 
@@ -16,8 +16,8 @@ namespace ostrel::tool {
 // Relation compares the values that the check accepts with those that the model allows.
 enum class Relation {
     kSame,
-    kNarrower,  // the check refuses some that are allowed
-    kWider,     // it accepts some that are not allowed
+    kNarrower,  // the check refuses some values that are allowed
+    kWider,     // the check accepts some values that are not allowed
     kOther,     // both
     kUnknown,   // no difference was found, but equality is not proved
 };
@@ -27,14 +27,14 @@ std::string_view name_of(Relation relation);
 // Difference is a value on which the model and the check disagree, confirmed by a call of the library.
 struct Difference {
     enum class Kind {
-        kRefused,   // allowed and refused
-        kAccepted,  // of the type, not allowed and accepted
-        kForeign,   // not of the type and accepted
+        kRefused,   // allowed but refused
+        kAccepted,  // of the type's form and not allowed, but accepted
+        kForeign,   // not of the type's form, but accepted
     };
     Kind kind = Kind::kRefused;
     std::string value;
     int code = 0;
-    std::string reason;                                          // of a refusal
+    std::string reason;                                          // why the value is refused
     std::vector<std::pair<std::string, std::string>> with = {};  // the other arguments
 };
 
@@ -42,8 +42,8 @@ struct Comparison {
     const MapEntry* entry = nullptr;
     const ModelFacts* facts = nullptr;
     Relation relation = Relation::kUnknown;
-    // is_proved means that the kinds kRefused and kAccepted have no differences other than those that relation
-    // states.
+    // is_proved means that relation is certain, because no other difference of the kinds kRefused and
+    // kAccepted can change it.
     bool is_proved = false;
     std::vector<Difference> differences = {};  // at most one of each kind
     std::size_t tried = 0;                     // values that were judged

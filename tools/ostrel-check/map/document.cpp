@@ -15,7 +15,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-// Position counts the lines that a parser has read.
+// Position is an iterator that counts lines while a parser reads them.
 class Position {
  public:
     using iterator_category = std::input_iterator_tag;
@@ -132,7 +132,7 @@ Document::Document(std::string file) : file_(std::move(file))
                                         return true;
                                     });
     } catch (const ordered_json::parse_error& error) {
-        // The text before the first colon is the parser's own numbering.
+        // The part before the first colon contains only the parser's own error number and position.
         const std::string_view message = error.what();
         const std::size_t colon = message.find(": ");
         throw std::invalid_argument(

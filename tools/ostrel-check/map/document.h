@@ -1,4 +1,4 @@
-// Document: JSON with the line of each part, for messages about files that people write.
+// A JSON document with the line number of each part, for messages about files that people write.
 #ifndef OSTREL_TOOLS_MAP_DOCUMENT_H
 #define OSTREL_TOOLS_MAP_DOCUMENT_H
 
@@ -14,29 +14,31 @@ namespace ostrel::tool {
 
 class Document {
  public:
-    // Reads a file. Throws std::invalid_argument with a message for the user.
+    // The constructor reads the file. It throws std::invalid_argument with a message for the user.
     explicit Document(std::string file);
 
     [[nodiscard]] const std::string& file() const { return file_; }
     [[nodiscard]] const nlohmann::ordered_json& root() const { return root_; }
 
-    // line_of returns the line of a part, named as in RFC 6901.
+    // line_of returns the line of the part that a JSON pointer (RFC 6901) identifies.
     [[nodiscard]] std::size_t line_of(const std::string& pointer) const;
 
-    // complain throws std::invalid_argument: "FILE:LINE: POINTER: PROBLEM".
+    // complain throws std::invalid_argument with the message "FILE:LINE: POINTER: PROBLEM".
     [[noreturn]] void complain(const std::string& pointer, std::string_view problem) const;
 
-    // These functions read the part at pointer, and complain if it is not of the expected kind.
+    // These functions read the part at the pointer, and complain if it is not of the expected kind.
     using Json = nlohmann::ordered_json;
     void require_members(const std::string& pointer, const Json& object,
                          std::initializer_list<std::string_view> names) const;
 
-    // text returns a member, or an empty text if it is missing and not needed. text_of returns a part.
+    // text returns a string member, or an empty string if the member is missing and not needed. text_of
+    // returns a part that is a string.
     [[nodiscard]] std::string text(const std::string& pointer, const Json& object, const char* name,
                                    bool is_needed = false) const;
     [[nodiscard]] std::string text_of(const std::string& pointer, const Json& value) const;
 
-    // array returns a member, or an empty array if it is missing and not needed. texts returns its elements.
+    // array returns an array member, or an empty array if the member is missing and not needed. texts returns
+    // the strings in such an array.
     [[nodiscard]] const Json& array(const std::string& pointer, const Json& object, const char* name,
                                     bool is_needed) const;
     [[nodiscard]] std::vector<std::string> texts(const std::string& pointer, const Json& object,

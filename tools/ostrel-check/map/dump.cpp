@@ -51,7 +51,7 @@ void Dump::read(std::string_view text)
     }
 }
 
-// require returns the member of that name.
+// require returns the member with the given name, or throws std::invalid_argument.
 const Member& Dump::require(std::string_view name) const
 {
     const Member* member = find(record_.members, name);
@@ -59,7 +59,8 @@ const Member& Dump::require(std::string_view name) const
     return *member;
 }
 
-// path_name returns the name of the column or member with the path of a row, or an empty text if there is none.
+// path_name returns the name of the column or member with the path of a row, or an empty string if there is
+// none.
 std::string_view Dump::path_name() const
 {
     if (!reading_.parameter.empty()) return reading_.parameter;
@@ -90,7 +91,7 @@ void Dump::read_json(std::string_view text)
     }
     path_ = require(name).value;
     if (json_.size() == 1 && json_.parameter(0).path == value) {
-        value_ = json_.parameter(0).value;  // it was in base64
+        value_ = json_.parameter(0).value;  // the value was given in base64
     } else {
         value_ = json_.bytes_of(require(value));
         std::erase_if(record_.members, [&](const Member& one) { return one.name == value; });

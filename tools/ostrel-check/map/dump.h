@@ -1,4 +1,4 @@
-// Dump: the parameters of gateways, from rows of a path and a value, or from nested JSON.
+// The parameters of gateways, read from rows with a path and a value, or from nested JSON.
 #ifndef OSTREL_TOOLS_MAP_DUMP_H
 #define OSTREL_TOOLS_MAP_DUMP_H
 
@@ -17,28 +17,28 @@ namespace ostrel::tool {
 // plain_reading returns the settings for reading the rows that a map applies to.
 Reading plain_reading(const Reading& reading);
 
-// Dump reads the texts of a file one after another. A text is a row of CSV, or an object of JSON, which is a row or a
-// whole gateway.
+// Dump reads the CSV rows or JSON objects of a file one after another. An object is either a row or a whole
+// gateway.
 class Dump {
  public:
     // Throws std::invalid_argument with a message for the user.
     Dump(FileFormat format, const Reading& reading, std::string_view preamble);
 
-    // next returns the same as next of the file's reader.
+    // next returns the same as the function next of the file's reader.
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
-    // read reads a text, and next_row then returns its rows. Throws std::invalid_argument with a message for the
-    // user. In that case there are no rows.
+    // read reads a CSV row or an object, and next_row then returns its rows. Throws std::invalid_argument
+    // with a message for the user. In that case, there are no rows.
     void read(std::string_view text);
 
-    // next_row stores the next row of the text except its line, or returns false. The row is valid until the next
-    // call.
+    // next_row stores the next row, except its line, or returns false if there is none. The row is valid
+    // until the next call.
     bool next_row(DumpRow& row);
 
-    // is_whole_gateway returns whether the text was a whole gateway.
+    // is_whole_gateway returns whether the last object was a whole gateway.
     [[nodiscard]] bool is_whole_gateway() const { return is_whole_gateway_; }
 
-    // gateway returns the content of the row's gateway column.
+    // gateway returns the content of the column that identifies the row's gateway.
     [[nodiscard]] std::string_view gateway() const { return gateway_; }
 
  private:

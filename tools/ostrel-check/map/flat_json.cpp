@@ -53,7 +53,7 @@ bool FlatJson::start(bool is_array)
     return true;
 }
 
-// enter appends a name, or the number of the element, to the path.
+// enter appends the name to the path or, in an array, the number of the next element.
 void FlatJson::enter(std::string_view name)
 {
     Level& level = levels_.back();
@@ -74,7 +74,7 @@ bool FlatJson::end()
     return true;
 }
 
-// take_base64 decodes {"base64": text}.
+// take_base64 decodes the object that ends here if it is {"base64": TEXT}.
 bool FlatJson::take_base64(rapidjson::SizeType members)
 {
     constexpr std::string_view kName = ".base64";

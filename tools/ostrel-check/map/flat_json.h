@@ -1,4 +1,4 @@
-// FlatJson: the values of a JSON object, each with its path.
+// The values in a JSON object, each with its path.
 #ifndef OSTREL_TOOLS_MAP_FLAT_JSON_H
 #define OSTREL_TOOLS_MAP_FLAT_JSON_H
 
@@ -16,29 +16,29 @@
 
 namespace ostrel::tool {
 
-// A value that is directly in the object under a name without "." is a member. Every other value is a parameter. Its
-// path consists of the names that lead to it and, for an element of an array, the element's number from 1. null is
-// not a value, and {"base64": text} is its decoded bytes.
+// A value directly in the object is a member if its name contains no ".". Every other value is a parameter.
+// Its path consists of the names that lead to it, and the elements of an array are numbered from 1. null is
+// not a value, and {"base64": TEXT} stands for the decoded bytes.
 class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson> {
  public:
     explicit FlatJson(Encoding encoding) : encoding_(encoding) {}
 
-    // read reads an object. The results are valid until the next object. Throws std::invalid_argument with a message
-    // for the user.
+    // read reads an object. The results are valid until the next call. Throws std::invalid_argument with a
+    // message for the user.
     void read(std::string_view text);
 
     struct Parameter {
         std::string_view path;
-        std::string_view value;  // the bytes
+        std::string_view value;  // in the chosen encoding, or decoded from base64
     };
     [[nodiscard]] std::size_t size() const { return places_.size(); }
     [[nodiscard]] Parameter parameter(std::size_t index) const;
     [[nodiscard]] const std::vector<Member>& members() const { return members_; }
 
-    // bytes_of returns the value of a member.
+    // bytes_of returns the value of a member in the chosen encoding. It is valid until the next call.
     [[nodiscard]] std::string_view bytes_of(const Member& member);
 
-    // The base class calls these, and has its own versions of the others.
+    // The parser calls these functions, and functions of the base class that are not replaced here.
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
     bool Null() { return skip(); }
     bool Bool(bool value) { return scalar(value ? "true" : "false", true); }
@@ -60,10 +60,10 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
  private:
     struct Level {
         bool is_array;
-        std::size_t count;      // of elements
-        std::size_t path_size;  // of the path to it
+        std::size_t count;      // number of elements so far
+        std::size_t path_size;  // size of the path to the object or array
     };
-    struct Offsets {  // in texts_
+    struct Offsets {  // positions and sizes in texts_
         std::size_t path;
         std::size_t path_size;
         std::size_t value;
@@ -81,7 +81,7 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
     JsonParser parser_;
     std::vector<Level> levels_;
     std::string path_;
-    std::string_view name_;  // of the member that is read
+    std::string_view name_;  // name of the member that is being read
     std::string texts_;
     std::vector<Offsets> places_;
     std::vector<Member> members_;

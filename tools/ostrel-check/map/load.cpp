@@ -54,7 +54,7 @@ class Loader {
     }
 
  private:
-    // bytes_of returns a text in the encoding of the values.
+    // bytes_of returns the text in the encoding of the values.
     std::string bytes_of(const std::string& at, std::string_view text)
     {
         std::string bytes;
@@ -66,7 +66,7 @@ class Loader {
         return bytes;
     }
 
-    // argument_of returns a text, or the digits of a number.
+    // argument_of returns the bytes of a string, or the digits of a number.
     std::string argument_of(const std::string& at, const ordered_json& value)
     {
         return value.is_number_integer() ? value.dump() : bytes_of(at, document_.text_of(at, value));
@@ -207,8 +207,8 @@ class Loader {
         return source;
     }
 
-    // call_of identifies the call that an entry makes. Entries for different parameters of one call have the same
-    // result.
+    // call_of returns a name for the call that an entry makes. Entries that make the same call for different
+    // parameters have the same name.
     static std::string call_of(const MapEntry& entry)
     {
         std::string name(entry.function->name);

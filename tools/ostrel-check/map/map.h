@@ -1,4 +1,4 @@
-// Map: assigns checks to parameters of a configuration, and defines the sources of their other arguments.
+// A map assigns checks to parameters of a configuration, and defines the sources of their other arguments.
 #ifndef OSTREL_TOOLS_MAP_MAP_H
 #define OSTREL_TOOLS_MAP_MAP_H
 
@@ -24,35 +24,35 @@ struct TextHash {
 template <typename T>
 using ByText = std::unordered_map<std::string, T, TextHash, std::equal_to<>>;
 
-// WordTable contains the text that is passed for each value of the model.
+// WordTable contains the string that is passed for each value in the data model.
 using WordTable = ByText<std::string>;
 
 // Source defines where the value of an argument comes from.
 struct Source {
     enum class Kind {
         kValue,     // the parameter itself
-        kSibling,   // other parameters of the same gateway; if several, each is one of the argument's texts
-        kConstant,  // always the same text
+        kSibling,   // other parameters of the same gateway, one for each string of the argument
+        kConstant,  // always the same string
     };
     Kind kind = Kind::kValue;
     std::vector<PathPattern> paths = {};
     std::optional<WordTable> words = std::nullopt;
     std::string constant = {};
-    std::string example = {};  // a value for comparisons, before words
+    std::string example = {};  // a value for comparisons, before the words are applied
 };
 
 // MapEntry is a parameter and a check that judges it.
 struct MapEntry {
     PathPattern path;
     const catalogue::Function* function = nullptr;
-    std::vector<Source> sources = {};       // of each argument that must be given, in order
+    std::vector<Source> sources = {};       // one for each argument that must be given, in order
     std::vector<std::string> skipped = {};  // values that carry no information
-    std::vector<std::string> tried = {};    // values for comparisons
+    std::vector<std::string> tried = {};    // values that comparisons try first
     std::string because = {};
-    std::size_t call = 0;   // entries of one number make the same call, each for another of its parameters
-    std::size_t line = 0;   // of the map's file
-    std::size_t value = 0;  // index of the value among the arguments, or their number if it is none
-    bool has_siblings = false;  // the whole gateway must be known before the call
+    std::size_t call = 0;   // entries with the same number make the same call, each for a different parameter
+    std::size_t line = 0;   // line in the map's file
+    std::size_t value = 0;  // index of the argument that takes the value, or sources.size() if none does
+    bool has_siblings = false;  // the whole gateway must be read before the call
 };
 
 struct NotMapped {
@@ -61,20 +61,20 @@ struct NotMapped {
     std::string because;
 };
 
-// KnownPath is the map's information about the paths with one general form.
+// KnownPath is the map's information about all paths with the same general form.
 struct KnownPath {
     std::vector<std::size_t> entries = {};
-    bool is_sibling = false;  // other parameters may need it
+    bool is_sibling = false;  // calls for other parameters may need it
 };
 
 struct Map {
     std::string file;
     std::string about;
     std::string root;   // the prefix of all paths
-    std::string facts;  // the path of the file of facts; empty: none
+    std::string facts;  // the path of the facts file; empty if there is none
     std::vector<MapEntry> entries;
     std::vector<NotMapped> not_mapped;
-    ByText<KnownPath> paths;  // by the general path
+    ByText<KnownPath> paths;  // by their general form
 };
 
 }  // namespace ostrel::tool

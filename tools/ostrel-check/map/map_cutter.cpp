@@ -17,7 +17,7 @@ MapCutter::MapCutter(FileFormat format, const Reading& reading)
 Cut MapCutter::cut(std::string_view bytes, bool is_end)
 {
     const std::size_t all = bytes.size();
-    // The file's cutter must not receive the bytes again that it has cut off.
+    // The file's cutter must not receive again the bytes that it has already cut off.
     Cut cut = cutter_->cut(bytes.substr(whole_), is_end);
     if (cut.preamble > 0) {
         preamble_ = bytes.substr(whole_ + cut.dropped, cut.preamble);
@@ -27,7 +27,7 @@ Cut MapCutter::cut(std::string_view bytes, bool is_end)
     if (begins_file) {
         bytes.remove_prefix(cut.dropped + cut.preamble);
     } else {
-        // Such bytes are between texts, and belong to the one before.
+        // Dropped bytes between rows or objects are added to the row or object before them.
         cut.size += cut.dropped;
         cut.dropped = 0;
     }
@@ -55,7 +55,7 @@ void MapCutter::look(std::string_view bytes)
         try {
             dump_ = std::make_unique<Dump>(format_, *reading_, preamble_);
         } catch (const std::invalid_argument&) {
-            seen_ = begin_ = bytes.size();  // every reader will report it
+            seen_ = begin_ = bytes.size();  // every reader will report the problem
             return;
         }
     }
@@ -67,7 +67,7 @@ void MapCutter::look(std::string_view bytes)
     }
 }
 
-// read_text skips text that cannot be read; the worker reports the error.
+// read_text ignores text that cannot be read, because the worker reports the error.
 void MapCutter::read_text(std::string_view text)
 {
     try {

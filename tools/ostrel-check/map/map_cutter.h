@@ -1,4 +1,4 @@
-// MapCutter: cuts a file after whole gateways, and counts the gateways whose rows are not adjacent.
+// Cutting a file after whole gateways, and counting the gateways whose rows are not adjacent.
 #ifndef OSTREL_TOOLS_MAP_MAP_CUTTER_H
 #define OSTREL_TOOLS_MAP_MAP_CUTTER_H
 
@@ -14,7 +14,7 @@ namespace ostrel::tool {
 
 class MapCutter : public Cutter {
  public:
-    // The map and what reading counts must outlive the cutter.
+    // reading, and the map and the counter that it refers to, must outlive the cutter.
     MapCutter(FileFormat format, const Reading& reading);
 
     Cut cut(std::string_view bytes, bool is_end) override;
@@ -32,8 +32,8 @@ class MapCutter : public Cutter {
     std::string preamble_;
     std::unique_ptr<Dump> dump_;
     std::string gateway_;
-    bool is_in_gateway_ = false;  // rows of it have been seen, and more may follow
-    std::size_t whole_ = 0;       // bytes at the front that are whole texts
+    bool is_in_gateway_ = false;  // rows of the current gateway have been seen, and more may follow
+    std::size_t whole_ = 0;       // bytes at the front that are whole rows or objects
     std::size_t seen_ = 0;        // bytes at the front that have been read
     std::size_t begin_ = 0;       // where the incomplete gateway begins
 };

@@ -1,4 +1,4 @@
-// MapReader: a Reader whose records are the calls that a map makes from a dump.
+// A Reader whose records are the calls that a map derives from a dump.
 #ifndef OSTREL_TOOLS_MAP_MAP_READER_H
 #define OSTREL_TOOLS_MAP_MAP_READER_H
 
@@ -12,8 +12,8 @@
 
 namespace ostrel::tool {
 
-// MapReader takes a whole chunk of a file, which contains only whole gateways, as one text. After the last record of
-// a text, read returns Found::kNothing.
+// MapReader reads a whole chunk, which contains only whole gateways, as one text. After the last record of a
+// chunk, read returns Found::kNothing.
 class MapReader : public Reader {
  public:
     // The map must outlive the reader. Throws std::invalid_argument with a message for the user.
@@ -27,9 +27,9 @@ class MapReader : public Reader {
     // skip skips whole gateways.
     std::size_t skip(std::string_view rest, std::uint64_t line) override;
 
-    // read continues at its position, or starts again if necessary, because a worker may have to continue where
-    // another one ended. It does not throw: a fault of a row becomes the problem of its record, and the next row is
-    // read.
+    // read continues where it stopped. If another reader stopped there, because a worker continues where
+    // another one ended, read starts again at the beginning of the text. It does not throw. A fault in a row
+    // becomes the problem of its record, and read continues with the next row.
     Found read(std::string_view text, std::size_t part, Record& record) override;
 
  private:
@@ -52,17 +52,17 @@ class MapReader : public Reader {
     std::string problem_;
     std::string gateway_;
     bool is_in_gateway_ = false;
-    bool is_whole_gateway_ = false;  // and it is one text
+    bool is_whole_gateway_ = false;  // the current gateway is a single JSON object
     bool is_ending_ = false;         // the calls at the end of the gateway are being made
-    std::uint64_t end_line_ = 0;     // in this case, where the next gateway begins
+    std::uint64_t end_line_ = 0;     // the line at which the next gateway begins, if is_ending_
     bool has_waiting_ = false;       // a row of the next gateway is waiting for the end of this one
-    bool is_read_ = false;           // rows of a text are being taken
+    bool is_read_ = false;           // the rows that dump_ has read are being taken
 
     std::string_view text_;
     std::string_view rest_;
-    std::size_t begin_ = 0;  // of the last row, in the text
+    std::size_t begin_ = 0;  // position of the last row in text_
     std::size_t next_part_ = 0;
-    std::uint64_t line_ = 0;  // from the beginning of the text
+    std::uint64_t line_ = 0;  // counted from the beginning of the text
     std::uint64_t next_line_ = 0;
 };
 

@@ -10,7 +10,8 @@ namespace ostrel::tool {
 
 namespace {
 
-// argument_of returns the argument of a source. Arguments that are only written have no source.
+// argument_of returns the argument for the source with an index. Arguments that are only written have no
+// source.
 const catalogue::Argument& argument_of(const catalogue::Function& function, std::size_t index)
 {
     for (const catalogue::Argument& argument : function.arguments) {
@@ -66,7 +67,8 @@ void Mapper::take(const DumpRow& row)
     use_ = is_sibling ? Use::kSibling : Use::kNone;
 }
 
-// next_of_row makes the calls of the current row, and reports a row without a check.
+// next_of_row derives the next call from the current row, or reports a row without a check. It returns false
+// if nothing is left.
 bool Mapper::next_of_row(Record& record, Lack& lack)
 {
     while (entries_ != nullptr && next_entry_ < entries_->size()) {
@@ -124,7 +126,7 @@ void Mapper::defer(std::size_t entry)
     deferred_.push_back(std::move(one));
 }
 
-// is_first returns whether the call has not yet been made for another of its parameters.
+// is_first returns whether the call has not yet been derived from another of its parameters.
 bool Mapper::is_first(const MapEntry& entry, std::span<const std::string_view> numbers)
 {
     std::string call = std::to_string(entry.call);

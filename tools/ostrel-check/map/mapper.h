@@ -1,4 +1,4 @@
-// Mapper: makes the calls of checks for the parameters of a gateway, according to a map.
+// Deriving the calls of checks from the parameters of a gateway, according to a map.
 #ifndef OSTREL_TOOLS_MAP_MAPPER_H
 #define OSTREL_TOOLS_MAP_MAPPER_H
 
@@ -19,10 +19,10 @@ namespace ostrel::tool {
 
 // Lack is the reason why a call cannot be made although the value is not at fault.
 struct Lack {
-    std::string_view id;        // "missing_sibling" or "no_word"; empty: nothing is missing
-    std::string_view argument;  // the one that has no value
+    std::string_view id;        // "missing_sibling" or "no_word"; empty if nothing is missing
+    std::string_view argument;  // the argument that has no value
     std::string parameter;      // the parameter that its value should come from
-    std::string text;           // in a sentence
+    std::string text;           // the reason as a sentence
 };
 
 // DumpRow is a parameter of a gateway. Its views must be valid until the next row is taken.
@@ -30,12 +30,12 @@ struct DumpRow {
     std::string_view path;
     std::string_view value;
     std::uint64_t line = 0;
-    std::span<const Member> members = {};  // that results repeat
+    std::span<const Member> members = {};  // members that results repeat
 };
 
-// Mapper takes the rows of one gateway after another. It makes calls that need one parameter, and reports a parameter
-// without a check, immediately. It makes calls that need other parameters too at the end of the gateway, in the order
-// of their rows. It stores the data of only one gateway.
+// Mapper takes the rows of one gateway after another. It derives the calls that need only one parameter, and
+// reports parameters without a check, immediately. At the end of the gateway, it derives the calls that also
+// need other parameters, in the order of their rows. It stores the data of only one gateway.
 class Mapper {
  public:
     explicit Mapper(const Map& map) : map_(&map) {}
@@ -44,8 +44,8 @@ class Mapper {
     void take(const DumpRow& row);
     void end_gateway();
 
-    // next makes the next call, or returns false if it needs another row. The record is valid until the next call. If
-    // something is missing, the record has no items.
+    // next stores the next call in record, or returns false if it needs another row. The record is valid
+    // until next is called again. If something is missing, lack describes it and the record has no items.
     bool next(Record& record, Lack& lack);
 
     // counts returns the counts of the current gateway so far.
@@ -76,20 +76,21 @@ class Mapper {
     DumpRow row_;
     std::string general_;
     std::vector<std::string_view> numbers_;
-    const std::vector<std::size_t>* entries_ = nullptr;  // of the row
+    const std::vector<std::size_t>* entries_ = nullptr;  // entries for the current row
     std::size_t next_entry_ = 0;
     enum class Use { kNone, kSibling, kSkipped, kJudged };
-    Use use_ = Use::kJudged;  // of the row, so far
+    Use use_ = Use::kJudged;  // how the current row has been used so far
     GatewayCounts counts_;
     std::pmr::monotonic_buffer_resource memory_;
-    std::unordered_map<std::string_view, std::string_view> values_;  // of parameters that others may need
+    // The values of parameters that the calls for other parameters may need.
+    std::unordered_map<std::string_view, std::string_view> values_;
     std::vector<Deferred> deferred_;
     std::size_t next_deferred_ = 0;
     bool is_complete_ = false;
     std::unordered_set<std::string> made_;
 
     std::string path_;
-    std::string paths_;  // the member that names the siblings
+    std::string paths_;  // content of the member that names the siblings
 };
 
 }  // namespace ostrel::tool

@@ -1,4 +1,4 @@
-// Path: the names of a parameter, with {i} for instance numbers.
+// Paths of parameters, with {i} for instance numbers.
 #ifndef OSTREL_TOOLS_MAP_PATH_H
 #define OSTREL_TOOLS_MAP_PATH_H
 
@@ -10,7 +10,7 @@
 
 namespace ostrel::tool {
 
-// kInstance replaces a number of a path in a pattern.
+// kInstance stands for any instance number in a pattern.
 inline constexpr std::string_view kInstance = "{i}";
 
 // PathPattern is a path in the notation of a map.
@@ -21,26 +21,27 @@ class PathPattern {
 
     [[nodiscard]] const std::string& text() const { return text_; }
 
-    // general returns the pattern with {i} in place of its literal numbers: the form that all matching paths have in
-    // common.
+    // general returns the pattern with {i} in place of its literal numbers. All paths that match the pattern
+    // have this general form.
     [[nodiscard]] std::string general() const;
 
-    // instances returns the number of {i}.
+    // instances returns how many times the pattern contains {i}.
     [[nodiscard]] std::size_t instances() const { return pieces_.size() - 1; }
 
-    // append appends the path with these numbers. It uses as many of them, from the front, as the pattern has {i}.
+    // append appends the path, with each {i} replaced by the next of the numbers. Excess numbers are ignored.
     void append(std::string& out, std::span<const std::string_view> numbers) const;
 
-    // matches returns whether a path has the literal numbers of the pattern. Their general forms must be the same.
+    // matches returns whether a path contains the pattern's literal numbers. Both must have the same general
+    // form.
     [[nodiscard]] bool matches(std::string_view path, std::span<const std::string_view> numbers) const;
 
  private:
     std::string text_;
-    std::vector<std::string> pieces_;  // between the {i}
+    std::vector<std::string> pieces_;  // the parts between the occurrences of {i}
 };
 
-// generalise writes a path with {i} in place of each name that is a number. It lists those numbers as views into the
-// path.
+// generalise stores a path with {i} in place of each name that is a number. It also stores those numbers, as
+// views into the path.
 void generalise(std::string_view path, std::string& general, std::vector<std::string_view>& numbers);
 
 }  // namespace ostrel::tool

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kPatience = 2000;  // milliseconds
 
-// as_argument returns nothing if the argument is a number and the text is not.
+// as_argument returns the text as a value, or nothing if the argument is a number and the text is not.
 std::optional<catalogue::Value> as_argument(const catalogue::Argument& argument, const std::string& text)
 {
     if (!argument.is_number()) return catalogue::Value(text);
@@ -79,7 +79,7 @@ std::optional<std::vector<catalogue::Value>> Probe::values_with(const std::strin
             if (!passed) return std::nullopt;
             values[here] = *passed;
         } else if (entry_->value == values.size()) {
-            // The value is one of several texts of an argument.
+            // The value is one of several strings in an argument.
             if (auto* texts = std::get_if<std::vector<std::string>>(&values[here])) texts->front() = value;
         }
     }

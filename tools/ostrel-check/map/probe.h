@@ -1,4 +1,4 @@
-// Probe: judges a value with an entry's check and with the map's examples as the other arguments.
+// Judging a value with the check of a map entry, and with the map's examples as the other arguments.
 #ifndef OSTREL_TOOLS_MAP_PROBE_H
 #define OSTREL_TOOLS_MAP_PROBE_H
 
@@ -32,7 +32,7 @@ class Probe {
     [[nodiscard]] std::optional<std::vector<catalogue::Value>> values_with(const std::string& value) const;
 
     const MapEntry* entry_;
-    std::vector<catalogue::Value> values_;  // of the arguments that are given
+    std::vector<catalogue::Value> values_;  // values for the arguments that must be given
     std::vector<std::pair<std::string, std::string>> others_;
 };
 

@@ -31,7 +31,7 @@ std::string_view name_of(Kind kind)
     return "not of the form and accepted";
 }
 
-// shown returns a value with escapes for control bytes. Other characters are unchanged.
+// shown returns a value with its control bytes escaped. Other characters are unchanged.
 std::string shown(std::string_view value)
 {
     std::string text;
@@ -45,7 +45,8 @@ std::string shown(std::string_view value)
     return text;
 }
 
-// brief returns a short form of a value. For a repeated character it shows the number of times.
+// brief returns a short form of a value. For a long value that repeats one character, it shows how many
+// times.
 std::string brief(const std::string& value)
 {
     constexpr std::size_t kLongest = 40;
@@ -62,7 +63,7 @@ std::string brief(const std::string& value)
     return "\"" + shown(value) + "\"";
 }
 
-// standing returns in a few words what is known about an entry.
+// standing returns a short description of what is known about an entry.
 std::string standing(const Comparison& one)
 {
     std::string text(name_of(one.relation));

@@ -1,4 +1,4 @@
-// Report: a comparison as a table, as JSON, or as a page in Markdown.
+// A comparison as a table, as JSON, or as a page in Markdown.
 #ifndef OSTREL_TOOLS_MAP_REPORT_H
 #define OSTREL_TOOLS_MAP_REPORT_H
 
@@ -11,7 +11,7 @@ namespace ostrel::tool {
 
 enum class ReportFormat { kText, kJson, kMarkdown };
 
-// report_of compares all entries of the map in the file, and returns the report.
+// report_of compares all entries of the map in the file with its data model, and returns the report.
 std::string report_of(const std::string& file, ReportFormat format);
 
 }  // namespace ostrel::tool

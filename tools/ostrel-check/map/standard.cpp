@@ -15,7 +15,7 @@ using rules::Languages;
 using rules::Set;
 
 constexpr std::size_t kMany = Languages::kMany;
-constexpr Set kWritten = Set::range(0x20, 0x7F) | Set("\t\n\r");  // the ASCII that XML can contain
+constexpr Set kWritten = Set::range(0x20, 0x7F) | Set("\t\n\r");  // the ASCII characters that XML can contain
 
 class StandardBuilder {
  public:
@@ -67,7 +67,7 @@ class StandardBuilder {
         return languages_.repeated(languages_.byte(set), least, most);
     }
 
-    // of_lengths returns the texts that repeat one as often as the limits allow.
+    // of_lengths returns the strings that repeat one as many times as the lengths allow.
     Language of_lengths(const std::vector<Range>& lengths, Language one, std::size_t factor = 1)
     {
         if (lengths.empty()) return languages_.repeated(one, 0);
@@ -99,7 +99,7 @@ class StandardBuilder {
         Standard result;
         result.form = languages_.repeated(one, 0);
         result.values = of_lengths(lengths, one);
-        // A text of so many bytes has at most so many characters.
+        // A string never has more characters than bytes.
         const bool has_least =
             std::ranges::any_of(lengths, [](const Range& range) { return range.low.value_or(0) > 1; });
         result.least = has_least ? result.values : of_lengths(lengths, byte);
@@ -108,7 +108,7 @@ class StandardBuilder {
         return result;
     }
 
-    // written returns the numbers from low to high, without leading zeros.
+    // written returns the numbers from low to high in decimal, without leading zeros.
     Language written(long long low, long long high)
     {
         std::vector<Language> parts;
@@ -130,7 +130,7 @@ class StandardBuilder {
         Standard result = exact(languages_.either(parts));
         written_otherwise_ = languages_.joined(languages_.repeated(languages_.byte(Set("+-")), 0, 1),
                                                bytes(rules::kDigits, 1, kMany));
-        // Numbers beyond an int are read differently by different builds.
+        // Builds differ in how they read numbers that do not fit in an int.
         const long long highest = facts_.numbers.empty() ? high : facts_.numbers.back().high.value_or(high);
         result.form = written(std::numeric_limits<int>::min(),
                               std::max<long long>(std::numeric_limits<int>::max(), highest));
@@ -141,7 +141,7 @@ class StandardBuilder {
     {
         const Language values = date_times(languages_);
         const Language none = languages_.no_byte();
-        // The end of a day may be written as its hour 24, and years may have more digits and a sign.
+        // The end of a day may be written as hour 24, and a year may have more than four digits and a sign.
         const Language more = languages_.joined(
             {languages_.either({none, languages_.text("-")}), bytes(rules::kDigits, 4, 4), languages_.any()});
         return {values, values, {}, {}, values, languages_.either({values, more})};
@@ -206,7 +206,7 @@ class StandardBuilder {
         return result;
     }
 
-    // url returns, as allowed values, some texts that are certainly URLs.
+    // url returns, as allowed values, only some strings that are certainly URLs.
     Standard url()
     {
         Standard result = text_of(facts_.lengths);
@@ -220,7 +220,7 @@ class StandardBuilder {
 
     Standard list(const Standard& one)
     {
-        // If the items are not restricted, any text is a list of items.
+        // If the items are not restricted, any string is a list of items.
         if (one.is_text && facts_.keywords.empty()) return text_of(facts_.list_lengths);
         const auto items = [&](Language item) {
             const Language more = languages_.repeated(languages_.joined(languages_.text(","), item), 0);

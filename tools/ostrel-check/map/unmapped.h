@@ -1,4 +1,4 @@
-// Unmapped: what dumps of gateways contain apart from judged values.
+// Counts of everything in dumps of gateways except judged values.
 #ifndef OSTREL_TOOLS_MAP_UNMAPPED_H
 #define OSTREL_TOOLS_MAP_UNMAPPED_H
 
@@ -18,11 +18,11 @@ struct Map;
 // why_unmapped returns the map's explanation for a path without a check, which is usually empty.
 std::string_view why_unmapped(const Map& map, std::string_view path);
 
-// SplitGateways remembers the last gateways of a batch.
+// SplitGateways remembers recent gateways, and counts those whose rows are not adjacent.
 class SplitGateways {
  public:
-    // begin records that rows of a gateway begin, and counts the gateway if earlier rows of it have ended. It ignores
-    // a gateway without a name, which is a separate one each time.
+    // begin records the start of a sequence of rows of a gateway, and counts the gateway if an earlier
+    // sequence of its rows has ended. It ignores gateways without a name, which are always separate.
     void begin(std::string_view gateway);
 
     [[nodiscard]] std::uint64_t count() const { return count_; }
@@ -31,7 +31,7 @@ class SplitGateways {
  private:
     std::uint64_t count_ = 0;
     std::string first_;
-    std::array<std::size_t, 4096> known_{};  // hashes of gateways, by their last bits
+    std::array<std::size_t, 4096> known_{};  // hashes of gateway names, indexed by their low bits
 };
 
 // DumpCounts counts gateways and their parameters.
@@ -43,13 +43,14 @@ struct DumpCounts {
     std::uint64_t split = 0;
 };
 
-// Unmapped stores at most kMostPaths paths, the first ones in byte order. It counts the parameters of other paths
-// together, even if the paths occur again. Therefore the sum over pieces is the same as for the whole.
+// Unmapped stores at most kMostPaths paths, which are the first ones in byte order. It counts the parameters
+// with other paths together, even if such a path occurs again. Therefore, adding up the counts of the parts
+// of an input yields the counts of the whole input.
 class Unmapped {
  public:
     static constexpr std::size_t kMostPaths = 10'000;
 
-    // has_map returns whether anything was judged by a map. use_map sets this.
+    // has_map returns whether anything was judged with a map. use_map records that it was.
     [[nodiscard]] bool has_map() const { return has_map_; }
     void use_map() { has_map_ = true; }
 

@@ -1,4 +1,4 @@
-// Closing: the settings for the end of a batch.
+// The settings for the end of a batch.
 #ifndef OSTREL_TOOLS_SUMMARY_CLOSING_H
 #define OSTREL_TOOLS_SUMMARY_CLOSING_H
 
@@ -10,14 +10,15 @@ namespace ostrel::tool {
 
 struct Closing {
     bool has_summary = true;
-    bool with_rows = false;  // by check, parameter and reason
+    bool with_rows = false;  // the summary contains rows for each check, parameter and reason
     bool as_json = false;
-    std::string file;  // for the summary; empty: it follows the results
+    std::string file;  // the summary's file; empty if the summary follows the results
     bool exits_with_zero = false;
 };
 
-// write_summary writes the summary to its file if it has one, otherwise after the results if it may follow them, and
-// otherwise to standard error. It returns whether this succeeded, and reports an error on standard error.
+// write_summary writes the summary to its file if it has one, otherwise after the results if it may follow
+// them, and otherwise to standard error. It returns whether this succeeded, and reports an error on standard
+// error.
 bool write_summary(const Closing& closing, const Summary& summary, bool follows_results);
 
 }  // namespace ostrel::tool

@@ -11,7 +11,7 @@ namespace ostrel::tool {
 namespace {
 
 constexpr std::size_t kLongestPath = 256;
-// Of a longer text, an example shows the beginning and the length.
+// An example shows only the beginning and the size of a longer string.
 constexpr std::size_t kLongestShown = 200;
 
 bool is_instance(std::string_view name)
@@ -44,7 +44,7 @@ catalogue::Value shortened(const catalogue::Value& value)
     return result;
 }
 
-// append_valid appends a text, with bytes that are not UTF-8 as \xNN.
+// append_valid appends text, and writes bytes that are not valid UTF-8 as \xNN.
 void append_valid(std::string& out, std::string_view text)
 {
     while (!text.empty()) {
@@ -57,7 +57,7 @@ void append_valid(std::string& out, std::string_view text)
     }
 }
 
-// member_text returns a member of the record as a text, or an empty text if the record has no member of that name.
+// member_text returns a member of the record as text, or an empty string if the record has no such member.
 std::string member_text(const Result& result, std::string_view name)
 {
     const Member* member = result.record == nullptr ? nullptr : result.record->find(name);
@@ -69,7 +69,7 @@ std::string member_text(const Result& result, std::string_view name)
 void append_counted_parameter(std::string& out, std::string_view path)
 {
     path = cut_text(path, kLongestPath);
-    // The name before the first dot is that of the tree.
+    // The first name is that of the tree, and never an instance.
     const std::size_t root = std::min(path.find('.'), path.size());
     append_valid(out, path.substr(0, root));
     path.remove_prefix(root);

@@ -1,4 +1,4 @@
-// Row: the records of a batch that are counted together.
+// A row of a summary, which counts similar records of a batch.
 #ifndef OSTREL_TOOLS_SUMMARY_ROW_H
 #define OSTREL_TOOLS_SUMMARY_ROW_H
 
@@ -12,32 +12,33 @@
 namespace ostrel::tool {
 
 inline constexpr std::uint16_t kNoCheck = 0xFFFF;
-// kUnmapped means that there is no record, but a parameter of a dump for which the map has no check. The example
-// explains why, or is empty.
+// kUnmapped marks a row that counts no records, but parameters of dumps for which the map has no check. The
+// example explains why, or is empty.
 inline constexpr std::uint16_t kUnmapped = 0xFFFE;
 
-// SummaryRow is what its records have in common, with one of them as an example. It does not own the memory of its
-// views.
+// SummaryRow contains what its records have in common, and one of them as an example. It does not own the
+// memory that its views refer to.
 struct SummaryRow {
-    std::uint16_t check = kNoCheck;  // its index in the functions of the catalogue
+    std::uint16_t check = kNoCheck;  // index of the check in the catalogue's functions
     Verdict verdict = Verdict::kMalformed;
-    int code = 0;                // of an accepted or refused case
-    std::string_view reason;     // its id; empty: none is known
-    std::string_view parameter;  // without the numbers of instances; empty: none was named
-    std::string_view example;    // an object of JSON; empty: there is none
+    int code = 0;                // the result code of an accepted or refused case
+    std::string_view reason;     // id of the reason; empty if it is not known
+    std::string_view parameter;  // without instance numbers; empty if the record names none
+    std::string_view example;    // a JSON object; empty if there is none
 };
 
-// append_counted_parameter appends a parameter's path with {i} in place of each number or alias of an instance. It
+// append_counted_parameter appends a parameter's path with {i} in place of each instance number or alias. It
 // keeps only the beginning of a very long path.
 void append_counted_parameter(std::string& out, std::string_view path);
 
-// row_of returns the row in which a result is counted. It stores the row's parameter in parameter.
+// row_of returns the row in which a result is counted. It stores the parameter of the row, which refers to
+// it, in parameter.
 SummaryRow row_of(const Result& result, std::string& parameter);
 
 // row_of_unmapped returns the row of a parameter without a check.
 SummaryRow row_of_unmapped(const Record& record, std::string& parameter);
 
-// example_of returns a result in JSON: its id, its arguments and the problem.
+// example_of returns the id, the arguments and the problem of a result as JSON, or nothing for an acceptance.
 std::string example_of(const Result& result, Encoding encoding);
 
 }  // namespace ostrel::tool

@@ -33,7 +33,7 @@ struct Rows {
 
 [[noreturn]] void refuse(const std::string& problem) { throw std::invalid_argument(problem); }
 
-// text_of returns a member's text, or the JSON of any other value.
+// text_of returns the content of a string member, or the JSON of any other member.
 std::optional<std::string> text_of(const ordered_json& object, const char* name)
 {
     const auto found = object.find(name);
@@ -117,7 +117,7 @@ void read_map(Unmapped& unmapped, const ordered_json& given)
     unmapped.add_others(others);
 }
 
-// read_result counts a result as the batch that wrote it would have.
+// read_result counts a result as the batch that wrote it would have counted it.
 void read_result(Rows& rows, const ordered_json& result)
 {
     CountedRow counted{common_of(result), false, 1};

@@ -1,4 +1,4 @@
-// Summary: the outcomes of the records of a batch, by check, parameter and reason.
+// The outcomes of a batch's records, counted by check, parameter and reason.
 #ifndef OSTREL_TOOLS_SUMMARY_SUMMARY_H
 #define OSTREL_TOOLS_SUMMARY_SUMMARY_H
 
@@ -19,13 +19,14 @@ namespace ostrel::tool {
 // CountedRow is a row with the number of its records.
 struct CountedRow {
     SummaryRow row;
-    bool is_others = false;  // of the parameters that are not counted individually
+    bool is_others = false;  // the records have parameters that are not counted individually
     std::uint64_t count = 0;
 };
 
-// Summary stores at most kMostParameters parameters of a check, the first ones in byte order. It counts the records
-// of other parameters together. A parameter that is among the others stays there, whatever follows. Therefore the sum
-// of the summaries of pieces is the summary of the whole.
+// Summary stores at most kMostParameters parameters of each check, which are the first ones in byte order. It
+// counts the records with any other parameters of the check together. A parameter that has been counted in
+// this way is never counted individually again. Therefore, adding up the summaries of the parts of an input
+// yields the summary of the whole input.
 class Summary {
  public:
     static constexpr std::size_t kMostParameters = 1000;
@@ -42,8 +43,7 @@ class Summary {
     [[nodiscard]] const Tally& tally() const { return tally_; }
     [[nodiscard]] std::uint64_t unreadable_files() const { return unreadable_files_; }
 
-    // for_each visits the rows in the order of the catalogue, then of the parameters, then of verdicts, codes and
-    // reasons.
+    // for_each visits the rows in the order of the catalogue, then by parameter, verdict, code and reason.
     void for_each(const std::function<void(const CountedRow&)>& visit) const;
 
  private:

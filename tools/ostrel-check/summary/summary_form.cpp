@@ -18,8 +18,8 @@ const catalogue::Function* function_of(const SummaryRow& row)
     return row.check == kNoCheck ? nullptr : &catalogue::functions()[row.check];
 }
 
-// Ends counts the records of a family: accepted and refused ones by code, acceptance first, and the others by
-// verdict.
+// Ends counts the records of a family. Accepted and refused records are counted by code, with acceptance
+// first, and all other records by verdict.
 struct Ends {
     std::string_view family;
     std::map<std::pair<bool, int>, std::uint64_t> by_code;
@@ -72,7 +72,7 @@ ordered_json families_json(const Summary& summary)
     return families;
 }
 
-// append_example appends the record on a separate line.
+// append_example appends the example on a separate line.
 void append_example(std::string& text, std::string_view example)
 {
     if (example.empty()) return;

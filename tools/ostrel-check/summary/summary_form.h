@@ -1,4 +1,4 @@
-// The forms of a summary: for people and for programs.
+// The text form of a summary, for people, and the JSON form, for programs.
 #ifndef OSTREL_TOOLS_SUMMARY_SUMMARY_FORM_H
 #define OSTREL_TOOLS_SUMMARY_SUMMARY_FORM_H
 
@@ -8,8 +8,8 @@
 
 namespace ostrel::tool {
 
-// summary_text and summary_json show the outcomes of the records of each family of checks and, if with_rows is set,
-// of each row. The last line of the text shows the totals. The JSON is one line.
+// summary_text and summary_json show the outcomes for each family of checks and, if with_rows is set, for
+// each row. The last line of the text shows the totals. The JSON is one line.
 std::string summary_text(const Summary& summary, bool with_rows);
 std::string summary_json(const Summary& summary, bool with_rows);
 
