@@ -81,8 +81,8 @@ class Comparer {
         return {claim.holds, claim.fails, claim.is_decided};
     }
 
-    // is_of returns whether a value can be a difference of the given kind, if the check has the corresponding
-    // outcome.
+    // is_of returns whether a value would be a difference of the given kind if the check had the
+    // corresponding outcome.
     bool is_of(Kind kind, const std::string& value)
     {
         const bool is_ascii = std::ranges::all_of(value, [](unsigned char c) { return c < 0x80; });
@@ -132,7 +132,7 @@ class Comparer {
         return found;
     }
 
-    // search derives values from the description. If the description is incomplete, they may not be
+    // search derives values from the description. If the description is incomplete, some of them may not be
     // differences.
     std::optional<Difference> search(Kind kind)
     {

@@ -24,7 +24,8 @@ class Dump {
     // Throws std::invalid_argument with a message for the user.
     Dump(FileFormat format, const Reading& reading, std::string_view preamble);
 
-    // next returns the same as the function next of the file's reader.
+    // next returns the size of the row or object at the front of rest, including the separator that follows
+    // it.
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
     // read reads a CSV row or an object, and next_row then returns its rows. Throws std::invalid_argument

@@ -38,7 +38,7 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
     // bytes_of returns the value of a member in the chosen encoding. It is valid until the next call.
     [[nodiscard]] std::string_view bytes_of(const Member& member);
 
-    // The parser calls these functions, and functions of the base class that are not replaced here.
+    // The parser calls these functions. The base class provides those that are not defined here.
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
     bool Null() { return skip(); }
     bool Bool(bool value) { return scalar(value ? "true" : "false", true); }

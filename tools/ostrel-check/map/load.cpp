@@ -207,8 +207,8 @@ class Loader {
         return source;
     }
 
-    // call_of returns a name for the call that an entry makes. Entries that make the same call for different
-    // parameters have the same name.
+    // call_of returns a key that identifies an entry's call. Entries that make the same call for different
+    // parameters have the same key.
     static std::string call_of(const MapEntry& entry)
     {
         std::string name(entry.function->name);

@@ -27,9 +27,9 @@ class MapReader : public Reader {
     // skip skips whole gateways.
     std::size_t skip(std::string_view rest, std::uint64_t line) override;
 
-    // read continues where it stopped. If another reader stopped there, because a worker continues where
-    // another one ended, read starts again at the beginning of the text. It does not throw. A fault in a row
-    // becomes the problem of its record, and read continues with the next row.
+    // read continues where the previous call stopped. In a worker that takes over from another one, it starts
+    // again at the beginning of the text and skips the records that were read before. It does not throw. A
+    // fault in a row becomes the problem of its record, and read continues with the next row.
     Found read(std::string_view text, std::size_t part, Record& record) override;
 
  private:
@@ -53,7 +53,7 @@ class MapReader : public Reader {
     std::string gateway_;
     bool is_in_gateway_ = false;
     bool is_whole_gateway_ = false;  // the current gateway is a single JSON object
-    bool is_ending_ = false;         // the calls at the end of the gateway are being made
+    bool is_ending_ = false;         // the calls at the end of the gateway are being derived
     std::uint64_t end_line_ = 0;     // the line at which the next gateway begins, if is_ending_
     bool has_waiting_ = false;       // a row of the next gateway is waiting for the end of this one
     bool is_read_ = false;           // the rows that dump_ has read are being taken

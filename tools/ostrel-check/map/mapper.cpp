@@ -10,7 +10,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// argument_of returns the argument for the source with an index. Arguments that are only written have no
+// argument_of returns the argument for the source at the given index. Arguments that are only written have no
 // source.
 const catalogue::Argument& argument_of(const catalogue::Function& function, std::size_t index)
 {

@@ -33,9 +33,9 @@ struct DumpRow {
     std::span<const Member> members = {};  // members that results repeat
 };
 
-// Mapper takes the rows of one gateway after another. It derives the calls that need only one parameter, and
-// reports parameters without a check, immediately. At the end of the gateway, it derives the calls that also
-// need other parameters, in the order of their rows. It stores the data of only one gateway.
+// Mapper takes the rows of one gateway after another. It immediately derives the calls that need only one
+// parameter, and reports parameters without a check. At the end of the gateway, it derives the calls that
+// also need other parameters, in the order of their rows. It stores the data of only one gateway.
 class Mapper {
  public:
     explicit Mapper(const Map& map) : map_(&map) {}

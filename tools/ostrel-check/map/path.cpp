@@ -60,7 +60,7 @@ void generalise(std::string_view path, std::string& general, std::vector<std::st
     general = path;
     numbers.clear();
     // Numbers are short and rare, so most of a path is skipped.
-    std::size_t grown = 0;  // how many bytes longer than the path general has become
+    std::size_t grown = 0;  // number of bytes by which general is longer than path
     for (std::size_t begin = 0; begin < path.size(); ++begin) {
         const bool begins_name = begin == 0 || path[begin - 1] == '.';
         if (!begins_name || path[begin] < '0' || path[begin] > '9') continue;

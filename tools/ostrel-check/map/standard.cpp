@@ -174,7 +174,7 @@ class StandardBuilder {
         return result;
     }
 
-    // base64 returns base64 without line breaks.
+    // base64 returns only values without line breaks.
     Standard base64()
     {
         const Set all("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/");

@@ -10,7 +10,7 @@ namespace ostrel::tool {
 
 struct Closing {
     bool has_summary = true;
-    bool with_rows = false;  // the summary contains rows for each check, parameter and reason
+    bool with_rows = false;  // the summary includes rows by check, parameter and reason
     bool as_json = false;
     std::string file;  // the summary's file; empty if the summary follows the results
     bool exits_with_zero = false;

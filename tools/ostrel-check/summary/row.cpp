@@ -69,7 +69,7 @@ std::string member_text(const Result& result, std::string_view name)
 void append_counted_parameter(std::string& out, std::string_view path)
 {
     path = cut_text(path, kLongestPath);
-    // The first name is that of the tree, and never an instance.
+    // The first name is the name of the tree, never an instance.
     const std::size_t root = std::min(path.find('.'), path.size());
     append_valid(out, path.substr(0, root));
     path.remove_prefix(root);

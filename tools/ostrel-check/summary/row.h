@@ -31,14 +31,15 @@ struct SummaryRow {
 // keeps only the beginning of a very long path.
 void append_counted_parameter(std::string& out, std::string_view path);
 
-// row_of returns the row in which a result is counted. It stores the parameter of the row, which refers to
-// it, in parameter.
+// row_of returns the row in which a result is counted. It stores the row's parameter in the string parameter,
+// which must outlive the row.
 SummaryRow row_of(const Result& result, std::string& parameter);
 
 // row_of_unmapped returns the row of a parameter without a check.
 SummaryRow row_of_unmapped(const Record& record, std::string& parameter);
 
-// example_of returns the id, the arguments and the problem of a result as JSON, or nothing for an acceptance.
+// example_of returns the id, the arguments and the problem of a result as JSON, or an empty string for an
+// acceptance or an answer.
 std::string example_of(const Result& result, Encoding encoding);
 
 }  // namespace ostrel::tool

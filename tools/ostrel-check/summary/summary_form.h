@@ -1,4 +1,4 @@
-// The text form of a summary, for people, and the JSON form, for programs.
+// A summary as text for people, and as JSON for programs.
 #ifndef OSTREL_TOOLS_SUMMARY_SUMMARY_FORM_H
 #define OSTREL_TOOLS_SUMMARY_SUMMARY_FORM_H
 

@@ -8,8 +8,8 @@
 
 namespace ostrel::tool {
 
-// StopSignals handles SIGINT and SIGTERM during its lifetime, unless they were ignored before. The second signal of a
-// kind ends the process. Only one StopSignals may exist at a time.
+// StopSignals handles SIGINT and SIGTERM during its lifetime, unless they were ignored before. A second
+// signal of the same kind ends the process. Only one StopSignals may exist at a time.
 class StopSignals {
  public:
     StopSignals();
