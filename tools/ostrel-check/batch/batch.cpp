@@ -64,8 +64,8 @@ class Batch {
         return error_ == 0;
     }
 
-    // is_stopped returns whether the batch was interrupted and the slot at the front of the queue, if there
-    // is one, has finished its work.
+    // is_stopped returns whether the batch was interrupted and no work is in progress at the front of the
+    // queue.
     [[nodiscard]] bool is_stopped() const
     {
         return StopSignals::number() != 0 && (busy_.empty() || !busy_.front()->is_running());
@@ -234,7 +234,7 @@ class Batch {
     std::vector<std::unique_ptr<Slot>> idle_;
     std::deque<std::unique_ptr<Slot>> busy_;
     Summary summary_;
-    std::uint64_t bytes_ = 0;  // read so far
+    std::uint64_t bytes_ = 0;  // bytes read so far
     std::size_t file_ = 0;     // index of the file that line_ refers to
     std::uint64_t line_;
     int error_ = 0;  // errno of a failed write of results, or 0

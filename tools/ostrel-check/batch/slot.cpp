@@ -89,7 +89,7 @@ void Slot::look()
     } else if (std::chrono::duration<double>(now - seen_at_).count() > rules_->limit) {
         is_running_ = false;
         stop_worker();
-        if (arena_->commits() != commits_seen_) return;  // it made progress at the last moment
+        if (arena_->commits() != commits_seen_) return;  // the worker made progress at the last moment
         conclude(Verdict::kNoReturn, describe_no_return(rules_->limit));
     }
 }

@@ -18,7 +18,7 @@ namespace ostrel::tool {
 
 using Clock = std::chrono::steady_clock;
 
-// Rules are the settings that apply to every line of a batch.
+// Rules are the settings that apply to every record of a batch.
 struct Rules {
     Style style;
     Reading reading;
@@ -56,11 +56,11 @@ class Slot {
     // ask_to_stop makes the worker stop after the current record.
     void ask_to_stop() { arena_->ask_to_stop(); }
 
-    // take writes the results so far and counts those that could be written. The worker then continues with the rest
-    // of the chunk, unless it was asked to stop.
+    // take writes the results obtained so far and counts those that could be written. The worker then
+    // continues with the rest of the chunk, unless it was asked to stop.
     Taken take(int descriptor, Summary& summary);
 
-    // judged returns the worker's progress. Its cases are only those whose results have not been taken.
+    // judged returns the worker's progress, which counts only the cases whose results have not been taken.
     [[nodiscard]] const Progress& judged() const { return arena_->progress(); }
     // left returns the number of bytes of the chunk that have not been judged.
     [[nodiscard]] std::size_t left() const { return arena_->rest_of_input().size(); }

@@ -13,7 +13,7 @@
 namespace ostrel::tool {
 
 // StandIn replaces the driver during its lifetime. It puts its own wlctl, which lists the given channels,
-// first on PATH. If the user may not write to /var, where the driver's answer is stored, the process gets a
+// first on PATH. If the user cannot write to /var, where the driver's answer is stored, the process gets a
 // private /var. The constructor throws std::invalid_argument if the list contains anything but numbers and
 // blanks.
 class StandIn {
@@ -52,7 +52,7 @@ struct Heard {
     std::string problem;  // why there is no list; empty if there is one
 };
 
-// Listening records the driver's answers from its construction until heard(). A check is called in between.
+// Listening records the driver's answers until heard() is called. The check is called before that.
 class Listening {
  public:
     Listening();

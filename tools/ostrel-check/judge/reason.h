@@ -13,8 +13,8 @@
 
 namespace ostrel::tool {
 
-// gateway returns the build that this program belongs to. The caller may set the channels that the wireless driver
-// lists.
+// gateway returns the build that this program belongs to. The caller may set the channels that the wireless
+// driver lists.
 rules::Build& gateway();
 
 // explain uses the check's description to set the reason why the check refused, ended its process or did not
@@ -29,13 +29,13 @@ void answer_at_once(Result& result);
 // asks_driver returns whether a call queries the wireless driver.
 bool asks_driver(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 
-// blame_driver sets the verdict and the reason for a call for which the driver returned no list.
+// blame_driver sets the verdict and the reason for a case in which the driver returned no list.
 void blame_driver(Result& result, std::string_view problem);
 
 // explain_by_driver sets the reason for a refusal from the driver's answer during the call.
 void explain_by_driver(Result& result, const Heard& heard);
 
-// write_reasons adds the members "reason" and "remarks" to an object.
+// write_reasons adds the members "reason" and "remarks" to a JSON object.
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding);
 
 // explain_lack sets the reason why no call could be made for a record that is itself correct.

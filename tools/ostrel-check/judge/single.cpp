@@ -56,7 +56,7 @@ class Marker {
  private:
     void append(std::string& out, std::string_view line, bool is_ended) const
     {
-        if (begins_line_ && line.empty()) return;  // many lines end in two line feeds
+        if (begins_line_ && line.empty()) return;  // many messages end in two line feeds
         std::string shown(begins_line_ ? kLibrary : "");
         const bool is_whole = !shown.empty() && is_ended;
         // Control bytes in a value must not reach a terminal.

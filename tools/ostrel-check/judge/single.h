@@ -12,12 +12,12 @@ namespace ostrel::tool {
 // Manner controls how one case is judged.
 struct Manner {
     double limit = 2;            // seconds that the call may take
-    bool tries_known = false;    // makes even a call that is known not to return
-    std::string driver_problem;  // why --channels could not replace the wireless driver, or empty
+    bool tries_known = false;    // also makes calls that are known not to return
+    std::string driver_problem;  // why --channels could not replace the wireless driver; empty if it could
 };
 
-// judge_one judges the values, prints the verdict and returns the exit code. Throws std::invalid_argument, with a
-// message for the user, if the values do not match the check's arguments.
+// judge_one judges the values, prints the verdict and returns the exit code. Throws std::invalid_argument,
+// with a message for the user, if the values do not match the check's arguments.
 int judge_one(const catalogue::Function& function, std::span<const std::string> words, const Manner& manner);
 
 }  // namespace ostrel::tool

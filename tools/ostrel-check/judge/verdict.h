@@ -33,7 +33,8 @@ inline constexpr std::size_t kVerdicts = 7;
 std::string_view name_of(Verdict verdict);
 std::string_view json_name(Verdict verdict);
 
-// has_code returns whether the number that the check returned is meaningful, and is_code whether it is a result code.
+// has_code returns whether the number that the check returned is meaningful, and is_code whether it is a
+// result code.
 bool has_code(Verdict verdict);
 bool is_code(Verdict verdict);
 
@@ -58,11 +59,11 @@ struct Tally {
     [[nodiscard]] std::uint64_t sum() const;
 };
 
-// Why is the reason why a check refused, ended its process or did not return.
+// Why contains the reason why a check refused, ended its process or did not return.
 struct Why {
     std::string text;  // as a sentence; empty if the reason is not known
     rules::Reason reason;
-    std::vector<rules::Reason> remarks;  // reasons of the steps that printed but did not decide, in order
+    std::vector<rules::Reason> remarks;  // reasons from steps that printed but did not decide, in order
 };
 
 // Result is a case and its outcome. It does not own the memory that its views refer to.

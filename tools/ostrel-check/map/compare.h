@@ -24,12 +24,12 @@ enum class Relation {
 
 std::string_view name_of(Relation relation);
 
-// Difference is a value on which the model and the check disagree, confirmed by a call of the library.
+// Difference is a value on which the model and the check disagree, confirmed by calling the library.
 struct Difference {
     enum class Kind {
-        kRefused,   // allowed but refused
-        kAccepted,  // of the type's form and not allowed, but accepted
-        kForeign,   // not of the type's form, but accepted
+        kRefused,   // is allowed but refused
+        kAccepted,  // has the type's form and is not allowed, but accepted
+        kForeign,   // does not have the type's form, but is accepted
     };
     Kind kind = Kind::kRefused;
     std::string value;
@@ -42,15 +42,14 @@ struct Comparison {
     const MapEntry* entry = nullptr;
     const ModelFacts* facts = nullptr;
     Relation relation = Relation::kUnknown;
-    // is_proved means that relation is certain, because no other difference of the kinds kRefused and
-    // kAccepted can change it.
+    // is_proved means that no undiscovered difference of the kind kRefused or kAccepted can change relation.
     bool is_proved = false;
     std::vector<Difference> differences = {};  // at most one of each kind
     std::size_t tried = 0;                     // values that were judged
 };
 
-// compare calls the library in separate processes. Throws std::invalid_argument if the map's entry lacks data that a
-// comparison needs.
+// compare calls the library in separate processes. Throws std::invalid_argument if the map's entry lacks data
+// that a comparison needs.
 Comparison compare(const Map& map, const MapEntry& entry, const ModelFacts& facts);
 
 }  // namespace ostrel::tool

@@ -1,4 +1,4 @@
-// A JSON document with the line number of each part, for messages about files that people write.
+// A JSON document with the line number of each part, for messages about hand-written files.
 #ifndef OSTREL_TOOLS_MAP_DOCUMENT_H
 #define OSTREL_TOOLS_MAP_DOCUMENT_H
 

@@ -64,7 +64,7 @@ struct NotMapped {
 // KnownPath is the map's information about all paths with the same general form.
 struct KnownPath {
     std::vector<std::size_t> entries = {};
-    bool is_sibling = false;  // calls for other parameters may need it
+    bool is_sibling = false;  // calls for other parameters may need the values
 };
 
 struct Map {

@@ -17,7 +17,7 @@ MapCutter::MapCutter(FileFormat format, const Reading& reading)
 Cut MapCutter::cut(std::string_view bytes, bool is_end)
 {
     const std::size_t all = bytes.size();
-    // The file's cutter must not receive again the bytes that it has already cut off.
+    // Bytes that the file's cutter has already cut off must not be passed to it again.
     Cut cut = cutter_->cut(bytes.substr(whole_), is_end);
     if (cut.preamble > 0) {
         preamble_ = bytes.substr(whole_ + cut.dropped, cut.preamble);

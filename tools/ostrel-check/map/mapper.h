@@ -1,4 +1,4 @@
-// Deriving the calls of checks from the parameters of a gateway, according to a map.
+// Deriving calls of checks from a gateway's parameters, according to a map.
 #ifndef OSTREL_TOOLS_MAP_MAPPER_H
 #define OSTREL_TOOLS_MAP_MAPPER_H
 

@@ -28,7 +28,7 @@ class PathPattern {
     // instances returns how many times the pattern contains {i}.
     [[nodiscard]] std::size_t instances() const { return pieces_.size() - 1; }
 
-    // append appends the path, with each {i} replaced by the next of the numbers. Excess numbers are ignored.
+    // append appends the path, with each {i} replaced by the next number. Excess numbers are ignored.
     void append(std::string& out, std::span<const std::string_view> numbers) const;
 
     // matches returns whether a path contains the pattern's literal numbers. Both must have the same general

@@ -45,8 +45,8 @@ std::string shown(std::string_view value)
     return text;
 }
 
-// brief returns a short form of a value. For a long value that repeats one character, it shows how many
-// times.
+// brief returns a short form of a value. A long value that repeats one character is shown as a count and that
+// character.
 std::string brief(const std::string& value)
 {
     constexpr std::size_t kLongest = 40;

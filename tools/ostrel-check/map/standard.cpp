@@ -206,7 +206,7 @@ class StandardBuilder {
         return result;
     }
 
-    // url returns, as allowed values, only some strings that are certainly URLs.
+    // url treats as allowed only some of the strings that are certainly URLs.
     Standard url()
     {
         Standard result = text_of(facts_.lengths);

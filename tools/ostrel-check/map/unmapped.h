@@ -1,4 +1,4 @@
-// Counts of everything in dumps of gateways except judged values.
+// Counts of everything in gateway dumps except judged values.
 #ifndef OSTREL_TOOLS_MAP_UNMAPPED_H
 #define OSTREL_TOOLS_MAP_UNMAPPED_H
 
@@ -15,7 +15,8 @@ namespace ostrel::tool {
 
 struct Map;
 
-// why_unmapped returns the map's explanation for a path without a check, which is usually empty.
+// why_unmapped returns the map's explanation of why a path has no check, or an empty string if it contains
+// none.
 std::string_view why_unmapped(const Map& map, std::string_view path);
 
 // SplitGateways remembers recent gateways, and counts those whose rows are not adjacent.

@@ -35,7 +35,7 @@ void append_counted_parameter(std::string& out, std::string_view path);
 // which must outlive the row.
 SummaryRow row_of(const Result& result, std::string& parameter);
 
-// row_of_unmapped returns the row of a parameter without a check.
+// row_of_unmapped returns the row in which a parameter without a check is counted.
 SummaryRow row_of_unmapped(const Record& record, std::string& parameter);
 
 // example_of returns the id, the arguments and the problem of a result as JSON, or an empty string for an

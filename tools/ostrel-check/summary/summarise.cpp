@@ -22,7 +22,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-// Rows is the content of a line. The views of its rows refer to texts.
+// Rows is the content of one line. The views in its rows refer to the strings in texts.
 struct Rows {
     std::vector<CountedRow> counted;
     Unmapped unmapped;
@@ -95,7 +95,7 @@ void read_row(Rows& rows, const ordered_json& given)
     rows.counted.push_back(counted);
 }
 
-// read_map reads the counts of dumps in a summary.
+// read_map reads a summary's counts for dumps.
 void read_map(Unmapped& unmapped, const ordered_json& given)
 {
     if (!given.is_object()) refuse("\"map\" is not an object");

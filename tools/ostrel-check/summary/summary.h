@@ -36,7 +36,7 @@ class Summary {
     void add(const CountedRow& counted);
     void add_unreadable_files(std::uint64_t count) { unreadable_files_ += count; }
 
-    // unmapped returns the counts of dumps.
+    // unmapped returns the counts for dumps.
     [[nodiscard]] Unmapped& unmapped() { return unmapped_; }
     [[nodiscard]] const Unmapped& unmapped() const { return unmapped_; }
 

@@ -9,7 +9,7 @@
 
 namespace ostrel::tool {
 
-// Descriptor is an open file. The destructor closes it.
+// Descriptor is an open file, which the destructor closes.
 class Descriptor {
  public:
     explicit Descriptor(int number = -1) : number_(number) {}
@@ -62,8 +62,8 @@ std::string describe_ending(const Ending& ending, bool by_assertion);
 // describe_no_return describes a call that did not return within the given number of seconds.
 std::string describe_no_return(double seconds);
 
-// occupy_standard_descriptors prevents a pipe or a file from taking the number of a closed standard stream. Using
-// that stream still fails.
+// occupy_standard_descriptors prevents a pipe or a file from being assigned the number of a closed standard
+// stream. Using that stream still fails.
 void occupy_standard_descriptors();
 
 // say writes to standard error and ignores errors.
