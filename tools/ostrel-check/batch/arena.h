@@ -27,17 +27,17 @@ std::uint64_t count_lines(std::string_view text);
 struct Progress {
     std::size_t read = 0;  // bytes of input that have been processed
     std::uint64_t line = 0;
-    // The line at which to resume. If the current text contains several gateways, this is the first line of
-    // the current gateway.
+    // The line at which to resume. If the current entry, as a Reader defines it, contains several gateways,
+    // this is the first line of the current gateway.
     std::uint64_t next = 0;
-    std::size_t part = 0;     // number of records already read from the current text
+    std::size_t part = 0;     // number of records already read from the current entry
     bool is_within = false;   // only some of a gateway's records have been judged
     std::size_t written = 0;  // bytes of output
     std::uint64_t cases = 0;  // cases with results in the output
     std::uint64_t refused = 0;
     Log::Size log;
 
-    // advance moves past a record and, if it was the last one in the text, past the text.
+    // advance moves past a record and, if the entry contains no more records, past the entry.
     void advance(std::string_view text, bool has_more, const Record& record)
     {
         const bool ends_gateway = has_more && record.kind == Record::Kind::kGatewayEnd;

@@ -61,7 +61,7 @@ class Judge {
         return progress.written < kEnoughOutput && !Log::is_half_full(progress.log) && !arena_->is_to_stop();
     }
 
-    // judge judges one record of the text, and returns whether the text contains another.
+    // judge judges one record of an entry, and returns whether the entry contains another.
     bool judge(std::string_view text, Progress& progress)
     {
         result_.clear();

@@ -12,7 +12,7 @@
 
 namespace ostrel::tool {
 
-// MapReader reads a whole chunk, which contains only whole gateways, as one text. After the last record of a
+// MapReader reads a whole chunk, which contains only whole gateways, as one entry. After the last record of a
 // chunk, read returns Found::kNothing.
 class MapReader : public Reader {
  public:
@@ -28,12 +28,12 @@ class MapReader : public Reader {
     std::size_t skip(std::string_view rest, std::uint64_t line) override;
 
     // read continues where the previous call stopped. In a worker that takes over from another one, it starts
-    // again at the beginning of the text and skips the records that were read before. It does not throw. A
+    // again at the beginning of the chunk and skips the records that were read before. It does not throw. A
     // fault in a row becomes the problem of its record, and read continues with the next row.
     Found read(std::string_view text, std::size_t part, Record& record) override;
 
  private:
-    // Next is the next event in a text.
+    // Next is what read_row finds next.
     enum class Next { kRow, kGatewayEnd, kProblem, kNothing };
 
     void begin(std::string_view text);
@@ -62,7 +62,7 @@ class MapReader : public Reader {
     std::string_view rest_;
     std::size_t begin_ = 0;  // position of the last row in text_
     std::size_t next_part_ = 0;
-    std::uint64_t line_ = 0;  // counted from the beginning of the text
+    std::uint64_t line_ = 0;  // counted from the beginning of text_
     std::uint64_t next_line_ = 0;
 };
 
