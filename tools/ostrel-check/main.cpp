@@ -1,4 +1,4 @@
-// ostrel-check: judges values of a home gateway's configuration with the library's checks.
+// ostrel-check judges values of a home gateway's configuration with the library's checks.
 
 #include <unistd.h>
 
@@ -32,7 +32,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// rules_of returns the rules with the options that control judging.
+// rules_of completes the batch rules with the options that control judging, and returns them.
 Rules& rules_of(Options& options)
 {
     Rules& rules = options.rules;
@@ -66,7 +66,7 @@ int judge_words(const CLI::App& app, Options& options)
     }
 }
 
-// run_batch_of judges the contents of files according to the options.
+// run_batch_of runs a batch according to the options.
 int run_batch_of(Options& options)
 {
     Rules& rules = rules_of(options);
@@ -127,7 +127,7 @@ int run(int argc, char** argv)
 int main(int argc, char** argv)
 {
     ostrel::tool::occupy_standard_descriptors();
-    // A closed pipe is detected when writing.
+    // Writing to a closed pipe must fail, not end the program.
     std::signal(SIGPIPE, SIG_IGN);
     try {
         return ostrel::tool::run(argc, argv);

@@ -1,4 +1,4 @@
-// Options that take one of a few words. Help, manual page and completion show the words as the type.
+// Options that take one of a few words, which help, the manual page and completion show as the option's type.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
 #define OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
 
@@ -10,10 +10,10 @@
 
 namespace ostrel::tool {
 
-// kOr separates the words in the name of the type.
+// kOr separates the words in the name of such a type.
 inline constexpr char kOr = '|';
 
-// refuse_others makes an option refuse any other word.
+// refuse_others makes an option accept only these words.
 template <typename Word>
 CLI::Option* refuse_others(CLI::Option* option, const std::vector<Word>& words)
 {

@@ -1,4 +1,4 @@
-// Complain: messages about wrong usage, on standard error, with advice.
+// Messages about wrong usage, printed to standard error with advice.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_COMPLAIN_H
 #define OSTREL_TOOLS_COMMAND_LINE_COMPLAIN_H
 
@@ -13,7 +13,7 @@ namespace ostrel::tool {
 inline constexpr std::string_view kAdviceOnNames =
     "ostrel-check list WORD searches the names and rules of all checks.\n";
 
-// complain prints the problem, then the advice, which includes its line end, and returns the exit code.
+// complain prints the problem and then the advice, which must end with a line end. It returns the exit code.
 int complain(std::string_view problem, std::string_view advice);
 
 int complain_of_usage(std::string_view problem);
@@ -21,7 +21,7 @@ int complain_of_usage(std::string_view problem);
 // complain_of_name reports a word that is neither a command nor a check, with suggestions.
 int complain_of_name(const CLI::App& app, const std::string& name);
 
-// find_meant returns the check of that name, or NULL. It prints a note if the name differs in case.
+// find_meant returns the check with that name in any case, or NULL. It prints a note if the case differs.
 const catalogue::Function* find_meant(const std::string& name);
 
 }  // namespace ostrel::tool

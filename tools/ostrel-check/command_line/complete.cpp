@@ -25,7 +25,8 @@ void add_names(Candidates& candidates)
         candidates.push_back({std::string(function.name), rules::accepted(*function.check, gateway())});
 }
 
-// values_of returns the candidates of a type. Literal words are in lower case, and kinds of words in upper case.
+// values_of returns the candidates for a type, in which literal words are in lower case and kinds of words in
+// capital letters.
 Candidates values_of(const std::string& type)
 {
     Candidates candidates;
@@ -54,7 +55,7 @@ Candidates long_options_of(const CLI::App& app)
     return candidates;
 }
 
-// keywords_at returns the keywords of the argument that the value at this index belongs to.
+// keywords_at returns the keywords of the argument to which the value at this index belongs.
 Candidates keywords_at(std::string_view name, std::size_t value)
 {
     const Function* function = catalogue::find_in_any_case(name);
@@ -73,7 +74,7 @@ Candidates keywords_at(std::string_view name, std::size_t value)
     return {};
 }
 
-// Parser reads the words before the one to complete, as the command-line parser does.
+// Parser reads the words before the one to be completed, in the same way as the command-line parser.
 class Parser {
  public:
     explicit Parser(const CLI::App& app) : app_(&app) {}
@@ -113,7 +114,7 @@ class Parser {
     }
 
  private:
-    // takes_value returns the option if it takes a value, else NULL.
+    // takes_value returns the option with that name if it takes a value, and NULL otherwise.
     [[nodiscard]] const CLI::Option* takes_value(const std::string& name) const
     {
         const CLI::Option* option = app_->get_option_no_throw(name);
@@ -159,9 +160,9 @@ class Parser {
 
     const CLI::App* app_;                  // the program, or one of its commands
     const CLI::Option* option_ = nullptr;  // the option that still needs its value
-    bool only_words_ = false;              // after "--"
+    bool only_words_ = false;              // "--" has been read
     std::string check_;
-    std::size_t values_ = 0;  // of the check, or of the command
+    std::size_t values_ = 0;  // read so far, for the check or the command
 };
 
 }  // namespace

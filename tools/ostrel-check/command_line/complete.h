@@ -1,4 +1,4 @@
-// Complete: completion of a word on the command line.
+// Completion of a word on the command line.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_COMPLETE_H
 #define OSTREL_TOOLS_COMMAND_LINE_COMPLETE_H
 
@@ -10,7 +10,7 @@
 
 namespace ostrel::tool {
 
-// kFiles is the candidate for the path of any file; no name or keyword begins with "@".
+// kFiles is a candidate that stands for the path of any file. No name or keyword begins with "@".
 inline constexpr std::string_view kFiles = "@files";
 
 struct Candidate {
@@ -18,8 +18,8 @@ struct Candidate {
     std::string what;  // a short description; may be empty
 };
 
-// complete returns the candidates for the last of the words, which are those after the program's name. Names are
-// completed in any case. After --option= a candidate is the value alone.
+// complete returns the candidates for the last word. The words are those after the program's name. Names are
+// completed in any case. A candidate after --option= is only the value.
 std::vector<Candidate> complete(const CLI::App& app, std::span<const std::string> words);
 
 }  // namespace ostrel::tool

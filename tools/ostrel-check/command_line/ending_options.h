@@ -1,4 +1,4 @@
-// Options of calls, and options for the beginning, the summary and the end of a batch.
+// Options for calls, and for the beginning, the summary and the end of a batch.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_ENDING_OPTIONS_H
 #define OSTREL_TOOLS_COMMAND_LINE_ENDING_OPTIONS_H
 
@@ -13,15 +13,15 @@
 namespace ostrel::tool {
 
 struct EndingOptions {
-    std::string summary;  // its format; empty: none was chosen
+    std::string summary;  // its format, or empty if none was chosen
     Closing closing;
-    std::vector<std::string> files;  // to be added up
+    std::vector<std::string> files;  // summaries or results to add up
 };
 
-// add_call_options adds the options of a call, which single verdicts have as well.
+// add_call_options adds the options for calls, which apply to a single verdict and to a batch.
 void add_call_options(CLI::App& app, Manner& manner, std::optional<std::string>& channels);
 
-// add_ending_options adds options to batch, which has its other options already.
+// add_ending_options adds options to batch. --stream must already exist, because one of them excludes it.
 void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules);
 
 // add_summarise_options adds the options of summarise.

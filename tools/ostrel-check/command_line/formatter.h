@@ -1,4 +1,4 @@
-// Formatter: help with the NAME and VALUE that the parser does not know.
+// Formats help, including the arguments NAME and VALUE, which the parser does not know.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_FORMATTER_H
 #define OSTREL_TOOLS_COMMAND_LINE_FORMATTER_H
 
@@ -14,13 +14,13 @@ std::vector<const CLI::App*> commands_of(const CLI::App& app);
 // options_of returns the options that begin with "-".
 std::vector<const CLI::Option*> options_of(const CLI::App& app);
 
-// positionals_of returns the others.
+// positionals_of returns the positional arguments.
 std::vector<const CLI::Option*> positionals_of(const CLI::App& app);
 
-// synopses_of returns the ways to call the program, one per line.
+// synopses_of returns a line for each way to call the program, or the line for a command.
 std::vector<std::string> synopses_of(const CLI::App& app);
 
-// usage_of returns those lines in the form in which help begins with them.
+// usage_of returns these lines as they appear at the beginning of help.
 std::string usage_of(const CLI::App& app);
 
 class Formatter : public CLI::Formatter {

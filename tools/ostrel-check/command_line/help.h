@@ -1,4 +1,4 @@
-// Help: the texts that --help prints after the options.
+// Help texts printed after the options.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_HELP_H
 #define OSTREL_TOOLS_COMMAND_LINE_HELP_H
 

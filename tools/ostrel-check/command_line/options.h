@@ -1,4 +1,4 @@
-// Options: the command line. Help, completion and the lists of the manual page are generated from it.
+// The command line, from which help, completion and the lists in the manual page are generated.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_OPTIONS_H
 #define OSTREL_TOOLS_COMMAND_LINE_OPTIONS_H
 

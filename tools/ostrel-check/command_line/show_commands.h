@@ -1,4 +1,4 @@
-// Commands that show something and judge nothing. Each returns the exit code.
+// Commands that print information and judge nothing. Each function returns the exit code.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_SHOW_COMMANDS_H
 #define OSTREL_TOOLS_COMMAND_LINE_SHOW_COMMANDS_H
 
@@ -12,7 +12,7 @@ int show_comparison(const Options& options);
 int show_list(const Options& options);
 int show_explanation(const Options& options);
 
-// show_candidates prints the completions of the last of the words.
+// show_candidates prints the completions of the last word.
 int show_candidates(const CLI::App& app, const Options& options);
 
 // show_help prints what was requested: help or the version.

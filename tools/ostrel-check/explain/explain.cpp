@@ -75,7 +75,7 @@ std::string label_of(const rules::SaidLine& line)
     return line.when.empty() ? label : label + ", " + line.when;
 }
 
-// write_steps numbers the steps. The number of a nested step begins with that of the step that contains it.
+// write_steps numbers the steps. A nested step's number begins with the number of the step that contains it.
 void write_steps(Page& page, const std::vector<Said>& steps, const std::string& number, std::size_t depth)
 {
     std::size_t count = 0;

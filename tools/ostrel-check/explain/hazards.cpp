@@ -20,7 +20,7 @@ using nlohmann::ordered_json;
 
 namespace {
 
-// short_title returns a title without the bytes.
+// short_title returns a hazard's title without the list of its bytes.
 std::string_view short_title(const Hazard& hazard)
 {
     const bool is_long = hazard.name == "quotes" || hazard.name == "shell" || hazard.name == "markup";
@@ -38,7 +38,7 @@ bool may_contain(const Exposure& exposure, const Hazard& hazard)
     return std::ranges::any_of(kPlaces, [&](Place place) { return !exposure.bytes(place, hazard).empty(); });
 }
 
-// detail describes where the bytes of a kind can be, and names them if only some of them can.
+// detail describes where a hazard's bytes can occur, and lists the bytes if only some of them can.
 std::string detail(const Exposure& exposure, const Hazard& hazard)
 {
     constexpr std::size_t kMostBytes = 40;

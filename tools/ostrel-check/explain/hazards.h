@@ -1,4 +1,4 @@
-// Hazards on pages and in JSON.
+// Writes hazards on pages and in JSON.
 #ifndef OSTREL_TOOLS_EXPLAIN_HAZARDS_H
 #define OSTREL_TOOLS_EXPLAIN_HAZARDS_H
 
@@ -13,7 +13,7 @@ namespace ostrel::tool {
 // write_hazards writes what an accepted value of each argument may contain.
 void write_hazards(Page& page, const catalogue::Function& function);
 
-// add_hazards adds the members "may_contain" and "may_contain_after" to an argument that is a text.
+// add_hazards adds the members "may_contain" and "may_contain_after" to an argument that is a string.
 void add_hazards(nlohmann::ordered_json& argument, const catalogue::Function& function, std::size_t index);
 
 // hazards_page returns docs/hazards.md.

@@ -1,7 +1,7 @@
-// make_constraints FILE: writes a source file with constraints that follow from the descriptions of rules/, for
-// programs and forms.
+// make_constraints FILE writes a source file with the constraints that follow from the descriptions in
+// rules/, for use by programs and forms.
 //
-// The build runs it, because it is too slow for a command.
+// The build runs it, because deriving the constraints takes too long for a command.
 
 #include <algorithm>
 #include <fstream>
@@ -133,7 +133,7 @@ ordered_json json_of(const Constraints& constraints, const rules::Check& check)
     return result;
 }
 
-// definition_of returns the JSON Schema definition of a text.
+// definition_of returns the JSON Schema definition of a string argument.
 ordered_json definition_of(const Constraints& constraints, const rules::Argument& argument)
 {
     const Form& form = constraints.form;
@@ -157,7 +157,7 @@ ordered_json definition_of(const Constraints& constraints, const rules::Argument
     return result;
 }
 
-// judges_text returns whether an argument is a text and the only input of the check.
+// judges_text returns whether an argument is a string and the check's only input.
 bool judges_text(const rules::Check& check, std::size_t argument)
 {
     using Kind = rules::Argument::Kind;

@@ -1,4 +1,4 @@
-// Page: the text about a check, for a terminal or in Markdown.
+// A page about a check, laid out for a terminal or in Markdown.
 #ifndef OSTREL_TOOLS_EXPLAIN_PAGE_H
 #define OSTREL_TOOLS_EXPLAIN_PAGE_H
 
@@ -21,10 +21,10 @@ class Page {
     void heading(std::string_view text);
     void paragraph(std::string_view text);
     void item(std::string_view label, std::string_view text);
-    void detail(std::string_view text);  // of the last item
+    void detail(std::string_view text);  // belongs to the last item
 
-    // Steps may be nested. note and line belong to the last step of that depth. line shows a line that the check
-    // prints.
+    // Steps may be nested. note and line belong to the last step at that depth. line shows a line that the
+    // check prints.
     void step(std::size_t depth, std::string_view number, std::string_view text);
     void note(std::size_t depth, std::string_view text);
     void line(std::size_t depth, std::string_view label, std::string_view text);
@@ -35,14 +35,14 @@ class Page {
     void wrap(std::string_view text, std::size_t indentation, std::size_t hanging = 0);
     void bullet(std::size_t depth, std::string_view text);
 
-    std::optional<Look> look_;  // none: Markdown
+    std::optional<Look> look_;  // not set for Markdown
     std::string text_;
 };
 
-// in_markdown escapes characters that have a meaning in Markdown.
+// in_markdown escapes characters that are special in Markdown.
 std::string in_markdown(std::string_view text);
 
-// as_code encloses any text in back quotes.
+// as_code encloses text in back quotes, even if the text contains back quotes itself.
 std::string as_code(std::string_view text);
 
 }  // namespace ostrel::tool

@@ -1,4 +1,4 @@
-// Schemas: files of the source tree that are embedded in the program.
+// JSON Schemas from the source tree, embedded in the program.
 #ifndef OSTREL_TOOLS_EXPLAIN_SCHEMAS_H
 #define OSTREL_TOOLS_EXPLAIN_SCHEMAS_H
 

@@ -1,4 +1,4 @@
-// Select: finds checks by words.
+// Finds checks by family and by words.
 #ifndef OSTREL_TOOLS_EXPLAIN_SELECT_H
 #define OSTREL_TOOLS_EXPLAIN_SELECT_H
 
@@ -12,8 +12,9 @@ namespace ostrel::tool {
 
 using Selection = std::vector<const catalogue::Function*>;
 
-// select returns the checks of that family, or of all families if it is empty, that contain each of the patterns in
-// their name, in what they accept, or in the name or the description of an argument. It ignores case.
+// select returns the checks of the family (of every family if it is empty) that match all patterns. A pattern
+// matches if it occurs, in any case, in the check's name, in the description of what it accepts, or in an
+// argument's name or description.
 Selection select(std::string_view family, const std::vector<std::string>& patterns);
 
 }  // namespace ostrel::tool

@@ -18,7 +18,7 @@ using catalogue::Value;
 
 namespace {
 
-// read_number reads a decimal number, or a hexadecimal one after 0x.
+// read_number reads a decimal number or, after 0x, a hexadecimal one.
 long long read_number(const Argument& argument, std::string_view word)
 {
     std::string_view digits = word;
@@ -34,7 +34,7 @@ long long read_number(const Argument& argument, std::string_view word)
         append_escaped(message, word, 40);
         throw std::invalid_argument(message.append("\" is not one"));
     }
-    // A number far outside the range of an argument stays outside.
+    // A number that is far out of range becomes a smaller one that is still out of range.
     if (read.ec != std::errc()) number = 1ULL << 62;
     const auto magnitude = static_cast<long long>(std::min(number, 1ULL << 62));
     return negative ? -magnitude : magnitude;
@@ -72,7 +72,7 @@ bool are_texts(std::span<const Item> items)
     return std::ranges::all_of(items, [](const Item& item) { return item.kind == Item::Kind::kText; });
 }
 
-// take fills values, and returns whether there were neither too few nor too many items.
+// take assigns the items to values, and returns whether their number was correct.
 bool take(const Function& function, std::span<const Item> items, bool outputs_given,
           std::vector<Value>& values)
 {

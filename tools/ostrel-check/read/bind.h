@@ -1,4 +1,4 @@
-// Bind: converts a record to a call of a check.
+// Converts a record to a call of a check.
 #ifndef OSTREL_TOOLS_READ_BIND_H
 #define OSTREL_TOOLS_READ_BIND_H
 
@@ -13,14 +13,15 @@ namespace ostrel::tool {
 // bind_check finds the check that the record names. Throws std::invalid_argument with a message for the user.
 const catalogue::Function& bind_check(const Record& record);
 
-// bind converts items to the arguments that the check takes. A text is read as a number if the argument is one, and
-// several consecutive texts may be the texts of one argument. The arguments that are only written may be omitted, but
-// only all together. It reuses the memory of values. Throws std::invalid_argument with a message for the user.
+// bind converts items to the check's arguments. A string is read as a number if the argument is one, and an
+// argument of several blocks may take several consecutive strings. The output-only arguments must all be
+// given or all be omitted. The memory of values is reused. Throws std::invalid_argument with a message for
+// the user.
 void bind(const catalogue::Function& function, std::span<const Item> items,
           std::vector<catalogue::Value>& values);
 
-// without_spares returns the items of a record without the excess empty items at the end, which mean nothing to the
-// check.
+// without_spares returns a record's items without any superfluous empty ones at the end, which come from
+// columns that the check does not need.
 std::span<const Item> without_spares(const catalogue::Function& function, const Record& record);
 
 }  // namespace ostrel::tool

@@ -1,4 +1,4 @@
-// Cases: the records of a file as calls of checks.
+// Reads the records of a file as calls of checks.
 #ifndef OSTREL_TOOLS_READ_CASES_H
 #define OSTREL_TOOLS_READ_CASES_H
 
@@ -11,24 +11,25 @@
 
 namespace ostrel::tool {
 
-// Cases reads one text after another and reuses its memory.
+// Cases reads entries, as a Reader defines them, one after another and reuses its memory.
 class Cases {
  public:
     explicit Cases(const Reading& reading) : reading_(&reading) {}
 
-    // open prepares for the texts of a file. It does nothing if the file is already open.
+    // open prepares to read the entries of a file. It does nothing if the file is already open.
     void open(std::size_t file, FileFormat format, std::string_view preamble);
 
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
-    // read reads a record as a Reader does, and finds the check and the arguments of a case. It returns false if the
-    // text contains no record. Throws std::invalid_argument with a message for the user.
+    // read reads a record as Reader::read does and, if it is a case, finds the check and the arguments. It
+    // returns false if the entry contains no record. Throws std::invalid_argument with a message for the
+    // user.
     bool read(std::string_view text, std::size_t part);
 
-    // has_more returns whether the text contains another record, even after read has thrown.
+    // has_more returns whether the entry contains another record, even after read has thrown.
     [[nodiscard]] bool has_more() const { return found_ == Found::kMore; }
 
-    // After read has thrown, these return what it had found. function returns NULL if no check was found.
+    // These return what read found, even if it then threw. function returns NULL if it found no check.
     [[nodiscard]] const catalogue::Function* function() const { return function_; }
     [[nodiscard]] const std::vector<catalogue::Value>& values() const { return values_; }
     [[nodiscard]] const Record& record() const { return record_; }

@@ -16,11 +16,13 @@ namespace ostrel::tool {
 // delimiter_of returns the byte that separates the fields.
 char delimiter_of(FileFormat format, const Reading& reading);
 
-// CsvReader takes the check and its arguments from columns, and passes every other column through. By default, these
-// are the column "check", and the column "value" or the columns "value_1", "value_2" and so on.
+// CsvReader takes the check and its arguments from columns, and passes every other column through. By
+// default, the check is in the column "check", and the arguments are in "value", or in "value_1", "value_2"
+// and so on.
 class CsvReader : public Reader {
  public:
-    // Throws std::invalid_argument, with a message for the user, if the header lacks a required column.
+    // Throws std::invalid_argument, with a message for the user, if a required column is missing from the
+    // header or the header is faulty.
     CsvReader(FileFormat format, const Reading& reading, std::string_view header);
 
     std::size_t next(std::string_view rest) override;

@@ -54,7 +54,7 @@ void CsvRow::split(std::string_view row, char delimiter)
     if (row.ends_with('\r')) row.remove_suffix(1);
     fields_.clear();
     unquoted_.clear();
-    unquoted_.reserve(row.size());  // views into it must stay valid
+    unquoted_.reserve(row.size());  // so that views into it stay valid
     const bool has_quotes = row.find(kQuote) != std::string_view::npos;
     const auto refuse = [&](const char* what) {
         throw std::invalid_argument("field " + std::to_string(fields_.size() + 1) + " " + what);
@@ -80,8 +80,8 @@ void CsvRow::split(std::string_view row, char delimiter)
     }
 }
 
-// take_quoted adds the field that begins with a quotation mark. It returns the position after the closing one, or
-// npos.
+// take_quoted adds a quoted field. It returns the position after the closing quotation mark, or npos if there
+// is none.
 std::size_t CsvRow::take_quoted(std::string_view row, std::size_t at)
 {
     const std::size_t end = skip_quoted(row, at);

@@ -11,7 +11,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// LineCutter cuts after lines. A subclass may define what a line is.
+// LineCutter cuts after whole lines. A subclass may define what a line is.
 class LineCutter : public Cutter {
  public:
     Cut cut(std::string_view bytes, bool is_end) override
@@ -39,7 +39,7 @@ class LineCutter : public Cutter {
     }
 
  private:
-    bool is_skipping_ = false;  // the rest of a line that is too long
+    bool is_skipping_ = false;  // the rest of a line that is too long is being dropped
 };
 
 class CsvCutter : public LineCutter {
@@ -55,7 +55,7 @@ class CsvCutter : public LineCutter {
             bytes.remove_prefix(cut.preamble);
             if (!has_header_) return;
         }
-        // Without quotation marks a row is a line.
+        // If there are no quotation marks, every row is a line.
         const std::size_t last = bytes.rfind('\n');
         const std::size_t lines = last == std::string_view::npos ? 0 : last + 1;
         if (lines > 0 && std::memchr(bytes.data(), '"', lines) == nullptr) cut.size = lines;
@@ -67,7 +67,7 @@ class CsvCutter : public LineCutter {
     }
 
  private:
-    // cut_row returns 0 if it needs more bytes.
+    // cut_row returns the size of the first row, or 0 if it needs more bytes.
     [[nodiscard]] std::size_t cut_row(std::string_view bytes, bool is_end) const
     {
         if (bytes.empty()) return 0;

@@ -1,4 +1,4 @@
-// Cutter: finds where the records of a file end, as its bytes arrive.
+// Finds where the records of a file end while its bytes are arriving.
 #ifndef OSTREL_TOOLS_READ_CUTTER_H
 #define OSTREL_TOOLS_READ_CUTTER_H
 
@@ -11,18 +11,18 @@
 
 namespace ostrel::tool {
 
-// kLongestText limits the size of a line, of a row of CSV, and of an element of an array.
+// kLongestText is the maximum size, in bytes, of a line, a CSV row or an array element.
 inline constexpr std::size_t kLongestText = std::size_t{16} << 20;
 
-// Cut is what a cutter found at the front of the bytes that have arrived. If all of it is empty, more bytes must
-// arrive.
+// Cut describes what a cutter found at the front of the bytes that have arrived. If it found nothing, the
+// cutter needs more bytes.
 struct Cut {
     std::size_t dropped = 0;     // bytes at the front that belong to no record
-    std::size_t preamble = 0;    // bytes after those that are the preamble of the file
-    std::size_t size = 0;        // bytes after those that are whole texts, as Reader::next takes them
-    std::string problem;         // why the bytes after those cannot be read, for the user
-    std::size_t problem_at = 0;  // position of the fault, counted from their end
-    bool ends_file = false;      // nothing after the fault can be read either
+    std::size_t preamble = 0;    // bytes after the dropped ones that are the file's preamble
+    std::size_t size = 0;        // bytes after the preamble that are whole entries, as Reader defines them
+    std::string problem;         // why the bytes after the entries cannot be read, for the user
+    std::size_t problem_at = 0;  // position of the fault, counted from the end of the entries
+    bool ends_file = false;      // the rest of the file cannot be read either
 };
 
 // Cutter keeps state, so each file needs a new one.
@@ -33,9 +33,9 @@ class Cutter {
     Cutter& operator=(const Cutter&) = delete;
     virtual ~Cutter() = default;
 
-    // cut receives all bytes that were neither dropped nor cut off before, and receives them again when more have
-    // arrived, at most kLongestText + 1. Once is_end is set, no more bytes arrive, and it drops or cuts off all of
-    // them.
+    // cut receives all bytes that it has neither dropped nor cut off yet, at most kLongestText + 1. It is
+    // called again when more bytes have arrived. If is_end is set, no more will arrive, and cut drops or cuts
+    // off all remaining bytes.
     virtual Cut cut(std::string_view bytes, bool is_end) = 0;
 };
 

@@ -20,7 +20,7 @@ struct Character {
     std::size_t size = 0;  // 0: not valid
 };
 
-// read_character reads the character at the front of a text.
+// read_character reads the first character of the text.
 Character read_character(std::string_view text)
 {
     const unsigned lead = byte_at(text, 0);
@@ -117,7 +117,7 @@ void decode_base64(std::string& bytes, std::string_view text)
         bits = bits << 6 | static_cast<unsigned>(digit);
         if (i % 4 != 3) continue;
         const std::size_t made = i + 1 == text.size() ? 3 - padding : 3;
-        // The bits that padding leaves over must be zero, or two texts would encode the same bytes.
+        // The bits that padding leaves over must be zero. Otherwise, two strings would encode the same bytes.
         if ((bits & ((1U << 8 * (3 - made)) - 1)) != 0) refuse();
         for (std::size_t byte = 0; byte < made; ++byte) {
             bytes += static_cast<char>(bits >> (16 - 8 * byte) & 0xFF);

@@ -24,7 +24,7 @@ constexpr std::array<Ending, 7> kEndings = {{{".ndjson", FileFormat::kNdjson},
 constexpr std::string_view kUtf16 = "the file is UTF-16; convert it with iconv -f UTF-16 -t UTF-8";
 constexpr std::string_view kUtf32 = "the file is UTF-32; convert it with iconv -f UTF-32 -t UTF-8";
 
-// Front is the first bytes of files of a kind.
+// Front identifies a kind of file that cannot be read by its first bytes.
 struct Front {
     std::string_view bytes;
     std::string_view problem;
@@ -77,7 +77,7 @@ FileFormat format_of_bytes(std::string_view front, const Reading& reading)
     if (begin != std::string_view::npos && front[begin] == '[') return FileFormat::kJson;
     const std::string_view line = front.substr(0, front.find('\n'));
     if (begin != std::string_view::npos && front[begin] == '{') {
-        // An object with a line end after its opening brace takes several lines.
+        // An object with a line end after its opening brace spans several lines.
         const std::size_t next = front.find_first_not_of(" \t\r", begin + 1);
         if (next != std::string_view::npos && front[next] == '\n') return FileFormat::kJson;
         return reading.map == nullptr ? FileFormat::kWords : FileFormat::kNdjson;

@@ -1,4 +1,4 @@
-// The format of a file, by its name and by its first bytes.
+// Recognises the format of a file by its name or its first bytes.
 #ifndef OSTREL_TOOLS_READ_FILE_FORMAT_H
 #define OSTREL_TOOLS_READ_FILE_FORMAT_H
 
@@ -10,15 +10,15 @@
 
 namespace ostrel::tool {
 
-// format_of_name recognises the usual extensions.
+// format_of_name recognises the usual file name extensions.
 std::optional<FileFormat> format_of_name(std::string_view name);
 
-// format_of_bytes examines the first line, or as much of it as there is. Lines of JSON have the format of words,
-// unless they may contain only JSON.
+// format_of_bytes examines the first line, or as much of it as has been read. It returns kWords even for a
+// line of JSON, because lines of words and of JSON may be mixed, unless a map is used.
 FileFormat format_of_bytes(std::string_view front, const Reading& reading);
 
-// why_not_text describes a file that is not text in UTF-8, and what to do about it. Otherwise it returns an empty
-// text.
+// why_not_text returns why a file is not text in UTF-8 and what to do about it. For any other file, it
+// returns an empty string.
 std::string_view why_not_text(std::string_view front);
 
 }  // namespace ostrel::tool

@@ -66,10 +66,10 @@ void Input::end_file()
     size_ = taken_;
 }
 
-// fill reads once. It returns false if nothing changed.
+// fill reads from the file once. It returns false if the call was interrupted or no bytes were available.
 bool Input::fill()
 {
-    // The texts that were returned are no longer in use.
+    // The chunks that were returned are no longer in use.
     if (taken_ > 0) std::memmove(buffer_.data(), buffer_.data() + taken_, size_ - taken_);
     size_ -= taken_;
     taken_ = 0;
@@ -138,7 +138,7 @@ Chunk Input::make_chunk()
     return chunk;
 }
 
-// next_chunk cuts off whole texts, or reports why nothing can be read at the current position.
+// next_chunk cuts off whole entries, or reports why nothing can be read at the current position.
 std::optional<Chunk> Input::next_chunk()
 {
     if (problem_.empty()) {
@@ -171,7 +171,8 @@ std::optional<Chunk> Input::read()
     if (cutter_ == nullptr && !begin_file()) return {};
     std::optional<Chunk> chunk = next_chunk();
     if (file_.number() < 0) return chunk;
-    // The rest may be complete without more bytes: a problem, or texts after it.
+    // The next chunk may need no more bytes, because a problem or entries after a problem may remain to be
+    // returned.
     is_ready_ = !problem_.empty() || (chunk && !chunk->problem.empty());
     if (!chunk && is_file_read_) end_file();
     if (chunk && is_file_read_) is_ready_ = true;

@@ -1,4 +1,4 @@
-// Input: the records of several files, in chunks of bounded size.
+// Reads the records of several files in chunks of bounded size.
 #ifndef OSTREL_TOOLS_READ_INPUT_H
 #define OSTREL_TOOLS_READ_INPUT_H
 
@@ -16,7 +16,8 @@
 
 namespace ostrel::tool {
 
-// Chunk is a sequence of whole texts of one file, as a Reader takes them. Its views are valid until the next read.
+// Chunk is a sequence of whole entries of one file, as Reader defines them. Its views are valid until the
+// next read.
 struct Chunk {
     std::size_t file = 0;    // index of the file
     std::uint64_t line = 1;  // the number of the first line
@@ -24,26 +25,27 @@ struct Chunk {
     std::string_view preamble;  // of the file
     std::string_view text;
     bool starts_file = false;
-    std::string problem;  // not empty: why nothing can be read at this place; the text is empty
+    std::string problem;  // if not empty, why nothing can be read here, and the text is empty
     std::string heading;
 };
 
 class Input {
  public:
-    // The user names the files; "-" is standard input. The lines of the first one are numbered from first_number.
+    // The files are those that the user named; "-" is standard input. The lines of the first file are
+    // numbered from first_number.
     Input(const std::vector<std::string>& files, const Reading& reading, std::uint64_t first_number);
 
-    // is_at_end returns whether every file has been read. After the end of a file, it opens the next one. It reports
-    // on standard error what cannot be read.
+    // is_at_end returns whether every file has been read. After the end of a file, it opens the next one. It
+    // reports files that cannot be opened on standard error.
     bool is_at_end();
 
     // is_ready returns whether read can return a chunk without reading from the file.
     [[nodiscard]] bool is_ready() const { return is_ready_; }
 
-    // descriptor returns the descriptor that the next read reads from.
+    // descriptor returns the descriptor from which the next call of read reads.
     [[nodiscard]] int descriptor() const { return file_.number(); }
 
-    // read reads once, waiting if necessary, and returns the texts that are now complete.
+    // read reads from the file once, waiting if necessary, and returns the entries that are now complete.
     std::optional<Chunk> read();
 
     [[nodiscard]] std::uint64_t unreadable_files() const { return unreadable_files_; }
@@ -66,7 +68,7 @@ class Input {
     std::size_t next_ = 0;  // index of the file after the open one
     Descriptor file_;
     FileFormat format_ = FileFormat::kWords;
-    std::unique_ptr<Cutter> cutter_;  // none: the first bytes of the file have not been examined
+    std::unique_ptr<Cutter> cutter_;  // not set until the first bytes of the file have been examined
     std::string preamble_;
     std::string preamble_problem_;
     std::string problem_;  // at the current position

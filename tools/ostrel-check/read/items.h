@@ -1,4 +1,4 @@
-// Items: converts texts of a file to arguments.
+// Converts text in a file to arguments.
 #ifndef OSTREL_TOOLS_READ_ITEMS_H
 #define OSTREL_TOOLS_READ_ITEMS_H
 
@@ -11,10 +11,11 @@
 
 namespace ostrel::tool {
 
-// Items makes items. Their views are valid until the next call of begin.
+// Items makes items, whose views are valid until the next call of begin.
 class Items {
  public:
-    // begin reserves memory for the items of a record of that size. They use each byte at most twice.
+    // begin reserves memory for the items of a record of that size. No byte of the record is used more than
+    // twice.
     void begin(std::size_t size, Encoding encoding)
     {
         encoding_ = encoding;
@@ -22,11 +23,11 @@ class Items {
         made_.reserve(2 * size);
     }
 
-    // These throw std::invalid_argument with a message for the user.
+    // Both throw std::invalid_argument with a message for the user.
     Item of_text(std::string_view text);
     Item of_base64(std::string_view text);
 
-    // compact returns JSON without the blanks outside its strings.
+    // compact returns JSON without the blanks and line ends outside strings.
     std::string_view compact(std::string_view json);
 
  private:
@@ -36,7 +37,7 @@ class Items {
     }
 
     Encoding encoding_ = Encoding::kUtf8;
-    std::string made_;  // texts that are not in the record itself
+    std::string made_;  // bytes that do not occur in the record itself
 };
 
 }  // namespace ostrel::tool

@@ -15,14 +15,14 @@ std::size_t skip_blanks(std::string_view text, std::size_t at)
     return std::min(text.find_first_not_of(kBlanks, at), text.size());
 }
 
-// Element is the state of a scan of the element at the front of a text.
+// Element is the state of a scan for the end of the element at the front of the text.
 struct Element {
     std::size_t at = 0;
     std::size_t depth = 0;
     bool is_in_string = false;
     bool is_whole = false;
 
-    // look continues to the end of the element, or of the text.
+    // look scans to the end of the element or of the text.
     void look(std::string_view text)
     {
         while (at < text.size() && !is_whole) {
@@ -60,7 +60,7 @@ struct Element {
     }
 };
 
-// Depth is a SAX handler that only counts how deep JSON is nested.
+// Depth is a SAX handler that only counts how deeply JSON is nested.
 struct Depth : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Depth> {
     std::size_t depth = 0;
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
@@ -104,7 +104,7 @@ class JsonCutter : public Cutter {
     {
         while (true) {
             at = skip_blanks(bytes, at);
-            // Separators after an element belong to it. Those before the first element are dropped.
+            // Separators after an element belong to it, and separators before the first element are dropped.
             (cut.size == 0 ? cut.dropped : cut.size) = cut.size == 0 ? at : at - cut.dropped;
             if (at == bytes.size()) return at;
             const char c = bytes[at];
@@ -133,7 +133,7 @@ class JsonCutter : public Cutter {
         }
     }
 
-    // take_element cuts off the element at a position, if it is JSON.
+    // take_element cuts off the element at a position if it is valid JSON.
     std::size_t take_element(std::string_view bytes, std::size_t at, Cut& cut)
     {
         find_fault(bytes.substr(at, element_.at), cut);
@@ -169,7 +169,8 @@ class JsonCutter : public Cutter {
         }
     }
 
-    // complain stores a problem and its position. count_columns adds the column; the line follows from the position.
+    // complain stores a problem and its position, from which the line is derived. count_columns adds the
+    // column.
     static void complain(Cut& cut, std::string problem, std::size_t at)
     {
         cut.problem = std::move(problem);
@@ -177,8 +178,8 @@ class JsonCutter : public Cutter {
         cut.ends_file = true;
     }
 
-    // count_columns counts the column after the bytes that are dropped and cut off, and adds the column of a problem
-    // to its message.
+    // count_columns determines the column after the bytes that are dropped and cut off. If there is a
+    // problem, it adds the column of the problem to the message.
     void count_columns(std::string_view bytes, Cut& cut)
     {
         const auto count = [&](std::string_view text) {

@@ -11,7 +11,7 @@
 
 namespace ostrel::tool {
 
-// JsonReader takes an element with the blanks, line ends and comma after it.
+// JsonReader reads an element together with the blanks, line ends and comma after it.
 class JsonReader : public Reader {
  public:
     explicit JsonReader(const Reading& reading) : object_(reading) {}
@@ -23,7 +23,7 @@ class JsonReader : public Reader {
     JsonObject object_;
 };
 
-// make_json_cutter returns a cutter that stops at invalid JSON, and reports the line and column of it.
+// make_json_cutter returns a cutter that stops at invalid JSON and reports its line and column.
 std::unique_ptr<Cutter> make_json_cutter();
 
 }  // namespace ostrel::tool

@@ -11,7 +11,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// The number of members is limited because their names are compared with each other.
+// The number of members is limited because each name is compared with all others.
 constexpr std::size_t kMostMembers = 1000;
 
 }  // namespace
@@ -61,7 +61,7 @@ void JsonObject::require_all()
     }
 }
 
-// complain keeps the first problem.
+// complain stores the problem unless there is an earlier one.
 void JsonObject::complain(std::string problem)
 {
     if (problem_.empty()) problem_ = std::move(problem);

@@ -16,8 +16,8 @@
 
 namespace ostrel::tool {
 
-// JsonObject reads {"check": name, "args": [...]} and keeps every other member. It continues after a problem, so that
-// a result can identify the record.
+// JsonObject reads {"check": name, "args": [...]} and keeps every other member. It continues after a problem,
+// so that the result can identify the record.
 class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonObject> {
  public:
     explicit JsonObject(const Reading& reading);
@@ -25,7 +25,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     // read reads an object. Throws std::invalid_argument with a message for the user.
     void read(std::string_view text, Record& record);
 
-    // The base class calls these, and has its own versions of the others.
+    // The parser calls these. The base class defines the handlers for all other events.
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
     bool Null() { return scalar(Item::Kind::kNull, {}, "null"); }
     bool Bool(bool value);
@@ -49,9 +49,9 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
         kMembers,  // its members
         kCheck,
         kArgs,
-        kItems,     // of the array of arguments
-        kValue,     // of a member that is an argument
-        kTexts,     // of an array that is one argument
+        kItems,     // in the array of arguments
+        kValue,     // the value of a member that is an argument
+        kTexts,     // in an array that is one argument
         kWrapping,  // {"base64": text}
         kBase64,
         kOther,   // any other member of such an object, which is not allowed
@@ -72,7 +72,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     void complain(std::string problem);
 
     const Reading* reading_;
-    bool has_one_check_;  // of all records
+    bool has_one_check_;  // all records are for the same check
     JsonParser parser_;
     Items items_;
     std::vector<std::vector<Item>> value_items_;
@@ -84,11 +84,11 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
     State state_ = State::kObject;
     State outside_texts_ = State::kItems;
     State outside_wrapping_ = State::kItems;
-    std::vector<Item>* argument_ = nullptr;  // or all arguments
+    std::vector<Item>* argument_ = nullptr;  // the items of one argument, or of all arguments
     std::size_t depth_ = 0;
-    std::size_t skipped_ = 0;  // arrays and objects that are open and skipped
-    std::size_t begin_ = 0;    // of a value that is passed through
-    std::size_t texts_ = 0;    // the item whose texts are read
+    std::size_t skipped_ = 0;  // arrays and objects that are open and being skipped
+    std::size_t begin_ = 0;    // where a value that is passed through begins
+    std::size_t texts_ = 0;    // index of the item for the array that is being read
     std::string_view name_;
     bool has_check_ = false;
     bool has_args_ = false;

@@ -15,10 +15,11 @@ namespace ostrel::tool {
 // beyond it.
 inline constexpr std::size_t kDeepest = 32;
 
-// TokenStream hides all but the first of several consecutive digits from the parser, unless the first is 0. The
-// parser computes the value of each number, although only the token is needed, and refuses a number that no double
-// can represent. With hidden digits it finds the same end and the same faults of the token, and the value is small.
-// TokenStream also skips the beginning of a string up to the first escape, because those bytes stay in place.
+// TokenStream hides all but the first of several consecutive digits from the parser, unless the first is 0.
+// The parser computes the value of each number, although only the token is needed, and refuses a number that
+// no double can represent. If digits are hidden, the value is small, but the parser finds the same end and
+// the same faults of the token. TokenStream also skips the beginning of a string up to the first escape,
+// because decoding does not move those bytes.
 class TokenStream : public rapidjson::InsituStringStream {
  public:
     explicit TokenStream(char* text) : GenericInsituStringStream(text) {}
@@ -57,7 +58,7 @@ class TokenStream : public rapidjson::InsituStringStream {
 
 }  // namespace ostrel::tool
 
-// The parser works on a copy of such a stream, which the compiler can keep in registers.
+// copyOptimization makes the parser work on a copy of the stream, which the compiler can keep in registers.
 template <>
 struct rapidjson::StreamTraits<ostrel::tool::TokenStream> {
     enum { copyOptimization = 1 };  // NOLINT(readability-identifier-naming)
@@ -65,8 +66,8 @@ struct rapidjson::StreamTraits<ostrel::tool::TokenStream> {
 
 namespace ostrel::tool {
 
-// JsonParser parses a copy of a text and decodes the strings in it, so the strings that a handler receives stay valid
-// until the next text. Numbers are passed as in the text.
+// JsonParser parses a copy of the text and decodes strings within the copy, so the strings that a handler
+// receives are valid until the next call of parse. Numbers are passed as they are written.
 class JsonParser {
  public:
     template <typename Handler>
@@ -80,12 +81,12 @@ class JsonParser {
                                                                                                  handler);
     }
 
-    // offset returns the position of the parser, after the bracket, while a handler is told of the beginning or the
-    // end of an array or an object.
+    // offset returns the parser's position. While a handler is called for the beginning or the end of an
+    // array or an object, that is the position after the bracket.
     [[nodiscard]] std::size_t offset() const { return stream_->Tell(); }
 
-    // offset_of returns the position in the text of something that a handler received: a number, or a string after
-    // its quotation mark.
+    // offset_of returns the position in the text of a number or a string that a handler received. A string's
+    // position is after its opening quotation mark.
     [[nodiscard]] std::size_t offset_of(const char* told) const
     {
         return static_cast<std::size_t>(told - copy_.data());
@@ -99,7 +100,7 @@ class JsonParser {
 // describe returns a message about a JSON error, for the user.
 std::string describe(rapidjson::ParseErrorCode error);
 
-// ByteKinds lists the kinds of bytes that a text contains.
+// ByteKinds records which kinds of bytes occur in JSON text.
 struct ByteKinds {
     bool has_controls = false;  // below 0x20
     bool has_backslashes = false;
@@ -108,15 +109,15 @@ struct ByteKinds {
 
 ByteKinds kinds_in(std::string_view text);
 
-// require_json throws std::invalid_argument, with a message for the user, if the text contains a NUL byte or a byte
-// that is not UTF-8, which no JSON contains. It returns the kinds of bytes.
+// require_json throws std::invalid_argument, with a message for the user, if the text contains a NUL byte or
+// invalid UTF-8, which JSON cannot contain. Otherwise, it returns which kinds of bytes occur.
 ByteKinds require_json(std::string_view text);
 
-// end_of_string returns the end of the JSON string that begins at a quotation mark: after the closing mark, or at the
-// end of the text.
+// end_of_string returns the position after the JSON string that begins at a quotation mark, or the end of the
+// text if the string is not closed.
 std::size_t end_of_string(std::string_view text, std::size_t at);
 
-// append_compact appends JSON without the blanks and line ends outside its strings.
+// append_compact appends JSON without the blanks and line ends outside strings.
 void append_compact(std::string& out, std::string_view json);
 
 }  // namespace ostrel::tool

@@ -29,7 +29,7 @@ Found LineReader::read(std::string_view text, std::size_t /*part*/, Record& reco
     return Found::kRecord;
 }
 
-// read_words takes the first word as the name of the check, and the others as its arguments.
+// read_words takes the first word as the name of the check and the remaining words as its arguments.
 void LineReader::read_words(std::string_view line, Record& record)
 {
     const std::size_t nul = line.find('\0');
@@ -39,7 +39,7 @@ void LineReader::read_words(std::string_view line, Record& record)
     if (reading_->encoding != Encoding::kUtf8) {
         const std::size_t begin = line.find_first_not_of(" \t");
         record.check = line.substr(begin, line.find_first_of(" \t", begin) - begin);
-        // Blanks, quotation marks and escapes are ASCII and do not change.
+        // Blanks, quotation marks and escapes are ASCII, so the conversion does not change them.
         encoded_.clear();
         encode(encoded_, line, reading_->encoding);
         line = encoded_;

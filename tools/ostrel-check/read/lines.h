@@ -1,4 +1,4 @@
-// Records that are lines: words, or a JSON object.
+// Records that are lines of words or JSON objects.
 #ifndef OSTREL_TOOLS_READ_LINES_H
 #define OSTREL_TOOLS_READ_LINES_H
 
@@ -12,7 +12,7 @@ namespace ostrel::tool {
 
 class LineReader : public Reader {
  public:
-    // If only_json is set, a line of words is invalid JSON.
+    // If only_json is set, a line of words is reported as invalid JSON.
     LineReader(const Reading& reading, bool only_json);
 
     std::size_t next(std::string_view rest) override;

@@ -1,4 +1,4 @@
-// Reading: the user's settings for reading the records of a batch.
+// The user's settings for reading the records of a batch.
 #ifndef OSTREL_TOOLS_READ_READING_H
 #define OSTREL_TOOLS_READ_READING_H
 
@@ -14,25 +14,25 @@ struct Map;
 class SplitGateways;
 
 enum class FileFormat {
-    kWords,   // a line is words, or an object of JSON
-    kNdjson,  // a line is an object of JSON
+    kWords,   // each line consists of words or is a JSON object
+    kNdjson,  // each line is a JSON object
     kCsv,     // RFC 4180, with a header
-    kTsv,     // the same with tabs
+    kTsv,     // the same, delimited by tabs
     kJson,    // an array of objects, or consecutive objects, over any number of lines
 };
 
 struct Reading {
-    std::optional<FileFormat> format;  // none: each file's name decides, then its first bytes
+    std::optional<FileFormat> format;  // if not set, a file's name determines it, or else its first bytes
     Encoding encoding = Encoding::kUtf8;
     std::optional<char> delimiter;  // of CSV
     std::string check;  // the column or member that names the check, or the one check of all records
     std::vector<std::string> values;  // the columns or members that are the arguments, in their order
     bool is_strict = false;           // unknown and duplicate members are malformed
     bool needs_check = true;          // a record without a check is malformed
-    const Map* map = nullptr;         // the files are dumps of gateways, and this map selects the checks
+    const Map* map = nullptr;         // if not NULL, selects the checks for files that are dumps
     SplitGateways* split = nullptr;   // counts gateways whose rows are not adjacent
-    std::string parameter;            // of rows of a dump: the column with the path; empty: a usual name
-    std::string group;                // the column that identifies the gateway; empty: a file is a gateway
+    std::string parameter;            // a dump's column with the path, or empty for the usual names
+    std::string group;                // the column that identifies the gateway, or empty if each file is one
 };
 
 }  // namespace ostrel::tool

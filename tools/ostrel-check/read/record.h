@@ -1,4 +1,4 @@
-// Record: the content of one record of a file, in any format.
+// The content of one record of a file in any format.
 #ifndef OSTREL_TOOLS_READ_RECORD_H
 #define OSTREL_TOOLS_READ_RECORD_H
 
@@ -10,57 +10,56 @@
 
 namespace ostrel::tool {
 
-// Item is an argument, or a value from which one is made. text contains the bytes that are passed: characters are
-// already encoded as the user chose, and base64 is decoded. Numbers and Booleans are texts with their tokens from the
-// file.
+// Item is an argument, or a value from which one is made. text contains the bytes that are passed: characters
+// are already in the encoding that the user chose, and base64 is decoded. For a number or a Boolean, text is
+// the token in the file.
 struct Item {
     enum class Kind {
         kText,
         kNull,
-        kTexts,  // the next count items are the texts of one argument
+        kTexts,  // the next count items are the blocks of one argument
     };
     Kind kind = Kind::kText;
     std::string_view text;
     std::size_t count = 0;
 };
 
-// Member is a member or a column that no reader needs and that each result repeats.
+// Member is a member or a column that the reader does not need, and that the result repeats.
 struct Member {
     std::string_view name;   // in UTF-8, without escapes
-    std::string_view value;  // a JSON token or a text, as in the file
+    std::string_view value;  // JSON or plain text, as in the file
     bool is_json = false;
 };
 
-// GatewayCounts counts what the dump of a gateway contains apart from judged values.
+// GatewayCounts counts what a gateway's dump contains apart from judged values.
 struct GatewayCounts {
     std::uint32_t parameters = 0;  // all of them
-    std::uint32_t skipped = 0;     // because the map says that their values carry no information
-    std::uint32_t repeated = 0;    // siblings that occurred again, whose earlier values are lost
+    std::uint32_t skipped = 0;     // their values carry no information, according to the map
+    std::uint32_t repeated = 0;    // siblings that occurred again, so that their earlier values are lost
 };
 
-// Record is reused. Its views refer to the reader and to the text that was read, and are valid until the next record
-// is read.
+// Record is reused. Its views refer to the reader and to the entry that was read, and are valid until the
+// next record is read.
 struct Record {
-    // Kind is what was found. Only a map finds anything but cases.
+    // Kind is the kind of record that was found. Without a map, every record is a case.
     enum class Kind {
         kCase,
         kUnmapped,    // a parameter that the map has no check for
         kGatewayEnd,  // all of a gateway has been read
     };
     Kind kind = Kind::kCase;
-    std::uint64_t line = 0;  // where the record begins, counted from the beginning of its text
+    std::uint64_t line = 0;  // where the record begins, counted from the beginning of its entry
     std::string_view check;  // its name; empty if the record has none
     std::string_view path;   // of a parameter without a check
     GatewayCounts counts;    // at the end of a gateway
-    std::uint64_t end = 0;   // likewise: the line where the next gateway begins
+    std::uint64_t end = 0;   // at the end of a gateway, the line where the next one begins
     std::vector<Item> items;
-    std::vector<Member>
-        members;               // "id" and "parameter" among them, in the order of the record, no name twice
-    std::string_view problem;  // not empty: why there is no call
-    std::string_view problem_id;        // id of the problem, if the record itself is not at fault
+    std::vector<Member> members;  // in the record's order, with unique names, including "id" and "parameter"
+    std::string_view problem;     // if not empty, why there is no call
+    std::string_view problem_id;  // id of the problem, if the record itself is not at fault
     std::string_view problem_argument;  // the argument that has no value
     std::string_view problem_path;      // the parameter that its value would come from
-    bool may_have_spares = false;       // excess empty items mean nothing
+    bool may_have_spares = false;       // superfluous empty items at the end are to be ignored
 
     void clear()
     {

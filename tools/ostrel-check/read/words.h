@@ -1,4 +1,4 @@
-// Words: a line split as a shell would split it, and words as the values of a check's arguments.
+// Splits a line as a shell would split it, and converts words to the values of a check's arguments.
 #ifndef OSTREL_TOOLS_READ_WORDS_H
 #define OSTREL_TOOLS_READ_WORDS_H
 
@@ -24,7 +24,7 @@ class Words {
 
     [[nodiscard]] std::span<const std::string> all() const { return {words_.data(), count_}; }
 
-    // item returns the item of a word. One with quotation marks or escapes is a text, never NULL.
+    // item returns the item for a word. A word with quotation marks or escapes is never NULL.
     [[nodiscard]] Item item(std::size_t word) const;
 
  private:
@@ -35,22 +35,23 @@ class Words {
     std::size_t count_ = 0;
 };
 
-// read_escapes reads \xNN, \n, \r, \t, and \ before any other character that is neither letter nor digit for
-// that character. Throws std::invalid_argument.
+// read_escapes decodes \xNN, \n, \r and \t, and removes a \ before any character that is neither a letter nor
+// a digit. Throws std::invalid_argument for anything else after a \.
 std::string read_escapes(std::string_view text);
 
-// kNull is the word for NULL. "@@null" is the text "@null", and so on.
+// kNull is the word for NULL. The word "@@null" stands for the value "@null", and so on.
 inline constexpr std::string_view kNull = "@null";
 
-// item_of returns the item of a word; its text is a view into the word.
+// item_of returns the item for a word, whose text is a view into the word.
 Item item_of(std::string_view word);
 
-// read_values assigns the words to the arguments: numbers, texts, NULL, one word for each block. The arguments that
-// are only written may be omitted, but only all together. Throws std::invalid_argument.
+// read_values assigns the words to the arguments, with one word for each block. A word may be a number, a
+// string or NULL. The output-only arguments must all be given or all be omitted. Throws
+// std::invalid_argument.
 void read_values(const catalogue::Function& function, std::span<const std::string> words,
                  std::vector<catalogue::Value>& values);
 
-// usage_of returns the name of a check and its arguments: "NAME value min:number".
+// usage_of returns the name of a check and its arguments, for example "NAME value min:number".
 std::string usage_of(const catalogue::Function& function);
 
 }  // namespace ostrel::tool

@@ -13,11 +13,11 @@ namespace ostrel::tool {
 
 namespace {
 
-constexpr int kNotFound = 127;  // the status of a shell that cannot find a command
+constexpr int kNotFound = 127;  // exit status of a shell that cannot find a command
 
 // NOLINTBEGIN(concurrency-mt-unsafe): there is one thread
 
-// pager returns the command, or NULL if none is wanted.
+// pager returns the command to run, or NULL if no pager is to be used.
 const char* pager()
 {
     const char* terminal = std::getenv("TERM");

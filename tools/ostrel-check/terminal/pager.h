@@ -1,4 +1,4 @@
-// Pager: shows a long page with the program that the user chose.
+// Shows a long page with the user's pager.
 #ifndef OSTREL_TOOLS_TERMINAL_PAGER_H
 #define OSTREL_TOOLS_TERMINAL_PAGER_H
 
@@ -6,8 +6,8 @@
 
 namespace ostrel::tool {
 
-// show_page writes a text to standard output. On a terminal, it uses $PAGER, or less by default. less ends by itself
-// if the text fits on one screen, unless $LESS says otherwise.
+// show_page writes a page to standard output. On a terminal, it uses $PAGER, or less by default. less exits
+// immediately if the page fits on one screen, unless the user has set $LESS.
 void show_page(std::string_view text);
 
 }  // namespace ostrel::tool

@@ -11,7 +11,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// time_in_words returns a readable time: "45 s", "12 min", "3 h 5 min".
+// time_in_words returns a readable duration such as "45 s", "12 min" or "3 h 5 min".
 std::string time_in_words(double seconds)
 {
     constexpr std::uint64_t kMinute = 60;

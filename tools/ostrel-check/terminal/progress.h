@@ -1,4 +1,4 @@
-// Meter: the progress of a batch, for a user who waits at a terminal.
+// Shows the progress of a batch to a user who is waiting at a terminal.
 #ifndef OSTREL_TOOLS_TERMINAL_PROGRESS_H
 #define OSTREL_TOOLS_TERMINAL_PROGRESS_H
 
@@ -20,12 +20,13 @@ struct Advance {
 // size_of returns the number of bytes in the files, or nothing if one of them is not a regular file.
 std::optional<std::uint64_t> size_of(const std::vector<std::string>& files);
 
-// describe returns the progress in a line of at most 80 columns. The skipped bytes were not judged and took no time.
+// describe returns the progress in a line of at most 80 columns. The estimate of the remaining time
+// disregards the skipped bytes, which were not judged.
 std::string describe(const Advance& advance, double seconds, std::optional<std::uint64_t> size,
                      std::uint64_t skipped);
 
-// Meter writes one line to standard error and overwrites it, if standard error is a terminal and the batch has run
-// for more than a second. Clear the line before writing anything else.
+// Meter shows the progress on a single line of standard error, if that is a terminal and the batch has run
+// for more than a second. Call clear before writing anything else.
 class Meter {
  public:
     explicit Meter(std::optional<std::uint64_t> size);
@@ -37,7 +38,7 @@ class Meter {
     void show(const Advance& advance);
     void clear();
 
-    // clear_keys erases what the terminal shows for the interrupt keys.
+    // clear_keys erases the characters that the terminal shows for the interrupt keys.
     void clear_keys() const;
 
     // is_due returns whether it is time to show the progress.

@@ -1,4 +1,4 @@
-// Style: colours and widths for output on a terminal.
+// Colours and widths for output on a terminal.
 #ifndef OSTREL_TOOLS_TERMINAL_STYLE_H
 #define OSTREL_TOOLS_TERMINAL_STYLE_H
 
@@ -8,21 +8,21 @@
 
 namespace ostrel::tool {
 
-// wants_colours returns whether a descriptor is a terminal that can show colours and NO_COLOR is not set.
+// wants_colours returns whether a descriptor is a terminal that can show colours, and NO_COLOR is not set.
 bool wants_colours(int descriptor);
 
 enum class Colour { kBold, kGreen, kRed };
 
-// painted returns the text in that colour, or unchanged without colours.
+// painted returns the text in that colour, or unchanged if with_colours is false.
 std::string painted(std::string_view text, Colour colour, bool with_colours);
 
-// kColumns is the width if no terminal has a different one.
+// kColumns is the default width.
 inline constexpr std::size_t kColumns = 80;
 
 // kAnyWidth disables wrapping.
 inline constexpr std::size_t kAnyWidth = 0;
 
-// columns_of returns the width of a terminal. For anything else it returns the value of otherwise.
+// columns_of returns the width of a terminal. For any other descriptor, it returns the second argument.
 std::size_t columns_of(int descriptor, std::size_t otherwise);
 
 // Look is the appearance of a page.
@@ -33,8 +33,8 @@ struct Look {
 
 Look look_of(int descriptor);
 
-// append_wrapped appends a text in lines of at most columns columns. Each line begins with indentation blanks, and
-// all but the first with hanging more.
+// append_wrapped appends text, wrapped to the given number of columns. Each line is indented by indentation
+// blanks, and each line after the first by hanging more blanks.
 void append_wrapped(std::string& out, std::string_view text, std::size_t indentation, std::size_t hanging = 0,
                     std::size_t columns = kColumns);
 

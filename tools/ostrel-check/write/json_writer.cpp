@@ -11,7 +11,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// needs_no_escapes checks eight bytes at once.
+// needs_no_escapes checks eight bytes at a time.
 bool needs_no_escapes(std::string_view text)
 {
     constexpr std::uint64_t kOnes = 0x0101010101010101;

@@ -1,4 +1,4 @@
-// Values of calls as JSON, written with RapidJSON.
+// Writes the values of calls as JSON with RapidJSON.
 #ifndef OSTREL_TOOLS_WRITE_JSON_WRITER_H
 #define OSTREL_TOOLS_WRITE_JSON_WRITER_H
 
@@ -15,13 +15,13 @@
 
 namespace ostrel::tool {
 
-// JsonWriter copies texts that need no escapes, and finished JSON, as a whole. RapidJSON's own writer processes both
-// byte by byte, which takes half of the time for a result.
+// JsonWriter copies strings that need no escapes, and finished JSON, as a whole. RapidJSON's own writer
+// processes both byte by byte, which would take half of the time for a result.
 class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
  public:
     using Writer::Writer;
 
-    // plain writes a text that is known to need no escapes: the name of a member, or of a verdict.
+    // plain writes a string that is known to need no escapes, such as the name of a member or of a verdict.
     void plain(std::string_view text)
     {
         Prefix(rapidjson::kStringType);
@@ -31,7 +31,7 @@ class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
         place[text.size() + 1] = '"';
     }
 
-    // members writes some members of an object at once, without changes.
+    // members writes finished members of an object unchanged.
     void members(std::string_view json)
     {
         Prefix(rapidjson::kStringType);
@@ -39,17 +39,18 @@ class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
         std::memcpy(os_->Push(json.size()), json.data(), json.size());
     }
 
-    // raw writes JSON.
+    // raw writes finished JSON.
     void raw(std::string_view json);
 
-    // text writes a text that is valid UTF-8.
+    // text writes a string, which must be valid UTF-8.
     void text(std::string_view text);
 };
 
-// write_text writes a text in UTF-8, with invalid bytes escaped as \xNN.
+// write_text writes a string. If it is not valid UTF-8, every byte that is not printable ASCII is escaped as
+// \xNN.
 void write_text(JsonWriter& json, std::string_view text);
 
-// write_bytes writes the bytes of a value as a text, or as {"base64": text} if they cannot be decoded.
+// write_bytes writes the bytes of a value as a string, or as {"base64": text} if they cannot be decoded.
 void write_bytes(JsonWriter& json, std::string_view bytes, Encoding encoding);
 
 void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encoding);
@@ -57,7 +58,7 @@ void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encod
 // write_member writes the value of a member that is passed through.
 void write_member(JsonWriter& json, const Member& member);
 
-// text_of returns a member that is passed through as a text: a text unchanged, and any other value as JSON.
+// text_of returns the value of a member that is passed through, as JSON unless it is a string.
 std::string text_of(const Member& member);
 
 // append_bytes does the same as write_bytes for JSON that is built without a writer.

@@ -12,20 +12,20 @@
 
 namespace ostrel::tool {
 
-// Format is the format of results: a table, JSON, JSON with a line for each record and without anything that depends
-// on the file, or CSV.
+// Format is the format of results. kStream is JSON that has a line for every entry and omits the name of the
+// file.
 enum class Format { kTable, kJson, kStream, kCsv };
 
 struct Style {
     Format format = Format::kTable;
-    bool only_refused = false;            // nothing is written for accepted cases and answers
+    bool only_refused = false;            // accepted cases and answers are omitted
     bool with_args = false;               // JSON and CSV repeat the arguments
-    Encoding encoding = Encoding::kUtf8;  // of the values, which JSON and CSV write as texts
-    bool no_results = false;              // nothing is written
+    Encoding encoding = Encoding::kUtf8;  // of the values, for JSON and CSV
+    bool no_results = false;              // results are not written
     bool redacts = false;                 // secret values are replaced by their length
     bool tries_known = false;             // calls that are known not to return are made too
-    std::size_t columns = 0;              // of the terminal that a table is for; 0: nothing is wrapped
-    std::string driver_problem;           // why --channels could not replace the wireless driver; or empty
+    std::size_t columns = 0;              // width of a table, or 0 if nothing is to be wrapped
+    std::string driver_problem;           // why --channels could not replace the wireless driver, or empty
 };
 
 // Location is the file and the line of a case.

@@ -11,7 +11,8 @@ namespace ostrel::tool {
 
 namespace {
 
-// kOwn lists the members that a result defines. A member of the input with one of these names is put into "given".
+// kOwn lists the members that a result defines itself. A member of the record with one of these names is put
+// into "given".
 constexpr std::array<std::string_view, 16> kOwn = {"file",   "line",    "check", "verdict", "code", "meaning",
                                                    "reason", "remarks", "out",   "flushed", "err",  "cut",
                                                    "after",  "args",    "given", "tried"};

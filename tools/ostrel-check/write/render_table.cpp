@@ -11,7 +11,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// A table is for people, so it shows only the beginning of long texts.
+// A table is for people, so it shows only the beginning of long values and messages.
 constexpr std::size_t kLongestShown = 200;
 constexpr int kMostLinesShown = 8;
 

@@ -34,7 +34,7 @@ bool is_plain_word(std::string_view text)
         text, [](char c) { return c > ' ' && c <= '~' && c != '\'' && c != '"' && c != '\\'; });
 }
 
-// is_like_null returns whether a text would be read as NULL, or without its first "@".
+// is_like_null returns whether a word would be read as NULL or without its first "@".
 bool is_like_null(std::string_view text)
 {
     const std::size_t at_signs = std::min(text.find_first_not_of('@'), text.size());
