@@ -14,12 +14,12 @@ using namespace ostrel::bench;
 
 namespace {
 
-// allocations counts the heap allocations of the program and of every library in it.
+// allocations counts the heap allocations of the program and of every library that it uses.
 std::size_t allocations = 0;
 
 }  // namespace
 
-// The names of glibc's own allocator, for programs that wrap it.
+// glibc exports its own allocator under these names for programs that wrap it.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" void* __libc_malloc(std::size_t size);
 extern "C" void* __libc_calloc(std::size_t members, std::size_t size);
@@ -46,7 +46,7 @@ extern "C" void* realloc(void* block, std::size_t size)
 
 namespace {
 
-// corpus creates a corpus when it is first needed, so that a run of a few benchmarks creates no others.
+// corpus creates a corpus when it is first needed, so that a run of a few benchmarks creates only what it needs.
 const Corpus& corpus(const std::string& name, Shape shape)
 {
     static std::map<std::pair<std::string, Shape>, std::unique_ptr<const Corpus>> all;
@@ -55,7 +55,8 @@ const Corpus& corpus(const std::string& name, Shape shape)
     return *entry;
 }
 
-// require_same_verdict keeps the comparison fair: a contender that refuses a valid value did different work.
+// require_same_verdict ends the program if a contender refused a valid value, because it then did different
+// work.
 void require_same_verdict(const Contender& contender, const Corpus& values, std::size_t accepted)
 {
     if (accepted == values.values().size()) return;

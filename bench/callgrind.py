@@ -17,7 +17,7 @@ REQUEST = "desc: Trigger: Client Request: "
 
 
 def _read(path):
-    """_read returns the name of a dump, its instructions, and those inside the library."""
+    """_read returns the name of a dump, its number of instructions, and how many of them are inside the library."""
     name = None
     total = 0
     inside = 0

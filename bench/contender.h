@@ -1,4 +1,4 @@
-// Contender: a judge of the values of a family, which is our rule, a peer or a limit.
+// Contenders, each of which judges the values of a family: our rule, its peers and the limits.
 #ifndef OSTREL_BENCH_CONTENDER_H
 #define OSTREL_BENCH_CONTENDER_H
 
@@ -18,8 +18,8 @@ struct Contender {
     std::function<std::size_t(const Corpus&)> pass;  // judges every value once and counts the accepted ones
 };
 
-// contender creates one from a function that judges one value. The loop is compiled around the call, at the same cost
-// for each contender.
+// contender makes a Contender from a function that judges one value. The loop is compiled around the call, so
+// that it costs every contender the same.
 template <typename Accepts>
 Contender contender(std::string family, std::string name, Accepts accepts)
 {
@@ -34,8 +34,8 @@ Contender contender(std::string family, std::string name, Accepts accepts)
 
 using Contenders = std::vector<Contender>;
 
-// contenders returns all contenders that are linked into the program: peers/all.cpp includes the peers, alone.cpp does
-// not.
+// contenders returns all contenders that are linked into the program. These include the peers if the program
+// contains peers/all.cpp, but not if it contains alone.cpp.
 Contenders contenders();
 
 // Each of these adds contenders for the families that it supports.

@@ -1,4 +1,4 @@
-// Corpus: the values that a benchmark judges in each pass.
+// The values that a benchmark judges in each pass.
 #ifndef OSTREL_BENCH_CORPUS_H
 #define OSTREL_BENCH_CORPUS_H
 
@@ -41,7 +41,7 @@ class Random {
     std::uint64_t state_;
 };
 
-// some returns a text of the given length, with characters from members.
+// some returns a string of the given length, made of characters from members.
 std::string some(Random& random, std::size_t length, std::string_view members);
 
 // number returns a decimal number from low to high, padded with zeros to the width.
@@ -51,7 +51,7 @@ enum class Shape {
     kValid,
     kRefusedFirst,  // no rule accepts the first byte
     kRefusedLast,   // no rule accepts the last byte
-    kHostile,       // long, and such that a rule must read as much of it as possible
+    kHostile,       // long, and chosen so that a rule must read as much of it as possible
 };
 
 constexpr Shape kShapes[] = {Shape::kValid, Shape::kRefusedFirst, Shape::kRefusedLast, Shape::kHostile};
@@ -66,10 +66,10 @@ struct ValueFamily {
     bool distinct = true;  // false if there are too few valid values, so that some repeat
 };
 
-constexpr std::size_t kCorpusSize = 65536;  // the branch predictor learns fewer distinct values
+constexpr std::size_t kCorpusSize = 65536;  // the branch predictor would learn fewer distinct values
 constexpr std::size_t kHostileLength = 512;
 
-// Corpus stores the values in one text, each with its terminator.
+// Corpus stores the values in one string, each with its terminator.
 class Corpus {
  public:
     Corpus(const ValueFamily& family, Shape shape, std::size_t size = kCorpusSize);

@@ -48,7 +48,7 @@ std::string url(Random& random)
     return text;
 }
 
-// date_time generates the one form that every contender accepts: with dashes and an offset.
+// date_time generates the only form that every contender accepts, which has dashes and an offset.
 std::string date_time(Random& random)
 {
     return number(random, 1970, 2099, 4) + "-" + number(random, 1, 12, 2) + "-" + number(random, 1, 28, 2) +
@@ -73,8 +73,8 @@ std::string rates(Random& random)
 
 std::string servers(Random& random) { return ipv4(random) + (random.one_in(2) ? "," : ", ") + ipv4(random); }
 
-// reservations generates different addresses of one subnet. All have the same length, because an address that is a
-// prefix of another counts as repeated.
+// reservations generates different addresses in one subnet. All have the same length, because an address that
+// is a prefix of another one counts as repeated.
 std::string reservations(Random& random)
 {
     std::string list;
@@ -87,7 +87,7 @@ std::string reservations(Random& random)
     return list;
 }
 
-// repeated generates a hostile value of many pieces.
+// repeated returns a function that generates hostile values, each made of many pieces.
 auto repeated(const std::string& head, std::string (*piece)(Random&), const std::string& between)
 {
     return [=](Random& random, std::size_t length) {
@@ -97,7 +97,7 @@ auto repeated(const std::string& head, std::string (*piece)(Random&), const std:
     };
 }
 
-// members generates values of a set's characters, and long ones as hostile values.
+// members returns a family of values made of a set's characters. Its hostile values are long ones.
 ValueFamily members(const char* name, std::string_view set, unsigned shortest, unsigned longest)
 {
     const std::string all(set);

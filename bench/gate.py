@@ -3,8 +3,8 @@
 
 usage: gate.py PROGRAM BASELINE [--accept]
 
-Only instructions inside the library count, so that the numbers do not depend on the C library. The values have a fixed
-seed, and callgrind counts exactly.
+Only instructions inside the library are counted, so that the numbers do not depend on the C library. The values are
+generated from a fixed seed, and callgrind's counts are exact.
 """
 
 import sys

@@ -1,10 +1,10 @@
-"""The goals of the rules on valid values, as multiples of a peer's speed.
+"""The goals for the rules' speed on valid values, as multiples of a peer's speed.
 
-A goal that is not reached has its reason here, and the table shows it.
+REASONS explains why a goal is not reached. The table shows the explanation.
 """
 
-LIBYANG = 15  # on every family
-LIMIT = 3  # times the plain reading loop, for keywords and lists
+LIBYANG = 15  # for every family
+LIMIT = 3  # times the duration of the plain reading loop, for keywords and lists
 
 GOALS = {
     "ipv4": {"inet_pton": 1.8, "PCRE2 JIT": 2, "RE2": 2, "c-ares": 2},

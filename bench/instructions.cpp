@@ -1,4 +1,5 @@
-// Runs each contender for callgrind, with a dump for each benchmark, named family/shape/contender/values.
+// Runs each contender under callgrind, which writes a dump for each benchmark, named
+// family/shape/contender/values.
 //
 //   valgrind --tool=callgrind --collect-atstart=no … instructions VALUES [FAMILY…]
 #include <valgrind/callgrind.h>

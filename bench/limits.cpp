@@ -6,7 +6,7 @@ namespace ostrel::bench {
 
 namespace {
 
-// read_each_byte is a separate function, because the rules are.
+// read_each_byte is a separate function, as every rule is.
 [[gnu::noinline]] unsigned read_each_byte(const char* value)
 {
     unsigned sum = 0;
@@ -23,7 +23,7 @@ void add_limits(Contenders& all)
             contender(family.name, "reading", [](const char* v) { return read_each_byte(v) != 0; }));
         all.push_back(contender(family.name, "strlen", [](const char* v) {
             std::size_t length = std::strlen(v);
-            asm volatile("" : "+r"(length));  // otherwise the compiler reads only the first byte
+            asm volatile("" : "+r"(length));  // otherwise, the compiler would read only the first byte
             return length != 0;
         }));
     }

@@ -1,4 +1,4 @@
-// Times a refusal that prints, and its components: formatting a line, and flushing every stream.
+// Times a refusal that prints, and its two components: formatting a line and flushing every stream.
 #include <benchmark/benchmark.h>
 #include <ostrel/check.h>
 #include <unistd.h>
@@ -38,7 +38,7 @@ void format_and_flush(benchmark::State& state)
     }
 }
 
-// format_only does not flush, so the buffer is written once for about fifty lines.
+// format_only does not flush, so the buffer is written only once in about fifty lines.
 void format_only(benchmark::State& state)
 {
     for (auto _ : state) print(kLine, "PARAM_check_transport_protocol", "SCTP");

@@ -15,7 +15,7 @@ import sys
 import goals
 
 LIMITS = ("reading", "strlen")
-# The names of the families on the page.
+# The families' names on the page.
 NAMES = {
     "ipv4": "IPv4 address", "mac": "MAC address", "host": "host name", "url": "URL", "email": "e-mail address",
     "account": "account", "date_time": "date-time", "printable": "printable string", "password": "password",
@@ -26,7 +26,7 @@ NAMES = {
 LIBRARIES = ("libcurl", "libyang", "uriparser")  # the other contenders with lower-case names are functions
 BEGIN = "<!-- scripts/bench writes this -->\n"
 END = "<!-- to here -->\n"
-NOISY = 0.10  # with quartiles further apart than this share of the median, the medians are not used
+NOISY = 0.10  # if the quartiles are further apart than this share of the median, the medians are not used
 
 
 def quartiles(samples):
@@ -53,15 +53,15 @@ def read_times(path):
 
 
 def ratio_to(ours, other):
-    """ratio_to returns the other's time as a multiple of ours, by the medians, or if they are noisy by the fastest
-    repetitions."""
+    """ratio_to returns the other contender's time as a multiple of ours. It uses the medians or, if they are noisy, the
+    fastest repetitions."""
     if max(ours[1], other[1]) <= NOISY:
         return other[0] / ours[0]
     return other[2] / ours[2]
 
 
 def judged(family, peer, ratio):
-    """judged returns whether a ratio of the peer's time to ours reaches its goal."""
+    """judged returns a remark on whether the ratio of the peer's time to ours reaches its goal."""
     goal = goals.GOALS.get(family, {}).get(peer)
     shown_goal = str(goal)
     if peer == "libyang":
@@ -105,8 +105,8 @@ def print_tables(table, instructions):
 
 
 def multiples(row):
-    """multiples returns the time of each peer, and of the plain reading loop, on valid values as a multiple of ours, by
-    the fastest repetitions, in ascending order."""
+    """multiples returns the times of the peers and of the plain reading loop on valid values, as multiples of ours, in
+    ascending order. They are the times of the fastest repetitions."""
     least = {contender: figures[2] for contender, figures in row["valid"].items() if contender != "strlen"}
     ours = least.pop("ours")
     return sorted(((contender, time / ours) for contender, time in least.items()), key=lambda pair: pair[1])
@@ -118,7 +118,7 @@ def faster(row):
 
 
 def lost_first(table):
-    """lost_first sorts the families: those in which a peer is faster come first, the worst at the top."""
+    """lost_first sorts the families so that those in which a peer is faster come first, beginning with the worst."""
     def rank(family):
         peers = faster(table[family])
         return dict(multiples(table[family]))[peers[0]] if peers else 1
@@ -126,8 +126,8 @@ def lost_first(table):
 
 
 def draw(table, path):
-    """draw draws the time of each peer on valid values as a multiple of ours, with a group of bars for each family."""
-    longest = 20  # times our time; longer bars are cut off
+    """draw draws a group of bars for each family, which show the peers' times on valid values as multiples of ours."""
+    longest = 20  # as a multiple of our time; longer bars are cut off
     left, width, step, gap = 190, 460, 15, 14
     lines = []
     y = 62

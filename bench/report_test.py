@@ -20,7 +20,7 @@ FAMILIES = {
 
 
 def measured(repetitions=3):
-    """measured returns output like that of the benchmarks, with a disturbed repetition that must not count."""
+    """measured returns output like that of the benchmarks, with one slow repetition that must not count."""
     return {"benchmarks": [
         {"run_type": "iteration", "run_name": f"{family}/valid/{contender}", "values": 1000, "bytes_per_second": 1e9,
          "allocations": 0, "cpu_time": 1000 * time * (9 if repetition == 1 else 1)}
@@ -47,7 +47,7 @@ class Report(unittest.TestCase):
     def test_chart_shows_all_families_the_lost_ones_first(self):
         chart, _ = self.made()
         self.assertEqual(["own_digits_8", "number", "ipv4", "keyword"], re.findall(r'class="f">(\w+)<', chart))
-        # Each family has a bar for every contender except our rule and strlen. Those of faster peers differ.
+        # Each family has a bar for every contender except our rule and strlen. The bars of faster peers look different.
         self.assertEqual(11, chart.count('class="n"'))
         self.assertEqual(3, chart.count('class="w"/>'))
         self.assertIn('class="n">strtol</text>', chart)

@@ -1,4 +1,4 @@
-# The files that cmake --install installs, in three components: runtime, development and tools.
+# The files that cmake --install installs, in the three components runtime, development and tools.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 

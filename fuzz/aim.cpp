@@ -18,8 +18,8 @@ Aim::Aim(const rules::Check& check, std::vector<std::string> seeds, std::uint64_
 {
 }
 
-// next returns the seeds first. Half of the other inputs are made from the seeds, half from inputs that met the
-// rarest step or condition.
+// next returns the seeds first. After them, half of the inputs are made from the seeds, and half from inputs
+// that met the rarest step or condition.
 const std::string& Aim::next()
 {
     if (next_seed_ < seeds_.size()) return seeds_[next_seed_++];

@@ -1,5 +1,5 @@
-// Aim chooses the inputs of one function so that every step and condition of its description is met often. It keeps
-// inputs that met one, and makes new inputs from those that met the rarest.
+// Aim chooses the inputs of one function so that every step and condition of its description is met often. It
+// keeps inputs that met a step or condition, and makes new inputs from those that met the rarest one.
 #ifndef OSTREL_FUZZ_AIM_H
 #define OSTREL_FUZZ_AIM_H
 
@@ -19,7 +19,7 @@ class Aim {
     // next returns an input. It is valid until the next call.
     const std::string& next();
 
-    // learn takes the counts after the run of an input.
+    // learn receives the counts after an input has run.
     void learn(const std::string& input, const rules::Counts& counts);
 
  private:
@@ -35,7 +35,7 @@ class Aim {
     std::vector<std::string> seeds_;
     std::size_t next_seed_ = 0;
     oracle::Mutator mutator_;
-    std::vector<Met> mets_;  // the steps, then the conditions
+    std::vector<Met> mets_;  // for the steps, followed by the conditions
     std::uint64_t turn_ = 0;
 };
 

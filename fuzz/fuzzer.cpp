@@ -14,7 +14,7 @@ using rules::Value;
 
 namespace {
 
-// missing names what a reason lacks, or returns an empty text if the reason is complete.
+// missing returns what a reason lacks, or an empty string if the reason is complete.
 std::string missing(const rules::Reason& reason)
 {
     if (reason.id.empty()) return "no id";

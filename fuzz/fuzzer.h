@@ -1,5 +1,5 @@
-// Fuzzer makes the calls that inputs encode. It compares the results with the description, follows the reason of a
-// refusal as advice, and compares what accepted values contain with docs/hazards.md.
+// Fuzzer makes the calls that inputs encode. It compares the results with the description, follows the reason
+// for a refusal as advice, and compares the bytes of accepted values with docs/hazards.md.
 #ifndef OSTREL_FUZZ_FUZZER_H
 #define OSTREL_FUZZ_FUZZER_H
 
@@ -19,27 +19,28 @@ namespace ostrel::fuzz {
 // RunResult is the outcome of running an input.
 enum class RunResult {
     kAgreed,
-    kOutside,  // nothing was called: the contract does not cover the call
+    kOutside,  // not called, because the contract does not cover the call
     kDiffered,
 };
 
-// Fuzzer runs the inputs of a family of the catalogue.
+// Fuzzer runs the inputs for one family of the catalogue.
 class Fuzzer {
  public:
     // Throws std::invalid_argument for an unknown family.
     explicit Fuzzer(std::string_view family);
 
-    // run decodes an input, makes its call, and follows the reason if the call is refused. If build has no list of
-    // channels, it skips calls that would query the wireless driver. counts counts the steps of the call, and further
-    // counts those of the calls that the reason leads to.
+    // run decodes an input, makes its call, and follows the reason if the call is refused. If build has no
+    // channel list, it skips calls that would query the wireless driver. The steps of the call are added to
+    // counts, and the steps of the calls that result from following the reason are added to further.
     RunResult run(std::string_view input, const rules::Build& build, rules::Counts* counts = nullptr,
                   rules::Counts* further = nullptr);
 
-    // fault describes the last input that differed, by the expected row, as in vectors/, and the actual one, or by
-    // the fault in the reason.
+    // fault describes the last input that differed. It returns the expected row, as in vectors/, and the
+    // actual one, or the fault in the reason.
     [[nodiscard]] const std::string& fault() const { return fault_; }
 
-    // encode returns the input for a call; nothing if the function is not of this family or a text is too long.
+    // encode returns the input for a call, or nothing if the function is not in this family or a string is
+    // too long.
     [[nodiscard]] std::optional<std::string> encode(const catalogue::Function& function,
                                                     const std::vector<rules::Value>& values) const;
 
@@ -53,7 +54,8 @@ class Fuzzer {
     [[nodiscard]] const oracle::Follower& follower() const { return follower_; }
     [[nodiscard]] std::size_t calls() const { return comparer_.calls(); }
 
-    // refused returns how many inputs were refused. Each refusal had an id and a sentence, or differed.
+    // refused returns how many inputs were refused. A refusal without an id or a sentence is one that
+    // differed.
     [[nodiscard]] std::size_t refused() const { return refused_; }
 
  private:

@@ -1,5 +1,5 @@
-// fuzz_seeds OUT: writes each call of vectors/*.ndjson as an input to OUT/FAMILY/, and the texts of the calls and of
-// the descriptions to OUT/FAMILY.dict, a dictionary for libFuzzer and AFL++.
+// fuzz_seeds OUT writes each call in vectors/*.ndjson as an input to OUT/FAMILY/. It writes the strings in
+// the calls and in the descriptions to OUT/FAMILY.dict, a dictionary for libFuzzer and AFL++.
 
 #include <cstdio>
 #include <exception>
@@ -16,9 +16,9 @@ namespace ostrel::fuzz {
 
 namespace {
 
-constexpr std::size_t kLongestWord = 32;  // AFL++ takes words of up to 128 bytes, libFuzzer of up to 64
+constexpr std::size_t kLongestWord = 32;  // bytes; AFL++ accepts up to 128, and libFuzzer up to 64
 
-// add_words adds a text, and its pieces between separators.
+// add_words adds a string and its pieces between separators.
 void add_words(const std::string& text, std::set<std::string>& words)
 {
     std::string piece;

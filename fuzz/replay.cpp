@@ -1,4 +1,4 @@
-// fuzz_replay runs the calls of the vectors, kept inputs and random ones, without an engine.
+// fuzz_replay runs the calls of the vectors, kept inputs and random inputs without an engine.
 
 #include <algorithm>
 #include <chrono>
@@ -29,7 +29,7 @@ struct Totals {
     std::size_t outside = 0;
     std::size_t failures = 0;
     std::size_t refused = 0;
-    std::size_t calls = 0;  // compared with the library, including those that reasons lead to
+    std::size_t calls = 0;  // compared with the library, including those made to follow reasons
     std::string text;
     std::vector<std::string> unproven;
 
@@ -95,7 +95,7 @@ class Replay {
         };
         for (std::size_t i = 0; i < random; ++i) next();
         if (!may_refuse(function)) return;
-        // If a check refuses fewer than one input in a hundred, the inputs do not suit it.
+        // If a check refuses fewer than one input in a hundred, the inputs are unsuitable for it.
         const std::size_t wanted = refusals == 0 ? 0 : fuzzer_.refused() + refusals;
         for (std::size_t i = 0; i < 100 * refusals && fuzzer_.refused() < wanted; ++i) next();
         if (fuzzer_.refused() < wanted)
@@ -104,7 +104,7 @@ class Replay {
 
     Totals totals()
     {
-        totals_.calls = fuzzer_.calls() / 2;  // each is made with both edges
+        totals_.calls = fuzzer_.calls() / 2;  // each call was made twice, once with each edge
         totals_.refused = fuzzer_.refused();
         totals_.unproven = fuzzer_.follower().unproven();
         return std::move(totals_);
@@ -149,7 +149,7 @@ std::vector<const Function*> chosen(std::string_view family, const ReplayOptions
     return result;
 }
 
-// are_met returns whether no count is below the floor, and prints the rarest.
+// are_met prints the lowest counts that are below the floor, and returns whether there are none.
 bool are_met(const rules::Counts& counts, const rules::Counts& further, const ReplayOptions& options)
 {
     std::vector<oracle::StepCount> rows = oracle::table(counts);

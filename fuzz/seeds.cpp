@@ -14,7 +14,7 @@ using rules::Value;
 
 namespace {
 
-constexpr std::size_t kMostVaried = 4;  // calls of which copies are changed; accepted ones come first
+constexpr std::size_t kMostVaried = 4;  // calls that are varied, beginning with accepted ones
 
 class Seeds {
  public:

@@ -1,4 +1,4 @@
-// Seeds: the first inputs, from which others are made.
+// The first inputs, from which other inputs are made.
 #ifndef OSTREL_FUZZ_SEEDS_H
 #define OSTREL_FUZZ_SEEDS_H
 
@@ -10,8 +10,9 @@
 
 namespace ostrel::fuzz {
 
-// seeds returns the calls of a function in vectors/. In copies of some of them, one argument is replaced by a value
-// that its description names: a keyword, a limit or its neighbour, a shape, or NULL.
+// seeds returns the calls of a function in vectors/, and variations of some of them. In a variation, one
+// argument is replaced with NULL or a value from the description, such as a keyword, a limit or its
+// neighbour, or a shape.
 std::vector<std::string> seeds(const Fuzzer& fuzzer, const catalogue::Function& function,
                                const std::vector<vectors::Row>& rows);
 

@@ -14,7 +14,7 @@
 
 namespace {
 
-// The fuzzer is never destroyed, because it captures the output of the last call too.
+// The fuzzer is never destroyed, because it must also capture the output of the last call.
 ostrel::fuzz::Fuzzer& fuzzer()
 {
     static auto* const the_fuzzer = [] {

@@ -1,6 +1,6 @@
-// Judges a family's values the given number of times: judge FAMILY CONTENDER PASSES
+// judge FAMILY CONTENDER PASSES judges a family's values the given number of times.
 //
-// The difference between two runs is the cost of the additional passes of the second.
+// The difference between two runs is the cost of the second run's additional passes.
 #include <cstdlib>
 
 #include "bench/contender.h"

@@ -20,7 +20,7 @@ void add_urls(Contenders& all)
         unsigned char octets[4];
         return uriParseIpFourAddressA(octets, v, v + std::char_traits<char>::length(v)) == URI_SUCCESS;
     }));
-    // Reusing one handle for all values is the fastest way.
+    // Reusing one handle for all values is fastest.
     CURLU* handle = curl_url();
     if (handle == nullptr) throw std::runtime_error("curl_url has no handle");
     all.push_back(contender("url", "libcurl", [handle](const char* v) {

@@ -1,8 +1,8 @@
-# musl, on the processor of this machine. Debian has only a C compiler driver: C++ is compiled with musl's headers in
-# place of glibc's, and the C driver links.
+# musl on this machine's processor. Debian has only a C compiler driver for it, so C++ is compiled with musl's headers
+# in place of glibc's, and the C driver links.
 set(CMAKE_C_COMPILER musl-gcc)
 set(CMAKE_CXX_COMPILER g++)
-# A C++ program cannot be linked.
+# Linking a C++ program would fail, so CMake must not try.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
 
 execute_process(COMMAND g++ -dumpversion OUTPUT_VARIABLE version OUTPUT_STRIP_TRAILING_WHITESPACE)
