@@ -66,7 +66,7 @@ struct ValueFamily {
     bool distinct = true;  // false if there are too few valid values, so that some repeat
 };
 
-constexpr std::size_t kCorpusSize = 65536;  // the branch predictor would learn fewer distinct values
+constexpr std::size_t kCorpusSize = 65536;  // a branch predictor could learn fewer distinct values
 constexpr std::size_t kHostileLength = 512;
 
 // Corpus stores the values in one string, each with its terminator.

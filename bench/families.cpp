@@ -24,8 +24,8 @@ std::string mac(Random& random)
     return address;
 }
 
-// host generates names like those of servers: two to four labels of letters, digits and "-", the last one of letters
-// only.
+// host generates names like those of servers, with two to four labels of letters, digits and "-". The last
+// label has only letters.
 std::string host(Random& random)
 {
     std::string name;

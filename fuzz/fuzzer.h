@@ -54,8 +54,8 @@ class Fuzzer {
     [[nodiscard]] const oracle::Follower& follower() const { return follower_; }
     [[nodiscard]] std::size_t calls() const { return comparer_.calls(); }
 
-    // refused returns how many inputs were refused. A refusal without an id or a sentence is one that
-    // differed.
+    // refused returns how many inputs were refused. A refusal without an id or a sentence counts as a
+    // difference.
     [[nodiscard]] std::size_t refused() const { return refused_; }
 
  private:

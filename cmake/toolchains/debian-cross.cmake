@@ -1,5 +1,5 @@
-# Common settings of the toolchain files for Debian's cross compilers. Before they include this file, they set
-# OSTREL_TRIPLET, the prefix of the compiler's programs, and OSTREL_EMULATOR, which runs the target's programs.
+# Common settings for Debian's cross compilers. Before a toolchain file includes this file, it sets OSTREL_TRIPLET, the
+# prefix of the compiler's programs, and OSTREL_EMULATOR, which runs the target's programs.
 set(CMAKE_SYSTEM_NAME Linux)
 string(REGEX REPLACE "-.*" "" CMAKE_SYSTEM_PROCESSOR ${OSTREL_TRIPLET})
 

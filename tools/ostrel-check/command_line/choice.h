@@ -10,7 +10,7 @@
 
 namespace ostrel::tool {
 
-// kOr separates the words in the name of such a type.
+// kOr separates the words in an option's type.
 inline constexpr char kOr = '|';
 
 // refuse_others makes an option accept only these words.

@@ -74,7 +74,7 @@ Candidates keywords_at(std::string_view name, std::size_t value)
     return {};
 }
 
-// Parser reads the words before the one to be completed, in the same way as the command-line parser.
+// Parser reads the words before the one to be completed in the same way as the command-line parser.
 class Parser {
  public:
     explicit Parser(const CLI::App& app) : app_(&app) {}
@@ -162,7 +162,7 @@ class Parser {
     const CLI::Option* option_ = nullptr;  // the option that still needs its value
     bool only_words_ = false;              // "--" has been read
     std::string check_;
-    std::size_t values_ = 0;  // read so far, for the check or the command
+    std::size_t values_ = 0;  // number of values read so far for the check or the command
 };
 
 }  // namespace

@@ -13,7 +13,7 @@
 namespace ostrel::tool {
 
 struct EndingOptions {
-    std::string summary;  // its format, or empty if none was chosen
+    std::string summary;  // format of the summary, or empty if none was chosen
     Closing closing;
     std::vector<std::string> files;  // summaries or results to add up
 };
@@ -27,7 +27,7 @@ void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules);
 // add_summarise_options adds the options of summarise.
 void add_summarise_options(CLI::App& summarise, EndingOptions& options);
 
-// closing_of returns the closing that the options select.
+// closing_of returns the Closing that the options select.
 Closing closing_of(const EndingOptions& options, const Style& style);
 
 }  // namespace ostrel::tool

@@ -11,7 +11,7 @@
 
 namespace ostrel::tool {
 
-// Cases reads entries, as a Reader defines them, one after another and reuses its memory.
+// Cases reads the entries of files one after another and reuses its memory. A Reader determines the entries.
 class Cases {
  public:
     explicit Cases(const Reading& reading) : reading_(&reading) {}
@@ -29,7 +29,8 @@ class Cases {
     // has_more returns whether the entry contains another record, even after read has thrown.
     [[nodiscard]] bool has_more() const { return found_ == Found::kMore; }
 
-    // These return what read found, even if it then threw. function returns NULL if it found no check.
+    // These return what read found, even if it then threw an exception. function returns NULL if no check was
+    // found.
     [[nodiscard]] const catalogue::Function* function() const { return function_; }
     [[nodiscard]] const std::vector<catalogue::Value>& values() const { return values_; }
     [[nodiscard]] const Record& record() const { return record_; }

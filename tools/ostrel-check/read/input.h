@@ -25,7 +25,7 @@ struct Chunk {
     std::string_view preamble;  // of the file
     std::string_view text;
     bool starts_file = false;
-    std::string problem;  // if not empty, why nothing can be read here, and the text is empty
+    std::string problem;  // why nothing can be read here, or empty if there is text
     std::string heading;
 };
 
@@ -35,8 +35,8 @@ class Input {
     // numbered from first_number.
     Input(const std::vector<std::string>& files, const Reading& reading, std::uint64_t first_number);
 
-    // is_at_end returns whether every file has been read. After the end of a file, it opens the next one. It
-    // reports files that cannot be opened on standard error.
+    // is_at_end returns whether every file has been read. After the end of a file, it opens the next one. On
+    // standard error, it reports each file that cannot be opened.
     bool is_at_end();
 
     // is_ready returns whether read can return a chunk without reading from the file.

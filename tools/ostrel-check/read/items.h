@@ -14,7 +14,7 @@ namespace ostrel::tool {
 // Items makes items, whose views are valid until the next call of begin.
 class Items {
  public:
-    // begin reserves memory for the items of a record of that size. No byte of the record is used more than
+    // begin reserves memory for the items of a record of that size. Each byte of the record may be used
     // twice.
     void begin(std::size_t size, Encoding encoding)
     {

@@ -49,7 +49,7 @@ struct Record {
     };
     Kind kind = Kind::kCase;
     std::uint64_t line = 0;  // where the record begins, counted from the beginning of its entry
-    std::string_view check;  // its name; empty if the record has none
+    std::string_view check;  // its name, or empty if the record has none
     std::string_view path;   // of a parameter without a check
     GatewayCounts counts;    // at the end of a gateway
     std::uint64_t end = 0;   // at the end of a gateway, the line where the next one begins
@@ -72,7 +72,7 @@ struct Record {
         may_have_spares = false;
     }
 
-    // find returns the last member of that name, or NULL.
+    // find returns the last member with that name, or NULL.
     [[nodiscard]] const Member* find(std::string_view name) const
     {
         const auto found = std::ranges::find(members.rbegin(), members.rend(), name, &Member::name);
