@@ -166,7 +166,8 @@ def shown(peer):
 def page_table(table):
     """page_table returns the page's table of all families."""
     lost = [family for family in table if faster(table[family])]
-    lines = [f"In {len(lost)} of {len(table)} families a peer is faster. They come first, with those peers in bold.", "",
+    lines = [f"In {len(lost)} of {len(table)} families a peer is faster. "
+             "These families come first, and the faster peers are in bold.", "",
              "| family | ours | peers | reading each byte |", "|---|---:|---|---:|"]
     for family in lost_first(table):
         row = table[family]["valid"]
