@@ -5,5 +5,5 @@ set(CMAKE_C_COMPILER clang-19)
 set(CMAKE_CXX_COMPILER clang++-19)
 set(CMAKE_C_COMPILER_TARGET wasm32-wasi)
 set(CMAKE_CXX_COMPILER_TARGET wasm32-wasi)
-# Linking a program would fail, so CMake must not try.
+# A linked program cannot run without its host, so CMake only compiles its test programs.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
