@@ -1,5 +1,5 @@
 /*
- * Accounts: the provisioning code, the PPP user name, passwords, and the fields of VoIP and e-mail accounts.
+ * Checks for the provisioning code, PPP user names, passwords, and the fields of VoIP and e-mail accounts.
  *
  * No pointer may be NULL. Only TcmValidateProvisioningCode prints. Lengths count bytes.
  */
@@ -9,11 +9,11 @@
 #include <ostrel/api.h>
 
 /*
- * TcmValidateProvisioningCode: "000.00d.00d.ddd", four groups of three digits. Positions count from 0. The
- * digits at positions 6 and 10 must be 0 to 4, those at positions 12 to 14 may be any digit, and every other
- * digit must be 0.
+ * TcmValidateProvisioningCode: four groups of three digits in the form "000.00d.00d.ddd". Positions are
+ * counted from 0. The digits at positions 6 and 10 must be from 0 to 4, those at positions 12 to 14 may be
+ * any digits, and every other digit must be 0.
  *
- * Returns 0 or OSTREL_INVALID_VALUE. If a value of 15 characters is refused, its first wrong position is
+ * Returns 0 or OSTREL_INVALID_VALUE. If a value of 15 characters is refused, the first wrong position is
  * printed without a flush: "TcmValidateProvisioningCode  pCode[%d] error \n" for position 6, 10, 12, 13 or
  * 14, and "TcmValidateProvisioningCode  pCode[%d] error\n" for any other position. For a value of any other
  * length, nothing is printed.
@@ -23,9 +23,9 @@ OSTREL_API int TcmValidateProvisioningCode(const char* value);
 /*
  * TcmValidatePPPUsername: the user name of a PPP account.
  *
- * If a name ends in one of the ISP's two realms (build options, by default "@example.net" and
- * "@setup.example.net", compared case-sensitively) and has at least one character before it, only the part
- * before the realm is checked. It must consist of digits and "#" in one of these forms:
+ * If a name ends in one of the ISP's two realms, which are build options (by default "@example.net" and
+ * "@setup.example.net") and are compared case-sensitively, and has at least one character before the realm,
+ * only the part before the realm is checked. It must consist of digits and "#" in one of these forms:
  *
  *   type  realm    characters before the realm
  *   1     account  28, no "#"
@@ -35,16 +35,16 @@ OSTREL_API int TcmValidateProvisioningCode(const char* value);
  *   5     set-up   16, no "#"
  *   6     set-up   17, one "#", at index 12
  *
- * The part must have 18 to 30 characters before the account realm, or 16 to 17 before the set-up realm. A
- * part with three or more "#" is accepted wherever they are, and the type is not written. Any other user name
- * is of type 0 and must consist of 1 to 131 characters of CHARSET_LATIN1_PRINTABLE.
+ * The part must have 18 to 30 characters before the account realm, or 16 or 17 before the set-up realm. A
+ * part with three or more "#" is accepted wherever they are, and the type is not written. A name without such
+ * a part is of type 0 and must consist of 1 to 131 characters from CHARSET_LATIN1_PRINTABLE.
  *
  * account_type: receives the type if the name is accepted, except as stated above; otherwise it is unchanged.
  *
  * Returns 0, or the code of the first test that fails:
  * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER: a fault in the part before the realm, or
  *   in the whole name if it is of type 0;
- * OSTREL_INVALID_VALUE: the part has none of the forms.
+ * OSTREL_INVALID_VALUE: the part matches none of the forms.
  */
 OSTREL_API int TcmValidatePPPUsername(const char* value, int* account_type);
 
@@ -53,28 +53,28 @@ OSTREL_API int TcmValidatePPPUsername(const char* value, int* account_type);
  * or OSTREL_FORBIDDEN_CHARACTER, in this order. character_sets.h defines the sets.
  */
 
-/* TcmValidatePPPPassword: 1 to 67 bytes of CHARSET_LATIN1_PRINTABLE. */
+/* TcmValidatePPPPassword: 1 to 67 bytes from CHARSET_LATIN1_PRINTABLE. */
 OSTREL_API int TcmValidatePPPPassword(const char* value);
 
-/* TcmValidateLANConfigPassword: 4 to 12 characters of CHARSET_NAME. */
+/* TcmValidateLANConfigPassword: 4 to 12 characters from CHARSET_NAME. */
 OSTREL_API int TcmValidateLANConfigPassword(const char* value);
 
-/* TcmValidateEmailPassword: 0 to 255 characters of CHARSET_NAME. */
+/* TcmValidateEmailPassword: 0 to 255 characters from CHARSET_NAME. */
 OSTREL_API int TcmValidateEmailPassword(const char* value);
 
-/* TcmValidateVoIPAnbietername: the VoIP provider's name, 1 to 32 characters of CHARSET_NAME. */
+/* TcmValidateVoIPAnbietername: the VoIP provider's name, 1 to 32 characters from CHARSET_NAME. */
 OSTREL_API int TcmValidateVoIPAnbietername(const char* value);
 
-/* TcmValidateVoIPNumber: 1 to 32 characters of CHARSET_DIGITS. */
+/* TcmValidateVoIPNumber: 1 to 32 characters from CHARSET_DIGITS. */
 OSTREL_API int TcmValidateVoIPNumber(const char* value);
 
-/* TcmValidateVoIPUsername: 1 to 64 characters of CHARSET_MAIL. */
+/* TcmValidateVoIPUsername: 1 to 64 characters from CHARSET_MAIL. */
 OSTREL_API int TcmValidateVoIPUsername(const char* value);
 
-/* TcmValidateVoIPPassword: 0 to 255 characters of CHARSET_NAME. */
+/* TcmValidateVoIPPassword: 0 to 255 characters from CHARSET_NAME. */
 OSTREL_API int TcmValidateVoIPPassword(const char* value);
 
-/* TcmValidateVoIPAreaCode: 1 to 6 characters of CHARSET_DIGITS. */
+/* TcmValidateVoIPAreaCode: 1 to 6 characters from CHARSET_DIGITS. */
 OSTREL_API int TcmValidateVoIPAreaCode(const char* value);
 
 /*

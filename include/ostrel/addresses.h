@@ -1,8 +1,8 @@
 /*
- * IPv4 and MAC addresses.
+ * Checks for IPv4 and MAC addresses.
  *
  * Every function returns 0 for a valid address and OSTREL_INVALID for any other value, including the empty
- * one. None changes its argument.
+ * one. No function changes its argument.
  */
 #ifndef OSTREL_ADDRESSES_H
 #define OSTREL_ADDRESSES_H
@@ -23,20 +23,21 @@ OSTREL_API int TcmValidateIPAddress(const char* value);
  * in either case, separated by ":".
  *
  * NULL is invalid. A value of any other length is invalid, and nothing is printed. Otherwise, if the first
- * fault is a character in the place of a ":", that character is written to standard output, without a newline
- * and without a flush. Nothing else is printed.
+ * fault is some other character where a ":" is required, that character is written to standard output,
+ * without a newline and without a flush. Nothing else is printed.
  */
 OSTREL_API int TcmValidateMACaddress(const char* value);
 
 /*
  * isValidOrdinaryMACAddress: an individual MAC address, in the notation of TcmValidateMACaddress.
  *
- * NULL is invalid. Like TcmValidateMACaddress, this function writes a character in the place of a ":" to
- * standard output and prints nothing for a value of any other length.
+ * NULL is invalid. Like TcmValidateMACaddress, this function writes a wrong separator to standard output, and
+ * prints nothing if the value does not have 17 characters.
  *
  * If the group bit (I/G, the lowest bit of the first octet, IEEE 802) is set, as in every multicast address
  * and in the broadcast address, "Broadcasting MAC address, invalid.\n" is printed, without a flush, and the
- * address is invalid. This test comes before any later character is examined. "00:00:00:00:00:00" is valid.
+ * address is invalid. This bit is tested before any later character is examined. "00:00:00:00:00:00" is
+ * valid.
  */
 OSTREL_API int isValidOrdinaryMACAddress(const char* value);
 

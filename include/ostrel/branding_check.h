@@ -1,9 +1,9 @@
 /*
- * Branding of the web portal.
+ * Checks for the branding of the web portal.
  *
  * value is a NUL-terminated byte string of any length; only Param_check_datetime_value accepts NULL. A check
  * that refuses a value writes one line to standard output and then flushes all output streams. The first %s
- * of the line is the name of the check.
+ * in the line is the name of the check.
  */
 #ifndef OSTREL_BRANDING_CHECK_H
 #define OSTREL_BRANDING_CHECK_H
@@ -11,11 +11,11 @@
 #include <ostrel/api.h>
 
 /*
- * The first eight checks limit only the length: they accept any bytes, and the empty value.
+ * The first eight checks limit only the length. They accept any bytes and the empty value.
  *
- * Returns 0, or prints "Error in %s: The length of string :%s shoud not be less than %d\n" with the value and
- * the limit, and returns OSTREL_TOO_LONG. The limit printed is one more than the greatest length that is
- * accepted; the message means "must be less than".
+ * Each returns 0, or prints "Error in %s: The length of string :%s shoud not be less than %d\n" with the
+ * value and the limit, and returns OSTREL_TOO_LONG. The limit printed is one more than the greatest length
+ * that is accepted, so the message means "must be less than".
  */
 
 /* Param_check_ispname_value: at most 31 bytes; the limit printed is 32. */
@@ -27,7 +27,7 @@ OSTREL_API int Param_check_helpdesk_value(const char* value);
 /* Param_check_page_value: at most 255 bytes; the limit printed is 256. */
 OSTREL_API int Param_check_page_value(const char* value);
 
-/* Param_check_logo_value: at most 5459 bytes, as the host encodes the logo; the limit printed is 5460. */
+/* Param_check_logo_value: at most 5459 bytes as encoded by the host; the limit printed is 5460. */
 OSTREL_API int Param_check_logo_value(const char* value);
 
 /* Param_check_logo_size_value: at most 4095 bytes; the limit printed is 4096. */
@@ -48,10 +48,10 @@ OSTREL_API int Param_check_pword_value(const char* value);
  *
  * Returns 0, or the code of the first test that fails, after printing its line:
  * OSTREL_OUT_OF_RANGE: the length is not 6 bytes:
- *   "Error in %s: The length of color :%s shoud not be equal to %d\n" with the value and 6, which means
- *   "must be";
+ *   "Error in %s: The length of color :%s shoud not be equal to %d\n" with the value and 6 (the message
+ *   means "must be equal to");
  * OSTREL_WRONG_FORM: a character is not a hexadecimal digit:
- *   "Error in %s: color :%s contain invalid char %c\n" with the value and the first such byte, unchanged.
+ *   "Error in %s: color :%s contain invalid char %c\n" with the value and the first such byte as it is.
  */
 OSTREL_API int Param_check_color_value(const char* value);
 
@@ -63,7 +63,7 @@ OSTREL_API int Param_check_color_value(const char* value);
  */
 OSTREL_API int Param_check_bool_value(const char* value);
 
-/* Param_check_datetime_value: always returns 0, even for NULL; the value is not examined. Silent. */
+/* Param_check_datetime_value: ignores the value, which may be NULL, prints nothing and returns 0. */
 OSTREL_API int Param_check_datetime_value(const char* value);
 
 #endif

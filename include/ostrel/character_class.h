@@ -1,8 +1,8 @@
 /*
- * The character-class table: the class mask of each byte, according to ISO 8859-1 (Latin-1).
+ * A table of character classes, with a mask of the classes of each byte according to ISO 8859-1 (Latin-1).
  *
- * Unlike <ctype.h> it does not depend on the locale, has no slot for EOF, and is indexed by the byte as an
- * unsigned char.
+ * Unlike <ctype.h>, the table does not depend on the locale, has no entry for EOF, and is indexed by the byte
+ * as an unsigned char.
  */
 #ifndef OSTREL_CHARACTER_CLASS_H
 #define OSTREL_CHARACTER_CLASS_H
@@ -16,15 +16,15 @@ enum ostrel_character_class {
     CT_CNTRL = 0x08,
     CT_PUNCT = 0x10,
     CT_SPACE = 0x20,
-    /* CT_XLETTER: A-F and a-f, always together with a letter bit; CT_DIGIT | CT_XLETTER is a hexadecimal
-       digit. */
+    /* CT_XLETTER: A-F and a-f, always together with CT_UPPER or CT_LOWER. A byte with CT_DIGIT or CT_XLETTER
+       is a hexadecimal digit. */
     CT_XLETTER = 0x40,
     CT_BLANK = 0x80
 };
 
 /*
- * ostrel_ctype: the classes of each byte. Read-only. The bytes 0x80 to 0x9F have no class, not even CT_CNTRL;
- * 0xA0 (no-break space) is CT_SPACE | CT_BLANK.
+ * ostrel_ctype: the classes of each byte; the table is read-only. The bytes 0x80 to 0x9F have no class, not
+ * even CT_CNTRL; 0xA0 (no-break space) is CT_SPACE | CT_BLANK.
  */
 OSTREL_API const unsigned char ostrel_ctype[256];
 

@@ -1,4 +1,4 @@
-/* Includes everything that libostrel_check.so exports. */
+/* Includes all public headers of libostrel_check.so. */
 #ifndef OSTREL_CHECK_H
 #define OSTREL_CHECK_H
 

@@ -1,5 +1,5 @@
 /*
- * Dates, times and time-zone offsets, in the compact and the extended notation of ISO 8601.
+ * Checks for dates, times and time-zone offsets in the compact and the extended notation of ISO 8601.
  *
  * Every function returns 0 or OSTREL_INVALID and prints nothing. value is a NUL-terminated byte string of any
  * length and must not be NULL; the empty value is invalid.
@@ -19,7 +19,7 @@
  * offset of a date-time must each be from 0 to 59.
  *
  * Differences from ISO 8601: the time is in extended notation in every form; hour 24 may have minutes and
- * seconds; day 0 is valid; the offset of a date-time may have any hours up to 59; "-00:00" is valid; "Z",
+ * seconds; day 0 is valid; the hours in the offset of a date-time may be up to 59; "-00:00" is valid; "Z",
  * fractions of a second and the second 60 are invalid.
  */
 #ifndef OSTREL_DATE_TIME_H
@@ -30,7 +30,7 @@
 /*
  * ValidateDay: a date of the Gregorian calendar, which is applied to every year, including negative ones.
  *
- * month: 1 to 12; any other number is refused. A negative number is converted to a huge one.
+ * month: 1 to 12; any other number is refused. A negative number is converted to a very large one.
  * day:   at most the length of the month. There is no lower bound: 0 and negative days are valid.
  */
 OSTREL_API int ValidateDay(int year, unsigned month, int day);
@@ -44,7 +44,7 @@ OSTREL_API int TcmValidateTime(const char* value);
  */
 OSTREL_API int TcmValidateDaylightSavingsTime(const char* value);
 
-/* TcmValidateTimeZoneFormate: a time-zone offset of "-12:59" to "+12:59". */
+/* TcmValidateTimeZoneFormate: a time-zone offset from "-12:59" to "+12:59". */
 OSTREL_API int TcmValidateTimeZoneFormate(const char* value);
 
 #endif

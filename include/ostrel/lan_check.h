@@ -1,16 +1,16 @@
 /*
- * LAN checks: the gateway's interface on the LAN, its DHCP service (RFC 2131), and checks that edit lists.
+ * Checks for the gateway's LAN interface and its DHCP service (RFC 2131), and checks that edit lists.
  *
  * Values are NUL-terminated byte strings of any length; only LAN_check_add_allowedMACAddress changes one. A
  * check that refuses a value writes one line to standard output and flushes all output streams. The line
  * begins with "Error in <its own name>: " and ends in two newlines. A check that accepts a value prints
  * nothing unless stated otherwise.
  *
- * Each check with one argument, except LAN_check_passthrough_MAC_address, asserts that it is not NULL. In
- * every build type, the C library's assertion hook reports a NULL value and ends the process. It reports the
- * condition "value_p != ((void *)0)", the module "lan_check", the name of the check and the source line. A
- * check with several arguments does not assert, and none of its arguments may be NULL unless stated
- * otherwise.
+ * Each check with one argument, except LAN_check_passthrough_MAC_address, asserts that the argument is not
+ * NULL. In every build type, the C library's assertion hook reports a NULL value and ends the process. The
+ * report contains the condition "value_p != ((void *)0)", the module "lan_check", the name of the check and
+ * the source line. A check with several arguments does not assert, and none of its arguments may be NULL
+ * unless stated otherwise.
  */
 #ifndef OSTREL_LAN_CHECK_H
 #define OSTREL_LAN_CHECK_H

@@ -1,6 +1,6 @@
 /*
- * Names: the transport protocol and the description of a port mapping, and the names of devices and of the
- * router.
+ * Checks for the transport protocol and the description of a port mapping, and for the names of devices and
+ * of the router.
  *
  * The functions print nothing, keep no state and do not change their arguments. No pointer may be NULL.
  * Lengths count bytes; character_sets.h defines the sets.
@@ -22,16 +22,16 @@ OSTREL_API int TcmValidatePortMappingProtocol(const char* value);
  * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, in this order.
  */
 
-/* TcmValidatePortMappingDescription: 1 to 32 characters of CHARSET_DESCRIPTION: 0x20 to 0x7E. */
+/* TcmValidatePortMappingDescription: 1 to 32 characters from CHARSET_DESCRIPTION (0x20 to 0x7E). */
 OSTREL_API int TcmValidatePortMappingDescription(const char* value);
 
 /*
- * TCM_validate_device_name: 1 to maxLength characters of CHARSET_DEVICE_NAME: 0x20 to 0x7E. With a maxLength
- * below 1 every value except the empty one is too long.
+ * TCM_validate_device_name: 1 to maxLength characters from CHARSET_DEVICE_NAME (0x20 to 0x7E). If maxLength
+ * is below 1, every value except the empty one is too long.
  */
 OSTREL_API int TCM_validate_device_name(const char* value, int maxLength);
 
-/* TcmValidateRouterName: 1 to 22 characters of CHARSET_ROUTER_NAME, which contains neither space nor ".". */
+/* TcmValidateRouterName: 1 to 22 characters from CHARSET_ROUTER_NAME (no space and no "."). */
 OSTREL_API int TcmValidateRouterName(const char* value);
 
 #endif

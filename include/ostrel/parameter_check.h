@@ -1,14 +1,14 @@
 /*
- * Generic parameter checks: values of common shapes.
+ * Generic checks for common kinds of parameters.
  *
  * value_p is the value, a NUL-terminated byte string of any length; no check changes it. A check that prints
  * writes one line to standard output when it refuses a value, and then flushes all output streams. The line
- * begins with "Error in <its own name>: ". The output of a wrapped primitive is not flushed.
+ * begins with "Error in <its own name>: ". Output from a primitive that a check calls is not flushed.
  *
- * If a NULL value is said to fail an assertion, then in every build type the C library's assertion hook
- * reports it and ends the process. It reports the condition "value_p != ((void *)0)" unless stated otherwise,
- * the module "parameter_check" and the name of the check. If neither an assertion nor a result for NULL is
- * stated, value_p must not be NULL.
+ * Where a NULL value is documented to fail an assertion, the C library's assertion hook reports it and ends
+ * the process, in every build type. The report contains the condition "value_p != ((void *)0)" unless stated
+ * otherwise, the module "parameter_check" and the name of the check. If neither an assertion nor a result is
+ * stated for NULL, value_p must not be NULL.
  */
 #ifndef OSTREL_PARAMETER_CHECK_H
 #define OSTREL_PARAMETER_CHECK_H
@@ -18,7 +18,7 @@
 /*
  * Param_check_string_len: a length of min_len to max_len bytes, compared as signed numbers.
  *
- * A NULL value fails an assertion, with the condition "((void *)0) != value_p". Returns 0, or the code of the
+ * A NULL value fails an assertion with the condition "((void *)0) != value_p". Returns 0, or the code of the
  * first test that fails, after printing its line:
  * OSTREL_TOO_SHORT:
  *   "Error in %s: The length of string:%s shoud not be less than %d\n" with the value and min_len;
@@ -29,8 +29,8 @@
 OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_len);
 
 /*
- * PARAM_check_port: a port number of 0 to 65535 as atoi reads it: a string without a number is 0, and
- * characters after the digits are ignored, so "abc", "80abc" and the empty value are accepted.
+ * PARAM_check_port: a port number from 0 to 65535 as atoi reads it. A string without a number is read as 0,
+ * and characters after the digits are ignored, so "abc", "80abc" and the empty value are accepted.
  *
  * A NULL value fails an assertion. Returns 0, or prints "Error in %s: The port shoud be between 0~65535\n"
  * and returns OSTREL_OUT_OF_RANGE.
@@ -38,7 +38,7 @@ OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_
 OSTREL_API int PARAM_check_port(const char* value_p);
 
 /*
- * PARAM_check_ip_addr: an IPv4 address; see TcmValidateIPAddress. Silent.
+ * PARAM_check_ip_addr: an IPv4 address; see TcmValidateIPAddress. Prints nothing.
  *
  * Returns 0 or OSTREL_INVALID_VALUE.
  */
@@ -70,19 +70,19 @@ OSTREL_API int PARAM_check_transport_protocol(const char* value_p);
 /*
  * PARAM_get_protocol_from_name: the number of a protocol: 0 for "TCP", 1 for "UDP", 2 for anything else.
  *
- * Unlike PARAM_check_transport_protocol, it compares case-sensitively: "tcp" is 2. Silent.
+ * Unlike PARAM_check_transport_protocol, it is case-sensitive: the result for "tcp" is 2. Prints nothing.
  */
 OSTREL_API int PARAM_get_protocol_from_name(const char* value_p);
 
 /*
- * PARAM_check_hexa_string: only hexadecimal digits, in either case. The empty value is valid. Silent.
+ * PARAM_check_hexa_string: only hexadecimal digits, in either case. The empty value is valid. Prints nothing.
  *
  * A NULL value fails an assertion. Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int PARAM_check_hexa_string(const char* value_p);
 
 /*
- * PARAM_check_printable_ascii_string: one or more bytes, each of 0x20 to 0x7E. Silent.
+ * PARAM_check_printable_ascii_string: one or more bytes, each from 0x20 to 0x7E. Prints nothing.
  *
  * Returns 0 or OSTREL_INVALID. The empty value and NULL are invalid.
  */
@@ -99,8 +99,8 @@ OSTREL_API int PARAM_check_provisioning_code(const char* value_p);
 /*
  * PARAM_check_ui2_value, PARAM_check_ui4_value: an unsigned integer of two or four bytes.
  *
- * FOR A VALUE THAT BEGINS WITH A DIGIT THEY NEVER RETURN. The empty value is accepted, and any other is
- * refused.
+ * FOR A VALUE THAT BEGINS WITH A DIGIT, THEY NEVER RETURN. The empty value is accepted, and any other value
+ * is refused.
  *
  * A NULL value fails an assertion. Both return 0, or print "Error in %s: The value %s is invalid\n" with the
  * value and return OSTREL_INVALID_VALUE. The lines for a number out of range,
@@ -127,7 +127,7 @@ OSTREL_API int PARAM_check_bool_value(const char* value_p);
 OSTREL_API int PARAM_check_bool_value_use_str(const char* value_p);
 
 /*
- * PARAM_check_number: min_len to max_len decimal digits. The limits are lengths, not values. Silent.
+ * PARAM_check_number: min_len to max_len decimal digits. The limits are lengths, not values. Prints nothing.
  *
  * Returns what ValidateString returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
  */
@@ -135,14 +135,14 @@ OSTREL_API int PARAM_check_number(const char* value_p, int min_len, int max_len)
 
 /*
  * PARAM_check_num_range: decimal digits that form a number from min to max. The empty value is read as 0.
- * Silent.
+ * Prints nothing.
  *
  * Returns what ValidateNum returns: 0, OSTREL_FORBIDDEN_CHARACTER or OSTREL_OUT_OF_RANGE.
  */
 OSTREL_API int PARAM_check_num_range(const char* value_p, int min, int max);
 
 /*
- * PARAM_check_password: min_len to max_len characters of CHARSET_ALNUM. Silent.
+ * PARAM_check_password: min_len to max_len characters from CHARSET_ALNUM. Prints nothing.
  *
  * Returns what ValidateString returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
  */
@@ -150,15 +150,15 @@ OSTREL_API int PARAM_check_password(const char* value_p, int min_len, int max_le
 
 /*
  * PARAM_check_string_len: a length of min_len to max_len bytes, compared as unsigned numbers: a negative
- * limit becomes a huge one. Silent.
+ * limit becomes a very large one. Prints nothing.
  *
  * Returns 0 or OSTREL_INVALID. Param_check_string_len compares signed numbers and prints.
  */
 OSTREL_API int PARAM_check_string_len(const char* value_p, unsigned min_len, unsigned max_len);
 
 /*
- * PARAM_check_string_prefix: the first byte must be one of first_chars, which must not be NULL. The empty
- * value is accepted. Silent.
+ * PARAM_check_string_prefix: the first byte must occur in first_chars, which must not be NULL. The empty
+ * value is accepted. Prints nothing.
  *
  * A NULL value fails an assertion. Returns 0 or OSTREL_INVALID.
  */
@@ -169,8 +169,8 @@ OSTREL_API int PARAM_check_string_prefix(const char* value_p, const char* first_
  * digits only.
  *
  * Returns 0, or:
- * OSTREL_OUT_OF_RANGE: the value is NULL or empty, or its number overflows to a negative one, and nothing is
- *   printed; or a character is not a digit, after printing
+ * OSTREL_OUT_OF_RANGE: the value is NULL or empty, or its number overflows to a negative one (nothing is
+ *   printed in these cases); or a character is not a digit, after printing
  *   "Error in %s: The value %s is invalid\n" with the value;
  * OSTREL_WRONG_FORM: the number is 0, and nothing is printed;
  * OSTREL_BUFFER_SIZE_TOO_LARGE: the number is above 1048576, after printing

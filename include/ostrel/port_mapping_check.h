@@ -1,14 +1,14 @@
 /*
- * Port mapping checks: the parameters of forwarding a WAN port to a host on the LAN.
+ * Checks for port mappings, which forward a WAN port to a host on the LAN.
  *
  * Only permanent mappings of one external port that are open to every remote host are supported. Values are
  * NUL-terminated byte strings of any length; no check changes them. A check that refuses a value writes the
- * stated lines to standard output and flushes all output streams after each. The first %s of a line is the
+ * stated lines to standard output and flushes all output streams after each. The first %s in a line is the
  * name of the check unless stated otherwise. A check that accepts a value prints nothing.
  *
- * Only PORTMAPPING_check_port_available asserts: in every build type, the C library's assertion hook reports
- * a NULL value and ends the process. It reports the condition "value_p != ((void *)0)", the module
- * "port_mapping_check" and the source line.
+ * Only PORTMAPPING_check_port_available asserts that its value is not NULL. In every build type, the C
+ * library's assertion hook reports a NULL value and ends the process. The report contains the condition
+ * "value_p != ((void *)0)", the module "port_mapping_check" and the source line.
  */
 #ifndef OSTREL_PORT_MAPPING_CHECK_H
 #define OSTREL_PORT_MAPPING_CHECK_H
@@ -29,23 +29,23 @@ OSTREL_API int PORTMAPPING_check_remote_host(const char* value_p);
  * Returns 0, or:
  * OSTREL_WILDCARD_EXTERNAL_PORT: NULL or the empty value, after printing
  *   "Error in %s: The remote host should not be wildcard\n", which refers to the port;
- * OSTREL_OUT_OF_RANGE: PARAM_check_port refuses the port and prints its line, with its own name.
+ * OSTREL_OUT_OF_RANGE: PARAM_check_port refuses the port and prints its line under its own name.
  */
 OSTREL_API int PORTMAPPING_check_external_port(const char* value_p);
 
 /*
  * PORTMAPPING_check_port_available: a WAN port that the gateway does not reserve for its own services.
  *
- * port:     the number as atoi reads it; a string without a number is port 0, which is free. With
- *           protocol 0 or 1, a NULL port fails an assertion that reports the function is_port_reserved or
- *           is_wan_udp_port_available, respectively; with any other protocol, port may be NULL.
+ * port:     the number as atoi reads it; a string without a number is read as port 0, which is not reserved.
+ *           With protocol 0 or 1, a NULL port fails an assertion that reports the function is_port_reserved
+ *           or is_wan_udp_port_available, respectively; with any other protocol, port may be NULL.
  * protocol: 0 for TCP, 1 for UDP; with any other number, every port is accepted.
  *
  * The reserved ports are the TCP ports 80, 161, 443, 1723, 1728, 6667 and 7547, and the UDP ports 161, 5060,
- * and 54000 to 54999 (for the media of the voice service).
+ * and 54000 to 54999 (used for voice media).
  *
  * Returns 0, or prints two lines with the port and returns OSTREL_INVALID_VALUE. The first line has the name
- * of the function that finds the port reserved:
+ * of the function that found the port to be reserved:
  *   "Error in is_port_reserved: The port:%s is reserved\n" or
  *   "Error in is_wan_udp_port_available: The udp port:%s is reserved sip rtp ports\n".
  * The second line has the name of the check:
@@ -55,7 +55,7 @@ OSTREL_API int PORTMAPPING_check_port_available(const char* port, int protocol);
 
 /*
  * PORTMAPPING_check_description: a description that TcmValidatePortMappingDescription accepts: 1 to 32
- * characters, each of 0x20 to 0x7E. value_p must not be NULL.
+ * characters, each from 0x20 to 0x7E. value_p must not be NULL.
  *
  * Returns 0, or prints "Error in %s: Error port mapping description:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
@@ -64,7 +64,7 @@ OSTREL_API int PORTMAPPING_check_description(const char* value_p);
 
 /*
  * PORTMAPPING_check_lease_duration: a lease of 0 seconds as atoi reads it, which means a permanent mapping; a
- * string without a number is 0. value_p must not be NULL.
+ * string without a number is read as 0. value_p must not be NULL.
  *
  * Returns 0, or prints "Error in %s: The port mapping lease should be zero\n" and returns
  * OSTREL_LEASE_NOT_PERMANENT.

@@ -1,5 +1,5 @@
 /*
- * PPP connection checks: the parameters of the WAN connection (PPP, RFC 1661; PPPoE, RFC 2516).
+ * Checks for the parameters of the WAN connection (PPP, RFC 1661; PPPoE, RFC 2516).
  *
  * value is a NUL-terminated byte string of any length and must not be NULL; no check changes it. A check that
  * refuses a value writes one line to standard output and flushes all output streams. The line begins with
@@ -28,7 +28,7 @@ OSTREL_API int PPP_check_connection_type(const char* value);
 OSTREL_API int PPP_check_user_name(const char* value);
 
 /*
- * PPP_check_tonline_password: the password of a T-Online account: 1 to 8 bytes of CHARSET_LATIN1_PRINTABLE.
+ * PPP_check_tonline_password: the password of a T-Online account, 1 to 8 bytes from CHARSET_LATIN1_PRINTABLE.
  *
  * Returns 0, or prints "Error in %s: Error ppp T-Online password:%s\n\n" with the value and returns
  * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
@@ -74,8 +74,8 @@ OSTREL_API int PPP_check_idle_disconnect_time(const char* value);
 OSTREL_API int PPP_check_route_protocol_rx(const char* value);
 
 /*
- * PPP_check_shaping_rate: a number of -1 or more as atoi reads it; a string without a number is 0, so the
- * empty value is accepted. The host defines the unit.
+ * PPP_check_shaping_rate: a number of -1 or more as atoi reads it; a string without a number is read as 0, so
+ * the empty value is accepted. The host defines the unit.
  *
  * Returns 0, or prints "Error in %s: Error shaping rate:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.

@@ -1,8 +1,8 @@
 /*
- * Time service: the time zone, daylight saving and the NTP server.
+ * Checks for the time zone, daylight saving and the NTP server.
  *
  * Values are NUL-terminated byte strings of any length and must not be NULL. A check that refuses a value
- * writes a line to standard output and then flushes all output streams. The first %s of the line is the name
+ * writes a line to standard output and then flushes all output streams. The first %s in the line is the name
  * of the check unless stated otherwise. If two lines are stated, the first is printed by the test that
  * failed.
  */
@@ -13,9 +13,9 @@
 
 /*
  * Time_validate_tzone_and_tzone_name: checks that an offset and the name of a time zone agree, or fills in
- * the one that is empty. The built-in table has 75 rows of an offset ("-12:00" to "+12:00"; the zero offset
- * is "-00:00") and a name. It is searched from the top, and the first row that matches is used; comparisons
- * are case-sensitive.
+ * the one that is empty. The built-in table has 75 rows, each with an offset ("-12:00" to "+12:00"; the zero
+ * offset is "-00:00") and a name. It is searched from the top, and the first row that matches is used;
+ * comparisons are case-sensitive.
  *
  * tzone:      a caller-owned buffer, of at least 7 bytes if it may be filled in.
  * tzone_name: a caller-owned buffer, of at least 55 bytes if it may be filled in.
@@ -42,8 +42,8 @@
 OSTREL_API int Time_validate_tzone_and_tzone_name(char* tzone, char* tzone_name);
 
 /*
- * TIME_check_sync_daylight_saving_time: the start and the end of daylight saving must be both empty or both
- * set; their contents are not examined.
+ * TIME_check_sync_daylight_saving_time: the start and the end of daylight saving must either both be empty or
+ * both be set; their contents are not examined.
  *
  * Returns 0, or prints
  * "Error in %s: DaylightSavingsStart :%s and DaylightSavingsEnd :%s should be set none or both\n" with start
@@ -54,8 +54,7 @@ OSTREL_API int TIME_check_sync_daylight_saving_time(const char* start, const cha
 /*
  * TIME_check_local_time_zone: a time-zone offset; see TcmValidateTimeZoneFormate.
  *
- * If the value is empty or not printable, the line of TIME_check_ascii_string is printed, but the value is
- * accepted.
+ * If the value is empty or not printable, TIME_check_ascii_string prints its line, but the value is accepted.
  *
  * Returns 0, or prints two lines and returns OSTREL_INVALID_VALUE:
  *   "Error in check_timezone_formate: %s is not validate timezone formate\n" with the value and
@@ -66,8 +65,7 @@ OSTREL_API int TIME_check_local_time_zone(const char* value);
 /*
  * TIME_check_local_time_zone_name: at most 63 characters; the name is not looked up.
  *
- * If the value is empty or not printable, the line of TIME_check_ascii_string is printed, but the value is
- * accepted.
+ * If the value is empty or not printable, TIME_check_ascii_string prints its line, but the value is accepted.
  *
  * Returns 0, or prints "Error in %s: Failed check local timezone name.\n\n" and returns OSTREL_INVALID_VALUE.
  */
@@ -77,8 +75,7 @@ OSTREL_API int TIME_check_local_time_zone_name(const char* value);
  * TIME_check_daylight_saving_start_or_end: a date-time, or a switch-over without a year; see
  * TcmValidateDaylightSavingsTime.
  *
- * If the value is empty or not printable, the line of TIME_check_ascii_string is printed, but the value is
- * accepted.
+ * If the value is empty or not printable, TIME_check_ascii_string prints its line, but the value is accepted.
  *
  * Returns 0, or prints two lines and returns OSTREL_INVALID_VALUE:
  *   "Error in check_daylight_saving_time: %s is not validate daylight saving time\n" with the value and
@@ -103,7 +100,7 @@ OSTREL_API int TIME_check_ntpserver_length(const char* value);
 OSTREL_API int TIME_check_url(const char* value);
 
 /*
- * TIME_check_ascii_string: one or more bytes, each of 0x20 to 0x7E.
+ * TIME_check_ascii_string: one or more bytes, each from 0x20 to 0x7E.
  *
  * Returns 0, or prints "Error in %s: %s is not printable ascii string\n" with the value and returns
  * OSTREL_INVALID.
@@ -111,10 +108,10 @@ OSTREL_API int TIME_check_url(const char* value);
 OSTREL_API int TIME_check_ascii_string(const char* value);
 
 /*
- * TIME_check_NTP_server: calls TIME_check_ntpserver_length and, if that returns 0, TIME_check_url. Their
- * lines have their own names.
+ * TIME_check_NTP_server: calls TIME_check_ntpserver_length and, if that returns 0, TIME_check_url. Each
+ * prints its line under its own name.
  *
- * Returns the first result that is not 0, OSTREL_OUT_OF_RANGE or OSTREL_INVALID_VALUE, and 0 otherwise.
+ * Returns 0, or the first other result, which is OSTREL_OUT_OF_RANGE or OSTREL_INVALID_VALUE.
  */
 OSTREL_API int TIME_check_NTP_server(const char* value);
 

@@ -1,5 +1,5 @@
 /*
- * Wireless primitives: the keys, rates, beacon type and SSID of a wireless LAN.
+ * Primitives that check the keys, rates, beacon type and SSID of a wireless LAN.
  *
  * Values are NUL-terminated byte strings of any length; none may be NULL and none is changed. Every
  * comparison is byte by byte and case-sensitive. Only TcmValidateSSID prints.
@@ -10,7 +10,7 @@
 #include <ostrel/api.h>
 
 /*
- * TcmValueisValid: every byte of the value must be one of allowed, which may be empty but not NULL.
+ * TcmValueisValid: every byte of the value must occur in allowed, which may be empty but not NULL.
  *
  * Returns 0 or OSTREL_FORBIDDEN_CHARACTER. The empty value is valid.
  */
@@ -30,7 +30,8 @@ OSTREL_API int TcmValidatePSK(const char* value);
  * CHARSET_ASCII_PRINTABLE.
  *
  * Returns 0, or the code of the first test that fails: OSTREL_TOO_SHORT (also for the empty value),
- * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER. Both lengths are tested before any character is examined.
+ * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER. Both limits on the length are tested before any character is
+ * examined.
  */
 OSTREL_API int TcmValidateKPP(const char* value);
 
@@ -50,11 +51,11 @@ OSTREL_API int TcmValidateRate(const char* value);
 OSTREL_API int TcmValidateBeaconType(const char* value);
 
 /*
- * TcmValidateSSID: an SSID of 1 to 32 bytes (IEEE 802.11, SSID element), each of 0x20 to 0x7E. Spaces are
- * allowed anywhere; every byte of 0x80 or above is refused.
+ * TcmValidateSSID: an SSID of 1 to 32 bytes (IEEE 802.11, SSID element), each from 0x20 to 0x7E. Spaces are
+ * allowed anywhere. Every byte above 0x7E is refused.
  *
- * Every call, whatever it returns, prints "Info in %s: The lenght of SSID is %d\n\n" with TcmValidateSSID and
- * the length in bytes to standard output and flushes all output streams.
+ * Every call, regardless of its result, prints "Info in %s: The lenght of SSID is %d\n\n" with the name
+ * TcmValidateSSID and the length in bytes to standard output, and flushes all output streams.
  *
  * Returns 0, or the code of the first test that fails: OSTREL_TOO_SHORT for the empty value, OSTREL_TOO_LONG
  * or OSTREL_FORBIDDEN_CHARACTER. The length is tested before any byte is examined.

@@ -1,5 +1,5 @@
 /*
- * LAN checks: the interface, the DHCP service and other settings.
+ * Checks for the LAN interface, the DHCP service and other LAN settings.
  *
  * <ostrel/lan_check.h> describes what all LAN checks have in common.
  */
@@ -25,7 +25,7 @@ OSTREL_API int LAN_check_ipinterface_enabled(const char* value_p);
 OSTREL_API int LAN_check_ip_router(const char* value_p);
 
 /*
- * LAN_check_interface_subnet_mask: exactly "255.255.255.0". LAN_check_subnet_mask allows more.
+ * LAN_check_interface_subnet_mask: exactly "255.255.255.0". LAN_check_subnet_mask also allows other masks.
  *
  * Returns 0, or prints "Error in %s: Error ip interface subnet mask:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
@@ -52,7 +52,7 @@ OSTREL_API int LAN_check_domain_name(const char* value_p);
  * LAN_check_dhcp_addr_range: the address pool of the DHCP server; see TcmValidateAddressRange.
  *
  * Always prints "Info in %s: Check dhcp addr range: start ip%s, end ip:%s, lan ip:%s\n\n" with the three
- * arguments, and flushes.
+ * arguments, and flushes all output streams.
  *
  * Returns 0, or prints "Error in %s: Error dhcp addr range: start ip%s, end ip:%s\n\n" with startAddress and
  * endAddress, and returns OSTREL_INVALID_VALUE.
@@ -71,7 +71,8 @@ OSTREL_API int LAN_check_dns_servers(const char* value_p);
 /*
  * LAN_check_dhcp_reserved_addr: the addresses reserved for certain stations; see TcmValidateReservedAddress.
  *
- * Always prints "Info in %s: Dhcp reserved addr: %s, lan ip:%s\n\n" with both arguments, and flushes.
+ * Always prints "Info in %s: Dhcp reserved addr: %s, lan ip:%s\n\n" with both arguments, and flushes all
+ * output streams.
  *
  * Returns 0, or prints "Error in %s: Error dhcp reserved addr: %s\n\n" with the list and returns
  * OSTREL_INVALID_VALUE if an item is in another subnet, or OSTREL_REPEATED.
@@ -112,15 +113,15 @@ OSTREL_API int LAN_check_use_allocated_wan(const char* value_p);
 OSTREL_API int LAN_check_associated_connection(const char* value_p);
 
 /*
- * LAN_check_passthrough_lease: a number of 0 to 65535 as atoi reads it; a string without a number is 0. The
- * host defines the unit.
+ * LAN_check_passthrough_lease: a number from 0 to 65535 as atoi reads it; a string without a number is read
+ * as 0. The host defines the unit.
  *
  * Returns 0, or prints "Error in %s: Error passthrough lease:%s\n\n" with the value and returns
  * OSTREL_INVALID.
  */
 OSTREL_API int LAN_check_passthrough_lease(const char* value_p);
 
-/* LAN_check_passthrough_MAC_address: always returns 0, even for NULL; the value is not read. Silent. */
+/* LAN_check_passthrough_MAC_address: ignores the value, which may be NULL, prints nothing and returns 0. */
 OSTREL_API int LAN_check_passthrough_MAC_address(const char* value);
 
 /*
@@ -132,7 +133,7 @@ OSTREL_API int LAN_check_passthrough_MAC_address(const char* value);
 OSTREL_API int LAN_check_subnet_mask(const char* value_p);
 
 /*
- * LAN_check_cis_dev_name: 1 to 15 characters of CHARSET_CIS_NAME. The first must be a letter.
+ * LAN_check_cis_dev_name: 1 to 15 characters from CHARSET_CIS_NAME. The first must be a letter.
  *
  * Returns 0, or the code of the first test that fails, after printing its line:
  * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER (also for "_"):

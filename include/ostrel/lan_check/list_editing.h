@@ -1,5 +1,5 @@
 /*
- * LAN checks that edit lists.
+ * Checks for editing lists of MAC addresses and DNS servers on the LAN.
  *
  * <ostrel/lan_check.h> describes what all LAN checks have in common.
  */
@@ -9,20 +9,20 @@
 #include <ostrel/api.h>
 
 /*
- * LAN_check_add_allowedMACAddress: adds one or more stations to the list of those that are allowed on the
- * LAN. If the list is empty, it copies macAddress into it WITHOUT A BOUNDS CHECK AND WITHOUT A TERMINATOR.
+ * LAN_check_add_allowedMACAddress: adds one or more stations to the list of stations that are allowed on the
+ * LAN. If the list is empty, macAddress is copied into it WITHOUT A BOUNDS CHECK AND WITHOUT A TERMINATOR.
  *
- * macAddress:  one MAC address of 17 characters, or several, separated by one character each. Only the
- *              length is checked, and only if the list is not empty: it must be 18 times the number of
- *              addresses, minus 1.
+ * macAddress:  one MAC address of 17 characters, or several with one character between them. Their form is
+ *              not validated. If the list is not empty, the length of macAddress must be 18 times the number
+ *              of addresses, minus 1.
  * allowedList: the list, in a caller-owned buffer of at least 161 bytes: 160 characters and the terminator.
- *              If it is empty, macAddress is copied into it whatever its length: the buffer must be filled
- *              with zeros and be at least one byte longer than macAddress. Otherwise ",", macAddress and a
- *              terminator are appended. The buffer changes only if 0 is returned.
+ *              If it is empty, macAddress is copied into it regardless of its length, so the buffer must be
+ *              filled with zeros and be at least one byte longer than macAddress. Otherwise ",", macAddress
+ *              and a terminator are appended. The buffer changes only if 0 is returned.
  *
- * Returns 0 or OSTREL_INVALID. If either pointer is NULL, nothing is printed. Otherwise the line of the first
- * test that fails is printed:
- *   macAddress occurs anywhere in the list (the empty string always does):
+ * Returns 0 or OSTREL_INVALID. If either pointer is NULL, returns OSTREL_INVALID and prints nothing.
+ * Otherwise, prints the line of the first test that fails: macAddress occurs anywhere in the list (the empty
+ *   string always does):
  *     "Error in %s: Add existed mac address: %s to %s\n\n" with the address and the list;
  *   the length of macAddress is wrong:
  *     "Error in %s: Add mac address invalid length: %s\n\n" with the address;
@@ -44,9 +44,9 @@ OSTREL_API int LAN_check_add_allowedMACAddress(const char* macAddress, char* all
  * "Error in %s: New dns servers: %s and %s\n\n" for the new one, each with the second server before the
  * first.
  *
- * Returns 0, or OSTREL_REPEATED, for which no further line is printed, if one of two new servers equals an
- * existing one, or if a single new server equals the whole existing list. A single new server is therefore
- * never reported as a repetition of one of two.
+ * Returns OSTREL_REPEATED if one of two new servers equals an existing one, or if a single new server equals
+ * the whole existing list; otherwise returns 0. No further line is printed in either case. A single new
+ * server is therefore never reported as repeated if two servers exist.
  */
 OSTREL_API int LAN_check_add_dns_servers(const char* newServers, const char* existingServers);
 
@@ -54,9 +54,9 @@ OSTREL_API int LAN_check_add_dns_servers(const char* newServers, const char* exi
  * LAN_check_delete_dns_server: checks whether a DNS server may be deleted from a list of one or two.
  *
  * The server may be deleted if it equals the text after the first "," of the list, or if it is as long as the
- * first (or only) server AND DIFFERS from it. Consequently the first server itself is not found unless it is
- * also the second, and neither is an address of another length that is not the second. In an empty list, no
- * server is found.
+ * first (or only) server AND DIFFERS from it. Consequently, the first server itself is found only if it is
+ * also the second, and an address of a different length only if it is the second. In an empty list, no server
+ * is found.
  *
  * Returns 0, or the code of the first test that fails, after printing its line:
  * OSTREL_INVALID_VALUE: serverAddress is not an IPv4 address (see TcmValidateIPAddress):

@@ -1,5 +1,5 @@
 /*
- * Guest access.
+ * Checks for guest access.
  *
  * <ostrel/mgtserver_check.h> describes what these checks have in common.
  */
@@ -9,10 +9,10 @@
 #include <ostrel/api.h>
 
 /*
- * GUESTACCESS_check_max_allowed_number: the number of guests that are allowed: 1 or 2 digits; the number must
- * be greater than 0.
+ * GUESTACCESS_check_max_allowed_number: the number of guests that are allowed, which must have 1 or 2 digits
+ * and be greater than 0.
  *
- * Returns 0, or prints one line or both and returns the code of the last one:
+ * Returns 0, or prints one or both of these lines and returns the code for the last one printed:
  * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, as ValidateString returns them:
  *   "Error in %s: Error max allowed number:%s\n\n" with the value;
  * OSTREL_INVALID_VALUE: the number that atoi reads is not greater than 0:
@@ -22,11 +22,11 @@
 OSTREL_API int GUESTACCESS_check_max_allowed_number(const char* value);
 
 /*
- * GUESTACCESS_check_password: 4 to 32 characters of CHARSET_ALNUM.
+ * GUESTACCESS_check_password: 4 to 32 characters from CHARSET_ALNUM.
  *
  * Returns what ValidateString returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER. If
- * that is not 0, prints "Error in %s: Error max allowed number:%s\n\n" with the value: the line says "number"
- * here too.
+ * that is not 0, prints "Error in %s: Error max allowed number:%s\n\n" with the value, although the value is
+ * not a number.
  */
 OSTREL_API int GUESTACCESS_check_password(const char* value);
 

@@ -1,5 +1,5 @@
 /*
- * The HNAP core.
+ * Checks for the HNAP core.
  *
  * <ostrel/mgtserver_check.h> describes what these checks have in common.
  */
@@ -9,20 +9,21 @@
 #include <ostrel/api.h>
 
 /*
- * HNAPCORE_check_username: the name of the administrator, 1 to 16 bytes of CHARSET_LATIN1_PRINTABLE.
+ * HNAPCORE_check_username: the administrator's name, 1 to 16 bytes from CHARSET_LATIN1_PRINTABLE.
  *
  * Returns what ValidateString returns: 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER. If
- * that is not 0, prints "Error in %s: Error max allowed number:%s\n\n" with the value: the line says "number"
- * here too.
+ * that is not 0, prints "Error in %s: Error max allowed number:%s\n\n" with the value, although the value is
+ * not a number.
  */
 OSTREL_API int HNAPCORE_check_username(const char* value);
 
 /*
- * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, followed by any text. Silent.
+ * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, followed by any text. Prints
+ * nothing.
  *
- * offset_out: a caller-owned buffer that receives the text after "UTC" and its terminator, or "+00:00" if
- *             there is none. It must have room for that text, and for at least 7 bytes. The text after "UTC"
- *             is not examined. The buffer is unchanged on failure and must not overlap the value.
+ * offset_out: a caller-owned buffer that receives the text after "UTC", or "+00:00" if there is none, and a
+ *             terminator. It must have room for both, and at least 7 bytes. The text after "UTC" is not
+ *             examined. The buffer is unchanged on failure and must not overlap the value.
  *
  * Returns 0 or OSTREL_INVALID.
  */
@@ -30,7 +31,7 @@ OSTREL_API int HNAPCORE_check_timezone(const char* value, char* offset_out);
 
 /*
  * HNAPCORE_check_locale: a locale of the user interface, in any mixture of upper and lower case: en-us,
- * fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl or th-th (tags of RFC 5646). Silent.
+ * fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl or th-th (RFC 5646 tags). Prints nothing.
  *
  * Returns 0 or OSTREL_INVALID.
  */

@@ -1,5 +1,5 @@
 /*
- * The management server.
+ * Checks for the management server.
  *
  * <ostrel/mgtserver_check.h> describes what these checks have in common.
  */
@@ -20,8 +20,8 @@ OSTREL_API int MGTSERVER_check_server_url(const char* value_p);
  * MGTSERVER_check_firmware_url: the URL of a firmware image; see TcmValidatefirmwareURL.
  *
  * A NULL value fails an assertion that reports line 75. Returns 0, or prints
- * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE. The line says
- * "server url" here too.
+ * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE. The message
+ * contains "server url" here too.
  */
 OSTREL_API int MGTSERVER_check_firmware_url(const char* value_p);
 
@@ -43,7 +43,8 @@ OSTREL_API int MGTSERVER_check_conn_request_username(const char* value_p);
 OSTREL_API int MGTSERVER_check_conn_request_password(const char* value_p);
 
 /*
- * MGTSERVER_check_periodic_inform: whether the client reports periodically: any value except the empty one.
+ * MGTSERVER_check_periodic_inform: the setting for periodic reports by the client, which may be any value
+ * except the empty one.
  *
  * A NULL value fails an assertion that reports line 135. Returns 0, or prints
  * "Error in %s: Error empty periodic inform\n\n" and returns OSTREL_INVALID_VALUE.

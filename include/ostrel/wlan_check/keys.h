@@ -1,7 +1,7 @@
 /*
- * Keys of a wireless LAN.
+ * Checks for the keys of a wireless LAN.
  *
- * <ostrel/wlan_check.h> describes what all checks of the wireless LAN have in common.
+ * <ostrel/wlan_check.h> describes what all wireless LAN checks have in common.
  */
 #ifndef OSTREL_WLAN_CHECK_KEYS_H
 #define OSTREL_WLAN_CHECK_KEYS_H
@@ -17,7 +17,7 @@
 OSTREL_API int WLAN_check_preshared_key(const char* value);
 
 /*
- * WLAN_check_preshared_key2: a pre-shared key, and the pass phrase that may have been passed instead of it.
+ * WLAN_check_preshared_key2: a pre-shared key, and the pass phrase that may have been passed instead.
  *
  * A PASS PHRASE IS NEVER ACCEPTED. If psk is not empty, the pass phrase is ignored; otherwise it is refused.
  *
@@ -34,10 +34,11 @@ OSTREL_API int WLAN_check_preshared_key2(const char* psk, const char* passphrase
  * WLAN_check_wepkeys: the four WEP keys (IEEE 802.11), each of 10 or 26 hexadecimal digits and all of the
  * same length.
  *
- * keys: a caller-owned block of 1028 bytes: four NUL-terminated keys, each in a buffer of 257 bytes, one
- *       directly after the other. A key that is empty or contains a byte outside 0x20 to 0x7E is skipped:
- *       its first byte, and nothing else, is set to NUL, even if a later key is refused. A NULL pointer fails
- *       an assertion that reports the condition "value != ((void *)0)", the module "wlan_check" and line 500.
+ * keys: a caller-owned block of 1028 bytes that contains four NUL-terminated keys, each in a buffer of 257
+ *       bytes, one directly after the other. A key that is empty or contains a byte outside 0x20 to 0x7E is
+ *       skipped, and its first byte is set to NUL, even if a later key is refused. Nothing else is changed. A
+ *       NULL pointer fails an assertion that reports the condition "value != ((void *)0)", the module
+ *       "wlan_check" and line 500.
  *
  * The first key that is refused determines the result; later keys are not examined. For each skipped key,
  * "Error in %s: The key should not be empty or non printable ascii string: %s\n\n" is printed with the key.
@@ -75,17 +76,18 @@ OSTREL_API int WLAN_check_wepkeys(char* keys);
  *
  * Returns 0, or:
  * OSTREL_INVALID: the type is a PSK type and the key is refused, or the type is not in the table;
- * OSTREL_FORBIDDEN_CHARACTER: a WEP key contains a byte outside 0x20 to 0x7E, after printing with the key
+ * OSTREL_FORBIDDEN_CHARACTER: a WEP key contains a byte outside 0x20 to 0x7E, after printing two lines with
+ *   the key:
  *   "The key should not be empty or non printable ascii string: %s\n" and
  *   "The key should not contain non hexa char: %s\n";
- * OSTREL_ENCRYPTION_MISMATCH: the length of a WEP key does not suit the encryption; the length of an empty
- *   key never does.
+ * OSTREL_ENCRYPTION_MISMATCH: the length of a WEP key does not suit the encryption, which is always the case
+ *   for an empty key.
  */
 OSTREL_API int WLAN_check_keys(const char* key, const char* type, const char* encryption);
 
 /*
- * WLAN_check_default_wep_key_index: a number of 0 to 3 as atoi reads it: a string without a number is 0, and
- * characters after the digits are ignored, so "abc" and the empty value are accepted.
+ * WLAN_check_default_wep_key_index: a number from 0 to 3 as atoi reads it. A string without a number is read
+ * as 0, and characters after the digits are ignored, so "abc" and the empty value are accepted.
  *
  * Returns 0, or prints "Error in %s: Error default wep key index:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.

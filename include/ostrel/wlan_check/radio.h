@@ -1,18 +1,18 @@
 /*
- * Radio settings of a wireless LAN.
+ * Checks for the radio settings of a wireless LAN.
  *
- * <ostrel/wlan_check.h> describes what all checks of the wireless LAN have in common.
+ * <ostrel/wlan_check.h> describes what all wireless LAN checks have in common.
  *
  * radio is "RADIO_2.4GHz" or "RADIO_5GHz", in any mixture of upper and lower case. Numbers are read with
- * atoi: a string without a number, the empty value included, is 0. Every check returns 0 or OSTREL_INVALID
- * and prints nothing itself.
+ * atoi: a string without a number, such as the empty value, is read as 0. Every check returns 0 or
+ * OSTREL_INVALID and prints nothing itself.
  */
 #ifndef OSTREL_WLAN_CHECK_RADIO_H
 #define OSTREL_WLAN_CHECK_RADIO_H
 
 #include <ostrel/api.h>
 
-/* WLAN_check_radio_id: one of the two radios; a build for another model than "M2840" has only the first. */
+/* WLAN_check_radio_id: one of the two radios, or only the first in a build for a model other than "M2840". */
 OSTREL_API int WLAN_check_radio_id(const char* radio);
 
 /*
@@ -20,11 +20,11 @@ OSTREL_API int WLAN_check_radio_id(const char* radio);
  *
  * "0" selects the channel automatically and is valid for any radio, even one that does not exist.
  *
- * On 2.4 GHz, a channel is valid if it is below 14 and among the first 15 numbers that the driver lists: the
- * shell runs "wlctl -i wl0 channels > /var/hnapwl0chlist", and the file is read and deleted. If the file
- * cannot be opened, every channel is refused and nothing is deleted. If there is no wlctl, the shell reports
- * that on standard error, and the list is empty. Anything that wlctl writes to standard error also appears
- * there.
+ * On 2.4 GHz, a channel is valid if it is below 14 and among the first 15 numbers that the driver lists. To
+ * obtain them, the shell runs "wlctl -i wl0 channels > /var/hnapwl0chlist", and the file is read and deleted.
+ * If the file cannot be opened, every channel is refused and nothing is deleted. If there is no wlctl, the
+ * shell reports this on standard error, and the list is empty. Anything that wlctl itself writes to standard
+ * error appears there too.
  *
  * On 5 GHz, the valid channels are 36, 40, 44, 48, 149, 153, 157 and 161, and 0, which may also be written as
  * "00", as a string without a number or as the empty value.
@@ -48,11 +48,11 @@ OSTREL_API int WLAN_check_second_channel(const char* primary, const char* second
  */
 OSTREL_API int WLAN_check_5g_second_channel(const char* primary, const char* second);
 
-/* WLAN_check_wide_channel: the width in MHz: "0" or "20", and "40" on 5 GHz only. */
+/* WLAN_check_wide_channel: the channel width in MHz, which is "0" or "20", or on 5 GHz also "40". */
 OSTREL_API int WLAN_check_wide_channel(const char* width, const char* radio);
 
 /*
- * WLAN_check_IEEE11_mode: on 2.4 GHz "802.11b", "802.11g", "802.11n", "802.11bg" or "802.11bgn"; on 5 GHz
+ * WLAN_check_IEEE11_mode: on 2.4 GHz, "802.11b", "802.11g", "802.11n", "802.11bg" or "802.11bgn"; on 5 GHz,
  * "802.11n", "802.11a" or "802.11an".
  */
 OSTREL_API int WLAN_check_IEEE11_mode(const char* mode, const char* radio);

@@ -1,7 +1,7 @@
 /*
- * Security modes of a wireless LAN, its HNAP security setting and its RADIUS secret.
+ * Checks for the security modes of a wireless LAN, its HNAP security setting and its RADIUS secret.
  *
- * <ostrel/wlan_check.h> describes what all checks of the wireless LAN have in common.
+ * <ostrel/wlan_check.h> describes what all wireless LAN checks have in common.
  */
 #ifndef OSTREL_WLAN_CHECK_SECURITY_MODES_H
 #define OSTREL_WLAN_CHECK_SECURITY_MODES_H
@@ -74,7 +74,7 @@ OSTREL_API int WLAN_check_IEEE11i_encryption_modes(const char* value, int readwr
  *                 0: "EAPAuthentication" or "EAPandPSKAuthentication"
  *                 1: "PSKAuthentication"
  *
- * The codes, the tests and the lines are those of WLAN_check_IEEE11i_encryption_modes: the lines say
+ * The codes, tests and lines are the same as for WLAN_check_IEEE11i_encryption_modes, so the lines contain
  * "encryption modes" here too.
  */
 OSTREL_API int WLAN_check_IEEE11i_authentication_modes(const char* value, int readwrite_mode);
@@ -91,7 +91,7 @@ OSTREL_API int WLAN_check_IEEE11i_authentication_modes(const char* value, int re
 OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
 
 /*
- * WLAN_check_HNAP_SecurityType: an HNAP security type and the encryption that suits it. Silent.
+ * WLAN_check_HNAP_SecurityType: an HNAP security type and the encryption that suits it. Prints nothing.
  *
  * setting1, setting2: if they are "0" and "auto", only the WPA2 types are allowed.
  *
@@ -102,7 +102,7 @@ OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
  *   "WPA2-PSK", "WPA2-RADIUS"              "AES"
  *   "WPA-AUTO-PSK", "WPA-AUTO-RADIUS"      "TKIPORAES"
  *
- * The two settings and the model, which is a build option, are compared with the cmsUtl_strcmp of the host.
+ * The two settings and the model, which is a build option, are compared with the host's cmsUtl_strcmp.
  *
  * Returns 0, or:
  * OSTREL_SECURITY_TYPE_NOT_ALLOWED: the type is not in the table (the empty type included), or is not allowed
@@ -113,8 +113,8 @@ OSTREL_API int WLAN_check_HNAP_SecurityType(const char* setting1, const char* se
                                             const char* encryption);
 
 /*
- * WLAN_check_HNAP_KeyRenewal: the interval in seconds at which a group key is renewed: 600 to 7200, written
- * with 3 or 4 digits. Silent.
+ * WLAN_check_HNAP_KeyRenewal: the interval at which a group key is renewed, from 600 to 7200 seconds, written
+ * with 3 or 4 digits. Prints nothing.
  *
  * renewal: if it is "false", neither of the other arguments is examined.
  * type:    if it is "WEP-SHARED", "WEP-RADIUS" or "WEP-OPEN", the interval is not examined.
@@ -124,7 +124,7 @@ OSTREL_API int WLAN_check_HNAP_SecurityType(const char* setting1, const char* se
 OSTREL_API int WLAN_check_HNAP_KeyRenewal(const char* renewal, const char* interval, const char* type);
 
 /*
- * WLAN_check_radius_sec: a RADIUS shared secret (RFC 2865) of 1 to 80 bytes of any kind. Silent.
+ * WLAN_check_radius_sec: a RADIUS shared secret (RFC 2865) of 1 to 80 bytes of any kind. Prints nothing.
  *
  * Returns 0 or OSTREL_INVALID.
  */

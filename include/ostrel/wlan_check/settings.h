@@ -1,7 +1,8 @@
 /*
- * The other settings of a wireless LAN: SSID, rates, location, regulatory domain, role and distance.
+ * Checks for the other settings of a wireless LAN: SSID, rates, location, regulatory domain, role and
+ * distance.
  *
- * <ostrel/wlan_check.h> describes what all checks of the wireless LAN have in common.
+ * <ostrel/wlan_check.h> describes what all wireless LAN checks have in common.
  */
 #ifndef OSTREL_WLAN_CHECK_SETTINGS_H
 #define OSTREL_WLAN_CHECK_SETTINGS_H
@@ -11,11 +12,11 @@
 /*
  * WLAN_check_ssid: an SSID; see TcmValidateSSID, which prints a line with the length on every call.
  *
- * value: a caller-owned buffer. Its HTML character references are first replaced in place, and they stay
- *        replaced whatever the result. "a&amp;b" is an SSID of 3 bytes.
+ * value: a caller-owned buffer. Its HTML character references are first replaced in place, and remain
+ *        replaced regardless of the result. "a&amp;b" is an SSID of 3 bytes.
  *
  * The host's htmlToText replaces them. If the host has none, the library replaces the HTML 4 names of Latin-1
- * characters, the five names of XML, and numbers from 1, in decimal ("&#65;") or hexadecimal ("&#x41;"). Each
+ * characters, the five XML names, and numbers from 1 in decimal ("&#65;") or hexadecimal ("&#x41;"). Each
  * becomes one byte of ISO 8859-1; a number above 255, which has no such byte, becomes 0x1A, so the SSID is
  * refused. Anything else, including other names ("&euro;"), is unchanged, and the string never grows.
  *
@@ -57,8 +58,8 @@ OSTREL_API int WLAN_check_op_data_transmit_rate(const char* value);
 OSTREL_API int WLAN_check_location_description(const char* value);
 
 /*
- * WLAN_check_regulatory_domain: two decimal digits followed by "O" or "o" (outdoor) or "I" or "i" (indoor).
- * Country letters are refused.
+ * WLAN_check_regulatory_domain: two decimal digits followed by "O" or "o" (outdoor), or by "I" or "i"
+ * (indoor). Country letters are refused.
  *
  * Returns 0, or OSTREL_INVALID_VALUE after printing the line of the first test that fails:
  *   the value has 4 bytes or more:
