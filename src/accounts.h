@@ -1,4 +1,4 @@
-// Lengths and characters of passwords that several checks require.
+// The lengths and characters that several checks require of a password.
 #ifndef OSTREL_SRC_ACCOUNTS_H
 #define OSTREL_SRC_ACCOUNTS_H
 

@@ -22,14 +22,14 @@ constexpr std::size_t kMacAddressLength = 17;  // six octets of two digits and f
     return contains(kHexDigits, digits[0]) && contains(kHexDigits, digits[1]);
 }
 
-// is_group_digit returns whether the second hexadecimal digit of an address sets the group bit. The codes of 'A' and
-// 'a' are odd, but the values of these digits are even.
+// is_group_digit returns whether the second hexadecimal digit of an address sets the group bit. The character
+// codes of 'A' and 'a' are odd, but the values of these digits are even.
 bool is_group_digit(char digit) { return (digit >= 'A' ? digit - 'A' : digit - '0') % 2 != 0; }
 
 bool has_length_of_mac_address(const char* value) { return std::strlen(value) == kMacAddressLength; }
 
-// The next two functions print only if the value has the length of an address. An accepted value needs no such test,
-// because the parse fixes its length.
+// The next two functions print only if the value has the length of an address. An accepted value does not
+// need this test, because parsing it also establishes its length.
 
 bool refuse_group_address(const char* value)
 {
@@ -43,8 +43,8 @@ bool refuse_separator(const char* value, char separator)
     return false;
 }
 
-// goes_on returns whether a separator and an octet follow. Successive calls instead of a loop save a seventh of the
-// time.
+// goes_on returns whether a separator and an octet follow. Successive calls take a seventh less time than a
+// loop.
 inline bool goes_on(const char* value, int at)
 {
     if (value[at] != ':') return refuse_separator(value, value[at]);
@@ -59,9 +59,10 @@ bool is_mac_address(const char* value, bool station_only)
            goes_on(value, 14) && value[kMacAddressLength] == '\0';
 }
 
-// skip_octet returns the end of a number of up to 255 at the start of the text, or NULL if there is none. It always
-// examines three characters, because branches on the number of digits are mispredicted often: without them an address
-// takes half the time. For the same reason, a product replaces a second condition.
+// skip_octet returns the end of a number from 0 to 255 at the start of the string, or NULL if there is none.
+// It always examines three characters, because branches on the number of digits would often be mispredicted:
+// without them, an address takes half the time. For the same reason, a multiplication replaces a second
+// condition.
 inline const char* skip_octet(const char* text)
 {
     while (text[0] == '0' && digit(text[1]) <= kLargestDigit) ++text;

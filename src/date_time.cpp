@@ -14,8 +14,8 @@ constexpr unsigned kLastSecond = 59;
 constexpr unsigned kLastOffsetHour = 59;  // the hours of an offset have the same limit as its minutes
 constexpr unsigned kLastZoneHour = 12;
 
-// Reader walks through a value. Each step returns whether the value continues as required; none goes past the
-// terminator, which is neither a digit nor a separator.
+// Reader reads a value from left to right. Each step returns what it has read, or whether the value continues
+// as required. No step goes past the terminator, which is neither a digit nor a separator.
 class Reader {
  public:
     explicit Reader(const char* value) : at_(value) {}
@@ -38,7 +38,7 @@ class Reader {
         return true;
     }
 
-    // sign has no branch, because a branch on the sign would be mispredicted often.
+    // sign has no branch, because a branch on the sign would often be mispredicted.
     bool sign()
     {
         const bool is_sign = (*at_ == '+') | (*at_ == '-');
@@ -52,15 +52,15 @@ class Reader {
     const char* at_;
 };
 
-// Date has the fields by which the day of a date-time is judged.
+// Date contains the fields that determine whether the day of a date-time is valid.
 struct Date {
     unsigned year = 0;
     unsigned month = 0;
     unsigned day = 0;
 };
 
-// read_day_and_time reads "DDThh:mm:ss", which all forms share. Inlining it and the function below saves a fifth of the
-// time of a date-time.
+// read_day_and_time reads "DDThh:mm:ss", which all forms share. Inlining it and the function below saves a
+// fifth of the time that a date-time takes.
 inline bool read_day_and_time(Reader& reader, Date& date)
 {
     date.day = reader.two_digits();
@@ -79,7 +79,7 @@ inline bool read_offset(Reader& reader, unsigned last_hour)
 bool read_date_time(Reader reader, Date& date)
 {
     const unsigned century = reader.two_digits();
-    const unsigned year = reader.two_digits();  // kNoNumber if the century is
+    const unsigned year = reader.two_digits();  // also kNoNumber if the century is missing
     if (year == kNoNumber) return false;
     date.year = century * 100 + year;
     const bool extended = reader.separator('-');
@@ -101,7 +101,7 @@ constexpr int kDaysOfMonth[] = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 3
 
 bool is_leap_year(int year) { return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0); }
 
-// is_day has no lower bound: day 0 and negative days are valid in every month.
+// is_day has no lower limit, so day 0 and negative days are valid in every month.
 bool is_day(int year, unsigned month, int day)
 {
     if (month < 1 || month > 12) return false;

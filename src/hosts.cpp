@@ -18,8 +18,8 @@ constexpr int kMostLabels = 6;
 constexpr std::ptrdiff_t kLongestUrl = 256;
 constexpr int kLargestPort = 65535;
 
-// skip_domain_name returns the end of a domain name at the start of the text, or NULL if there is none. Leading,
-// trailing and adjacent dots need no separate test, because they produce an empty label.
+// skip_domain_name returns the end of a domain name at the start of the string, or NULL if there is none.
+// Leading, trailing and adjacent dots need no separate test, because they produce an empty label.
 const char* skip_domain_name(const char* text)
 {
     const char* const name = text;
@@ -51,8 +51,8 @@ const char* skip_scheme(const char* text, const char* scheme)
     return std::strncmp(text, "://", 3) == 0 ? text + 3 : nullptr;
 }
 
-// is_url tests only the path for the characters of a URL, because the other components allow fewer. Without a port, a
-// ":" in the path would end the host, so it is refused.
+// is_url checks only the path against CHARSET_URL, because the other components allow fewer characters. If
+// there is no port, a ":" in the path counts as the end of the host, so the URL is refused.
 bool is_url(const char* value, const char* scheme)
 {
     const char* rest = skip_scheme(value, scheme);
@@ -61,7 +61,8 @@ bool is_url(const char* value, const char* scheme)
     if (rest == nullptr) return false;
     const bool has_port = *rest == ':';
     if (has_port) {
-        // Without a digit nothing is skipped, and the rest is refused unless it is a path.
+        // If there are no digits, nothing is skipped, and the remaining characters are refused unless they
+        // are a path.
         const int port = read_number(++rest);
         if (port < 0 || port > kLargestPort) return false;
     }

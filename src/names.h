@@ -1,4 +1,4 @@
-// Lengths and characters of names that several checks require.
+// The lengths and characters that several checks require of a name.
 #ifndef OSTREL_SRC_NAMES_H
 #define OSTREL_SRC_NAMES_H
 

@@ -28,8 +28,8 @@ constexpr int kLargestTestBuffer = 0x100000;
 
 constexpr Limits kPorts{0, 65535, OSTREL_OUT_OF_RANGE};
 
-// require_digits returns OSTREL_VALID for the empty value and refuses one that begins with a non-digit. For a value
-// that begins with a digit it never returns, because the scan does not advance.
+// require_digits returns OSTREL_VALID for the empty value and refuses a value that begins with a non-digit.
+// For a value that begins with a digit, it never returns, because the scan does not advance.
 int require_digits(const char* value_p, const char* function)
 {
     while (value_p[0] != '\0') {

@@ -9,12 +9,13 @@
 
 namespace ostrel {
 
-// validate_length returns 0, OSTREL_TOO_SHORT or OSTREL_TOO_LONG. The limits are signed: a negative minimum accepts
-// every length, a negative maximum none. The result is exact even for lengths that do not fit in an int.
+// validate_length returns 0, OSTREL_TOO_SHORT or OSTREL_TOO_LONG. The limits are signed: a negative minimum
+// accepts every length, and a negative maximum accepts none. The result is correct even for lengths that do
+// not fit in an int.
 int validate_length(int min_len, int max_len, std::size_t length);
 
-// Text packs the limits of a length and the allowed set into one number: compilers load a structure from memory, but
-// put a number into the instruction.
+// Text packs the limits of a length and the allowed set into one number, because compilers load a structure
+// from memory but encode a number in the instruction.
 enum class Text : std::uint32_t {};
 
 constexpr Text text(std::uint8_t min_len, std::uint8_t max_len, CharSet allowed)
@@ -22,8 +23,8 @@ constexpr Text text(std::uint8_t min_len, std::uint8_t max_len, CharSet allowed)
     return static_cast<Text>(static_cast<std::uint32_t>(allowed) << 16U | unsigned{max_len} << 8U | min_len);
 }
 
-// validate_string is ValidateString with a predefined set. It reads an accepted value once: the lookup of the last
-// character also determines the length.
+// validate_string is ValidateString with a predefined set. It reads an accepted value only once, because the
+// scan of its characters also determines its length.
 int validate_string(const char* value, int min_len, int max_len, CharSet allowed);
 int validate_string(const char* value, Text rule);
 

@@ -15,14 +15,14 @@ namespace {
 
 constexpr int kMostOfferedServers = 2;
 
-// after_last_dot returns the text itself if it contains no dot.
+// after_last_dot returns its argument if it contains no dot.
 const char* after_last_dot(const char* text)
 {
     const char* dot = std::strrchr(text, '.');
     return dot == nullptr ? text : dot + 1;
 }
 
-// subnet_of returns the text up to and including the last ".", or the empty text.
+// subnet_of returns the part of an address up to and including the last ".", which is empty if there is none.
 std::string_view subnet_of(const char* address)
 {
     return {address, static_cast<std::size_t>(after_last_dot(address) - address)};
@@ -54,8 +54,8 @@ std::string_view trim(std::string_view text)
 // is_repeated returns whether the item occurs anywhere in the rest of the list, provided that the rest has the item's
 // length or has a "," at that offset.
 //
-// The search compares the last byte of a possible match first, because the items of most lists differ there. At a ","
-// it skips a whole item, because no match contains one.
+// The search compares the last byte of a possible match first, because the items of most lists differ there.
+// At a ",", it skips the length of an item, because no match contains a ",".
 bool is_repeated(std::string_view item, std::string_view rest)
 {
     const std::size_t length = item.size();

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t kOffsetSize = 7;  // an offset with its terminator
 
-// A row begins with its offset, so a pointer to the row is also the text of the offset.
+// A row begins with its offset, so a pointer to the row is also a pointer to the offset.
 const char* name_of(const char* row) { return row + kOffsetSize; }
 
 const char* row_after(const char* row)
@@ -113,7 +113,7 @@ int TIME_check_sync_daylight_saving_time(const char* start, const char* end)
         __func__, start, end);
 }
 
-// The next three accept a value that is empty or not printable, because an unset value must pass.
+// The next three checks accept a value that is empty or not printable, because an unset value must pass.
 
 int TIME_check_local_time_zone(const char* value)
 {

@@ -1,12 +1,12 @@
-// The built-in time zones.
+// The built-in table of time zones.
 #ifndef OSTREL_SRC_TIME_ZONE_TABLE_H
 #define OSTREL_SRC_TIME_ZONE_TABLE_H
 
 namespace ostrel {
 
-// kTimeZones is one text, so that it needs no pointers: a row is an offset and a name, each with its terminator, and an
-// empty row ends the table. The rows and their order are part of the contract, including the spelling of the names and
-// of the zero offset.
+// kTimeZones is a single string, so that it needs no pointers. Each row is an offset and a name, both
+// NUL-terminated, and an empty row ends the table. The rows and their order are part of the contract,
+// including the spelling of the names and of the zero offset.
 constexpr char kTimeZones[] =
     // clang-format off
     "-12:00\0International Date Line West\0"

@@ -20,7 +20,7 @@ int judge_limits(long number, const Limits& limits)
 int code_or_refuse(int code, const char* value, const char* line, const char* check)
 {
     if (code == OSTREL_VALID) return OSTREL_VALID;
-        // The compiler has checked the format where the caller wrote it.
+        // The compiler has already checked the format in the caller.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
     return refuse(code, line, check, value);

@@ -1,7 +1,7 @@
-// Verdicts: a rule and its refusal in one call, for rules that many checks share.
+// Functions that apply a rule and print its refusal in one call, for rules that many checks share.
 //
 // Each function returns OSTREL_VALID if the rule accepts the value. Otherwise it prints the line with the name of the
-// check and the value, flushes every output stream and returns the code of the refusal.
+// check and the value, flushes every output stream and returns the result code.
 #ifndef OSTREL_SRC_VERDICT_H
 #define OSTREL_SRC_VERDICT_H
 
@@ -11,24 +11,24 @@
 
 namespace ostrel {
 
-// line returns the format unchanged. Here the compiler checks it against the arguments with which a verdict prints it:
-// the name of the check and the value, which a format may omit.
+// line returns the format unchanged. It makes the compiler check the format against the arguments with which
+// it will be printed, which are the name of the check and the value. A format may omit the value.
 [[gnu::format(printf, 1, 2), gnu::always_inline]] inline const char* line(const char* format, ...)
 {
     return format;
 }
 
-// Limits of a number or a length, both inclusive, and the code of a refusal.
+// Limits contains the inclusive limits of a number or a length, and the code for a value outside them.
 struct Limits {
     int min;
     int max;
     int otherwise = OSTREL_INVALID_VALUE;
 };
 
-// code_or_refuse takes the result code of a rule.
+// code_or_refuse takes the result code of a rule that the caller has applied.
 int code_or_refuse(int code, const char* value, const char* line, const char* check = __builtin_FUNCTION());
 
-// number_or_refuse judges the number that atoi reads.
+// number_or_refuse checks the number that atoi reads.
 int number_or_refuse(const char* value, const Limits& limits, const char* line,
                      const char* check = __builtin_FUNCTION());
 
@@ -39,10 +39,10 @@ int length_or_refuse(const char* value, const Limits& limits, const char* line,
 int keyword_or_refuse(const char* value, const char* keywords, const char* line,
                       const char* check = __builtin_FUNCTION());
 
-// text_or_refuse refuses with the code of validate_string.
+// text_or_refuse refuses with the code that validate_string returns.
 int text_or_refuse(const char* value, Text rule, const char* line, const char* check = __builtin_FUNCTION());
 
-// rule_or_refuse is code_or_refuse, but returns OSTREL_INVALID_VALUE in place of OSTREL_INVALID.
+// rule_or_refuse does the same as code_or_refuse, but returns OSTREL_INVALID_VALUE instead of OSTREL_INVALID.
 int rule_or_refuse(int code, const char* value, const char* line, const char* check = __builtin_FUNCTION());
 
 }  // namespace ostrel

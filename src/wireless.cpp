@@ -19,8 +19,8 @@ constexpr auto kNamedRateSets = keywords("all|default");
 constexpr Text kPreSharedKey = text(64, 64, kHexDigits);
 constexpr Text kSsid = text(1, 32, kAsciiPrintable);
 
-// Packed is a text of up to three bytes as one number. A longer text never equals a shorter one, because its last four
-// bytes are kept.
+// Packed is a string of up to three bytes, packed into one number. A longer string never equals a shorter
+// one, because its last four bytes are kept.
 using Packed = std::uint32_t;
 
 constexpr Packed append(Packed packed, char c) { return packed << 8 | static_cast<unsigned char>(c); }
@@ -45,8 +45,8 @@ constexpr Packed kRate36 = pack("36");
 constexpr Packed kRate48 = pack("48");
 constexpr Packed kRate54 = pack("54");
 
-// is_rate combines all comparisons without branches, because which of them succeeds cannot be predicted: with branches
-// a list takes a third longer, and with comparisons of texts four times as long.
+// is_rate combines all comparisons without branches, because it cannot be predicted which of them will
+// succeed. With branches, a list takes a third longer, and with string comparisons four times as long.
 inline bool is_rate(Packed text)
 {
     return (text == kRate1) | (text == kRate2) | (text == kRate5_5) | (text == kRate6) | (text == kRate9) |

@@ -15,8 +15,8 @@ namespace {
 constexpr std::size_t kAllowedListCapacity = 160;     // characters, without the terminator
 constexpr std::size_t kMacAddressWithSeparator = 18;  // 17 characters and the separator after them
 
-// ServerList is a list of DNS servers, split at its first ",". If it has none, there is no second server, and the first
-// is the whole list.
+// ServerList is a list of DNS servers, split at its first ",". If there is no ",", there is no second server,
+// and the first is the whole list.
 struct ServerList {
     std::string_view first;
     const char* second;
@@ -72,7 +72,7 @@ int LAN_check_add_dns_servers(const char* newServers, const char* existingServer
                static_cast<int>(existing.first.size()), existing.first.data());
     }
     const ServerList added = split(newServers);
-    // A single new server is compared with the whole existing list, even if that contains two.
+    // A single new server is compared with the whole existing list, even if that contains two servers.
     if (added.second == nullptr) {
         return equals(existingServers, newServers) ? OSTREL_REPEATED : OSTREL_VALID;
     }
@@ -90,7 +90,7 @@ int LAN_check_delete_dns_server(const char* serverAddress, const char* existingS
     }
     const ServerList existing = split(existingServers);
     if (existing.second != nullptr && equals(serverAddress, existing.second)) return OSTREL_VALID;
-    // The test is inverted: a server as long as the first one may be deleted if it differs from it.
+    // The test is inverted: a server of the same length as the first one may be deleted if the two differ.
     const std::string_view server = serverAddress;
     if (server.size() == existing.first.size() && !equals(server, existing.first)) return OSTREL_VALID;
     return refuse(OSTREL_NOT_IN_LIST, "Error in %s: Can't find the IP addr: %s in existed servers:%s\n\n",

@@ -8,8 +8,8 @@ namespace ostrel {
 [[noreturn]] void fail_assertion(const char* condition, const char* module, const char* function,
                                  unsigned line);
 
-// require_value asserts that value_p is not NULL and returns it; unless stated, function and line are those of the
-// calling check.
+// require_value asserts that value_p is not NULL and returns it. By default, function and line are those of
+// the calling check.
 inline const char* require_value(const char* value_p, const char* module, unsigned line = __builtin_LINE(),
                                  const char* function = __builtin_FUNCTION())
 {

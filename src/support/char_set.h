@@ -1,7 +1,8 @@
-// Sets of bytes, including those by which the rules judge characters.
+// Sets of bytes, including the sets of allowed characters that the rules use.
 //
-// Members are written as texts; bytes from 0x80 up are members like any others, whatever the sign of char. No set
-// contains the terminator, so a scan by a set stops at the end of the value.
+// The members of a set are written as a string. Bytes from 0x80 up are treated like any others, whether or
+// not char is signed. No set contains the terminator, so a scan for the first byte outside a set stops at the
+// end of the value.
 #ifndef OSTREL_SUPPORT_CHAR_SET_H
 #define OSTREL_SUPPORT_CHAR_SET_H
 
@@ -30,7 +31,7 @@ static_assert(sizeof(CharSetTexts::texts) / sizeof(const char*) <= 16, "a word h
 
 consteval CharSetTexts char_set_texts()
 {
-    // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): some texts are the texts of others, joined.
+    // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): some strings are built from others.
     return {{CHARSET_DIGITS, CHARSET_ALNUM, CHARSET_PPP_DIGITS, CHARSET_HEX, CHARSET_ASCII_PRINTABLE,
              CHARSET_LATIN1_PRINTABLE, CHARSET_IPV4, CHARSET_HOST, CHARSET_URL, CHARSET_HOSTPORT,
              CHARSET_NAME, CHARSET_MAIL, CHARSET_ROUTER_NAME, CHARSET_CIS_NAME, CHARSET_IDENT_LETTERS}};
@@ -78,9 +79,10 @@ inline bool contains(CharSet set, char c)
     return (kMemberships.words[static_cast<unsigned char>(c)] & static_cast<unsigned>(set)) != 0;
 }
 
-// OwnSet is a set that a caller supplies. It is cleared in quarters, which compilers do with plain stores; to clear it
-// as a whole they use an instruction whose start-up costs more than judging a short value. Members are added four at a
-// time, because the overhead of a loop for each would cost more than the additions.
+// OwnSet is a set that a caller supplies. It is cleared in quarters, which compilers do with plain stores. To
+// clear all of it at once, they would use an instruction whose start-up takes longer than judging a short
+// value. Members are added four at a time, because the overhead of one loop iteration per member would exceed
+// the cost of adding it.
 class OwnSet {
  public:
     explicit OwnSet(const char* members)
@@ -113,7 +115,8 @@ class OwnSet {
 
 inline bool contains(const OwnSet& set, char c) { return set.contains(c); }
 
-// first_outside returns the first byte of the text that is not in the set, which is the terminator if all others are.
+// first_outside returns a pointer to the first byte of the string that is not in the set, which may be the
+// terminator.
 template <typename Set>
 inline const char* first_outside(Set set, const char* text)
 {

@@ -30,8 +30,8 @@ constexpr char kLatin1Names[96][kLongestName + 1] = {
     "oslash", "ugrave", "uacute", "ucirc",  "uuml",   "yacute", "thorn",  "yuml",    // F8
 };
 
-// Reference is the text after an "&": the byte that it denotes, and its length including the ";". The length is 0 if
-// the text is not a reference.
+// Reference contains the byte that the text after an "&" denotes, and the length of that text including the
+// ";". The length is 0 if the text is not a reference.
 struct Reference {
     int byte;
     std::size_t length;
@@ -39,7 +39,8 @@ struct Reference {
 
 constexpr Reference kNone = {0, 0};
 
-// digit_value returns the base or more for a character that is not a digit of that base.
+// digit_value returns the value of a digit, or at least the base if the character is not a digit in that
+// base.
 int digit_value(char c, int base)
 {
     if (c >= '0' && c <= '9') return c - '0';

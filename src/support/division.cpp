@@ -1,4 +1,5 @@
-// Nothing here divides by zero, but the run-time support of ARM compilers would import raise for that case.
+// The library never divides by zero, but without these definitions the run-time support of ARM compilers
+// would import raise for that case.
 #if defined(__ARM_EABI__)
 extern "C" {
 int __aeabi_idiv0(int quotient);

@@ -6,8 +6,8 @@
 #include "src/support/character_references.h"
 #include "src/support/text.h"
 
-// They are weak so that the library can be loaded by a host without them, and visible so that the loader can bind them
-// to the host's.
+// These declarations are weak so that a host without the functions can load the library, and visible so that
+// the loader can bind them to the host's functions.
 extern "C" {
 [[gnu::weak, gnu::visibility("default")]] int cmsUtl_strcmp(const char* a, const char* b);
 [[gnu::weak, gnu::visibility("default")]] int htmlToText(char* text, std::size_t length);

@@ -1,17 +1,17 @@
-// The two utilities of the host process; only this module refers to them.
+// The host process's two utilities, to which only this module refers.
 //
-// They are imported weakly: if the loading process supplies one, it is called; otherwise the library uses its own
+// They are weak imports. If the host process supplies one, it is called; otherwise, the library uses its own
 // equivalent.
 #ifndef OSTREL_SUPPORT_HOST_H
 #define OSTREL_SUPPORT_HOST_H
 
 namespace ostrel {
 
-// host_equals compares with the host's cmsUtl_strcmp, or byte by byte if there is none.
+// host_equals compares two strings with the host's cmsUtl_strcmp, or byte by byte if there is none.
 bool host_equals(const char* a, const char* b);
 
-// resolve_references replaces the HTML character references of the text in place with the host's htmlToText, or with
-// convert_references if there is none.
+// resolve_references calls the host's htmlToText, or convert_references if there is none, to replace the HTML
+// character references in a string in place.
 void resolve_references(char* text);
 
 }  // namespace ostrel

@@ -1,4 +1,4 @@
-// The result of a rule without result codes of its own.
+// The result of a rule that has no specific result codes.
 #ifndef OSTREL_SUPPORT_JUDGE_H
 #define OSTREL_SUPPORT_JUDGE_H
 

@@ -1,7 +1,8 @@
 // Lists of keywords.
 //
-// A list is written with a "|" between the keywords and compiled into one text without pointers: each keyword is
-// preceded by its distance to the next one, and the last is followed by a 0.
+// A list is written with a "|" between the keywords and compiled into a single string without pointers, in
+// which a byte before each keyword contains the distance to the next such byte, and a 0 follows the last
+// keyword.
 #ifndef OSTREL_SUPPORT_KEYWORDS_H
 #define OSTREL_SUPPORT_KEYWORDS_H
 
@@ -32,7 +33,7 @@ consteval Keywords<size + 1> keywords(const char (&list)[size])
 
 bool is_one_of(const char* value, const char* keywords);
 
-// is_one_of_ignoring_case folds only the letters A to Z of the value; the keywords are in lower case.
+// is_one_of_ignoring_case folds only the letters A to Z of the value; the keywords must be in lower case.
 bool is_one_of_ignoring_case(const char* value, const char* keywords);
 
 }  // namespace ostrel

@@ -16,7 +16,7 @@ int read_number(const char*& text)
     const char* const start = text;
     unsigned number = 0;
     for (; digit(*text) <= kLargestDigit; ++text) number = number * 10 + digit(*text);
-    // The C library interprets signs, white space and numbers that are too large.
+    // Signs, white space and longer numbers are left to the C library.
     if (text == start || text - start > kMostDigits) return std::atoi(start);
     return static_cast<int>(number);
 }

@@ -1,6 +1,6 @@
-// Report lines: only this module formats and flushes them.
+// Prints report lines. No other module formats or flushes them.
 //
-// Each message is one output call, so that lines of concurrent callers are not interleaved.
+// Each message is printed by one output call, so that the lines of concurrent callers are not interleaved.
 #ifndef OSTREL_SUPPORT_REPORT_H
 #define OSTREL_SUPPORT_REPORT_H
 
@@ -12,7 +12,7 @@ namespace ostrel {
 // inform prints the line and flushes every output stream.
 [[gnu::format(printf, 1, 2)]] void inform(const char* format, ...);
 
-// remark prints the line without flushing it; a later message does.
+// remark prints the line without flushing it; it is flushed with a later message.
 [[gnu::format(printf, 1, 2)]] void remark(const char* format, ...);
 
 }  // namespace ostrel

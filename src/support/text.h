@@ -1,4 +1,4 @@
-// Comparisons of texts, byte by byte and the same in every locale.
+// String comparisons, byte by byte and independent of the locale.
 #ifndef OSTREL_SUPPORT_TEXT_H
 #define OSTREL_SUPPORT_TEXT_H
 
@@ -37,7 +37,7 @@ inline std::string_view before(std::string_view text, char c)
 // to_lower folds only the letters A to Z; tolower would depend on the host's locale.
 constexpr char to_lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
-// starts_with_ignoring_case reads the text only up to the first difference.
+// starts_with_ignoring_case reads the string only up to the first difference.
 bool starts_with_ignoring_case(const char* text, const char* prefix);
 
 }  // namespace ostrel

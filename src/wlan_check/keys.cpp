@@ -68,7 +68,8 @@ int WLAN_check_preshared_key2(const char* psk, const char* passphrase)
                               line("Error in %s: Error PreSharedKey:%s\n\n", __func__, psk));
     }
     if (passphrase[0] != '\0') {
-        // The empty key is judged in place of the pass phrase, so a pass phrase alone is always refused.
+        // The empty key is judged instead of the pass phrase, so a pass phrase without a key is always
+        // refused.
         return refuse(TcmValidateKPP(psk), "Error in %s: Error KeyPassphrase:%s\n\n", __func__, passphrase);
     }
     inform("Error in %s: Error PreSharedKey:%s\n\n", __func__, psk);
@@ -92,7 +93,7 @@ int WLAN_check_wepkeys(char* keys)
                           "Error in %s: The key should not contain non hexa char: %s\n\n", __func__, key);
         }
         const std::size_t length = std::strlen(key);
-        // This never happens: an empty key is not printable.
+        // This never happens, because an empty key is not printable.
         if (length == 0) {  // GCOVR_EXCL_BR_LINE
             // GCOVR_EXCL_START
             inform("Error in %s: skip wepkeys[%d] for empty string\n", __func__, static_cast<int>(i));

@@ -33,7 +33,8 @@ struct ChannelPair {
     int second;
 };
 
-// Channels 1 to 4 and 7 pair upward, the others downward; two zeros mean no second channel.
+// Channels 1 to 4 and 7 pair with a higher channel, the others with a lower one. Two zeros mean that there is
+// no second channel.
 constexpr ChannelPair kPairs[] = {{1, 3}, {2, 4}, {3, 5},  {4, 6},  {5, 3},   {6, 4},   {7, 9},
                                   {8, 6}, {9, 7}, {10, 8}, {11, 9}, {12, 10}, {13, 11}, {0, 0}};
 // The second channel is the centre of the 40 MHz pair.
@@ -74,7 +75,7 @@ bool is_5_ghz_channel(int channel)
 // is_listed_by_driver calls the wireless driver's tool, which lists the channels that are allowed at that moment.
 bool is_listed_by_driver(int channel)
 {
-    // The exit status adds nothing to the list.
+    // The exit status is ignored, because only the list matters.
     // NOLINTNEXTLINE(bugprone-command-processor)
     [[maybe_unused]] const int status = std::system(kListCommand);
     std::FILE* list = std::fopen(kListFile, "r");
@@ -104,7 +105,7 @@ int WLAN_check_channel(const char* channel, const char* radio)
     if (equals(channel, "0")) return OSTREL_VALID;
     const int number = leading_number(channel);
     if (is_2_4_ghz(radio)) return require(is_listed_by_driver(number));
-    // Text without a number is 0, which selects the automatic channel on this band.
+    // A string without a number is read as 0, which selects the automatic channel on this band.
     return require(is_5_ghz(radio) && (number == 0 || is_5_ghz_channel(number)));
 }
 

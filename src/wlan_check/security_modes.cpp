@@ -60,8 +60,8 @@ bool is_11i_authentication_mode(const char* value, int readwrite_mode)
 
 int require_encryption(bool suits) { return suits ? OSTREL_VALID : OSTREL_ENCRYPTION_MISMATCH; }
 
-// check_11i_mode judges both kinds of modes of IEEE 802.11i. Its lines say "encryption modes" for both, as hosts
-// expect.
+// check_11i_mode checks both kinds of IEEE 802.11i modes. Its lines contain "encryption modes" for both, as
+// hosts expect.
 int check_11i_mode(const char* value, int readwrite_mode, bool is_listed(const char*, int),
                    const char* function)
 {

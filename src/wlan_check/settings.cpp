@@ -24,10 +24,10 @@ constexpr Limits kDistances{INT_MIN, -1, OSTREL_INVALID_DISTANCE};
 constexpr int kLongestDescription = 4096;
 constexpr int kLongestDomain = 3;
 
-// is_environment accepts outdoor and indoor.
+// is_environment accepts the letters for outdoor and indoor use.
 bool is_environment(char c) { return c == 'O' || c == 'I' || c == 'o' || c == 'i'; }
 
-// A missing character is the terminator, which no set contains.
+// A missing character is read as the terminator, which no set contains.
 bool is_regulatory_domain(const char* value)
 {
     return contains(kDigits, value[0]) && contains(kDigits, value[1]) && is_environment(value[2]);
