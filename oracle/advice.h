@@ -1,6 +1,7 @@
-// Advice: follows each reason as a user would who reads its sentence. The same reason must not occur again then, and
-// must occur with one step less. A description that agrees with the library in every code may still state a false
-// reason.
+// Follows each reason as a user who reads its sentence would. If the advice is followed, the same reason must
+// not occur again. If it is followed one step short, for example with a number one above the limit, the
+// reason must recur. This finds false reasons even in a description that agrees with the library in every
+// code.
 #ifndef OSTREL_ORACLE_ADVICE_H
 #define OSTREL_ORACLE_ADVICE_H
 
@@ -18,43 +19,44 @@
 
 namespace ostrel::oracle {
 
-// Advice lists the calls that a refused call leads to.
+// Advice lists the calls to make after a refused call.
 struct Advice {
     std::vector<Values> followed;  // the reason must not occur again
-    std::vector<Values> less;      // one step less: the same reason, or another one that comes first
-    std::vector<Values> attempts;  // each may be one step less, or be accepted
+    std::vector<Values> less;      // one step short: refused again, for this reason or an earlier one
+    std::vector<Values> attempts;  // each is either one step short or accepted
 };
 
-// Way defines how to follow the reasons of an id. An id that no check has, or that cannot be followed, has no
-// function.
+// Way defines how to follow the reasons with an id. The function is NULL if no check has such a reason, or if
+// such reasons cannot be followed.
 struct Way {
     std::string_view id;
     void (*advise)(const Refusal& refusal, Advice& advice);
-    std::string_view instead = {};  // what is checked in place of one step less, or of everything
+    std::string_view instead = {};  // what is checked instead of calls one step short, or of any call
 };
 
-// ways lists all ids, in their order.
+// ways returns an entry for each id, sorted by id.
 std::span<const Way> ways();
 
 class Follower {
  public:
-    // follow follows the reason of a refused call. It passes each further call and its answer to visit, and counts
-    // their steps. It returns a description of the fault, or an empty text. fault_call is the call that showed it.
+    // follow makes the calls that follow from the reason for a refusal. It passes each call and its answer to
+    // visit, and counts the steps. It returns a description of the first fault, or an empty string;
+    // fault_call then returns the call that showed the fault.
     std::string follow(const rules::Check& check, const Values& values, const rules::Build& build,
                        const rules::Answer& answer,
                        const std::function<void(const Values&, const rules::Answer&)>& visit,
                        rules::Counts* counts = nullptr);
 
-    // unproven lists the checks and ids whose reason did not occur in many calls with one step less.
+    // unproven lists the checks and ids whose reason never recurred, although many calls were one step short.
     [[nodiscard]] std::vector<std::string> unproven() const;
 
     [[nodiscard]] const Values& fault_call() const { return fault_call_; }
 
  private:
-    // Less counts the calls with one step less.
+    // Less counts the calls that were one step short.
     struct Less {
-        std::size_t same = 0;   // with the same reason
-        std::size_t other = 0;  // with another one, or none
+        std::size_t same = 0;   // refused for the same reason
+        std::size_t other = 0;  // refused for another reason, or accepted
     };
 
     std::size_t turn_ = 0;

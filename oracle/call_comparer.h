@@ -1,4 +1,4 @@
-// CallComparer: compares calls of the library with their descriptions.
+// Compares calls of the library's functions with their descriptions.
 #ifndef OSTREL_ORACLE_CALL_COMPARER_H
 #define OSTREL_ORACLE_CALL_COMPARER_H
 
@@ -14,17 +14,17 @@ namespace ostrel::oracle {
 
 class CallComparer {
  public:
-    // agrees makes the call twice, with every argument ending and with every argument beginning at an unreadable
-    // page. It compares the code, the output, how much was flushed, and the written arguments. The contract must cover
-    // the call.
+    // agrees makes the call twice: once with every argument ending at an unreadable page, and once with every
+    // argument beginning at one. It compares the code, the output, how much was flushed, and the written
+    // arguments. The contract must cover the call.
     bool agrees(const catalogue::Function& function, const std::vector<rules::Value>& values,
                 const rules::Answer& expected);
 
-    // difference describes the last call that differed: the function, the row of vectors/ that the description
-    // expects, and the row of what the library did.
+    // difference describes the last call that differed. It contains the function's name, the row of vectors/
+    // that the description expects, and the row for what the library did.
     [[nodiscard]] const std::string& difference() const { return difference_; }
 
-    // calls returns how often the library was called.
+    // calls returns the number of calls that were made.
     [[nodiscard]] std::size_t calls() const { return calls_; }
 
  private:
@@ -38,7 +38,7 @@ class CallComparer {
     std::size_t calls_ = 0;
 };
 
-// shown_call returns a call as in a row of vectors/, without the result.
+// shown_call returns a call in the form of a row of vectors/, without its result.
 std::string shown_call(const catalogue::Function& function, const std::vector<rules::Value>& values);
 
 }  // namespace ostrel::oracle

@@ -1,4 +1,4 @@
-// Contents: the bytes of accepted values, compared with what docs/hazards.md says about an argument.
+// Compares the bytes of accepted values with the bytes that docs/hazards.md lists for each argument.
 #ifndef OSTREL_ORACLE_CONTENTS_H
 #define OSTREL_ORACLE_CONTENTS_H
 
@@ -12,15 +12,16 @@
 
 namespace ostrel::oracle {
 
-// texts_of returns the texts of an argument.
+// texts_of returns the strings in an argument.
 std::vector<std::string> texts_of(const catalogue::Value& value);
 
 class Contents {
  public:
     explicit Contents(const catalogue::Function& function);
 
-    // fault names a byte of an accepted call in a place where docs/hazards.md does not list it, or returns an empty
-    // text. after has the final value of each argument that the function may write to, in order.
+    // fault describes a byte of an accepted call in a place where docs/hazards.md does not list it, or
+    // returns an empty string if there is none. after contains the final value of each argument that the
+    // function may write to, in order.
     [[nodiscard]] std::string fault(std::span<const catalogue::Value> values,
                                     std::span<const catalogue::Value> after) const;
 

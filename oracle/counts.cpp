@@ -19,7 +19,7 @@ using rules::Step;
 
 namespace {
 
-// In the order of the enumerations.
+// The names are in the order of the enumerators.
 constexpr std::string_view kSteps[] = {"refuse",   "accept", "print",    "skip",  "write",
                                        "remember", "when",   "for each", "reads", "never returns"};
 constexpr std::string_view kConditions[] = {"always",     "null",     "empty",     "shorter",     "longer",

@@ -1,4 +1,4 @@
-// Counts: a table of how often each step acted and each condition held.
+// A table of how often each step took effect and each condition was true.
 #ifndef OSTREL_ORACLE_COUNTS_H
 #define OSTREL_ORACLE_COUNTS_H
 
@@ -11,20 +11,20 @@
 
 namespace ostrel::oracle {
 
-// StepCount is how often a step acted or a condition held.
+// StepCount contains how often a step took effect or a condition was true.
 struct StepCount {
     std::string what;  // "LAN_check_ip_router step 0 refuse 402"
     std::uint64_t times = 0;
 };
 
-// table lists the steps and conditions of all checks, except conditions that always hold.
+// table lists the steps and conditions of all checks, except the condition "always".
 std::vector<StepCount> table(const rules::Counts& counts);
 
-// add_table adds the counts of an earlier run from a file, so that runs with several libraries make one table. Throws
-// std::runtime_error if the file does not match these descriptions.
+// add_table adds the counts of an earlier run from a file, so that runs with several libraries result in one
+// table. It throws std::runtime_error if the file does not match these descriptions.
 void add_table(const std::filesystem::path& file, std::vector<StepCount>& rows);
 
-// write_table writes the rows in the order of their counts. Throws std::runtime_error if it cannot.
+// write_table writes the rows sorted by count. It throws std::runtime_error if it cannot write the file.
 void write_table(const std::filesystem::path& file, std::vector<StepCount> rows);
 
 }  // namespace ostrel::oracle

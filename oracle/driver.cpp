@@ -20,7 +20,7 @@ bool is_list(const char* filename) { return driver != nullptr && filename == kLi
 
 }  // namespace
 
-// The functions of a program replace those of the C library, for the library under test too.
+// A function that a program defines replaces the C library's, in the library under test too.
 extern "C" {
 
 int system(const char* command)

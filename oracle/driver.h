@@ -1,5 +1,5 @@
-// Driver replaces the shell, the wireless driver's tool and the file of its channels. No program is run and no file is
-// written.
+// Replaces the shell, the wireless driver's tool and the file with its channel list. No program is run and no
+// file is written.
 #ifndef OSTREL_ORACLE_DRIVER_H
 #define OSTREL_ORACLE_DRIVER_H
 
@@ -9,7 +9,7 @@
 
 namespace ostrel::oracle {
 
-// Driver lists these channels while it exists. Only one may exist at a time.
+// Driver lists the given channels while it exists. Only one Driver may exist at a time.
 class Driver {
  public:
     explicit Driver(std::vector<int> channels);
@@ -17,7 +17,7 @@ class Driver {
     Driver& operator=(const Driver&) = delete;
     ~Driver();
 
-    // The effects of the C library's functions on the file.
+    // The replacements for the C library's functions call these functions for the list file.
     void write_list();
     std::FILE* open_list(const char* modes);
     void delete_list() { has_left_its_list_ = false; }

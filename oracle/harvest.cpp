@@ -25,7 +25,7 @@ class Harvest {
     }
 
  private:
-    // A number may be a limit of a number or of a length.
+    // A number in a description may limit a number or a length.
     void number(long long limit)
     {
         constexpr long long kLongest = 8000;
@@ -49,7 +49,7 @@ class Harvest {
         for (const Expression& operand : expression.of) this->expression(operand);
     }
 
-    // A realm is appended to each of the shapes that follow.
+    // A realm is appended to the examples of all later shapes.
     void suffix(std::string_view realm) { realms_.emplace(realm); }
 
     void shape(const rules::Shape& shape)

@@ -1,4 +1,4 @@
-// Harvest: texts to try, taken from a description: keywords, limits and their neighbours.
+// Collects strings to try from a description: keywords, and limits with their neighbours.
 #ifndef OSTREL_ORACLE_HARVEST_H
 #define OSTREL_ORACLE_HARVEST_H
 
@@ -9,7 +9,7 @@
 
 namespace ostrel::oracle {
 
-// harvest returns texts for a check and for the checks that it uses.
+// harvest returns strings to try with a check, from its description and those of the checks that it uses.
 std::set<std::string> harvest(const rules::Check& check, const rules::Build& build);
 
 }  // namespace ostrel::oracle

@@ -68,7 +68,7 @@ long long decode_number(std::string_view field, Kind kind)
     return is_unsigned ? static_cast<long long>(bits) : static_cast<int>(bits);
 }
 
-// reuse returns the text in a value, which keeps its memory if it was a text before.
+// reuse returns the string in a value. If the value was a string before, its memory is reused.
 std::string& reuse(Value& value)
 {
     auto* text = std::get_if<std::string>(&value);
@@ -114,7 +114,7 @@ void encode_text(std::string_view text, std::string& field)
         std::size_t left = end - i - 1;
         i = end;
         append_byte(field, byte);
-        // Short runs are easier to change as single bytes.
+        // Short runs are easier to mutate as single bytes.
         if (left < 4) {
             for (; left > 0; --left) append_byte(field, byte);
         }

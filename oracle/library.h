@@ -1,4 +1,4 @@
-// Library: the build of the loaded library, as the descriptions need it.
+// The build options of the loaded library, in the form that the descriptions need.
 #ifndef OSTREL_ORACLE_LIBRARY_H
 #define OSTREL_ORACLE_LIBRARY_H
 
@@ -9,11 +9,12 @@
 
 namespace ostrel::oracle {
 
-// library_build returns the build of the loaded library. For a variant, OSTREL_TEST_MODEL, OSTREL_TEST_ACCOUNT_REALM
-// and OSTREL_TEST_SETUP_REALM in the environment contain its options.
+// library_build returns the build of the loaded library. For a variant, the environment variables
+// OSTREL_TEST_MODEL, OSTREL_TEST_ACCOUNT_REALM and OSTREL_TEST_SETUP_REALM contain its options.
 const rules::Build& library_build();
 
-// builds_with_channels returns copies of that build with different lists of channels, for a Driver that lists them.
+// builds_with_channels returns copies of that build with different channel lists, for use with a Driver that
+// lists the same channels.
 const std::vector<rules::Build>& builds_with_channels();
 
 }  // namespace ostrel::oracle

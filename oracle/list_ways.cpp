@@ -1,4 +1,4 @@
-// Ways of lists, and of texts that depend on others.
+// Ways to follow reasons about lists, and about strings that depend on others.
 
 #include <algorithm>
 #include <numeric>
@@ -9,7 +9,7 @@ namespace ostrel::oracle {
 
 namespace {
 
-// with_items returns the text cut or extended to so many items.
+// with_items returns the list cut or extended to the given number of items.
 std::string with_items(std::string_view text, char separator, long long items)
 {
     std::string result(text);
@@ -33,7 +33,7 @@ void take_items(const Refusal& refusal, Advice& advice, char separator)
     advice.less.push_back(refusal.with(with_items(refusal.judged(), separator, items + 1)));
 }
 
-// different returns a text that does not occur in the other texts of the call.
+// different returns a string that does not occur in any string of the call.
 std::string different(const Refusal& refusal)
 {
     std::string result(refusal.judged());

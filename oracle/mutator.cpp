@@ -9,7 +9,7 @@ namespace ostrel::oracle {
 
 namespace {
 
-// kTelling contains the bytes at the limits of character classes, and separators.
+// kTelling contains separators and the bytes at the boundaries of character classes.
 constexpr char kTelling[] =
     "\0\1\2\3\t\n\x1F !\"#%&'()*+,-./0123456789:;<=>?@AFGZ[\\]^_`afgxz{|}~\x7F\x80\x9F\xA0\xA1\xE9\xFF";
 

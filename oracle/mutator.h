@@ -1,4 +1,4 @@
-// Mutator makes random inputs from others, the same ones in every run.
+// Mutator derives random inputs from seeds. The inputs are the same in every run.
 #ifndef OSTREL_ORACLE_MUTATOR_H
 #define OSTREL_ORACLE_MUTATOR_H
 
@@ -13,10 +13,10 @@ class Mutator {
     // seeds must not be empty.
     Mutator(std::vector<std::string> seeds, std::uint64_t seed);
 
-    // next returns a seed with some changes. It is valid until the next call.
+    // next returns a seed with some changes. The reference is valid until the next call.
     const std::string& next();
 
-    // This overload returns from with few changes or none.
+    // This overload returns a copy of from with few changes or none.
     const std::string& next(const std::string& from);
 
  private:

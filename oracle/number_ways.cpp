@@ -1,4 +1,4 @@
-// Ways of numbers.
+// Ways to follow reasons about numbers.
 
 #include <algorithm>
 #include <limits>
@@ -35,7 +35,7 @@ void lower_number(const Refusal& refusal, Advice& advice)
     add(refusal, advice.less, most + 1);
 }
 
-// "0" is the automatic channel, which the driver does not list.
+// "0" selects the automatic channel, which is accepted although the driver does not list it.
 void take_number(const Refusal& refusal, Advice& advice)
 {
     const std::vector<long long> numbers = refusal.allowed_numbers();
@@ -74,7 +74,7 @@ void leave_range(const Refusal& refusal, Advice& advice)
     add(refusal, advice.followed, limits.at(1) + 1);
 }
 
-// The int that the number is read as is refused too.
+// The int as which the number is read is refused too.
 void fit_int(const Refusal& refusal, Advice& advice)
 {
     for (const long long number : refusal.some(refusal.allowed_numbers()))
@@ -84,7 +84,7 @@ void fit_int(const Refusal& refusal, Advice& advice)
     add(refusal, advice.less, refusal.reason().read_as.value());
 }
 
-// No number is allowed.
+// No number is allowed, so each is refused again.
 void any_number(const Refusal& refusal, Advice& advice)
 {
     for (const long long number : {1, 6, 11}) add(refusal, advice.less, number);

@@ -13,7 +13,8 @@ using rules::Value;
 
 namespace {
 
-// written_text returns the contents of a buffer after the call.
+// written_text returns the contents of a buffer after the call, or NULL if the call does not write text to
+// it.
 const std::string* written_text(const rules::Check& check, const rules::Answer& answer, std::size_t argument)
 {
     std::size_t written = 0;
@@ -29,7 +30,8 @@ bool converts(const rules::Check& check)
     });
 }
 
-// referred returns a text that the conversion turns into this one: each "&" becomes a character reference.
+// referred returns a text that the conversion turns into the given one, by writing each "&" as a character
+// reference.
 std::string referred(std::string_view text)
 {
     std::string result;
@@ -92,7 +94,7 @@ Values Refusal::with_byte(char byte) const
     return with_whole(std::string(whole_).replace(reason().offset.value(), 1, 1, byte));
 }
 
-// with_number preserves the width of the number, because a field of a date needs it.
+// with_number preserves the width of the number, because the fields of a date have a fixed width.
 Values Refusal::with_number(long long number) const
 {
     if (!is_text_) return with_argument(reason().argument.value(), number);

@@ -1,4 +1,4 @@
-// Refusal: a refused call, and the calls that follow its reason.
+// A refused call, and the calls that follow from its reason.
 #ifndef OSTREL_ORACLE_REFUSAL_H
 #define OSTREL_ORACLE_REFUSAL_H
 
@@ -15,23 +15,24 @@ using Values = std::vector<rules::Value>;
 
 class Refusal {
  public:
-    // turn selects some of the ways if there are too many to try all. Pass a different one each time.
+    // turn selects some of the alternatives if there are too many to try all of them. Pass a different number
+    // each time.
     Refusal(const rules::Check& check, const Values& values, const rules::Answer& answer, std::size_t turn);
 
     [[nodiscard]] const rules::Reason& reason() const { return answer_.reason; }
 
-    // judged returns the text that was judged, a part of the argument's text.
+    // judged returns the part of the argument's text that was judged.
     [[nodiscard]] std::string_view judged() const;
     [[nodiscard]] bool is_text() const { return is_text_; }
 
     // byte returns the byte at the reason's offset.
     [[nodiscard]] std::optional<char> byte() const;
 
-    // What the reason allows, as a list.
+    // These functions return what the reason allows, as a list.
     [[nodiscard]] std::vector<long long> allowed_numbers() const;
     [[nodiscard]] std::vector<std::string> allowed_texts() const;
 
-    // some returns at most so many items of a list.
+    // some returns at most the given number of items of a list.
     template <typename T>
     [[nodiscard]] std::vector<T> some(const std::vector<T>& all, std::size_t most = 3) const
     {
@@ -42,19 +43,19 @@ class Refusal {
         return result;
     }
 
-    // The call with a replacement for what was judged, for the byte at the offset, for the number in what was judged,
-    // for the whole text that the offset counts in, or for an argument.
+    // These functions return the call with one part replaced: the judged part, the byte at the offset, the
+    // number in the judged part, the whole text to which the offset refers, or an argument.
     [[nodiscard]] Values with(std::string_view judged) const;
     [[nodiscard]] Values with_byte(char byte) const;
     [[nodiscard]] Values with_number(long long number) const;
     [[nodiscard]] Values with_whole(std::string whole) const;
     [[nodiscard]] Values with_argument(std::size_t argument, rules::Value value) const;
 
-    // takes returns whether the argument's type, int or unsigned, can hold a number.
+    // takes returns whether the argument's type, int or unsigned, can represent a number.
     [[nodiscard]] bool takes(long long number) const;
 
     [[nodiscard]] const std::string& whole() const { return whole_; }
-    [[nodiscard]] std::size_t begin() const { return begin_; }  // of what was judged
+    [[nodiscard]] std::size_t begin() const { return begin_; }  // of the judged part
     [[nodiscard]] const Values& values() const { return values_; }
 
  private:

@@ -1,4 +1,4 @@
-// Ways of texts: lengths, bytes, words and shapes.
+// Ways to follow reasons about the lengths, bytes, words and shapes of strings.
 
 #include <algorithm>
 
@@ -8,7 +8,7 @@ namespace ostrel::oracle {
 
 namespace {
 
-constexpr long long kLongest = 8192;  // longer texts are not tried
+constexpr long long kLongest = 8192;  // longer strings are not tried
 
 std::string resized(std::string_view text, long long size)
 {
@@ -62,7 +62,7 @@ void take_misses(const Refusal& refusal, std::vector<Values>& calls)
 
 }  // namespace
 
-// If the most is negative, no text is allowed.
+// If the greatest length is negative, no string is allowed.
 void cut(const Refusal& refusal, Advice& advice)
 {
     const long long most = refusal.allowed_numbers().at(0);
@@ -95,7 +95,7 @@ void take_length(const Refusal& refusal, Advice& advice)
     }
 }
 
-// A key has 10 digits or 26, so the other length is one step less.
+// A key has 10 or 26 digits, so a key with the wrong one of these lengths is one step short.
 void take_other_length(const Refusal& refusal, Advice& advice)
 {
     const long long length = refusal.allowed_numbers().at(0);
@@ -117,8 +117,8 @@ void give_what_is_null(const Refusal& refusal, Advice& advice)
         advice.followed.push_back(refusal.with_argument(refusal.reason().argument.value(), text));
 }
 
-// A byte outside the set may end a part or an item, so that another part or item is judged. A byte that no shape has
-// may be accepted if it is not printable.
+// A byte outside the set may end a part or an item, so that another part or item is judged. A byte that fits
+// no shape may still be accepted if it is not printable.
 void replace_byte(const Refusal& refusal, Advice& advice)
 {
     const rules::Reason& reason = refusal.reason();
@@ -166,7 +166,7 @@ void leave_word(const Refusal& refusal, Advice& advice)
         advice.less.push_back(refusal.with(word));
 }
 
-// One step less has another last byte in the prefix.
+// A value one step short differs only in the last byte of the prefix.
 void begin_with(const Refusal& refusal, Advice& advice)
 {
     const std::string judged(refusal.judged());
@@ -210,7 +210,7 @@ void name_with_letter(const Refusal& refusal, Advice& advice)
     advice.less.push_back(refusal.with(name));
 }
 
-// The path begins at the offset, and the first ":" is after what was judged.
+// The path begins at the offset, and the first ":" directly follows the judged part.
 void leave_colons(const Refusal& refusal, Advice& advice)
 {
     const std::size_t first = refusal.begin() + refusal.judged().size();

@@ -1,4 +1,4 @@
-// Ways: how the reasons of each id are followed. Only advice.cpp uses them.
+// The functions that follow reasons. Only the table in advice.cpp uses them.
 #ifndef OSTREL_ORACLE_WAYS_H
 #define OSTREL_ORACLE_WAYS_H
 
@@ -6,7 +6,7 @@
 
 namespace ostrel::oracle {
 
-// Texts.
+// For reasons about strings.
 void cut(const Refusal& refusal, Advice& advice);
 void fill(const Refusal& refusal, Advice& advice);
 void take_length(const Refusal& refusal, Advice& advice);
@@ -26,7 +26,7 @@ void add_part(const Refusal& refusal, Advice& advice);
 void name_with_letter(const Refusal& refusal, Advice& advice);
 void leave_colons(const Refusal& refusal, Advice& advice);
 
-// Lists.
+// For reasons about lists.
 void take_unlisted(const Refusal& refusal, Advice& advice);
 void make_different(const Refusal& refusal, Advice& advice);
 void begin_like_subnet(const Refusal& refusal, Advice& advice);
@@ -37,7 +37,7 @@ void take_second_server(const Refusal& refusal, Advice& advice);
 void take_other_server(const Refusal& refusal, Advice& advice);
 void give_key(const Refusal& refusal, Advice& advice);
 
-// Numbers.
+// For reasons about numbers.
 void raise_number(const Refusal& refusal, Advice& advice);
 void lower_number(const Refusal& refusal, Advice& advice);
 void take_number(const Refusal& refusal, Advice& advice);
