@@ -13,8 +13,7 @@ using rules::Value;
 
 namespace {
 
-// written_text returns the contents of a buffer after the call, or NULL if the call does not write text to
-// it.
+// written_text returns the contents of a buffer after the call, or NULL if no string is written to it.
 const std::string* written_text(const rules::Check& check, const rules::Answer& answer, std::size_t argument)
 {
     std::size_t written = 0;
@@ -30,7 +29,7 @@ bool converts(const rules::Check& check)
     });
 }
 
-// referred returns a text that the conversion turns into the given one, by writing each "&" as a character
+// referred returns a string that the conversion turns into the given one, by writing each "&" as a character
 // reference.
 std::string referred(std::string_view text)
 {

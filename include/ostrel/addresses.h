@@ -19,8 +19,8 @@
 OSTREL_API int TcmValidateIPAddress(const char* value);
 
 /*
- * TcmValidateMACaddress: an IEEE 802 MAC address of 17 characters: six octets, each of two hexadecimal digits
- * in either case, separated by ":".
+ * TcmValidateMACaddress: an IEEE 802 MAC address of 17 characters, written as six octets of two hexadecimal
+ * digits each, in either case, separated by ":".
  *
  * NULL is invalid. A value of any other length is invalid, and nothing is printed. Otherwise, if the first
  * fault is some other character where a ":" is required, that character is written to standard output,

@@ -39,8 +39,8 @@ OSTREL_API int ValidateDay(int year, unsigned month, int day);
 OSTREL_API int TcmValidateTime(const char* value);
 
 /*
- * TcmValidateDaylightSavingsTime: the time at which daylight saving starts or ends: a date-time as for
- * TcmValidateTime, or a switch-over without a year, in which 29 February is always valid.
+ * TcmValidateDaylightSavingsTime: the time at which daylight saving starts or ends, as a date-time (see
+ * TcmValidateTime) or as a switch-over without a year, in which 29 February is always valid.
  */
 OSTREL_API int TcmValidateDaylightSavingsTime(const char* value);
 

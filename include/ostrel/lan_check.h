@@ -3,7 +3,7 @@
  *
  * Values are NUL-terminated byte strings of any length; only LAN_check_add_allowedMACAddress changes one. A
  * check that refuses a value writes one line to standard output and flushes all output streams. The line
- * begins with "Error in <its own name>: " and ends in two newlines. A check that accepts a value prints
+ * begins with "Error in <name of the check>: " and ends in two newlines. A check that accepts a value prints
  * nothing unless stated otherwise.
  *
  * Each check with one argument, except LAN_check_passthrough_MAC_address, asserts that the argument is not

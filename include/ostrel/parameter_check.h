@@ -3,7 +3,7 @@
  *
  * value_p is the value, a NUL-terminated byte string of any length; no check changes it. A check that prints
  * writes one line to standard output when it refuses a value, and then flushes all output streams. The line
- * begins with "Error in <its own name>: ". Output from a primitive that a check calls is not flushed.
+ * begins with "Error in <name of the check>: ". Output from a primitive that a check calls is not flushed.
  *
  * Where a NULL value is documented to fail an assertion, the C library's assertion hook reports it and ends
  * the process, in every build type. The report contains the condition "value_p != ((void *)0)" unless stated
@@ -24,7 +24,7 @@
  *   "Error in %s: The length of string:%s shoud not be less than %d\n" with the value and min_len;
  * OSTREL_TOO_LONG:
  *   "Error in %s: The length of string:%s shoud not be more than %d\n" with the value and max_len.
- * PARAM_check_string_len compares unsigned numbers and is silent.
+ * PARAM_check_string_len compares unsigned numbers and prints nothing.
  */
 OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_len);
 
@@ -68,7 +68,8 @@ OSTREL_API int PARAM_check_MACAddress(const char* value_p);
 OSTREL_API int PARAM_check_transport_protocol(const char* value_p);
 
 /*
- * PARAM_get_protocol_from_name: the number of a protocol: 0 for "TCP", 1 for "UDP", 2 for anything else.
+ * PARAM_get_protocol_from_name: returns the number of a protocol: 0 for "TCP", 1 for "UDP" and 2 for anything
+ * else.
  *
  * Unlike PARAM_check_transport_protocol, it is case-sensitive: the result for "tcp" is 2. Prints nothing.
  */
@@ -152,7 +153,7 @@ OSTREL_API int PARAM_check_password(const char* value_p, int min_len, int max_le
  * PARAM_check_string_len: a length of min_len to max_len bytes, compared as unsigned numbers: a negative
  * limit becomes a very large one. Prints nothing.
  *
- * Returns 0 or OSTREL_INVALID. Param_check_string_len compares signed numbers and prints.
+ * Returns 0 or OSTREL_INVALID. Param_check_string_len compares signed numbers and prints a line.
  */
 OSTREL_API int PARAM_check_string_len(const char* value_p, unsigned min_len, unsigned max_len);
 
@@ -165,8 +166,8 @@ OSTREL_API int PARAM_check_string_len(const char* value_p, unsigned min_len, uns
 OSTREL_API int PARAM_check_string_prefix(const char* value_p, const char* first_chars);
 
 /*
- * PARAM_check_dl_test_bufsize: the buffer size of a download test in bytes: 1 to 1048576, written in decimal
- * digits only.
+ * PARAM_check_dl_test_bufsize: the buffer size of a download test, from 1 to 1048576 bytes, written in
+ * decimal digits only.
  *
  * Returns 0, or:
  * OSTREL_OUT_OF_RANGE: the value is NULL or empty, or its number overflows to a negative one (nothing is

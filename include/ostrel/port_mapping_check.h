@@ -27,7 +27,7 @@ OSTREL_API int PORTMAPPING_check_remote_host(const char* value_p);
  * PORTMAPPING_check_external_port: a port that PARAM_check_port accepts and that is not the wildcard.
  *
  * Returns 0, or:
- * OSTREL_WILDCARD_EXTERNAL_PORT: NULL or the empty value, after printing
+ * OSTREL_WILDCARD_EXTERNAL_PORT: the value is NULL or empty, after printing
  *   "Error in %s: The remote host should not be wildcard\n", which refers to the port;
  * OSTREL_OUT_OF_RANGE: PARAM_check_port refuses the port and prints its line under its own name.
  */
@@ -54,7 +54,7 @@ OSTREL_API int PORTMAPPING_check_external_port(const char* value_p);
 OSTREL_API int PORTMAPPING_check_port_available(const char* port, int protocol);
 
 /*
- * PORTMAPPING_check_description: a description that TcmValidatePortMappingDescription accepts: 1 to 32
+ * PORTMAPPING_check_description: a description that TcmValidatePortMappingDescription accepts, with 1 to 32
  * characters, each from 0x20 to 0x7E. value_p must not be NULL.
  *
  * Returns 0, or prints "Error in %s: Error port mapping description:%s\n\n" with the value and returns

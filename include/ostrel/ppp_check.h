@@ -3,7 +3,7 @@
  *
  * value is a NUL-terminated byte string of any length and must not be NULL; no check changes it. A check that
  * refuses a value writes one line to standard output and flushes all output streams. The line begins with
- * "Error in <its own name>: " and ends in two newlines. A check that accepts a value prints nothing.
+ * "Error in <name of the check>: " and ends in two newlines. A check that accepts a value prints nothing.
  */
 #ifndef OSTREL_PPP_CHECK_H
 #define OSTREL_PPP_CHECK_H

@@ -21,10 +21,10 @@
  * tzone_name: a caller-owned buffer, of at least 55 bytes if it may be filled in.
  *
  * If both are empty, the result is 0.
- * If only tzone_name is empty, it receives the name of the first row whose offset contains tzone: for
- * "+01:00" that is "Amsterdam, Berlin, Bern, Rome, Stockholm, Vienna", and for "01:00" it is "Azores".
- * If only tzone is empty, it receives the offset of the first row whose name contains tzone_name: for "Tokyo"
- * that is "+09:00".
+ * If only tzone_name is empty, it receives the name of the first row whose offset contains tzone, which
+ * is "Amsterdam, Berlin, Bern, Rome, Stockholm, Vienna" for "+01:00", and "Azores" for "01:00".
+ * If only tzone is empty, it receives the offset of the first row whose name contains tzone_name, which is
+ * "+09:00" for "Tokyo".
  * If neither is empty, a row must have exactly that offset and a name that contains tzone_name.
  * A buffer is written only on success, and no byte after the terminator is changed.
  *

@@ -17,8 +17,8 @@
 OSTREL_API int TcmValueisValid(const char* value, const char* allowed);
 
 /*
- * TcmValidatePSK: a WPA pre-shared key in its raw form (IEEE 802.11, the 256-bit PSK): 64 characters of
- * CHARSET_HEX.
+ * TcmValidatePSK: a WPA pre-shared key in its raw form (IEEE 802.11, the 256-bit PSK), which is 64 characters
+ * from CHARSET_HEX.
  *
  * Returns 0, or the code of the first test that fails: OSTREL_WRONG_FORM if the value has any other length
  * (the empty value included), or OSTREL_FORBIDDEN_CHARACTER.
@@ -26,8 +26,8 @@ OSTREL_API int TcmValueisValid(const char* value, const char* allowed);
 OSTREL_API int TcmValidatePSK(const char* value);
 
 /*
- * TcmValidateKPP: a WPA pass phrase (IEEE 802.11, annex on the pass-phrase mapping): 8 to 63 characters of
- * CHARSET_ASCII_PRINTABLE.
+ * TcmValidateKPP: a WPA pass phrase (IEEE 802.11, annex on the pass-phrase mapping) of 8 to 63 characters
+ * from CHARSET_ASCII_PRINTABLE.
  *
  * Returns 0, or the code of the first test that fails: OSTREL_TOO_SHORT (also for the empty value),
  * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER. Both limits on the length are tested before any character is

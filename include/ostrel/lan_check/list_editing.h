@@ -21,8 +21,8 @@
  *              and a terminator are appended. The buffer changes only if 0 is returned.
  *
  * Returns 0 or OSTREL_INVALID. If either pointer is NULL, returns OSTREL_INVALID and prints nothing.
- * Otherwise, prints the line of the first test that fails: macAddress occurs anywhere in the list (the empty
- *   string always does):
+ * Otherwise, prints the line of the first test that fails:
+ *   macAddress occurs anywhere in the list (the empty string always does):
  *     "Error in %s: Add existed mac address: %s to %s\n\n" with the address and the list;
  *   the length of macAddress is wrong:
  *     "Error in %s: Add mac address invalid length: %s\n\n" with the address;

@@ -22,16 +22,16 @@ OSTREL_API int HNAPCORE_check_username(const char* value);
  * nothing.
  *
  * offset_out: a caller-owned buffer that receives the text after "UTC", or "+00:00" if there is none, and a
- *             terminator. It must have room for both, and at least 7 bytes. The text after "UTC" is not
- *             examined. The buffer is unchanged on failure and must not overlap the value.
+ *             terminator. It must have room for both and be at least 7 bytes long. The text after "UTC" is
+ *             not examined. The buffer is unchanged on failure and must not overlap the value.
  *
  * Returns 0 or OSTREL_INVALID.
  */
 OSTREL_API int HNAPCORE_check_timezone(const char* value, char* offset_out);
 
 /*
- * HNAPCORE_check_locale: a locale of the user interface, in any mixture of upper and lower case: en-us,
- * fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl or th-th (RFC 5646 tags). Prints nothing.
+ * HNAPCORE_check_locale: a locale of the user interface (RFC 5646 tag): en-us, fr-ca, fr-fr, de-de, es-es,
+ * it-it, nl-nl, sv-se, ar-sa, pl-pl or th-th, in any mixture of upper and lower case. Prints nothing.
  *
  * Returns 0 or OSTREL_INVALID.
  */

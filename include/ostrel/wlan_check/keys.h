@@ -65,8 +65,8 @@ OSTREL_API int WLAN_check_wepkeys(char* keys);
  *
  *   type                                       key
  *   "WPA-PSK", "WPA2-PSK", "WPA-AUTO-PSK"      as for TcmValidatePSK or TcmValidateKPP
- *   "WEP-OPEN", "WEP-SHARED", "WEP-RADIUS"     10 characters with "WEP-64" or 26 with "WEP-128", each of
- *                                              0x20 to 0x7E: hexadecimal digits are not required
+ *   "WEP-OPEN", "WEP-SHARED", "WEP-RADIUS"     10 characters with "WEP-64" or 26 with "WEP-128", each from
+ *                                              0x20 to 0x7E; hexadecimal digits are not required
  *   "WPA-RADIUS", "WPA2-RADIUS",
  *   "WPA-AUTO-RADIUS"                          not examined
  *
