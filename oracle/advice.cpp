@@ -14,7 +14,8 @@ using rules::Reason;
 
 namespace {
 
-constexpr std::size_t kEnough = 1000;  // calls one step short after which a reason must have recurred
+// kEnough is the number of calls one step short after which the same reason must have recurred.
+constexpr std::size_t kEnough = 1000;
 constexpr std::string_view kNobody = "no check has it: that none is met";
 constexpr std::string_view kPutBack = "what was refused, put back, is one step less";
 constexpr std::string_view kOutside = "the contract does not cover such a call, and it is not made";
@@ -105,8 +106,8 @@ const Way* way_of(std::string_view id)
     return way == std::end(kWays) || way->id != id ? nullptr : way;
 }
 
-// data_fault describes what is wrong with a reason that reports something that the value does not contain, or
-// whose sentence lacks its number. Otherwise it returns an empty string.
+// data_fault returns a description if a reason reports something that the value does not contain, or if its
+// sentence lacks the reported number. Otherwise it returns an empty string.
 std::string data_fault(const Refusal& refusal)
 {
     const Reason& reason = refusal.reason();

@@ -1,7 +1,7 @@
 // Follows each reason as a user who reads its sentence would. If the advice is followed, the same reason must
-// not occur again. If it is followed one step short, for example with a number one above the limit, the
-// reason must recur. This finds false reasons even in a description that agrees with the library in every
-// code.
+// not occur again. A call that falls one step short of the advice, for example with a number one above the
+// limit, must be refused for the same reason. This finds false reasons even in a description that agrees with
+// the library in every code.
 #ifndef OSTREL_ORACLE_ADVICE_H
 #define OSTREL_ORACLE_ADVICE_H
 
@@ -31,7 +31,7 @@ struct Advice {
 struct Way {
     std::string_view id;
     void (*advise)(const Refusal& refusal, Advice& advice);
-    std::string_view instead = {};  // what is checked instead of calls one step short, or of any call
+    std::string_view instead = {};  // what replaces the calls one step short, or why no call is made
 };
 
 // ways returns an entry for each id, sorted by id.

@@ -21,7 +21,7 @@ class CallComparer {
                 const rules::Answer& expected);
 
     // difference describes the last call that differed. It contains the function's name, the row of vectors/
-    // that the description expects, and the row for what the library did.
+    // that the description expects, and a row for what the library did.
     [[nodiscard]] const std::string& difference() const { return difference_; }
 
     // calls returns the number of calls that were made.

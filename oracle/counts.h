@@ -11,7 +11,7 @@
 
 namespace ostrel::oracle {
 
-// StepCount contains how often a step took effect or a condition was true.
+// StepCount is the number of times that a step took effect or a condition was true.
 struct StepCount {
     std::string what;  // "LAN_check_ip_router step 0 refuse 402"
     std::uint64_t times = 0;

@@ -20,7 +20,7 @@ bool is_list(const char* filename) { return driver != nullptr && filename == kLi
 
 }  // namespace
 
-// A function that a program defines replaces the C library's, in the library under test too.
+// A function defined in a program replaces the C library's function, in the library under test too.
 extern "C" {
 
 int system(const char* command)

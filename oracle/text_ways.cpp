@@ -62,7 +62,7 @@ void take_misses(const Refusal& refusal, std::vector<Values>& calls)
 
 }  // namespace
 
-// If the greatest length is negative, no string is allowed.
+// If the maximum length is negative, no string is allowed.
 void cut(const Refusal& refusal, Advice& advice)
 {
     const long long most = refusal.allowed_numbers().at(0);

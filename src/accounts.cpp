@@ -35,8 +35,8 @@ constexpr Text kOtherUserName = text(1, 131, kLatin1Printable);
 
 constexpr int kNoType = 0;
 
-// account_type returns the type of a name that has 18 to 30 characters before the account realm, of which at most two
-// are "#".
+// account_type returns the type of a name that has 18 to 30 characters before the account realm, at most two
+// of them "#".
 int account_type(std::string_view part, int separators)
 {
     const std::size_t length = part.size();

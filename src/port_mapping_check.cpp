@@ -23,12 +23,12 @@ constexpr int kUdp = 1;
 constexpr int kReservedTcpPorts[] = {80, 161, 443, 1723, 1728, 6667, 7547, -1};
 constexpr int kReservedUdpPorts[] = {161, 5060, -1};
 
-// The UDP ports for the media of the voice service.
+// The UDP ports for voice media.
 constexpr int kFirstMediaPort = 54000;
 constexpr int kLastMediaPort = 54999;
 
-// is_port_reserved and is_wan_udp_port_available print a line under their own names if a port is taken; the calling
-// check then prints a second one.
+// is_port_reserved and is_wan_udp_port_available print a line under their own names if a port is reserved.
+// The calling check then prints a second line.
 bool is_port_reserved(const char* value_p, const int* reserved)
 {
     require_value(value_p, kModule);

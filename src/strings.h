@@ -14,8 +14,8 @@ namespace ostrel {
 // not fit in an int.
 int validate_length(int min_len, int max_len, std::size_t length);
 
-// Text packs the limits of a length and the allowed set into one number, because compilers load a structure
-// from memory but encode a number in the instruction.
+// Text packs the length limits and the allowed set into one number, because compilers load a structure from
+// memory but encode a number in the instruction.
 enum class Text : std::uint32_t {};
 
 constexpr Text text(std::uint8_t min_len, std::uint8_t max_len, CharSet allowed)

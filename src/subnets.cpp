@@ -51,8 +51,8 @@ std::string_view trim(std::string_view text)
     return text;
 }
 
-// is_repeated returns whether the item occurs anywhere in the rest of the list, provided that the rest has the item's
-// length or has a "," at that offset.
+// is_repeated returns whether the item occurs anywhere in the rest of the list, provided that the rest has
+// the item's length or has a "," at that offset.
 //
 // The search compares the last byte of a possible match first, because the items of most lists differ there.
 // At a ",", it skips the length of an item, because no match contains a ",".

@@ -26,12 +26,12 @@ const char* row_after(const char* row)
     return name + std::strlen(name) + 1;
 }
 
-// The three lookups stop at the first row that matches, byte by byte, and print a line if none does. Any substring of a
-// name matches. The analyzer cannot see that an empty row ends the table.
+// The three lookups compare byte by byte, stop at the first row that matches, and print a line if none does.
+// Any substring of a name matches. The analyzer cannot see that an empty row ends the table.
 // NOLINTBEGIN(clang-analyzer-security.ArrayBound)
 
-// get_tzone_name_by_tzone copies the name of the first row whose offset contains tzone, at most 55 bytes including the
-// terminator. A substring of an offset is sufficient: "01:00" finds "-01:00".
+// get_tzone_name_by_tzone copies the name of the first row whose offset contains tzone, at most 55 bytes
+// including the terminator. A substring of an offset is sufficient: "01:00" finds "-01:00".
 int get_tzone_name_by_tzone(const char* tzone, char* name_out)
 {
     for (const char* row = kTimeZones; *row != '\0'; row = row_after(row)) {
@@ -43,8 +43,8 @@ int get_tzone_name_by_tzone(const char* tzone, char* name_out)
     return refuse(OSTREL_WRONG_FORM, "Error in %s: Error Time Zone:%s\n\n", __func__, tzone);
 }
 
-// get_tzone_by_tzone_name copies the offset, 7 bytes including the terminator, of the first row whose name contains
-// name.
+// get_tzone_by_tzone_name copies the offset, 7 bytes including the terminator, of the first row whose name
+// contains name.
 int get_tzone_by_tzone_name(char* tzone_out, const char* name)
 {
     for (const char* row = kTimeZones; *row != '\0'; row = row_after(row)) {

@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 
-// The hook is declared here because <assert.h> does not declare it if NDEBUG is defined. uClibc is tested first,
-// because it also claims to be glibc.
+// The hook is declared here because <assert.h> does not declare it if NDEBUG is defined. uClibc is tested for
+// first, because it also claims to be glibc.
 extern "C" {
 #if defined(__UCLIBC__)
 // NOLINTNEXTLINE(readability-redundant-declaration)  it is redundant where NDEBUG is not defined

@@ -47,7 +47,8 @@ consteval bool is_subset(const char* members, const char* of)
     return true;
 }
 
-// char_set returns the set with these members, in any order. If there is no such set, the call does not compile.
+// char_set returns the set with the given members, which may be in any order. If there is no such set, the
+// call does not compile.
 consteval CharSet char_set(const char* members)
 {
     unsigned bit = 0;

@@ -1,4 +1,4 @@
-// Reads the number at the start of a string as atoi does.
+// Reads the number at the start of a string, as atoi does.
 #ifndef OSTREL_SUPPORT_NUMBER_H
 #define OSTREL_SUPPORT_NUMBER_H
 

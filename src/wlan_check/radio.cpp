@@ -72,7 +72,7 @@ bool is_5_ghz_channel(int channel)
     }
 }
 
-// is_listed_by_driver calls the wireless driver's tool, which lists the channels that are allowed at that moment.
+// is_listed_by_driver calls the wireless driver's tool, which lists the channels that are currently allowed.
 bool is_listed_by_driver(int channel)
 {
     // The exit status is ignored, because only the list matters.
