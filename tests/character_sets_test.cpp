@@ -1,4 +1,4 @@
-// The character sets: their exact sizes, and every byte against every set.
+// Tests the exact size of each character set, and every byte against every set.
 
 #include <gtest/gtest.h>
 #include <ostrel/character_sets.h>

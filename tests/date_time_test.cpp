@@ -12,7 +12,7 @@ namespace ostrel::tests {
 
 namespace {
 
-// is_calendar_day uses the calendar of the C++ library. The check has no lower bound for the day, hence the first line.
+// is_calendar_day uses the calendar of the C++ library. Like ValidateDay, it has no lower bound for the day.
 bool is_calendar_day(int year, unsigned month, int day)
 {
     if (day < 1) return month >= 1 && month <= 12;
@@ -21,7 +21,7 @@ bool is_calendar_day(int year, unsigned month, int day)
         .ok();
 }
 
-// padded returns the number with leading zeros; it must not have more than width digits.
+// padded adds leading zeros to a number of at most width digits.
 template <typename Number>
 std::string padded(Number number, std::size_t width)
 {
@@ -43,7 +43,7 @@ TEST(ValidateDay, EveryDayOfFourHundredYears)
     }
 }
 
-// The leap-year rule is the same for years below and above 0.
+// The leap-year rule is the same for negative and positive years.
 TEST(ValidateDay, LeapDaysOfNegativeYears)
 {
     for (int year = -800; year <= 800; ++year) {
@@ -84,7 +84,7 @@ TEST(TcmValidateDaylightSavingsTime, EveryDayWithoutAYear)
     }
 }
 
-// Each hour and minute is an offset, and the number of accepted texts shows that there are no others.
+// Every offset below 13:00 is valid, and the number of accepted strings shows that no other string is.
 TEST(TcmValidateTimeZoneFormate, EverySixCharactersOfItsAlphabet)
 {
     for (const char* sign : {"+", "-"}) {

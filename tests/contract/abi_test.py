@@ -1,4 +1,4 @@
-"""The interface of the library matches the committed one, and a change would be detected.
+"""Tests that the library's interface matches the committed one, and that a change is detected.
 
 usage: abi_test.py LIBRARY SOURCE_DIR
 """

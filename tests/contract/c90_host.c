@@ -1,4 +1,4 @@
-/* A host in C90 that is linked with the library and calls some of its functions. */
+/* A C90 host that is linked with the library and calls some of its functions. */
 #include <ostrel/check.h>
 #include <stdio.h>
 #include <string.h>

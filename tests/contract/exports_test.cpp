@@ -1,4 +1,5 @@
-// The export list, the public headers, the catalogue and the loaded library all name the same functions and data.
+// Tests that the export list, the public headers, the catalogue and the loaded library name the same functions
+// and data.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -32,7 +33,7 @@ std::string contents(const std::filesystem::path& path)
 
 bool is_name_character(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; }
 
-// names_before returns the name that ends at each of the marks.
+// names_before returns the name before each of the marks.
 std::vector<std::string> names_before(const std::string& text, std::string_view marks)
 {
     std::vector<std::string> names;
@@ -59,7 +60,7 @@ std::vector<std::string> catalogue_names()
     return names;
 }
 
-// public_headers returns the paths as hosts include them, without api.h, which declares nothing.
+// public_headers returns the paths as hosts include them, except that of api.h, which declares nothing.
 std::vector<std::string> public_headers()
 {
     const std::filesystem::path root = OSTREL_SOURCE_DIR "/include";
@@ -145,7 +146,7 @@ TEST(Exports, EachEntryIsTheFunctionOfItsName)
     EXPECT_EQ(static_cast<const void*>(ostrel_ctype), dlsym(RTLD_DEFAULT, "ostrel_ctype"));
 }
 
-// Every name comes from the library's file, or from the variant's file if LD_LIBRARY_PATH selects a variant.
+// Every name must be defined in the library's file, or in the variant's if LD_LIBRARY_PATH selects one.
 TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
 {
     const char* asked_for = std::getenv("LD_LIBRARY_PATH");  // NOLINT(concurrency-mt-unsafe)
@@ -163,7 +164,7 @@ TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
     dlclose(library);
 }
 
-// The name of each result code and its meaning.
+// The catalogue must have the header's name and a meaning for each result code.
 TEST(ResultCodes, HaveTheNamesOfTheHeaderAndAMeaning)
 {
     const std::string header = contents(OSTREL_SOURCE_DIR "/include/ostrel/result_code.h");

@@ -1,4 +1,4 @@
-"""Each public header compiles alone and when included twice, as C90 and as C++, with every compiler given.
+"""Tests that each public header compiles alone and when included twice, as C90 and as C++, with each given compiler.
 
 usage: headers_test.py SOURCE_DIR COMPILER...
 

@@ -1,5 +1,5 @@
-// A host that defines functions with the library's names, as real hosts do: calls inside the library still reach the
-// library's own functions.
+// A host that defines functions with the library's names, as real hosts do. Calls inside the library must
+// still reach the library's own functions.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ int impostor_answer()
 
 }  // namespace
 
-// The host's functions. Each returns a value that no function of the library returns.
+// The host's functions, each of which returns a value that no function of the library returns.
 int ValidateString(int /*min_len*/, int /*max_len*/, const char* /*charset*/, const char* /*value*/)
 {
     return impostor_answer();

@@ -1,5 +1,6 @@
-// Passes hostile values in every text argument of every function, each next to an unreadable page, with a time limit:
-// no crash, no access beyond the value, no answer that the catalogue does not list, linear time.
+// Passes hostile values, each next to an unreadable page, as every text argument of every function. No call
+// may crash, access memory outside its values, return a code that the catalogue does not list, or exceed a
+// time limit that only linear time can meet.
 
 #include <gtest/gtest.h>
 
@@ -28,7 +29,7 @@ namespace {
 
 constexpr std::size_t kShort = std::size_t{1} << 12;
 
-// long_size returns OSTREL_LONGEST_TEXT from the environment, or a megabyte if it is not set.
+// long_size returns the environment variable OSTREL_LONGEST_TEXT, or one megabyte if it is not set.
 std::size_t long_size()
 {
     const char* limit = std::getenv("OSTREL_LONGEST_TEXT");  // NOLINT(concurrency-mt-unsafe)
@@ -66,7 +67,7 @@ const std::vector<std::string>& hostile_texts()
     return texts;
 }
 
-// try_all calls the function with the text in each text argument in turn, and returns the number of unlisted answers.
+// try_all passes the string as each text argument, one at a time, and returns the number of unlisted answers.
 int try_all(const Function& function, const std::string& text, std::array<Caller, 2>& callers)
 {
     int unlisted = 0;
@@ -102,7 +103,7 @@ TEST_P(Misuse, HostileValuesInEveryTextArgument)
     EXPECT_EQ(0, end.status) << testing::PrintToString(end);
 }
 
-// Leaves all texts empty, and passes each number at its limits.
+// The strings are empty, and the numbers are 0, 1, -1, and the largest and smallest int.
 TEST_P(Misuse, EmptyValuesWithEveryExtremeNumber)
 {
     const Function& function = *GetParam();

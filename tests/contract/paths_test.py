@@ -1,4 +1,4 @@
-"""The module of a function has the same path in every tree.
+"""Tests that a function's module has the same path in every tree.
 
 usage: paths_test.py SOURCE_DIR VECTORS_TEST OSTREL_CHECK
 """
@@ -12,7 +12,7 @@ import unittest
 
 SOURCE = pathlib.Path(sys.argv[1])
 TESTS, TOOL = sys.argv[2:]
-# A data table: it cannot be called and has no description.
+# This data table cannot be called and has no description.
 TABLE = "ostrel_ctype"
 
 NAMES = re.findall(r"^    (\w+);$", (SOURCE / "abi/exports.map").read_text(), re.MULTILINE)
@@ -39,7 +39,7 @@ TREES = {"include/ostrel": (".h", declared), "src": (".cpp", defined), "rules": 
 
 
 def places(tree):
-    """places returns the modules of a tree in which each name is found."""
+    """places returns, for each name, the modules of a tree that contain it."""
     ending, names_in = TREES[tree]
     found = {}
     for path in sorted((SOURCE / tree).rglob("*" + ending)):

@@ -2,8 +2,8 @@
 
 usage: shared_object_test.py LIBRARY EMPTY SOURCE_DIR [READELF]
 
-EMPTY is a library without code, built with the same compiler and link options: anything that it also contains comes
-from the start-up files and is allowed in LIBRARY.
+EMPTY is a library without code, built with the same compiler and link options. Everything in it comes from the
+start-up files and is therefore allowed in LIBRARY.
 """
 
 import collections
@@ -28,7 +28,7 @@ def read(*arguments):
 
 
 def plain(name):
-    """plain removes the version suffix of the C library's names."""
+    """plain removes the version suffix from a name of the C library."""
     return name.split("@")[0]
 
 
@@ -51,7 +51,7 @@ def relocations(path):
         columns = line.split()
         if len(columns) < 3 or not columns[2].startswith("R_"):
             continue
-        # Without a symbol, the fourth column contains the addend alone.
+        # Without a symbol, the fourth column contains only the addend.
         found.append(Relocation(columns[2], plain(columns[4]) if len(columns) > 4 else ""))
     return found
 
@@ -128,10 +128,10 @@ class SharedObject(unittest.TestCase):
         self.assertEqual([], [name for name in names if name.startswith("_Z")])
 
     def test_no_writable_data_of_its_own(self):
-        """A writable section must be as large as it is in the empty library."""
+        """A writable section must have the same size as in the empty library."""
         empty = sections(EMPTY)
         for name, (flags, size) in sections(LIBRARY).items():
-            # The linker's own sections: the loader fills them and makes them read-only.
+            # The linker creates these sections; the loader fills them and makes them read-only.
             if "W" not in flags or name in (".dynamic", ".got", ".got.plt"):
                 continue
             if name in (".got2", ".plt") and "PowerPC" in self.header:
@@ -145,7 +145,7 @@ class SharedObject(unittest.TestCase):
         self.assertNotRegex(self.segments, r"^\s+TLS\s")
 
     def test_no_relocation_of_its_own(self):
-        """Each import needs a relocation; the number of others equals that of the empty library."""
+        """Each import needs a relocation. There must be as many other relocations as in the empty library."""
         allowed = set(self.listed_imports)
         of_start_up_files = relocations(EMPTY)
         own = collections.Counter()
@@ -153,7 +153,7 @@ class SharedObject(unittest.TestCase):
             if relocation.symbol:
                 if relocation in of_start_up_files:
                     continue
-                # RISC-V and PowerPC use one kind for all symbol addresses.
+                # RISC-V and PowerPC use one kind of relocation for all symbol addresses.
                 self.assertRegex(relocation.kind, r"_(JU?MP_SLOT?|GLOB_DAT?)$|^R_(RISCV_64|PPC_ADDR32)$", relocation)
                 self.assertIn(relocation.symbol, allowed)
             else:
@@ -177,7 +177,7 @@ class SharedObject(unittest.TestCase):
         self.assertRegex(self.segments, r"(?m)^\s+GNU_RELRO\s")
 
     def test_no_floating_point(self):
-        """On MIPS, each floating-point instruction has a distinct name; one processor is representative of all."""
+        """On MIPS, floating-point instructions have distinct names. One processor is representative of all."""
         if "MIPS" not in self.header:
             return
         code = subprocess.run([READELF.replace("readelf", "objdump"), "--disassemble", "--no-show-raw-insn", LIBRARY],
@@ -195,7 +195,7 @@ class SharedObject(unittest.TestCase):
 
     def test_every_loader_finds_its_hash_table(self):
         self.assertIn("(HASH)", self.dynamic)
-        # On MIPS, the GNU table has a different form, which no loader needs.
+        # On MIPS, the GNU hash table has a different form, which no loader needs.
         self.assertEqual("MIPS" not in self.header, "(GNU_HASH)" in self.dynamic)
         self.assertNotIn("XHASH", self.dynamic)
 

@@ -1,7 +1,10 @@
-"""Lists the conditions of src/ that no test has shown to decide: llvm-cov export … | conditions.py
+"""Lists the conditions in src/ that no test has shown to decide.
 
-A condition decides if two calls differ in it and in the decision, but in no other evaluated condition. A condition that
-is not shown must be listed in mcdc.txt with the reason why no call can show it, and mcdc.txt may list no other.
+usage: llvm-cov export … | conditions.py
+
+A condition decides if there are two calls in which this condition and the decision differ, but no other evaluated
+condition does. A condition that is not shown to decide must be listed in mcdc.txt, with the reason why no call can show
+it. mcdc.txt may list no other conditions.
 """
 
 import json
@@ -12,7 +15,7 @@ from typing import NamedTuple
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.append(str(ROOT / "tests/mutation"))
 
-from listed import Listed  # noqa: E402  (its folder must be known first)
+from listed import Listed  # noqa: E402  (sys.path must be set first)
 from tokens import tokens, without_comments  # noqa: E402
 
 NAMED = {"file": "file", "line": "line", "condition": "text"}
@@ -20,14 +23,14 @@ NAMED = {"file": "file", "line": "line", "condition": "text"}
 
 class Condition(NamedTuple):
     file: str
-    number: int  # of the line on which it begins
-    line: str    # the text of that line, without indentation and comments
+    number: int  # of the line on which the condition begins
+    line: str    # the text of that line, without indentation or comments
     text: str
     shown: bool
 
 
 class Source:
-    """Source is a file of src/. Lines and columns are counted as llvm-cov does: from 1, an end is excluded."""
+    """Source is a file of src/. As in llvm-cov, lines and columns are counted from 1, and ranges exclude their end."""
 
     def __init__(self, root, path):
         self.file = str(path.relative_to(root))
@@ -55,10 +58,10 @@ def within(place, decision):
 
 
 def conditions(exported, root):
-    """conditions returns the conditions of each decision; a template has its decisions once per set of arguments.
+    """conditions yields the conditions of each decision. A template's decisions occur once for each set of arguments.
 
-    The compiler omits decisions that it cannot judge, such as one inside another. For these, each operator is
-    returned as a condition that is not shown.
+    The compiler omits decisions that it cannot analyse, such as nested ones. For these, each operator is returned as a
+    condition that has not been shown to decide.
     """
     files = {pathlib.Path(file["filename"]).resolve(): file for file in exported["data"][0]["files"]}
     for path in sorted(path for path in (root / "src").rglob("*") if path.suffix in (".cpp", ".h")):
@@ -68,7 +71,7 @@ def conditions(exported, root):
         branches = sorted({tuple(branch[:4]) for branch in file["branches"]})
         for decision in decisions:
             inside = [place for place in branches if within(place, decision)]
-            shown = decision[-1]  # of each condition, in the order of the text
+            shown = decision[-1]  # for each condition, in source order
             if len(inside) != len(shown):
                 raise SystemExit("%s:%d: %d conditions, but %d branches" %
                                  (source.file, decision[0], len(shown), len(inside)))

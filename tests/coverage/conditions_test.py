@@ -1,4 +1,4 @@
-"""Inputs that pass the gate of the conditions, and inputs that fail it."""
+"""Tests the condition gate with inputs that must pass and inputs that must fail."""
 
 import contextlib
 import io

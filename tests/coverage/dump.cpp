@@ -1,5 +1,5 @@
-// Linked into the library that counts executed code: a child that ends by a signal, or that never returns, still
-// writes its counts.
+// This file is linked into the libraries that count executed code, so that a child process writes its counts
+// even if a signal ends it or its call never returns.
 
 #ifdef __clang__
 extern "C" int __llvm_profile_write_file();
@@ -33,7 +33,7 @@ void dump(int signal_number)
     std::raise(signal_number);
 }
 
-// The tests give a call that never returns 300 ms. It reaches its loop in a third of that.
+// The tests kill a call that never returns after 300 ms. It reaches its endless loop in a third of that time.
 void start_timer()
 {
     const itimerval once = {{0, 0}, {0, 100000}};

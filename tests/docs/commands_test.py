@@ -1,8 +1,8 @@
-"""Runs the commands of README.md and CONTRIBUTING.md.
+"""Runs the commands that README.md and CONTRIBUTING.md show.
 
 usage: commands_test.py BUILD_FOLDER SOURCE_FOLDER
 
-It runs itself again in a mount namespace in which /usr/local is empty and the reader is root. The commands run in a
+The test restarts itself in a mount namespace in which /usr/local is empty and the user is root. The commands run in a
 folder that resembles a clone with a built release.
 """
 
@@ -27,16 +27,16 @@ SKIPPED = 77
 LONG = {"scripts/quickstart", "scripts/test", "scripts/test-everywhere", "scripts/prove", "scripts/fuzz",
         "scripts/mutate", "scripts/coverage", "scripts/bench", "scripts/hazards",
         "scripts/abi", "scripts/footprint", "scripts/manual", "scripts/stubs", "sql/generate.py"}
-# Commands that build or test a preset are not run. The preset must exist.
+# Commands that build or test a preset are not run, but the preset must exist.
 LONG_BUILD = re.compile(r"(cmake --preset|cmake --build --preset|ctest --test-dir build)[ /](\S+)( -\S+ \S+)*")
 # Programs that the text mentions without running them.
 FILES = {"packaging/wlctl", "fleet/ostrel-fleet"}
 # Code spans of several words that are not commands.
 TEXTS = {"lan_check: refuse an address without a dot"}
-# Placeholders, and an example of each.
+# Placeholders, each with an example.
 FOR_EXAMPLE = {"FILE": "examples/lan.txt", "<module>": "l3forwarding_check"}
 
-# A daemon that contains the C code of the document.
+# A daemon that contains the document's C code.
 DAEMON = """%s
 static int reject(const char* parameter)
 {
@@ -57,7 +57,7 @@ int main(void)
 
 
 def reader_may(text):
-    """reader_may returns the allowed exit codes. ostrel-check may refuse a value."""
+    """reader_may returns the exit codes allowed for a command, since ostrel-check may refuse a value."""
     return (0, 1) if "ostrel-check" in text.split()[0] else (0,)
 
 
@@ -92,7 +92,7 @@ class Clone(contextlib.AbstractContextManager):
 
 class Commands(unittest.TestCase):
     def follow(self, document):
-        """follow runs the commands of the document in their order."""
+        """follow runs the document's commands in order."""
         text = (SOURCE / document).read_text(encoding="utf-8")
         with Clone() as clone:
             self.write_daemon(clone, documents.code(text))
@@ -108,7 +108,7 @@ class Commands(unittest.TestCase):
         (clone.folder / "daemon.c").write_text(DAEMON % (headers, rest))
 
     def commands_between(self, document, text, clone):
-        """commands_between returns the commands among the code spans of the text. Paths must exist."""
+        """commands_between returns the commands among the code spans of the text, and tests that their paths exist."""
         found = []
         for number, span in documents.spans(text):
             words = span.split()
@@ -180,7 +180,7 @@ class Commands(unittest.TestCase):
 
 
 def enter_namespace():
-    """enter_namespace runs this test again in a namespace where it may mount, or skips it if that is not allowed."""
+    """enter_namespace restarts this test in a namespace where it may mount, or skips it if that is not allowed."""
     unshare = ["unshare", "--mount"] + ([] if os.geteuid() == 0 else ["--user", "--map-root-user"])
     if run([*unshare, "mount", "-t", "tmpfs", "none", "/usr/local"]).returncode != 0:
         print("skipped: mount namespaces are not allowed")

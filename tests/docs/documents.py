@@ -3,7 +3,7 @@
 import collections
 import re
 
-# Command is the text of a command, and the output that the document shows below it, or None.
+# Command is the line number and the text of a command, and the output that the document shows below it, or None.
 Command = collections.namedtuple("Command", "number text output")
 
 SHELL = ("", "sh")
@@ -29,8 +29,8 @@ def blocks(text):
 
 
 def in_console(first, lines):
-    """in_console parses a block in which the first line of each command begins with "$ " and its other lines with "> ";
-    its output follows."""
+    """in_console parses a block in which the first line of each command begins with "$ " and its other lines with "> ",
+    followed by the command's output."""
     found = []
     for number, line in enumerate(lines, first):
         if line.startswith("$ "):
@@ -44,7 +44,7 @@ def in_console(first, lines):
 
 
 def in_blocks(text):
-    """in_blocks yields all commands of the fenced blocks."""
+    """in_blocks yields all commands in the fenced blocks."""
     for language, first, lines in blocks(text):
         if language not in SHELL:
             continue
@@ -57,7 +57,7 @@ def in_blocks(text):
 
 
 def code(text):
-    """code returns the lines of the blocks in C. A block in an unknown language is an error."""
+    """code returns the lines of the C blocks. A block in an unknown language is an error."""
     found = []
     for language, first, lines in blocks(text):
         if language == "c":

@@ -1,15 +1,17 @@
-// Writes the vectors in the form that packed_vectors_test reads, since that test must run without a JSON library and
-// without a C++ runtime library.
+// Writes the vectors in the packed form that packed_vectors_test reads, since that test must run without a
+// JSON library or a C++ run-time library.
 //
 // usage: pack_vectors OUTPUT
 //
-// The file begins with "ostrel vectors 3\n" and the number of rows. Numbers are 32 bits, least significant byte first.
-// A string is its length and its bytes. A text is a number of parts, each of which is a repeat count and a string. A
-// row is: label, function, kinds of the arguments (strings), the C libraries for which it applies (1: long of 64 bits,
-// 2: bounds of an int, 4: wrapping), whether everything is flushed, code, out, err (texts), and for each argument: its
-// size in memory (0 for NULL), the number before and after the call, the number of texts, the texts before the call,
-// and those after it. The kinds are i (int), u (unsigned), t (text, read), n (int, written) and b (texts, written);
-// only b has texts after the call. A row with several answers becomes several rows.
+// The file begins with "ostrel vectors 3\n" and the number of rows. A number has 32 bits, least significant
+// byte first. A string consists of its length and its bytes. A text consists of the number of its parts and
+// the parts, each of which is a repeat count and a string. A row consists of the label, the function and the
+// kinds of its arguments (all strings), the C libraries to which it applies (1: long of 64 bits, 2: bounds of
+// an int, 4: wrapping), whether everything is flushed, the code, out and err (both texts), and then for each
+// argument: its size in memory (0 for NULL), the number before and after the call, the number of texts, the
+// texts before the call, and the texts after it. The kinds are i (int), u (unsigned), t (text, read), n (int,
+// written) and b (texts, written); only b has texts after the call. A row with several answers becomes
+// several rows.
 
 #include <cstdint>
 #include <exception>
@@ -41,8 +43,8 @@ void put_string(std::string& packed, std::string_view bytes)
     packed += bytes;
 }
 
-// repeated_at returns the size of a piece at the beginning of the text that is repeated many times, and its repeat
-// count, or zeros if there is none.
+// repeated_at returns the size and the repeat count of a piece that is repeated many times at the beginning
+// of the text, or zeros if there is none.
 std::pair<std::size_t, std::size_t> repeated_at(std::string_view text)
 {
     constexpr std::size_t kLongestPiece = 64;

@@ -37,7 +37,7 @@ static void read_string(char* to, size_t capacity)
     at += length;
 }
 
-/* text_from reads the number of parts and skips them. */
+/* text_from reads the number of a text's parts, and skips the parts. */
 static struct text text_from(const unsigned char** from)
 {
     struct text text;
@@ -117,7 +117,7 @@ unsigned long open_rows(const char* path)
     return number_from(&at);
 }
 
-/* read_texts returns the first of the texts. */
+/* read_texts reads that many texts and returns the first one. */
 static struct text read_texts(unsigned long count)
 {
     struct text first = {NULL, 0};

@@ -12,9 +12,9 @@ struct text {
     unsigned long count;
 };
 
-/* Argument corresponds to an argument in pack_vectors.cpp. */
+/* Argument is an argument of a row, as described in pack_vectors.cpp. */
 struct argument {
-    unsigned long size; /* of the memory for the number or for each text; 0 for NULL */
+    unsigned long size; /* bytes of memory for the number or for each text; 0 for NULL */
     unsigned long number;
     unsigned long number_after;
     unsigned long texts;
@@ -26,7 +26,7 @@ struct row {
     char label[128];
     char function[64];
     char kinds[MOST_ARGUMENTS + 1];
-    unsigned long atois; /* a bit for each kind of C library to which it applies */
+    unsigned long atois; /* a bit for each kind of C library to which the row applies */
     int flushed;
     long code;
     struct text out;
@@ -34,7 +34,7 @@ struct row {
     struct argument arguments[MOST_ARGUMENTS];
 };
 
-/* open_rows reads the whole file and returns the number of rows; it exits if that fails. */
+/* open_rows reads the whole file and returns the number of rows. It exits on failure. */
 unsigned long open_rows(const char* path);
 
 /* next_row reads the next row. */

@@ -2,8 +2,8 @@
 
    usage: packed_vectors_test LIBRARY VECTORS
 
-   Each row runs twice: once with each argument ending at an unreadable page, once with each argument beginning at
-   one. The last line is "N rows, N failed". */
+   Each row runs twice: once with each argument ending at an unreadable page, and once with each argument
+   beginning at one. The last line of the output is "N rows, N failed". */
 #define _GNU_SOURCE
 #include <dlfcn.h>
 #include <signal.h>
@@ -17,7 +17,7 @@
 #include "call.h"
 #include "packed_vectors.h"
 
-/* These sizes exceed the need of any row. Unused pages cost nothing. */
+/* These sizes are larger than any row needs. Unused pages cost nothing. */
 #define AREA ((size_t)17 << 20)
 #define PRINTS ((size_t)34 << 20)
 
@@ -166,8 +166,8 @@ static int run(void* function, enum edge edge)
     return failed;
 }
 
-/* atoi_at_hand returns the kind of this C library: for a number that does not fit an int, atoi returns the low 32 bits
-   of a long of 64 bits, the highest int, or the low 32 bits of the number. */
+/* atoi_at_hand returns the kind of this C library. For a number that does not fit in an int, atoi returns the
+   low 32 bits of a 64-bit long (1), the highest int (2), or the low 32 bits of the number itself (4). */
 static unsigned long atoi_at_hand(void)
 {
     switch (atoi("99999999999999999999")) {

@@ -1,5 +1,5 @@
-/* A host that defines uClibc's assertion hook: a failed assertion calls it with the documented arguments, and ends the
-   process even if the hook returns.
+/* A host that defines uClibc's assertion hook. A failed assertion must call the hook with the documented
+   arguments, and must end the process even if the hook returns.
 
    usage: uclibc_host LIBRARY */
 #define _GNU_SOURCE

@@ -1,8 +1,9 @@
 // Finds which hazardous bytes accepted values may contain, and prints the lines of docs/hazards.md.
 //
-// It tries every hazardous byte at many positions of the accepted values of vectors/, inserted and as a replacement,
-// for each argument that is a text. For a buffer it also searches the content after the call, for bytes from any
-// argument. The descriptions of rules/ decide whether a value is accepted; rules_test compares them with the library.
+// For each text argument, it tries every hazardous byte at many positions of the accepted values of vectors/,
+// both inserted and as a replacement. For a buffer, it also searches the content after the call for bytes of
+// any argument. The descriptions of rules/ decide whether a value is accepted; rules_test compares them with
+// the library.
 
 #include <algorithm>
 #include <array>
@@ -33,7 +34,7 @@ namespace {
 using Values = std::vector<Value>;
 
 constexpr std::size_t kMostSeeds = 12;
-constexpr std::size_t kMostPlaces = 24;  // of a seed
+constexpr std::size_t kMostPlaces = 24;  // per seed
 constexpr std::size_t kLongestSeed = 300;
 
 std::string hazardous_bytes()
@@ -43,7 +44,7 @@ std::string hazardous_bytes()
     return {bytes.begin(), bytes.end()};
 }
 
-// texts_of returns pointers to the texts of an argument, which are const if the argument is.
+// texts_of returns pointers to the strings of an argument, which are const if the argument is const.
 template <typename V>
 auto texts_of(V& value)
 {
@@ -56,7 +57,7 @@ auto texts_of(V& value)
     return texts;
 }
 
-// Attempt is the text before a byte and the text after it.
+// Attempt contains the text before a tried byte and the text after it.
 struct Attempt {
     std::string before;
     std::string after;
@@ -145,7 +146,7 @@ class Search {
 
     const Function& function_;
     Exposure& exposure_;
-    std::size_t output_ = 0;  // its index among the arguments that the function writes
+    std::size_t output_ = 0;  // the argument's index among those that the function writes
 };
 
 std::size_t size_of(const Values& values)
@@ -157,8 +158,8 @@ std::size_t size_of(const Values& values)
     return size;
 }
 
-// seeds_of selects values evenly from the shortest to the longest. It adds copies of each in which one argument
-// contains all bytes, because that argument may be a set.
+// seeds_of selects values evenly from the shortest to the longest. For each value, it adds copies in which
+// one argument contains all bytes, because that argument may be a set of allowed bytes.
 std::vector<Values> seeds_of(std::vector<Values> accepted)
 {
     std::ranges::stable_sort(accepted, {}, size_of);

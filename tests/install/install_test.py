@@ -1,4 +1,4 @@
-"""The installed library can be used with CMake and pkg-config, in C90 and in C++.
+"""Tests that the installed library can be used with CMake and pkg-config, in C90 and in C++.
 
 usage: install_test.py BUILD_DIR CMAKE CC CXX
 """
@@ -87,7 +87,7 @@ class Install(unittest.TestCase):
         run(CMAKE, "--install", build, "--prefix", self.scratch / "nothing")
         self.assertEqual([], [path for path in (self.scratch / "nothing").rglob("*") if path.is_file()])
 
-        # The library is installed if the project requests it.
+        # The library is installed only if the project requests it.
         run(CMAKE, "-DOSTREL_INSTALL=ON", build)
         run(CMAKE, "--install", build, "--prefix", self.scratch / "library")
         installed = {path.name for path in (self.scratch / "library").rglob("*")}

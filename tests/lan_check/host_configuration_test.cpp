@@ -1,4 +1,4 @@
-// Tests of the lease time that rows cannot express: the refused address.
+// Tests the only address that the check of the lease time refuses, which rows cannot express.
 
 #include <gtest/gtest.h>
 #include <ostrel/lan_check.h>
@@ -23,7 +23,7 @@ TEST(LeaseTime, NoOtherAddressIsRefusedOrRead)
     EXPECT_EQ(0, LAN_check_dhcp_lease_time(pointer(1)));
 }
 
-// The refusal prints the value, and reading it at that address ends the process.
+// The refusal prints the value, but reading it at that address ends the process.
 TEST(LeaseTime, TheAddressOfAllOnesIsRefused)
 {
     EXPECT_DEATH(LAN_check_dhcp_lease_time(pointer(UINTPTR_MAX)), "");

@@ -1,4 +1,4 @@
-// The bytes that an edit of a list writes, and those that it does not touch.
+// Tests which bytes are written when a list is edited, and which are left unchanged.
 
 #include <gtest/gtest.h>
 #include <ostrel/lan_check.h>

@@ -17,7 +17,7 @@ SECONDS = 60
 UNCHANGED = 0
 QUICK = ["--gtest_break_on_failure", "--gtest_brief=1"]
 SHORT = {"OSTREL_LONGEST_TEXT": "9000"}
-# These tests start processes and take longer than all others together.
+# These tests start processes and take longer than all other tests together.
 SLOW = "Checks/NullTest.*"
 
 
@@ -31,7 +31,7 @@ class Workshop:
         self.each = None
 
     def compile(self, file, text, *options):
-        """compile returns the path of the object, and the compiler's errors."""
+        """compile returns the path of the object file, and the compiler's errors."""
         source = self.folder / pathlib.Path(file).name
         source.write_text(text)
         made = source.with_suffix(".cpp.o")
@@ -43,7 +43,7 @@ class Workshop:
         program = self.folder / "rules_test"
         command = list(self.link)
         command[command.index("-o") + 1] = str(program)
-        # Objects precede the archives, otherwise the linker would take the unchanged file from an archive.
+        # Objects must precede the archives; otherwise, the linker would take the unchanged file from an archive.
         command[command.index("-o") + 2:command.index("-o") + 2] = map(str, (made, *others))
         done = run(command, cwd=self.build.folder)
         if done.returncode != 0:
@@ -51,7 +51,7 @@ class Workshop:
         return program
 
     def main_of_each(self):
-        """main_of_each returns the object with the main function that runs the tests with each change in turn."""
+        """main_of_each returns the object file whose main function runs the tests once for each change."""
         if self.each is None:
             self.each = self.folder / "each.o"
             words = next(iter(self.build.commands.values()))
@@ -61,8 +61,8 @@ class Workshop:
         return self.each
 
     def with_all(self, file, text, numbered):
-        """with_all builds the program with all of these mutants. It returns the program, the numbers of those that do
-        not compile, and the numbers of those that cannot be combined with others."""
+        """with_all builds the program with all of these mutants. It returns the program, the numbers of the mutants
+        that do not compile, and the numbers of those that cannot be combined with others."""
         left, kept, broken = dict(numbered), set(), []
         while True:
             source, others = with_all(text, left, kept)
@@ -73,7 +73,7 @@ class Workshop:
             told = re.findall(r"/%s:(\d+):\d+: +(error|required)" % pathlib.Path(file).name, errors)
             wrong = {owner[int(line)] for line, _ in told}
             if 0 in wrong:
-                # Some code needs a constant, which is now a function.
+                # Some code needs a real constant, but the constant is now a function.
                 named = set(re.findall(r"in expansion of macro '(\w+)'", errors)) - kept
                 if not named:
                     raise SystemExit(errors)
@@ -96,7 +96,7 @@ class Workshop:
                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode != 0
 
     def noticed(self, program, file, numbers):
-        """noticed returns the numbers of the changes that a quick test notices when it reads short rows only."""
+        """noticed returns the numbers of the changes that a quick test notices when it reads only short rows."""
         done = subprocess.run([str(program), *QUICK, "--gtest_filter=-" + SLOW], cwd=self.folder, text=True,
                               input="\n".join(map(str, [UNCHANGED, *numbers])), stdout=subprocess.PIPE,
                               stderr=subprocess.PIPE, check=False, env=self.environment(file, **SHORT))
@@ -117,8 +117,8 @@ class Workshop:
         yield from ((numbered[number], "killed" if number in noticed else "unknown") for number in [*tried, *others])
 
     def alone(self, mutant, text):
-        """alone judges a mutant in a separate build, with each test and each row. The slow tests skip rows with long
-        texts."""
+        """alone judges a mutant in a separate build, with every test and row. The slow tests skip rows with long
+        strings."""
         text = text[:mutant.offset] + mutant.replacement + text[mutant.end:]
         made, errors = self.compile(mutant.file, text)
         if errors:

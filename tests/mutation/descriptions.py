@@ -1,6 +1,6 @@
 """Makes small changes to rules/, one at a time, and lists those that no test of the descriptions notices.
 
-See README.md beside this file.
+README.md in this folder describes the method.
 """
 
 import itertools
@@ -31,9 +31,9 @@ PHRASES = [("at least", "at most"), ("needed", "allowed"), ("first", "last"), ("
            ("one of", "none of"), ("byte", "bytes"), ("is", "is not")]
 # A refusal does not contain the text that describes an argument.
 NOT_REPORTED = {"text", "buffer", "blocks", "integer", "natural", "integer_out", "in"}
-# These have the same reasons, so their order makes no difference.
+# These steps have the same reasons, so their order makes no difference.
 ALIKE = {"refuse_repeated"}
-# A value meets at most one of two such conditions, so their order makes no difference.
+# No value meets both a condition of the first kind and one of the second, so their order makes no difference.
 TOO_LITTLE = re.compile(r'(?:below|shorter_than)\((?:.*, )?-?\d+\)|empty\(\)')
 TOO_MUCH = re.compile(r'(?:above|longer_than)\((?:.*, )?-?\d+\)|refuse_above|outside\(k\w+\)')
 
@@ -52,7 +52,7 @@ def words(found, text):
 
 
 def reported(found):
-    """reported returns all tokens except the texts that a refusal does not contain."""
+    """reported returns all tokens except the strings that no refusal contains."""
     return [token for i, token in enumerate(found) if token.kind != "string" or callee(found, i) not in NOT_REPORTED]
 
 
@@ -77,7 +77,7 @@ def steps(found):
 
 
 def orders(found, text):
-    """orders swaps adjacent refusing steps, and removes each of them."""
+    """orders swaps each pair of adjacent refusing steps, and removes each refusing step."""
     every = list(steps(found))
     for (first, end), (second, last) in zip(every, every[1:]):
         one, other = (text[found[a].offset:found[b].end] for a, b in ((first, end), (second, last)))

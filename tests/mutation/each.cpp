@@ -14,7 +14,7 @@
 #include "rules/rules.h"
 #include "tests/rules/rows.h"
 
-extern int ostrel_mutant_in_force;  // schemata.py
+extern int ostrel_mutant_in_force;  // defined in the source that schemata.py generates
 
 namespace {
 

@@ -19,7 +19,7 @@ def run(command, **options):
 
 
 class Build:
-    """Build contains the commands with which a build folder compiles the sources of one library and links it."""
+    """Build contains the commands that compile and link the sources of one library in a build folder."""
 
     def __init__(self, root, folder, objects):
         self.folder = folder
@@ -98,7 +98,7 @@ class LibraryBuild(Build):
         return super().link_command(target) + (["-fuse-ld=gold"] if shutil.which("ld.gold") else [])
 
     def compiled_in(self, file):
-        """compiled_in returns the test programs that compile the source of the library themselves."""
+        """compiled_in returns the test programs that compile this source file of the library themselves."""
         objects = self.folder.glob("tests/**/CMakeFiles/*.dir/__/__/%s.o" % file)
         names = {re.search(r"CMakeFiles/(\w+)\.dir/", str(path)).group(1) for path in objects}
         return sorted(name for name in names if name.endswith("_test") and (self.folder / "bin" / name).exists())
@@ -129,8 +129,8 @@ class Workshop:
         return output if done.returncode == 0 else None
 
     def make(self, file, text):
-        """make builds the library with the text in place of the file's. It returns "made", "same" if the object code
-        does not change, or "broken"."""
+        """make builds the library with the given text instead of the file's. It returns "made", "same" if the object
+        code does not change, or "broken"."""
         overlay = self.folder / "overlay"
         shutil.rmtree(overlay, ignore_errors=True)
         shutil.rmtree(self.folder / OBJECTS, ignore_errors=True)
@@ -160,7 +160,7 @@ class Workshop:
         return "made"
 
     def link(self, command, output, replaced):
-        """link returns whether linking succeeds, since a change may leave a symbol undefined."""
+        """link returns whether linking succeeded, since a change may leave a symbol undefined."""
         words = [replaced.get(word, word) for word in command]
         words[words.index("-o") + 1] = str(output)
         return run(words, cwd=self.build.folder).returncode == 0

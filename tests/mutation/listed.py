@@ -39,13 +39,13 @@ class Entry:
 
 
 class Listed:
-    """Listed are entries separated by empty lines; "#" begins a comment.
+    """Listed contains entries that are separated by empty lines. A line that begins with "#" is a comment.
 
         file: src/support/text.cpp
         in: the function, if the line's text is ambiguous
         above: the text of the line above, if the function is ambiguous too
         line: the text of the source line
-        why: the reason, one line or several
+        why: the reason, on one or more lines
 
     keys maps the keys that an entry may have, besides "why", to the fields of an item with which they are compared. A
     key may occur several times, and "*" matches anything. An entry applies to the items that match one value of each

@@ -1,4 +1,4 @@
-"""Mutators for characters and texts."""
+"""Mutators for characters and strings."""
 
 import re
 import zlib
@@ -11,7 +11,7 @@ def units(literal):
 
 
 def another(character):
-    """another returns the next letter or digit, or the previous one for the last."""
+    """another returns the next letter or digit, or the previous one for "z", "Z" and "9"."""
     if character in "zZ9":
         return {"z": "y", "Z": "Y", "9": "8"}[character]
     return chr(ord(character) + 1)

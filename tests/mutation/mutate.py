@@ -1,6 +1,6 @@
 """Makes small changes to the library, one at a time, and lists those that no test notices.
 
-See README.md beside this file.
+README.md in this folder describes the method.
 """
 
 import argparse
@@ -77,7 +77,7 @@ class Worker:
 
     @staticmethod
     def hide_var():
-        """hide_var mounts an empty /var for this process alone, if permitted, because a check writes a file there."""
+        """hide_var mounts an empty /var for this process only, if permitted, because a check writes a file there."""
         libc = ctypes.CDLL(None, use_errno=True)
         new_mounts, private = 0x00020000, 0x44000
         if os.geteuid() == 0 and libc.unshare(new_mounts) == 0:
@@ -137,14 +137,14 @@ def arguments(command, what, folder):
 
 
 def folder_of(given, build, name):
-    """folder_of creates the work folder. A sample and a full run use different ones and can run concurrently."""
+    """folder_of creates the work folder. A sample and a full run use different ones, so they can run concurrently."""
     folder = (build if given.sample is not None else build.parent) / name
     folder.mkdir(parents=True, exist_ok=True)
     return folder
 
 
 def conduct(given, every, listed, results, least, try_all):
-    """conduct tries the chosen mutants without a known result, and reports on all of them."""
+    """conduct tries the chosen mutants that have no known result, and reports on all chosen mutants."""
     signal.signal(signal.SIGTERM, lambda number, frame: sys.exit(128 + number))
     if given.sample is not None:
         results.known = {}

@@ -1,6 +1,6 @@
 """Mutators, each of which changes one place of a source file.
 
-A mutator yields changes: the offset, the offset after the end, and the replacement.
+A mutator yields each change as the offset of its start, the offset after its end, and the replacement.
 """
 
 import re
@@ -18,7 +18,8 @@ OPERATORS = {
 }
 UNARY = {"++": "--", "--": "++"}
 WORDS = {"true": "false", "false": "true", "nullptr": None, "__func__": '"nobody"'}
-# FUNCTION matches the name of a function that begins in the first column, or an empty name after the end of one.
+# FUNCTION matches the name of a function whose definition begins in the first column. After the end of a function, it
+# matches an empty name.
 FUNCTION = re.compile(r"^(?:[a-z\[][^=;]*?(\w+)\(|\}\n|namespace)", re.MULTILINE)
 CODE = re.compile(r"OSTREL_[A-Z_]+$")
 CODES = ["OSTREL_VALID", "OSTREL_INVALID", "OSTREL_INVALID_VALUE", "OSTREL_OUT_OF_RANGE"]
@@ -38,10 +39,10 @@ class Mutant(NamedTuple):
     offset: int
     end: int
     replacement: str
-    line: str      # the text of the line on which it begins, without indentation and comments
+    line: str      # the text of the line on which it begins, without indentation or comments
     change: str    # as displayed: "27 -> 28", and "27 -> 28 #2" for the second such change in the line
-    number: int    # of the line
-    function: str  # that contains it
+    number: int    # the number of that line
+    function: str  # the function that contains it
     above: str     # the text of the nearest line above that contains code
 
 
@@ -104,7 +105,7 @@ def constants(found, text):
 
 
 def limits(found, text):
-    """limits changes one use of a named number that is used several times."""
+    """limits changes single uses of a named number that is used several times."""
     named = re.findall(r"constexpr (?:int|unsigned|std::size_t) (k\w+) =", text)
     for name in named:
         uses = [token for token in found if token.kind == "name" and token.text == name]
@@ -209,7 +210,7 @@ def shown(text):
 
 
 def mutants(file, text, mutators=tuple(MUTATORS)):
-    """mutants yields every mutant of a file, in the order of its text."""
+    """mutants yields every mutant of a file, in source order."""
     found = tokens(text)
     made = {}
     for mutator in mutators:

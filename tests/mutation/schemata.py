@@ -1,6 +1,6 @@
-"""Generates one source file with all its changes, of which the program selects one at run time.
+"""Generates a source file that contains all changes to it, of which the program selects one at run time.
 
-A function gets a body for each change inside it. A check in a list, and a constant of a namespace, become functions
+A function has a body for each change inside it. Checks in a list, and constants at namespace scope, become functions
 that are called instead.
 """
 
@@ -22,11 +22,11 @@ KINDS = {
 
 
 class Region(NamedTuple):
-    """Region is a piece of text that the generated file contains once for each change inside it."""
+    """Region is a piece of source text that the generated file contains once for each change inside it."""
     kind: str
     start: int
     end: int
-    name: str = ""  # of a constant
+    name: str = ""  # the name of a constant
 
 
 def first_of(found, texts):
@@ -95,11 +95,11 @@ def regions(found):
 
 
 def with_all(text, numbered, kept):
-    """with_all returns the text with all of these mutants, and the numbers of those that no region contains.
+    """with_all returns the text with all of these mutants, and the numbers of the mutants that no region contains.
 
     The constants in kept remain constants.
     """
-    # A static assertion needs constants, which become functions here.
+    # Static assertions are removed because the constants that they need become functions.
     text = re.sub(r"static_assert\([^;]*;", lambda found: " " * len(found.group()), text)
     mutants_of = {region: [] for region in regions(tokens(text)) if region.name not in kept}
     others = []

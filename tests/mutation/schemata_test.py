@@ -1,4 +1,4 @@
-"""Tests the file with all changes and the selection of one of them."""
+"""Tests the generated file with all changes, and the selection of one change."""
 
 import re
 import unittest

@@ -10,7 +10,7 @@ import subprocess
 import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
-import vectors  # noqa: E402  (its folder must be known first)
+import vectors  # noqa: E402  (sys.path must be set first)
 
 LIBC = ctypes.CDLL(None)
 DIE_WITH_PARENT = 1
@@ -24,7 +24,7 @@ EVERY_VECTOR = ("vectors_test", "*")
 
 
 class Suites:
-    """Suites selects suites: pairs of a program and a filter of its tests."""
+    """Suites selects test suites. A suite is a pair of a program and a filter for its tests."""
 
     def __init__(self, build, sources):
         self.build = build
@@ -74,7 +74,7 @@ class Suites:
         return found
 
     def passes(self, suite, workshop, seconds, library=None):
-        """passes returns whether all tests pass within that processor time."""
+        """passes returns whether all tests pass within the given processor time."""
         tries = 3 if suite[0] in TIMED else 1
         return any(self.run(suite, workshop, seconds, library) for _ in range(tries))
 
@@ -108,7 +108,7 @@ class Suites:
             process.wait()
 
     def measure(self, suite, workshop):
-        """measure returns the limit for a suite: five times its processor time with the unchanged library, and 2 s."""
+        """measure returns the limit for a suite: five times its processor time with the unchanged library, plus 2 s."""
         before = resource.getrusage(resource.RUSAGE_CHILDREN)
         if not self.passes(suite, workshop, 300, self.build.folder / "lib"):
             raise SystemExit("%s %s fails with the unchanged library" % suite)

@@ -64,7 +64,7 @@ def without_static_assertions(found):
 
 def without_attributes(found):
     kept = []
-    depth = 0  # 0: outside
+    depth = 0  # 0 outside attributes
     for i, token in enumerate(found):
         following = found[i + 1] if i + 1 < len(found) else token
         if depth == 0 and token.text == "[" and following.text == "[":
