@@ -1,4 +1,4 @@
-// Tests of the generic checks that the vectors cannot express: calls that never return.
+// Tests calls of the generic checks that never return, which the vectors cannot express.
 
 #include <gtest/gtest.h>
 #include <ostrel/parameter_check.h>
@@ -16,7 +16,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// The digit scan of these two checks reads the first character forever without printing anything.
+// If a value begins with a digit, these two checks read that digit forever and print nothing.
 TEST(ParameterCheckDigitScan, NeverReturnsForAValueThatBeginsWithADigit)
 {
     constexpr milliseconds kLimit(300);

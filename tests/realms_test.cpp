@@ -1,4 +1,4 @@
-// A library built for another ISP accepts that ISP's realms instead of the default ones.
+// Tests that a library built for another ISP accepts that ISP's realms instead of the default ones.
 
 #include <gtest/gtest.h>
 #include <ostrel/accounts.h>

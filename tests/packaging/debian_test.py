@@ -1,4 +1,4 @@
-"""The Debian packages can be built, installed and removed again.
+"""Tests that the Debian packages can be built, installed and removed.
 
 usage: debian_test.py BUILD_DIR SOURCE_DIR
 """
@@ -32,7 +32,7 @@ class Debian(unittest.TestCase):
         cls.files = sorted((cls.scratch / "packages").glob("*.deb"))
 
     def dpkg(self, *arguments):
-        """dpkg works on a separate system that contains only these packages."""
+        """dpkg calls the program dpkg with a separate root folder that contains only these packages."""
         root = self.scratch / "root"
         (root / "var/lib/dpkg/updates").mkdir(parents=True, exist_ok=True)
         (root / "var/lib/dpkg/info").mkdir(exist_ok=True)

@@ -41,7 +41,7 @@ class Recipes(unittest.TestCase):
         return {str(path.relative_to(root)) for path in root.rglob("*") if path.is_file()}
 
     def assert_mips16(self, build, is_expected=True):
-        """assert_mips16 compiles a file of the library and reads the encoding of the object."""
+        """assert_mips16 compiles a file of the library and checks the encoding of the object."""
         result = run("make", "-C", build / "src", "verdict.o", "VERBOSE=1")
         self.assertEqual(0, result.returncode, result.stdout + result.stderr)
         (built,) = build.rglob("verdict.cpp.o")
@@ -116,7 +116,7 @@ class Recipes(unittest.TestCase):
             self.assertIn("ostrel-%s/CMakeLists.txt" % VERSION, files.getnames())
 
     def test_no_recipe_states_a_licence(self):
-        """The tree states no licence. If it gets one, all recipes get it together."""
+        """The tree states no licence. If one is added, it must be added to all recipes."""
         for recipe in ("openwrt/Makefile", "buildroot/ostrel-check/ostrel-check.mk"):
             self.assertNotRegex((SOURCE / "packaging" / recipe).read_text(), r"(?m)^\w*LICENSE\w* *:?=")
 

@@ -1,6 +1,6 @@
-// The library allocates nothing. This program is a host between the library and the C library: it defines malloc and
-// its family, which record their caller, and the imported functions that could allocate, which record that the
-// library is inside them.
+// Tests that the library allocates nothing. This program is a host between the library and the C library: it
+// defines malloc and its family, which record their caller, and the imported functions that could allocate,
+// which record that the library is inside them.
 //
 // Two allocations are allowed: the buffer of a stream, which the C library allocates at the first output or input,
 // and the stream that WLAN_check_channel opens.
@@ -36,7 +36,7 @@ namespace {
 constexpr char kListFile[] = "/var/hnapwl0chlist";
 
 struct Request {
-    const char* inside;  // the function of the C library that the library called; NULL: none
+    const char* inside;  // the function of the C library that the library called, or NULL
     const void* caller;  // where the allocator was called from
 };
 
@@ -60,7 +60,7 @@ void note(const void* caller)
     ++watch.count;
 }
 
-// Inside marks the duration of a call of the C library.
+// Inside marks the duration of a call to the C library.
 class Inside {
  public:
     explicit Inside(const char* name) { watch.inside = name; }
@@ -175,7 +175,7 @@ int fclose(std::FILE* stream)
     return real(stream);
 }
 
-// The driver's tool returns immediately, and the file with the fixed name is not touched.
+// system runs list_command instead of the driver's tool, so the file with the fixed name is not touched.
 int system(const char* /*command*/)
 {
     static auto* const real = original<int(const char*)>("system");
@@ -249,7 +249,7 @@ class FreshStreams {
     std::FILE* saved_err_ = stderr;
 };
 
-// count_requests runs the loaded call and counts its allocations by caller; allowed ones by their names.
+// count_requests runs the loaded call and counts its allowed and its forbidden allocations.
 void count_requests(Caller& caller, Counts& allowed, Counts& forbidden)
 {
     const FreshStreams streams;

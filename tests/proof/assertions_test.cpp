@@ -1,6 +1,6 @@
-// Passes NULL for each pointer of each function: exactly the listed checks fail an assertion, and they print nothing
-// else. Each report names the condition, the module, the function and a line, which is either fixed or different for
-// each function. The other checks return or end by a memory fault.
+// Passes NULL for each pointer of each function. Exactly the listed checks must fail an assertion, and they
+// must print nothing else. Each report names the condition, the module, the function and a line, which is
+// either fixed or different for each function. The other checks return, or end by a memory fault.
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ struct Asserting {
     std::string condition = kUsual;
 };
 
-// own returns a check that reports its own name and its own line.
+// own returns a check that reports its own name and a line that no other check reports.
 Asserting own(std::string_view function, const char* module)
 {
     return {function, module, std::string(function)};
@@ -93,7 +93,7 @@ Reports promised()
     return reports;
 }
 
-// asserted calls the function and returns the report of the assertion, or an empty text if none failed.
+// asserted calls the function and returns the report of the failed assertion, or an empty string.
 std::string asserted(const Function& function, const std::vector<Value>& values, Places& places)
 {
     const ChildEnd end = run_in_child(std::chrono::seconds(60), [&] {
@@ -103,7 +103,7 @@ std::string asserted(const Function& function, const std::vector<Value>& values,
         return 0;
     });
     EXPECT_FALSE(end.timed_out) << function.name;
-    // A sanitizer that sees a memory fault may end the process by SIGABRT too.
+    // A sanitizer that detects a memory fault may end the process by SIGABRT too.
     static const std::regex form(": ([a-z_]+):([0-9]+): ((.*): Assertion `.*\n)$");
     std::smatch parts;
     if (end.signal != SIGABRT || !std::regex_search(end.err, parts, form)) return "";

@@ -3,14 +3,14 @@
 //
 //   FUNCTION SHAPE ARGUMENT ITEMS BYTES
 //
-// ARGUMENT is the index of the long argument, from 0, or "all". ITEMS is the number of items of a list in which the
-// contract demands a search of the rest for each item, and 0 for any other value. instructions_test.py judges the
-// growth.
+// ARGUMENT is the index of the long argument, from 0, or "all". ITEMS is the number of items in a list for
+// which the contract requires a search of the rest for each item, and 0 for any other value.
+// instructions_test.py checks the growth.
 //
 //   instructions together|each BYTES...
 //
-// The sizes are in ascending order. Writing a count takes longer than a call, so "together" adds up a few shapes of
-// a function; a shape that grows too fast soon dominates the sum.
+// The sizes must be in ascending order. Writing a count takes longer than a call, so "together" adds up a few
+// shapes of a function. A shape that grows too fast soon dominates the sum.
 
 #include <valgrind/callgrind.h>
 
@@ -27,8 +27,8 @@ using namespace ostrel::calling;
 using namespace ostrel::catalogue;
 using namespace ostrel::tests;
 
-// kParts are the pieces that long values repeat: single characters of every set and of none, items of every kind of
-// list, and fragments of the texts that the rules search for. The first ones differ the most.
+// kParts are the pieces that long values repeat: single characters of every set and of none, items of every
+// kind of list, and fragments of the strings that the rules search for. The first pieces differ the most.
 constexpr std::string_view kParts[] = {
     "a",      "0",    ",",       "192.168.1.1,",
     ".",      "\xff", "1.",      "&#65;",
@@ -167,7 +167,7 @@ constexpr LongCase kCases[] = {
          -> std::vector<Value> { return {"1234567890123#" + std::string(size, '4') + "@example.net"}; }},
 };
 
-// long_text returns the repeated part. It caches the texts, since building one takes longer than most calls.
+// long_text returns the repeated part. Strings are cached because building one takes longer than most calls.
 const std::string& long_text(std::size_t part, std::size_t size)
 {
     static std::string texts[std::size(kParts)];
@@ -187,7 +187,7 @@ void add(const Function& function, const std::vector<Value>& values)
     CALLGRIND_TOGGLE_COLLECT;
 }
 
-// write_down writes the current sum and starts the next one.
+// write_down writes the current sum and starts a new one.
 void write_down(const std::string& name)
 {
     CALLGRIND_DUMP_STATS_AT(name.c_str());
@@ -197,7 +197,7 @@ void write_down(const std::string& name)
 void count_case(const LongCase& one, std::size_t size, bool each)
 {
     if (one.searches_for_each_item) {
-        // The time of these grows quadratically with the list.
+        // The time for these cases grows quadratically with the length of the list.
         size /= 10;
         const std::size_t longest = each ? 10'000 : 1'000;
         if (size > longest) return;
@@ -212,8 +212,8 @@ void count_case(const LongCase& one, std::size_t size, bool each)
                ' ' + std::to_string(size));
 }
 
-// count_argument counts the calls in which that argument is long, or all text arguments if its number is one past
-// the last.
+// count_argument counts the calls in which the given argument is long. If its index is one past the last, all
+// text arguments are long.
 void count_argument(const Function& function, std::size_t argument, std::size_t size, bool each)
 {
     const bool all = argument == function.arguments.size();

@@ -2,14 +2,14 @@
 
 usage: instructions_test.py VALGRIND PROGRAM together|each BYTES...
 
-For ten times the bytes, a call may take eleven times the instructions. This bound does not apply below a few
-instructions per byte: there a length limit may decide whether a value is printed, and a call that prints would be
-compared with one that does not. In addition, no call may exceed a fixed number of instructions per byte, which
-catches any growth that is faster than the value's.
+A call for a value that is ten times as long may take at most eleven times as many instructions. This bound does not
+apply to calls that take only a few instructions per byte, since a length limit may decide whether they print the value,
+and a call that prints would be compared with one that does not. In addition, no call may exceed a fixed number of
+instructions per byte, which detects any growth that is faster than linear.
 
-The contract demands one exception, the list of reserved addresses: for each item whose neighbour is as long as
-itself, the rest of the list is searched. There the bound is a fixed number of instructions per item and byte; for
-long items that are nearly alike, the bound is the cost of a list of short items that has the same length.
+The contract requires one exception: in the list of reserved addresses, the rest is searched for each item that is as
+long as the next one. The bound for such a list is a fixed number of instructions per item and byte. For long items that
+are nearly alike, the bound is the cost of a list of short items with the same length.
 """
 
 import collections
@@ -20,9 +20,9 @@ import unittest
 
 GROWTH = 1.1  # relative to proportional growth
 CHEAP = 4  # instructions per byte
-MOST = 400  # instructions per byte: strstr takes 219 for long texts that are nearly alike, the reference table 302
+MOST = 400  # instructions per byte; strstr takes 219 for long strings that are nearly alike, the reference table 302
 MOST_SEARCHING = 30  # instructions per item and byte
-CALL = 2000  # instructions of a call for any value
+CALL = 2000  # instructions that a call may take for any value
 FEW_PARTS = 8  # calls that "together" adds up
 
 MARK = "desc: Trigger: Client Request: "

@@ -1,6 +1,6 @@
 """Runs the long form of every proof and prints one table. scripts/prove calls it and documents its use.
 
-A proof consists of a name, a promise, a measure, the builds that it needs, and steps: commands that must all
+A proof consists of a name, a promise, a measure, the builds that it needs, and steps, which are commands that must all
 succeed. Its figure is the last match of each step's pattern in the output of the step's command.
 """
 
@@ -24,13 +24,13 @@ Proof = collections.namedtuple("Proof", "name promise measure presets steps")
 
 
 def ctest(preset, pattern):
-    """ctest runs the tests of that name and their variants; the figure is the number of failed tests out of all."""
+    """ctest runs the tests of that name and their variants. The figure is the number of failed tests out of all."""
     return Step(["ctest", "--test-dir", str(preset), "--output-on-failure", "--no-tests=error", "-R", pattern],
                 r"(\d+ tests failed out of \d+)")
 
 
 def script(name, *arguments):
-    """script runs another proof of the project; its last line is the figure, its exit status the result."""
+    """script runs another proof of the project. The figure is its last line, and the result is its exit status."""
     return Step([str(ROOT / "scripts" / name), *arguments], r"(?m)^(.+)$")
 
 
@@ -49,7 +49,7 @@ def proofs():
     yield Proof("time", "time in proportion to the value", "callgrind, 1 kB to 1 MB", ["gcc"], [
         Step([sys.executable, "tests/proof/instructions_test.py", VALGRIND, str(GCC / "bin" / "instructions"),
               "each", "1000", "10000", "100000", "1000000"], r"growth: (at most [0-9.]+)")])
-    # The sanitizer is very slow on texts of a megabyte; the build without it judges those too.
+    # The sanitizer is very slow on strings of a megabyte, so only the build without it judges them.
     lines = r"(\d+ threads, \d+ calls each: [1-9]\d* lines \w+ \w+)"
     yield Proof("threads", "threads judge side by side", "thread sanitizer; every vector without", ["gcc", "tsan"], [
         Step([str(TSAN / "bin" / "threads_test")], lines, {"OSTREL_LONGEST_TEXT": "9000"}),
@@ -94,7 +94,7 @@ def run(proof, report):
     """run returns the figures, and whether every step succeeded."""
     figures = []
     for step in proof.steps:
-        # A skipped test proves nothing; with CI set it fails.
+        # A skipped test proves nothing. With CI set, it fails.
         environment = dict(os.environ, CI="1", **step.environment)
         result = subprocess.run(step.command, cwd=ROOT, env=environment, check=False, text=True, errors="replace",
                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT)

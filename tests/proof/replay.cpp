@@ -1,9 +1,10 @@
-// Runs every row of the vectors in one process, with as little code around them as possible, and counts the rows
-// whose result differs. A finding of a tool, or a difference under a locale, is then the library's.
+// Runs every row of the vectors in one process, with as little code around the calls as possible, and counts
+// the rows whose result differs. Any finding of a tool, and any difference under a locale, is therefore the
+// library's fault.
 //
 //   replay [LOCALE [BYTES]]
 //
-// LOCALE must be installed; the default is C. If BYTES is given, rows with a longer text are skipped.
+// LOCALE must be installed; the default is C. If BYTES is given, rows with longer strings are skipped.
 
 #include <cctype>
 #include <clocale>
@@ -20,7 +21,7 @@ namespace {
 using namespace ostrel;
 using namespace ostrel::vectors;
 
-// is_as_promised runs the row at the edge and prints it if the result differs.
+// is_as_promised returns whether the row has the promised result, and prints both results if it does not.
 bool is_as_promised(const Row& row, calling::Caller& caller, calling::Capture& capture)
 {
     caller.load(*row.given.function, row.given.values);

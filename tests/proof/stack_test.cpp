@@ -1,9 +1,10 @@
-// Measures how much stack the library needs. Each call runs on a separate stack that was painted before; the deepest
-// word that lost its paint marks the depth of the call.
+// Measures how much stack the library needs. Each call runs on a separate stack that is painted with a
+// pattern first. The deepest overwritten word marks the depth of the call.
 //
-// The figures cover the library's own frames. This program is a host that replaces the functions of the C library
-// that have large frames with versions that need almost no stack. The remaining byte and string functions of the C
-// library have no frames. The depth of a function that does nothing, called in the same way, is subtracted.
+// The figures cover the library's own frames. This program is a host that replaces the functions of the C
+// library that have large frames with versions that need almost no stack. The C library's other byte and
+// string functions have no frames. The depth of a function that does nothing, called in the same way, is
+// subtracted.
 
 #include <gtest/gtest.h>
 #include <ucontext.h>
@@ -32,7 +33,7 @@ bool measuring = false;  // NOLINT(cppcoreguidelines-avoid-non-const-global-vari
 
 }  // namespace
 
-// During a measurement nothing is printed, and every channel read from the list is the same number.
+// During a measurement, nothing is printed, and every channel read from the list is 1.
 extern "C" {
 
 int vprintf(const char* format, std::va_list arg)
@@ -76,7 +77,8 @@ int fclose(std::FILE* /*stream*/) { return 0; }
 
 int unlink(const char* /*name*/) noexcept { return 0; }
 
-// The C library's strstr has a table of 2 KiB for long texts. Its overloads in C++ prevent a definition under its name.
+// The C library's strstr uses a table of 2 KiB for long strings. Its C++ overloads prevent a definition under
+// that name.
 const char* find_part(const char* text, const char* part) __asm__("strstr");
 const char* find_part(const char* text, const char* part)
 {
@@ -88,7 +90,7 @@ const char* find_part(const char* text, const char* part)
     }
 }
 
-// atoi behaves like the C library's with a 64-bit long: it truncates a long, which saturates at LONG_MAX or LONG_MIN.
+// Like the C library's atoi with a 64-bit long, atoi truncates a long that saturates at LONG_MAX or LONG_MIN.
 int atoi(const char* nptr) noexcept
 {
     while (*nptr == ' ' || (*nptr >= '\t' && *nptr <= '\r')) ++nptr;
@@ -123,8 +125,8 @@ constexpr std::uint64_t kPaint = 0xA5A5'5A5A'C3C3'3C3C;
 
 int do_nothing(const char* /*value*/) { return 0; }
 
-// of_text makes a function of one text that is not in the catalogue; it borrows the description of a function of one
-// text.
+// of_text makes a function that has one text argument and is not in the catalogue. It uses the description of
+// isEmail.
 template <int (*F)(const char*)>
 Function of_text(const char* name)
 {
@@ -209,7 +211,7 @@ class Stack : public testing::Test {
         measure(*catalogue::find("WLAN_check_channel"), {std::string("6"), std::string("RADIO_2.4GHz")});
     }
 
-    // measure_long passes the text as each text argument alone, and then as all of them.
+    // measure_long passes the string as each text argument, one at a time, and then as all of them.
     void measure_long(const std::string& text)
     {
         for (const Function& function : catalogue::functions()) {

@@ -1,11 +1,11 @@
-// Eight threads judge every vector concurrently. Each answer is the one that the vector promises, and every printed
-// line arrives whole. Built with the thread sanitizer (the preset "tsan"), the test also shows that there is no data
-// race.
+// Eight threads judge every vector concurrently. Each answer must be the one that the vector promises, and
+// every printed line must be whole. Built with the thread sanitizer (preset "tsan"), the test also shows that
+// there is no data race.
 //
 // The checks of MAC addresses print a character without a line end, which may precede any line, so their rows are
 // judged separately, byte by byte.
 //
-// OSTREL_LONGEST_TEXT in the environment skips rows with a longer text.
+// If OSTREL_LONGEST_TEXT is set in the environment, rows with longer strings are skipped.
 //
 // Only one thread at a time may call WLAN_check_channel, so its rows are skipped if they ask the driver for its list.
 

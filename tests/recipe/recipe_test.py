@@ -20,11 +20,11 @@ import unittest
 NAME = "L3FORWARDING_check_preference"
 MOST_FILES = 8
 SKIPPED = 77
-# The new check has no rows with long texts, and the long texts of other checks would take most of the time.
+# The new check has no rows with long strings, and those of other checks would take most of the time.
 LIMITS = {"OSTREL_LONGEST_TEXT": "9000"}
 PRINTED = "Error in L3FORWARDING_check_preference: Invalid preference:%s, RANGE[1, 255]\n"
 
-# The tests of the preset that read every check, or files that are generated from all, and their targets.
+# The preset's tests that read every check or files generated from all checks, and the targets of these tests.
 TESTS = ("vectors_test|paths|exports_test|misuse_test|abi|headers|shared_object|rules_test|constraints_test|json_schema|"
          "assertions_test|pages|terminal|explain|reasons|examples_test|packed_vectors|sql.table")
 TARGETS = ["ostrel_check", "ostrel_check_O0", "ostrel_empty", "ostrel-check", "find_hazards", "fuzz_replay", "vectors_test",
@@ -40,7 +40,7 @@ def row(value, reason=None):
     return json.dumps(made) + "\n"
 
 
-# The edits by hand: the anchor in each file, and the text that is inserted before it.
+# The edits by hand, as the anchor in each file and the text that is inserted before it.
 EDITS = {
     "vectors/l3forwarding_check.ndjson": ("", "".join([
         row("1"), row("2"), row("254"), row("255"), row("12 ms"),
@@ -76,7 +76,7 @@ L3FORWARDING_check_preference 256
 """),
     "CHANGELOG.md": ("\n## ", "\n- `L3FORWARDING_check_preference`.\n"),
 }
-# The generators, by their names in CONTRIBUTING.md. No test of the preset reads docs/footprint.md.
+# The generators, by their names in CONTRIBUTING.md. None of the preset's tests reads docs/footprint.md.
 GENERATORS = {
     "scripts/hazards": "scripts/hazards",
     "scripts/stubs": "scripts/stubs",

@@ -1,4 +1,4 @@
-# Replaces OpenWrt's rules.mk: the variables and tools that recipes use.
+# Stands in for OpenWrt's rules.mk, which defines the variables and tools that recipes use.
 INCLUDE_DIR := $(TOPDIR)
 BUILD_DIR := $(SCRATCH)/build_dir
 PKG_INSTALL_DIR := $(SCRATCH)/ipkg-install
