@@ -1,4 +1,5 @@
-// Advice test: every id can be followed, and a false reason is detected. fuzz/ follows the reasons of all checks.
+// Tests that reasons of every id can be followed, and that a false reason is detected. fuzz/ follows the
+// reasons of all checks.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// fault_of returns the fault that following the reason of a call reveals.
+// fault_of follows the reason of a refused call and returns the fault that this reveals.
 std::string fault_of(const Check& check, const std::vector<Value>& values)
 {
     const Build build;
@@ -23,7 +24,7 @@ std::string fault_of(const Check& check, const std::vector<Value>& values)
     return oracle::Follower().follow(check, values, build, answer, [](const auto&, const auto&) {});
 }
 
-// fault_of tests a check of one text that refuses in one step.
+// fault_of tests a check that has one text argument and refuses in one step.
 std::string fault_of(Condition condition, const std::string& value)
 {
     return fault_of(
@@ -69,7 +70,7 @@ TEST(AdviceTest, WhatIsTrueHolds)
     EXPECT_EQ("", fault_of(not_empty(), "a"));
 }
 
-// Each check would reach the same verdict with a true reason.
+// In each check, the reason names a limit that is not the one that decides.
 TEST(AdviceTest, AFalseLimitIsNoticed)
 {
     EXPECT_EQ("does not come back with one step less: has 11 bytes; at most 5 are allowed",
@@ -107,7 +108,7 @@ TEST(AdviceTest, AReasonThatNobodyCanFollowIsNoticed)
     EXPECT_EQ("no way to follow not_equal", fault_of(not_equal(it, literal("a")), "b"));
 }
 
-// The limit of a part is reported before that of the whole.
+// The limit of a part is reported before that of the whole value.
 TEST(AdviceTest, LastOctetsHaveTheirOwnLimit)
 {
     for (const char* router : {"192.168.1.256", "192.168.1.255"}) {
@@ -116,7 +117,7 @@ TEST(AdviceTest, LastOctetsHaveTheirOwnLimit)
     }
 }
 
-// Shortening the label turns the whole value into an address, whose length is a different fault.
+// Shortening the label turns the whole value into an address, and its length is then a different fault.
 TEST(AdviceTest, AReasonOfAnotherPartIsAnotherOne)
 {
     EXPECT_EQ("", fault_of(*find("TcmValidateVoIPSTUNServer"), {"2222222222222222222225G.1.1."}));

@@ -1,4 +1,4 @@
-// Agreement test: compares the descriptions with every row of vectors/*.ndjson and with the declared arguments. fuzz/
+// Compares the descriptions with every row of vectors/*.ndjson and with the declared arguments. fuzz/
 // compares them with the library.
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ using vectors::RowReason;
 
 namespace {
 
-// result_of represents a number that was not written as the caller does.
+// result_of returns the result of an answer. As in the caller, a number that was not written is NULL.
 CallResult result_of(const Answer& answer)
 {
     CallResult result{answer.code, answer.out, answer.err, answer.is_flushed(), answer.after};
@@ -38,7 +38,7 @@ CallResult result_of(const Answer& answer)
     return result;
 }
 
-// told returns the fields of a reason that a row contains.
+// told returns the fields of a reason that rows contain.
 RowReason told(const Answer& answer)
 {
     const rules::Reason& reason = answer.reason;
@@ -55,8 +55,8 @@ bool is_beyond_rows(const Check& check)
            std::ranges::find(kOthers, check.name) != std::end(kOthers);
 }
 
-// A row holds for each C library, but its reason assumes a long of 64 bits. Rows reach every step, and each condition
-// is true in some row.
+// A row applies to every C library, but its reason assumes a 64-bit long. The rows reach every step, and each
+// condition is true in some row.
 TEST(AgreementTest, VectorsAndDescriptions)
 {
     std::size_t count = 0;

@@ -1,4 +1,4 @@
-// Automaton test: statements that hold for all texts of a language.
+// Tests statements of the automaton about all strings of a language.
 
 #include "rules/language/automaton.h"
 
@@ -45,7 +45,7 @@ TEST(AutomatonTest, Summary)
     EXPECT_EQ(summary(tail).longest, 5);
 }
 
-// Two cuts select the same number, and each limits it differently.
+// Two cuts select the same number, but limit it differently.
 TEST(AutomatonTest, WhatFollowsTellsMoreBytesApart)
 {
     Languages languages;

@@ -12,8 +12,8 @@ using rules::Set;
 namespace {
 
 constexpr std::size_t kLongest = 9000;
-constexpr std::size_t kMostChanged = 160;  // texts that bytes are inserted into
-constexpr std::size_t kMostItems = 48;     // texts that lists are built from
+constexpr std::size_t kMostChanged = 160;  // strings into which bytes are inserted
+constexpr std::size_t kMostItems = 48;     // strings from which lists are built
 
 class Maker {
  public:
@@ -48,7 +48,7 @@ class Maker {
         return {members.front(), members[members.size() / 2], members.back()};
     }
 
-    // some_of returns short texts, spread evenly over the set.
+    // some_of returns short strings, spread evenly over the set.
     static std::vector<std::string> some_of(const std::set<std::string>& texts, std::size_t most)
     {
         constexpr std::size_t kShort = 200;
@@ -94,7 +94,8 @@ class Maker {
         }
     }
 
-    // groups generates each group of a shape at its minimum and maximum length, and one byte shorter and longer.
+    // groups generates each group of a shape at its minimum and maximum length, and one byte shorter or
+    // longer.
     void groups(const rules::Runs& shape)
     {
         for (std::size_t at = 0; at <= shape.size(); ++at) {
@@ -155,7 +156,7 @@ class Maker {
         return result;
     }
 
-    // bytes inserts bytes at the beginning, the middle and the end of a text, and removes bytes there.
+    // bytes inserts bytes at the beginning, the middle and the end of a string, and removes bytes there.
     void bytes(const std::string& text, bool all)
     {
         const std::string tried = all ? Set::range(1, 255).members() : members_ + others_;

@@ -1,4 +1,4 @@
-// Candidates: values on both sides of the limits that constraints describe.
+// Generates values on both sides of the limits that constraints describe.
 #ifndef OSTREL_TESTS_RULES_CANDIDATES_H
 #define OSTREL_TESTS_RULES_CANDIDATES_H
 
@@ -10,10 +10,10 @@
 
 namespace ostrel::tests {
 
-// candidates returns texts for a form, derived from the form and from known texts.
+// candidates returns strings for a form, derived from the form and from known strings.
 std::set<std::string> candidates(const rules::Form& form, const std::set<std::string>& known);
 
-// numbers returns ints for a form.
+// numbers returns values of type int for a form.
 std::vector<long long> numbers(const rules::Form& form);
 
 }  // namespace ostrel::tests

@@ -1,4 +1,4 @@
-// Constraints test: compares the constraints of each argument with the values that the library accepts.
+// Compares the constraints of each argument with the values that the library accepts.
 
 #include <gtest/gtest.h>
 
@@ -161,7 +161,8 @@ TEST(ConstraintsTest, KeywordsInAnyCaseAreOfferedAsTheyAreWritten)
     EXPECT_FALSE(protocol.form.recommended.front().ignores_case);
 }
 
-// Shows how much the constraints describe of which argument.
+// Prints the arguments whose constraints are exact, those whose constraints are only necessary, and all
+// others.
 TEST(ConstraintsTest, HowMuchIsSaid)
 {
     std::map<std::string, std::string> names;

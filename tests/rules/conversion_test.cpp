@@ -1,4 +1,4 @@
-// Conversion test: how descriptions convert character references.
+// Tests how descriptions convert character references.
 
 #include <gtest/gtest.h>
 

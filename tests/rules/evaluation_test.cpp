@@ -1,4 +1,4 @@
-// Evaluation test: the counts, and conditions that are evaluated without a reason.
+// Tests the counts, and conditions that are evaluated without a reason.
 
 #include <gtest/gtest.h>
 
@@ -38,9 +38,10 @@ TEST(CountsTest, EachStepAndConditionCountsOnceInACall)
 
 TEST(CountsTest, CasesAndItemsCountToo)
 {
-    // Empty, a byte outside; the two cases and the refusal in each of them.
+    // The steps are: empty, a byte outside the set, the two cases, and the refusal in each case.
     const Check& host = *find("ValidateURL");
-    // Empty, a byte outside, only digits, too many labels; for each label: empty, too long.
+    // The steps are: empty, a byte outside the set, only digits, too many labels, and for each label: empty,
+    // too long.
     const Check& name = *find("TcmValidateDomainName");
     Counts counts;
     using Times = std::vector<std::uint64_t>;
@@ -66,7 +67,7 @@ TEST(OutsideTest, SaysWhy)
     }
 }
 
-// registered_with makes a check of two texts, of which the second is secret and must not be NULL.
+// registered_with makes a check with two text arguments, of which the second is secret and must not be NULL.
 Check registered_with(std::vector<Step> steps)
 {
     std::vector<ArgumentWords> arguments;
@@ -117,7 +118,7 @@ TEST(WriteTest, WhatIsWrittenIsJudgedFromItsBeginning)
     EXPECT_EQ(2U, judged.size);
 }
 
-// The offset is 0 unless a condition has found a fault.
+// The offset is 0 if no condition has found a fault.
 TEST(OffsetTest, IsZeroWithoutAFault)
 {
     EXPECT_EQ(0, answer_of({refuse(1, above("offset", 0)), refuse(2, below("offset", 0))}, {""}).code);
@@ -147,7 +148,7 @@ TEST(WorkTest, ALimitMayBeReached)
     const std::vector<Value> values = {"80"};
     std::uint64_t least = 1;
     while (evaluate_within(least, *find("TcmValidatePort"), values, {}).outside != Outside::kNo) ++least;
-    // The work covers its length, its digits and its number, each of two bytes.
+    // The work consists of reading the length, the digits and the number, each of which is two bytes.
     EXPECT_EQ(0U, least % 2);
 }
 
@@ -159,7 +160,7 @@ TEST(WorkTest, OfASearchIsLittleMoreThanOneOfTheText)
     EXPECT_EQ(Outside::kNo, evaluate_within(4096, check, values, {}).outside);
 }
 
-// Another model refuses the values that only one model supports.
+// A model refuses the values that only another model supports.
 TEST(ModelTest, OfAnotherModel)
 {
     Build other;
@@ -169,7 +170,7 @@ TEST(ModelTest, OfAnotherModel)
     EXPECT_EQ(1001, answer_of("WLAN_check_HNAP_SecurityType", {"1", "auto", "x", "AES"}, other).code);
 }
 
-// Distinguishing cases requires no reason.
+// Conditions that distinguish cases need no reason.
 TEST(WhenTest, TakesEveryCondition)
 {
     static const Table kTable = {{"a column"}, {{"a"}, {"b"}}};

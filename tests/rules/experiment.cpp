@@ -25,7 +25,7 @@ using vectors::shown;
 
 namespace {
 
-constexpr std::size_t kMostRows = 3;  // rows that candidates are inserted into
+constexpr std::size_t kMostRows = 3;  // rows into which candidates are inserted
 
 // build returns a build whose driver lists channels.
 const rules::Build& build() { return oracle::builds_with_channels().front(); }

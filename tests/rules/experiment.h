@@ -1,4 +1,4 @@
-// Experiment: calls of one function that test the constraints of its arguments.
+// Calls one function to test the constraints of its arguments.
 #ifndef OSTREL_TESTS_RULES_EXPERIMENT_H
 #define OSTREL_TESTS_RULES_EXPERIMENT_H
 
@@ -20,14 +20,16 @@ class Experiment {
  public:
     Experiment(const catalogue::Function& function, const rules::Check& check);
 
-    // change makes that many calls with changed rows: accepted values must obey the constraints.
+    // change makes that many calls with changed rows. Accepted values must obey the constraints.
     void change(std::size_t times, calling::Capture& capture);
 
-    // vary inserts candidates for an argument into accepted rows: accepted values must obey the constraints and, if
-    // the constraints are sufficient, vice versa. Recommended values must be accepted too.
+    // vary inserts candidates for an argument into accepted rows. Accepted values must obey the constraints
+    // and, if the constraints are sufficient, values that obey them must be accepted. Recommended values must
+    // be accepted too.
     void vary(std::size_t argument, calling::Capture& capture);
 
-    // pass_null returns the outcomes of NULL according to the description and, if the call is possible, the library.
+    // pass_null returns the outcomes of NULL according to the description and, if the call can be made, the
+    // library.
     std::set<rules::NullOutcome> pass_null(std::size_t argument, calling::Capture& capture);
 
     // constraints returns the constraints of an argument, or NULL if there are none.
@@ -37,7 +39,7 @@ class Experiment {
         return found == constraints_.end() ? nullptr : &found->second;
     }
 
-    std::string difference;  // of the first value that contradicts the constraints
+    std::string difference;  // describes the first value that contradicts the constraints
     std::size_t accepted = 0;
     std::size_t refused = 0;
 
@@ -53,7 +55,7 @@ class Experiment {
     const catalogue::Function& function_;
     const rules::Check& check_;
     std::map<std::size_t, rules::Constraints> constraints_;  // by argument
-    bool reads_number_ = false;                              // of any argument
+    bool reads_number_ = false;                              // whether any argument is read as a number
     std::vector<Values> rows_;
     Obedience obedience_;
     calling::Caller caller_;

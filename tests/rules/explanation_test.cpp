@@ -1,4 +1,4 @@
-// Explanation test: compares the explanation of each check with the vectors and the library.
+// Compares the explanation of each check with the vectors and the library.
 
 #include <gtest/gtest.h>
 
@@ -98,7 +98,7 @@ class Pattern {
     bool is_error_;
 };
 
-// is_made_of returns whether a text is a sequence of lines that match these patterns.
+// is_made_of returns whether the text is a sequence of lines that match these patterns.
 bool is_made_of(const std::string& text, const std::vector<Pattern>& patterns)
 {
     std::set<std::size_t> places = {0};
@@ -131,7 +131,7 @@ class Explained : public testing::TestWithParam<const Function*> {
 // Every explained line must be printed by some row, and every printed line must be explained.
 TEST_P(Explained, LinesAreThoseThatArePrinted)
 {
-    constexpr std::size_t kLongest = 2000;  // matching longer texts would take too long
+    constexpr std::size_t kLongest = 2000;  // matching longer output would take too long
     std::vector<SaidLine> lines;
     add_lines(rules::explain(check_, oracle::library_build()).steps, lines);
     std::vector<bool> are_printed(lines.size());
@@ -171,7 +171,7 @@ bool is_accepted(const Function& function, const std::vector<Value>& values)
     return caller.call() == 0;
 }
 
-// Completion offers the keywords: each is accepted with the other arguments of some row.
+// Completion offers the keywords, so each must be accepted together with the other arguments of some row.
 TEST_P(Explained, KeywordsAreAccepted)
 {
     for (std::size_t i = 0; check_.is_verdict && i < check_.arguments.size(); ++i) {

@@ -1,5 +1,5 @@
-// Hazards test: the library accepts each value that is listed as accepted with a byte in some place, and the byte is
-// there. The calls of agreement_test.cpp show that the list is complete.
+// Tests that the library accepts each value that is listed as accepted with a byte in some place, and that
+// the byte is there. The calls of agreement_test.cpp show that the list is complete.
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ namespace {
 
 class Hazards : public testing::Test {
  protected:
-    // held returns the texts of the argument before or after an accepted call, and nothing for a refused one.
+    // held returns the strings of the argument before or after the call, or nothing if the call is refused.
     std::vector<std::string> held(const Function& function, const Exposure& exposure,
                                   const std::vector<Value>& values)
     {
@@ -63,7 +63,7 @@ TEST_F(Hazards, EachWitnessIsAccepted)
     EXPECT_GT(calls, 10000U);
 }
 
-// Each text is listed, before the call and, if the call can write to it, after the call.
+// Each text argument is listed, before the call and, if the call can write to it, also after the call.
 TEST_F(Hazards, EachTextIsSpokenOf)
 {
     for (const Function& function : catalogue::functions()) {

@@ -1,4 +1,4 @@
-// Hosts test: the sentences for refused hosts, URLs and e-mail addresses.
+// Tests the sentences for refused hosts, URLs and e-mail addresses.
 
 #include <gtest/gtest.h>
 

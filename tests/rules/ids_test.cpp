@@ -1,4 +1,4 @@
-// Ids test: the fault that each condition reports, plain and negated, and the fault's position.
+// Tests the fault that each condition reports, plain and negated, and the position of the fault.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-"""Compares the output of list --json-schema with the library by means of JSON Schema validators.
+"""Uses JSON Schema validators to compare the output of list --json-schema with the library.
 
 usage: json_schema_test.py OSTREL_CHECK COUNT [FOLDER]
 
@@ -18,7 +18,7 @@ import unittest
 import jsonschema
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
-import vectors  # noqa: E402  (its folder must be known first)
+import vectors  # noqa: E402  (sys.path must be set first)
 
 ALPHABET = "".join(map(chr, range(1, 0x7F)))
 TELLING = "\t\n\r\x0b\x01\x1f !\"#$%&'()*+,-./0123456789:;<=>?@AFGZ[\\]^_`afgxz{|}~"
@@ -26,7 +26,7 @@ HIGHEST = 2**31 - 1
 
 
 def vector_texts():
-    """The first argument of each row, by check: for a check of a single text, that text."""
+    """Returns the first argument of each row if it is a string, grouped by check."""
     texts = {}
     for _, row in vectors.rows():
         argument = vectors.text_of(row["args"][0]) if row.get("args") else None
@@ -36,13 +36,13 @@ def vector_texts():
 
 
 def is_beyond_int(text):
-    """Whether the text contains a number that may not fit in an int, which builds read differently."""
+    """Returns whether the text contains a number that may not fit in an int, which builds read differently."""
     numbers = re.findall("(-?)0*([0-9]+)", text)
     return any(len(number) > 10 or int(number) > HIGHEST + len(sign) for sign, number in numbers)
 
 
 class Maker:
-    """Makes texts around the limits of a definition from known texts."""
+    """Makes strings around the limits of a definition from known strings."""
 
     def __init__(self, name, definition, known):
         self.random = random.Random(name)
@@ -95,7 +95,7 @@ class Maker:
         return self.random.choice(("", " ", "\n", ",")) + text + self.random.choice((" ", "\n", ",", "."))
 
     def texts(self, count):
-        """That many texts, or fewer if not enough can be made."""
+        """Returns that many strings, or fewer if not enough can be made."""
         made = dict.fromkeys(self.known)
         for _ in range(5 * count):
             if len(made) >= count:
@@ -128,12 +128,12 @@ class JsonSchema(unittest.TestCase):
 
     @classmethod
     def judge(cls, name, definition):
-        """Pairs of a text and whether the library accepts it, without numbers beyond an int."""
+        """Returns pairs of a string and whether the library accepts it, without numbers beyond an int."""
         known = [text for text in VECTORS.get(name, []) if set(text) <= set(ALPHABET)]
         texts = Maker(name, definition, known).texts(COUNT) + known
         if definition.get("x-ostrel-reads-number"):
             texts = [text for text in texts if not is_beyond_int(text)]
-        # A text for which the check never returns uses up the time limit; any with the same first byte would too.
+        # A string for which the check never returns uses up the time limit, as would any with the same first byte.
         verdicts = verdicts_of(name, texts[:50], 0.05)
         endless = {text[:1] for text, verdict in zip(texts, verdicts) if verdict == "no_return"}
         texts[50:] = [text for text in texts[50:] if text[:1] not in endless]
@@ -166,7 +166,7 @@ class JsonSchema(unittest.TestCase):
                     self.fail(f"{name} {text!r}: the library {'accepts' if is_accepted else 'refuses'} it")
 
     def check_spread(self, name):
-        """Some values are accepted, and some are refused if a definition excludes any."""
+        """Some values must be accepted and, if the definition excludes any, some must be refused."""
         verdicts = {is_accepted for _, is_accepted in self.judged[name]}
         self.assertIn(True, verdicts, name)
         if {"minLength", "maxLength", "enum", "pattern"} & set(self.definitions[name]):

@@ -1,4 +1,4 @@
-// Language test: compares the contents of languages with every short text of a small alphabet.
+// Compares the contents of languages with every short string over a small alphabet.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// Languages: sample languages, and the short texts to try them with.
+// Sample languages, and the short strings to test them with.
 #ifndef OSTREL_TESTS_RULES_LANGUAGES_H
 #define OSTREL_TESTS_RULES_LANGUAGES_H
 
@@ -10,13 +10,13 @@
 
 namespace ostrel::tests {
 
-// for_each_text visits all texts of an alphabet, up to a length.
+// for_each_text visits all strings over an alphabet, up to a length.
 void for_each_text(const std::string& alphabet, std::size_t longest,
                    const std::function<void(const std::string&)>& look, const std::string& begin = "");
 
 std::vector<rules::Cut> cuts();
 
-// inner_languages returns languages for parts of texts.
+// inner_languages returns languages for parts of strings.
 std::vector<rules::Language> inner_languages(rules::Languages& languages);
 
 }  // namespace ostrel::tests

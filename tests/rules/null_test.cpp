@@ -1,4 +1,4 @@
-// Null test: compares the documented effect of NULL for an argument with the outcomes of calls.
+// Compares the documented effect of NULL for an argument with the outcomes of calls.
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ class NullTest : public testing::TestWithParam<const Function*> {
     const Check& check_ = *function_.check;
 };
 
-// outcome_in_words calls the function in a separate process.
+// outcome_in_words calls the function in a separate process and describes the outcome.
 std::string outcome_in_words(const Function& function, const std::vector<Value>& values)
 {
     int code = 0;
@@ -66,8 +66,8 @@ std::set<std::string> outcomes_in(const std::string& text)
     return result;
 }
 
-// Calls with the same described outcome end in the same way, so the test makes one of each. The description stops at a
-// NULL that is printed, so a few more rows are tried in that case.
+// Calls with the same described outcome end in the same way, so the test makes one call for each outcome. The
+// evaluation of a description ends at a NULL that is printed, so a few more rows are tried in that case.
 TEST_P(NullTest, WhatIsSaidIsWhatHappens)
 {
     constexpr std::size_t kMostCalls = 12;

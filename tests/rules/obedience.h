@@ -1,4 +1,4 @@
-// Obedience: whether a value obeys the constraints of its argument, each of which is judged separately.
+// Tests whether a value obeys the constraints of its argument, one constraint at a time.
 #ifndef OSTREL_TESTS_RULES_OBEDIENCE_H
 #define OSTREL_TESTS_RULES_OBEDIENCE_H
 
@@ -14,10 +14,11 @@ namespace ostrel::tests {
 
 class Obedience {
  public:
-    // fault returns the first constraint that a text violates, or an empty text.
+    // fault returns the first constraint that the text violates, or an empty string.
     std::string fault(const rules::Form& form, const std::string& text);
 
-    // fault_of does the same for an argument of a call. NULL, and any kind except texts and numbers, obeys.
+    // fault_of does the same for an argument of a call. NULL obeys, and so does any argument that is
+    // neither a text nor a number.
     std::string fault_of(const rules::Constraints& constraints, const std::vector<catalogue::Value>& values,
                          std::size_t argument);
 

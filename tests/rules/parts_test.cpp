@@ -1,4 +1,4 @@
-// Parts test: a reason about a part of an argument names the part and the offset at which it begins.
+// Tests that a reason about a part of an argument names the part and the offset at which it begins.
 
 #include <gtest/gtest.h>
 

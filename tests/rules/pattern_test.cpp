@@ -1,4 +1,4 @@
-// Pattern test: compares the matches of regular expressions with the languages that they were generated from.
+// Compares the matches of regular expressions with the languages from which the expressions were generated.
 
 #include "rules/language/pattern.h"
 

@@ -1,4 +1,4 @@
-// Reasons test: the sentences for values that the checks of the services refuse.
+// Tests the sentences for values that the service checks refuse.
 
 #include <gtest/gtest.h>
 

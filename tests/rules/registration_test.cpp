@@ -1,5 +1,5 @@
-// Registration test: every description is in the module whose header declares the function, and a description that
-// refers to something undefined is rejected.
+// Tests that every description is in the module whose header declares the function, and that a description
+// that refers to something undefined is rejected.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// Room test: buffers of exactly the described size, followed by an unreadable page.
+// Tests calls with buffers of exactly the described size, each followed by an unreadable page.
 
 #include <gtest/gtest.h>
 #include <ostrel/lan_check.h>
@@ -19,10 +19,10 @@ namespace ostrel::tests {
 
 namespace {
 
-// kOther fills a buffer before the call.
+// kOther is the byte that fills a buffer before the call.
 constexpr char kOther = '\xAA';
 
-// died returns whether the status is that of a memory fault, including one that a sanitizer reports.
+// died returns whether the status reports a memory fault, including one that a sanitizer detected.
 bool died(int status) { return WIFSIGNALED(status) ? WTERMSIG(status) != SIGABRT : WEXITSTATUS(status) != 0; }
 
 // Buffer is memory that ends at an unreadable page.
@@ -33,7 +33,7 @@ class Buffer {
         std::memset(begin_, kOther, size);
     }
 
-    // hold copies a text into the buffer and fills the rest with zeros.
+    // hold copies a string into the buffer and fills the rest with zeros.
     void hold(const std::string& text)
     {
         std::memset(begin_, 0, size_);

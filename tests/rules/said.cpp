@@ -209,7 +209,7 @@ std::vector<Expectation> of_forms_and_lists()
     };
 }
 
-// of_places returns the sentences for a part, for an item, and for a text that was rewritten.
+// of_places returns the sentences for a part, for an item, and for a converted value.
 std::vector<Expectation> of_places()
 {
     return {

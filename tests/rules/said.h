@@ -1,4 +1,5 @@
-// Said: reasons, and the sentence that a reader expects for each, written by hand and not copied from sentences.cpp.
+// Reasons with the sentence that a reader expects for each, written by hand and not copied from
+// sentences.cpp.
 #ifndef OSTREL_TESTS_RULES_SAID_H
 #define OSTREL_TESTS_RULES_SAID_H
 
@@ -14,7 +15,7 @@ struct Expectation {
     std::string sentence;
 };
 
-// all_said returns every id in every form.
+// all_said returns the expected sentences for every id in every form.
 const std::vector<Expectation>& all_said();
 
 }  // namespace ostrel::rules

@@ -1,4 +1,4 @@
-// Sentences test: the sentence for each id, in each of its forms, is the one that a reader expects.
+// Tests that the sentence for each id, in each of its forms, is the one that a reader expects.
 
 #include <gtest/gtest.h>
 
@@ -93,7 +93,7 @@ Reason of(std::string_view id, std::size_t argument = 0)
     return reason;
 }
 
-// The found value may be hidden; a reason without a place or a limit still has a sentence.
+// The found value may be hidden, and a reason without a place or a limit still has a sentence.
 TEST(SentencesTest, SayWhatIsNotShown)
 {
     EXPECT_EQ("should end before byte ", sentence(of("too_much")));
@@ -138,7 +138,7 @@ Reason of_item(Reason reason, std::string text)
     return reason;
 }
 
-// An argument is named if the user passes several; outputs do not count.
+// An argument is named if the user passes more than one. Outputs do not count.
 TEST(FullSentencesTest, NameWhatTheySpeakOf)
 {
     EXPECT_EQ("is empty", full_sentence(of("empty"), of_one()));

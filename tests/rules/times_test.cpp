@@ -1,4 +1,4 @@
-// Times test: the sentences for refused dates, times and time zones.
+// Tests the sentences for refused dates, times and time zones.
 
 #include <gtest/gtest.h>
 
@@ -71,7 +71,7 @@ TEST(TimeZoneTest, BothOrNone)
     EXPECT_EQ("end", answer_of(name, {"x", ""}).reason.name);
 }
 
-// A value that is accepted but prints a line has the reason of that line.
+// If a value is accepted but a line is printed, the answer contains the reason for that line.
 TEST(TimeZoneTest, UnprintableValuesPass)
 {
     const Answer answer = answer_of("TIME_check_local_time_zone", {"+08:\t0"});

@@ -1,4 +1,4 @@
-// Told: a description's answer to a call, and its sentence about a refusal.
+// A description's answer to a call, and its sentence about a refusal.
 #ifndef OSTREL_TESTS_RULES_TOLD_H
 #define OSTREL_TESTS_RULES_TOLD_H
 

@@ -1,4 +1,4 @@
-// Vector reasons test: every refusing condition has a row with a reason.
+// Tests that every refusing condition has a row with a reason.
 
 #include <gtest/gtest.h>
 
@@ -41,9 +41,9 @@ const Check* target_of(const Step& refusal)
     return refusal.condition.kind == Condition::Kind::kRefusedBy ? refusal.condition.target : nullptr;
 }
 
-// A path names the refusing steps that lead to a refusal: the step of the called check, then the step of the check that
-// the first one delegates to, and so on. "TcmValidateIPRouter 1, TcmValidateIPAddress 3" is the third refusal of the
-// address, reached through the first of the router.
+// A path names the refusing steps that lead to a refusal: the step of the called check, then the step of the
+// check that the first one delegates to, and so on. "TcmValidateIPRouter 1, TcmValidateIPAddress 3" is the
+// third refusal of the address check, reached through the first refusal of the router check.
 std::string step_name(const Check& check, std::size_t index)
 {
     return std::string(check.name) + " " + std::to_string(index + 1);
@@ -83,7 +83,7 @@ std::map<std::string, std::size_t> paths_shown()
         if (!row.reason) continue;
         const Check& check = *row.given.function->check;
         rules::Build build = oracle::library_build();
-        build.atoi = rules::Build::Atoi::kLong64;  // rows are written for this one
+        build.atoi = rules::Build::Atoi::kLong64;  // the reasons in rows assume this kind
         Counts counts;
         rules::evaluate(check, catalogue::completed(*row.given.function, row.given.values), build, &counts);
         ++result[path_of(check, counts)];
@@ -91,7 +91,7 @@ std::map<std::string, std::size_t> paths_shown()
     return result;
 }
 
-// A refusal for two different faults has a step for each.
+// A refusal for two different faults must have a step for each.
 TEST(VectorReasonsTest, ConditionsHaveAStepEach)
 {
     for (const Check& check : rules::checks()) {
@@ -108,25 +108,25 @@ struct Unshown {
 
 constexpr Unshown kUnshown[] = {
     {"GUESTACCESS_check_max_allowed_number 2, ValidateString 1",
-     "the number of the empty value is refused before"},
+     "the number that is read from the empty value is refused earlier"},
     {"TIME_check_NTP_server 2, TIME_check_url 1, ValidateURL 1",
-     "the empty value is refused for its length before"},
+     "the empty value is refused earlier for its length"},
     {"TIME_check_ascii_string 1, PARAM_check_printable_ascii_string 1",
      "NULL is printed, which is a memory fault"},
-    {"TcmValidateDaylightSavingsTime 14, TcmValidateTime 1", "only values of the right shape get there"},
-    {"TcmValidateEmailAddress 2, isEmail 1", "shorter values are refused before"},
+    {"TcmValidateDaylightSavingsTime 14, TcmValidateTime 1", "only well-formed values reach it"},
+    {"TcmValidateEmailAddress 2, isEmail 1", "shorter values are refused earlier"},
     {"TcmValidateEmailPassword 1, ValidateString 1", "no value has fewer than 0 bytes"},
     {"TcmValidateVoIPPassword 1, ValidateString 1", "no value has fewer than 0 bytes"},
-    {"TcmValidateVoIPRegistrar 4, ValidateURL 1", "values of fewer than 3 bytes are refused before"},
+    {"TcmValidateVoIPRegistrar 4, ValidateURL 1", "values of fewer than 3 bytes are refused earlier"},
     {"TcmValidateVoIPSTUNServer 3, ValidateURL 1", "the empty value is accepted"},
-    {"ValidateURL 3, TcmValidateDomainName 1", "the empty value is refused before"},
-    {"ValidateURL 3, TcmValidateDomainName 2", "bytes that no name has are refused before"},
-    {"ValidateURL 3, TcmValidateDomainName 3", "digits and dots alone are taken for an address"},
-    {"ValidateURL 4, TcmValidateIPAddress 1", "the empty value is refused before"},
-    {"ValidateURL 4, TcmValidateIPAddress 2", "what has other bytes is taken for a name"},
-    {"WLAN_check_HNAP_SecurityType 3", "of another model; wlan_check_test.cpp has it"},
-    {"WLAN_check_channel 2", "depends on the wireless driver; wlan_check_test.cpp has it"},
-    {"WLAN_check_radio_id 2", "of another model; wlan_check_test.cpp has it"},
+    {"ValidateURL 3, TcmValidateDomainName 1", "the empty value is refused earlier"},
+    {"ValidateURL 3, TcmValidateDomainName 2", "bytes that no name has are refused earlier"},
+    {"ValidateURL 3, TcmValidateDomainName 3", "a value of only digits and dots is treated as an address"},
+    {"ValidateURL 4, TcmValidateIPAddress 1", "the empty value is refused earlier"},
+    {"ValidateURL 4, TcmValidateIPAddress 2", "a value with other bytes is treated as a name"},
+    {"WLAN_check_HNAP_SecurityType 3", "reached only for another model; wlan_check_test.cpp covers it"},
+    {"WLAN_check_channel 2", "depends on the wireless driver; wlan_check_test.cpp covers it"},
+    {"WLAN_check_radio_id 2", "reached only for another model; wlan_check_test.cpp covers it"},
 };
 
 bool ends_with_path(std::string_view path, std::string_view end)

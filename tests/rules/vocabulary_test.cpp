@@ -1,4 +1,4 @@
-// Vocabulary test: each word alone.
+// Tests each word of the vocabulary separately.
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ TEST(BuildTest, NumbersAmongOtherBytes)
     EXPECT_EQ(0, read_number("", Build::Atoi::kLong64).value);
     EXPECT_EQ(0, read_number("x1", Build::Atoi::kLong64).value);
     EXPECT_EQ(0, read_number("- 1", Build::Atoi::kLong64).value);
-    // Bytes after a piece of a text are not read.
+    // Bytes after the end of a piece are not read.
     EXPECT_EQ(1, read_number(std::string_view("  1").substr(0, 1), Build::Atoi::kLong64).begin);
     EXPECT_EQ(0, read_number(std::string_view("-1").substr(0, 0), Build::Atoi::kLong64).value);
 }

@@ -1,4 +1,4 @@
-// Wireless LAN test: the sentences for values that its checks refuse, and the words that only these checks need.
+// Tests the sentences for values that the wireless checks refuse, and the words that only these checks need.
 
 #include <gtest/gtest.h>
 #include <ostrel/wlan_check.h>

@@ -1,5 +1,7 @@
-// Judges texts with ajv: node judge.mjs FILE. The file contains the schema and, for each definition, texts with their
-// expected verdicts. Prints each difference as a line of JSON.
+// Judges strings with ajv. FILE contains the schema and, for each definition, strings with their expected verdicts.
+// Each difference is printed as a line of JSON.
+//
+// usage: node judge.mjs FILE
 import { readFileSync } from "node:fs";
 import Ajv2020 from "ajv/dist/2020.js";
 
