@@ -1,4 +1,4 @@
-// The processor time for a list.
+// Tests the processor time for long lists of reserved addresses.
 
 #include <gtest/gtest.h>
 #include <ostrel/subnets.h>
@@ -12,7 +12,7 @@ namespace ostrel::tests {
 
 namespace {
 
-// cpu_seconds returns the least processor time of several runs, which excludes other processes.
+// cpu_seconds returns the least processor time of several runs, which does not include other processes.
 double cpu_seconds(const std::string& list, const char* lan_address, int code)
 {
     std::clock_t least = std::numeric_limits<std::clock_t>::max();
@@ -24,8 +24,8 @@ double cpu_seconds(const std::string& list, const char* lan_address, int code)
     return static_cast<double>(least) / CLOCKS_PER_SEC;
 }
 
-// expect_linear compares the times for two lists, one of which is 64 times as long as the other; with quadratic
-// growth, its time would be 4096 times as long.
+// expect_linear compares the times for two lists, one of which is 64 times as long as the other. With
+// quadratic growth, the longer list would take 4096 times as long.
 void expect_linear(const std::string& small, const std::string& large, const char* lan_address, int code)
 {
     ASSERT_EQ(64U, large.size() / small.size());

@@ -1,8 +1,10 @@
-// Runs the rows of each function as a test, in a suite for its module: vectors_test --gtest_filter=hosts.isEmail.
+// Runs the rows of each function as a test in a suite for its module. --gtest_filter=hosts.isEmail selects
+// the rows of one function.
 //
 // usage: vectors_test [MODULE]...
 //
-// Modules restrict the files that are read: vectors_test hosts wlan_check/keys. A folder selects all its modules.
+// If modules are named, only their files are read, as in vectors_test hosts wlan_check/keys. A folder selects
+// all its modules.
 
 #include <gtest/gtest.h>
 #include <unistd.h>

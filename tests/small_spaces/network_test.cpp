@@ -1,4 +1,4 @@
-// Hosts, URLs, mail addresses, IP and MAC addresses, lists of them, and ports.
+// Tests small spaces of hosts, URLs, mail addresses, IP and MAC addresses, lists of addresses, and ports.
 
 #include <string>
 
@@ -62,7 +62,7 @@ TEST_F(SmallSpaces, Addresses)
                 octets.push_back(before + octet + std::string(".2.3.4").substr(std::string(before).size()));
         }
     }
-    // Next to three octets of one digit, an octet may have nine digits: 0 to 9 with 0 to 8 zeros, and so on.
+    // If three octets have one digit, the fourth may have nine: 0 to 9 after 0 to 8 zeros, and so on.
     EXPECT_EQ(4 * (10 * 9 + 90 * 8 + 156 * 7), expect_each({"TcmValidateIPAddress"}, octets)[0]);
 
     Texts stations;

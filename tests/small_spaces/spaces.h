@@ -1,4 +1,4 @@
-// SmallSpaces: compares calls of the library with their descriptions, for tests that exhaust a small space of values.
+// Compares calls of the library with their descriptions, for tests that exhaust a small space of values.
 #ifndef OSTREL_TESTS_SMALL_SPACES_SPACES_H
 #define OSTREL_TESTS_SMALL_SPACES_SPACES_H
 
@@ -17,7 +17,7 @@ namespace ostrel::tests {
 
 using Texts = std::vector<std::string>;
 
-// texts_of returns every text of up to that many pieces.
+// texts_of returns every string of up to that many pieces.
 Texts texts_of(const Texts& pieces, std::size_t most);
 Texts texts_of(std::string_view alphabet, std::size_t longest);
 
@@ -25,12 +25,13 @@ class SmallSpaces : public testing::Test {
  protected:
     using Values = std::vector<rules::Value>;
 
-    // expect compares the code, the output and the writes of a call with its description, if that covers the call. It
-    // returns the code.
+    // expect compares the code, the output and the writes of a call with its description, if the description
+    // covers the call. It returns the code.
     std::optional<int> expect(const catalogue::Function& function, const Values& values);
     std::optional<int> expect(std::string_view name, const Values& values);
 
-    // expect_each passes each text to each of the checks and returns the number of occurrences of each code.
+    // expect_each passes each string to each of the checks and returns the number of occurrences of each
+    // code.
     std::map<int, int> expect_each(const std::vector<std::string_view>& names, const Texts& texts);
 
  private:

@@ -1,4 +1,5 @@
-// Single bytes in values of every check, date-times, time zones, references, account names, channels and keys.
+// Tests every single byte in values of every check, and small spaces of date-times, time zones, character
+// references, account names, channels and keys.
 
 #include <set>
 #include <string>
@@ -83,7 +84,7 @@ TEST_F(SmallSpaces, TimeZones)
     EXPECT_EQ(table, std::string(kTimeZones, sizeof kTimeZones - 1)) << "each row verbatim and in order";
 }
 
-// Names and near misses, numbers in each form, and pieces of references in every order.
+// Tests names and near misses, numbers in each form, and pieces of references in every order.
 TEST_F(SmallSpaces, CharacterReferences)
 {
     Texts texts = {"&amp;lt;", "&amp;amp;", "&#38;#65;", "&#x26;lt&#59;"};  // results are not converted again

@@ -1,4 +1,4 @@
-// Sets of bytes, written as pairs of first and last byte: "09AF" is 0 to 9 and A to F, "--" is "-" alone.
+// Sets of bytes, written as pairs of first and last byte: "09AF" is 0 to 9 and A to F, and "--" is only "-".
 #ifndef OSTREL_TESTS_SUPPORT_BYTE_RANGES_H
 #define OSTREL_TESTS_SUPPORT_BYTE_RANGES_H
 

@@ -30,8 +30,8 @@ void check(bool succeeded, const char* what)
 {
     // Kills a child that never returns when its parent is killed.
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    // A core limit of 0 does not apply to a core that is piped to a handler program; a process that is not dumpable
-    // produces none.
+    // A core limit of 0 does not apply to a core that is piped to a handler program, but a process that is
+    // not dumpable produces no core.
     prctl(PR_SET_DUMPABLE, 0);
     const rlimit no_core = {0, 0};
     setrlimit(RLIMIT_CORE, &no_core);

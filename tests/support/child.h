@@ -1,4 +1,4 @@
-// Child: runs a function in a separate process, for calls that end the process or never return.
+// Runs a function in a separate process, for calls that end the process or never return.
 #ifndef OSTREL_TESTS_SUPPORT_CHILD_H
 #define OSTREL_TESTS_SUPPORT_CHILD_H
 
@@ -11,18 +11,20 @@
 
 namespace ostrel::tests {
 
-// ChildEnd describes how a child ended, with the output that it flushed itself or by returning.
+// ChildEnd describes how a child ended. It contains the output that the child flushed, explicitly or by
+// returning.
 struct ChildEnd {
     bool timed_out = false;  // it was still running at the limit and was killed
-    int signal = 0;          // the signal that ended it; 0: none, or timed out
-    int status = -1;         // the value that its body returned; -1: it did not return
+    int signal = 0;          // the signal that ended it, or 0 if there was none or it timed out
+    int status = -1;         // the value that its body returned, or -1 if the body did not return
     std::string out;
     std::string err;
 };
 
 void PrintTo(const ChildEnd& end, std::ostream* stream);
 
-// Child starts the body immediately in a forked process, which leaves no core file. Several may run at a time.
+// Child immediately starts the body in a forked process, which leaves no core file. Several children may run
+// at a time.
 class Child {
  public:
     // body must return 0 to 255.

@@ -11,7 +11,8 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// Other tests run calls that end by a signal or never return in children, so a child must not confuse these endings.
+// Other tests use children for calls that end by a signal or never return, so Child must tell these endings
+// apart.
 TEST(Child, TellsReturnSignalAndTimeOutApart)
 {
     const ChildEnd returned = run_in_child(milliseconds(10000), [] {

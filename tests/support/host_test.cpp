@@ -1,4 +1,4 @@
-// A host that defines the two utilities: the library calls them and uses their results.
+// A host that defines the two utilities. The library must call them and use their results.
 
 #include <gtest/gtest.h>
 #include <ostrel/result_code.h>

@@ -1,4 +1,4 @@
-// Hostile values for arguments, and values for the other arguments.
+// Hostile values for one argument, and neutral values for the others.
 #ifndef OSTREL_TESTS_SUPPORT_HOSTILE_H
 #define OSTREL_TESTS_SUPPORT_HOSTILE_H
 
@@ -11,17 +11,18 @@
 
 namespace ostrel::tests {
 
-// repeated repeats the part until the text has at least that size.
+// repeated repeats the part until the result has at least that size.
 std::string repeated(std::string_view part, std::size_t size);
 
-// is_text returns whether the argument accepts a text; an argument of several blocks does not.
+// is_text returns whether a function reads a string from the argument. An argument of several blocks does not
+// count.
 bool is_text(const catalogue::Argument& argument);
 
-// neutral returns the value of an argument while another one is hostile: texts are empty.
+// neutral returns an empty string, or the number, for an argument while another one is hostile.
 catalogue::Value neutral(const catalogue::Argument& argument, long long number);
 
-// widest returns a value for each argument: texts are empty, the last number, which may be an upper limit, is the
-// largest int, and the others are 0.
+// widest returns a value for each argument. Strings are empty, and numbers are 0, except the last one, which
+// is the largest int because it may be an upper limit.
 std::vector<catalogue::Value> widest(const catalogue::Function& function);
 
 // never_returns returns whether the call would never return; parameter_check_test covers such calls.

@@ -1,4 +1,4 @@
-// The main of test programs that do not define one.
+// The main function of test programs that do not define one.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// Compares the library's own parser of numbers with atoi.
+// Compares the library's own number parser with atoi.
 
 #include "src/support/number.h"
 
@@ -12,7 +12,7 @@ namespace {
 using ostrel::leading_number;
 using ostrel::read_number;
 
-// for_each_text visits all texts of up to that length over the alphabet, each preceded by the prefix.
+// for_each_text visits all strings of up to that length over the alphabet, each preceded by the prefix.
 template <typename Visit>
 void for_each_text(const std::string& prefix, const std::string& alphabet, int longest, const Visit& visit)
 {

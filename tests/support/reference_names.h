@@ -1,4 +1,4 @@
-// reference_names: the named character references of ISO 8859-1 and of XML, and the byte that each denotes.
+// The names of the character references of ISO 8859-1 and XML, with the byte that each denotes.
 #ifndef OSTREL_TESTS_SUPPORT_REFERENCE_NAMES_H
 #define OSTREL_TESTS_SUPPORT_REFERENCE_NAMES_H
 

@@ -49,8 +49,8 @@ class Swap : public testing::EmptyTestEventListener {
     std::FILE*& other_;
 };
 
-// print_failures_where_they_are_seen prints failures to the original standard output even during a capture, which
-// would hide them and judge them as output of the check.
+// print_failures_where_they_are_seen prints failures to the original standard output even during a capture.
+// Otherwise, the capture would hide them and treat them as output of the check.
 void print_failures_where_they_are_seen(testing::TestEventListeners& listeners)
 {
     static std::FILE* other = stdout;

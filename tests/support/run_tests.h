@@ -1,4 +1,4 @@
-// run_tests: the last call of every test program's main.
+// The last function that the main function of every test program calls.
 #ifndef OSTREL_TESTS_SUPPORT_RUN_TESTS_H
 #define OSTREL_TESTS_SUPPORT_RUN_TESTS_H
 

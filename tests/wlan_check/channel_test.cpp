@@ -1,4 +1,4 @@
-// WLAN_check_channel with a stand-in for the driver's tool.
+// Tests WLAN_check_channel with a stand-in for the driver's tool.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

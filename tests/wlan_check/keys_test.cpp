@@ -1,4 +1,4 @@
-// Tests of the keys that the vectors cannot express: which bytes of a WEP key block are written.
+// Tests which bytes of a WEP key block are written, which the vectors cannot express.
 
 #include <gtest/gtest.h>
 #include <ostrel/result_code.h>
@@ -20,7 +20,7 @@ constexpr char kFilling = '\x5A';
 using Keys = std::array<std::string, 4>;
 using Block = std::array<char, 4 * kDistance>;
 
-// block_of stores the keys in a block whose other bytes are all set.
+// block_of stores the keys in a block in which all other bytes are kFilling.
 Block block_of(const Keys& keys)
 {
     Block block;

@@ -1,4 +1,4 @@
-// A build for a model other than M2840: one radio, and WEP with RADIUS.
+// Tests a build for a model other than M2840. Such a model has one radio and allows WEP with RADIUS.
 
 #include <gtest/gtest.h>
 #include <ostrel/result_code.h>

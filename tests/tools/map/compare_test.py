@@ -1,7 +1,9 @@
 #!/usr/bin/python3
-"""compare_test.py OSTREL_CHECK SOURCE_DIR: each difference that "compare" reports is real; "same" has no exception.
+"""Tests that each difference that "compare" reports is real, and that "same" has no exception.
 
-standard.py judges values for the model, the library judges them for the gateway.
+usage: compare_test.py OSTREL_CHECK SOURCE_DIR
+
+standard.py judges values for the model, and the library judges them for the gateway.
 """
 
 import json
@@ -11,7 +13,7 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parent))
-import standard  # noqa: E402
+import standard  # noqa: E402  (sys.path must be set first)
 
 program, source = sys.argv[1:3]
 maps = pathlib.Path(source) / "examples/maps"
@@ -22,7 +24,7 @@ def compare(path, *options):
 
 
 def judge(cases):
-    """judge returns the code of each call, or None if the call returned none."""
+    """judge returns the code of each call, or None for a call that has no code."""
     lines = [json.dumps({"check": check, "args": args}) for check, args in cases]
     batch = subprocess.run([program, "batch", "--stream"], input="\n".join(lines) + "\n", capture_output=True,
                            text=True)
@@ -45,7 +47,7 @@ def call_of(entry, value, others):
     return entry["check"], args
 
 
-# Values of many forms to test "same" with.
+# Values of many forms with which "same" is tested.
 TRIED = ["", "0", "1", "-1", "-2", "2", "4", "10", "1540", "1541", "65535", "65536", "2147483647", "true", "false",
          "a", "A", "Off", "None", "tcp", "TCP", "UDP", "2026-11-22T12:00:00", "2026-02-29T12:00:00",
          "2026-11-22T12:00:00.5Z", "192.168.1.1", "0.0.0.0", "255.255.255.255", "02:00:00:00:00:01", "a" * 8,

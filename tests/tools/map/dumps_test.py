@@ -1,5 +1,8 @@
 #!/usr/bin/python3
-"""dumps_test.py OSTREL_CHECK SOURCE_DIR: the summary's counts for dumps, and dumps that are judged in pieces."""
+"""Tests the summary's counts for dumps, and dumps that are judged in pieces.
+
+usage: dumps_test.py OSTREL_CHECK SOURCE_DIR
+"""
 
 import json
 import pathlib
@@ -23,7 +26,7 @@ COUNT = 100
 
 
 def matches(pattern, path):
-    """matches returns whether a pattern of the map, which may contain instance numbers, matches a path."""
+    """matches returns whether a pattern of the map, in which {i} stands for an instance number, matches a path."""
     names, of_path = pattern.split("."), path.split(".")
     return len(names) == len(of_path) and all(
         one == other or (one == "{i}" and other.isdigit()) for one, other in zip(names, of_path))

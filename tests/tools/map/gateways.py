@@ -1,5 +1,7 @@
 #!/usr/bin/python3
-"""gateways.py COUNT: writes the configurations of that many gateways as CSV, and the injected faults as JSON.
+"""Writes the configurations of COUNT gateways as CSV, and the injected faults as JSON.
+
+usage: gateways.py COUNT
 
 As a module, it generates the same gateways for tests, in any form.
 """
@@ -141,7 +143,8 @@ def good_gateway(number):
     return {ROOT + path: value for path, value in gateway.items()}
 
 
-# A fault: a parameter, its bad value (None: missing), the check that detects it, the argument at fault, the reason.
+# A fault consists of a parameter, its bad value (None if it is missing), the check that detects it, the argument at
+# fault, and the reason.
 FAULTS = [
     ("DeviceInfo.ProvisioningCode", "TLCO.GRP2", "PARAM_check_provisioning_code", "value_p", "wrong_length"),
     ("ManagementServer.URL", "https://acs.example.net/", "MGTSERVER_check_server_url", "value_p", "wrong_prefix"),

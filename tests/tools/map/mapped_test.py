@@ -1,5 +1,8 @@
 #!/usr/bin/python3
-"""mapped_test.py OSTREL_CHECK SOURCE_DIR: judges dumps of gateways with a map."""
+"""Judges dumps of gateways with a map.
+
+usage: mapped_test.py OSTREL_CHECK SOURCE_DIR
+"""
 
 import json
 import pathlib
@@ -92,7 +95,7 @@ class Fleet(unittest.TestCase):
 
 
 class Rows(unittest.TestCase):
-    """Maps that the test writes itself."""
+    """Tests maps that the test writes itself."""
 
     def judge(self, parameters, rows, *options, header="gateway,parameter,value"):
         with tempfile.NamedTemporaryFile("w", suffix=".json") as file:

@@ -1,4 +1,4 @@
-"""Judges which values a data model allows, from a file of facts: an independent check of "ostrel-check compare"."""
+"""Judges which values a data model allows according to a file of facts, independently of "ostrel-check compare"."""
 
 import base64
 import binascii
@@ -96,7 +96,7 @@ def is_date_time(value):
 
 
 def decoded(value):
-    """decoded returns the bytes that a base64 text encodes, or None."""
+    """decoded returns the bytes that a base64 string encodes, or None if it is invalid."""
     try:
         data = base64.b64decode(value, validate=True)
     except (binascii.Error, ValueError):

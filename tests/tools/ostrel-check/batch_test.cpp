@@ -1,4 +1,4 @@
-// Batches of cases, from files and from standard input.
+// Tests batches of cases from files and from standard input.
 
 #include <gtest/gtest.h>
 
@@ -122,7 +122,7 @@ TEST(Batch, EveryFormOfACaseInJson)
     struct CaseInJson {
         std::string_view line;
         const char* verdict;
-        const char* meaning;  // or "" if a third party chooses the words
+        const char* meaning;  // or "" if it is not tested
     };
     const std::vector<CaseInJson> forms = {
         {R"({"check": "PARAM_check_port", "args": ["80"]})", "accepted", "valid"},

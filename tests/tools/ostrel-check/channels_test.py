@@ -55,7 +55,7 @@ class Channels(unittest.TestCase):
             self.assertTrue(shown.stdout.endswith("3 cases: 3 accepted, 0 refused\n"), shown)
 
     def test_where_namespaces_are_forbidden_that_line_alone_is_not_judged(self):
-        # The kernel refuses a user namespace to a process with a changed root.
+        # The kernel does not allow a process with a changed root to create a user namespace.
         if os.geteuid() != 0 or run("unshare", "-m", "true").returncode != 0:
             self.skipTest("needs root")
         root = os.path.join(self.folder, "root")

@@ -1,4 +1,4 @@
-"""Completion in bash and zsh, as a user who presses Tab sees it.
+"""Tests completion in bash and zsh as a user sees it after pressing Tab.
 
 usage: completion_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -58,7 +58,7 @@ class Shell:
         return self.shown
 
     def completed(self, line):
-        """completed returns the words of a line after Tab."""
+        """completed returns the words of a line after Tab is pressed."""
         # ^A moves to the beginning of the line. The terminal shows the command line, then its output.
         shown = self.at_prompt(line + "\t\x01show_words \n", "<<.*?>>")
         return re.search(r"(?s)<<(.*?)>>", shown)[1].replace("\r", "").strip("\n").split("\n")

@@ -1,4 +1,4 @@
-// The check of the wireless channel, with a stand-in for the driver's answer.
+// Tests the check of the wireless channel with a stand-in for the driver's answer.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ namespace {
 
 class Driver : public testing::Test {
  protected:
-    // Each test has a separate folder for temporary files, so it can detect leftovers.
+    // Each test has a separate folder for temporary files, so it can detect files that are left there.
     void SetUp() override
     {
         if (!calling::can_list_channels()) GTEST_SKIP() << kChannelList << " cannot be written";
@@ -38,7 +38,7 @@ class Driver : public testing::Test {
     }
 
  private:
-    std::string folder_ = "/tmp/ostrel driver.XXXXXX";  // the blank must do no harm
+    std::string folder_ = "/tmp/ostrel driver.XXXXXX";  // contains a blank, which must do no harm
 };
 
 TEST_F(Driver, ListsTheChannelsGiven)

@@ -1,4 +1,4 @@
-// The examples are complete: they cover every function, and every line is a case.
+// Tests that the examples are complete: they cover every function, and every line is a case.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ TEST(Examples, JudgeEveryFunctionAndHoldGoodAndRefusedValues)
         if (entry.is_regular_file() && entry.path().extension() != ".py") arguments.push_back(entry.path());
     }
     const RunResult outcome = run(arguments);
-    EXPECT_EQ(1, outcome.status);  // neither malformed lines nor checks that did not return
+    EXPECT_EQ(1, outcome.status);  // no line is malformed, and every check returns
 
     std::set<std::string> judged;
     std::set<std::string> verdicts;

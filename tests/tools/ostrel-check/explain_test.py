@@ -1,4 +1,4 @@
-"""Compares explanations of checks (explain, list and the reference) with the sources, and tests former mistakes.
+"""Compares explanations of checks (explain, list and the reference) with the sources, and tests for regressions.
 
 usage: explain_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -12,7 +12,7 @@ import unittest
 
 LITERAL = r'"((?:[^"\\]|\\.)*)"'
 
-# Never printed; docs/decisions.md explains why.
+# These lines are never printed, as docs/decisions.md explains.
 NEVER_PRINTED = [
     r"Error in %s: Error dhcp lease time:%s\n\n",
     r"Error in %s: The value %s should be between [0,4296967296)\n",

@@ -1,4 +1,4 @@
-"""Checks found by a word, and suggestions for mistyped names.
+"""Tests the search for checks by a word, and the suggestions for mistyped names.
 
 usage: find_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -1,4 +1,4 @@
-"""Judges the values of a fleet: in each form, interrupted and resumed, and summed from pieces.
+"""Judges the values of a fleet in each form, interrupted and resumed, and in pieces whose summaries are added.
 
 usage: fleet_test.py OSTREL_CHECK SOURCE_DIR [ROWS]
 
@@ -18,8 +18,8 @@ import time
 import unittest
 
 PIECES = 8
-GATEWAY = 20  # values
-# The limit for the program and for each of its workers, independent of the number of values.
+GATEWAY = 20  # values per gateway
+# The memory limit in bytes for the program and each of its workers, independent of the number of values.
 MOST_MEMORY = 64 << 20
 
 FORMS = {"fleet.ndjson": "ndjson", "fleet.csv": "csv", "fleet-dump.csv": "csv", "fleet.json": "json"}
@@ -106,7 +106,7 @@ class Fleet(unittest.TestCase):
 
     @classmethod
     def summary(cls, name):
-        """summary returns the summary of results without its member for dumps, and that member."""
+        """summary returns the summary of results without its member for dumps, and that member separately."""
         with open(cls.path(name + ".summary"), encoding="utf-8") as file:
             summary = json.load(file)
         return summary, summary.pop("map", None)
@@ -170,7 +170,7 @@ class Fleet(unittest.TestCase):
                 results.write(process.stdout.read(100))
                 if part < 3:
                     process.send_signal((signal.SIGINT, signal.SIGTERM)[part % 2])
-                # Copied in pieces, since the memory of this process would count as that of the later programs.
+                # The output is copied in pieces, since this process's memory would count as that of later programs.
                 shutil.copyfileobj(process.stdout, results)
                 err = process.stderr.read()
                 process.stdout.close()

@@ -1,4 +1,4 @@
-"""The formats that a batch reads: a text has the same verdict in each of them.
+"""Tests that a value has the same verdict in each format that a batch reads.
 
 usage: formats_test.py OSTREL_CHECK
 """
@@ -25,7 +25,7 @@ def run(data, *options):
 
 
 def judged(data, *options):
-    """The results of a batch, without its summary."""
+    """Returns the results of a batch without its summary."""
     rows = [json.loads(line) for line in run(data, "--json", *options).stdout.splitlines()]
     assert "summary" in rows[-1]
     return rows[:-1]
@@ -45,7 +45,7 @@ def in_rows(rows, delimiter):
 
 
 def write(form, cases):
-    """A file of that format with pairs of a check and its only value."""
+    """Returns a file of that format that contains pairs of a check and its only value."""
     if form == "words":
         return "".join(f"{check} {in_words(text)}\n" for check, text in cases)
     objects = [{"check": check, "args": [text]} for check, text in cases]
@@ -57,7 +57,7 @@ def write(form, cases):
 
 
 class OneText(unittest.TestCase):
-    """A text has the same verdict in every format."""
+    """A value has the same verdict in every format."""
 
     TEXTS = ("", "secret", "Straße", "日本", "naïve café", "a,b", 'a"b', '"', "a\tb", "a\nb", "a\r\nb", "#a", "{a}", "@null",
              "a\\b", "\\xE9", " a ", "é", "\x7f", "\x01", "\ufeff", "\u0080", "\u00ff", "0", "1.10", "'", "€" * 30, "ß" * 20,
@@ -128,7 +128,7 @@ class OneText(unittest.TestCase):
 
 
 class Malformed(unittest.TestCase):
-    """Malformed records are reported, and the others are judged."""
+    """Malformed records are reported, and all other records are judged."""
 
     def test_numbers_are_those_of_json(self):
         for token in ("01", "-01", "00", "1.", "-", "--1", "+1", ".5", "1.e1", "1e", "1e+", "1e1.5", "1.5.5", "0x1", "1 2",

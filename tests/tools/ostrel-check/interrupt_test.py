@@ -1,4 +1,4 @@
-"""A batch that is interrupted or runs out of disk space, and resumes later.
+"""Tests batches that are interrupted or run out of disk space, and are resumed later.
 
 usage: interrupt_test.py OSTREL_CHECK
 """

@@ -1,4 +1,4 @@
-"""The catalogue in JSON, the manual page, help, and a batch that is split into pieces.
+"""Tests the catalogue in JSON, the manual page, help, and a batch that is split into pieces.
 
 usage: pages_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -1,6 +1,6 @@
-// Prints a list of the manual page: the synopsis or the options.
+// Prints the synopsis or the list of options of the manual page.
 //
-//   print_manual synopsis|options
+// usage: print_manual synopsis|options
 
 #include <iostream>
 #include <string>
@@ -16,7 +16,7 @@ namespace {
 
 std::string in_small_letters(const std::string& text) { return CLI::detail::to_lower(text); }
 
-// argument_of returns the type of an option in mdoc: its words, or a name for its value.
+// argument_of returns the type of an option in mdoc, which is the list of its words or a name for its value.
 std::string argument_of(const CLI::Option& option)
 {
     if (option.get_items_expected_max() == 0) return "";

@@ -1,4 +1,4 @@
-// Readers: a file of any bytes yields the same records for every division into chunks.
+// Tests that a file of any bytes yields the same records, no matter how it is divided into chunks.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-"""Why a value is refused: batch --json over the vectors, and single verdicts.
+"""Tests the reasons for refusals in batch --json over the vectors, and in single verdicts.
 
 usage: reasons_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -11,7 +11,7 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[3] / "vectors"))
-import vectors  # noqa: E402  (its folder must be known first)
+import vectors  # noqa: E402  (sys.path must be set first)
 
 
 def batch(lines, *options):
@@ -21,7 +21,7 @@ def batch(lines, *options):
     return [row for row in map(json.loads, result.stdout.splitlines()) if "check" in row]
 
 
-LONGEST = 100000  # longer texts have the same reasons
+LONGEST = 100000  # longer values have the same reasons
 
 
 def judged(name, *values):

@@ -1,9 +1,9 @@
-"""With --redact, no output of a batch contains the value of a secret argument.
+"""Tests that no output of a batch with --redact contains the value of a secret argument.
 
 usage: redact_test.py OSTREL_CHECK SOURCE_DIR
 
-The test calls every check that has a secret argument with the rows of vectors/, whose secrets contain a marker: as the
-value, before it, after it and around it. This reaches each step of the check.
+The test calls every check that has a secret argument with the rows of vectors/, and puts a marker into each secret: in
+place of the value, before it, after it and around it. This reaches each step of the check.
 """
 
 import json
@@ -16,9 +16,9 @@ import tempfile
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[3] / "vectors"))
-from vectors import rows, text_of  # noqa: E402  (its folder must be known first)
+from vectors import rows, text_of  # noqa: E402  (sys.path must be set first)
 
-# No piece of a marker of this length may appear.
+# No piece of a marker may appear in the output if it has this length.
 PIECE = 6
 DICE = random.Random(20261122)
 MARKERS = ["".join(DICE.choices(letters, k=24))
@@ -29,7 +29,7 @@ FORMS = [[], ["--json"], ["--stream"], ["--only-refused"], ["--stream", "--summa
 
 
 def variants(value):
-    """variants replaces a secret with texts that contain a marker."""
+    """variants replaces a secret with strings that contain a marker."""
     if isinstance(value, list):
         for marker in MARKERS:
             yield [marker] * len(value)
@@ -117,7 +117,7 @@ class Redaction(unittest.TestCase):
             self.assertIn("not shown", shown)
 
     def test_members_that_are_passed_through(self):
-        """They may repeat the value: unchanged, inside a text, with escapes, as a number, in a list."""
+        """They may repeat the value unchanged, inside a string, with escapes, as a number, or in a list."""
         lines = []
         for marker in MARKERS:
             number = marker if marker.isdigit() and marker[0] != "0" else f'"{marker}"'
@@ -136,7 +136,7 @@ class Redaction(unittest.TestCase):
         self.assertEqual([7, "A.1.B", "north", ["<14 bytes>"]], [row[name] for name in ("id", "parameter", "site", "args")])
 
     def test_values_that_a_map_does_not_translate(self):
-        """The value may belong to a different parameter than the judged one, and be secret there."""
+        """The value may belong to another parameter than the judged one and be secret there."""
         with tempfile.NamedTemporaryFile("w", suffix=".json") as file:
             json.dump({"parameters": [
                 {"path": "Band", "check": "WLAN_check_radio_id", "words": {"2.4GHz": "RADIO_2.4GHz"}},

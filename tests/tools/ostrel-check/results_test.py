@@ -1,4 +1,4 @@
-"""Results of a batch: members are passed through, and every JSON line matches the schema.
+"""Tests that the results of a batch pass members through, and that every JSON line matches the schema.
 
 usage: results_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -20,7 +20,7 @@ struct RunResult {
 
 void PrintTo(const RunResult& outcome, std::ostream* stream);
 
-// program returns the path of ostrel-check: OSTREL_CHECK in the environment, or the build's.
+// program returns the path of ostrel-check, from the environment variable OSTREL_CHECK or from the build.
 std::string program();
 
 // run runs ostrel-check with these arguments and this standard input.

@@ -1,4 +1,4 @@
-// One value on the command line.
+// Tests single values on the command line.
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ std::string usage_error(const std::string& problem)
     return "ostrel-check: " + problem + "\nostrel-check --help shows how to use it.\n";
 }
 
-// value_error returns the message for values that a check does not take.
+// value_error returns the message for values that do not match a check's arguments.
 std::string value_error(const std::string& problem, const std::string& name)
 {
     return "ostrel-check: " + problem + "\nostrel-check explain " + name + " says what it takes.\n";

@@ -1,4 +1,4 @@
-"""The summary of a batch, and the sum of the summaries of its pieces.
+"""Tests the summary of a batch, and the sum of the summaries of its pieces.
 
 usage: summary_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -110,7 +110,7 @@ class Sum(unittest.TestCase):
         return json.dumps({**json.loads(self.summary(self.row())), "map": dumps}) + "\n"
 
     def test_of_dumps_is_added_too(self):
-        """Of very many paths, the first ones in byte order are kept, for any order of the pieces."""
+        """If there are too many paths, the first ones in byte order are kept, regardless of the order of the pieces."""
         random.seed(2)
         pieces = []
         for _ in range(8):

@@ -1,4 +1,4 @@
-"""Output of each command at a terminal.
+"""Tests the output of each command at a terminal.
 
 usage: terminal_test.py OSTREL_CHECK
 """
@@ -169,7 +169,7 @@ class Width(unittest.TestCase):
     def test_a_table_is_wrapped(self):
         line = "WLAN_check_beacon_type WPA3-and-something-that-is-long\n"
         width, shown = self.width("batch", columns=60, text=[line])
-        self.assertLessEqual(width, 72)  # the name and the value are a line
+        self.assertLessEqual(width, 72)  # the name and the value are on one line
         self.assertEqual("      1  refused     402  WLAN_check_beacon_type\n"
                          "           WPA3-and-something-that-is-long\n"
                          "         invalid value: is none of None, Basic, WPA, 11i,\n"

@@ -1,4 +1,4 @@
-// Cases that end their process or do not return, readers that exit, and closed streams.
+// Tests cases that end their process or do not return, readers that exit, and closed streams.
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
