@@ -164,7 +164,7 @@ TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
     dlclose(library);
 }
 
-// The catalogue must have the header's name and a meaning for each result code.
+// For each result code, the catalogue must contain the name in the header, and a meaning.
 TEST(ResultCodes, HaveTheNamesOfTheHeaderAndAMeaning)
 {
     const std::string header = contents(OSTREL_SOURCE_DIR "/include/ostrel/result_code.h");

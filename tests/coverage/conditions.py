@@ -23,7 +23,7 @@ NAMED = {"file": "file", "line": "line", "condition": "text"}
 
 class Condition(NamedTuple):
     file: str
-    number: int  # of the line on which the condition begins
+    number: int  # the number of the line on which the condition begins
     line: str    # the text of that line, without indentation or comments
     text: str
     shown: bool

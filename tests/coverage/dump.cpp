@@ -33,7 +33,8 @@ void dump(int signal_number)
     std::raise(signal_number);
 }
 
-// The tests kill a call that never returns after 300 ms. It reaches its endless loop in a third of that time.
+// After 300 ms, the tests kill a call that never returns. It reaches its endless loop in a third of that
+// time.
 void start_timer()
 {
     const itimerval once = {{0, 0}, {0, 100000}};

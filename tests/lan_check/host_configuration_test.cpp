@@ -1,4 +1,4 @@
-// Tests the only address that the check of the lease time refuses, which rows cannot express.
+// Tests the only address that the lease-time check refuses, which rows cannot express.
 
 #include <gtest/gtest.h>
 #include <ostrel/lan_check.h>

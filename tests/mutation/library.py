@@ -50,7 +50,7 @@ class Build:
 
 
 class Sources:
-    """Sources contains the library's files and the includes of each."""
+    """Sources contains the library's files and the headers that each of them includes."""
 
     def __init__(self, root):
         self.root = root

@@ -163,7 +163,7 @@ std::string differing(const Pieces& expected, const Pieces& actual)
     return result;
 }
 
-// Vectors contains the rows, read once.
+// Vectors contains the rows, which are read only once.
 struct Vectors {
     Vectors()
     {

@@ -37,7 +37,7 @@ bool is_of_one(const Datum& datum)
     return set == nullptr || set->size() == 1;
 }
 
-// forms_of returns the names of the forms that a sentence takes for a reason: "found one", "read".
+// forms_of returns the names of the forms that a sentence takes for a reason, such as "found one" or "read".
 std::set<std::string> forms_of(std::string_view text, const Reason& said)
 {
     std::set<std::string> forms = {"said"};

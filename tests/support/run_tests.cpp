@@ -14,8 +14,8 @@ namespace {
 constexpr int kFailed = 1;
 constexpr int kSkipped = 77;
 
-// Counts derives the exit status from the numbers of tests. It is a listener because a program that only lists its
-// tests does not call listeners.
+// Counts derives the exit status from the number of tests that ran and that were skipped. It is a listener
+// because a program that only lists its tests does not call listeners.
 class Counts : public testing::EmptyTestEventListener {
  public:
     [[nodiscard]] int status() const { return status_; }

@@ -1,4 +1,4 @@
-// The last function that the main function of every test program calls.
+// Runs the tests of a program, for the last line of its main function.
 #ifndef OSTREL_TESTS_SUPPORT_RUN_TESTS_H
 #define OSTREL_TESTS_SUPPORT_RUN_TESTS_H
 

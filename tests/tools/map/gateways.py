@@ -184,7 +184,7 @@ FAULTS = [
 
 
 def gateways(count, seed=1):
-    """gateways yields an id, the parameters and the faults of each gateway; most have one fault, some none."""
+    """gateways yields an id, the parameters and the faults of each gateway. Most have one fault, and some have none."""
     chance = random.Random(seed)
     order = [FAULTS[i % len(FAULTS)] for i in range(count)]
     chance.shuffle(order)

@@ -69,7 +69,7 @@ class Shell:
 
 
 class Completion:
-    """Completion tests what both shells have in common."""
+    """Completion contains the tests that both shells share."""
 
     def setUp(self):
         self.folder = tempfile.mkdtemp()

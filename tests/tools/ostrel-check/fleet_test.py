@@ -44,13 +44,13 @@ def ends_row(name, line):
     """ends_row returns whether a row of a form, or a gateway in nested JSON, ends with that line."""
     if name == "fleet.json":
         return line.startswith(b"}")
-    return line.endswith(b"\r\n") or not name.endswith(".csv")  # a CSV value may contain the other line end
+    return line.endswith(b"\r\n") or not name.endswith(".csv")  # a CSV value may contain the other line ending
 
 
 def write_pieces(name, whole, piece):
     """write_pieces splits a form between gateways, writes the pieces to files and yields their names.
 
-    It keeps one line at a time, since the memory of this process would count as the program's.
+    It keeps only one line in memory, since the memory of this process would count as the program's.
     """
     gateways = -(-ROWS // (PIECES * GATEWAY))
     is_tree = name == "fleet.json"

@@ -1,4 +1,4 @@
-// Prints the synopsis or the list of options of the manual page.
+// Prints the manual page's synopsis or its list of options.
 //
 // usage: print_manual synopsis|options
 
