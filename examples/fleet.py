@@ -1,13 +1,13 @@
 #!/usr/bin/python3
-"""Generates the saved configurations of a fleet of gateways, for ostrel-check batch. The same values are written as CSV
-and as lines of JSON, which name a check for each value, and without checks for the map of TR-098: as a dump in CSV,
-with a row for each value, and as nested JSON, with an object for each gateway.
+"""Generates the saved configurations of a fleet of gateways for ostrel-check batch. The same values are written in four
+forms. Two of them, CSV and lines of JSON, name a check for each value. The other two are for the map of TR-098 and
+name no checks: a CSV dump with a row for each value, and nested JSON with an object for each gateway.
 
 usage: fleet.py [--rows N] [--seed N] [--refused SHARE] FOLDER
 
-The files are fleet.csv, fleet.ndjson, fleet-dump.csv and fleet.json in FOLDER. A gateway has 20 values, in the same
-order in each file; its name is the id of each. --refused is the share of values that are refused (0.1), for reasons
-that support desks meet. The same seed generates the same files.
+The files are fleet.csv, fleet.ndjson, fleet-dump.csv and fleet.json in FOLDER. Each gateway has 20 values, in the same
+order in each file, and its name is the id of each value. --refused is the share of values that are refused (0.1), for
+reasons that support desks often see. The same seed generates the same files.
 
   examples/fleet.py --rows 2000 /tmp
   ostrel-check batch --summary-only /tmp/fleet.ndjson
@@ -57,8 +57,8 @@ def key(dice):
     return f"{dice.getrandbits(256):064x}"
 
 
-# Path below InternetGatewayDevice, check, generator of good values, refused values. The parameters are in the order of
-# the tree, so those of one folder are adjacent.
+# Each row contains a path below InternetGatewayDevice, a check, a generator of accepted values, and refused values. The
+# parameters are in the order of the tree, so those of one folder are adjacent.
 PARAMETERS = [
     ("ManagementServer.PeriodicInformInterval", "MGTSERVER_check_periodic_inform_interval", numbers(60, 86400),
      ["0", "", "-60"]),
@@ -90,7 +90,7 @@ PARAMETERS = [
      ["tcp", "both", "TCP/UDP"]),
 ]
 
-# The number of different values of each parameter; a fleet repeats them.
+# The number of accepted values that are generated for each parameter; a larger fleet repeats them.
 VARIETY = 4096
 
 
@@ -105,7 +105,7 @@ def as_json(value):
 
 
 def tree_of(cells):
-    """tree_of returns the configuration of one gateway, with a cell for each value."""
+    """tree_of returns the configuration of one gateway as nested dictionaries, with the given cells as its values."""
     tree = {}
     for (path, *_), cell in zip(PARAMETERS, cells):
         *folders, name = path.split(".")
@@ -117,7 +117,7 @@ def tree_of(cells):
 
 
 def forms():
-    """forms returns the content of each file for one gateway, with %s in place of its name and of each value."""
+    """forms returns what each file contains for one gateway, with %s in place of its name and of each value."""
     csv_lines = "".join(f"%s,InternetGatewayDevice.{path},{check},%s\r\n" for path, check, *_ in PARAMETERS)
     dump_lines = "".join(f"%s,InternetGatewayDevice.{path},%s\r\n" for path, *_ in PARAMETERS)
     json_lines = "".join(

@@ -1,4 +1,4 @@
-"""Runs parts on Dask: requires the right program on each worker, distributes the parts, and collects the outcomes."""
+"""Runs parts on Dask. It checks the program on each worker, distributes the parts, and collects their outcomes."""
 # Dask is mostly untyped.
 # mypy: allow-untyped-calls
 
@@ -26,9 +26,9 @@ _SECONDS_BETWEEN_LOOKS = 0.2
 
 @contextlib.contextmanager
 def connect(address: str | None, jobs: int) -> Iterator[Client]:
-    """connect connects to a scheduler, or starts a cluster in this process; its tasks run programs as processes
-    anyway."""
-    # A timer of a closed cluster logs errors that concern no user.
+    """connect connects to a scheduler, or starts a cluster in this process, whose tasks run ostrel-check as separate
+    processes."""
+    # A timer of a closed cluster logs errors that do not concern the user.
     logging.getLogger("asyncio").setLevel(logging.CRITICAL)
     if address is None:
         # The profiler would sample the running tasks a hundred times a second.
@@ -50,7 +50,7 @@ def connect(address: str | None, jobs: int) -> Iterator[Client]:
 
 
 def require_program(client: Client, job: Job) -> None:
-    """require_program asks each worker for the identity of its program, before anything is judged."""
+    """require_program checks the identity of the program on each worker before anything is judged."""
     try:
         client.wait_for_workers(1, timeout=_SECONDS_TO_CONNECT)
     except (TimeoutError, asyncio.TimeoutError) as error:
@@ -65,7 +65,8 @@ def require_program(client: Client, job: Job) -> None:
 
 def judge_all(client: Client, job: Job, parts: Sequence[Part], tell: Callable[[Part, Outcome], None],
               look: Callable[[int], None]) -> None:
-    """judge_all judges the parts, passes each outcome to tell, and calls look in between."""
+    """judge_all judges the parts, passes each outcome to tell, and while it waits, passes the number of workers to
+    look."""
     keys = {f"judge-{part.name}-{os.path.basename(part.file)}-{job.number}": part for part in parts}
     finished: queue.SimpleQueue[Future] = queue.SimpleQueue()
     futures = client.map(functools.partial(ostrel_part.judge, job), parts, key=list(keys), pure=False)
@@ -106,7 +107,7 @@ def _outcome_of(future: Future, part: Part) -> Outcome:
 
 
 def _stop(client: Client, job: Job, futures: Sequence[Future]) -> None:
-    """_stop stops all parts: workers outlive the run, and incomplete results must be removed."""
+    """_stop stops all parts, because the workers outlive the run, and incomplete results must be removed."""
     with contextlib.suppress(Exception):
         client.cancel(futures)
         client.run(ostrel_program.abandon, job.number, on_error="ignore")

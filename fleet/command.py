@@ -1,10 +1,10 @@
-"""Judges files of cases on many machines, or on all processors of this one, with ostrel-check.
+"""Judges files of cases with ostrel-check, on many machines or on all processors of this one.
 
-Each part, a file or a block of its lines, is a Dask task. Its results go to FOLDER/results, in files whose names sort
-as the parts do: joined, they are what one ostrel-check batch --stream prints for all files. FOLDER/summary.json is the
-sum.
+Each part, which is a file or a block of its lines, is a Dask task that writes its results to a file in FOLDER/results.
+The names of these files sort in the order of the parts; joined in that order, the files equal the output of one
+ostrel-check batch --stream for all input files. FOLDER/summary.json is the summary of all parts.
 
-The exit code is that of ostrel-check batch, or 4 if parts are missing; --resume judges only those.
+The exit code is that of ostrel-check batch, or 4 if parts are missing; --resume judges only the missing parts.
 """
 
 import argparse
@@ -33,16 +33,16 @@ PROGRAM = "ostrel-check"
 
 USAGE = 2
 INCOMPLETE = 4
-# The exit code of a batch for a case with each verdict; the highest one is returned.
+# The exit code of a batch that contains a case with the given verdict. The highest one that applies is returned.
 EXIT_CODES = {"refused": 1, "malformed": 2, "no_driver": 2, "ended": 3, "no_return": 3}
-# Options that the runner sets, or interprets itself.
+# The options that the runner sets or interprets itself.
 OWN_OPTIONS = ("--json", "--stream", "--format-out", "--only-refused", "--summary", "--summary-only", "--summary-file",
                "--exit-zero", "--start-line", "--jobs", "--map")
 UNITS = {"": 1, "k": 1 << 10, "M": 1 << 20, "G": 1 << 30}
 
 
 class Interrupted(Exception):
-    """Interrupted: a signal asked the run to end; its number is the argument."""
+    """Interrupted is raised when a signal interrupts the run. Its argument is the number of the signal."""
 
 
 def size_of(text: str) -> int:
@@ -53,7 +53,7 @@ def size_of(text: str) -> int:
 
 
 def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
-    """parse returns the arguments of the runner, and the options of ostrel-check after the first "--"."""
+    """parse returns the arguments of the runner, and the options for ostrel-check, which follow the first "--"."""
     at = words.index("--") if "--" in words else len(words)
     parser = argparse.ArgumentParser(
         prog="ostrel-fleet", description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter,
@@ -84,7 +84,8 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
 
 
 def require_options(program: str, manifest: Manifest) -> None:
-    """require_options runs the program without cases, so that it reports invalid options only once."""
+    """require_options runs the program without cases, so that invalid options are reported only once and not for each
+    part."""
     said = ostrel_program.output_of(program, "batch", "--stream", "--exit-zero", "--summary", "json", *manifest.words())
     if said:
         raise Refused(f"{shlex.join(manifest.options)}: a file is among the options of ostrel-check")
@@ -105,7 +106,7 @@ def manifest_of(given: argparse.Namespace, options: Sequence[str]) -> Manifest:
 
 
 class Run:
-    """Run is one start of the runner on the folder of a run."""
+    """Run is one invocation of the runner on the folder of a run."""
 
     def __init__(self, given: argparse.Namespace, manifest: Manifest) -> None:
         self._given, self._manifest = given, manifest
@@ -148,7 +149,7 @@ class Run:
         return f"{done} of {len(self._parts)} parts are done; go on with\n  {shlex.join(words)}"
 
     def sum_up(self) -> int:
-        """sum_up writes the summary and returns the exit code."""
+        """sum_up writes the summary of the run and returns its exit code."""
         marks = [ostrel_part.read_mark(ostrel_part.mark_of(self._job, part)) for part in self._parts]
         summaries = [str(mark["summary"]) for mark in marks if mark]
         missing = [self._missing[name] for name in sorted(self._missing)]
@@ -174,7 +175,7 @@ class Run:
         plan.write_whole(self._folder / plan.SUMMARY, text)
 
     def _nothing(self, unread: int) -> str:
-        """_nothing returns the summary of files that could not be read."""
+        """_nothing returns a summary that counts only the files that could not be read."""
         nothing = json.loads(self._summarise(["\n"], "json"))
         nothing["summary"]["unreadable_files"] = unread
         return json.dumps(nothing) + "\n"
@@ -192,7 +193,7 @@ def size_in(part: Part) -> int:
 
 @contextlib.contextmanager
 def signals_raise() -> Iterator[None]:
-    """signals_raise makes the first signal end the run in order, and a second one immediately."""
+    """signals_raise makes the first signal end the run in an orderly way, and a second signal end it immediately."""
     def interrupt(number: int, _: FrameType | None) -> None:
         signal.signal(number, signal.SIG_DFL)
         raise Interrupted(number)

@@ -1,5 +1,5 @@
-"""Runs on a worker of the cluster: judges a part of the files, and moves the results into place when they are complete.
-The runner sends this module to the workers, so it needs only Python's standard library."""
+"""Judges a part of the files on a worker of the cluster, and moves the results into place when they are complete. The
+runner sends this module to the workers, so it needs only Python's standard library."""
 
 import contextlib
 import dataclasses
@@ -15,7 +15,7 @@ from typing import Any, BinaryIO, Literal
 
 import ostrel_program
 
-# TEMPORARY is the suffix of the name of an incomplete file.
+# TEMPORARY is the suffix of an incomplete file's name.
 TEMPORARY = ".tmp"
 
 _MOST_SENT = 1 << 26
@@ -24,7 +24,7 @@ _MOST_OF_LINE = 1 << 20
 
 @dataclasses.dataclass(frozen=True)
 class Job:
-    """Job contains the values that all parts of a run share. Each start of the runner has a different number."""
+    """Job contains the values that all parts of a run share. Each invocation of the runner has a different number."""
 
     number: str
     folder: str
@@ -49,8 +49,8 @@ class Part:
 
 @dataclasses.dataclass(frozen=True)
 class Outcome:
-    """Outcome is the result of a part: it is done; it is missing, because of a problem in its file; or the whole run
-    must stop. A part may be done with a problem, and is still judged again by the next run."""
+    """Outcome is the result of a part. The part is done, its results are missing because only this part could not be
+    judged, or the whole run must stop. A part that is done with a problem is judged again by the next run."""
 
     kind: Literal["done", "missing", "stop"]
     problem: str = ""
@@ -60,7 +60,7 @@ class Outcome:
 
 
 class Unreadable(Exception):
-    """Unreadable: this file cannot be judged, but others can."""
+    """Unreadable is raised if a file cannot be judged but others can."""
 
 
 def results_of(job: Job, part: Part) -> pathlib.Path:
@@ -72,7 +72,7 @@ def mark_of(job: Job, part: Part) -> pathlib.Path:
 
 
 def read_mark(path: pathlib.Path) -> dict[str, Any]:
-    """read_mark returns the record of a part that was judged, or an empty one if it was not."""
+    """read_mark returns the record of a judged part, or an empty record if the part was not judged."""
     try:
         mark: dict[str, Any] = json.loads(path.read_bytes())
         part: dict[str, Any] = mark["part"]
@@ -109,7 +109,8 @@ def whole(path: pathlib.Path) -> Iterator[BinaryIO]:
 
 
 def judge(job: Job, part: Part) -> dict[str, Any]:
-    """judge judges a part, unless a worker that died before reporting has finished it. It returns an Outcome."""
+    """judge judges a part, unless a worker that died before reporting it has already finished it. It returns an Outcome
+    as a dictionary."""
     return dataclasses.asdict(_outcome_of(job, part))
 
 
@@ -172,8 +173,8 @@ def _send(part: Part, source: int, pipe: int) -> None:
 
 
 def _end_of(part: Part, source: BinaryIO, out: BinaryIO) -> tuple[str, str]:
-    """_end_of returns a definite and a possible problem at the end of a file: a last line without a line end was cut if
-    its record is malformed, and may have been cut otherwise."""
+    """_end_of returns a definite and a possible problem at the end of a file. A last line without a line end was cut
+    off if its record is malformed; otherwise it may have been cut off."""
     size = os.fstat(source.fileno()).st_size
     last = os.pread(source.fileno(), 1, size - 1) if size > 0 and part.end in (None, size) else b"\n"
     if last == b"\n":

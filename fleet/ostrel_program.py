@@ -1,5 +1,5 @@
-"""The program ostrel-check on a worker: its identity, running a batch, and ending the programs of an interrupted run.
-The runner sends this module to the workers, so it needs only Python's standard library."""
+"""Identifies the ostrel-check on a worker, runs batches with it, and ends the programs of an interrupted run. The
+runner sends this module to the workers, so it needs only Python's standard library."""
 
 import asyncio
 import contextlib
@@ -17,7 +17,7 @@ _PIPE = 1 << 20
 
 
 class Stopped(Exception):
-    """Stopped: nothing can be judged on this worker."""
+    """Stopped is raised if nothing can be judged on this worker."""
 
 
 def output_of(program: str, *arguments: str) -> bytes:
@@ -38,8 +38,8 @@ def _identity(program: str, _state: tuple[int, int]) -> str:
 
 
 def identity_of(program: str) -> str:
-    """identity_of returns the version of the program and a checksum of its catalogue, because programs that were built
-    for different models and realms have the same version."""
+    """identity_of returns the version of the program and a checksum of its catalogue. The version is not sufficient,
+    because programs that were built for different models and realms have the same version."""
     found = shutil.which(program)
     if found is None:
         raise Stopped(f"there is no program {program}")
@@ -53,15 +53,15 @@ def require_identity(program: str, wanted: str) -> None:
         raise Stopped(f"{program} is {identity}, and not {wanted}")
 
 
-# The running programs, with the numbers of their runs, and the runs that may not start another program. They survive a
-# reload of the module, which every start of the runner causes.
+# The running programs with the numbers of their runs, and the runs that must not start another program. Both survive a
+# reload of the module, which every invocation of the runner causes.
 _running: dict[subprocess.Popen[bytes], str] = globals().get("_running", {})
 _stopped: set[str] = globals().get("_stopped", set())
 _lock: threading.Lock = globals().get("_lock", threading.Lock())
 
 
 async def abandon(number: str) -> None:
-    """abandon kills the programs of a run on this worker, and returns when they have ended."""
+    """abandon kills the programs of a run on this worker and returns when they have ended."""
     with _lock:
         _stopped.add(number)
         for child in [child for child, its_number in _running.items() if its_number == number]:
@@ -72,12 +72,12 @@ async def abandon(number: str) -> None:
 
 
 def judge(number: str, words: Sequence[str], out: BinaryIO, send: Callable[[int], None]) -> str:
-    """judge runs a program on the input that send writes to its pipe, and returns the summary."""
+    """judge runs a program on the input that send writes to its pipe, and returns the summary that it prints."""
     with tempfile.TemporaryFile() as complaints:
         child = _start(number, words, out, complaints)
         try:
             assert child.stdin is not None
-            with child.stdin as pipe, contextlib.suppress(BrokenPipeError):  # the exit status says why
+            with child.stdin as pipe, contextlib.suppress(BrokenPipeError):  # the exit status shows the cause
                 send(pipe.fileno())
         except BaseException:
             child.kill()
@@ -97,8 +97,8 @@ def judge(number: str, words: Sequence[str], out: BinaryIO, send: Callable[[int]
 
 
 def _start(number: str, words: Sequence[str], out: BinaryIO, complaints: IO[bytes]) -> subprocess.Popen[bytes]:
-    """_start passes a pipe to the program, not the file: if this process is killed, the pipe is closed and the program
-    ends. In a separate process group, it does not receive the interrupt of a terminal."""
+    """_start starts the program with a pipe, not the file, as its input. If this process is killed, the pipe is closed
+    and the program ends. In its own process group, the program does not receive an interrupt from the terminal."""
     words = [*words, "--stream", "--exit-zero", "--summary", "json"]
     with _lock:
         if number in _stopped:

@@ -1,4 +1,4 @@
-"""The folder of a run: its plan, the finished parts, and the files that an earlier run left."""
+"""Manages the folder of a run, which contains its plan, the finished parts, and the files that an earlier run left."""
 
 import dataclasses
 import fcntl
@@ -26,12 +26,12 @@ _PIECE = 1 << 22
 
 
 class Refused(Exception):
-    """Refused: the run cannot begin or continue as requested."""
+    """Refused is raised if the run cannot begin or continue as requested."""
 
 
 @dataclasses.dataclass(frozen=True)
 class Manifest:
-    """Manifest contains the parameters with which a run was begun. With any others its results would differ."""
+    """Manifest contains the parameters with which a run was begun. Different parameters could change its results."""
 
     identity: str
     files: tuple[str, ...]
@@ -41,7 +41,7 @@ class Manifest:
     block: int
 
     def words(self) -> tuple[str, ...]:
-        """words returns the options of ostrel-check."""
+        """words returns the options for ostrel-check."""
         return self.options if self.map is None else (*self.options, "--map", self.map)
 
 
@@ -101,13 +101,13 @@ def lock(folder: pathlib.Path) -> int:
         os.close(descriptor)
         raise Refused(f"another runner is already using {folder}") from None
     except OSError:
-        pass  # a file system without locks
+        pass  # the file system does not support locks
     return descriptor
 
 
 def remove_temporary(folder: pathlib.Path) -> None:
     """remove_temporary removes the files that a killed worker left. A worker that is still active for an earlier run
-    finds its file missing, and moves nothing into place."""
+    then finds its file missing and moves nothing into place."""
     for name in ("", *FOLDERS):
         for path in (folder / name).glob(f".*{ostrel_part.TEMPORARY}"):
             path.unlink(missing_ok=True)
@@ -131,8 +131,8 @@ def _begins_as_text(file: BinaryIO) -> bool:
 
 
 def _blocks(file: BinaryIO, size: int, block: int) -> Iterator[tuple[int, int, int]]:
-    """_blocks splits a file after lines, and yields the begin and the end of each block, and the number of its first
-    line."""
+    """_blocks splits a file at the ends of lines, and yields the beginning and end of each block and the number of its
+    first line."""
     begin, line = 0, 1
     while begin < size:
         end, lines, last = begin, 0, b""
@@ -140,7 +140,7 @@ def _blocks(file: BinaryIO, size: int, block: int) -> Iterator[tuple[int, int, i
             wanted = min(block - (end - begin), _PIECE)
             last = file.read(wanted) if wanted > 0 else file.readline(_PIECE)
             if not last:
-                break  # the file has shrunk; the worker that judges it reports that
+                break  # the file has shrunk, which the worker that judges it will report
             end += len(last)
             lines += last.count(b"\n")
         yield begin, end, line
@@ -164,19 +164,19 @@ def _parts_of(number: int, file: str, manifest: Manifest) -> Iterator[Part]:
                                                   line=line)
                     return
     except OSError:
-        pass  # the worker that judges it reports that
+        pass  # the worker that judges the file will report the error
     yield whole
 
 
 def make_plan(manifest: Manifest) -> list[Part]:
-    """make_plan returns the parts in the order of the files and of their lines, which is also the order of the parts'
+    """make_plan returns the parts in the order of the files and their lines, which is also the order of the parts'
     names."""
     return [part for number, file in enumerate(manifest.files, 1) for part in _parts_of(number, file, manifest)]
 
 
 def sweep(job: Job, parts: Sequence[Part]) -> tuple[list[Part], list[str]]:
-    """sweep removes results that are incomplete or belong to files that have changed since. It returns the parts that
-    remain to be judged, and the reasons why earlier results of these parts were dropped."""
+    """sweep removes results that are incomplete, or that belong to files that have since changed. It returns the parts
+    that remain to be judged, and notes that explain why earlier results were dropped."""
     folder = pathlib.Path(job.folder)
     remove_temporary(folder)
     (folder / SUMMARY).unlink(missing_ok=True)

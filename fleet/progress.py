@@ -1,4 +1,4 @@
-"""The progress of a run, on one line of a terminal."""
+"""Shows the progress of a run on one line of a terminal."""
 
 import sys
 import time
@@ -8,11 +8,12 @@ _SECONDS_BETWEEN = 0.25
 
 
 class Failed(Exception):
-    """Failed: nothing more can be judged. After the cause in the message is corrected, --resume continues the run."""
+    """Failed is raised if nothing more can be judged. When the cause in the message has been corrected, --resume
+    continues the run."""
 
 
 class Progress:
-    """Progress shows the line only on a terminal; messages are always shown."""
+    """Progress shows its line only on a terminal. Messages are always shown, except those of mention."""
 
     def __init__(self, parts: int, size: int, stream: TextIO = sys.stderr) -> None:
         self._parts, self._size = parts, size

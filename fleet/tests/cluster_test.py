@@ -1,4 +1,4 @@
-"""Runs on a separate scheduler and workers: workers and schedulers that die or are missing, and other versions.
+"""Tests runs on a separate scheduler and workers, which die, are missing, or have another version of the program.
 
 usage: cluster_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -48,7 +48,8 @@ class Programs(support.Cluster):
         self.assert_whole(self.files)
 
     def test_another_program_stops_the_run(self):
-        """One worker has another version, and one another catalogue; the second joins after the run has begun."""
+        """The first worker has another version. The second worker has another catalogue, and joins after the run has
+        begun."""
         changes = "s/^ostrel-check .*/ostrel-check 9.9.9/", "s/PARAM_check_port/PARAM_check_prot/"
         for number, change in enumerate(changes):
             folder = self.scratch / str(number)

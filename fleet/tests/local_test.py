@@ -1,4 +1,4 @@
-"""Runs on this machine alone: the results equal those of a single batch, whatever happens in between.
+"""Tests runs on this machine only. Their results equal those of a single batch, even after faults and interruptions.
 
 usage: local_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -85,7 +85,7 @@ class Broken(support.Folder):
         self.assertEqual(before, {name: time for name, time in self.times().items() if name in before})
 
     def times(self):
-        """times returns which parts were judged, and when."""
+        """times returns the time at which each part was judged."""
         return {path.name: path.stat().st_mtime_ns for path in (self.out / "results").iterdir()}
 
     def test_a_file_that_was_cut_is_named_and_judged_later(self):

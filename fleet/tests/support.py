@@ -1,4 +1,4 @@
-"""Helpers of the tests of the runner. The arguments of each test are OSTREL_CHECK and SOURCE_DIR."""
+"""Helpers for the tests of the runner. Each test takes the arguments OSTREL_CHECK and SOURCE_DIR."""
 
 import contextlib
 import json
@@ -34,7 +34,7 @@ def wait_until(condition, seconds=60):
 
 
 class Processes(unittest.TestCase):
-    """Processes is a test with a folder, and with processes that end with the test."""
+    """Processes is a test that has a scratch folder, and whose processes end with the test."""
 
     def setUp(self):
         scratch = tempfile.TemporaryDirectory()
@@ -53,7 +53,7 @@ class Processes(unittest.TestCase):
 
 
 class Folder(Processes):
-    """Folder is a test with files of cases, and a folder for results."""
+    """Folder is a test that has files of cases and a folder for results."""
 
     PARTS = 4
     ROWS = 300
@@ -72,7 +72,8 @@ class Folder(Processes):
         return path
 
     def make_fleet(self):
-        """make_fleet returns the same cases as rows and, for a map, as rows without checks and as nested JSON."""
+        """make_fleet writes the same cases as CSV rows and, for a map, as CSV rows without checks and as nested JSON.
+        It returns the paths of the three files."""
         subprocess.run([SOURCE / "examples/fleet.py", "--rows", "400", self.scratch], check=True)
         return self.scratch / "fleet.csv", self.scratch / "fleet-dump.csv", self.scratch / "fleet.json"
 
@@ -85,13 +86,13 @@ class Folder(Processes):
         return slow, {**ENVIRONMENT, "SLOW_WHILE": str(self.hold)}
 
     def fleet(self, *words, **options):
-        """fleet returns the exit code of the runner, and all its output."""
+        """fleet runs the runner, and returns its exit code and all its output."""
         process = self.start(RUNNER, *words, **options)
         said, _ = process.communicate(timeout=120)
         return process.returncode, said
 
     def judged(self, *words):
-        """judged returns the output of a single batch, and the summary that it writes."""
+        """judged runs a single batch, and returns its output and the summary that it writes."""
         summary = self.scratch / "summary"
         result = subprocess.run([PROGRAM, "batch", "--stream", "--summary-file", summary, *words], check=False,
                                 stdout=subprocess.PIPE, stderr=subprocess.PIPE)
@@ -104,8 +105,8 @@ class Folder(Processes):
         return json.loads((self.out / "summary.json").read_bytes())
 
     def assert_whole(self, files, *options):
-        """assert_whole asserts that the results and the summary are those of a single batch, and that nothing else is
-        left."""
+        """assert_whole asserts that the results and the summary equal those of a single batch, and that no temporary
+        file is left."""
         results, summary = self.judged(*options, *files)
         self.assertGreater(len(results), 0)
         self.assertTrue(results == self.joined())
@@ -121,13 +122,13 @@ class Folder(Processes):
         self.assertEqual([], sorted(self.out.rglob("*.tmp")))
 
     def at_work(self, process=None):
-        """at_work returns the files that are being written, by the given process or by any."""
+        """at_work returns the files that are being written by the given process, or by any process."""
         number = "*" if process is None else f"*-{process.pid}-*"
         return sorted((self.out / "results").glob(f".{number}.tmp"))
 
 
 class Cluster(Folder):
-    """Cluster is a test with a scheduler and workers, which are processes."""
+    """Cluster is a test that has a scheduler and workers, each of which is a process."""
 
     def setUp(self):
         super().setUp()
@@ -138,7 +139,7 @@ class Cluster(Folder):
         self.workers = []
 
     def start_worker(self, **environment):
-        """start_worker returns a worker that has registered with the scheduler."""
+        """start_worker starts a worker, and returns it when it has registered with the scheduler."""
         log = self.scratch / f"worker {len(self.workers)}"
         with open(log, "wb") as output:
             worker = subprocess.Popen(

@@ -1,6 +1,7 @@
-"""The checks of a home gateway's configuration values.
+"""Judges the configuration values of a home gateway with the checks of ostrel-check.
 
-call, judge, judge_many and checks use a common session, in UTF-8, whose program ends with the interpreter.
+The functions call, judge and judge_many and the mapping checks use the default session, which encodes a str as UTF-8
+and whose program ends with the interpreter.
 """
 
 from ostrel._catalogue import ArgumentOf, Check, Code

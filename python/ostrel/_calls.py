@@ -1,10 +1,10 @@
-"""Calls of checks by name. The stub of this file is generated from the catalogue."""
+"""Calls checks by name. The stub of this module is generated from the catalogue."""
 
 
 class Calls:
     def judge(self, check, *arguments):
-        """judge calls a check with its arguments, in the order of its declaration. It raises MalformedCall for an
-        unknown check or wrong arguments."""
+        """judge calls a check with its arguments, in the order of its declaration, and returns the verdict. It raises
+        MalformedCall if the check is unknown or the arguments are wrong."""
         return self.call(check, arguments)
 
     def call(self, check, arguments):

@@ -1,4 +1,4 @@
-"""The checks and their arguments, as ostrel-check list --json prints them."""
+"""Describes the checks and their arguments, as ostrel-check list --json prints them."""
 
 import json
 from collections.abc import Callable, Iterator, Mapping
@@ -18,21 +18,22 @@ class ArgumentOf:
 
     name: str
     kind: Kind
-    """text is only read, buffer and blocks are read and written, integer_out is written."""
+    """How the check uses the argument: "text" is only read, "buffer" and "blocks" are read and written, "integer_out"
+    is written, and the other two are numbers."""
     what: str
     unit: str | None
     is_secret: bool
-    """Not to be shown or logged."""
+    """Whether the value must not be shown or logged."""
     is_output_only: bool
-    """A caller need not pass it."""
+    """Whether a caller may omit the argument."""
     constraints: Mapping[str, Any] | None
-    """What a value must be, as far as the description of the check proves it. ostrel-check list --schema defines the
-    members. In their texts each character is the byte of the same number."""
+    """The constraints on a value that follow from the check's description. ostrel-check list --schema defines the
+    members. In their strings, each character stands for the byte with the same number."""
 
 
 @dataclass(frozen=True)
 class Code:
-    """Code is a result code."""
+    """Code describes a result code of a check."""
 
     code: int
     name: str
@@ -48,7 +49,7 @@ class Check:
     declaration: str
     """The declaration in C."""
     rule: str
-    """What is accepted, or what the returned number means."""
+    """Which values are accepted, or what the returned number means."""
     answers: Literal["code", "number"]
     arguments: tuple[ArgumentOf, ...]
     codes: tuple[Code, ...]
@@ -81,7 +82,7 @@ def read_catalogue(program: str) -> dict[str, Check]:
 
 
 class Catalogue(Mapping[str, Check]):
-    """Catalogue maps names to checks. It runs the program when the first one is looked up."""
+    """Catalogue maps the names of checks to their descriptions. It runs the program at the first lookup."""
 
     def __init__(self, find_program: Callable[[], str]) -> None:
         self._find_program = find_program

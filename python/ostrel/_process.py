@@ -1,4 +1,4 @@
-"""The program that judges values, as a co-process."""
+"""Runs ostrel-check, the program that judges values, as a co-process."""
 
 import os
 import select
@@ -15,18 +15,20 @@ from ostrel._wire import Case, Encoding, lines_of
 
 NAME = "ostrel-check"
 
-# The number of cases that are written at once. One side is idle while the other handles the first or the last piece.
+# The number of cases that are written at once. It is small because one side is idle while the other handles the first
+# or the last piece.
 _PIECE = 128
 _MOST_READ = 1 << 18
 _SECONDS_TO_END = 5.0
 
 
 class Ended(Exception):
-    """Ended: the program ended before it had answered all cases."""
+    """Ended is raised if the program ends before it has answered all cases."""
 
 
 def find_program(given: str | None) -> str:
-    """find_program returns the path of the program: the given one, that of OSTREL_CHECK, or the first on the PATH."""
+    """find_program returns the path of the given program, of the program that OSTREL_CHECK names, or of the first
+    ostrel-check on the PATH."""
     wanted = given or os.environ.get("OSTREL_CHECK") or NAME
     found = shutil.which(wanted)
     if found is None:
@@ -36,7 +38,7 @@ def find_program(given: str | None) -> str:
 
 
 def output_of(program: str, *arguments: str) -> str:
-    """output_of runs the program until it ends, and returns its output."""
+    """output_of runs the program to completion and returns its output."""
     try:
         result = subprocess.run([program, *arguments], stdin=subprocess.DEVNULL, capture_output=True, check=False)
     except OSError as error:
@@ -48,7 +50,7 @@ def output_of(program: str, *arguments: str) -> str:
 
 
 def require_version(program: str) -> None:
-    """require_version refuses a program of another version, whose checks may differ from the stubs."""
+    """require_version raises OtherVersion for a program of another version, whose checks may differ from the stubs."""
     said = output_of(program, "--version").split()
     if said != [NAME, VERSION]:
         raise OtherVersion(f"this package and its stubs are of version {VERSION}, and {program} is "
@@ -66,7 +68,7 @@ class Process:
         self._socket, theirs = socket.socketpair()
         self._complaints = tempfile.TemporaryFile()
         with theirs:
-            # In a separate process group, the program does not receive the interrupt that a terminal sends to the
+            # In its own process group, the program does not receive an interrupt that the terminal sends to the
             # caller.
             self._child = subprocess.Popen(
                 [program, "batch", "--stream", "--format", "ndjson", "--encoding", encoding, *options],
@@ -79,12 +81,14 @@ class Process:
         return self._child.pid
 
     def answer(self, cases: Sequence[Case], verdicts: list[Verdict]) -> None:
-        """answer appends the verdicts of the cases that have none yet. It reads while it writes, so that neither side
-        blocks the other forever. It raises Ended if the program ends; the verdicts received before that are kept."""
+        """answer appends a verdict for each case that does not have one yet. It reads while it writes, so that neither
+        side blocks the other forever. If the program ends, answer raises Ended, and the verdicts received so far are
+        kept."""
         next_case = len(verdicts)
         to_write = memoryview(b"")
         incomplete: list[bytes] = []
-        # The program answers a line that is too long before it has read all of it.
+        # The program answers an overlong line before it has read all of it, so the last verdict may arrive while some
+        # input is still unwritten.
         while len(verdicts) < len(cases) or to_write:
             if not to_write and next_case < len(cases):
                 piece = cases[next_case:next_case + _PIECE]
@@ -108,7 +112,7 @@ class Process:
         except BlockingIOError:
             return 0
         except OSError:
-            return len(data)  # the program has ended; its earlier answers are still to be read
+            return len(data)  # the program has ended, but its earlier answers can still be read
 
     def _receive(self, has_more: bool, may_wait: bool) -> bytes:
         if may_wait:
@@ -125,7 +129,7 @@ class Process:
         return data
 
     def close(self) -> None:
-        """close ends the program, and waits until it has ended."""
+        """close ends the program and waits until it has ended."""
         self._socket.close()
         try:
             self._child.wait(_SECONDS_TO_END)
@@ -135,7 +139,7 @@ class Process:
         self._complaints.close()
 
     def abandon(self) -> str:
-        """abandon kills the program, and returns a description of how it ended."""
+        """abandon kills the program and returns a description of how it ended."""
         self._socket.close()
         self._child.kill()
         status = self._child.wait()
@@ -145,11 +149,11 @@ class Process:
         return f"status {status}" + (f": {said}" if said else "")
 
     def forget(self) -> None:
-        """forget leaves the program to the parent after a fork. The copies of its files are closed, because otherwise
-        the program would not notice that the parent has closed them."""
+        """forget leaves the program to the parent after a fork. It closes this process's copies of the program's files;
+        otherwise the program would not notice when the parent closes them."""
         self._socket.close()
         self._complaints.close()
-        self._child.returncode = 0  # the child of another process cannot be waited for
+        self._child.returncode = 0  # the program is the parent's child, so this process cannot wait for it
 
 
 def _verdicts_of(lines: bytes) -> list[Verdict]:

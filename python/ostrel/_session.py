@@ -1,5 +1,5 @@
-"""A session: a co-process that several threads can use, and that is started again if it was killed or the caller
-forked."""
+"""Defines sessions. A session is a co-process that several threads can share, and that is started again if it was
+killed or if the caller has forked."""
 
 import itertools
 import os
@@ -21,7 +21,7 @@ _MOST_ATTEMPTS = 3
 
 
 class _Owner:
-    """_Owner keeps the process, and outlives the session, whose finalizer ends the process."""
+    """_Owner owns the process. It outlives the session, whose finalizer ends the process."""
 
     def __init__(self) -> None:
         self.lock = threading.Lock()
@@ -34,8 +34,8 @@ class _Owner:
             self.process = None
 
     def begin_again(self) -> None:
-        """begin_again is called in a child process: the program belongs to the parent, and the thread that held the
-        lock does not exist here."""
+        """begin_again is called in a forked child, where the program belongs to the parent, and any thread that held
+        the lock does not exist."""
         self.lock = threading.Lock()
         if self.process is not None:
             self.process.forget()
@@ -54,23 +54,24 @@ os.register_at_fork(after_in_child=_begin_again)
 
 
 class Session(Calls):
-    """Session judges values with a separate program, which it starts for the first value, and again if that program
-    was killed. Threads may share a session; a forked process starts its own program.
+    """Session judges values with a separate program. It starts the program for the first value, and starts it again if
+    it was killed. Threads may share a session; a forked process starts its own program.
 
-    program     the path or the name of ostrel-check; the default is that of the environment variable OSTREL_CHECK, or
-                the first on the PATH
-    encoding    how a str is converted to the bytes that are judged, and output to a str; bytes are passed unchanged
-    limit_time  the seconds after which a call is given up; the program's default is 2
-    channels    the channels that the wireless driver would list, for machines without one
+    program     the path or name of ostrel-check; the default is the program that the environment variable OSTREL_CHECK
+                names, or the first ostrel-check on the PATH
+    encoding    "utf-8" or "latin-1", which encodes each str that is judged and decodes all output; bytes are passed
+                unchanged
+    limit_time  the number of seconds after which a call is abandoned; the program's default is 2
+    channels    the channels to be listed in place of the wireless driver, for machines that have none
 
-    checks maps the name of every check to its description, with its arguments and their constraints.
+    The attribute checks maps the name of every check to its description, including its arguments and their constraints.
     """
 
     def __init__(self, program: str | None = None, *, encoding: Encoding = "utf-8",
                  limit_time: float | None = None, channels: Iterable[int] | None = None) -> None:
         if encoding not in ("utf-8", "latin-1"):
             raise ValueError(f'the encoding is "utf-8" or "latin-1", not {encoding!r}')
-        # The parameters for creating an equal session.
+        # The parameters with which an equal session can be created.
         self._parameters = {"program": program, "encoding": encoding, "limit_time": limit_time,
                             "channels": None if channels is None else (channels := tuple(channels))}
         self._program = program
@@ -86,8 +87,8 @@ class Session(Calls):
         weakref.finalize(self, self._owner.close)
 
     def __reduce__(self) -> str | tuple[Any, ...]:
-        """__reduce__ creates an equal session in another process; the session of the module becomes that process's
-        own."""
+        """__reduce__ pickles the parameters, so that another process creates an equal session. The default session
+        becomes that process's default session."""
         return "DEFAULT" if self is DEFAULT else (partial(type(self), **self._parameters), ())
 
     def __repr__(self) -> str:
@@ -106,21 +107,22 @@ class Session(Calls):
 
     @property
     def pid(self) -> int | None:
-        """The process id of the program; None if none is running."""
+        """The process ID of the program, or None if the program is not running."""
         process = self._owner.process
         return None if process is None else process.pid
 
     def call(self, check: str, arguments: Iterable[Argument]) -> Verdict:
-        """call is judge for a check whose name is known only at run time."""
+        """call does what judge does, for a check whose name is known only at run time."""
         (verdict,) = self._answer([(check, *arguments)])
         if verdict.verdict == "malformed":
             raise MalformedCall(verdict.meaning)
         return verdict
 
     def judge_many(self, cases: Iterable[Case], *, block: int = 1024) -> Iterator[Verdict]:
-        """judge_many judges cases, each the name of a check and its arguments, and yields the verdicts in their order.
-        It reads a block of them at a time, and the next one after those verdicts are consumed. A case that cannot be
-        called has the verdict "malformed", so that one bad record does not end the iteration."""
+        """judge_many judges cases, each of which is a tuple of a check's name and its arguments, and yields their
+        verdicts in the same order. It reads one block of cases at a time, and does not read the next block until the
+        verdicts of the current one have been consumed. A case that cannot be called has the verdict "malformed", so
+        one bad record does not end the iteration."""
         if block < 1:
             raise ValueError("a block has at least one case")
         return self._answer_blocks(iter(cases), block)
@@ -130,7 +132,7 @@ class Session(Calls):
             yield from self._answer(block)
 
     def _answer(self, cases: Sequence[Case]) -> list[Verdict]:
-        """_answer judges all cases. If the process ends, another one judges the rest."""
+        """_answer judges all cases. If the process ends, another process judges the remaining cases."""
         verdicts: list[Verdict] = []
         attempts = 0
         owner = self._owner
@@ -150,7 +152,7 @@ class Session(Calls):
                         raise ProgramFailed(f"ostrel-check ended {attempts} times at {cases[len(verdicts)]!r:.200}, "
                                             f"the last time with {ending}") from None
                 except BaseException:
-                    # Answers to earlier cases may still arrive.
+                    # Answers to these cases may still arrive.
                     owner.process = None
                     process.abandon()
                     raise

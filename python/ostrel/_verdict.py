@@ -1,4 +1,4 @@
-"""The result of a check, read from a line of ostrel-check."""
+"""Reads the result of a check from a line that ostrel-check prints."""
 
 import base64
 import json
@@ -16,10 +16,12 @@ Outcome = Literal["accepted", "refused", "answer", "ended", "no_return", "no_dri
 
 @dataclass(frozen=True)
 class CharacterSet:
-    """CharacterSet is a set of bytes: in words, and its members as a text."""
+    """CharacterSet is a set of bytes."""
 
     text: str
+    """The set in words."""
     members: str
+    """The bytes of the set, as a string."""
 
 
 Datum = int | str | CharacterSet | tuple[int | str, ...] | None
@@ -33,29 +35,29 @@ class Reason:
     """Reason states why a value was refused. Members that do not apply are None."""
 
     id: str
-    """What is wrong, as an identifier that does not change."""
+    """The kind of problem, as an identifier that does not change between versions."""
     text: str
     """The sentence for the user."""
     argument: str | None = None
-    """The name of the argument."""
+    """The name of the argument concerned."""
     part: str | None = None
-    """The part of the argument, in words."""
+    """The part of the argument concerned, in words."""
     conversion: str | None = None
-    """How the text was converted before it was judged. offset counts in the converted text."""
+    """The conversion of the value before it was judged. offset is a position in the converted value."""
     item: int | None = None
-    """The item of a list, or the key of a block, counted from 0."""
+    """The index of the item in a list, or of the key in a block, counted from 0."""
     item_text: str | None = None
-    """That item, unless it is empty or a secret."""
+    """The content of that item, unless it is empty or secret."""
     offset: int | None = None
-    """A byte of the text, or of the key, counted from 0."""
+    """The position of a byte in the value or in the key, counted from 0."""
     found: Datum = None
-    """A number, a text, or the byte at offset; None for a secret."""
+    """The number or string that was found, or the byte at offset; None for a secret."""
     allowed: Datum = None
-    """A limit, two limits, a list, or the members of a set."""
+    """What is allowed, as a limit, two limits, a list, or a set of bytes."""
     read_as: int | None = None
-    """The number that this gateway reads, if the text contains more than a number."""
+    """The number that this gateway reads, if the value contains more than that number."""
     limit: str | None = None
-    """The id for the number that was read, if an int cannot hold the number in the text."""
+    """The id that applies to the number that was read, if the number in the value does not fit in an int."""
 
     def __repr__(self) -> str:
         members = ", ".join(f"{name}={value!r}" for name, value in self.__dict__.items())
@@ -65,28 +67,29 @@ class Reason:
 @dataclass(frozen=True, repr=False)
 class Verdict:
     """Verdict is the result of a check. It is true if the value was accepted, and false if it was refused, or if the
-    call ended its process or did not return. Its truth raises TypeError if the result is a number, MalformedCall for
-    a malformed call, and Error for a channel that was not judged because there is no driver."""
+    call ended its process or did not return. Using a verdict as a truth value raises TypeError if the result is a
+    number, MalformedCall for a malformed call, and Error for a channel that was not judged because there is no
+    wireless driver."""
 
     verdict: Outcome
     code: int | None
-    """The result code, or the returned number. None if the call ended, did not return or was malformed."""
+    """The result code, or the returned number. None if the call ended its process, did not return or was malformed."""
     reason: Reason | None = None
-    """Why the call was refused, ended or did not return."""
+    """Why the value was refused, or why the call ended its process or did not return."""
     lines: tuple[str, ...] = ()
     """The lines that the check printed, each with its line end."""
     err: str = ""
     """What was written to standard error, for example a failed assertion."""
     after: Mapping[str, Written] = field(default_factory=lambda: NOTHING, hash=False)
-    """The content of each argument that the check may write to, by its name."""
+    """The final contents of each argument that the check may write to, by name."""
     meaning: str = ""
     """What the code means, or how the call ended."""
     remarks: tuple[Reason, ...] = ()
-    """The steps that printed a line without deciding."""
+    """The reasons for lines that were printed before the deciding step."""
     flushed: bool = True
     """Whether all output had been flushed when the call returned."""
     cut: bool = False
-    """Whether lines lacks some of the output."""
+    """Whether some of the output is missing from lines."""
 
     def __bool__(self) -> bool:
         if self.verdict == "answer":
@@ -121,14 +124,15 @@ def _restored(members: dict[str, Any]) -> Verdict:
 
 
 def text_of(value: Any) -> str:
-    """text_of returns a text of a result. Bytes that are not UTF-8 are received as base64, and decoded with the error
-    handler surrogateescape. As an argument, the text is encoded to the same bytes."""
+    """text_of returns a string from a result. Bytes that are not UTF-8 are received as base64 and decoded with the
+    error handler surrogateescape, so that the string is encoded to the same bytes when it is passed as an argument."""
     if isinstance(value, str):
         return value
     return base64.b64decode(value["base64"]).decode("utf-8", "surrogateescape")
 
 
-# The sets of the descriptions, keyed by their words. There are few, and a lookup is faster than creating one.
+# The character sets in the descriptions, keyed by their wording. There are only a few, and looking one up is faster
+# than creating it.
 _sets: dict[str, CharacterSet] = {}
 _MOST_SETS = 256
 
@@ -153,7 +157,7 @@ def _datum(value: Any) -> Any:
 
 
 def _reason(members: dict[str, Any]) -> Reason:
-    # Only these members can be other than a text or a number.
+    # Only these members can be anything but a string or a number.
     for name in ("item_text", "found", "allowed"):
         if type(value := members.get(name)) in (dict, list):
             members[name] = _datum(value)
@@ -171,23 +175,23 @@ def _lines(out: str) -> tuple[str, ...]:
 
 
 def _made(kind: type[T], members: dict[str, Any]) -> T:
-    """_made creates an object of a frozen class. It sets all members at once, because a call for each would take
-    most of the time."""
+    """_made creates an instance of a frozen class. It sets all members at once, because a separate call for each
+    member would take most of the time."""
     made = object.__new__(kind)
     object.__setattr__(made, "__dict__", members)
     return made
 
 
-# Verdicts with only a code, keyed by their line: at most one for each check.
+# The verdicts that contain only a code, keyed by their line. There is at most one for each check.
 _plain: dict[str, Verdict] = {}
 
 
 def verdicts_of(lines: list[str]) -> list[Verdict]:
-    """verdicts_of reads lines of ostrel-check batch --stream. Each begins with the number of the record. Without that
-    number, many lines are equal."""
+    """verdicts_of parses lines that ostrel-check batch --stream prints. Each line begins with the number of its
+    record; without that number, many lines are equal."""
     lines = ["{" + line[line.index(",") + 1:] for line in lines]
     known = [_plain.get(line) for line in lines]
-    # Parsing all results as one document takes two thirds of the time of parsing each.
+    # Parsing all results as one document takes two thirds of the time that parsing each one separately takes.
     rest = [line for line, verdict in zip(lines, known) if verdict is None]
     rows = json.loads(f"[{','.join(rest)}]")
     made = (_verdict(line, row) for line, row in zip(rest, rows, strict=True))

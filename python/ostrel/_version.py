@@ -1,3 +1,3 @@
-"""The version of ostrel-check that the stubs were made from, by scripts/stubs."""
+"""The version of ostrel-check from whose catalogue scripts/stubs generated the stubs."""
 
 VERSION = "0.1.0"

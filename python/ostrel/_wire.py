@@ -1,4 +1,4 @@
-"""Cases as lines of JSON, as ostrel-check reads them."""
+"""Encodes cases as the lines of JSON that ostrel-check reads."""
 
 import base64
 from collections.abc import Callable, Iterable, Sequence
@@ -12,8 +12,8 @@ Argument = Text | int | Texts | None
 Case = Sequence[Argument]
 Quote = Callable[[str], str]
 
-# JSONEncoder.encode calls this function for a text; calling it directly takes half the time. Characters beyond ASCII
-# are unchanged, because escaping them would cost both sides more.
+# JSONEncoder.encode calls this function for a str; calling it directly takes half the time. Characters beyond ASCII
+# are not escaped, because escapes would cost both sides more time.
 _quoted: Quote = encoder.encode_basestring  # type: ignore[attr-defined]
 _escaped: Quote = encoder.encode_basestring_ascii  # type: ignore[attr-defined]
 
@@ -48,8 +48,8 @@ def _line(case: Case, quote: Quote) -> str:
 
 
 def _token_of_surrogates(text: str) -> str:
-    """_token_of_surrogates converts the lone surrogates of the error handler surrogateescape back to the original
-    bytes. Any other lone surrogate is left to the program, which reports the error."""
+    """_token_of_surrogates converts the lone surrogates that the error handler surrogateescape creates back to the
+    original bytes. It passes any other lone surrogate to the program, which reports the error."""
     try:
         return _token_of_bytes(text.encode("utf-8", "surrogateescape"))
     except UnicodeEncodeError:
@@ -57,7 +57,7 @@ def _token_of_surrogates(text: str) -> str:
 
 
 def lines_of(cases: Iterable[Case], encoding: Encoding) -> bytes:
-    """lines_of returns a line for each case."""
+    """lines_of returns one line of JSON for each case."""
     try:
         return "".join([_line(case, _quoted) for case in cases]).encode()
     except UnicodeEncodeError:

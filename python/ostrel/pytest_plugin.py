@@ -1,4 +1,4 @@
-"""A pytest plugin: a fixture that judges values, with failures that contain the reason."""
+"""A pytest plugin with a fixture that judges values. A failure shows the reason for the verdict."""
 
 from collections.abc import Iterator
 
@@ -10,10 +10,10 @@ from ostrel._wire import Argument
 
 
 class Gateway(Session):
-    """Gateway is a session with assertions."""
+    """Gateway is a session with two assertions, accepts and refuses."""
 
     def accepts(self, check: str, *arguments: Argument) -> Verdict:
-        """accepts fails the test unless the check accepts the values."""
+        """accepts fails the test unless the check accepts the values. It returns the verdict."""
         __tracebackhide__ = True
         verdict = self.call(check, arguments)
         if verdict.verdict != "accepted":
@@ -21,7 +21,8 @@ class Gateway(Session):
         return verdict
 
     def refuses(self, check: str, *arguments: Argument, code: int | None = None, reason: str | None = None) -> Verdict:
-        """refuses fails the test unless the check refuses the values, with this code and the reason of this id."""
+        """refuses fails the test unless the check refuses the values with the given code, and with a reason that has
+        the given id. It returns the verdict."""
         __tracebackhide__ = True
         verdict = self.call(check, arguments)
         found = None if verdict.reason is None else verdict.reason.id
@@ -51,6 +52,6 @@ def pytest_addoption(parser: pytest.Parser) -> None:
 
 @pytest.fixture(scope="session")
 def ostrel(pytestconfig: pytest.Config) -> Iterator[Gateway]:
-    """A session of ostrel, which judges values with the checks of a home gateway."""
+    """A session that judges values with the checks of a home gateway."""
     with Gateway(pytestconfig.getoption("ostrel_check"), encoding=pytestconfig.getini("ostrel_encoding")) as gateway:
         yield gateway

@@ -1,4 +1,4 @@
-"""The commands and the examples of docs/python.md.
+"""Runs the commands and the examples in docs/python.md.
 
 usage: document_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -1,4 +1,4 @@
-"""100,000 hostile values: the results are those of the program without the package, and the caller survives.
+"""Judges 100,000 hostile values. The caller survives, and the results equal those of the program without the package.
 
 usage: hostile_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -70,7 +70,7 @@ def token(value):
 
 
 def content(value):
-    """content returns a text of a result as bytes."""
+    """content returns a string from a result as bytes."""
     return base64.b64decode(value["base64"]) if isinstance(value, dict) else value.encode()
 
 

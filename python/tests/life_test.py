@@ -1,4 +1,4 @@
-"""The program killed, a fork, threads.
+"""Tests sessions whose program is killed, sessions in forked processes, and sessions that threads share.
 
 usage: life_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -19,7 +19,7 @@ from ostrel import _process
 
 
 def cases(count, first=0):
-    """cases returns cases, of which every second one is refused, with different lines."""
+    """cases returns cases, every second of which is refused with a different line."""
     return [("LAN_check_interface_addr_type", "Static" if number % 2 else f"{number}")
             for number in range(first, first + count)]
 
@@ -34,7 +34,7 @@ def lines_of(verdicts):
 
 
 def count_in_child(session):
-    """count_in_child judges in a forked child, and returns its exit code."""
+    """count_in_child judges cases in a forked child and returns the child's exit code."""
     child = os.fork()
     if child == 0:
         status = 1

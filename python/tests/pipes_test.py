@@ -1,4 +1,4 @@
-"""A closed pipe, an interrupt, and more output than a pipe can hold.
+"""Tests closed pipes, interrupts, and more output than a pipe can hold.
 
 usage: pipes_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -49,7 +49,7 @@ session.close()
             self.assertEqual(session.pid, os.getpgid(session.pid))
 
     def test_large_values_both_ways(self):
-        """Neither side waits for the other while both write more than a pipe can hold."""
+        """Neither side blocks the other when both write more than a pipe can hold."""
         value = "x" * (1 << 20)
         with ostrel.Session() as session:
             verdicts = list(session.judge_many([("LAN_check_interface_addr_type", value)] * 30))

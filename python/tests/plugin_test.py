@@ -1,4 +1,4 @@
-"""The pytest plugin: its fixture, and the text of a failure.
+"""Tests the fixture of the pytest plugin and its failure messages.
 
 usage: plugin_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -1,4 +1,4 @@
-"""The program of a session: how it is found, its version, and its end.
+"""Tests how a session finds its program, checks its version, and ends it.
 
 usage: program_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -71,7 +71,7 @@ class Program(unittest.TestCase):
 
 
 class Ends(unittest.TestCase):
-    """No process, open file or warning remains."""
+    """No process, open file or warning remains after a session."""
 
     def test_the_context_manager_ends_the_program(self):
         with ostrel.Session() as session:

@@ -1,4 +1,4 @@
-"""A session: its results, and the calls that it rejects.
+"""Tests the results of a session and the calls that it rejects.
 
 usage: session_test.py OSTREL_CHECK SOURCE_DIR
 """

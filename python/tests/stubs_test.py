@@ -1,4 +1,4 @@
-"""A stale stub is noticed. With the stubs mypy finds every fault, and nothing else.
+"""Tests that stale stubs are noticed, and that with the stubs, mypy finds every fault and nothing else.
 
 usage: stubs_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -1,4 +1,4 @@
-"""Helpers of the tests of the Python package. The arguments of each test are OSTREL_CHECK and SOURCE_DIR."""
+"""Helpers for the tests of the Python package. Each test takes the arguments OSTREL_CHECK and SOURCE_DIR."""
 
 import os
 import pathlib
@@ -15,7 +15,7 @@ sys.path[:0] = [str(PACKAGE), str(SOURCE / "vectors")]
 
 
 def run(*command, **options):
-    """run returns the exit code of a command and all its output."""
+    """run runs a command and returns its exit code and all its output."""
     result = subprocess.run(list(map(str, command)), stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                             stderr=subprocess.STDOUT, check=False, text=True, **{"env": ENVIRONMENT, **options})
     return result.returncode, result.stdout

@@ -1,4 +1,4 @@
-"""Every vector, as bytes and as texts of both encodings.
+"""Judges every vector as bytes, and as a str in each of the two encodings.
 
 usage: vectors_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -10,7 +10,7 @@ import support
 import ostrel
 import vectors
 
-# Longer texts add nothing to the test of encodings, but would take most of the time.
+# Longer strings would add nothing to the test of the encodings, but would take most of the time.
 LONG = 1 << 16
 
 
@@ -25,7 +25,7 @@ def carried(value, form):
 
 
 def plain(value, encoding):
-    """plain returns a text of a verdict in the form of the vectors."""
+    """plain returns a string from a verdict in the form that the vectors use."""
     if isinstance(value, (list, tuple)):
         return [plain(text, encoding) for text in value]
     if not isinstance(value, str) or encoding == "latin-1":
@@ -41,7 +41,7 @@ def members(row):
 
 
 def found(row, verdict, encoding):
-    """found returns the same members of a verdict, if the vector has them."""
+    """found returns the corresponding members of a verdict, limited to those that the vector specifies."""
     after = plain(list(verdict.after.values()), encoding) if "after" in row else None
     reason = {name: plain(getattr(verdict.reason, name), encoding) for name in row.get("reason", {})}
     return (verdict.code, plain("".join(verdict.lines), encoding), plain(verdict.err, encoding), verdict.flushed,
@@ -55,7 +55,7 @@ class Vectors(unittest.TestCase):
         self.assertGreater(len(self.rows), 7000)
 
     def judge(self, form, encoding, rows):
-        """judge returns the verdicts, and asserts that each agrees with its vector."""
+        """judge returns the verdicts, and asserts that each of them matches its vector."""
         with ostrel.Session(encoding=encoding) as session:
             cases = ((row["check"], *(carried(value, form) for value in values)) for _, row, values in rows)
             verdicts = list(session.judge_many(cases))
