@@ -1,8 +1,8 @@
 /*
- * configd: judges settings, and does what SECURITY.md requires of a host.
+ * configd judges settings in the way that SECURITY.md requires of a host.
  *
  * It reads lines "NAME VALUE" from standard input and writes "NAME: accepted as VALUE" or "NAME: refused, CODE" to
- * standard output. What the library prints about a refusal goes to standard error.
+ * standard output. It writes the library's reports about refusals to standard error.
  *
  *     cc configd.c -o configd -lostrel_check
  *     echo "lan.address 192.168.1.256" | ./configd
@@ -15,7 +15,7 @@
 #include <unistd.h>
 
 #define LONGEST_VALUE 255
-/* HNAPCORE_check_timezone writes at most 7 bytes, or what follows "UTC"; no other check here writes more. */
+/* HNAPCORE_check_timezone writes at most 7 bytes, or the part after "UTC". No other check used here writes more. */
 #define ROOM (LONGEST_VALUE + 7)
 
 struct setting {
@@ -29,7 +29,7 @@ static int address(char* value) { return PARAM_check_ip_addr(value); }
 static int wpa_key(char* value) { return WLAN_check_preshared_key(value); }
 static int password(char* value) { return GUESTACCESS_check_password(value); }
 
-/* The SSID is changed in place: value is a buffer, never a literal. */
+/* The check changes the SSID in place, so value must be a buffer, not a literal. */
 static int ssid(char* value) { return WLAN_check_ssid(value); }
 
 /* The check writes the offset into a buffer of the size that the header requires. */
@@ -41,8 +41,8 @@ static int timezone_offset(char* value)
     return code;
 }
 
-/* PARAM_check_ui2_value and PARAM_check_ui4_value do not return for a value that begins with a digit. So
-   they are not used here: a number is judged by its limits and its characters, because atoi reads "30;x" as 30. */
+/* PARAM_check_ui2_value and PARAM_check_ui4_value are not used, because they do not return for a value that begins with
+   a digit. This check tests the limits of the number, and also its characters, because atoi reads "30;x" as 30. */
 static int interval(char* value) { return ValidateNum(1, 86400, "0123456789", value); }
 
 static const struct setting kSettings[] = {
@@ -65,8 +65,8 @@ static void give_up(const char* what)
     exit(1);
 }
 
-/* Both streams of the library go to a file without a name: standard output, and standard error for WLAN_check_keys. A
-   file does not block like a full pipe, and the daemon decides what is logged. */
+/* take_the_streams redirects standard output, and standard error, to which WLAN_check_keys writes, to an unnamed file.
+   Unlike a full pipe, a file does not block, and the daemon can decide what it logs. */
 static void take_the_streams(void)
 {
     FILE* file = tmpfile();
@@ -76,7 +76,7 @@ static void take_the_streams(void)
     if (dup2(fileno(file), STDOUT_FILENO) < 0 || dup2(fileno(file), STDERR_FILENO) < 0) give_up("configd");
 }
 
-/* A value may contain control bytes, which are harmful in a log or on a terminal. */
+/* print_escaped escapes control bytes, which a value may contain and which are harmful in a log or on a terminal. */
 static void print_escaped(FILE* stream, const char* bytes, size_t size)
 {
     size_t i;
@@ -86,8 +86,8 @@ static void print_escaped(FILE* stream, const char* bytes, size_t size)
     }
 }
 
-/* log_report logs what a check has printed, and truncates the file. A report contains the refused value, so
-   none is logged for a secret. */
+/* log_report logs the report that a check has printed, and empties the file. A report contains the refused value, so
+   no report is logged for a secret. */
 static void log_report(const struct setting* setting, int code)
 {
     char report[1024];
@@ -120,7 +120,7 @@ static void judge(const struct setting* setting, const char* given)
     fputc('\n', answers);
 }
 
-/* read_line cuts a line that is too long; a value of that length is refused. */
+/* read_line cuts off the end of an overlong line, whose value is then still too long to be accepted. */
 static int read_line(char* line, size_t room)
 {
     size_t length = 0;

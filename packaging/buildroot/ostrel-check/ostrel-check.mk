@@ -11,7 +11,7 @@ OSTREL_CHECK_SOURCE = ostrel-$(OSTREL_CHECK_VERSION).tar.gz
 OSTREL_CHECK_SITE = $(OSTREL_SOURCE_URL)
 # OSTREL_CHECK_LICENSE is not set, because the source tree states no licence. Ask
 # the developers before you distribute it.
-# Headers and the files for CMake and pkg-config.
+# Other packages need the headers and the files for CMake and pkg-config.
 OSTREL_CHECK_INSTALL_STAGING = YES
 
 OSTREL_CHECK_CONF_OPTS = \
