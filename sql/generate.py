@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Generates the files of the extensions that depend on the list of checks.
+"""Generates the files in sql/ that depend on the list of checks.
 
 usage: generate.py LIST FOLDER
 
@@ -15,7 +15,7 @@ KINDS = {"text": "kText", "buffer": "kBuffer", "blocks": "kBlocks", "integer": "
 PASSED = {"kText": "at[%d].text", "kBuffer": "at[%d].buffer", "kBlocks": "at[%d].buffer", "kInteger": "at[%d].integer",
           "kUnsigned": "at[%d].natural", "kOutputText": "at[%d].buffer", "kOutputInteger": "&at[%d].integer"}
 
-# SQL ignores case in the names of functions.
+# SQL ignores the case of function names, so these would otherwise conflict with other checks.
 OTHER_SQL_NAMES = {"Param_check_bool_value": "param_check_bool_value_branding",
                    "Param_check_string_len": "param_check_string_len_signed"}
 
@@ -26,7 +26,7 @@ def kind_of(argument):
 
 
 def texts_of(argument):
-    """texts_of returns how many values SQL passes for an argument."""
+    """texts_of returns the number of values that SQL passes for an argument."""
     return 0 if kind_of(argument).startswith("kOutput") else argument.get("blocks", 1)
 
 
@@ -72,7 +72,7 @@ def row(check):
 ATTRIBUTES = "LANGUAGE C IMMUTABLE STRICT PARALLEL SAFE;\n"
 POSTGRESQL_TYPES = {"kInteger": "integer", "kUnsigned": "bigint"}
 
-# The functions that take the name of a check, and their result types for texts and for bytes.
+# The functions that take the name of a check, with their result types for text and for bytea values.
 QUESTIONS = {"ostrel_code": ("integer", "integer"), "ostrel_valid": ("boolean", "boolean"),
              "ostrel_reason": ("jsonb", "jsonb"), "ostrel_line": ("text", "bytea"), "ostrel_after": ("jsonb", "jsonb")}
 

@@ -1,8 +1,8 @@
 /*
  * configd judges settings in the way that SECURITY.md requires of a host.
  *
- * It reads lines "NAME VALUE" from standard input and writes "NAME: accepted as VALUE" or "NAME: refused, CODE" to
- * standard output. It writes the library's reports about refusals to standard error.
+ * It reads lines of the form "NAME VALUE" from standard input, and writes "NAME: accepted as VALUE" or
+ * "NAME: refused, CODE" to standard output. It writes the library's reports about refusals to standard error.
  *
  *     cc configd.c -o configd -lostrel_check
  *     echo "lan.address 192.168.1.256" | ./configd
@@ -15,7 +15,8 @@
 #include <unistd.h>
 
 #define LONGEST_VALUE 255
-/* HNAPCORE_check_timezone writes at most 7 bytes, or the part after "UTC". No other check used here writes more. */
+/* HNAPCORE_check_timezone writes at most 7 bytes, or the part after "UTC". The other checks do not write
+   more. */
 #define ROOM (LONGEST_VALUE + 7)
 
 struct setting {
@@ -41,8 +42,9 @@ static int timezone_offset(char* value)
     return code;
 }
 
-/* PARAM_check_ui2_value and PARAM_check_ui4_value are not used, because they do not return for a value that begins with
-   a digit. This check tests the limits of the number, and also its characters, because atoi reads "30;x" as 30. */
+/* PARAM_check_ui2_value and PARAM_check_ui4_value are not used, because they do not return for a value that
+   begins with a digit. This check tests the limits of the number, and also its characters, because atoi reads
+   "30;x" as 30. */
 static int interval(char* value) { return ValidateNum(1, 86400, "0123456789", value); }
 
 static const struct setting kSettings[] = {
@@ -65,8 +67,9 @@ static void give_up(const char* what)
     exit(1);
 }
 
-/* take_the_streams redirects standard output, and standard error, to which WLAN_check_keys writes, to an unnamed file.
-   Unlike a full pipe, a file does not block, and the daemon can decide what it logs. */
+/* take_the_streams redirects the two streams to which the library writes into an unnamed file. Only
+   WLAN_check_keys writes to standard error. Unlike a full pipe, a file does not block, and the daemon can
+   decide what it logs. */
 static void take_the_streams(void)
 {
     FILE* file = tmpfile();
@@ -76,7 +79,7 @@ static void take_the_streams(void)
     if (dup2(fileno(file), STDOUT_FILENO) < 0 || dup2(fileno(file), STDERR_FILENO) < 0) give_up("configd");
 }
 
-/* print_escaped escapes control bytes, which a value may contain and which are harmful in a log or on a terminal. */
+/* print_escaped escapes the control bytes in a value, which are harmful in a log or on a terminal. */
 static void print_escaped(FILE* stream, const char* bytes, size_t size)
 {
     size_t i;
@@ -86,8 +89,8 @@ static void print_escaped(FILE* stream, const char* bytes, size_t size)
     }
 }
 
-/* log_report logs the report that a check has printed, and empties the file. A report contains the refused value, so
-   no report is logged for a secret. */
+/* log_report logs the report that a check has printed, and empties the file. A report contains the refused
+   value, so no report is logged for a secret. */
 static void log_report(const struct setting* setting, int code)
 {
     char report[1024];

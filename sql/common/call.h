@@ -1,21 +1,22 @@
-/* The questions of judge.c about a call, which the descriptions answer. */
+/* Functions that judge.c calls to obtain buffer sizes and reasons from the descriptions. */
 #ifndef OSTREL_SQL_CALL_H
 #define OSTREL_SQL_CALL_H
 
 #include "sql/common/judge.h"
 
-/* OSTREL_UNWRITTEN is the value of an output number before the call. No check writes it. */
+/* OSTREL_UNWRITTEN is the value of an output number before the call. No check writes this value. */
 #define OSTREL_UNWRITTEN (-2147483647 - 1)
 
 #ifdef __cplusplus
 extern "C" {
 #endif
 
-/* ostrel_room returns the size that a buffer must have in this call, or 0 if it runs out of memory. */
+/* ostrel_room returns the size that the argument's buffer must have in this call, or 0 if it runs out of
+   memory. */
 size_t ostrel_room(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
                    unsigned argument);
 
-/* ostrel_explain allocates the requested text, and returns false if it runs out of memory. */
+/* ostrel_explain allocates and stores the requested text, and returns false if it runs out of memory. */
 bool ostrel_explain(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
                     OstrelWish wish, OstrelAnswer* answer);
 

@@ -1,4 +1,4 @@
-/* Checks: the functions of the library as SQL calls them. */
+/* The library's functions in the form in which SQL calls them. */
 #ifndef OSTREL_SQL_CHECKS_H
 #define OSTREL_SQL_CHECKS_H
 
@@ -10,7 +10,7 @@ enum { kMostArguments = 4 };
 typedef enum {
     kText,
     kBuffer, /* read and written */
-    kBlocks, /* several texts at a fixed distance, read and written; SQL passes each as a value */
+    kBlocks, /* several strings at a fixed distance, read and written; SQL passes them as separate values */
     kInteger,
     kUnsigned,
     kOutputText, /* only written, and not passed by SQL */
@@ -38,11 +38,11 @@ typedef enum { kNone, kNeverReturns, kRunsShell } OstrelHindrance;
 
 typedef struct {
     const char* name;
-    const char* sql_name; /* of the SQL function for this check */
-    unsigned texts;       /* how many values SQL passes */
-    unsigned count;       /* of the arguments */
+    const char* sql_name; /* the name of the SQL function for this check */
+    unsigned texts;       /* the number of values that SQL passes */
+    unsigned count;       /* the number of arguments */
     OstrelArgument arguments[kMostArguments];
-    bool is_number; /* it returns a number, and not a result code */
+    bool is_number; /* the check returns a number instead of a result code */
     OstrelHindrance hindrance;
     int (*call)(OstrelSlot* slots);
 } OstrelCheck;

@@ -1,8 +1,9 @@
 /*
- * The host: included before each source of the library, which then prints with print.c.
+ * Replacements for functions of the C library. This header is included before each source of the library, so
+ * that the library prints with print.c.
  *
- * A database's process has threads, and a standard output that the library must not print to or flush. These names
- * replace the C library's functions. No stream is used, and no shell is run.
+ * A database process has several threads, and its standard output must not be written or flushed by the
+ * library. With these replacements, the library uses no stream and runs no shell.
  */
 #ifndef OSTREL_SQL_HOST_H
 #define OSTREL_SQL_HOST_H
@@ -23,7 +24,7 @@ __attribute__((format(printf, 2, 3))) int ostrel_host_fprintf(FILE* stream, cons
 int ostrel_host_putchar(int c);
 int ostrel_host_puts(const char* text);
 int ostrel_host_fflush(FILE* stream);
-/* No command is run. The check that would run a shell is never called. */
+/* This function runs no command. The check that would run a shell is never called. */
 int ostrel_host_system(const char* command);
 
 #ifdef __cplusplus
@@ -45,7 +46,7 @@ using ::ostrel_host_vprintf;
 #define fflush ostrel_host_fflush
 #define system ostrel_host_system
 
-/* A database's process does not have the two utilities of a gateway. */
+/* A database process does not have a gateway's two utilities. */
 #define cmsUtl_strcmp ostrel_host_has_no_strcmp
 #define htmlToText ostrel_host_has_no_conversion
 #endif

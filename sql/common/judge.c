@@ -20,7 +20,7 @@ __attribute__((format(printf, 3, 4))) static bool fail(OstrelFault* fault, Ostre
     return false;
 }
 
-/* is_name returns whether a message may contain the text. SQL may pass arbitrary bytes as a name. */
+/* is_name returns whether a message may contain the name. SQL may pass arbitrary bytes as a name. */
 static bool is_name(const char* text, size_t size)
 {
     static const char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
@@ -63,7 +63,7 @@ static int compare_names(const void* name, const void* check)
     const OstrelText* const text = name;
     const char* const other = ((const OstrelCheck*)check)->name;
     const size_t length = strlen(other);
-    /* Not strncmp, which would end at a NUL byte of the name. */
+    /* strncmp would stop at a NUL byte in the name. */
     const int order = memcmp(text->bytes, other, text->size < length ? text->size : length);
     return order != 0 ? order : (text->size > length) - (text->size < length);
 }
@@ -84,7 +84,7 @@ const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t val
     return check;
 }
 
-/* read_integer reads a decimal integer that is the whole text. */
+/* read_integer reads a value that consists only of a decimal integer. */
 static bool read_integer(const OstrelText* given, long long lowest, long long highest, long long* number)
 {
     const char first = given->bytes[0];
@@ -94,7 +94,7 @@ static bool read_integer(const OstrelText* given, long long lowest, long long hi
     return end == given->bytes + given->size && end[-1] >= '0' && *number >= lowest && *number <= highest;
 }
 
-/* load_value loads a value that SQL passes. load_buffer allocates the buffers. */
+/* load_value validates a value that SQL passes, and stores it unless the check needs a buffer for it. */
 static bool load_value(const OstrelCheck* check, const OstrelArgument* argument, const OstrelText* given,
                        OstrelSlot* slot, OstrelFault* fault)
 {
@@ -131,7 +131,8 @@ static bool load_value(const OstrelCheck* check, const OstrelArgument* argument,
     return false;
 }
 
-/* load_buffer copies the texts of an argument that the check writes to, and returns false if it runs out of memory. */
+/* load_buffer allocates the buffer of an argument that the check writes to, and copies the values into it. It
+   returns false if it runs out of memory. */
 static bool load_buffer(const OstrelCheck* check, const OstrelText* given, const OstrelText* own,
                         OstrelSlot* slots, unsigned i)
 {
@@ -185,7 +186,7 @@ bool ostrel_judge(const OstrelCheck* check, const OstrelText* given, OstrelWish 
     const bool is_one_text = check->count == 1 && check->arguments[0].kind == kText;
     if (is_one_text && wish == kCode && memchr(given->bytes, '\0', given->size) == NULL) {
         OstrelSlot slot = {given->bytes, NULL, 0, 0};
-        answer->code = check->call(&slot); /* as in most calls */
+        answer->code = check->call(&slot); /* most calls take this short path */
         return true;
     }
     OstrelSlot slots[kMostArguments];

@@ -1,13 +1,13 @@
 /*
- * Judging: a call of a check with the values that SQL passes. Nothing that the library prints leaves this call, no NULL
- * reaches the library, and several threads may judge at the same time.
+ * Calling checks with the values that SQL passes. The library's output does not reach a stream, NULL is never
+ * passed to the library, and several threads may call checks at the same time.
  */
 #ifndef OSTREL_SQL_JUDGE_H
 #define OSTREL_SQL_JUDGE_H
 
 #include "sql/common/checks.h"
 
-/* OstrelText is a value, followed by a NUL byte. */
+/* OstrelText is a value that is followed by a NUL byte. */
 typedef struct {
     const char* bytes;
     size_t size;
@@ -15,16 +15,16 @@ typedef struct {
 
 /* OstrelWish selects the text that is returned in addition to the code. */
 typedef enum {
-    kCode,    /* none */
-    kLine,    /* the output of the check to standard output */
+    kCode,    /* no text */
+    kLine,    /* the output that the check prints to standard output */
     kAfter,   /* a JSON array with the contents of each argument that the check may write to */
     kReason,  /* the reason of a refusal as JSON */
-    kSentence /* the same as a sentence; with a secret argument, only lengths */
+    kSentence /* the reason as a sentence or, if an argument is secret, only lengths */
 } OstrelWish;
 
 typedef struct {
     int code;
-    char* text; /* NULL: none */
+    char* text; /* NULL if there is no text */
     size_t size;
 } OstrelAnswer;
 
@@ -33,7 +33,7 @@ typedef enum {
     kUnknownCheck,
     kTooFewValues,
     kTooManyValues,
-    kNotCalled, /* because of the check's hindrance */
+    kNotCalled, /* the check has a hindrance */
     kNoVerdict,
     kNulByte,
     kNotAnInteger,
@@ -43,7 +43,7 @@ typedef enum {
 
 enum { kMostMessage = 256 };
 
-/* OstrelFault is the reason of an SQL error. Its message contains no value. */
+/* OstrelFault is the reason for an SQL error. Its message never contains a value. */
 typedef struct {
     OstrelFaultKind kind;
     char message[kMostMessage];
@@ -54,18 +54,18 @@ extern "C" {
 #endif
 
 /*
- * ostrel_choose_check returns the check if it can be called with so many values, or NULL and a fault. With is_verdict,
- * a check that returns a number is a fault.
+ * ostrel_choose_check returns the check if it can be called with this number of values; otherwise it returns
+ * NULL and sets the fault. With is_verdict, a check that returns a number is also a fault.
  */
 const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t values, bool is_verdict,
                                        OstrelFault* fault);
 
-/* ostrel_is_callable returns the same for a known check. */
+/* ostrel_is_callable makes the same tests on a known check. */
 bool ostrel_is_callable(const OstrelCheck* check, size_t values, bool is_verdict, OstrelFault* fault);
 
 /*
- * ostrel_judge calls a check that is callable. After true, the caller releases the answer with ostrel_release; after
- * false, the fault says why.
+ * ostrel_judge calls a callable check. If it returns true, the caller must release the answer with
+ * ostrel_release. If it returns false, the fault contains the reason.
  */
 bool ostrel_judge(const OstrelCheck* check, const OstrelText* given, OstrelWish wish, OstrelAnswer* answer,
                   OstrelFault* fault);

@@ -1,4 +1,4 @@
-/* Printing: the output of the library's sources is kept in memory. */
+/* Storage for the output of the library's sources. */
 #ifndef OSTREL_SQL_PRINT_H
 #define OSTREL_SQL_PRINT_H
 
@@ -9,10 +9,11 @@ typedef struct {
     char* bytes; /* allocated with malloc, or NULL; followed by a NUL byte */
     size_t size;
     size_t room;
-    bool is_lost; /* there was not enough memory for all of it */
+    bool is_lost; /* there was not enough memory for all the output */
 } OstrelPrints;
 
-/* ostrel_capture stores the standard output of this thread from now on. With NULL, it is discarded. */
+/* ostrel_capture stores this thread's subsequent output to standard output in prints, or discards it if
+   prints is NULL. */
 void ostrel_capture(OstrelPrints* prints);
 
 #endif

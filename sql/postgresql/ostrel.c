@@ -1,7 +1,7 @@
 /*
- * ostrel: the checks as functions of PostgreSQL. docs/sql.md describes them.
+ * The checks as functions of PostgreSQL. docs/sql.md describes these functions.
  *
- * Errors are raised only after the call of the check has returned.
+ * An error is raised only after the call of the check has returned.
  */
 #include "postgres.h"
 
@@ -20,7 +20,8 @@ static void judge(const OstrelCheck* check, const OstrelText* given, OstrelWish 
     if (!ostrel_judge(check, given, wish, answer, &fault)) ostrel_raise(&fault);
 }
 
-/* judge_one implements the function of one check: its arguments are text, integer and bigint. */
+/* judge_one implements the SQL function for one check, whose arguments have the types text, integer and
+   bigint. */
 static Datum judge_one(FunctionCallInfo fcinfo, const OstrelCheck* check)
 {
     OstrelFault fault;
@@ -47,14 +48,14 @@ static Datum judge_one(FunctionCallInfo fcinfo, const OstrelCheck* check)
     Datum ostrel_check_##name(PG_FUNCTION_ARGS) { return judge_one(fcinfo, &ostrel_checks[index]); }
 #include "sql/postgresql/functions.inc"
 
-/* OstrelCall is a call of a named check, with a text[] or a bytea[] of values. */
+/* OstrelCall is a call of a named check with a text[] or bytea[] of values. */
 typedef struct {
     const OstrelCheck* check;
     OstrelText given[kMostArguments];
     bool is_text;
 } OstrelCall;
 
-/* choose finds the check and keeps it for the next row of the query, which usually names the same one. */
+/* choose finds the check and keeps it for the next row of the query, which usually names the same check. */
 static const OstrelCheck* choose(FunctionCallInfo fcinfo, size_t count, bool is_verdict)
 {
     const text* name = PG_GETARG_TEXT_PP(0);
@@ -129,7 +130,7 @@ Datum ostrel_reason(PG_FUNCTION_ARGS) { return answer_json(fcinfo, kReason); }
 
 Datum ostrel_after(PG_FUNCTION_ARGS) { return answer_json(fcinfo, kAfter); }
 
-/* ostrel_line returns the type of its values: text or bytea. */
+/* ostrel_line returns text or bytea, like its values. */
 Datum ostrel_line(PG_FUNCTION_ARGS)
 {
     OstrelCall call;
@@ -146,8 +147,8 @@ Datum ostrel_line(PG_FUNCTION_ARGS)
 }
 
 /*
- * ostrel_require returns true, or raises an error whose DETAIL is the reason. The server writes DETAIL to its log, so
- * for a check with a secret it contains only lengths.
+ * ostrel_require returns true, or raises an error whose DETAIL is the reason. The server writes DETAIL to its
+ * log, so it contains only lengths if the check has a secret argument.
  */
 Datum ostrel_require(PG_FUNCTION_ARGS)
 {

@@ -1,4 +1,4 @@
-/* Values: conversion between the server and a check. */
+/* Conversion of values between the server and a check. */
 #ifndef OSTREL_SQL_POSTGRESQL_VALUES_H
 #define OSTREL_SQL_POSTGRESQL_VALUES_H
 
@@ -9,25 +9,27 @@
 /* kOstrelShort is the size of a buffer for short values. */
 enum { kOstrelShort = 256 };
 
-/* ostrel_raise raises the fault as an error, with an SQLSTATE for its kind. */
+/* ostrel_raise raises the fault as an error with the SQLSTATE for its kind. */
 void pg_attribute_noreturn() ostrel_raise(const OstrelFault* fault);
 
 /*
- * ostrel_take returns a text or a bytea as bytes with a NUL byte after them. A text of another encoding becomes UTF-8.
- * A short value is stored in the room, unless that is NULL.
+ * ostrel_take returns the bytes of a text or bytea value, followed by a NUL byte. Text in another encoding is
+ * converted to UTF-8. If room is not NULL, a short value is stored there.
  */
 OstrelText ostrel_take(Datum value, bool is_text, char* room);
 
-/* ostrel_told moves the text of the answer into memory of the server; it returns NULL if there is none. */
+/* ostrel_told moves the text of the answer into the server's memory. It returns NULL if there is no text. */
 char* ostrel_told(OstrelAnswer* answer);
 
 /*
- * ostrel_jsonb converts JSON in ASCII, which it changes, to jsonb. Unless the database uses UTF-8 or Latin-1, "\u0080"
- * to "\u00FF" become "\\x80" to "\\xFF", because its encoding may lack them.
+ * ostrel_jsonb converts JSON in ASCII to jsonb, and changes the string in the process. Unless the database
+ * uses UTF-8 or Latin-1, "\u0080" to "\u00FF" become "\\x80" to "\\xFF", because these characters may not
+ * exist in its encoding.
  */
 Datum ostrel_jsonb(char* json);
 
-/* ostrel_shown returns the text in the server's encoding. Bytes that are not UTF-8 are written as "\xFF". */
+/* ostrel_shown returns the bytes in the server's encoding. Bytes that are not UTF-8 become "\xFF" and so
+   on. */
 char* ostrel_shown(const char* bytes, size_t size);
 
 #endif

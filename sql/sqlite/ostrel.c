@@ -1,8 +1,8 @@
 /*
- * ostrel: the checks as functions of SQLite. docs/sql.md describes them.
+ * The checks as functions of SQLite. docs/sql.md describes these functions.
  *
- * The functions are deterministic and use only their arguments, so that a CHECK constraint, an index and a schema of
- * unknown origin may call them.
+ * The functions are deterministic and use only their arguments, so they may be called from CHECK constraints,
+ * indexes and schemas of unknown origin.
  */
 #include <sqlite3ext.h>
 #include <string.h>
@@ -19,8 +19,8 @@ __attribute__((visibility("default"))) int sqlite3_ostrel_init(sqlite3* database
 typedef struct {
     const char* sql_name;
     OstrelWish wish;
-    bool is_verdict; /* a check that returns a number is an error */
-    bool is_valid;   /* it returns whether the code is 0 */
+    bool is_verdict; /* whether a check that returns a number is an error */
+    bool is_valid;   /* whether the result is true or false instead of the code */
 } OstrelQuestion;
 
 static const OstrelQuestion kQuestions[] = {
@@ -32,8 +32,8 @@ static const OstrelQuestion kQuestions[] = {
 static const OstrelQuestion kCodeAlone = {"", kCode, false, false};
 
 /*
- * take returns a value as bytes with a NUL byte after them: a blob unchanged, a text as UTF-8, a number as SQLite
- * writes it. The caller frees *copy.
+ * take stores the bytes of a value, followed by a NUL byte. A blob is unchanged, text is in UTF-8, and a
+ * number has the form in which SQLite writes it. The caller frees *copy.
  */
 static bool take(sqlite3_value* value, int type, OstrelText* text, char** copy)
 {
@@ -42,7 +42,7 @@ static bool take(sqlite3_value* value, int type, OstrelText* text, char** copy)
         text->size = (size_t)sqlite3_value_bytes(value);
         return text->bytes != NULL;
     }
-    const void* blob = sqlite3_value_blob(value); /* NULL if it is empty */
+    const void* blob = sqlite3_value_blob(value); /* NULL if the blob is empty */
     text->size = (size_t)sqlite3_value_bytes(value);
     *copy = sqlite3_malloc64(text->size + 1);
     if (*copy == NULL) return false;
@@ -93,7 +93,7 @@ static void judge(sqlite3_context* context, const OstrelCheck* check, const Ostr
     }
 }
 
-/* call_check implements the function of one check. */
+/* call_check implements the SQL function for one check. */
 static void call_check(sqlite3_context* context, int count, sqlite3_value** values)
 {
     const OstrelCheck* const check = sqlite3_user_data(context);
@@ -106,8 +106,8 @@ static void call_check(sqlite3_context* context, int count, sqlite3_value** valu
 }
 
 /*
- * call_question implements a function whose first argument names the check. SQLite keeps the check if the name is
- * constant.
+ * call_question implements a function whose first argument names the check. If the name is constant, SQLite
+ * keeps the check between calls.
  */
 static void call_question(sqlite3_context* context, int count, sqlite3_value** values)
 {

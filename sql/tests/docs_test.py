@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Runs the commands of docs/sql.md, in a folder like a clone in which the extensions were built."""
+"""Runs the commands in docs/sql.md in a folder that resembles a clone in which the extensions were built."""
 
 import pathlib
 import re
@@ -15,7 +15,7 @@ import documents  # noqa: E402  it is next to another test
 import server  # noqa: E402
 
 TEXT = (shared.SOURCE / "docs/sql.md").read_text(encoding="utf-8")
-# These commands were run before the test.
+# These commands have been run before the test.
 LONG = re.compile(r"scripts/setup |cmake --preset ")
 
 
@@ -38,7 +38,7 @@ class Commands(unittest.TestCase):
         self.addCleanup(tree.remove)
         started = server.Server(tree)
         self.addCleanup(started.stop)
-        # The page installs into the copy of the server's tree.
+        # The page's commands install into the copy of the server's tree.
         self.environment = {**started.environment(), "DESTDIR": str(tree.folder)}
         for language, _, lines in documents.blocks(TEXT):
             if language == "sql":

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Tests a table with partitions on three servers: where the check runs, and what happens when a server stops."""
+"""Tests where the check runs for a table with partitions on three servers, and what happens when a server stops."""
 
 import os
 import pathlib

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Compares the processor time of scans with a check with that of the same scan with length(), and with the alternatives
-in PostgreSQL: a regular expression, a cast.
+"""Compares the processor time of a scan with a check to that of the same scan with length(), and with the alternatives
+in PostgreSQL, which are a regular expression and a cast.
 
 usage: postgresql_speed_test.py [ROWS]
 """
@@ -19,7 +19,7 @@ OCTET = "(25[0-5]|2[0-4][0-9]|1?[0-9]{1,2})"
 ADDRESS = "^%s$" % r"\.".join([OCTET] * 4)
 STATION = "^([0-9A-Fa-f]{2}:){5}[0-9A-Fa-f]{2}$"
 
-# The check, the values, and the alternatives.
+# Each case contains a check, the values, and the alternatives.
 CASES = (
     ("TcmValidateIPAddress", "concat_ws('.', i % 256, i * 7 % 256, i * 31 % 256, i / 256 % 256)",
      {"~": "v ~ '%s'" % ADDRESS, "inet": "v::inet"}),
@@ -40,7 +40,7 @@ class Speed(unittest.TestCase):
         cls.server.run("CREATE EXTENSION ostrel; ALTER DATABASE postgres SET search_path = public, ostrel;")
 
     def processor_times(self, expressions):
-        """processor_times returns the least time of a backend for a scan with each expression, in seconds."""
+        """processor_times returns the shortest time, in seconds, that a backend took to scan with each expression."""
         tell = "\\! cut -d ' ' -f 1 /proc/$PID/schedstat\n"
         script = ["SELECT pg_backend_pid() AS pid \\gset\n\\setenv PID :pid\n\\o /dev/null\n"]
         for _ in range(ROUNDS):

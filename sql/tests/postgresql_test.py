@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Tests the extension for PostgreSQL: with the environment variable OSTREL_BUILD, the build folder."""
+"""Tests the extension for PostgreSQL. The environment variable OSTREL_BUILD names the build folder."""
 
 import json
 import unittest
@@ -33,7 +33,7 @@ def as_bytes(value):
 
 
 def bytes_in_sql(value):
-    """bytes_in_sql returns an expression from which the server generates long values."""
+    """bytes_in_sql returns an SQL expression for a value, from which the server generates long values itself."""
     if isinstance(value, rows.Text):
         return " || ".join("decode(repeat('%s', %d), 'hex')" % (part.hex(), times) for part, times in value.pieces)
     return "'\\x%s'::bytea" % as_bytes(value).hex()
@@ -46,8 +46,8 @@ def text_in_sql(value):
 
 
 def loaded(calls):
-    """loaded returns the SQL for a table of calls: the number, the check, the values, and whether the check returns a
-    verdict."""
+    """loaded returns the SQL that creates a table of calls. Each row contains a number, the check, the values, and
+    whether the check returns a verdict."""
     lines = ["%d\t%s\t{%s}\t%s" % (i, name, ",".join('"\\\\\\\\x%s"' % as_bytes(value).hex() for value in values),
                                      VERDICTS[name]) for i, (name, values) in enumerate(calls)]
     return ("CREATE TEMPORARY TABLE calls(number integer, name text, given bytea[], is_verdict boolean);\n"
@@ -89,7 +89,7 @@ class Vectors(unittest.TestCase):
         self.assertEqual({rows.NULL, rows.NOT_CALLED}, set(self.left_out))
 
     def test_as_texts(self):
-        """Each row whose bytes are UTF-8 is called by the name of the check, and by the check's own function."""
+        """Each row whose bytes are UTF-8 is called both by the name of the check and with the check's own function."""
         names = {"Param_check_bool_value": "param_check_bool_value_branding",
                  "Param_check_string_len": "param_check_string_len_signed"}
         queries, expected = [], []
@@ -149,7 +149,7 @@ class Encodings(unittest.TestCase):
                          .rstrip("\n"))
 
     def test_others(self):
-        """A reason can contain bytes that the encoding lacks."""
+        """A reason can contain bytes that do not exist in the encoding of the database."""
         for encoding in ("LATIN2", "SQL_ASCII", "EUC_JP"):
             with self.subTest(encoding=encoding):
                 name = self.database(encoding)

@@ -1,4 +1,4 @@
-"""The rows of the vectors that SQL can run."""
+"""Reads the rows of the vectors that SQL can run."""
 
 import collections
 import pathlib
@@ -7,8 +7,8 @@ import sys
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
 import vectors  # noqa: E402  it is there
 
-# Row is a row for SQL. values contains bytes and numbers, in the order in which SQL passes them; after lists the
-# allowed results; reason is None if the row has none.
+# Row is a row for SQL. values contains bytes and numbers in the order in which SQL passes them. after lists the
+# allowed results. reason is None if the row has no reason.
 Row = collections.namedtuple("Row", "place check values code out after reason is_verdict")
 
 WRITTEN = ("buffer", "blocks", "integer_out")
@@ -17,7 +17,7 @@ NULL = "an argument is NULL"
 
 
 class Text(bytes):
-    """Text stores its pieces, each with the number of repetitions."""
+    """Text is a value that also stores the pieces it consists of, each with its number of repetitions."""
     pieces = ()
 
 
@@ -49,16 +49,16 @@ def value_of(value):
 
 
 def plain(value):
-    """plain returns a value for comparison with JSON, in which each character is a byte."""
+    """plain returns a value as a str for comparison with JSON, in which each character stands for a byte."""
     if isinstance(value, list):
         return [plain(one) for one in value]
     return value if value is None or isinstance(value, int) else text_of(value).decode("latin-1")
 
 
 def held(check, row):
-    """held lists the possible contents after the call of the arguments that the check writes to: the content in the
-    row, or no change. SQL does not pass output arguments, so for them "no change" is the value of the row or
-    nothing."""
+    """held lists the contents that the arguments to which the check writes may have after the call. These are the
+    contents in the row or, if the row has none, the unchanged arguments. SQL does not pass output arguments, so an
+    unchanged output argument has either the value in the row or no value."""
     if "after" in row:
         return [plain(row["after"])]
     written = [argument for argument in check["arguments"] if argument["kind"] in WRITTEN]
@@ -70,7 +70,7 @@ def held(check, row):
 
 
 def rows(checks, not_called):
-    """rows returns the rows, and the number of those left out, by reason."""
+    """rows returns the rows, and for each reason to leave rows out, the number of these rows."""
     by_name = {check["name"]: check for check in checks}
     found, left_out = [], collections.Counter()
     for place, row in vectors.rows():
@@ -91,5 +91,5 @@ def rows(checks, not_called):
 
 
 def told(reason):
-    """told returns those members of a reason that rows contain."""
+    """told returns the members of a reason that a row can contain."""
     return {name: reason[name] for name in ("id", "argument", "part", "item", "offset") if name in reason}

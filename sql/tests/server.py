@@ -1,5 +1,5 @@
-"""PostgreSQL servers for tests. A server runs from a copy of its tree with the extension, in a temporary folder with
-its socket, as a user other than root. It ends with the test, however that ends."""
+"""Starts PostgreSQL servers for tests. A server runs as a user other than root, from a copy of its tree with the
+extension, and its socket is in a temporary folder. It ends when the test ends, even if the test is killed."""
 
 import os
 import pathlib
@@ -27,15 +27,15 @@ class Failed(Exception):
 
 
 def as_other(command, *options):
-    """as_other returns the command to run as a user other than root, with options of setpriv."""
+    """as_other returns a command that runs the given command as a user other than root, with options for setpriv."""
     if os.geteuid() == 0:
         options = ("--reuid", OTHER, "--regid", "nogroup", "--clear-groups", *options)
     return ["setpriv", *options, *map(str, command)] if options else list(map(str, command))
 
 
 class Tree:
-    """Tree is a copy of the server's tree, into which the extension is installed. Only the programs, which find the
-    rest relative to themselves, are copied; the other files are links."""
+    """Tree is a copy of the server's tree, into which the extension is installed. Only the programs are copied, because
+    they find the other files relative to their own location; the other files are links."""
 
     def __init__(self, source, build, is_installed=True):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="ostrel-"))
@@ -84,7 +84,7 @@ class Server:
 
     def start(self):
         with open(self.log, "ab") as log:
-            # If this process ends in any way, the child receives the signal to end immediately.
+            # If this process ends for any reason, the child receives a signal to end immediately.
             self.process = subprocess.Popen(
                 as_other([self.tree.binaries / "postgres", "-D", self.data], "--pdeathsig", "QUIT"),
                 cwd=self.folder, stdin=subprocess.DEVNULL, stdout=log, stderr=subprocess.STDOUT)
@@ -116,7 +116,7 @@ class Server:
                 "PATH": "%s:%s" % (self.tree.binaries, os.environ["PATH"])}
 
     def run(self, sql, database="postgres", check=True):
-        """run returns the output of psql, unaligned, without headers. It stops at the first error."""
+        """run runs SQL with psql, and returns the output without alignment or headers. It stops at the first error."""
         done = subprocess.run([self.tree.binaries / "psql", "-XqAt", "-v", "ON_ERROR_STOP=1", "-v", "VERBOSITY=verbose",
                                "-d", database, "-f", "-"],
                               check=False, input=sql.encode(), env=self.environment(), stdout=subprocess.PIPE,

@@ -1,4 +1,4 @@
-"""Helpers of the tests of both extensions."""
+"""Helpers for the tests of both extensions."""
 
 import json
 import os
@@ -27,14 +27,15 @@ def is_number(argument):
 
 
 def hostile_value(source):
-    """hostile_value returns a text without NUL, composed of pieces that checks search for, some of them long."""
+    """hostile_value returns a value without NUL bytes, composed of pieces that checks search for. Some values are
+    long."""
     if source.random() < 0.0005:
         return source.choice(PIECES[1:]) * (20000 // source.randrange(1, 20))
     return b"".join(source.choice(PIECES) for _ in range(source.randrange(5)))
 
 
 def hostile_calls(count, seed):
-    """hostile_calls yields calls of the checks that SQL can call: the name, and a value for each argument."""
+    """hostile_calls yields calls of the checks that SQL can call, each as a name and a list of values."""
     source = random.Random(seed)
     callable_checks = [check for check in CHECKS if check["name"] not in NOT_CALLED]
     for _ in range(count):
@@ -48,6 +49,6 @@ def hostile_calls(count, seed):
                 values.append(source.choice((low, 0, 1, 2, 12, 64, (1 << 31) - 1)))
                 continue
             for _ in range(argument.get("blocks", 1)):
-                # A text of a block ends before the next one begins.
+                # A string in a block must end before the next block begins.
                 values.append(hostile_value(source)[:argument["block_size"] - 1 if "blocks" in argument else None])
         yield check["name"], values

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Compares the processor time of scans with a check with that of the same scan with length().
+"""Compares the processor time of a scan with a check to that of the same scan with length().
 
 usage: sqlite_speed_test.py [ROWS]
 """

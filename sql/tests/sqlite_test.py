@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Tests the extension for SQLite: with the environment variable OSTREL_BUILD, the build folder."""
+"""Tests the extension for SQLite. The environment variable OSTREL_BUILD names the build folder."""
 
 import json
 import re
@@ -26,7 +26,7 @@ def connect(name=":memory:"):
 
 
 def ask(database, sql, *values):
-    """ask returns the first row."""
+    """ask runs a query and returns the first row."""
     return database.execute(sql, values).fetchone()
 
 
@@ -36,7 +36,7 @@ class Vectors(unittest.TestCase):
         texts = ["line", "after"] + (["reason", "valid"] if row.is_verdict else [])
         given = (row.check, *values)
         sql = "SELECT ostrel_code(%s), %s" % (marks, ", ".join("ostrel_%s(%s)" % (text, marks) for text in texts))
-        # As a blob, because the output of a check need not be UTF-8.
+        # The line is read as a blob, because the output of a check may not be UTF-8.
         sql = sql.replace("ostrel_line(%s)" % marks, "CAST(ostrel_line(%s) AS BLOB)" % marks)
         code, line, after, *verdict = ask(database, sql, *given * (len(texts) + 1))
         self.assertEqual((row.code, row.out), (code, line or b""))

@@ -13,11 +13,11 @@ SELECT ostrel_code('PARAM_check_num_range', '15', '1', '20'), param_check_num_ra
 SELECT ostrel_code('countChar', 'a#b#c', '35');
 SELECT wlan_check_wepkeys('0123456789', '0123456789', '0123456789', '0123456789');
 SELECT param_check_string_len_signed('', -1, 1);
--- An array, of one dimension or of more, and one that is empty.
+-- Arrays of one or more dimensions, and an empty array.
 SELECT ostrel_valid('isInSameSubnet', VARIADIC ARRAY['192.168.1.1', '192.168.1.2']);
 SELECT ostrel_valid('isInSameSubnet', VARIADIC ARRAY[['192.168.1.1'], ['192.168.1.2']]);
 SELECT ostrel_valid('isInSameSubnet', VARIADIC '{}'::text[]);
--- NULL answers NULL, also where it is in an array.
+-- The result is NULL for NULL, and for an array that contains NULL.
 SELECT ostrel_code('isInSameSubnet', '1.2.3.4', NULL) IS NULL, isinsamesubnet('1.2.3.4', NULL) IS NULL;
 -- Errors.
 SELECT ostrel_code('PARAM_check_prot', '1');
@@ -28,6 +28,6 @@ SELECT param_check_ui4_value('');
 SELECT ostrel_code('WLAN_check_channel', '1', 'RADIO_2.4GHz');
 SELECT ostrel_valid('countChar', 'a', '97');
 SELECT ostrel_code('PARAM_check_port', '\x00'::bytea);
--- Every function is what a constraint, an index and a foreign server may use.
+-- Constraints, indexes and foreign servers may use every function.
 SELECT count(*), bool_and(provolatile = 'i' AND proparallel = 's' AND proisstrict)
 FROM pg_proc WHERE pronamespace = 'ostrel'::regnamespace;

@@ -1,4 +1,4 @@
--- From the first version to the one that is current.
+-- An upgrade from the first version to the current one.
 SET client_min_messages = warning;
 DROP EXTENSION ostrel CASCADE;
 CREATE EXTENSION ostrel VERSION '1.0';
