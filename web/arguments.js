@@ -1,8 +1,8 @@
-// Arguments: completes and validates what a caller passes.
+// Completes and validates the arguments that a caller passes.
 
 export const kUnwritten = -0x80000000;  // a number that no check writes
 
-// complete adds the arguments that are only written and that the caller omitted.
+// complete adds the arguments that the caller may omit because they are only written.
 export function complete(check, given) {
   const values = [...given];
   for (const {output, kind} of check.arguments.slice(given.length)) {

@@ -1,5 +1,5 @@
-// Compares the time of verdicts with that of validator, including everything that a page does: values are passed as
-// strings and, where stated, the time of a refused value includes its reason.
+// Compares the time that verdicts take with the time that validator takes. It includes everything that a page does, so
+// values are passed as strings. Where stated, the time for a refused value includes finding its reason.
 //
 //   OSTREL_WEB_BUILD=build/web/web node web/bench.js
 
@@ -51,7 +51,7 @@ const cases = [
 const kRuns = 400;
 const kRounds = 120;
 
-// best returns the nanoseconds per value of the fastest round.
+// best returns the number of nanoseconds per value in the fastest round.
 async function best(values, judge) {
   let least = Infinity;
   for (let round = 0; round < kRounds; ++round) {

@@ -1,4 +1,4 @@
-// Prints the data that generate.js needs from the descriptions, as JSON.
+// Prints as JSON the data that generate.js needs from the descriptions.
 
 #include <cstdio>
 #include <optional>
@@ -37,7 +37,7 @@ std::string_view name_of(NullOutcome outcome)
     return "";
 }
 
-// json_of returns the data that the catalogue of the command line lacks.
+// json_of returns the data that is missing from the command line's catalogue.
 std::string json_of(const Check& check)
 {
     std::string out = "{\"name\":";
@@ -56,13 +56,13 @@ std::string json_of(const Check& check)
     return out + "]}";
 }
 
-// Phrases collects the fixed phrases of sentences for parts, forms, conversions and sets, which languages translate.
+// Phrases collects the fixed phrases for parts, forms, conversions and sets, which each language translates.
 class Phrases {
  public:
     Phrases()
     {
         for (const std::string_view words : ostrel::rules::set_words()) add(words);
-        // The fields are not changed.
+        // The const_cast is safe, because no field is changed.
         for (const Check& check : ostrel::rules::checks())
             ostrel::web::fields(*this, const_cast<Check&>(check));
     }
@@ -103,7 +103,7 @@ class Phrases {
         if (part) field(*part);
     }
 
-    // The phrases of another check are collected there.
+    // The phrases of another check are collected when that check is processed.
     void field(const Check* /*check*/) {}
     void field(const ostrel::rules::Table* /*table*/) {}
     void field(std::string_view /*text*/) {}
@@ -122,7 +122,7 @@ class Phrases {
     std::set<std::string> all_;
 };
 
-// subject_first adds the subject to a sentence that has none of its own.
+// subject_first adds a subject to a sentence that has none.
 std::string subject_first(const ostrel::rules::Sentence& sentence)
 {
     return (sentence.has_subject ? "" : "{subject} ") + std::string(sentence.text);

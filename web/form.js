@@ -1,16 +1,16 @@
-// Forms: fields that are judged while the user types, by the checks of the gateway.
+// Judges the fields of a form with the gateway's checks while the user types.
 
 import {excerptOf} from './excerpt.js';
 import english from './sentences/en.js';
 import {bytesOf, sentence} from './sentences.js';
 
-const kMostWide = 16;  // characters that are listed
+const kMostWide = 16;  // the maximum number of characters that are listed
 
 let ids = 0;
 
 const filledIn = (template, values) => template.replace(/\{(\w+)\}/g, (_, name) => values[name]);
 
-// parsed reads data-with: "argument=field", or "argument:constant".
+// parsed reads data-with, whose items have the form "argument=field" or "argument:constant".
 function parsed(text = '') {
   return new Map(text.split(/\s+/).filter(Boolean).map((item) => {
     const [, name, sign, value] = item.match(/^(\w+)([=:])(.*)$/) ?? [];
@@ -27,7 +27,7 @@ function element(name, className, parent) {
   return made;
 }
 
-// Field is judged by a check. Several fields of a form may be arguments of one call.
+// Field is a field that a check judges. Several fields of a form may be arguments of one call.
 class Field {
   #turn = 0;
   #made = [];
@@ -47,7 +47,7 @@ class Field {
     this.#reason = this.#place('ostrel-reason');
     this.#reason.setAttribute('aria-live', 'polite');
     this.#bytes = this.#place('ostrel-bytes');
-    this.#prepare().catch(() => {});  // without constraints nothing is offered
+    this.#prepare().catch(() => {});  // without constraints, no keywords are offered
   }
 
   get #isSecret() {
@@ -58,7 +58,7 @@ class Field {
     return this.input.willValidate && (this.input.value !== '' || this.input.required);
   }
 
-  // dependsOn returns true if the field is judged again when that input changes.
+  // dependsOn returns whether the field must be judged again when the input changes.
   dependsOn(input) {
     return input === this.input || [...this.with.values()].some(({fields}) => fields?.includes(input.name));
   }
@@ -73,11 +73,11 @@ class Field {
     try {
       verdict = this.ostrel.judge(this.check.name, ...values);
     } catch (error) {
-      if (error instanceof TypeError) return this.#refuse(this.words.refused);  // if a number is required
+      if (error instanceof TypeError) return this.#refuse(this.words.refused);  // not a number
       return this.#refuse(error instanceof RangeError ? this.words.cannot_be_stored : this.words.stops);
     }
     if (verdict.valid !== false) return this.#settle();
-    // The form is blocked immediately. The reason follows, unless the user has typed more by then.
+    // The form is blocked immediately. The reason is shown later, unless the user has typed more by then.
     input.setCustomValidity(this.words.refused);
     Promise.resolve().then(() => turn === this.#turn && verdict.reason).then(
       (reason) => turn === this.#turn && this.#tell(reason),
@@ -122,7 +122,7 @@ class Field {
     });
   }
 
-  // #place adds an element that describes the field, after the field or the label around it.
+  // #place adds an element that describes the field after the field, or after the label around it.
   #place(className) {
     const made = element('p', className);
     this.#made.push(made);
@@ -140,7 +140,7 @@ class Field {
     const limits = constraints[this.check.arguments.indexOf(this.argument)];
     if (!limits) return;
     const keywords = limits.recommended?.keywords ?? limits.keywords;
-    // The length of a text of a fixed form is of no interest.
+    // The length is not shown for keywords, lists and values of a fixed shape.
     if (!keywords && !limits.shape && !limits.separator) this.#mostBytes = limits.max_length;
     this.#showBytes();
     const {input} = this;
@@ -185,14 +185,14 @@ class Field {
     this.#showBytes();
   }
 
-  // #otherOf returns the other field that the reason names, if any.
+  // #otherOf returns the other field to which the reason refers, or undefined if it refers to none.
   #otherOf({argument, item}) {
     const names = this.with.get(argument)?.fields;
     const other = names && this.#input(names[item] ?? names[0]);
     return other === this.input ? undefined : other;
   }
 
-  // #showBytes counts bytes if there is a limit, and explains why a character counts more than once.
+  // #showBytes shows the number of bytes if it is limited, and explains why some characters count more than once.
   #showBytes() {
     const {input, words, ostrel: {encoding}} = this;
     const most = this.#mostBytes;
@@ -211,7 +211,7 @@ class Field {
   }
 }
 
-// attach judges the fields of a form that name a check. It returns a function that detaches it.
+// attach judges the fields of a form that name a check. It returns a function that detaches the checks from the form.
 export function attach(form, ostrel, {sentences = english} = {}) {
   const fields = [];
   for (const input of form.elements) {

@@ -1,4 +1,4 @@
-// The checks of a home gateway, in a page or in Node, with the same rules as on the gateway.
+// Calls the checks of a home gateway in a page or in Node, with the same rules as on the gateway.
 
 import {complete, isText, kUnwritten, require} from './arguments.js';
 import {build, checks, codes} from './checks.js';
@@ -10,12 +10,12 @@ export {FailedAssertion, NeverReturns};
 
 const kNoChannel = -1;
 const kPage = 0x10000;
-const kSpare = 2048;  // bytes beyond the texts of the call, for blocks and for buffers that a check writes to
+const kSpare = 2048;  // bytes reserved beyond the strings of a call, for blocks and buffers that a check writes to
 const kNothingWritten = Object.freeze({});
 
-// Verdict is the result of a call. Printed lines are found by judging again, because few callers need them.
+// Verdict is the result of a call. Few callers need the printed lines, so they are obtained by a second call.
 class Verdict {
-  #asked;  // print and explain
+  #asked;  // the functions print and explain
   #judged;
   #values;
 
@@ -52,16 +52,17 @@ class Ostrel {
   #stack;
   #view = new Uint8Array();
   #base;
-  #step;  // from an argument of the last call to the next
+  #step;  // the distance in bytes between the arguments of the last call
   #isLatin1;
   #reasons;
   #reasonOf;
   #loadReasons;
-  #judged;  // by the name of the check: data that every call of it needs
-  #asked = {print: (...call) => this.#print(...call), explain: (...call) => this.#explain(...call)};  // for verdicts
+  #judged;  // the data that every call of a check needs, by the check's name
+  // These functions are passed to each verdict.
+  #asked = {print: (...call) => this.#print(...call), explain: (...call) => this.#explain(...call)};
   #isBusy = false;
   #message;
-  #printed = null;  // by the number of the stream, while printing
+  #printed = null;  // the printed messages by stream number, while they are recorded
 
   constructor(module, options) {
     const {encoding, isLatin1, isLong64, channels, compare, convert, loadReasons} = options;
@@ -102,7 +103,7 @@ class Ostrel {
     if (judged === undefined) throw new RangeError(`there is no check ${name}`);
     const {check} = judged;
     let values = given.length === check.arguments.length ? given : complete(check, given);
-    // A later change of an array by the caller must have no effect.
+    // Arrays are copied, because the caller may change them later.
     if (check.writes) values = values.map((value) => (Array.isArray(value) ? [...value] : value));
     const code = judged.takesText && isText(values[0]) ? this.#callWithText(judged, values)
                                                        : this.#call(judged, values);
@@ -121,7 +122,7 @@ class Ostrel {
     return printed;
   }
 
-  // #bytes renews the view if memory has grown, which leaves an older view empty without an error.
+  // #bytes renews the view if memory has grown, because an older view is then empty.
   #bytes() {
     if (this.#view.length === 0) this.#view = new Uint8Array(this.#rules.memory.buffer);
     return this.#view;
@@ -135,14 +136,14 @@ class Ostrel {
     this.#message = '';
   }
 
-  // #callWithText is #call for the most common case, a single text.
+  // #callWithText does the same as #call in the most common case, a single string.
   #callWithText(judged, values) {
     const text = values[0];
     put(this.#room(kSpare + most(text, this.#isLatin1)), this.#base, text, this.#isLatin1);
     return this.#run(judged, values, this.#base);
   }
 
-  // #call reserves the same room for each argument.
+  // #call reserves the same amount of memory for each argument.
   #call(judged, values) {
     const {check} = judged;
     let room = kSpare;
@@ -176,7 +177,7 @@ class Ostrel {
     }
   }
 
-  // #room returns the memory, with room for size bytes of a call.
+  // #room returns the memory, after enlarging it if it has no room for a call of size bytes.
   #room(size) {
     if (this.#isBusy) throw new Error('called by itself');
     const missing = this.#base + size - this.#bytes().length;
@@ -184,7 +185,7 @@ class Ostrel {
     return this.#bytes();
   }
 
-  // #put returns true if the value is passed in memory.
+  // #put stores a value in memory. It returns false for a value that is passed directly.
   #put(bytes, at, room, {kind, block_size: size}, value) {
     if (value === null || kind === 'integer' || kind === 'unsigned') return false;
     if (kind === 'text') put(bytes, at, value, this.#isLatin1);
@@ -222,7 +223,7 @@ class Ostrel {
     return after;
   }
 
-  // #explain loads the descriptions the first time, and again if that failed.
+  // #explain loads the descriptions when it is first called, and tries again if that has failed.
   async #explain(judged, values) {
     if (this.#reasonOf) return this.#reasonOf(judged, values);
     try {

@@ -1,4 +1,4 @@
-// The module of reasons: it finds why a check refused a call, from the description of the check.
+// Uses the module of reasons, which finds the reason for a refusal from the description of the check.
 
 import {most, put, take} from './text.js';
 
@@ -7,9 +7,9 @@ const kText = 1;
 const kInteger = 2;
 const kUnsigned = 3;
 const kBlocks = 4;
-const kHead = 5;  // bytes of a tag and a number
+const kHead = 5;  // the size of a tag and a number, in bytes
 
-// The positions of the numbers of a reason (reasons/told.h). A text has two: its address and its size.
+// The positions of the numbers of a reason (reasons/told.h). A string has two numbers, its address and its size.
 const kId = 0;
 const kPart = 2;
 const kConversion = 4;
@@ -23,7 +23,7 @@ const kAllowed = 16;
 const kReadAs = 19;
 const kSentence = 22;
 
-// The kind of a datum, which two numbers follow.
+// The kinds of a datum. Two numbers follow the kind.
 const kNothing = 0;
 const kNumber = 1;
 const kDatumText = 2;
@@ -33,7 +33,7 @@ const kKeptJson = 6;
 
 const decoder = new TextDecoder();
 
-// longest returns the maximum size of a call: each value has a header, and so has each text of a block.
+// longest returns the maximum size of a call, in which each value and each string of a block has a header.
 function longest(values, isLatin1) {
   let sum = 0;
   for (const value of values) {
@@ -44,7 +44,7 @@ function longest(values, isLatin1) {
   return sum;
 }
 
-// Memory is the memory of a module, and the place from which the module reads calls.
+// Memory accesses the memory of a module, and writes calls to the place from which the module reads them.
 export class Memory {
   #exports;
   #isLatin1;
@@ -59,7 +59,7 @@ export class Memory {
     this.#isLatin1 = isLatin1;
   }
 
-  // #look renews the views if memory has grown, which leaves older views empty without an error.
+  // #look renews the views if memory has grown, because older views are then empty.
   #look() {
     if (this.#bytes.length > 0) return;
     const {buffer} = this.#exports.memory;
@@ -101,7 +101,7 @@ export class Memory {
     return end;
   }
 
-  // numbers returns the memory as numbers, valid until the next call is written.
+  // numbers returns the memory as numbers. The result is valid until the next call is written.
   numbers() {
     this.#look();
     return this.#numbers;
@@ -111,7 +111,7 @@ export class Memory {
     return take(this.#bytes, at, length, true);
   }
 
-  // sentence reads ASCII, which the decoder handles fastest.
+  // sentence reads ASCII text, for which the decoder is fastest.
   sentence(at, length) {
     return decoder.decode(this.#bytes.subarray(at, at + length));
   }
@@ -120,10 +120,10 @@ export class Memory {
 const asText = (text) => text;
 const asData = (json) => Object.freeze(JSON.parse(json));
 
-// whole joins the halves of a number of 64 bits.
+// whole joins the two halves of a 64-bit number.
 const whole = (low, high) => (low >> 31 === high ? low : high * 2 ** 32 + (low >>> 0));
 
-// Reasons is an instance of the module. Texts whose address is permanent are read once.
+// Reasons is an instance of the module. Strings whose addresses stay valid are read only once.
 class Reasons {
   #exports;
   #memory;
@@ -212,7 +212,7 @@ export function reasonsOf(module, options) {
     try {
       return reasons.explain(judged, values);
     } catch (error) {
-      // The module traps if a value is too long; it is then replaced.
+      // The module traps if a value is too long. A new instance then replaces it.
       if (!(error instanceof WebAssembly.RuntimeError)) throw error;
       reasons = new Reasons(module, options);
       return reasons.tooMuchWork();

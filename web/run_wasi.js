@@ -1,4 +1,4 @@
-// Runs a program for WASI.
+// Runs a WASI program.
 
 import {readFileSync} from 'node:fs';
 import {WASI} from 'node:wasi';

@@ -2,22 +2,22 @@ import type {Reason} from './index.js';
 import type {Language} from './sentences/language.js';
 
 export interface SentenceOptions {
-  /** The value of the argument, so that characters are shown and counted instead of bytes. */
+  /** The value of the argument. If it is given, characters are shown and counted instead of bytes. */
   text?: string;
   encoding?: 'utf-8' | 'latin1';
   /** The subject of the sentence. The default is the language's "the value". */
   subject?: string;
 }
 
-/** Says why a value was refused, as a sentence. */
+/** Returns a sentence that explains why a value was refused. */
 export function sentence(reason: Reason, language: Language, options?: SentenceOptions): string;
 
-/** The same without an initial capital, a full stop and an added subject. */
+/** Returns the same without the initial capital, the full stop and the default subject. */
 export function clause(reason: Reason, language: Language, options?: SentenceOptions): string;
 
-/** The bytes of a text as the gateway stores it. */
+/** Returns the number of bytes in which the gateway stores a string. */
 export function bytesOf(text: string, encoding?: 'utf-8' | 'latin1'): number;
 
-/** The character that contains the byte, its number (from 0), and its offset in the text. */
+/** Returns the character that contains the byte, its number (counted from 0), and its index in the string. */
 export function placeOf(text: string, offset: number, encoding?: 'utf-8' | 'latin1'):
     {character: string; number: number; index: number};

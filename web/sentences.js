@@ -1,7 +1,8 @@
-// Sentences for users: the reason for a refusal, in the language of a file such as sentences/en.js or sentences/de.js.
+// Forms the sentence that describes a reason to the user in a language, such as that of sentences/en.js or
+// sentences/de.js.
 
 const kMostWords = 40;  // a longer list is too long to read
-const kLongest = 64;    // characters of a text that are shown
+const kLongest = 64;    // the maximum number of characters of a value that are shown
 const kCategories = ['zero', 'one', 'two', 'few', 'many', 'other'];
 
 const filledIn = (template, value) => template.replace(/\{([^}]*)\}/g, (_, name) => value(name));
@@ -10,7 +11,7 @@ const isPrintable = (c) => c > ' ' && c <= '~';
 const isPlain = (word) => word !== '' && [...word].every((c) => isPrintable(c) && c !== ',' && c !== '"');
 const inHex = (byte) => `\\x${byte.toString(16).toUpperCase().padStart(2, '0')}`;
 
-// inCommon returns the length of the longest text that occurs in both.
+// inCommon returns the length of the longest common substring.
 function inCommon(one, other) {
   let longest = 0;
   for (let i = 0; i + longest < one.length; ++i) {
@@ -24,7 +25,7 @@ function countOf(datum) {
   return datum?.members?.length ?? (Array.isArray(datum) ? datum.length : 1);
 }
 
-// bytesOf counts the bytes of a text as the gateway stores it.
+// bytesOf returns the number of bytes in which the gateway stores a string.
 export function bytesOf(text, encoding = 'utf-8') {
   let bytes = 0;
   for (const character of text) {
@@ -36,8 +37,8 @@ export function bytesOf(text, encoding = 'utf-8') {
   return bytes;
 }
 
-// placeOf finds the character that contains a byte: the character, its number (from 0), and its index in the text. After
-// the last byte the character is empty.
+// placeOf returns the character that contains the byte at an offset, its number (counted from 0), and its index in the
+// string. After the last byte, the character is empty.
 export function placeOf(text, offset, encoding) {
   let bytes = 0;
   let index = 0;
@@ -51,7 +52,8 @@ export function placeOf(text, offset, encoding) {
   return {character: '', index, number};
 }
 
-// Teller describes one reason. In its texts each character is a byte; with an encoding they are decoded.
+// Teller describes one reason. In the strings of a reason, each character is a byte. They are decoded if an encoding is
+// given.
 class Teller {
   constructor(reason, language, {subject = '', text, encoding}) {
     Object.assign(this, {reason, language, subject, encoding});
@@ -59,7 +61,7 @@ class Teller {
     this.place = isMapped ? placeOf(text, reason.offset, encoding) : null;
   }
 
-  // escaped returns the beginning of a text, with escapes for invisible characters.
+  // escaped returns the beginning of a string, with escapes for invisible characters.
   escaped(bytes) {
     let text = bytes.slice(0, kLongest);
     if (this.encoding === 'utf-8') {
@@ -74,7 +76,7 @@ class Teller {
     return filledIn(this.language.quoted, () => this.escaped(bytes));
   }
 
-  // shown returns a character for a sentence. isByte: only one byte of it is known.
+  // shown returns a character in the form used in a sentence. If isByte is true, only one byte of it is known.
   shown(character, isByte) {
     if (character === ' ') return this.phrased('a space');
     if (character === '"') return this.phrased('a quotation mark');
@@ -84,7 +86,7 @@ class Teller {
     return inHex(character.codePointAt(0));
   }
 
-  // byte returns the character at fault, or only the byte if the text is unknown.
+  // byte returns the character at fault, or only the byte at fault if the value is unknown.
   byte() {
     const {found} = this.reason;
     if (this.place?.character) return this.shown(this.place.character, false);
@@ -182,7 +184,8 @@ class Teller {
 // clause returns the reason without the initial capital and the full stop.
 export const clause = (reason, language, options = {}) => new Teller(reason, language, options).tell();
 
-// sentence returns the reason. With options.text, the value, it shows and counts characters instead of bytes.
+// sentence returns the reason as a sentence. If options.text contains the value, characters are shown and counted
+// instead of bytes.
 export function sentence(reason, language, options = {}) {
   const said = clause(reason, language, {subject: language.subject, ...options});
   return said === '' ? language.refused : `${capital(said)}.`;

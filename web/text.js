@@ -1,10 +1,10 @@
-// Copies texts into and out of the memory of a module. A value that cannot be passed completely raises an error.
+// Copies strings into and out of the memory of a module. A value that cannot be passed unchanged causes an error.
 
 const kHighSurrogates = 0xd800;
 const kLowSurrogates = 0xdc00;
 const kAfterSurrogates = 0xe000;
 
-// put writes the text and a terminator, and returns the offset of the terminator.
+// put writes the string and a terminator, and returns the offset of the terminator.
 export function put(bytes, at, text, isLatin1) {
   for (let i = 0; i < text.length; ++i) {
     let c = text.charCodeAt(i);
@@ -37,9 +37,9 @@ export const most = (text, isLatin1) => text.length * (isLatin1 ? 1 : 3) + 1;
 
 const decoder = new TextDecoder('utf-8', {ignoreBOM: true});
 const kShort = 64;      // bytes; shorter texts are decoded faster without the decoder
-const kAtOnce = 0x1000;  // bytes that are passed as arguments
+const kAtOnce = 0x1000;  // the number of bytes that are passed as arguments of one call
 
-// take reads length bytes.
+// take decodes length bytes.
 export function take(bytes, at, length, isLatin1) {
   const end = at + length;
   let text = '';
@@ -57,7 +57,7 @@ export function take(bytes, at, length, isLatin1) {
   return text;
 }
 
-// taken reads up to the terminator, at most room bytes.
+// taken decodes the bytes up to the terminator, but at most room bytes.
 export function taken(bytes, at, room, isLatin1) {
   const end = bytes.indexOf(0, at);
   return take(bytes, at, end < 0 ? room : Math.min(end - at, room), isLatin1);

@@ -1,4 +1,5 @@
-// The environment of the library: atoi and assertions of the C library, the wireless driver, the two utilities.
+// The environment of the library, which consists of the C library's atoi and assertions, the wireless driver
+// and the two utilities.
 
 #include <unistd.h>
 
@@ -35,7 +36,7 @@ void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts)
     has_convert = converts;
 }
 
-// A number that does not fit in a long saturates, and the int gets its lowest 32 bits.
+// A number that does not fit in a long saturates, and the result is its lowest 32 bits.
 int atoi(const char* text)
 {
     while (*text == ' ' || (*text >= '\t' && *text <= '\r')) ++text;
@@ -80,7 +81,8 @@ int htmlToText(char* text, std::size_t length)
     return 0;
 }
 
-// The driver's list of channels replaces the file that its tool writes.
+// The next functions return the page's channel list in place of the file that the wireless driver's tool
+// writes.
 int system(const char* /*command*/) { return 0; }
 
 FILE* fopen(const char* /*name*/, const char* /*mode*/)

@@ -1,4 +1,4 @@
-// Imports: functions that the page supplies.
+// Functions that the page supplies.
 #ifndef OSTREL_WEB_HOST_IMPORTS_H
 #define OSTREL_WEB_HOST_IMPORTS_H
 
@@ -13,12 +13,13 @@ OSTREL_IMPORT(write) void page_write(int stream, const char* text, std::size_t l
 
 OSTREL_IMPORT(flush) void page_flush();
 
-// These two throw.
+// The next two functions throw.
 [[noreturn]] OSTREL_IMPORT(fail) void page_fail(const char* condition, const char* module, int line,
                                                 const char* function);
 [[noreturn]] OSTREL_IMPORT(never_return) void page_never_return();
 
-// page_channel returns the channel at that index in the list of the wireless driver, or -1 at its end.
+// page_channel returns the channel at the index in the wireless driver's channel list, or -1 at the end of
+// the list.
 OSTREL_IMPORT(channel) int page_channel(int index);
 
 // The two utilities, if the page supplies them.

@@ -1,5 +1,5 @@
-// The C library's text functions, which end the call if an argument is NULL. In WebAssembly, address 0 can be read, so
-// NULL would be judged as an empty value.
+// Wrappers for the C library's string functions, which end the call if an argument is NULL. In WebAssembly,
+// address 0 can be read, so NULL would otherwise be judged as an empty value.
 
 #include <cstddef>
 

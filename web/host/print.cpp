@@ -1,4 +1,4 @@
-// Printing. Only the conversions that the library's messages use are supported.
+// The C library's output functions. They support only the conversions that the library's messages use.
 
 #include <cstdarg>
 #include <cstdio>

@@ -1,4 +1,5 @@
-// Included before each source of the library: declarations that the headers of WASI lack, and the endless loop.
+// This header is included before each source of the library. It declares functions that are missing from the
+// WASI headers, and replaces the endless loop.
 #ifndef OSTREL_WEB_HOST_WASI_H
 #define OSTREL_WEB_HOST_WASI_H
 
@@ -18,7 +19,7 @@ namespace std {
 using ::system;
 }
 
-// The library has one asm statement, in its endless loop. In a page it throws instead.
+// The library's only asm statement is in its endless loop. In a page, it throws an error instead.
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wkeyword-macro"
 #define asm                 \

@@ -1,7 +1,8 @@
-// A call that the page has written into the memory of this module.
+// Reads a call that the page has written into the memory of this module.
 //
-// Each argument of the check is a tag of one byte and, except for NULL, a number of four bytes: the number itself, the
-// size of the text that follows, or the count of blocks that follow, each a size and a text.
+// Each argument of the check is a tag of one byte and, except for NULL, a number of four bytes. This number
+// is the argument itself, the size of the string that follows, or the count of blocks that follow, each of
+// which consists of a size and a string.
 #ifndef OSTREL_WEB_REASONS_CALL_H
 #define OSTREL_WEB_REASONS_CALL_H
 
@@ -12,10 +13,11 @@
 
 namespace ostrel::web {
 
-// room_for_call returns the buffer for calls of at most size bytes, valid until a larger size is requested.
+// room_for_call returns a buffer for calls of at most size bytes. It is valid until a larger size is
+// requested.
 char* room_for_call(std::size_t size);
 
-// written_call reads the call, valid until the next one is read.
+// written_call reads the call. The result is valid until the next call is read.
 const std::vector<rules::Value>& written_call(const rules::Check& check);
 
 }  // namespace ostrel::web

@@ -1,4 +1,4 @@
-// This module has no exceptions: a throw traps.
+// This module has no exceptions, so throwing one traps.
 
 #include <__verbose_abort>
 #include <cstddef>
@@ -8,7 +8,7 @@ extern "C" {
 void* __cxa_allocate_exception(std::size_t /*size*/) { __builtin_trap(); }
 void __cxa_throw(void* /*exception*/, void* /*type*/, void (* /*destroy*/)(void*)) { __builtin_trap(); }
 
-// The C++ library's own reports would link printf.
+// The C++ library's implementation would link printf.
 [[noreturn]] void abort_message(const char* format, ...);
 [[noreturn]] void abort_message(const char* /*format*/, ...) { __builtin_trap(); }
 }

@@ -1,7 +1,8 @@
-// The fields of a description that its evaluation reads, in one order for packing and unpacking.
+// Lists the fields of a description that are read when it is evaluated, in the same order for packing and
+// unpacking.
 //
-// Numbers of steps and conditions and descriptions of arguments are left out. Each function names every field, so that it
-// does not compile when a field is added.
+// The numbers of steps and conditions, and the texts that describe arguments, are omitted. Each function
+// names every field, so that it does not compile if a field is added.
 #ifndef OSTREL_WEB_REASONS_FIELDS_H
 #define OSTREL_WEB_REASONS_FIELDS_H
 
@@ -106,7 +107,7 @@ void fields(Archive& archive, rules::Check& it)
     archive(name, arguments, steps, is_verdict, module, slots, number);
 }
 
-// TypeNumbers numbers the types whose equal values are packed once.
+// TypeNumbers assigns numbers to the types whose equal values are packed only once.
 template <typename... Types>
 struct TypeNumbers {
     template <typename T>

@@ -7,7 +7,8 @@
 
 namespace {
 
-// Large enough for the descriptions. The module needs that memory in any case.
+// The region is large enough for the descriptions. It does not enlarge the module's memory, which is needed
+// later anyway.
 constexpr std::size_t kRegion = std::size_t{3} << 20U;
 constexpr std::size_t kAlignment = alignof(std::max_align_t);
 

@@ -1,14 +1,14 @@
-// Memory: data that only the build of the package needs leaves no trace in the module.
+// Allocates the data that is needed only when the package is built, so that none of it remains in the module.
 #ifndef OSTREL_WEB_REASONS_MEMORY_H
 #define OSTREL_WEB_REASONS_MEMORY_H
 
 namespace ostrel::web {
 
-// Between begin_building and end_building memory is allocated in a separate region and never freed.
+// Between begin_building and end_building, memory is allocated in a separate region and is not freed.
 void begin_building();
 void end_building();
 
-// clear_building clears the region, which must no longer be used.
+// clear_building clears and frees the region.
 void clear_building();
 
 }  // namespace ostrel::web

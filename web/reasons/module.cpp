@@ -24,7 +24,7 @@ std::string sentence;
 Build gateway = {OSTREL_MODEL, OSTREL_ACCOUNT_REALM, OSTREL_SETUP_REALM, Build::Atoi::kLong32,
                  std::vector<int>()};
 
-// packed is set by ostrel_prepare. Nothing else here may refer to the code that builds the descriptions.
+// ostrel_prepare sets packed. No other function here may refer to the code that builds the descriptions.
 ostrel::web::Pack packed;
 
 const std::vector<ostrel::rules::Check>& descriptions()
@@ -45,7 +45,7 @@ void tell()
 
 extern "C" {
 
-// ostrel_prepare is called when the package is built. The module contains its result, not its code.
+// ostrel_prepare is called when the package is built. The module contains its result but not its code.
 OSTREL_EXPORT(prepare) void ostrel_prepare()
 {
     ostrel::web::begin_building();
@@ -68,7 +68,8 @@ OSTREL_EXPORT(reserve) char* ostrel_reserve(std::size_t size) { return ostrel::w
 // ostrel_told returns the address at which explain stores the reason.
 OSTREL_EXPORT(told) const Told* ostrel_told() { return &told; }
 
-// ostrel_explain stores the reason for the written call. It returns false if the call is not a refusal.
+// ostrel_explain stores the reason for refusing the written call. It returns false if the call is not
+// refused.
 OSTREL_EXPORT(explain) bool ostrel_explain(std::size_t check)
 {
     called = &descriptions()[check];
@@ -79,7 +80,7 @@ OSTREL_EXPORT(explain) bool ostrel_explain(std::size_t check)
     return true;
 }
 
-// ostrel_too_much_work stores the reason for a call in which explain trapped.
+// ostrel_too_much_work stores the reason for a call for which explain trapped.
 OSTREL_EXPORT(too_much_work) void ostrel_too_much_work()
 {
     called = &descriptions().front();

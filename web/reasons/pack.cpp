@@ -21,7 +21,7 @@ void append_number(std::string& bytes, std::uint64_t number)
     bytes += static_cast<char>(number);
 }
 
-// zigzag keeps small numbers short, whether positive or negative.
+// zigzag encodes a number so that small numbers are short, whether they are positive or negative.
 std::uint64_t zigzag(std::int64_t number)
 {
     return (static_cast<std::uint64_t>(number) << 1U) ^ static_cast<std::uint64_t>(number >> 63);
@@ -132,9 +132,9 @@ class Packer {
 
     const std::vector<rules::Check>& checks_;
     Pack pack_;
-    std::string fields_;  // of the part that is being packed
+    std::string fields_;  // the fields of the part that is being packed
     std::map<unsigned, std::map<std::string, std::uint64_t>> known_;
-    std::map<std::string, const char*> texts_;  // the address of each
+    std::map<std::string, const char*> texts_;  // the address of each string
 };
 
 }  // namespace
@@ -142,7 +142,8 @@ class Packer {
 Pack pack(const std::vector<rules::Check>& checks)
 {
     Packer packer(checks);
-    // Packing and unpacking share the functions in fields.h. Nothing is changed here.
+    // The functions in fields.h are shared with unpacking, so they are not const, but packing changes
+    // nothing.
     for (const rules::Check& check : checks) packer.add(const_cast<rules::Check&>(check));
     return packer.take();
 }

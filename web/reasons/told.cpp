@@ -14,7 +14,7 @@ namespace {
 
 using rules::Set;
 
-// There are more entries than sets in the descriptions, so only sets of callers are converted again.
+// There is an entry for every set in the descriptions, so only sets that callers supply are converted again.
 constexpr std::size_t kMostSets = 64;
 
 struct KnownSet {
@@ -25,7 +25,7 @@ struct KnownSet {
 std::forward_list<KnownSet> known_sets;
 std::size_t known_count = 0;
 
-// The JSON of a set that is not cached.
+// other_json is the JSON of a set that is not cached.
 std::string other_json;
 
 Told::Text text_of(std::string_view text) { return {text.data(), text.size()}; }
@@ -35,7 +35,7 @@ std::int32_t number_of(const std::optional<std::size_t>& number)
     return number ? static_cast<std::int32_t>(*number) : Told::kNone;
 }
 
-// Addresses have 32 bits here.
+// at stores an address, which has 32 bits in WebAssembly.
 Told::Datum at(Told::Datum::Kind kind, const void* begin, std::size_t count)
 {
     return {kind, static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(begin)),

@@ -1,4 +1,4 @@
-// A reason in the form in which the page reads it, without JSON.
+// A reason in the binary form in which the page reads it.
 #ifndef OSTREL_WEB_REASONS_TOLD_H
 #define OSTREL_WEB_REASONS_TOLD_H
 
@@ -10,7 +10,7 @@
 
 namespace ostrel::web {
 
-// Told is read by the page as numbers of 32 bits, in this order (reasons.js).
+// Told is read by the page (reasons.js) as 32-bit numbers in this order.
 struct Told {
     static constexpr std::int32_t kNone = -1;
 
@@ -23,11 +23,11 @@ struct Told {
         enum Kind : std::int32_t {
             kNothing,
             kNumber,   // the low and the high 32 bits
-            kText,     // its address and its size
-            kNumbers,  // their address and count; each the low and the high 32 bits
-            kTexts,    // their address and count; each an address that stays valid, and a size
+            kText,     // the address and the size
+            kNumbers,  // the address and the count of numbers, each stored as the low and the high 32 bits
+            kTexts,    // the address and the count of strings, each stored as a permanent address and a size
             kJson,
-            kKeptJson,  // the address stays valid
+            kKeptJson,  // JSON whose address is permanent
         };
         Kind kind = kNothing;
         std::int32_t first = 0;

@@ -11,7 +11,7 @@ namespace ostrel::web {
 
 namespace {
 
-// blank creates a part whose fields are read next.
+// blank creates an empty part, whose fields are then read.
 template <typename T>
 T blank()
 {
@@ -44,7 +44,7 @@ class Unpacker {
 
     std::vector<rules::Check> checks()
     {
-        // Checks that others call are allocated before they are read.
+        // All checks are allocated before any is read, because a check may refer to another check.
         std::vector<rules::Check> checks(parts_[Packed::number<rules::Check>()].size());
         checks_ = checks.data();
         for (std::size_t i = 0; i < checks.size(); ++i) read(checks[i], i);
@@ -69,10 +69,10 @@ class Unpacker {
         }
     }
 
-    // count reads a number of parts, the index of one, or a size.
+    // count reads a number of parts, the index of a part, or a size.
     std::size_t count() { return static_cast<std::size_t>(number()); }
 
-    // read reads a part that is elsewhere in the pack.
+    // read reads a part that is stored elsewhere in the pack.
     template <typename T>
     void read(T& part, std::size_t place)
     {
@@ -108,7 +108,7 @@ class Unpacker {
     void field(const rules::Grammar*& grammar) { pointer(pack_.grammars, grammar); }
     void field(const rules::Conversion*& conversion) { pointer(pack_.conversions, conversion); }
 
-    // A table is never freed: those that refer to it live as long as the program.
+    // A table is never freed, because the conditions that refer to it exist until the program ends.
     void field(const rules::Table*& table)
     {
         if (count() == 0) return;

@@ -1,6 +1,6 @@
-/** The texts of one language. README.md explains how to add another. */
+/** The sentences and phrases of one language. README.md explains how to add a language. */
 export interface Language {
-  /** For plural forms: 'en'. */
+  /** The locale whose plural forms are used, such as 'en'. */
   readonly locale: string;
   readonly subject: string;
   readonly item: string;
@@ -18,9 +18,9 @@ export interface Language {
   readonly wide: string;
   readonly hidden_wide: string;
   readonly one_wide: string;
-  /** Keyed by the id of the reason. */
+  /** The sentences by the id of the reason. */
   readonly sentences: Readonly<Record<string, string>>;
-  /** Keyed by their English form. */
+  /** The translations of phrases by the English phrase. */
   readonly phrases: Readonly<Record<string, string>>;
 }
 

@@ -1,4 +1,4 @@
-// Builds the site: static files for any web server, and one file that contains everything.
+// Builds the site as static files for any web server, and as one file that contains the whole site.
 //
 //   node build.js PACKAGE CATALOGUE.JSON NODE_MODULES FOLDER
 
@@ -45,7 +45,7 @@ for (const name of kPages) {
   }));
 }
 
-// Everything in one file.
+// The file that contains the whole site.
 const bundled = await require('esbuild').build({
   stdin: {contents: source('single.js'), resolveDir: folder, loader: 'js'},
   bundle: true,

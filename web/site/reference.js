@@ -1,4 +1,4 @@
-// The reference: the article shown, the search, and the fields for trying checks.
+// Starts the reference, with its articles, its search, and the fields for trying checks.
 
 import english from './ostrel/sentences/en.js';
 import {sentence} from './ostrel/sentences.js';

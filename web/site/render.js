@@ -1,16 +1,16 @@
-// HTML of the reference: an article for each check of the catalogue.
+// Renders the HTML of the reference, which contains an article for each check in the catalogue.
 
 export const escaped = (text) => String(text).replace(/[&<>"]/g, (c) => `&#${c.charCodeAt(0)};`);
 const code = (text) => `<code>${escaped(text)}</code>`;
 const codes = (texts) => `<ul class="words">${texts.map((text) => `<li>${code(text === '' ? '""' : text)}</li>`).join('')}</ul>`;
 
-// Each character is a byte. Invisible ones are shown as their number.
+// visible shows a byte, which a character stands for. An invisible character is shown as the number of its byte.
 function visible(c) {
   if (c === ' ') return 'blank';
   return c > ' ' && c <= '~' ? c : `\\x${c.charCodeAt(0).toString(16).toUpperCase().padStart(2, '0')}`;
 }
 
-// runs describes a set of characters by the ends of its runs: "A to Z".
+// runs describes a set of characters by the ends of its runs, for example "A to Z".
 export function runs(members) {
   const result = [];
   for (let i = 0; i < members.length; ++i) {
@@ -34,7 +34,7 @@ const shapeOf = (groups) => groups.map(({characters, least, most}) => {
   return `${set}{${least === most ? least : `${least},${most}`}}`;
 }).join(' ');
 
-// rowsOf lists the limits of a text, as terms and their HTML.
+// rowsOf lists the limits of a value as pairs of a term and its HTML.
 function rowsOf(form) {
   const rows = [];
   const add = (term, html) => rows.push([term, html]);

@@ -1,4 +1,5 @@
-// The page of the single file: it contains the modules as text, because a page opened from a disk can fetch nothing.
+// Starts the single-file site. The page contains the modules as text, because a page opened from a disk cannot fetch
+// them.
 
 import {load} from './ostrel/index.js';
 import {startPortal} from './portal.js';

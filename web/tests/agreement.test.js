@@ -1,4 +1,4 @@
-// Agreement: the fields of the specimen portal and ostrel-check give the same verdicts on random values.
+// Tests that the fields of the specimen portal and ostrel-check reach the same verdicts on random values.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';
@@ -22,7 +22,7 @@ function random(below) {
 }
 const pick = (list) => list[random(list.length)];
 
-// A value is a sample with some characters changed, or a text of random characters.
+// value returns a sample in which some characters are changed, or a string of random characters.
 function value() {
   const characters = random(4) === 0 ? Array.from({length: random(12)}, () => pick(kCharacters)) : [...pick(kSamples)];
   for (let changes = random(3); changes > 0; --changes) {
@@ -46,7 +46,7 @@ test('the fields of the portal judge as ostrel-check does', async (t) => {
   const told = {accepted: 0, refused: 0};
   for (const name of names) {
     const values = Array.from({length: kValues}, value);
-    // Each value is judged as by a keystroke. The call is recorded, with the arguments that come from other fields.
+    // Each value is judged as after a keystroke. The call is recorded with the arguments that other fields contain.
     const judged = await page.evaluate(async ([field, all]) => {
       const input = document.querySelector(`[name=${field}]`);
       const {checks} = await import('/ostrel/checks.js');

@@ -1,4 +1,4 @@
-// The module of rules without the wrapper: a test places each value and reads every effect.
+// Calls the module of rules without the wrapper, so that a test can place each value and observe every effect.
 
 import {complete, kUnwritten} from '../arguments.js';
 
@@ -34,7 +34,7 @@ export class Bare {
     this.bytes = Buffer.alloc(0);
   }
 
-  // sizeOf returns the size that the contract requires.
+  // sizeOf returns the size that the contract requires for the argument.
   sizeOf(check, index, values) {
     const {kind, blocks, block_size: size} = check.arguments[index];
     if (kind === 'integer_out') return 4;
@@ -93,7 +93,8 @@ export class Bare {
   }
 }
 
-// edges lists the arguments that can be placed at the end of the memory; if there are none, the call is made once.
+// edges lists the arguments that can be placed at the end of the memory. If there are none, it returns -1, so that the
+// call is made once.
 export function edges(check, given) {
   const values = complete(check, given);
   const found = check.arguments.flatMap((argument, i) => (isPointer(argument) && values[i] !== null ? [i] : []));

@@ -1,4 +1,4 @@
-// Forms in Chromium: the specimen portal, with the keyboard, the clipboard and an input method.
+// Tests the forms of the specimen portal in Chromium with the keyboard, the clipboard and an input method.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';
@@ -71,7 +71,7 @@ test('forms', async (t) => {
     await retype(page, '#mask', '255.255.255.0');
     await page.keyboard.press('Enter');
     assert.equal(await saved(), 'Saved.');
-    // Values written by a script are judged, too.
+    // Values that a script has written are also judged.
     await page.$eval('#mask', (input) => {
       input.value = '255.0.255.0';
       input.form.querySelector('.saved').textContent = '';

@@ -1,4 +1,4 @@
-// For the tests: the details of a call that the descriptions give in addition to the reason.
+// Returns details of a call from the descriptions that the module of reasons does not return, for the tests.
 
 #include "rules/evaluate.h"
 #include "rules/rules.h"
@@ -11,7 +11,7 @@ __attribute__((export_name("reserve"))) char* ostrel_reserve(std::size_t size)
     return ostrel::web::room_for_call(size);
 }
 
-// ostrel_room returns the size that a buffer must have, or -1 if it needs only room for its text.
+// ostrel_room returns the size that a buffer must have, or -1 if it needs only room for its contents.
 __attribute__((export_name("room"))) int ostrel_room(std::size_t check, std::size_t argument)
 {
     const auto& described = ostrel::rules::checks().at(check);
@@ -19,7 +19,7 @@ __attribute__((export_name("room"))) int ostrel_room(std::size_t check, std::siz
     return room ? static_cast<int>(*room) : -1;
 }
 
-// ostrel_code returns the result code. It traps if the contract leaves the result of the call open.
+// ostrel_code returns the result code. It traps if the contract does not define the result of the call.
 __attribute__((export_name("code"))) int ostrel_code(std::size_t check)
 {
     ostrel::rules::Build build;

@@ -1,9 +1,9 @@
-// The details of a call that the descriptions give in addition to the reason.
+// Returns details of a call from the descriptions that the module of reasons does not return.
 
 import {Memory} from '../reasons.js';
 import {checks, moduleOf} from './files.js';
 
-// Functions that end a program are never called.
+// The module's WASI imports, which would end a program, are never called.
 const noWasi = {wasi_snapshot_preview1: new Proxy({}, {get: () => () => 0})};
 const {exports} = new WebAssembly.Instance(moduleOf('described.wasm'), noWasi);
 exports._initialize();
@@ -22,13 +22,13 @@ function answered(call) {
   }
 }
 
-// roomOf returns the size that a buffer must have; -1: the size of its text.
+// roomOf returns the size that a buffer must have, or -1 if it needs only room for its contents.
 export function roomOf(check, argument, values) {
   memory.write(check, values);
   return answered(() => exports.room(checks.indexOf(check), argument)) ?? -1;
 }
 
-// describedCode returns the result code; null: the contract leaves the result open.
+// describedCode returns the result code, or null if the contract does not define the result.
 export function describedCode(check, values) {
   memory.write(check, values);
   return answered(() => exports.code(checks.indexOf(check)));

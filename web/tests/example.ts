@@ -1,4 +1,4 @@
-// A line with "@ts-expect-error" must not compile.
+// The line after a comment with "@ts-expect-error" must not compile.
 
 import {FailedAssertion, NeverReturns, load} from 'ostrel';
 import type {CheckName, CodeName, Reason, Verdict} from 'ostrel';
@@ -19,16 +19,16 @@ const names: readonly CheckName[] = ostrel.checks.map((check) => check.name);
 ostrel.judge('PARAM_check_prot', '65536');
 // @ts-expect-error its argument is missing
 ostrel.judge('PARAM_check_port');
-// @ts-expect-error it takes one
+// @ts-expect-error it takes one argument
 ostrel.judge('PARAM_check_port', '1', '2');
-// @ts-expect-error it takes a text
+// @ts-expect-error it takes a string
 ostrel.judge('PARAM_check_port', 65536);
-// @ts-expect-error NULL is asserted against
+// @ts-expect-error NULL fails an assertion
 ostrel.judge('PARAM_check_port', null);
 // @ts-expect-error NULL is read
 ostrel.judge('PARAM_check_ip_addr', null);
 
-// Where the contract allows it.
+// NULL, and a number, where the contract allows them.
 ostrel.judge('PORTMAPPING_check_port_available', null, 2);
 ostrel.judge('Param_check_string_len', 'x', 0, 5);
 // @ts-expect-error lengths are numbers
@@ -38,7 +38,7 @@ ostrel.judge('Param_check_string_len', 'x', '0', 5);
 const account: number | null = ostrel.judge('TcmValidatePPPUsername', 'x').after.account_type;
 const offset: string | null = ostrel.judge('HNAPCORE_check_timezone', 'UTC', '').after.offset_out;
 const keys: readonly string[] = ostrel.judge('WLAN_check_wepkeys', ['', '', '', '']).after.keys;
-// @ts-expect-error there are four
+// @ts-expect-error there must be four strings
 ostrel.judge('WLAN_check_wepkeys', ['', '', '']);
 // @ts-expect-error this check writes nothing
 port.after.value_p;
@@ -48,7 +48,7 @@ const counted: null = ostrel.judge('countChar', 'a.b', 46).valid;
 
 // @ts-expect-error there is no such encoding
 await load({encoding: 'utf-16'});
-// @ts-expect-error nor such a long
+// @ts-expect-error a long cannot have this size
 await load({long: 16});
 
 try {
@@ -58,7 +58,7 @@ try {
   if (error instanceof NeverReturns) console.log(error.message);
 }
 
-// A portal's use of reasons and forms.
+// The use of reasons and forms by a portal.
 if (reason) {
   const said: string = sentence(reason, german, {text: '65536', encoding: ostrel.encoding});
   console.log(said, clause(reason, english), placeOf('65536', reason.offset ?? 0).character, bytesOf('65536'));
@@ -66,7 +66,7 @@ if (reason) {
 const longest: number | undefined = (await ostrel.checks[0].constraints)[0]?.max_length;
 const detach: () => void = attach(document.forms[0], ostrel, {sentences: {...german, subject: 'das Feld'}});
 detach();
-// @ts-expect-error it has to be a form
+// @ts-expect-error it must be a form
 attach(document.body, ostrel);
 // @ts-expect-error a language has more members
 attach(document.forms[0], ostrel, {sentences: {locale: 'fr'}});

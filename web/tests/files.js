@@ -1,4 +1,4 @@
-// The built files. OSTREL_WEB_BUILD names the folder.
+// Locates and loads the built files. OSTREL_WEB_BUILD names their folder.
 
 import {readFileSync} from 'node:fs';
 import {join} from 'node:path';

@@ -1,4 +1,4 @@
-// Memory: each call judges its own value, none is cut, and an error has no later effect.
+// Tests that each call judges its own value, that no value is truncated, and that an error has no later effect.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';

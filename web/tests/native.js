@@ -1,8 +1,9 @@
-// The results of the native ostrel-check. OSTREL_CHECK names the program.
+// Returns the results of the native ostrel-check. OSTREL_CHECK names the program.
 
 import {spawnSync} from 'node:child_process';
 
-// Each character of a text is a byte, as in the rows of the vectors. The driver lists these channels.
+// judgedNatively judges calls, in whose strings each character is a byte, as in the rows of the vectors. The wireless
+// driver lists the given channels.
 export function judgedNatively(calls, channels = []) {
   const input = calls.map((call) => JSON.stringify(call)).join('\n');
   const words = ['batch', '--json', '--encoding', 'latin-1', '--jobs', '2', '--channels', channels.join(' ')];

@@ -1,5 +1,6 @@
-// NULL: address 0 can be read in WebAssembly, so nothing faults by itself. The same rules are built again with every
-// access observed; the descriptions of each argument and the behaviour of the wrapper are compared with that.
+// Tests the handling of NULL. In WebAssembly, address 0 can be read, so reading NULL does not cause a fault. The
+// description of each argument and the behaviour of the wrapper are therefore compared with a build of the same rules
+// in which every memory access is observed.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';
@@ -38,7 +39,7 @@ function watched() {
         },
         alignfault() {},
         emscripten_get_sbrk_ptr: () => {
-          // The end of memory is low enough that nothing else is there.
+          // kEndOfMemory is so low an address that no other data is stored there.
           new DataView(bare.exports.memory.buffer).setInt32(kEndOfMemory, 0x7fffffff, true);
           return kEndOfMemory;
         },
@@ -47,7 +48,7 @@ function watched() {
   });
 }
 
-// outcomeOf calls the observed rules.
+// outcomeOf calls a check of the observed rules, and returns its result or how the call ended.
 function outcomeOf(bare, check, values) {
   const pointer = bare.exports.__stack_pointer;
   const before = pointer.value;
@@ -62,7 +63,7 @@ function outcomeOf(bare, check, values) {
 test('each NULL answers as described', async (t) => {
   const bare = watched();
   const ostrel = await load({encoding: 'latin1'});
-  const seen = new Map();  // by check and argument, whether the description has an answer
+  const seen = new Map();  // by check and argument, whether the description states the result
   let calls = 0;
   for (const row of rows) {
     const check = checkOf(row.check);

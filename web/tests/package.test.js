@@ -1,4 +1,4 @@
-// The package as a portal installs it: its files, their sizes, its types and the example of its README.
+// Tests the package as a portal installs it, with its files, their sizes, its types and the example in its README.
 
 import assert from 'node:assert/strict';
 import {execFileSync} from 'node:child_process';

@@ -1,4 +1,4 @@
-// A browser and a server of the site, for tests. Pages may send requests only to that server.
+// Starts a browser and a server of the site for tests. Pages may send requests only to this server.
 
 import assert from 'node:assert/strict';
 import {createReadStream, existsSync} from 'node:fs';
@@ -17,7 +17,7 @@ export const kPolicy = "default-src 'none'; script-src 'self' 'wasm-unsafe-eval'
   "style-src 'self'; base-uri 'none'; form-action 'none'";
 export const site = join(build, 'site');
 
-// serve delivers the site, and the pages of a test, under a content security policy.
+// serve delivers the site and the pages of a test with a content security policy.
 export async function serve(t, {policy = kPolicy, pages = {}} = {}) {
   const server = createServer((request, response) => {
     const name = normalize(decodeURIComponent(new URL(request.url, 'http://x').pathname));
@@ -38,7 +38,7 @@ export async function serve(t, {policy = kPolicy, pages = {}} = {}) {
 export async function started(t) {
   const browser = await chromium.launch({
     executablePath: process.env.OSTREL_CHROMIUM || '/usr/bin/chromium',
-    // The shared memory of a container may be too small for it.
+    // The shared memory of a container may be too small for Chromium.
     args: ['--disable-dev-shm-usage', ...(process.getuid() === 0 ? ['--no-sandbox'] : [])],
   });
   t.after(() => browser.close());
@@ -66,7 +66,7 @@ export function checkNetwork(page, base) {
   for (const url of page.asked) assert.ok(url.startsWith(`${base}/`) || url.startsWith('data:'), url);
 }
 
-// retype replaces the text of a field by typing.
+// retype clears a field and types the given text into it.
 export async function retype(page, selector, text) {
   await page.fill(selector, '');
   await page.locator(selector).pressSequentially(text);

@@ -1,4 +1,4 @@
-// The specimen portal as a page: its policy, the cost of a keystroke, and its accessibility.
+// Tests the page of the specimen portal for its content security policy, the cost of a keystroke, and accessibility.
 
 import assert from 'node:assert/strict';
 import {readFileSync} from 'node:fs';

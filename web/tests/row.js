@@ -1,4 +1,4 @@
-// A row of vectors/*.ndjson, as vectors/README.md explains it. Each character of a text is one byte.
+// Reads the rows of vectors/*.ndjson, which vectors/README.md explains. Each character of a string is one byte.
 
 function textOf(json) {
   if (typeof json === 'string') return json;
@@ -11,7 +11,7 @@ function valueOf(json) {
   return Array.isArray(json) ? json.map(textOf) : textOf(json);
 }
 
-// answerOf returns the result for a long of the given size in bits, or null if the row has none.
+// answerOf returns the result for a long of the given size in bits, or null if the row has no result for it.
 function answerOf(row, long) {
   if (row.overflow && long === 32) return null;
   const answer = (long === 32 && row.long32) || row;
@@ -25,14 +25,14 @@ function answerOf(row, long) {
   };
 }
 
-// rowsOf reads the lines of a file.
+// rowsOf returns the rows in the lines of a file.
 export const rowsOf = (name, lines) => lines.split('\n').filter(Boolean).map((line, i) => {
   const row = JSON.parse(line);
   return {
     place: `${name}:${i + 1}`,
     check: row.check,
     values: row.args.map(valueOf),
-    depends: row.overflow || row.long32 !== undefined,  // on the size of a long
+    depends: row.overflow || row.long32 !== undefined,  // whether the row depends on the size of a long
     answers: {32: answerOf(row, 32), 64: answerOf(row, 64)},
   };
 });

@@ -1,4 +1,4 @@
-// The rows of vectors/*.ndjson.
+// Reads all rows of vectors/*.ndjson.
 
 import {readFileSync, readdirSync} from 'node:fs';
 import {join} from 'node:path';

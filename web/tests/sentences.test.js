@@ -1,4 +1,4 @@
-// Sentences: each language is complete, and English has exactly the sentences of the descriptions.
+// Tests that each language is complete, and that English has exactly the sentences of the descriptions.
 
 import assert from 'node:assert/strict';
 import {join} from 'node:path';
@@ -21,8 +21,8 @@ for (const row of rows) {
   if (reason) refused.push({row, reason});
 }
 
-// A sentence may have {character} in place of {position}. The subject is not compared, because only some languages name
-// it.
+// A sentence may contain {character} in place of {position}. The subject is not compared, because only some languages
+// name it.
 const kSame = {character: 'position'};
 const parametersOf = (text) => [...new Set([...text.matchAll(/\{(\w+)/g)].map(([, name]) => kSame[name] ?? name))]
   .filter((name) => name !== 'subject').sort();
@@ -41,7 +41,7 @@ test('no id lacks a sentence or a parameter', () => {
   }
 });
 
-// A sentence can contain the limit of another one, from its ";" on.
+// A sentence can end with the limit from another sentence, which is its part from the ";" onwards.
 test('a limit can be told of a number that is too large', () => {
   for (const {reason} of refused.filter(({reason: {limit}}) => limit)) {
     assert.match(german.sentences[reason.limit], /;/, reason.limit);

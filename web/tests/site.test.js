@@ -1,4 +1,5 @@
-// The site: it contains every check, and searching and trying work, from a server and from a disk; with screenshots.
+// Tests that the site contains every check, and that checks can be found and tried on a page from a server and on one
+// from a disk. It also takes screenshots.
 
 import assert from 'node:assert/strict';
 import {mkdirSync, readFileSync} from 'node:fs';

@@ -1,5 +1,5 @@
-// Every row of the vectors: the module with each value at the edge of its memory, and the wrapper in Node and in a
-// browser.
+// Judges every row of the vectors with the module of rules, where each value is at the end of its memory, and with the
+// wrapper in Node and in a browser.
 
 import assert from 'node:assert/strict';
 import {readFileSync} from 'node:fs';

@@ -1,10 +1,10 @@
-// Judges every row through the wrapper; used in Node and in a browser.
+// Judges every row through the wrapper, in Node and in a browser.
 
 import {complete, kUnwritten} from '../arguments.js';
 
 const kWritten = ['buffer', 'blocks', 'integer_out'];
 
-// held returns the contents of the arguments that can be written to, before the call.
+// held returns the contents that the writable arguments have before the call.
 const held = (check, values) => complete(check, values).filter((_, i) => kWritten.includes(check.arguments[i].kind))
   .map((value) => (value === kUnwritten ? null : value));
 
@@ -13,13 +13,13 @@ export function expectedOf(row, check, long) {
   return {...answer, after: answer.after ?? held(check, row.values)};
 }
 
-// mixed returns a number that depends on each character of a text and on the previous number.
+// mixed returns a number that depends on each character of a string and on the previous number.
 function mixed(number, text) {
   for (let i = 0; i < text.length; ++i) number = Math.imul(number ^ text.charCodeAt(i), 0x01000193);
   return number;
 }
 
-// judgedRows judges the rows that contain an answer. It lists those that differ, and computes a checksum of the
+// judgedRows judges the rows that contain a result. It lists the rows that differ, and computes a checksum of the
 // reasons.
 export async function judgedRows(load, rows, long) {
   const ostrel = await load({encoding: 'latin1', long});
