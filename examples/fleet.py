@@ -23,7 +23,7 @@ import json
 import os
 import random
 
-GATEWAY = 20  # values
+GATEWAY = 20  # values per gateway
 LAN = "LANDevice.1.LANHostConfigManagement."
 WLAN = "LANDevice.1.WLANConfiguration.1."
 PPP = "WANDevice.1.WANConnectionDevice.1.WANPPPConnection.1."

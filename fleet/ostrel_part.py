@@ -49,8 +49,8 @@ class Part:
 
 @dataclasses.dataclass(frozen=True)
 class Outcome:
-    """Outcome is the result of a part. The part is done, its results are missing because only this part could not be
-    judged, or the whole run must stop. A part that is done with a problem is judged again by the next run."""
+    """Outcome is the result of a part. Its kind is "done", "missing" if this part could not be judged, or "stop" if the
+    whole run cannot continue. A part that is done but has a problem is judged again by the next run."""
 
     kind: Literal["done", "missing", "stop"]
     problem: str = ""

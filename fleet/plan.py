@@ -1,4 +1,4 @@
-"""Manages the folder of a run, which contains its plan, the finished parts, and the files that an earlier run left."""
+"""Manages the folder of a run, with its plan, its finished parts, and the files that an earlier run left behind."""
 
 import dataclasses
 import fcntl
@@ -93,7 +93,7 @@ def require_same(begun: Manifest, now: Manifest) -> None:
 
 
 def lock(folder: pathlib.Path) -> int:
-    """lock keeps a second runner out of the folder while the descriptor is open."""
+    """lock keeps other runners out of the folder while the returned descriptor is open."""
     descriptor = os.open(folder, os.O_RDONLY | os.O_DIRECTORY)
     try:
         fcntl.flock(descriptor, fcntl.LOCK_EX | fcntl.LOCK_NB)

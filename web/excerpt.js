@@ -2,7 +2,7 @@
 
 import {placeOf} from './sentences.js';
 
-const kAround = 16;  // characters that are shown on each side
+const kAround = 16;  // the number of characters that are shown on each side
 const kHidden = '\u2022';
 
 // excerptOf returns an element that shows the excerpt. For a secret, it shows only the character at fault.

@@ -122,7 +122,7 @@ class Field {
     });
   }
 
-  // #place adds an element that describes the field after the field, or after the label around it.
+  // #place adds an element that describes the field. It is placed after the field or after the label around it.
   #place(className) {
     const made = element('p', className);
     this.#made.push(made);
@@ -224,7 +224,7 @@ export function attach(form, ostrel, {sentences = english} = {}) {
       of(target).forEach((field) => (isComposing ? field.forget() : field.judge())),
     compositionend: ({target}) => of(target).forEach((field) => field.judge()),
     reset: () => setTimeout(judgeAll),
-    // A script may have changed a field without an event.
+    // A script may have changed a field without causing an event.
     submit: (event) => {
       if (event.submitter?.formNoValidate) return;
       judgeAll();

@@ -1,5 +1,4 @@
-// Forms the sentence that describes a reason to the user in a language, such as that of sentences/en.js or
-// sentences/de.js.
+// Describes a reason to the user as a sentence, in the language of a module such as sentences/en.js or sentences/de.js.
 
 const kMostWords = 40;  // a longer list is too long to read
 const kLongest = 64;    // the maximum number of characters of a value that are shown

@@ -1,4 +1,5 @@
-"""Tests runs on this machine only. Their results equal those of a single batch, even after faults and interruptions.
+"""Tests runs that use only this machine. Their results equal those of a single batch, even after faults and
+interruptions.
 
 usage: local_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -18,8 +18,8 @@ class ArgumentOf:
 
     name: str
     kind: Kind
-    """How the check uses the argument: "text" is only read, "buffer" and "blocks" are read and written, "integer_out"
-    is written, and the other two are numbers."""
+    """A string of kind "text" is only read, and one of kind "buffer" is also written. "blocks" are several strings,
+    which are read and written. "integer" and "unsigned" are numbers, and "integer_out" is a number that is written."""
     what: str
     unit: str | None
     is_secret: bool

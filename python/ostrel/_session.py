@@ -59,10 +59,10 @@ class Session(Calls):
 
     program     the path or name of ostrel-check; the default is the program that the environment variable OSTREL_CHECK
                 names, or the first ostrel-check on the PATH
-    encoding    "utf-8" or "latin-1", which encodes each str that is judged and decodes all output; bytes are passed
+    encoding    the encoding of each str that is judged and of all output, "utf-8" or "latin-1"; bytes are passed
                 unchanged
     limit_time  the number of seconds after which a call is abandoned; the program's default is 2
-    channels    the channels to be listed in place of the wireless driver, for machines that have none
+    channels    the channels that replace those of the wireless driver, for machines without this driver
 
     The attribute checks maps the name of every check to its description, including its arguments and their constraints.
     """
@@ -112,16 +112,17 @@ class Session(Calls):
         return None if process is None else process.pid
 
     def call(self, check: str, arguments: Iterable[Argument]) -> Verdict:
-        """call does what judge does, for a check whose name is known only at run time."""
+        """call does what judge does, but takes the arguments as an iterable. Its types also allow a check whose name is
+        known only at run time."""
         (verdict,) = self._answer([(check, *arguments)])
         if verdict.verdict == "malformed":
             raise MalformedCall(verdict.meaning)
         return verdict
 
     def judge_many(self, cases: Iterable[Case], *, block: int = 1024) -> Iterator[Verdict]:
-        """judge_many judges cases, each of which is a tuple of a check's name and its arguments, and yields their
-        verdicts in the same order. It reads one block of cases at a time, and does not read the next block until the
-        verdicts of the current one have been consumed. A case that cannot be called has the verdict "malformed", so
+        """judge_many judges cases, each of which is a tuple or list of a check's name and its arguments, and yields
+        their verdicts in the same order. It reads one block of cases at a time, and does not read the next block until
+        the verdicts of the current one have been consumed. A case that cannot be called has the verdict "malformed", so
         one bad record does not end the iteration."""
         if block < 1:
             raise ValueError("a block has at least one case")

@@ -21,8 +21,8 @@ class Gateway(Session):
         return verdict
 
     def refuses(self, check: str, *arguments: Argument, code: int | None = None, reason: str | None = None) -> Verdict:
-        """refuses fails the test unless the check refuses the values with the given code, and with a reason that has
-        the given id. It returns the verdict."""
+        """refuses fails the test unless the check refuses the values. If code or reason is given, the code or the id of
+        the reason must also match. It returns the verdict."""
         __tracebackhide__ = True
         verdict = self.call(check, arguments)
         found = None if verdict.reason is None else verdict.reason.id

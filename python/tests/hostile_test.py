@@ -53,7 +53,7 @@ class Maker:
 
 
 def token(value):
-    """token encodes an argument in a different way than the package does: as escaped characters, or as base64."""
+    """token encodes an argument differently from the package, either as escaped characters or as base64."""
     if isinstance(value, list):
         return [token(text) for text in value]
     if isinstance(value, str):

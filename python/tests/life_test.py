@@ -60,7 +60,7 @@ class Killed(unittest.TestCase):
             self.assertNotEqual(pid, self.session.pid)
 
     def test_in_the_middle_of_a_block(self):
-        """The program is killed after its first answers, in each of the first blocks."""
+        """The program is killed after its first answers in each of the first blocks."""
         killed = []
 
         def kill_then_read(lines):

@@ -11,8 +11,7 @@
 extern "C" {
 #endif
 
-/* ostrel_room returns the size that the argument's buffer must have in this call, or 0 if it runs out of
-   memory. */
+/* ostrel_room returns the required size of the argument's buffer, or 0 if it runs out of memory. */
 size_t ostrel_room(const OstrelCheck* check, const OstrelText* given, const OstrelSlot* slots,
                    unsigned argument);
 

@@ -19,7 +19,7 @@ extern "C" {
 #endif
 
 __attribute__((format(printf, 1, 0))) int ostrel_host_vprintf(const char* format, va_list arguments);
-/* The library's one message to standard error is discarded. */
+/* The library's only message to standard error is discarded. */
 __attribute__((format(printf, 2, 3))) int ostrel_host_fprintf(FILE* stream, const char* format, ...);
 int ostrel_host_putchar(int c);
 int ostrel_host_puts(const char* text);

@@ -12,8 +12,7 @@ typedef struct {
     bool is_lost; /* there was not enough memory for all the output */
 } OstrelPrints;
 
-/* ostrel_capture stores this thread's subsequent output to standard output in prints, or discards it if
-   prints is NULL. */
+/* After ostrel_capture, this thread's standard output is stored in prints, or discarded if prints is NULL. */
 void ostrel_capture(OstrelPrints* prints);
 
 #endif

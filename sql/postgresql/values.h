@@ -22,14 +22,13 @@ OstrelText ostrel_take(Datum value, bool is_text, char* room);
 char* ostrel_told(OstrelAnswer* answer);
 
 /*
- * ostrel_jsonb converts JSON in ASCII to jsonb, and changes the string in the process. Unless the database
- * uses UTF-8 or Latin-1, "\u0080" to "\u00FF" become "\\x80" to "\\xFF", because these characters may not
- * exist in its encoding.
+ * ostrel_jsonb converts JSON in ASCII to jsonb, and may modify the string. Unless the database uses UTF-8 or
+ * Latin-1, "\u0080" to "\u00FF" become "\\x80" to "\\xFF", because its encoding may not have these
+ * characters.
  */
 Datum ostrel_jsonb(char* json);
 
-/* ostrel_shown returns the bytes in the server's encoding. Bytes that are not UTF-8 become "\xFF" and so
-   on. */
+/* ostrel_shown converts bytes to the server's encoding, and escapes bytes that are not UTF-8 ("\xFF"). */
 char* ostrel_shown(const char* bytes, size_t size);
 
 #endif

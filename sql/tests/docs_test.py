@@ -11,7 +11,7 @@ import unittest
 import shared
 
 sys.path.insert(0, str(shared.SOURCE / "tests/docs"))
-import documents  # noqa: E402  it is next to another test
+import documents  # noqa: E402  it is in the folder of another test
 import server  # noqa: E402
 
 TEXT = (shared.SOURCE / "docs/sql.md").read_text(encoding="utf-8")

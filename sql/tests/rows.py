@@ -5,7 +5,7 @@ import pathlib
 import sys
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
-import vectors  # noqa: E402  it is there
+import vectors  # noqa: E402  it is in another folder
 
 # Row is a row for SQL. values contains bytes and numbers in the order in which SQL passes them. after lists the
 # allowed results. reason is None if the row has no reason.
@@ -56,9 +56,9 @@ def plain(value):
 
 
 def held(check, row):
-    """held lists the contents that the arguments to which the check writes may have after the call. These are the
-    contents in the row or, if the row has none, the unchanged arguments. SQL does not pass output arguments, so an
-    unchanged output argument has either the value in the row or no value."""
+    """held lists the possible contents of the writable arguments after the call. These are the contents in the row or,
+    if the row has none, the unchanged arguments. SQL does not pass output arguments, so an unchanged output argument
+    has either the value in the row or no value."""
     if "after" in row:
         return [plain(row["after"])]
     written = [argument for argument in check["arguments"] if argument["kind"] in WRITTEN]
@@ -70,7 +70,7 @@ def held(check, row):
 
 
 def rows(checks, not_called):
-    """rows returns the rows, and for each reason to leave rows out, the number of these rows."""
+    """rows returns the rows that SQL can run, and the number of omitted rows for each reason to omit them."""
     by_name = {check["name"]: check for check in checks}
     found, left_out = [], collections.Counter()
     for place, row in vectors.rows():

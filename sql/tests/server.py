@@ -102,7 +102,7 @@ class Server:
 
     def stop(self):
         if self.process is not None:
-            self.process.terminate()  # the server ends after its sessions
+            self.process.terminate()  # the server waits until its sessions end
             try:
                 self.process.wait(10)
             except subprocess.TimeoutExpired:

@@ -81,8 +81,7 @@ int htmlToText(char* text, std::size_t length)
     return 0;
 }
 
-// The next functions return the page's channel list in place of the file that the wireless driver's tool
-// writes.
+// These functions supply the page's channel list in place of the file that the wireless driver's tool writes.
 int system(const char* /*command*/) { return 0; }
 
 FILE* fopen(const char* /*name*/, const char* /*mode*/)

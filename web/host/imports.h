@@ -18,8 +18,7 @@ OSTREL_IMPORT(flush) void page_flush();
                                                 const char* function);
 [[noreturn]] OSTREL_IMPORT(never_return) void page_never_return();
 
-// page_channel returns the channel at the index in the wireless driver's channel list, or -1 at the end of
-// the list.
+// page_channel returns the channel at an index in the wireless driver's list, or -1 at the end of the list.
 OSTREL_IMPORT(channel) int page_channel(int index);
 
 // The two utilities, if the page supplies them.

@@ -7,8 +7,8 @@
 
 namespace {
 
-// The region is large enough for the descriptions. It does not enlarge the module's memory, which is needed
-// later anyway.
+// The region is large enough for the descriptions. It costs nothing, because the module needs this memory
+// later.
 constexpr std::size_t kRegion = std::size_t{3} << 20U;
 constexpr std::size_t kAlignment = alignof(std::max_align_t);
 

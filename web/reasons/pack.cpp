@@ -142,8 +142,7 @@ class Packer {
 Pack pack(const std::vector<rules::Check>& checks)
 {
     Packer packer(checks);
-    // The functions in fields.h are shared with unpacking, so they are not const, but packing changes
-    // nothing.
+    // fields.h takes references that are not const, because unpacking uses it too. Packing changes nothing.
     for (const rules::Check& check : checks) packer.add(const_cast<rules::Check&>(check));
     return packer.take();
 }

@@ -14,7 +14,7 @@ namespace {
 
 using rules::Set;
 
-// There is an entry for every set in the descriptions, so only sets that callers supply are converted again.
+// kMostSets exceeds the number of sets in the descriptions, so only sets from callers are converted again.
 constexpr std::size_t kMostSets = 64;
 
 struct KnownSet {

@@ -4,7 +4,7 @@ export const escaped = (text) => String(text).replace(/[&<>"]/g, (c) => `&#${c.c
 const code = (text) => `<code>${escaped(text)}</code>`;
 const codes = (texts) => `<ul class="words">${texts.map((text) => `<li>${code(text === '' ? '""' : text)}</li>`).join('')}</ul>`;
 
-// visible shows a byte, which a character stands for. An invisible character is shown as the number of its byte.
+// visible shows a character, which stands for a byte. An invisible character is shown as the number of its byte.
 function visible(c) {
   if (c === ' ') return 'blank';
   return c > ' ' && c <= '~' ? c : `\\x${c.charCodeAt(0).toString(16).toUpperCase().padStart(2, '0')}`;

@@ -28,7 +28,7 @@ ostrel.judge('PARAM_check_port', null);
 // @ts-expect-error NULL is read
 ostrel.judge('PARAM_check_ip_addr', null);
 
-// NULL, and a number, where the contract allows them.
+// The contract allows NULL and numbers here.
 ostrel.judge('PORTMAPPING_check_port_available', null, 2);
 ostrel.judge('Param_check_string_len', 'x', 0, 5);
 // @ts-expect-error lengths are numbers
@@ -58,7 +58,7 @@ try {
   if (error instanceof NeverReturns) console.log(error.message);
 }
 
-// The use of reasons and forms by a portal.
+// This is how a portal uses reasons and forms.
 if (reason) {
   const said: string = sentence(reason, german, {text: '65536', encoding: ostrel.encoding});
   console.log(said, clause(reason, english), placeOf('65536', reason.offset ?? 0).character, bytesOf('65536'));

@@ -23,7 +23,7 @@ test('a value that makes the memory grow is the one that is judged', async () =>
   }
 });
 
-// loaded also returns the exports of the module of rules.
+// loaded loads the package, and also returns the exports of the module of rules.
 async function loaded(options) {
   let exports;
   const {Instance} = WebAssembly;
