@@ -34,7 +34,7 @@ def wait_until(condition, seconds=60):
 
 
 class Processes(unittest.TestCase):
-    """Processes is a test that has a scratch folder, and whose processes end with the test."""
+    """Processes is the base class of tests that need a scratch folder and start processes, which end with the test."""
 
     def setUp(self):
         scratch = tempfile.TemporaryDirectory()
@@ -53,7 +53,7 @@ class Processes(unittest.TestCase):
 
 
 class Folder(Processes):
-    """Folder is a test that has files of cases and a folder for results."""
+    """Folder is the base class of tests that need files of cases and a folder for results."""
 
     PARTS = 4
     ROWS = 300
@@ -128,7 +128,7 @@ class Folder(Processes):
 
 
 class Cluster(Folder):
-    """Cluster is a test that has a scheduler and workers, each of which is a process."""
+    """Cluster is the base class of tests that need a scheduler and workers, each of which is a process."""
 
     def setUp(self):
         super().setUp()

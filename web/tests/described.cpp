@@ -1,4 +1,4 @@
-// Returns details of a call from the descriptions that the module of reasons does not return, for the tests.
+// Uses the descriptions to find details of a call that the module of reasons does not return, for the tests.
 
 #include "rules/evaluate.h"
 #include "rules/rules.h"

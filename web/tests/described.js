@@ -1,4 +1,4 @@
-// Returns details of a call from the descriptions that the module of reasons does not return.
+// Uses the descriptions to find details of a call that the module of reasons does not return.
 
 import {Memory} from '../reasons.js';
 import {checks, moduleOf} from './files.js';

@@ -72,7 +72,7 @@ export async function retype(page, selector, text) {
   await page.locator(selector).pressSequentially(text);
 }
 
-// said returns the description of a field.
+// said returns the visible text that describes a field.
 export const said = (page, selector) => page.$eval(selector, (input) =>
   input.getAttribute('aria-describedby').split(' ').map((id) => document.getElementById(id))
     .filter((one) => !one.hidden).map((one) => one.innerText).filter(Boolean).join(' | '));
