@@ -52,7 +52,7 @@ T number_of(const Argument& argument, const Value& value)
     return static_cast<T>(*number);
 }
 
-// text_at reads a text that may fill its buffer without a terminator.
+// text_at reads a string, which has no terminator if it fills its buffer.
 std::string text_at(const char* begin, std::size_t capacity) { return {begin, strnlen(begin, capacity)}; }
 
 }  // namespace

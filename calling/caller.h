@@ -21,8 +21,8 @@ class GuardedMemory {
     GuardedMemory& operator=(const GuardedMemory&) = delete;
     ~GuardedMemory();
 
-    // place returns memory for size bytes next to the unreadable page at the given edge. The earlier contents are
-    // lost.
+    // place returns size bytes of memory that adjoin the unreadable page at the given edge. Any earlier
+    // contents are lost.
     char* place(std::size_t size, Edge edge);
 
  private:
@@ -43,8 +43,9 @@ class Caller {
  public:
     explicit Caller(Edge edge = Edge::kEnd) : edge_(edge) {}
 
-    // load takes a value for each argument, or for each argument except those that are only written. It throws
-    // std::invalid_argument, with a message for the user, if their number, kinds or ranges do not match the function.
+    // load accepts a value for each argument, or a value for each argument that the function reads. If the
+    // values do not match the arguments in number, kind or range, it throws std::invalid_argument with a
+    // message for the user.
     void load(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 
     // call calls the function with the loaded values.

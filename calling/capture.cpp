@@ -29,7 +29,7 @@ Prints& map_prints()
     return *static_cast<Prints*>(memory);
 }
 
-// own_prints returns the memory for captures that are constructed without any. It is mapped only once, because
+// own_prints returns the memory for captures whose constructor is given none. It is mapped only once, because
 // mapping takes longer than most calls.
 Prints& own_prints()
 {
@@ -59,7 +59,7 @@ Capture::Capture(Prints& prints)
       stream_err_(open_stream(append, &prints.err, _IONBF))
 {
     clear();
-    // glibc's standard streams are variables that a program may set.
+    // In glibc, the standard streams are variables to which a program may assign.
     stdout = stream_out_;
     stderr = stream_err_;
 }

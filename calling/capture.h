@@ -1,4 +1,4 @@
-// Capture collects printed output without a file and without a system call.
+// Capture collects printed output in memory, with neither files nor system calls.
 #ifndef OSTREL_CALLING_CAPTURE_H
 #define OSTREL_CALLING_CAPTURE_H
 
@@ -9,11 +9,11 @@
 
 namespace ostrel::calling {
 
-// open_stream opens a stream that, like those of fopencookie, passes the cookie and the output to a function.
+// open_stream opens a stream that passes the cookie and its output to a function, as fopencookie does.
 std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int buffering);
 
-// Prints is memory for printed output. It is meant for zeroed memory from mmap, of which untouched pages take no
-// space. Another process that shares the memory can read what was printed even after this process has ended.
+// Prints is memory for printed output. It should be in zeroed memory from mmap, whose untouched pages occupy
+// no space. Another process that shares this memory can read the output even after this process has ended.
 struct Prints {
     struct Text {
         static constexpr std::size_t kCapacity = std::size_t{32} << 20;
@@ -41,13 +41,13 @@ struct Printed {
     std::string err;
 };
 
-// Capture replaces standard output and standard error during its lifetime. Only one may exist at a time. It replaces
-// the streams of this process and not its descriptors, so processes that the library starts still print to the
-// originals.
+// Capture replaces standard output and standard error during its lifetime. Only one may exist at a time. It
+// replaces the streams of this process but not its file descriptors, so processes started by the library
+// still print to the original descriptors.
 class Capture {
  public:
     Capture();
-    // This constructor collects in memory that the caller owns.
+    // This constructor collects the output in memory that the caller owns.
     explicit Capture(Prints& prints);
     Capture(const Capture&) = delete;
     Capture& operator=(const Capture&) = delete;

@@ -1,4 +1,4 @@
-// Case: a function and the values to call it with, in the notation of the conformance vectors.
+// Calls in the notation of the conformance vectors: a function and the values with which it is called.
 #ifndef OSTREL_CALLING_CASE_H
 #define OSTREL_CALLING_CASE_H
 
@@ -14,8 +14,8 @@ struct Case {
     std::vector<catalogue::Value> values;
 };
 
-// case_from_json reads {"check": name, "args": [...]} and ignores other members. Throws std::invalid_argument with a
-// message for the user.
+// case_from_json reads {"check": name, "args": [...]} and ignores other members. If the row is not a valid
+// case, it throws std::invalid_argument with a message for the user.
 Case case_from_json(const nlohmann::json& row);
 
 }  // namespace ostrel::calling

@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 
 void write(const char* file, const std::string& text) { std::ofstream(file) << text; }
 
-// enter_mount_namespace enters a user namespace too if the user may not create a mount namespace alone. The user id
-// stays the same, and the user namespace grants the right to mount.
+// enter_mount_namespace also enters a user namespace if the user is not allowed to create a mount namespace
+// alone. The user namespace grants the right to mount, and the user id stays the same.
 bool enter_mount_namespace()
 {
     const std::string user = std::to_string(geteuid());
@@ -48,8 +48,8 @@ void keep(const fs::directory_entry& entry, const fs::path& place)
     mount(entry.path().c_str(), place.c_str(), nullptr, MS_BIND | MS_REC, nullptr);
 }
 
-// cover_var mounts an empty folder over /var and keeps the former contents available, because programs, temporary
-// files and input files may be there.
+// cover_var mounts an empty folder over /var and keeps the previous contents available, because programs,
+// temporary files and input files may be stored there.
 void cover_var()
 {
     const int covered = open(kChannelFolder, O_PATH | O_DIRECTORY | O_CLOEXEC);

@@ -1,4 +1,4 @@
-// A private /var for this process: the list of channels is a file there with a fixed name.
+// A private /var for this process, because the library reads the channel list from a fixed path in /var.
 #ifndef OSTREL_CALLING_OWN_VAR_H
 #define OSTREL_CALLING_OWN_VAR_H
 
@@ -7,13 +7,14 @@ namespace ostrel::calling {
 inline constexpr char kChannelFolder[] = "/var";
 inline constexpr char kChannelList[] = "/var/hnapwl0chlist";
 
-// move_to_own_var moves this process, and the children that it starts afterwards, to a mount namespace in which /var
-// is a private folder with the same files and folders. It returns whether /var is writable. If the system allows no
-// such namespace, /var stays the shared one. Call it before starting a second thread.
+// move_to_own_var moves this process, and any children that it starts later, to a mount namespace in which
+// /var is a private folder with the same files and folders. It returns whether /var is writable. If the
+// system does not allow such a namespace, the process keeps the shared /var. Call it before starting a second
+// thread.
 bool move_to_own_var();
 
-// can_list_channels returns whether the list can be written, to a private /var if possible and otherwise to the
-// shared one. The first call moves this process.
+// can_list_channels returns whether the channel list can be written, to a private /var if possible and
+// otherwise to the shared one. The first call moves this process to its private /var.
 bool can_list_channels();
 
 }  // namespace ostrel::calling

@@ -19,7 +19,8 @@ struct List {
     }
 };
 
-// list_functions deduces the arguments of each function from its declaration. Everything else is described in rules/.
+// list_functions deduces each function's arguments from its declaration. Everything else is described in
+// rules/.
 std::vector<Function> list_functions()
 {
     List list;

@@ -1,4 +1,4 @@
-// The catalogue: every exported function.
+// The catalogue of all exported functions.
 #ifndef OSTREL_CATALOGUE_CATALOGUE_H
 #define OSTREL_CATALOGUE_CATALOGUE_H
 
@@ -9,14 +9,14 @@
 
 namespace ostrel::catalogue {
 
-// functions lists every exported function, by family. Throws std::logic_error if a description does not match its
-// declaration.
+// functions returns every exported function, grouped by family. It throws std::logic_error if a description
+// does not match its declaration.
 const std::vector<Function>& functions();
 
-// families lists the families, in the order of their functions.
+// families returns the families, in the same order as their functions.
 std::vector<std::string_view> families();
 
-// find returns the function of that name, or NULL.
+// find returns the function with that name, or NULL if there is none.
 const Function* find(std::string_view name);
 
 }  // namespace ostrel::catalogue

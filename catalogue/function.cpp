@@ -8,7 +8,7 @@
 
 namespace ostrel::catalogue {
 
-// A buffer may be described as several texts.
+// described accepts a description in which a buffer contains several strings.
 Function described(std::string_view name, std::string_view family, std::vector<Kind> kinds,
                    const void* address, int (*invoke)(std::span<const Raw>))
 {

@@ -1,4 +1,4 @@
-// Function: the declaration and the description of an exported function, as needed to call it.
+// An exported function with its description, in a form in which it can be called.
 #ifndef OSTREL_CATALOGUE_FUNCTION_H
 #define OSTREL_CATALOGUE_FUNCTION_H
 
@@ -19,7 +19,7 @@ using rules::Argument;
 using rules::Value;
 using Kind = Argument::Kind;
 
-// Raw is an argument as a call passes it.
+// Raw is an argument in the form in which it is passed to a function.
 struct Raw {
     void* pointer = nullptr;
     int integer = 0;
@@ -35,14 +35,14 @@ struct Function {
     int (*invoke)(std::span<const Raw> arguments) = nullptr;
 };
 
-// kUnwritten is the value of an output number before the call. No function writes it.
+// kUnwritten is the value of an output number before the call. No function writes this value.
 inline constexpr long long kUnwritten = std::numeric_limits<int>::min();
 
-// completed adds values for the arguments that are only written, if they were omitted.
+// completed adds values for the arguments that are only written, if the caller omitted them.
 std::vector<Value> completed(const Function& function, std::span<const Value> given);
 
-// room_of returns the number of bytes that a caller provides for a buffer, or for each of several texts. values
-// contains the values of all arguments.
+// room_of returns the number of bytes that a caller must provide for a buffer, or for each string in an
+// argument that has several. values contains the values of all arguments.
 std::size_t room_of(const Function& function, std::size_t argument, std::span<const Value> values);
 
 namespace detail {
@@ -91,8 +91,8 @@ struct Signature<F> {
 
 }  // namespace detail
 
-// described returns a function with its description. Throws std::logic_error if the description has other kinds of
-// arguments.
+// described returns a function with its description. It throws std::logic_error if the argument kinds in the
+// description differ from those in the declaration.
 Function described(std::string_view name, std::string_view family, std::vector<Kind> kinds,
                    const void* address, int (*invoke)(std::span<const Raw>));
 

@@ -25,7 +25,7 @@ bool holds_all(std::string_view text, std::string_view bytes)
     return std::ranges::all_of(bytes, [&](char byte) { return text.find(byte) != std::string_view::npos; });
 }
 
-// json_of writes the names of the kinds of which all bytes are present, and the remaining bytes after a "=".
+// json_of writes the names of the hazards whose bytes are all present, and any remaining bytes after "=".
 ordered_json json_of(const std::string& bytes)
 {
     ordered_json result = ordered_json::array();
@@ -92,7 +92,7 @@ Exposure exposure_from(const Function& function, std::string_view line)
     return exposure;
 }
 
-// read parses the lines of one function and skips the others.
+// read parses the lines for one function and skips all other lines.
 std::vector<Exposure> read(const Function& function)
 {
     std::vector<Exposure> result;

@@ -1,4 +1,4 @@
-// Hazards: the bytes that an accepted value may contain, as listed in docs/hazards.md.
+// The hazardous bytes that accepted values may contain, as listed in docs/hazards.md.
 #ifndef OSTREL_CATALOGUE_HAZARDS_H
 #define OSTREL_CATALOGUE_HAZARDS_H
 
@@ -14,14 +14,14 @@
 
 namespace ostrel::catalogue {
 
-// Hazard is a kind of bytes to look out for when a value is pasted elsewhere.
+// Hazard is a kind of byte that needs care when a value is pasted elsewhere.
 struct Hazard {
-    std::string_view name;  // in JSON
+    std::string_view name;  // the name used in JSON
     std::string_view title;
     std::string_view bytes;
 };
 
-// hazards lists the kinds. A byte may be of several kinds.
+// hazards returns all kinds. A byte may belong to several of them.
 std::span<const Hazard> hazards();
 
 enum class Place { kFirst, kInside, kLast };
@@ -30,37 +30,37 @@ inline constexpr std::array kPlaces = {Place::kFirst, Place::kInside, Place::kLa
 
 std::string_view name_of(Place place);
 
-// stands_at returns whether a text has the byte in that place.
+// stands_at returns whether the string has the byte in that place.
 bool stands_at(Place place, std::string_view text, char byte);
 
-// Witness is a call that is accepted with each of the bytes at an offset of an argument.
+// Witness is a call that is accepted with each of these bytes at one offset in an argument.
 struct Witness {
     std::string bytes;
-    std::vector<Value> values;  // of all arguments that are not only written
+    std::vector<Value> values;  // one for each argument that the function reads
     std::size_t argument = 0;
-    std::size_t block = 0;  // if that argument is several texts
+    std::size_t block = 0;  // the string that contains the offset, if the argument has several
     std::size_t offset = 0;
 
     [[nodiscard]] std::vector<Value> with(char byte) const;
 };
 
-// Exposure lists what an argument may contain, either in the value that is passed or after the call.
+// Exposure lists the bytes that an argument may contain, either when it is passed or after the call.
 struct Exposure {
     std::size_t argument = 0;
     bool is_after = false;
     std::array<std::vector<Witness>, kPlaces.size()> witnesses;
 
-    // witness returns an accepted value that has the byte in that place, or NULL if there is none.
+    // witness returns an accepted call that has the byte in that place, or NULL if there is none.
     [[nodiscard]] const Witness* witness(Place place, char byte) const;
 
-    // bytes returns the bytes of a kind that can be in that place.
+    // bytes returns those bytes of the hazard that can occur in that place.
     [[nodiscard]] std::string bytes(Place place, const Hazard& hazard) const;
 };
 
-// exposures_of returns the exposures of the arguments of a check.
+// exposures_of returns the exposures of a check's arguments.
 const std::vector<Exposure>& exposures_of(const Function& function);
 
-// line_of returns an exposure as a line of docs/hazards.md.
+// line_of returns an exposure in the form of a line in docs/hazards.md.
 std::string line_of(const Function& function, const Exposure& exposure);
 
 }  // namespace ostrel::catalogue

@@ -10,17 +10,18 @@ namespace ostrel::catalogue {
 
 namespace {
 
-// No name is longer than kLongestName. The time to count typing errors grows with the square of it.
+// No name is longer than kLongestName. Counting typing errors takes time proportional to the square of the
+// length.
 constexpr std::size_t kLongestName = 64;
 constexpr std::size_t kMostShown = 3;
-// A single letter occurs in nearly every name.
+// Shorter words are ignored, because a single letter occurs in nearly every name.
 constexpr std::size_t kShortest = 2;
 
 bool is_letter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 bool is_capital(char c) { return c >= 'A' && c <= 'Z'; }
 
-// begins_word returns whether a word of a name begins there: after a byte that is not a letter, or with a capital
-// after a small letter.
+// begins_word returns whether a word begins at that offset in a name. A word begins after a byte that is not
+// a letter, and at a capital letter that follows a small one.
 bool begins_word(std::string_view name, std::size_t at)
 {
     if (at == 0 || !is_letter(name[at - 1])) return true;
@@ -39,7 +40,7 @@ std::vector<std::string_view> words_of(std::string_view name)
     return words;
 }
 
-// typing_errors counts the bytes that were omitted, added, changed, or swapped with the next one.
+// typing_errors counts the bytes that were omitted, added, changed, or swapped with the next byte.
 std::size_t typing_errors(std::string_view a, std::string_view b)
 {
     std::vector<std::size_t> row(b.size() + 1);
@@ -59,8 +60,8 @@ std::size_t typing_errors(std::string_view a, std::string_view b)
     return row.back();
 }
 
-// Similar is a name with its sort keys: the number of typing errors, or whether the name contains the word as a whole
-// word, and then the length.
+// Similar is a name with its sort keys. The first key is the number of typing errors or, if the name contains
+// the word, 0 if it is a whole word there and 1 if not. The second key is the length of the name.
 using Similar = std::tuple<std::size_t, std::size_t, std::string_view>;
 
 std::vector<std::string_view> first_ones(std::vector<Similar> found)

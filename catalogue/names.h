@@ -1,4 +1,4 @@
-// Names: suggestions for misspelt and incomplete names.
+// Suggestions for misspelt and incomplete names.
 #ifndef OSTREL_CATALOGUE_NAMES_H
 #define OSTREL_CATALOGUE_NAMES_H
 
@@ -10,19 +10,20 @@
 
 namespace ostrel::catalogue {
 
-// in_lower_case changes only ASCII letters.
+// in_lower_case converts only ASCII letters.
 std::string in_lower_case(std::string_view text);
 
-// find_in_any_case returns the function whose name differs from the given one at most in case, or NULL if there are
-// none or several.
+// find_in_any_case returns the function with that name, or the only one whose name differs from it only in
+// case, or NULL if there are none or several.
 const Function* find_in_any_case(std::string_view name);
 
-// similar_names returns at most three of the names: those that contain the word, in any case, or otherwise those of
-// which the name, or a word of it, differs by a few typing errors. The most similar name is the first.
+// similar_names returns up to three names that contain the word in any case. If there are none, it returns up
+// to three names that, as a whole or in one of their words, differ from it by a few typing errors. The most
+// similar name is the first.
 std::vector<std::string_view> similar_names(std::string_view word,
                                             const std::vector<std::string_view>& names);
 
-// did_you_mean returns "; did you mean a, b or c?", or an empty text if no name is similar.
+// did_you_mean returns "; did you mean a, b or c?", or an empty string if no name is similar.
 std::string did_you_mean(std::string_view word, const std::vector<std::string_view>& names);
 
 // unknown_function returns the message for a name that is not in the catalogue, with similar names.

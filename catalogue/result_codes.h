@@ -1,4 +1,4 @@
-// Result codes: the only table of their names and meanings.
+// The names and meanings of the result codes.
 #ifndef OSTREL_CATALOGUE_RESULT_CODES_H
 #define OSTREL_CATALOGUE_RESULT_CODES_H
 
@@ -9,7 +9,8 @@ namespace ostrel::catalogue {
 // meaning returns the meaning of a result code in a few words.
 std::string_view meaning(int code);
 
-// constant returns the name of a result code in result_code.h, or an empty text for any other number.
+// constant returns the name that result_code.h defines for a result code, or an empty string for any other
+// number.
 std::string_view constant(int code);
 
 }  // namespace ostrel::catalogue

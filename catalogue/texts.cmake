@@ -1,11 +1,11 @@
-# Generates texts.cpp, which embeds files of the source tree as string literals, so that the program does not read
-# them.
+# Generates texts.cpp, which contains files of the source tree as string literals, so that the program need not read
+# the files.
 set(hazards ${PROJECT_SOURCE_DIR}/docs/hazards.md)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS catalogue.schema.json ${hazards})
 file(READ catalogue.schema.json OSTREL_SCHEMA)
-# The end of that page has a line for each argument.
+# The page ends with a JSON block that has a line for each argument.
 file(READ ${hazards} OSTREL_HAZARDS)
 string(REGEX REPLACE "^.*\n```json\n(.*)```\n$" "\\1" OSTREL_HAZARDS "${OSTREL_HAZARDS}")
 configure_file(texts.cpp.in texts.cpp @ONLY)
-# These literals are longer than a compiler must support, but compilers accept far longer ones.
+# Compilers are not required to support literals of this length, but they accept much longer ones.
 set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/texts.cpp PROPERTIES COMPILE_OPTIONS -Wno-overlength-strings)

@@ -1,4 +1,4 @@
-// Texts: files of the source tree that are embedded in the program.
+// Files of the source tree that are embedded in the program.
 #ifndef OSTREL_CATALOGUE_TEXTS_H
 #define OSTREL_CATALOGUE_TEXTS_H
 

@@ -10,7 +10,7 @@ using nlohmann::json;
 
 namespace {
 
-// A few bytes of JSON can describe a very long text, or nest very deeply.
+// A few bytes of JSON can describe a very long string or be nested very deeply.
 constexpr std::size_t kLongestText = std::size_t{16} << 20;
 constexpr int kDeepest = 8;
 constexpr std::size_t kMostBlocks = 16;
@@ -21,7 +21,7 @@ bool is_ascii(std::string_view text)
     return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-// bytes_from_utf8 is the reverse of utf8_from_bytes. The JSON parser has already refused malformed UTF-8.
+// bytes_from_utf8 is the inverse of utf8_from_bytes. The JSON parser has already refused malformed UTF-8.
 std::string bytes_from_utf8(const std::string& text)
 {
     if (is_ascii(text)) return text;
@@ -44,7 +44,7 @@ void require_room(std::size_t size)
     if (size > kLongestText) throw std::invalid_argument("a text is longer than 16 MiB");
 }
 
-// append_times doubles the text repeatedly, which builds long texts in few steps.
+// append_times doubles the appended string repeatedly, so that a long one needs few steps.
 void append_times(std::string& result, const std::string& part, std::size_t count)
 {
     const std::size_t begin = result.size();

@@ -10,17 +10,19 @@
 
 namespace ostrel::catalogue {
 
-// text_from_json reads a text: a string; {"repeat": text, "times": n}; or {"join": [text, ...]}. Each character of a
-// string is the byte with the value of its code point. Code points above 0xFF and texts above 16 MiB are refused.
+// text_from_json reads a string, {"repeat": string, "times": n} or {"join": [string, ...]}, which may be
+// nested. Each character stands for the byte with the value of its code point. Code points above 0xFF and
+// results of more than 16 MiB are refused.
 std::string text_from_json(const nlohmann::json& text);
 
-// value_from_json reads an argument: null, a text, a number, or an array of texts.
+// value_from_json reads an argument, which is null, a number, a string in any of these forms, or an array of
+// strings.
 Value value_from_json(const nlohmann::json& value);
 
-// json_from_value is the reverse. It writes texts as plain strings.
+// json_from_value is the inverse of value_from_json. It writes every string as a plain JSON string.
 nlohmann::json json_from_value(const Value& value);
 
-// utf8_from_bytes writes each byte as the code point with the same value.
+// utf8_from_bytes encodes each byte as the code point with the same value.
 std::string utf8_from_bytes(std::string_view bytes);
 
 }  // namespace ostrel::catalogue

@@ -1,4 +1,4 @@
-// Answers: selects the answer of a row that applies. Some answers depend on the C library.
+// Selection of the answer in a row that applies, because some answers depend on the C library.
 #ifndef OSTREL_VECTORS_ANSWERS_H
 #define OSTREL_VECTORS_ANSWERS_H
 
@@ -13,10 +13,10 @@ using Atoi = rules::Build::Atoi;
 
 inline constexpr std::array kAtois = {Atoi::kLong64, Atoi::kLong32, Atoi::kWrapping};
 
-// has_answer_for returns whether the row has an answer for only this kind of C library.
+// has_answer_for returns whether the row has a separate answer for this kind of C library.
 bool has_answer_for(const nlohmann::json& row, Atoi atoi);
 
-// answered returns the row with the answer for this kind of C library as its only answer.
+// answered returns the row with only the answer that applies to this kind of C library.
 nlohmann::json answered(const nlohmann::json& row, Atoi atoi);
 
 }  // namespace ostrel::vectors

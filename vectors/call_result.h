@@ -1,4 +1,4 @@
-// CallResult: all effects of a call.
+// All effects of a call.
 #ifndef OSTREL_VECTORS_CALL_RESULT_H
 #define OSTREL_VECTORS_CALL_RESULT_H
 
@@ -11,8 +11,7 @@
 
 namespace ostrel::vectors {
 
-// CallResult is the code, the output and the written arguments of a call. A test that compares two results prints
-// them readably if they differ.
+// CallResult contains the code, the output and the written arguments of a call.
 struct CallResult {
     int code = 0;
     std::string out;
@@ -23,6 +22,7 @@ struct CallResult {
     bool operator==(const CallResult&) const = default;
 };
 
+// PrintTo prints a result in readable form when a test fails.
 void PrintTo(const CallResult& result, std::ostream* stream);
 
 // values_of returns the values of the written arguments.
@@ -31,7 +31,7 @@ std::vector<catalogue::Value> values_of(const std::vector<calling::Written>& wri
 // actual_result makes the loaded call and returns its result.
 CallResult actual_result(calling::Caller& caller, calling::Capture& capture);
 
-// shown returns a text quoted as in JSON. A long text is reduced to its ends.
+// shown returns a string quoted as in JSON. A long string is reduced to its two ends.
 std::string shown(const std::string& text);
 
 }  // namespace ostrel::vectors

@@ -1,4 +1,4 @@
-// Rows: the lines of the files in this folder, and the results that they promise.
+// The rows of the files in this folder, and the results that they promise.
 #ifndef OSTREL_VECTORS_ROWS_H
 #define OSTREL_VECTORS_ROWS_H
 
@@ -16,7 +16,7 @@
 
 namespace ostrel::vectors {
 
-// Promise is the result that a row states for its call.
+// Promise is the result that a row promises for its call.
 struct Promise {
     CallResult result;        // members that the row omits have their defaults
     bool is_written = false;  // otherwise the arguments are unchanged
@@ -44,23 +44,24 @@ struct Row {
     std::string fault;
     calling::Case given;
     Promise promise;
-    std::map<Atoi, Promise> elsewhere;  // replaces promise with such a C library
+    std::map<Atoi, Promise> elsewhere;  // replaces promise for these kinds of C library
     std::optional<RowReason> reason;
 };
 
-// read_rows returns the rows of all files in order, starting with the module that OSTREL_TEST_FIRST in the
-// environment names. It omits rows with a text longer than OSTREL_LONGEST_TEXT. If modules or folders are named, it
-// reads only their files. Throws std::invalid_argument if a file has no row or does not exist.
+// read_rows returns the rows of all files in order, except that the module named by the environment variable
+// OSTREL_TEST_FIRST comes first. It omits rows with a string of more than OSTREL_LONGEST_TEXT bytes. If
+// modules or folders are given, it reads only their files. It throws std::invalid_argument if a file has no
+// row or does not exist.
 std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 
-// read_cases returns the rows of all files. Throws std::invalid_argument if a row has a fault.
+// read_cases returns the rows of all files. It throws std::invalid_argument if a row has a fault.
 std::vector<Row> read_cases();
 
-// longest_text returns the length of the longest text among the arguments.
+// longest_text returns the length of the longest string argument.
 std::size_t longest_text(const calling::Case& given);
 
-// expected_result returns the result that a row promises. before contains the arguments before the call, and atoi
-// selects this C library or another one.
+// expected_result returns the result that a row promises for this kind of C library. before contains the
+// arguments that the function may write to, with their values before the call.
 CallResult expected_result(const Row& row, const std::vector<calling::Written>& before,
                            Atoi atoi = rules::atoi_here());
 

@@ -1,4 +1,4 @@
-"""The rows of the files in this folder. Each character of a text is a byte."""
+"""Reads the rows of the files in this folder. Each character of a string stands for one byte."""
 
 import json
 import pathlib
@@ -7,14 +7,14 @@ FOLDER = pathlib.Path(__file__).resolve().parent
 
 
 def text_of(value):
-    """text_of returns an argument of a row, with its long texts expanded."""
+    """text_of returns an argument of a row, with repeated and joined strings expanded."""
     if isinstance(value, dict):
         return text_of(value["repeat"]) * value["times"] if "repeat" in value else "".join(map(text_of, value["join"]))
     return [text_of(text) for text in value] if isinstance(value, list) else value
 
 
 def rows():
-    """rows yields each row with its module and line: hosts:12."""
+    """rows yields the location of each row, such as hosts:12, and the row."""
     for path in sorted(FOLDER.rglob("*.ndjson")):
         for number, line in enumerate(path.read_text(encoding="utf-8").split("\n"), 1):
             if line:
