@@ -1,4 +1,4 @@
-// The steps of a check, and the texts for which they return 0.
+// The values for which the steps of a check return 0.
 #include "rules/acceptance.h"
 
 #include <algorithm>
@@ -115,7 +115,8 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
         const Claim where_it_holds = claims_.both(holds, a);
         return claims_.either(where_it_holds, claims_.both(fails, b));
     };
-    // A value that only one case stores is read only in that case. Values unknown in both cases may differ.
+    // A value that is stored in only one case is read only in that case. Values unknown in both cases may
+    // differ.
     const auto is_same = [](const Term& a, const Term& b) {
         return a == b && a.kind != Term::Kind::kUnknown && a.kind != Term::Kind::kDays;
     };
@@ -131,7 +132,7 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
             chosen(first.goes_on, second.goes_on)};
 }
 
-// forget drops what is known of values that may have been written.
+// forget discards what is known about values that may have been written.
 void Acceptance::forget(const std::vector<Write>& writes, Scope& scope)
 {
     for (const Write& one : writes) {
@@ -140,7 +141,7 @@ void Acceptance::forget(const std::vector<Write>& writes, Scope& scope)
     }
 }
 
-// This overload drops what is known of values that an iteration may pass on to the next.
+// This overload discards what is known about values that one iteration may pass to the next.
 void Acceptance::forget(const std::vector<Step>& steps, Scope& scope)
 {
     for (const Step& step : steps) {

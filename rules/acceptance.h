@@ -1,7 +1,8 @@
-// Acceptance: the texts of one argument for which a check returns 0, derived from its steps without a call.
+// The values of one argument, the target, for which a check returns 0, as derived from its steps without any
+// call.
 //
-// If an exact result cannot be expressed, it is bounded from above, so a claim may be too weak but is never false.
-// Numbers beyond an int have their exact value.
+// If the exact set of values cannot be expressed, a larger set is used. So a claim may be too weak, but it is
+// never false. Numbers beyond an int have their exact value.
 #ifndef OSTREL_RULES_ACCEPTANCE_H
 #define OSTREL_RULES_ACCEPTANCE_H
 
@@ -27,18 +28,19 @@ class Acceptance {
     {
     }
 
-    // claim returns the condition under which the check returns 0. The target must be neither NULL nor only written.
+    // claim returns the condition under which the check returns 0 if the target is not NULL. The check must
+    // read the target.
     Claim claim();
 
  private:
-    // Scope is a check whose steps are followed: the called one, or one that it calls.
+    // Scope is the state of a check whose steps are followed, which is the called check or one that it calls.
     struct Scope {
         std::vector<Term> slots;
         Term item = {};
         bool is_called = false;
     };
 
-    // Outcome states when steps return 0, continue with the next item, or reach their end.
+    // Outcome states when steps return 0, continue with the next item, or continue after the last step.
     struct Outcome {
         Claim accepts;
         Claim skips;
@@ -68,7 +70,7 @@ class Acceptance {
     Claim refused_by(const Condition& condition, const Scope& scope);
     Claim all_of(const std::vector<Condition>& parts, const Scope& scope);
 
-    // A text belongs to a language, a number to a set of numbers.
+    // These functions claim that a string belongs to a language, or a number to a set of numbers.
     Claim text_in(const Term& term, Language language);
     Claim number_in(const Term& term, const Intervals& numbers);
     Claim unknown(const Term& a, const Term& b = {});
@@ -87,7 +89,7 @@ class Acceptance {
     const Build& build_;
     const Check& check_;
     std::size_t target_;
-    std::size_t variables_;  // their number: arguments, and items of lists
+    std::size_t variables_;  // the number of variables, which are arguments and items of lists
 };
 
 }  // namespace ostrel::rules

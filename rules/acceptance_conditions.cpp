@@ -1,4 +1,4 @@
-// The implications of conditions for the target.
+// What conditions imply for the target.
 
 #include <algorithm>
 
@@ -62,7 +62,7 @@ Claim Acceptance::number_in(const Term& term, const Intervals& numbers)
                                                                   : languages_.with_count(term.byte, before));
         }
         case Term::Kind::kPart:
-            // An int is treated as its decimal text.
+            // An int is treated as a string in decimal.
             if (term.variable == target_ && term.is_integer)
                 return claims_.decided(languages_.of_number(numbers));
             return text_in(term, languages_.of_number(numbers));

@@ -1,4 +1,4 @@
-// The limits of a day of a month.
+// The limits for the day of a month.
 
 #include "rules/acceptance.h"
 
@@ -14,7 +14,7 @@ Claim Acceptance::in_leap_year(const Term& year)
     return text_in(year, languages_.leap_years());
 }
 
-// above_days returns true if a day is after the end of its month. An invalid month has no days.
+// above_days returns the claim that a day is after the end of its month. An invalid month has no days.
 Claim Acceptance::above_days(const Term& judged, const Term& days)
 {
     const Term& month = days.of[1];
@@ -34,7 +34,7 @@ Claim Acceptance::above_days(const Term& judged, const Term& days)
     claim = claims_.either(claim, beyond_where(is_month(short_months), 30));
     claim = claims_.either(claim, beyond_where(is_month(long_months), 31));
     claim = claims_.either(claim, beyond_where(is_month(~Intervals(1, 12)), 0));
-    // In any month, no day up to 0 is after its end, and every day from 32 is.
+    // Even if the month is unknown, days above 31 are after its end, and days below 1 are not.
     claim = claims_.either(claim, above(31));
     return claims_.both(claim, above(0));
 }

@@ -1,11 +1,11 @@
-// The implications of conditions for lengths, numbers and sets, which may be limited by other arguments.
+// What conditions imply for lengths, numbers and sets, which other arguments may limit.
 #include "rules/acceptance.h"
 
 namespace ostrel::rules {
 
 using Kind = Condition::Kind;
 
-// is_limit returns true if the target is compared with another argument that is a number or a set.
+// is_limit returns true if the target is compared with another argument, which is a number or a set.
 bool Acceptance::is_limit(const Term& judged, const Term& limit) const
 {
     return judged.variable == target_ && judged.cuts.empty() && judged.number == 0 &&

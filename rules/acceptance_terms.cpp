@@ -1,4 +1,4 @@
-// Expressions of unknown arguments.
+// Terms for expressions whose arguments are unknown.
 #include "rules/acceptance.h"
 
 namespace ostrel::rules {

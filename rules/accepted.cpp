@@ -1,4 +1,4 @@
-// Describes in one line what a check accepts.
+// Descriptions, in one line each, of what a check accepts.
 #include <algorithm>
 #include <span>
 
@@ -16,7 +16,7 @@ constexpr std::string_view kNothing = "nothing";
 
 class Summary {
  public:
-    // phrase describes what these steps accept; it is empty if they accept everything.
+    // phrase describes what these steps accept. It returns an empty string if they accept everything.
     std::string phrase(std::span<const Step> steps, const Speaker& speaker)
     {
         std::vector<Clause> clauses;
@@ -108,8 +108,8 @@ class Summary {
         return text;
     }
 
-    // refuse adds the condition under which a step does not refuse. It returns false if the step refuses everything
-    // that remains.
+    // refuse adds the condition under which a step does not refuse. It returns false if no value remains that
+    // the step does not refuse.
     bool refuse(std::vector<Clause>& clauses, const Condition& condition, const Speaker& speaker)
     {
         const bool is_use = condition.kind == Condition::Kind::kRefusedBy && !condition.is_negated;
@@ -144,7 +144,7 @@ class Summary {
         return true;
     }
 
-    // is_flat returns whether a check only refuses.
+    // is_flat returns whether a check has only refusing steps.
     static bool is_flat(const Check& check)
     {
         return std::ranges::all_of(check.steps, [](const Step& step) {
@@ -156,7 +156,7 @@ class Summary {
     int depth_ = 0;
 };
 
-// remembers_twice returns whether several steps store something under the same name.
+// remembers_twice returns whether several steps store values under the same name.
 bool remembers_twice(const std::vector<Step>& steps, std::vector<int>& counts)
 {
     return std::ranges::any_of(steps, [&](const Step& step) {

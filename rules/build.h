@@ -1,4 +1,4 @@
-// Build: the options of a gateway's build and the behaviour of its C library, as data for an evaluation.
+// The options of a gateway's build and the behaviour of its C library, on which an evaluation depends.
 #ifndef OSTREL_RULES_BUILD_H
 #define OSTREL_RULES_BUILD_H
 
@@ -10,11 +10,11 @@
 namespace ostrel::rules {
 
 struct Build {
-    // Atoi is the way in which a number that does not fit in an int is read.
+    // Atoi is the way in which atoi reads a number that does not fit in an int.
     enum class Atoi {
-        kLong64,    // the low 32 bits of a long of 64 bits, which saturates
-        kLong32,    // as an int that saturates
-        kWrapping,  // the low 32 bits
+        kLong64,    // as the low 32 bits of a 64-bit long, which saturates
+        kLong32,    // as the highest or the lowest int
+        kWrapping,  // as the low 32 bits of the number
     };
 
     std::string_view model = "M2840";
@@ -25,15 +25,15 @@ struct Build {
     std::optional<std::vector<int>> channels = std::nullopt;
 };
 
-// atoi_here tests the C library that is running.
+// atoi_here determines how the C library of this program reads such a number.
 Build::Atoi atoi_here();
 
-// Number is the number that atoi reads at the start of a text.
+// Number is the number that atoi reads at the beginning of a string.
 struct Number {
     int value = 0;
     bool beyond_int = false;  // other builds may read a different value
-    std::size_t begin = 0;    // of the sign and the digits
-    std::size_t end = 0;
+    std::size_t begin = 0;    // the offset of the sign or the first digit
+    std::size_t end = 0;      // the offset after the last digit
 };
 
 Number read_number(std::string_view text, Build::Atoi atoi);

@@ -19,7 +19,7 @@ struct Name {
 };
 constexpr Name kXmlNames[] = {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
 
-// The characters from 0xA0 to 0xFF, in order.
+// The names of the characters from 0xA0 to 0xFF, in order.
 constexpr std::string_view kLatin1Names[] = {
     "nbsp",   "iexcl",  "cent",   "pound",  "curren", "yen",    "brvbar", "sect",   "uml",    "copy",
     "ordf",   "laquo",  "not",    "shy",    "reg",    "macr",   "deg",    "plusmn", "sup2",   "sup3",
@@ -47,7 +47,7 @@ std::optional<char> numbered(std::string_view digits, int base)
     return static_cast<char>(static_cast<unsigned char>(number));
 }
 
-// referred returns the byte for the text between "&" and ";".
+// referred returns the byte to which a reference refers. text is what is between "&" and ";".
 std::optional<char> referred(std::string_view text)
 {
     if (text.starts_with("#x") || text.starts_with("#X")) return numbered(text.substr(2), 16);

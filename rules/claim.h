@@ -1,4 +1,5 @@
-// Claim: the implication of a condition for one argument, the target, whatever the others are.
+// A claim states what a condition implies for one argument, the target, if the other arguments may have any
+// value.
 #ifndef OSTREL_RULES_CLAIM_H
 #define OSTREL_RULES_CLAIM_H
 
@@ -10,7 +11,7 @@
 
 namespace ostrel::rules {
 
-// Variables are arguments of the check, by number.
+// Variables contains the indexes of arguments of the check.
 using Variables = std::set<std::size_t>;
 
 // Limit is a limit set by another argument.
@@ -23,23 +24,23 @@ struct Limit {
     bool operator==(const Limit&) const = default;
 };
 
-// Factors is a condition written as a conjunction.
+// Factors is a condition in the form of a conjunction.
 struct Factors {
     Language own = {};  // depends only on the target
     std::vector<Limit> limits = {};
-    bool is_entangled = false;  // a factor depends on the target and others, or is unknown
-    Variables entangled = {};   // the others in limits and in that factor
+    bool is_entangled = false;  // a factor depends on the target and other arguments, or is unknown
+    Variables entangled = {};   // the other arguments in limits and in that factor
 
     bool operator==(const Factors&) const = default;
 };
 
 struct Claim {
-    Language holds;          // every text of the target for which the condition can hold
-    Language fails;          // every text for which it can fail
+    Language holds;          // every value of the target for which the condition can hold
+    Language fails;          // every value of the target for which the condition can fail
     bool is_decided = true;  // the target alone decides, so the two languages are disjoint
     bool is_about_target = true;
-    Variables others = {};     // other arguments that it depends on
-    bool are_negated = false;  // factors are those of the negation
+    Variables others = {};     // the other arguments on which the condition depends
+    bool are_negated = false;  // factors describes the negation of the condition
     Factors factors = {};
 
     bool operator==(const Claim&) const = default;
@@ -54,10 +55,11 @@ class Claims {
     Claim always() { return decided(languages_.any()); }
     Claim never() { return decided(languages_.nothing()); }
 
-    // unknown is a claim that may hold or not, depending on these arguments, or on the target alone if there are none.
+    // unknown returns a claim that may or may not hold, depending on these arguments, or on the target alone
+    // if there are none.
     Claim unknown(Variables variables, std::size_t target);
 
-    // beyond states that the limit set by the other argument is exceeded.
+    // beyond returns the claim that the limit set by another argument is exceeded.
     Claim beyond(Limit limit);
 
     Claim negated(Claim claim);

@@ -1,4 +1,4 @@
-// Limits that several clauses set for one text or number.
+// Limits that several clauses set for the same string or number.
 #include <cstdlib>
 
 #include "rules/phrases.h"
@@ -7,7 +7,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// between returns the substring of a predicate between its beginning and the unit.
+// between returns the substring of a predicate between the given beginning and the unit.
 std::string between(const std::string& predicate, std::string_view beginning, std::string_view unit)
 {
     if (!predicate.starts_with(beginning)) return "";
@@ -15,7 +15,7 @@ std::string between(const std::string& predicate, std::string_view beginning, st
     return rest.substr(0, unit.empty() ? rest.size() : rest.find(unit));
 }
 
-// merge combines a minimum and a maximum: "has 8 to 63 bytes".
+// merge combines a minimum and a maximum, as in "has 8 to 63 bytes".
 bool merge(Clause& one, const Clause& other, std::string_view least, std::string_view most,
            std::string_view verb, std::string_view unit)
 {

@@ -63,7 +63,7 @@ std::string Speaker::set(const Expression& expression) const
     return "the bytes of " + value(expression);
 }
 
-// among states that a byte is in a set, or not.
+// among states that a byte is in a set or, if holds is false, that it is not.
 std::string Speaker::among(const Expression& expression, bool holds) const
 {
     const Expression* fixed = constant(expression);
@@ -71,7 +71,7 @@ std::string Speaker::among(const Expression& expression, bool holds) const
     return std::string(holds ? "is one of " : "is none of ") + (is_set ? "these: " : "") + set(expression);
 }
 
-// other names the text with which a text is compared.
+// other names the string with which a string is compared.
 std::string Speaker::other(const Expression& expression) const
 {
     const Expression* fixed = constant(expression);
@@ -196,7 +196,7 @@ Clause Speaker::outside_clause(const Condition& condition, bool holds) const
     const bool is_slice = judged.kind == Expression::Kind::kSlice && judged.of.size() == 3;
     const Expression* count = is_slice ? constant(judged.of[2]) : nullptr;
     if (count != nullptr && count->number == 1) {
-        // If there is no such byte, none is outside.
+        // If there is no byte at this offset, no byte is outside the set.
         const Expression* offset = constant(judged.of[1]);
         const std::string none =
             offset != nullptr && offset->number == 0 ? value(judged.of[0]) + " is empty or " : "";
@@ -205,7 +205,7 @@ Clause Speaker::outside_clause(const Condition& condition, bool holds) const
     return {value(judged), (holds ? "contains a byte other than " : "contains only ") + allowed};
 }
 
-// is_beginning returns whether the condition compares with a prefix of the same length.
+// is_beginning returns whether judged is the beginning of a string, with the length of other.
 bool Speaker::is_beginning(const Expression& judged, const Expression& other) const
 {
     if (judged.kind != Expression::Kind::kSlice || judged.of.size() < 3) return false;

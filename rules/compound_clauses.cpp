@@ -1,4 +1,4 @@
-// Compound conditions in words: rows of a table, other checks, conjunctions and disjunctions.
+// Compound conditions in words: table rows, other checks, conjunctions and disjunctions.
 #include <algorithm>
 
 #include "rules/phrases.h"

@@ -1,4 +1,4 @@
-// Conditions: the tests of texts and numbers.
+// Conditions, which test strings and numbers.
 #ifndef OSTREL_RULES_CONDITION_H
 #define OSTREL_RULES_CONDITION_H
 
@@ -15,7 +15,7 @@ namespace ostrel::rules {
 
 struct Check;
 
-// Group is one element of a shape: least to most bytes of one set.
+// Group is one element of a shape, which matches from least to most bytes of one set.
 struct Group {
     Set set;
     std::size_t least = 1;
@@ -23,10 +23,10 @@ struct Group {
     std::vector<Line> lines = {};  // printed if this group is at fault
 };
 
-// Shape is a sequence of groups. A group of variable length has no byte in common with the next one.
+// Shape is a sequence of groups. A group of variable length has no byte in common with the next group.
 using Shape = std::vector<Group>;
 
-// GrammarFault locates where a text violates a grammar. The sentence of the id uses found and allowed.
+// GrammarFault describes where a string violates a grammar. The sentence for the id uses found and allowed.
 struct GrammarFault {
     std::string_view id;
     std::size_t offset = 0;
@@ -34,27 +34,27 @@ struct GrammarFault {
     std::string allowed = {};
 };
 
-// Grammar is written by hand, for rules that the vocabulary cannot express. ids lists every id that it returns.
+// Grammar is a hand-written rule that the vocabulary cannot express.
 struct Grammar {
-    std::string_view what;                   // the name of a valid text: "an IPv4 address"
-    std::vector<std::string_view> ids;       // of its faults
-    std::vector<std::string_view> accepted;  // valid texts
-    std::vector<std::string_view> refused;   // texts that violate it, in the order of ids
+    std::string_view what;                   // what a valid string is called, such as "an IPv4 address"
+    std::vector<std::string_view> ids;       // every id that judge can return
+    std::vector<std::string_view> accepted;  // examples of valid strings
+    std::vector<std::string_view> refused;   // examples of invalid strings, in the order of ids
     std::optional<GrammarFault> (*judge)(std::string_view text, const Build& build);
 };
 
-// Table is a list of rows whose cells belong together.
+// Table is a list of rows with a cell for each column.
 struct Table {
-    std::vector<std::string_view> columns;  // their contents, in words
+    std::vector<std::string_view> columns;  // the contents of each column, in words
     std::vector<std::vector<std::string_view>> rows;
 };
 
-// Match defines how a text or a number must match a column of a row.
+// Match defines how a string or a number must match a column of a row.
 struct Match {
     enum class How {
-        kEqual,   // it is the text of the cell
-        kPart,    // it occurs in the text of the cell
-        kNumber,  // it is the number of the cell
+        kEqual,   // the value is the string in the cell
+        kPart,    // the value occurs in the string in the cell
+        kNumber,  // the value is the number in the cell
     };
 
     std::size_t column;
@@ -62,41 +62,43 @@ struct Match {
     Expression value;
 };
 
-// Condition holds or does not. If it holds, it provides the reason for a refusal.
+// Condition is a test. If it holds, it provides the reason for a refusal.
 struct Condition {
     enum class Kind {
         kAlways,
         kNull,       // (argument)
-        kEmpty,      // (text)
-        kShorter,    // (text, number): it has fewer bytes
-        kLonger,     // (text, number): it has more bytes
-        kLength,     // (text): its length is one of numbers
-        kOutside,    // (text, set): it has a byte that is not in the set
-        kKeyword,    // (text): it is one of words
-        kPrefix,     // (text): it begins with one of words
-        kSuffix,     // (text, text): it ends with the second, and has something before that
-        kBelow,      // (number, number): it is lower than the second
-        kAbove,      // (number, number): it is higher than the second
+        kEmpty,      // (string)
+        kShorter,    // (string, number): the string has fewer bytes
+        kLonger,     // (string, number): the string has more bytes
+        kLength,     // (string): its length is one of numbers
+        kOutside,    // (string, set): the string contains a byte that is not in the set
+        kKeyword,    // (string): it is one of words
+        kPrefix,     // (string): it begins with one of words
+        kSuffix,     // (string, suffix): the string ends with the suffix and has at least one byte before it
+        kBelow,      // (number, limit): the number is lower than the limit
+        kAbove,      // (number, limit): the number is higher than the limit
         kAmong,      // (number): it is one of numbers
-        kBetween,    // (number): it is from the first of numbers to the second
-        kMultiple,   // (number, number): it is a multiple of the second
-        kEqual,      // (text, text) or, if one is a number, (number, number)
-        kContains,   // (text, text): the second occurs in it
-        kShape,      // (text): it has one of shapes
-        kGrammar,    // (text): it violates the grammar
-        kRow,        // a row of the table satisfies all matches; cells are those of the first matching row
+        kBetween,    // (number): it is at least numbers[0] and at most numbers[1]
+        kMultiple,   // (number, divisor): the number is a multiple of the divisor
+        kEqual,      // (string, string) or, if one of them is a number, (number, number)
+        kContains,   // (string, part): the part occurs in the string
+        kShape,      // (string): it has one of shapes
+        kGrammar,    // (string): it violates the grammar
+        kRow,        // a row of the table satisfies all matches; kCell then refers to the first such row
         kRefusedBy,  // (arguments): the other check does not return 0
-        kListed,  // (number): among the first numbers[0] that the wireless driver lists, none above numbers[1]
+        // (number): it is one of the first numbers[0] channels that the wireless driver lists, and none of
+        // these is above numbers[1]
+        kListed,
         kLastItem,  // in a list: nothing follows the item
-        kAllOf,     // (parts): the reason is that of the last
-        kAnyOf,     // (parts): the reason is that of the first that holds
+        kAllOf,     // (parts): all parts hold; the reason is that of the last part
+        kAnyOf,     // (parts): at least one part holds; the reason is that of the first such part
     };
 
     Kind kind = Kind::kAlways;
     bool is_negated = false;
     std::vector<Expression> operands = {};
     std::vector<std::string_view> words = {};
-    bool ignores_case = false;  // of ASCII letters, in words
+    bool ignores_case = false;  // applies to the ASCII letters in words
     std::vector<long long> numbers = {};
     std::vector<Shape> shapes = {};
     const Grammar* grammar = nullptr;
@@ -104,10 +106,10 @@ struct Condition {
     std::vector<Match> matches = {};
     std::string_view check = {};  // the name of the other check
     std::vector<Condition> parts = {};
-    std::string_view id = {};  // of the reason, instead of that of the kind
+    std::string_view id = {};  // the id of the reason, if it is not the usual one for this kind
 
-    std::size_t number = 0;         // in its check: set at registration
-    const Check* target = nullptr;  // the other check: set after registration
+    std::size_t number = 0;         // the condition's number in its check; set at registration
+    const Check* target = nullptr;  // the other check; set after registration
 };
 
 }  // namespace ostrel::rules

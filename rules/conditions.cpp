@@ -1,4 +1,4 @@
-// Whether conditions hold in a call, and why.
+// Evaluation of the conditions in a call, and of their reasons.
 
 #include <algorithm>
 
@@ -51,7 +51,7 @@ bool Run::holds(const Condition& condition, Frame& frame, Reason* reason)
     return result;
 }
 
-// holds_at_all ignores a negation, except in the reason.
+// holds_at_all ignores negation in its result, but not in the reason.
 bool Run::holds_at_all(const Condition& condition, Frame& frame, Reason* reason)
 {
     switch (condition.kind) {

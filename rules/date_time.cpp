@@ -12,7 +12,7 @@ Shape joined_shapes(std::initializer_list<Shape> shapes)
     return result;
 }
 
-// Forms are the forms of complete values, and that of the offset of a time zone.
+// Forms contains the shapes of complete values, and of the offset of a time zone.
 struct Forms {
     Shape compact_date_time;
     Shape date_time;
@@ -40,14 +40,14 @@ Forms forms()
             offset};
 }
 
-constexpr int kLeapYear = 2000;  // without a year, 29 February is valid
+constexpr int kLeapYear = 2000;  // used if there is no year, so that 29 February is valid
 
 Step refuse_above(std::string_view field, Expression limit, int offset)
 {
     return refuse(-1, above(called(field, slice(it, offset, 2)), std::move(limit)));
 }
 
-// Day 0 is accepted, and hour 24 with any minute. The offsets are the positions of the fields.
+// Day 0 is accepted, and so is hour 24 with any minute. month, day and time are the offsets of these fields.
 std::vector<Step> judge_day_and_time(Expression year, int month, int day, int time)
 {
     return {refuse(-1, below(called("the month", slice(it, month, 2)), 1)),

@@ -6,7 +6,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// A longer list of words is too long to read.
+// A list of more words is too long for a sentence.
 constexpr std::size_t kMostWords = 40;
 
 template <typename T, typename F>
@@ -26,13 +26,14 @@ bool same_letter(char a, char b)
     return lower(a) == lower(b);
 }
 
-// in_common returns the length of the longest text that occurs in both, if it is longer than longest.
+// in_common returns the length of the longest substring that occurs in both, in any case, but at least
+// longest.
 std::size_t in_common(std::string_view one, std::string_view other, std::size_t longest)
 {
     for (std::size_t i = 0; i + longest < one.size(); ++i) {
         for (std::size_t j = 0; j + longest < other.size(); ++j) {
             if (i + longest == one.size()) return longest;
-            // Skips starts from which no match can exceed the longest one.
+            // Offsets at which no match can be longer than the longest one so far are skipped.
             if (!same_letter(one[i + longest], other[j + longest])) continue;
             const std::string_view rest = other.substr(j);
             const auto differing = std::ranges::mismatch(one.substr(i), rest, same_letter);

@@ -1,4 +1,4 @@
-// Datum in words: what a reason found or allows, and texts in printable form.
+// The data of a reason in words, and strings in printable form.
 #ifndef OSTREL_RULES_DATUM_H
 #define OSTREL_RULES_DATUM_H
 
@@ -10,19 +10,21 @@
 
 namespace ostrel::rules {
 
-// in_words shows a datum; a long list is shown as its size and the text that is closest to what was found.
+// in_words describes a datum. For a long list, it returns the size and the entry that is closest to what was
+// found.
 std::string in_words(const Datum& datum, const Datum& found = {});
 
-// is_one returns whether the singular applies.
+// is_one returns whether a verb or noun that refers to the datum must be singular.
 bool is_one(const Datum& datum);
 
-// keyword_in_words shows a keyword, quoted if it could be mistaken for something else.
+// keyword_in_words returns a keyword, in quotation marks if it could be mistaken for something else.
 std::string keyword_in_words(std::string_view word);
 
-// quoted shows a text in printable form: in quotation marks, cut if long, with \x9F for an unprintable byte.
+// quoted returns a string in quotation marks, truncated if it is long, with unprintable bytes in the form
+// \x9F.
 std::string quoted(std::string_view text);
 
-// length_shown replaces a secret: "<12 bytes>".
+// length_shown returns what is shown in place of a secret, such as "<12 bytes>".
 std::string length_shown(std::size_t size);
 
 }  // namespace ostrel::rules

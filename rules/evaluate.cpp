@@ -1,4 +1,4 @@
-// The steps of a check in a call.
+// Execution of the steps of a check in a call.
 #include "rules/evaluate.h"
 
 #include "rules/datum.h"

@@ -13,7 +13,7 @@ namespace {
 
 using Kind = Step::Kind;
 
-// missing describes a part of a text that has no separator.
+// missing describes what a part of a string is if the string has no separator.
 std::string missing(const Expression& expression)
 {
     switch (expression.kind) {
@@ -31,10 +31,10 @@ std::string missing(const Expression& expression)
 
 class Explainer {
  public:
-    std::vector<int> codes;  // besides 0, in the order of the steps
+    std::vector<int> codes;  // other than 0, in the order of the steps
     bool reads_numbers = false;
 
-    // steps describes the possible outcomes. It returns true if every call ends there.
+    // steps describes the steps that can act. It returns true if every call ends in one of them.
     bool steps(const std::vector<Step>& steps, Speaker& speaker, bool is_called, std::vector<Said>& result)
     {
         for (const Step& step : steps) {
@@ -57,13 +57,13 @@ class Explainer {
                step.kind == Kind::kSkip;
     }
 
-    // is_nowhere returns whether a step writes to nothing that this check has.
+    // is_nowhere returns whether a step only writes to an argument that the explained check ignores.
     static bool is_nowhere(const Step& step, const Speaker& speaker)
     {
         return step.kind == Kind::kWrite && speaker.value(step.writes[0].target).empty();
     }
 
-    // say adds a step. It returns true if no call continues after it.
+    // say adds the description of a step. It returns true if no call continues after the step.
     bool say(const Step& step, Speaker& speaker, bool is_called, std::vector<Said>& all)
     {
         Said& result = all.emplace_back();
@@ -201,8 +201,8 @@ class Explainer {
         }
     }
 
-    // uses describes, once each, the other checks that a condition calls; its_codes receives the codes that they
-    // return.
+    // uses describes each of the other checks that a condition calls, but only once, and stores the codes
+    // that they return in its_codes.
     std::vector<Said> uses(const Condition& condition, const Speaker& speaker, bool always,
                            std::vector<int>& its_codes)
     {

@@ -1,4 +1,4 @@
-// Explanation: a description in words, in the order of its steps.
+// Explanations of descriptions in words, in the order of the steps.
 #ifndef OSTREL_RULES_EXPLAIN_H
 #define OSTREL_RULES_EXPLAIN_H
 
@@ -11,10 +11,10 @@
 
 namespace ostrel::rules {
 
-// SaidLine is a line that is printed, with <name> for a value and \n for a line end.
+// SaidLine is a printed line, in which <name> stands for a value and \n for a line end.
 struct SaidLine {
     std::string text;
-    std::string when;  // the case, if a step has several lines; empty: always
+    std::string when;  // the case in which the line is printed, or empty if it always is
     Line::Stream stream = Line::Stream::kOut;
     bool is_flushed = true;
 };
@@ -22,7 +22,7 @@ struct SaidLine {
 // Said is a step in words.
 struct Said {
     Step::Kind kind = Step::Kind::kPrint;
-    std::optional<int> code;  // that is returned, if it is a fixed one
+    std::optional<int> code;  // the code that is returned, if it is always the same
     std::string text;
     std::vector<SaidLine> lines;
     std::vector<std::string> writes;
@@ -32,8 +32,8 @@ struct Said {
 };
 
 struct SaidArgument {
-    std::string what;  // and its unit
-    std::string room;  // of a buffer
+    std::string what;  // a description with the unit
+    std::string room;  // the size that a buffer must have
     std::string null;  // what NULL does; empty for a number
     std::string written;
 };
@@ -41,9 +41,9 @@ struct SaidArgument {
 struct Explanation {
     std::string accepted;  // what is accepted or returned, in one line
     std::vector<SaidArgument> arguments;
-    std::vector<Said> steps;  // those that can act; after the last one the result is 0
+    std::vector<Said> steps;  // the steps that can act; after the last one, the result is 0
     std::vector<int> codes;   // other than 0, in the order of the steps; empty if the result is a number
-    std::string numbers;      // how numbers are read from texts; empty if none are
+    std::string numbers;      // how numbers are read from strings; empty if none are read
 };
 
 Explanation explain(const Check& check, const Build& build);
@@ -51,7 +51,7 @@ Explanation explain(const Check& check, const Build& build);
 // said_arguments describes each argument, the effect of NULL, and the values that may be written to it.
 std::vector<SaidArgument> said_arguments(const Check& check, const Build& build);
 
-// how_numbers_are_read describes how a number is read from a text.
+// how_numbers_are_read describes how a number is read from a string.
 std::string how_numbers_are_read(const Build& build);
 
 // accepted describes in one line what is accepted, or which number is returned.

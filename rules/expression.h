@@ -1,4 +1,4 @@
-// Expressions and lines: the texts and numbers that conditions judge, and the output.
+// Expressions, whose values conditions test, and lines of output.
 #ifndef OSTREL_RULES_EXPRESSION_H
 #define OSTREL_RULES_EXPRESSION_H
 
@@ -13,43 +13,43 @@
 
 namespace ostrel::rules {
 
-// Conversion derives a text from another one; it is written by hand.
+// Conversion is hand-written code that derives one string from another.
 struct Conversion {
-    std::string_view what;  // "with character references replaced"
+    std::string_view what;  // such as "with character references replaced"
     std::string (*convert)(std::string_view text);
-    std::vector<std::string> changed = {};  // texts that it changes, one for each kind of change
+    std::vector<std::string> changed = {};  // strings that it changes, one for each kind of change
 };
 
-// Expression is a text, a number or a set. A text used as a number is read as atoi reads it.
+// Expression is a string, a number or a set. A string that is used as a number is read as atoi reads it.
 struct Expression {
     enum class Kind {
-        kName,  // an argument or a remembered value; "": the subject, which is the item or the first argument
-        kText,  // a literal
+        kName,          // an argument or a remembered value; "": the item, or else the first argument
+        kText,          // a literal
         kNumber,        // a literal
         kSet,           // a literal
         kModel,         // the product model of the build
         kAccountRealm,  // the realm of the ISP's access accounts
         kSetupRealm,    // the realm of the ISP's set-up accounts
-        kNowhere,       // the target of another check's write that this one ignores
+        kNowhere,       // the target of a write by another check, if this check ignores the write
         kItem,          // in a list: the item or the key
-        kIndex,         // in a list: the number of the item, from 0
+        kIndex,         // in a list: the index of the item, from 0
         kRest,          // in a list: what follows the separator after the item
         kByte,          // in a line: the byte at fault
         kOffset,        // in a line: its offset
-        kBeforeFirst,   // (text, separator): all of it if there is no separator
-        kBeforeLast,    // (text, separator): all of it if there is no separator
-        kAfterFirst,    // (text, separator): empty if there is no separator
-        kAfterLast,     // (text, separator): all of it if there is no separator
-        kThroughLast,   // (text, separator): up to and including the last one; empty if there is none
-        kSlice,         // (text, offset, count): shorter if the text ends before
-        kJoined,        // (texts): concatenated
-        kConverted,     // (text): as converted
-        kLength,        // (text): its size in bytes
-        kCount,         // (text, byte): how often the byte occurs; of a number, its lowest 8 bits
+        kBeforeFirst,   // (string, separator): the whole string if there is no separator
+        kBeforeLast,    // (string, separator): the whole string if there is no separator
+        kAfterFirst,    // (string, separator): empty if there is no separator
+        kAfterLast,     // (string, separator): the whole string if there is no separator
+        kThroughLast,   // (string, separator): includes the last separator; empty if there is no separator
+        kSlice,         // (string, offset, count): shorter if the string ends earlier
+        kJoined,        // (strings): concatenated
+        kConverted,     // (string): the result of the conversion
+        kLength,        // (string): its length in bytes
+        kCount,         // (string, byte): how often the byte occurs; a number stands for its lowest 8 bits
         kSum,           // (numbers)
         kLarger,        // (numbers): the largest
-        kDays,          // (year, month): the number of days in the month; 0 if it is invalid
-        kCell,          // the text of a column, in the row that a condition found last
+        kDays,          // (year, month): the number of days in the month; 0 if the month is invalid
+        kCell,          // the string in a column of the row that a condition found last
     };
 
     Expression(const char* name) : text(name) {}
@@ -63,16 +63,16 @@ struct Expression {
     Set set = {};
     const Conversion* conversion = nullptr;
     std::vector<Expression> of = {};
-    std::string_view part = {};  // the name of part of an argument in sentences
-    std::size_t slot = 0;        // of a name: set at registration
+    std::string_view part = {};  // the name, in sentences, of this part of an argument
+    std::size_t slot = 0;        // the index of the named value; set at registration
 };
 
-// Line is printed with each <name> replaced by its value: an argument, a remembered value, <item>, <index>, <byte> or
-// <offset>.
+// Line is printed with each <name> replaced by its value. The name is that of an argument or a remembered
+// value, or <item>, <index>, <byte> or <offset>.
 struct Line {
     enum class Stream { kOut, kErr };
     struct Part {
-        std::string_view text;  // if there is no value
+        std::string_view text;  // printed if there is no value
         std::optional<Expression> value;
     };
 

@@ -1,4 +1,4 @@
-// Tracks what is known at each step, so that impossible cases can be left out.
+// The facts that are known at each step, by which impossible cases are recognised.
 #include <algorithm>
 
 #include "rules/phrases.h"
@@ -91,7 +91,7 @@ std::optional<bool> Speaker::known_of_text(const Condition& condition) const
     return is(shared > 0);
 }
 
-// An empty text is shorter than one byte, and its number is 0.
+// learn considers that an empty string is shorter than one byte and is read as the number 0.
 void Speaker::learn(const Condition& condition, bool holds)
 {
     holds = holds != condition.is_negated;

@@ -29,7 +29,7 @@ bool includes_all(Languages& languages, const std::vector<Language>& parts, cons
     return std::ranges::all_of(parts, [&](Language part) { return includes(languages, part, said); });
 }
 
-// is_length returns true if a part is only a minimum and a maximum length.
+// is_length returns true if a part only limits the length to a minimum and a maximum.
 bool is_length(const Languages& languages, Language part)
 {
     const Leaf* leaf = languages.leaf(part);
@@ -150,7 +150,7 @@ class Writer {
             form_.max_length = static_cast<std::size_t>(lengths.high());
     }
 
-    // take_items describes an item, given the form of the whole text.
+    // take_items describes an item, given the form of the whole list.
     void take_items(const Leaf& leaf)
     {
         form_.separator = leaf.byte;
@@ -158,7 +158,7 @@ class Writer {
         form_.item = {form_of_text(languages_, item_of(languages_, leaf, form_)).form};
     }
 
-    // count_items derives the number of items from that of separators.
+    // count_items derives the number of items from the number of separators.
     void count_items()
     {
         for (const Language part : parts_) {
@@ -171,7 +171,8 @@ class Writer {
         }
     }
 
-    // write_pattern returns true if all parts have a pattern; the others are omitted. Lengths are members of the form.
+    // write_pattern omits parts that have no pattern, and returns true if there are none. Lengths need no
+    // pattern, because they have members in the form.
     bool write_pattern()
     {
         bool is_whole = true;

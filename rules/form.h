@@ -1,4 +1,4 @@
-// Forms: a language as lengths, bytes, keywords, numbers and a pattern. They are used only by constraints.cpp.
+// Descriptions of languages by lengths, bytes, keywords, numbers and a pattern, for constraints.cpp.
 #ifndef OSTREL_RULES_FORM_H
 #define OSTREL_RULES_FORM_H
 
@@ -7,34 +7,36 @@
 
 namespace ostrel::rules {
 
-// Said is a form, and whether only texts of the language satisfy it.
+// Said is a form with a statement of whether only the strings in the language satisfy it.
 struct Said {
     Form form = {};
     bool is_all = false;
-    bool is_all_in_schema = false;  // ignoring what JSON Schema cannot express
+    bool is_all_in_schema = false;  // the same, ignoring what JSON Schema cannot express
 };
 
-// form_of_text describes the common properties of all texts of a language.
+// form_of_text describes the properties that all strings in a language have in common.
 Said form_of_text(Languages& languages, Language one);
 
-// form_of_number is for an int; it has only the minimum and the maximum.
+// form_of_number describes a language of ints by its minimum and maximum only.
 Said form_of_number(const Languages& languages, Language one);
 
-// language_of returns the texts that satisfy a form, ignoring its pattern.
+// language_of returns the strings that satisfy a form, ignoring its pattern.
 Language language_of(Languages& languages, const Form& form);
 
-// Offer is the part of a language that a user should be offered: numbers without spaces and leading zeros, keywords in
-// their case. It is unset if that is the whole language.
+// Offer is the part of a language that users should be offered: numbers without spaces or leading zeros, and
+// keywords in the case in which they are listed.
 struct Offer {
     Form form;
     Language language;
 };
+
+// offer_of returns nothing if users should be offered the whole language.
 std::optional<Offer> offer_of(Languages& languages, Language one, const Form& form);
 
-// item_of returns the possible items of a list, given the form of the whole text.
+// item_of returns the possible items of a list, given the form of the whole list.
 Language item_of(Languages& languages, const Leaf& list, const Form& form);
 
-// parts_of returns the conditions that all texts of a language satisfy.
+// parts_of returns the conditions that all strings in a language satisfy.
 std::vector<Language> parts_of(const Languages& languages, Language one);
 
 }  // namespace ostrel::rules

@@ -1,4 +1,4 @@
-// The part of a language that a user should be offered.
+// The part of a language that users should be offered.
 
 #include <algorithm>
 #include <limits>
@@ -11,7 +11,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// leaf_among returns the leaf of a condition of the given kind.
+// leaf_among returns the leaf of the given kind among the parts of a language, or NULL if there is none.
 const Leaf* leaf_among(const Languages& languages, Language one, Leaf::Kind kind)
 {
     for (const Language part : parts_of(languages, one)) {
@@ -21,7 +21,7 @@ const Leaf* leaf_among(const Languages& languages, Language one, Leaf::Kind kind
     return nullptr;
 }
 
-// written returns the numbers in decimal.
+// written returns the decimal forms of the numbers.
 Language written(Languages& languages, const Intervals& numbers)
 {
     std::vector<Language> parts;
@@ -82,7 +82,7 @@ std::optional<Offer> list_of(Languages& languages, Language one, const Form& for
     const Language item = item_of(languages, list, form);
     const std::optional<Offer> each = offer_of(languages, item, form.item.front());
     if (!each) return std::nullopt;
-    // Of the remaining parts, only those that such items do not imply are kept.
+    // The other parts are kept only if such items do not imply them.
     std::vector<Language> parts = {languages.items(list.byte, {}, each->language)};
     for (const Language part : parts_of(languages, one)) {
         if (!includes(languages, part, parts.front())) parts.push_back(part);

@@ -17,7 +17,7 @@ Check domain_name()
          for_each(list_of(it, '.', {}, "label"), {refuse(-1, empty()), refuse(-1, longer_than(20))})});
 }
 
-// Only a text of digits and dots can be an address, and a name cannot consist of these alone.
+// A value that consists only of digits and dots must be an address, and any other value must be a name.
 Check host()
 {
     return check("ValidateURL", {text("value", "a host name or an IPv4 address")},
@@ -26,8 +26,8 @@ Check host()
                        {refuse(-1, refused_by("TcmValidateIPAddress", {called("the IPv4 address", it)}))})});
 }
 
-// The first ":" after the scheme ends the host, even if it is in the path. The set of the whole contains those of host
-// and port and is tested after them, so that no reason allows a byte that is then refused.
+// The first ":" after the scheme ends the host, even if it is in the path. The set for the whole URL contains
+// the sets for host and port and is tested after them, so that no reason allows a byte that is then refused.
 Check url(std::string_view name, std::string_view what, int code, Words schemes)
 {
     const Condition has_port = contains("rest", literal(":"));
@@ -45,7 +45,7 @@ Check url(std::string_view name, std::string_view what, int code, Words schemes)
          when(has_port, {refuse(code, below(port, 0)), refuse(code, above(port, 65535))})});
 }
 
-// The text between the first "@" and the last "." may contain either of them again.
+// There may be more of "@" and "." between the first "@" and the last ".".
 Check mail_outline()
 {
     const Expression before = called("the part before the \"@\"", before_first(it, "@"));
@@ -58,8 +58,8 @@ Check mail_outline()
                   refuse(-1, empty(called("the part after the last \".\"", after_last(after, "."))))});
 }
 
-// The set contains that of a host. For a byte that is in neither, the reason has the smaller one, so that its
-// replacement is not refused.
+// The set contains all bytes of a host. For a byte outside both sets, the reason contains the smaller set, so
+// that the byte that replaces it is not refused.
 Step refuse_outside(const Set& set) { return refuse(803, all_of({outside(set), outside(kHost)})); }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The execution of a step for each item of a list.
+// Execution of the steps for each item of a list.
 
 #include "rules/run.h"
 

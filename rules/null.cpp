@@ -38,12 +38,12 @@ std::string in_words(const NullEnd& end)
     return "";
 }
 
-// in_words describes which call ends how, or lists only the ends if that would be too long or the conditions are
-// unknown.
+// in_words describes how calls end and on which conditions. If that would be too long, or if conditions are
+// unknown, it lists only the ends.
 std::string in_words(const std::vector<NullEnd>& ends, const std::set<std::string>& sources)
 {
     constexpr std::size_t kLongest = 200;
-    std::vector<NullEnd> kinds;  // each once, with all its codes
+    std::vector<NullEnd> kinds;  // each kind once, with all its codes
     for (const NullEnd& end : ends) {
         const auto known = std::ranges::find(kinds, end.kind, &NullEnd::kind);
         if (known == kinds.end()) {

@@ -10,13 +10,13 @@ namespace {
 
 using Kind = Step::Kind;
 
-// Truth is what is known about a condition. kStops: the call ends during its evaluation.
+// Truth is what is known about a condition. kStops means that the call ends while the condition is evaluated.
 enum class Truth { kNever, kMaybe, kAlways, kStops };
 
 class Walk {
  public:
     std::vector<NullEnd> ends;
-    std::set<std::string> sources;  // the arguments on which it depends
+    std::set<std::string> sources;  // the arguments on which the end depends
     bool is_printed = false;        // a step that may act prints NULL
 
     // run returns true if the call may continue after the steps.
@@ -156,7 +156,7 @@ class Walk {
         return *known ? Truth::kAlways : Truth::kNever;
     }
 
-    // A part is judged only if the parts before it do not decide.
+    // judge_parts evaluates a part only if the parts before it do not determine the result.
     Truth judge_parts(const Condition& condition, const Speaker& speaker, const std::string& where)
     {
         const bool all = condition.kind == Condition::Kind::kAllOf;
@@ -210,7 +210,7 @@ class Walk {
         return refuses != condition.is_negated ? Truth::kAlways : Truth::kNever;
     }
 
-    std::vector<int> its_codes_;  // those of the check that was judged last
+    std::vector<int> its_codes_;  // the codes of the check that a condition called last
 };
 
 }  // namespace

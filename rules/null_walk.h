@@ -1,4 +1,4 @@
-// Null walk: how a call may end if one argument is NULL and the others are arbitrary.
+// The ways in which a call may end if one argument is NULL and the others are arbitrary.
 #ifndef OSTREL_RULES_NULL_WALK_H
 #define OSTREL_RULES_NULL_WALK_H
 
@@ -13,16 +13,16 @@
 
 namespace ostrel::rules {
 
-// NullEnd is one possible end, and its condition.
+// NullEnd is one way in which the call may end, with the condition for it.
 struct NullEnd {
     enum class Kind {
         kAccepted,
         kRefused,
-        kAnswered,  // with a number instead of a result code
-        kPrinted,   // passed to the C library, which must print NULL
+        kAnswered,  // the result is a number, not a result code
+        kPrinted,   // NULL is passed to the C library for printing
         kFault,
         kAsserted,
-        kStays,  // it does not return
+        kStays,  // the call does not return
     };
 
     Kind kind;
@@ -33,10 +33,10 @@ struct NullEnd {
 
 struct NullEnds {
     std::vector<NullEnd> ends;
-    std::set<std::string> sources;  // the other arguments on which it depends
+    std::set<std::string> sources;  // the other arguments on which the end depends
 };
 
-// add appends the codes that are not in the list yet.
+// add appends the codes that are not yet in the list.
 void add(std::vector<int>& codes, const std::vector<int>& more);
 
 // null_ends follows the steps of a check. The argument must not be a number.

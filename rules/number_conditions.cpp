@@ -1,4 +1,4 @@
-// Conditions of numbers, and of texts that may be numbers.
+// Conditions on numbers, and on strings that may be numbers.
 
 #include <algorithm>
 #include <span>

@@ -221,7 +221,7 @@ Integer Run::number(const Expression& expression, Frame& frame, Operand& room)
     const Operand& given = text(expression, frame, room);
     if (given.kind == Operand::Kind::kNumber) return {given.number, {}, false, &given.place};
     const Number read = read_number(given.text, build_.atoi);
-    // A sign alone is not a number.
+    // A sign without digits is not a number.
     const bool is_whole =
         !given.text.empty() && read.end - read.begin == given.text.size() && given.text.back() >= '0';
     if (!read.beyond_int) return {read.value, {}, !is_whole, &given.place};

@@ -72,7 +72,7 @@ std::vector<Check> addresses_and_words()
     };
 }
 
-// If the value begins with a digit, the call does not return; the empty value is accepted.
+// An empty value is accepted. If a value begins with a digit, the call does not return.
 std::vector<Step> unsigned_integer(std::string_view message)
 {
     return {accept(empty()), never_returns(not_(outside(slice(it, 0, 1), kDigits))),

@@ -1,4 +1,4 @@
-// Phrases: expressions, conditions and lines in words.
+// Expressions, conditions and lines in words.
 #ifndef OSTREL_RULES_PHRASES_H
 #define OSTREL_RULES_PHRASES_H
 
@@ -16,22 +16,23 @@ namespace ostrel::rules {
 // Meant is what a name refers to.
 struct Meant {
     std::string words;
-    bool is_number = false;                // otherwise a text
-    bool may_be_null = false;              // an argument without an assertion
-    bool is_null = false;                  // NULL is passed
-    const Expression* constant = nullptr;  // a literal text, number or set
+    bool is_number = false;                // true for a number, false for a string
+    bool may_be_null = false;              // true for an argument without an assertion
+    bool is_null = false;                  // true if NULL is passed
+    const Expression* constant = nullptr;  // a literal string, number or set
     std::set<std::string> sources = {};    // the arguments from which it is derived
 };
 
-// Facts are the facts known about texts at some step, by the words for these texts.
+// Facts contains the facts that are known about strings at some step. Each string is identified by its
+// description.
 struct Facts {
     std::set<std::string> empty = {};
     std::set<std::string> not_empty = {};
-    std::map<std::string, std::set<std::string_view>> words =
-        {};  // the text is one of them, with the same case
+    // The string is one of these words, in the same case.
+    std::map<std::string, std::set<std::string_view>> words = {};
 };
 
-// Clause is a statement: "value", "has more than 8 bytes".
+// Clause is a statement about a subject, such as "value" and "has more than 8 bytes".
 struct Clause {
     std::string subject;
     std::string predicate;
@@ -39,39 +40,41 @@ struct Clause {
     [[nodiscard]] std::string text() const { return subject + (subject.empty() ? "" : " ") + predicate; }
 };
 
-// includes returns true if a clause implies the other, or has been merged with it: "has 8 to 63 bytes".
+// includes returns true if one implies other, or has been merged with it, as in "has 8 to 63 bytes".
 bool includes(Clause& one, const Clause& other);
 
-// Speaker describes one check, with the names of the check that is explained.
+// Speaker describes one check, using the argument names of the check that is being explained.
 class Speaker {
  public:
     Speaker(const Check& check, const Build& build);
 
-    // spell_out replaces remembered names by what they refer to.
+    // spell_out replaces the names of remembered values with what they refer to.
     void spell_out(const std::vector<Step>& steps);
 
-    // of_other describes the check that a condition calls, with the names used here for its arguments.
+    // of_other returns a speaker for the check that a condition calls, which uses the names that its
+    // arguments have here.
     [[nodiscard]] Speaker of_other(const Condition& use) const;
 
-    // of_items describes the steps for each item of a list.
+    // of_items returns a speaker for the steps for each item of a list.
     [[nodiscard]] Speaker of_items(const List& list) const;
 
     [[nodiscard]] const Check& check() const { return *check_; }
 
-    // value names a text or a number; number names a text that is read as one: "the number in value".
+    // value names a string or a number. number names a number that may be read from a string: "the number in
+    // value".
     [[nodiscard]] std::string value(const Expression& expression) const;
     [[nodiscard]] std::string number(const Expression& expression) const;
     [[nodiscard]] bool is_number(const Expression& expression) const;
 
-    // clause states that a condition holds, or does not.
+    // clause states that a condition holds or fails.
     [[nodiscard]] Clause clause(const Condition& condition, bool holds = true) const;
     [[nodiscard]] std::string when(const Condition& condition) const { return clause(condition).text(); }
 
-    // known returns whether a condition always or never holds; otherwise nullopt.
+    // known returns true if a condition always holds, false if it never holds, and otherwise nullopt.
     [[nodiscard]] std::optional<bool> known(const Condition& condition) const;
 
-    // learn records that a condition holds or fails from here on; forget records that a name now refers to something
-    // else. meet keeps the facts that two paths to the same step share.
+    // learn records that a condition holds or fails from here on, and forget that a step has changed what a
+    // name refers to. meet keeps only the facts that are also known on another path to the same step.
     void learn(const Condition& condition, bool holds);
     void forget(const Step& step);
     void meet(const Speaker& other);
@@ -80,11 +83,11 @@ class Speaker {
     [[nodiscard]] std::string list(const List& list) const;
     [[nodiscard]] const std::string& item() const { return item_.words; }
 
-    // line shows a line with <name> for a value and \n for a line end.
+    // line returns a line in which <name> stands for a value and \n for a line end.
     [[nodiscard]] std::string line(const Line& line) const;
 
-    // pass_null makes an argument NULL. is_null returns true for an expression that is NULL, reads_null for one that
-    // reads it.
+    // pass_null sets an argument to NULL. is_null returns true for an expression that is NULL, and reads_null
+    // for one that reads NULL.
     void pass_null(std::size_t argument) { slots_[argument].is_null = true; }
     [[nodiscard]] bool is_null(const Expression& expression) const;
     [[nodiscard]] bool reads_null(const Expression& expression) const;
@@ -92,7 +95,7 @@ class Speaker {
     // add_sources adds the arguments that a condition depends on.
     void add_sources(const Condition& condition, std::set<std::string>& names) const;
 
-    // reads_number returns true if a condition reads a number from a text.
+    // reads_number returns true if a condition reads a number from a string.
     [[nodiscard]] bool reads_number(const Condition& condition) const;
 
  private:
@@ -125,21 +128,21 @@ class Speaker {
     const Build* build_;
     std::vector<Meant> slots_;
     Meant item_;
-    std::string list_of_;  // the list of the items
+    std::string list_of_;  // the list that contains the item
     const Table* table_ = nullptr;
     Facts facts_;
 };
 
-// in_words describes the texts that have a shape.
+// in_words describes the strings that have a shape.
 std::string in_words(const Shape& shape);
 
-// bytes_in_words names the bytes of a set in the plural: "spaces".
+// bytes_in_words names the bytes of a set in the plural, such as "spaces".
 std::string bytes_in_words(const Set& set);
 
 // joined_words returns "a, b or c".
 std::string joined_words(const std::vector<std::string>& words, std::string_view last);
 
-// together joins clauses: "value has 3 bytes and is not NULL; other is empty".
+// together joins clauses, as in "value has 3 bytes and is not NULL; other is empty".
 std::string together(const std::vector<Clause>& clauses);
 
 }  // namespace ostrel::rules

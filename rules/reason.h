@@ -1,4 +1,4 @@
-// Reason: why a step decided, as data. sentences.h puts it into a sentence.
+// The reason why a step determined the result, as data. sentences.h turns it into a sentence.
 #ifndef OSTREL_RULES_REASON_H
 #define OSTREL_RULES_REASON_H
 
@@ -14,31 +14,31 @@
 
 namespace ostrel::rules {
 
-// Datum is nothing, a number, a text, a set of bytes, or a list of texts or numbers. The texts of a list belong to the
-// description, which outlives the list.
+// Datum is nothing, a number, a string, a set of bytes, or a list of strings or numbers. The strings in a
+// list belong to the description, which outlives the list.
 using Datum = std::variant<std::monostate, long long, std::string, Set, std::vector<std::string_view>,
                            std::vector<long long>>;
 
-// Span is part of a text.
+// Span is part of a string.
 struct Span {
     std::size_t begin = 0;
     std::size_t size = 0;
 };
 
 struct Reason {
-    std::string_view id;                  // empty: no condition, the step always decides
-    std::optional<std::size_t> argument;  // from 0; nullopt: no single one
-    std::string_view name;                // of the argument
-    std::string part;                   // such as "the host" or "label 2"; empty: all of the argument or item
-    std::optional<std::size_t> item;    // of a list, or the key of a block, from 0
-    std::string item_text;              // its text
-    std::optional<std::size_t> offset;  // from 0, in the text of the argument or of the key
-    std::optional<Span> judged;         // what was judged, in the same text
-    std::string_view conversion;        // of that text before it was judged, or empty
+    std::string_view id;                  // empty if the step has no condition
+    std::optional<std::size_t> argument;  // the index of the argument, or nullopt if there is no single one
+    std::string_view name;                // the name of the argument
+    std::string part;                     // such as "the host" or "label 2"; empty if no part is named
+    std::optional<std::size_t> item;      // the index of the item in a list, or of the key in a block
+    std::string item_text;                // the contents of the item
+    std::optional<std::size_t> offset;    // the offset from the beginning of the argument or the key
+    std::optional<Span> judged;           // the part of the argument or the key that was judged
+    std::string_view conversion;          // describes how the argument was converted first, or is empty
     Datum found;
     Datum allowed;
-    std::optional<long long> read_as;  // the number that atoi reads, if the text is not just an int
-    std::string_view limit;            // of a number beyond an int: the id for the number that is read
+    std::optional<long long> read_as;  // the number that atoi reads, if the string is not exactly an int
+    std::string_view limit;            // for a number beyond an int: the id for the number that atoi reads
 
     // clear resets the reason for reuse. A reason without an id is already empty.
     void clear()

@@ -12,7 +12,7 @@ namespace {
 
 bool is_plain(char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; }
 
-// are_plain tests eight bytes at once.
+// are_plain tests eight bytes at a time.
 bool are_plain(const char* begin)
 {
     constexpr std::uint64_t kOnes = 0x0101010101010101;
@@ -27,7 +27,7 @@ bool are_plain(const char* begin)
     return ((eight | below(eight, ' ') | has('"') | has('\\') | has(kDelete)) & kHighs) == 0;
 }
 
-// plain_size returns the length of the prefix that JSON does not escape.
+// plain_size returns the length of the prefix that needs no escaping in JSON.
 std::size_t plain_size(std::string_view bytes)
 {
     std::size_t size = 0;

@@ -1,4 +1,4 @@
-// JSON of a reason, identical in all formats.
+// A reason as JSON, which is identical in all output formats.
 #ifndef OSTREL_RULES_REASON_JSON_H
 #define OSTREL_RULES_REASON_JSON_H
 
@@ -10,13 +10,14 @@
 
 namespace ostrel::rules {
 
-// append_json_text appends a JSON string; a byte from 0x80 becomes the code point of the same number.
+// append_json_text appends a JSON string, in which each byte above 0x7F becomes the code point with the same
+// number.
 void append_json_text(std::string& out, std::string_view bytes);
 
 // AppendBytes appends bytes of a value as JSON.
 using AppendBytes = void (*)(std::string& out, std::string_view bytes);
 
-// append_json_datum appends a datum, which must not be nothing.
+// append_json_datum appends a datum, which must not be empty.
 void append_json_datum(std::string& out, const Datum& datum, AppendBytes append_bytes);
 
 // append_json_reason appends a reason and its sentence as an object, without secret values.

@@ -1,4 +1,5 @@
-// Registration: resolves names, numbers steps and conditions, and splits lines into parts.
+// Registration of descriptions: resolving names, numbering steps and conditions, and splitting lines into
+// parts.
 
 #include <algorithm>
 #include <map>
@@ -193,7 +194,7 @@ std::vector<Check> make_checks()
 
 const std::vector<Check>& checks()
 {
-    // Links are addresses, so the list must not be moved afterwards.
+    // The links between checks are addresses, so the elements must not be moved.
     static const std::vector<Check> all = make_checks();
     return all;
 }

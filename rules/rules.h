@@ -1,4 +1,4 @@
-// All descriptions, by the modules of the library.
+// All descriptions, grouped by the library's modules.
 #ifndef OSTREL_RULES_RULES_H
 #define OSTREL_RULES_RULES_H
 
@@ -9,19 +9,20 @@
 
 namespace ostrel::rules {
 
-// checks lists every description. Throws std::logic_error for a description with an unknown name.
+// checks returns every description. It throws std::logic_error if a description contains an unknown name.
 const std::vector<Check>& checks();
 
-// make_checks creates new, linked descriptions.
+// make_checks creates all descriptions and links those that refer to other checks.
 std::vector<Check> make_checks();
 
-// find returns the description of that name, or NULL.
+// find returns the description of the check with that name, or NULL if there is none.
 const Check* find(std::string_view name);
 
-// registered prepares a description that is not among checks() for evaluation. Throws as checks() does.
+// registered prepares a description that is not among checks() for evaluation. It throws the same exception
+// as checks.
 Check registered(Check check);
 
-// The descriptions of each module.
+// Each of these functions returns the descriptions of one module.
 std::vector<Check> strings();
 std::vector<Check> addresses();
 std::vector<Check> accounts();

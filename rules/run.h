@@ -1,4 +1,4 @@
-// Run: one evaluation. Only the files that implement evaluate.h use it.
+// The state of one evaluation, which only the implementation of evaluate.h uses.
 #ifndef OSTREL_RULES_RUN_H
 #define OSTREL_RULES_RUN_H
 
@@ -14,16 +14,16 @@
 
 namespace ostrel::rules {
 
-// Place identifies the argument from which a text or number comes, and the part of it.
+// Place identifies the argument, and the part of it, from which a string or a number was taken.
 struct Place {
     std::optional<std::size_t> argument;
     std::optional<std::size_t> item;
     std::string_view item_text = {};
-    std::optional<std::size_t> offset;  // of the text in that of the argument
-    std::optional<Span> judged = {};    // the text in that of the argument, also for a number read from it
+    std::optional<std::size_t> offset;  // where the string begins in the argument
+    std::optional<Span> judged = {};    // the string, or the string from which the number was read
     std::string_view part = {};         // the name of the part
-    std::size_t part_number = 0;        // of several with the same name, from 1
-    std::string_view conversion = {};   // of the text of the argument; empty: none
+    std::size_t part_number = 0;        // counted from 1 if several parts have the same name
+    std::string_view conversion = {};   // describes how the argument was converted, or is empty
 
     void call(std::string_view name, std::size_t number = 0)
     {
@@ -43,13 +43,13 @@ struct Operand {
     Place place;
 };
 
-// Integer is an operand as a number.
+// Integer is an operand that is used as a number.
 struct Integer {
     long long value = 0;
-    std::string_view beyond_int;   // the number in the text, if it does not fit in an int
-    bool is_read = false;          // from a text that is not just the number
-    const Place* whole = nullptr;  // of the text
-    std::size_t begin = 0;         // of beyond_int in the text
+    std::string_view beyond_int;   // the number in the string, if it does not fit in an int
+    bool is_read = false;          // the number was read from a string that is not exactly a number
+    const Place* whole = nullptr;  // the place of the operand
+    std::size_t begin = 0;         // the offset of beyond_int in the string
 
     [[nodiscard]] Place place() const
     {
@@ -59,28 +59,29 @@ struct Integer {
     }
 };
 
-// Frame is a check being evaluated: the called one, or one that another calls.
+// Frame is the state of a check that is being evaluated, which is the called check or one that another check
+// calls.
 struct Frame {
     const Check& check;
     std::vector<Operand> slots;
     Operand item = {};
-    const Operand* list = nullptr;  // of the item
+    const Operand* list = nullptr;  // the list that contains the item
     std::string_view rest = {};     // what follows the separator after the item
     long long index = 0;
     bool is_last_item = false;
-    const std::vector<std::string_view>* row = nullptr;  // of a table, the last that was found
-    bool is_called = false;                              // this is the called check, whose writes are kept
+    const std::vector<std::string_view>* row = nullptr;  // the row of a table that was found last
+    bool is_called = false;                              // true for the called check, whose writes are kept
     int code = 0;
     bool is_refusal = false;
 };
 
-// Ended is thrown if the contract leaves the result of a call open.
+// Ended is thrown if the contract does not define the result of a call.
 struct Ended {
     Outside outside;
     Place place = {};
 };
 
-// place_piece turns a copy of a text into part of it, with its place and without a name.
+// place_piece changes piece, a copy of whole, to the given part of it. The part has a place but no name.
 void place_piece(Operand& piece, const Operand& whole, std::string_view text);
 
 class Run {
@@ -101,7 +102,7 @@ class Run {
 
     Frame called_with(std::span<const Value> values);
 
-    // Operands. Values in the frame are not copied; others are created in room.
+    // Operands. Values in the frame are not copied; all other values are created in room.
     const Operand& operand(const Expression& expression, Frame& frame, Operand& room);
     const Operand& text(const Expression& expression, Frame& frame, Operand& room);  // never NULL
     Operand made(const Expression& expression, Frame& frame);
@@ -111,10 +112,10 @@ class Run {
     Operand computed(const Expression& expression, Frame& frame);
     std::string_view keep(std::string text) { return kept_.emplace_front(std::move(text)); }
 
-    // Conditions. If a reason is requested, it is stored in reason_.
+    // Conditions. If reason is not NULL, the reason is stored there.
     static bool same(std::string_view a, std::string_view b, bool ignores_case);
-    static std::size_t common(std::string_view text,
-                              const Condition& prefixes);  // in bytes, with the best one
+    // common returns the number of bytes that the string has in common with the best of the prefixes.
+    static std::size_t common(std::string_view text, const Condition& prefixes);
     bool holds(const Condition& condition, Frame& frame, Reason* reason);
     bool holds_at_all(const Condition& condition, Frame& frame, Reason* reason);
     bool text_holds(const Condition& condition, Frame& frame, Reason* reason);
@@ -144,14 +145,14 @@ class Run {
     const Build& build_;
     Counts* counts_;
     Answer& answer_;
-    Reason& reason_;                        // of the current step, or of the one that decided
-    std::vector<std::string_view> blocks_;  // of the argument with several texts
+    Reason& reason_;                        // for the current step, or for the one that determined the result
+    std::vector<std::string_view> blocks_;  // the strings of the argument that has several
     std::forward_list<std::string> kept_;
     bool is_printing_ = false;
-    const std::vector<Line>* fault_lines_ = nullptr;  // of the group at fault
-    int its_code_ = 0;                                // of the last check that was called
+    const std::vector<Line>* fault_lines_ = nullptr;  // the lines of the group at fault
+    int its_code_ = 0;                                // the code of the check that was called last
     bool hides_secrets_ = false;
-    bool is_silent_ = false;  // output and writes are not wanted
+    bool is_silent_ = false;  // the answer contains neither output nor the final contents of arguments
     std::uint64_t bytes_left_ = std::numeric_limits<std::uint64_t>::max();
 };
 

@@ -204,7 +204,7 @@ Reason without_trace_of_secret(Reason reason, const Check& check)
 {
     const bool is_secret = reason.argument && check.arguments[*reason.argument].is_secret;
     if (!is_secret) return reason;
-    // A number is kept only if it counts something; others were read from the text.
+    // A number is kept only if it is a count. Any other number was read from the secret.
     const bool is_read = reason.read_as || reason.id.starts_with("number_");
     if (is_read || !std::holds_alternative<long long>(reason.found)) reason.found = std::monostate();
     reason.read_as.reset();

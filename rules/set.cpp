@@ -15,7 +15,7 @@ struct Group {
     std::string_view words;
 };
 
-// The order in which groups are named. The members of a group are excluded from later groups.
+// Groups are named in this order. The members of a group are excluded from later groups.
 constexpr Group kGroups[] = {
     {kLatin1, "printable Latin-1 characters"},
     {kPrintable, "printable ASCII characters"},
@@ -36,7 +36,7 @@ constexpr std::string_view kAnd = " and ";
 constexpr std::string_view kComma = ", ";
 constexpr std::string_view kTo = " to ";
 
-// Parts joins names: "letters, digits and -".
+// Parts joins names, as in "letters, digits and -".
 class Parts {
  public:
     void add(std::string_view part)
@@ -59,7 +59,8 @@ class Parts {
     std::size_t last_ = 0;  // the offset of the last comma
 };
 
-// add_runs adds runs of at least four bytes by their ends, one part each, and the other bytes as one part.
+// add_runs adds each run of at least four bytes as one part that names its two ends, and all other bytes as
+// one part.
 void add_runs(const std::string& members, Parts& parts)
 {
     std::string single;

@@ -1,4 +1,4 @@
-// Set: a set of bytes, and its name in words.
+// Sets of bytes, and their descriptions in words.
 #ifndef OSTREL_RULES_SET_H
 #define OSTREL_RULES_SET_H
 
@@ -63,16 +63,16 @@ class Set {
     std::array<std::uint64_t, 4> bits_{};
 };
 
-// in_words names the members: "letters, digits and - . _".
+// in_words describes the members, as in "letters, digits and - . _".
 std::string in_words(const Set& set);
 
-// bare shows a byte, as \x9F or \x20 if it is invisible.
+// bare returns a byte as it is or, if it is invisible, in the form \x9F or \x20.
 std::string bare(char byte);
 
-// set_words lists the phrases of in_words.
+// set_words returns the fixed phrases that in_words uses.
 std::vector<std::string_view> set_words();
 
-// byte_in_words shows a byte in a sentence: "x", a space, a quotation mark, \x9F.
+// byte_in_words returns a byte in the form that sentences use: "x", a space, a quotation mark, \x9F.
 std::string byte_in_words(char byte);
 
 }  // namespace ostrel::rules

@@ -1,4 +1,4 @@
-// The sets of the descriptions, written independently of the library.
+// The sets that the descriptions use, written independently of the library.
 #ifndef OSTREL_RULES_SETS_H
 #define OSTREL_RULES_SETS_H
 

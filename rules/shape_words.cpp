@@ -29,7 +29,7 @@ std::string group_in_words(const Group& group)
     return count + (is_plain && set.ends_with('s') ? " " : " of ") + set;
 }
 
-// merged combines adjacent groups of the same set.
+// merged combines adjacent groups that have the same set.
 Shape merged(const Shape& shape)
 {
     Shape result;
@@ -44,7 +44,7 @@ Shape merged(const Shape& shape)
     return result;
 }
 
-// alternates returns true if every other group is the same, from the first to the last.
+// alternates returns true if a shape alternates between two groups, and ends with the first of them.
 bool alternates(const Shape& shape)
 {
     if (shape.size() < 5 || shape.size() % 2 == 0) return false;

@@ -12,7 +12,7 @@ std::vector<Step> judge_last_octet(const char* address)
     return {refuse(-1, below(last_octet(address), 1)), refuse(-1, above(last_octet(address), 254))};
 }
 
-// For an address that is wrong only in its last octet, the reason has the limit of that octet, which is lower than 255.
+// If only the last octet of an address is wrong, the reason states the limit of that octet, which is 254.
 Step refuse_highest_octet(const char* address)
 {
     return when(all_of({not_(outside(address, kIpv4)), among(items(address, "."), {4}),
@@ -25,7 +25,8 @@ Step judge_subnet(const char* address)
     return refuse(-1, refused_by("isInSameSubnet", {"lanAddress", address}));
 }
 
-// A repetition counts anywhere in the rest, provided that the rest ends, or has a comma, at the length of the item.
+// An item is repeated if it occurs anywhere in the rest, but only if the rest ends, or has a comma, at the
+// offset that is equal to the length of the item.
 Condition repeats_item()
 {
     return all_of({not_(last_item()),

@@ -1,4 +1,4 @@
-// Term: an expression over unknown arguments: a part of one of them, or unknown.
+// The value of an expression over unknown arguments, which may be a part of one of them or unknown.
 #ifndef OSTREL_RULES_TERM_H
 #define OSTREL_RULES_TERM_H
 
@@ -14,17 +14,17 @@ struct Term {
     enum class Kind {
         kUnset,    // not remembered yet
         kUnknown,  // depends on the variables
-        kPart,     // of the variable, after all cuts in order
-        kLength,   // the size of such a part, plus number
-        kCount,    // how often the byte occurs in such a part, plus number
+        kPart,     // the part of the variable that remains after all cuts, in order
+        kLength,   // the length of such a part, plus number
+        kCount,    // the number of times that the byte occurs in such a part, plus number
         kText,     // a literal
         kNumber,   // a literal
-        kDays,     // the number of days in a month; of has the year and the month
+        kDays,     // the number of days in a month; of contains the year and the month
         kSet,      // a literal
     };
 
     Kind kind = Kind::kUnset;
-    Variables variables = {};  // on which it depends
+    Variables variables = {};  // the variables on which the term depends
     std::size_t variable = 0;
     bool is_integer = false;  // the variable is an int
     std::vector<Cut> cuts = {};

@@ -1,4 +1,4 @@
-// Conditions of texts: words, sets and shapes.
+// String conditions: words, sets and shapes.
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ using Kind = Condition::Kind;
 
 constexpr auto kMissing = std::string_view::npos;
 
-// A search compares this many bytes of the part at once, in the worst case at every offset.
+// A search compares this many bytes of the part at a time and, in the worst case, does so at every offset.
 constexpr std::size_t kQuickBytes = 16;
 
 std::string one_byte(std::string_view text, std::size_t offset)
@@ -20,13 +20,13 @@ std::string one_byte(std::string_view text, std::size_t offset)
     return std::string(text.substr(offset, 1));
 }
 
-// Progress is how far a text matches a shape.
+// Progress is how far a string matches a shape.
 struct Progress {
     bool is_whole = false;
-    bool may_end = false;  // at the offset
+    bool may_end = false;  // the string may end at the offset
     std::size_t offset = 0;
     Set expected;
-    const Group* group = nullptr;  // the one that fails
+    const Group* group = nullptr;  // the group that does not match
 };
 
 Progress match(std::string_view text, const Shape& shape)

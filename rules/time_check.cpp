@@ -94,14 +94,14 @@ const Table& zones()
     return kZones;
 }
 
-// Sizes of the longest offset and the longest name, with terminators.
+// The sizes of the longest offset and the longest name, including their terminators.
 constexpr int kOffsetRoom = 7;
 constexpr int kNameRoom = 55;
 
 using Lines = std::vector<Line>;
 
-// A substring of an offset or a name is sufficient to fill in the other, but for the two to agree the offset must be
-// complete.
+// If one value is empty, it is filled in, for which a substring of the other is sufficient. If both are
+// given, the offset must be complete.
 Check zone_and_name()
 {
     const Effects no_name =
@@ -158,7 +158,7 @@ Line not_printable()
     return line("Error in TIME_check_ascii_string: <value> is not printable ascii string\n");
 }
 
-// A value that is empty or not printable is reported, but accepted.
+// A value that is empty or not printable is accepted, but a message is printed.
 Check printable(std::string_view name, std::string_view what, Step refusal)
 {
     const Condition is_refused = refused_by("PARAM_check_printable_ascii_string");

@@ -1,4 +1,4 @@
-// Texts and numbers in words.
+// Strings and numbers in words.
 #include "rules/datum.h"
 #include "rules/phrases.h"
 
@@ -22,7 +22,7 @@ std::string Speaker::number(const Expression& expression) const
     return (is_named ? "" : "the number in ") + value(expression);
 }
 
-// The name of a part is followed by a description of the part.
+// value names a part and adds a description of it.
 std::string Speaker::value(const Expression& expression) const
 {
     const std::string_view part = expression.part;

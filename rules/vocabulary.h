@@ -1,7 +1,7 @@
-// The vocabulary as data: the elements of a description. words.h has the functions that create them.
+// The data types of which a description consists. words.h declares the functions that create the data.
 //
-// A check has steps, a step has a condition and further steps, a condition has expressions. Texts are literals or live
-// as long as the program.
+// A check consists of steps. A step may have a condition and steps of its own, and a condition has
+// expressions. Strings are literals, or exist until the program ends.
 #ifndef OSTREL_RULES_VOCABULARY_H
 #define OSTREL_RULES_VOCABULARY_H
 
@@ -17,14 +17,14 @@
 
 namespace ostrel::rules {
 
-// Code is the result of a check: a number, or the result of the other check in the condition.
+// Code is the result that a step returns: a number, or the result of the check that its condition calls.
 struct Code {
     Code(int fixed) : number(fixed) {}
     Code(Expression computed) : number(std::move(computed)) {}
 
     Expression number;
-    bool is_its = false;                              // that of the other check
-    std::vector<std::pair<int, int>> exchanges = {};  // of its codes: one is returned as another
+    bool is_its = false;                              // the result of the other check is returned
+    std::vector<std::pair<int, int>> exchanges = {};  // codes of the other check, and their replacements
 
     [[nodiscard]] int exchanged(int code) const
     {
@@ -42,26 +42,26 @@ struct Write {
     bool is_terminated = true;
 };
 
-// List is the list over which a step iterates.
+// List is a list over which a step iterates.
 struct List {
     Expression of;
-    char separator = '\0';  // none: the keys of a block
-    Set trimmed =
-        {};  // bytes that are removed from both ends of each item, and from the beginning of the rest
-    std::string_view part = {};  // the name of an item in sentences; empty: it is the item of a list
+    char separator = '\0';  // '\0' if the items are the keys of a block
+    // These bytes are removed from both ends of each item, and from the beginning of the rest.
+    Set trimmed = {};
+    std::string_view part = {};  // the name of an item in sentences; if empty, "item"
 };
 
 struct Step {
     enum class Kind {
-        kRefuse,    // if the condition holds: prints and returns the code, with the reason of the condition
-        kAccept,    // if the condition holds: prints, writes and returns the code, which is not a refusal
-        kPrint,     // if the condition holds: prints and continues
-        kSkip,      // if the condition holds: prints, writes and continues with the next item
-        kWrite,     // writes and continues
-        kRemember,  // stores a text or a number under a name
-        kWhen,      // steps if the condition holds, otherwise the other steps
-        kForEach,   // steps for each item
-        kReads,     // from here on NULL is a memory fault or, with a name, a failed assertion that prints it
+        kRefuse,        // if the condition holds: prints and returns the code, with the condition's reason
+        kAccept,        // if the condition holds: prints, writes and returns the code, which is not a refusal
+        kPrint,         // if the condition holds: prints and continues
+        kSkip,          // if the condition holds: prints, writes and continues with the next item
+        kWrite,         // writes and continues
+        kRemember,      // stores a string or a number under a name
+        kWhen,          // if the condition holds: executes the steps, and otherwise the other steps
+        kForEach,       // executes the steps for each item
+        kReads,         // from here on, NULL is a memory fault or, if name is set, fails this assertion
         kNeverReturns,  // if the condition holds, the call does not return
     };
 
@@ -76,15 +76,15 @@ struct Step {
     std::vector<Step> steps = {};
     std::vector<Step> otherwise = {};
 
-    std::size_t number = 0;  // in its check: set at registration
-    std::size_t slot = 0;    // of a remembered value
+    std::size_t number = 0;  // the step's number in its check; set at registration
+    std::size_t slot = 0;    // the index of the remembered value
 };
 
 struct Argument {
     enum class Kind {
-        kText,        // only read
-        kBuffer,      // a text that is read and written
-        kBlocks,      // several texts at a fixed distance, read and written
+        kText,        // a string that is only read
+        kBuffer,      // a string that is read and written
+        kBlocks,      // several strings at a fixed distance, which are read and written
         kInteger,     // an int
         kUnsigned,    // an unsigned
         kIntegerOut,  // an int that is only written
@@ -92,14 +92,14 @@ struct Argument {
 
     std::string_view name;
     Kind kind = Kind::kText;
-    std::string_view what = {};           // for the user
-    std::string_view unit = {};           // of a number
-    bool is_secret = false;               // not to be shown or logged
-    bool is_output = false;               // a buffer of which nothing is read
-    std::string_view asserted = {};       // the condition that a failed assertion prints; empty: none
-    std::optional<Expression> room = {};  // size that a buffer must have; none: that of its text
+    std::string_view what = {};           // a description for the user
+    std::string_view unit = {};           // the unit of the number
+    bool is_secret = false;               // must not be shown or logged
+    bool is_output = false;               // a buffer that is not read
+    std::string_view asserted = {};       // the condition that a failed assertion prints for NULL, or empty
+    std::optional<Expression> room = {};  // the size that a buffer must have, if not the size of its string
     std::size_t blocks = 1;
-    std::size_t block_size = 0;  // bytes from one text to the next
+    std::size_t block_size = 0;  // the distance between two strings in bytes
 
     [[nodiscard]] bool is_number() const { return kind == Kind::kInteger || kind == Kind::kUnsigned; }
 
@@ -107,19 +107,19 @@ struct Argument {
     [[nodiscard]] bool is_only_written() const { return is_output || kind == Kind::kIntegerOut; }
 };
 
-// Check describes one exported function. After the last step it returns 0.
+// Check describes one exported function. If no step returns a result, the function returns 0.
 struct Check {
     std::string_view name;
     std::vector<Argument> arguments;
     std::vector<Step> steps;
-    bool is_verdict = true;  // otherwise it returns a number instead of a result code
+    bool is_verdict = true;  // the result is a result code; otherwise it is a number
 
     // Set at registration.
     std::string_view module = {};
-    std::size_t slots = 0;  // arguments and remembered values
+    std::size_t slots = 0;  // the number of arguments and remembered values
     std::size_t step_count = 0;
     std::size_t condition_count = 0;
-    std::size_t number = 0;  // among all checks
+    std::size_t number = 0;  // the index among all checks
 };
 
 }  // namespace ostrel::rules

@@ -64,7 +64,7 @@ void add(std::vector<T>& all, T one)
     if (std::ranges::find(all, one) == all.end()) all.push_back(std::move(one));
 }
 
-// Keywords finds the words of one argument. A slot that is not known to be the argument is another text.
+// Keywords finds the words for one argument. Slots that are not known to contain this argument are ignored.
 class Keywords {
  public:
     Keywords(const Check& check, std::size_t argument, const Build& build)
@@ -74,13 +74,14 @@ class Keywords {
         walk(check.steps);
     }
 
-    std::vector<std::string> words;        // in judging steps
-    std::vector<std::string> other_words;  // in conditions that distinguish cases
+    std::vector<std::string> words;        // from steps that refuse or accept
+    std::vector<std::string> other_words;  // from conditions that distinguish cases
 
  private:
     using Kind = Condition::Kind;
 
-    // is_model returns true for a condition that the product model satisfies.
+    // is_model returns whether the product model satisfies a condition, or nullopt if that is not what it
+    // tests.
     [[nodiscard]] std::optional<bool> is_model(const Condition& condition) const
     {
         const bool asks =
@@ -110,7 +111,8 @@ class Keywords {
         }
     }
 
-    // look adds the allowed words if the condition must hold, or must fail; or both, if it distinguishes cases.
+    // look adds the words that are allowed if the condition must hold or must fail. If the condition
+    // distinguishes cases, it adds all words.
     void look(const Condition& condition, std::optional<bool> holds)
     {
         for (const Condition& part : condition.parts) look(part, holds);

@@ -1,4 +1,4 @@
-// Walk: properties of a description that follow from its steps.
+// Properties of a description that follow from its steps.
 #ifndef OSTREL_RULES_WALK_H
 #define OSTREL_RULES_WALK_H
 
@@ -19,14 +19,15 @@ bool may_not_return(const Check& check);
 // asks_driver returns true if a check queries the wireless driver for its channels.
 bool asks_driver(const Check& check);
 
-// tables lists the tables in the conditions of a check.
+// tables returns the tables that a check's conditions use.
 std::vector<const Table*> tables(const Check& check);
 
 // is_written returns true for an argument that a function may write to.
 bool is_written(const Argument& argument);
 
-// keywords lists the words and numbers that an argument, or an item of it, may be, in the order of the steps; if no
-// step judges them, those that distinguish cases. Which of them are allowed may depend on other arguments.
+// keywords returns the words and numbers that steps allow for an argument or its items, in the order of the
+// steps. If no step does so, it returns those that distinguish cases. Which of them are allowed may depend on
+// other arguments.
 std::vector<std::string> keywords(const Check& check, std::size_t argument, const Build& build);
 
 }  // namespace ostrel::rules

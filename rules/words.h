@@ -1,4 +1,4 @@
-// The functions in which descriptions are written. README.md lists them.
+// The functions with which descriptions are written. README.md explains them.
 #ifndef OSTREL_RULES_WORDS_H
 #define OSTREL_RULES_WORDS_H
 
@@ -12,14 +12,14 @@
 
 namespace ostrel::rules {
 
-// Words and Numbers are the members of a condition.
+// Words and Numbers are the alternatives that a condition lists.
 using Words = std::vector<std::string_view>;
 using Numbers = std::vector<long long>;
 
-// it is the default subject: the item of a list, or else the first argument.
+// it is the default subject, which is the item of a list or else the first argument.
 inline constexpr char it[] = "";
 
-// Texts and numbers.
+// Strings and numbers.
 inline Expression make(Expression::Kind kind, std::vector<Expression> of) { return {kind, std::move(of)}; }
 Expression literal(std::string_view text);
 Expression converted(const Conversion& conversion, Expression text);
@@ -36,16 +36,16 @@ Expression through_last(Expression text, std::string_view separator);
 Expression slice(Expression text, Expression offset);
 Expression slice(Expression text, Expression offset, Expression count);
 Expression joined(std::initializer_list<Expression> texts);
-Expression called(std::string_view part, Expression piece);  // the name of the piece in sentences
+Expression called(std::string_view part, Expression piece);  // part is the name of the piece in sentences
 Expression length(Expression text = it);
 Expression count(Expression text, Expression byte);
-Expression items(Expression text, std::string_view separator);  // their number
+Expression items(Expression text, std::string_view separator);  // the number of items
 Expression sum(std::initializer_list<Expression> numbers);
 Expression larger(std::initializer_list<Expression> numbers);
-Expression days(Expression year, Expression month);  // of a month; 0 for none
-Expression cell(int column);                         // of the last row that was found
+Expression days(Expression year, Expression month);  // 0 if the month is invalid
+Expression cell(int column);                         // the cell in the row that was found last
 
-// Conditions. Without a text they judge the default subject.
+// Conditions. If no string or number is given, they test the default subject.
 Condition always();
 Condition null(Expression argument);
 Condition empty(Expression text = it);
@@ -118,7 +118,7 @@ Group some(const Set& set, std::size_t least, std::size_t most);
 Group printing(Group group, Line line);
 
 // Lines.
-inline Line line(std::string_view text) { return {text}; }  // and all streams are flushed
+inline Line line(std::string_view text) { return {text}; }  // all streams are flushed afterwards
 inline Line unflushed(std::string_view text) { return {text, Line::Stream::kOut, false}; }
 inline Line to_stderr(std::string_view text) { return {text, Line::Stream::kErr, false}; }
 
@@ -138,7 +138,7 @@ struct Effects {
 
 // Steps.
 Code its_code();                                                      // the result of the other check
-Code its_code(std::initializer_list<std::pair<int, int>> exchanges);  // with some codes exchanged
+Code its_code(std::initializer_list<std::pair<int, int>> exchanges);  // the same with some codes replaced
 Step refuse(Code code, Condition condition, Effects effects = {});
 Step accept(Condition condition = always(), Effects effects = {});
 Step answer(Code code, Condition condition = always(), Effects effects = {});
@@ -149,7 +149,7 @@ Step remember(std::string_view name, Expression value);
 Step when(Condition condition, std::vector<Step> steps, std::vector<Step> otherwise = {});
 Step for_each(List list, std::vector<Step> steps);
 Step reads(Expression argument);
-Step asserts(Expression argument, std::string_view condition);  // which is printed for NULL
+Step asserts(Expression argument, std::string_view condition);  // the condition is printed for NULL
 Step never_returns(Condition condition);
 List list_of(Expression text, char separator, const Set& trimmed = {}, std::string_view called = {});
 List keys_of(Expression blocks);
@@ -157,13 +157,13 @@ List keys_of(Expression blocks);
 // joined_steps concatenates lists of steps that checks share.
 std::vector<Step> joined_steps(std::initializer_list<std::vector<Step>> lists);
 
-// Arguments. Properties are added with methods: text("value", "a password").secret().
+// Arguments. Properties are added with methods, as in text("value", "a password").secret().
 struct ArgumentWords : Argument {
-    ArgumentWords&& in(std::string_view text) &&;  // its unit
+    ArgumentWords&& in(std::string_view text) &&;  // the unit of the number
     ArgumentWords&& secret() &&;
     ArgumentWords&& asserts(std::string_view text) &&;  // the condition that is printed for NULL
-    ArgumentWords&& needs(Expression bytes) &&;         // the size of a buffer
-    ArgumentWords&& output() &&;                        // nothing of the buffer is read
+    ArgumentWords&& needs(Expression bytes) &&;         // the size that the buffer must have
+    ArgumentWords&& output() &&;                        // the buffer is not read
 };
 ArgumentWords text(std::string_view name, std::string_view what);
 ArgumentWords buffer(std::string_view name, std::string_view what);
@@ -172,7 +172,7 @@ ArgumentWords integer(std::string_view name, std::string_view what);
 ArgumentWords natural(std::string_view name, std::string_view what);
 ArgumentWords integer_out(std::string_view name, std::string_view what);
 
-// The whole.
+// Complete descriptions. A check returns a result code, and a number returns a number.
 Check check(std::string_view name, std::vector<ArgumentWords> arguments, std::vector<Step> steps);
 Check number(std::string_view name, std::vector<ArgumentWords> arguments, std::vector<Step> steps);
 std::vector<Check> joined_checks(std::initializer_list<std::vector<Check>> lists);

@@ -5,8 +5,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// A text of any length is added to an empty list, without a terminator. In any other list a comma and a terminator are
-// also written, so 159 bytes need 161.
+// A value of any length is added to an empty list, without a terminator. In any other list, a comma and a
+// terminator are also written, so that 159 bytes of addresses need a buffer of 161 bytes.
 Check add_allowed_address()
 {
     const Line existed = line(
@@ -20,7 +20,7 @@ Check add_allowed_address()
         {refuse(-1, null("macAddress")), refuse(-1, null("allowedList")),
          accept(empty("allowedList"), Write{"allowedList", "macAddress", false}),
          refuse(-1, empty("macAddress"), existed), refuse(-1, contains("allowedList", "macAddress"), existed),
-         // A list of one byte leaves room for 158; these are all lengths that can be added.
+         // A list of one byte leaves room for 158 bytes, so these are all the lengths that can be added.
          refuse(-1,
                 all_of({not_(multiple(sum({length("macAddress"), 1}), 18)),
                         length_not({17, 35, 53, 71, 89, 107, 125, 143})}),
@@ -38,7 +38,7 @@ Step refuse_repeated(const char* added, const char* existing)
     return refuse(701, because("already_listed", equal(added, existing)));
 }
 
-// One of two servers may be empty; it repeats another empty one.
+// One of the two servers may be empty, but not if one in the list is empty too.
 std::vector<Step> refuse_repeated_of_two(const char* added)
 {
     return {refuse(701, all_of({any_of({equal(added, "first"), equal(added, "second")}),
@@ -46,7 +46,7 @@ std::vector<Step> refuse_repeated_of_two(const char* added)
             refuse_repeated(added, "first"), refuse_repeated(added, "second")};
 }
 
-// A single new server is compared with the existing list as a whole.
+// A single new server is compared with the whole of the existing list.
 Check add_dns_servers()
 {
     const auto has_two = [](const char* list) { return contains(list, literal(",")); };
@@ -75,7 +75,8 @@ Check add_dns_servers()
               {refuse_repeated("newServers", "existingServers")})});
 }
 
-// The comparison with the first server is inverted: a text of the same length may be deleted unless it is that server.
+// The comparison with the first server is inverted, so a value of the same length may be deleted unless it is
+// that server.
 Check delete_dns_server()
 {
     const Effects not_found = line(

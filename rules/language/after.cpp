@@ -1,4 +1,4 @@
-// The continuations of a text after its first byte.
+// The continuations of strings after the first byte.
 #include "rules/language/language.h"
 
 namespace ostrel::rules {

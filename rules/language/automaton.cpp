@@ -8,8 +8,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// Classes partitions the bytes by the sets for the first byte of a text. All bytes of a class have the same
-// continuations.
+// Classes divides the bytes into classes by the sets that occur for the first byte of a string. All bytes in
+// a class have the same continuations.
 class Classes {
  public:
     Classes(const Languages& languages, Language one) : languages_(languages) { look_at(one); }
@@ -50,8 +50,9 @@ char first_of(const Set& set)
     return static_cast<char>(byte);
 }
 
-// explore follows a language byte by byte. Its states are languages: the possible continuations of the bytes so far. It
-// returns nothing if there are too many states or, with must_be_empty, when it finds a text.
+// explore follows a language byte by byte. Each state is a language, which contains the possible
+// continuations of the bytes so far. explore returns nothing if there are too many states or, with
+// must_be_empty, if it finds a string.
 std::optional<Automaton> explore(Languages& languages, Language one, bool must_be_empty)
 {
     Automaton result;

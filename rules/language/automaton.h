@@ -1,4 +1,4 @@
-// Automaton: a language as states, by which its texts can be counted, measured and compared.
+// Finite automata for languages, with which strings can be counted and measured and languages compared.
 #ifndef OSTREL_RULES_LANGUAGE_AUTOMATON_H
 #define OSTREL_RULES_LANGUAGE_AUTOMATON_H
 
@@ -18,32 +18,32 @@ struct Automaton {
     };
     struct State {
         bool accepts = false;
-        std::vector<Arrow> arrows = {};  // one for each byte
+        std::vector<Arrow> arrows = {};  // each byte is in exactly one arrow
     };
 
     std::vector<State> states;  // the first is the start
 };
 
-// Summary contains the common properties of all texts of a language.
+// Summary contains the properties that all strings in a language have in common.
 struct Summary {
     bool is_empty = true;
     std::size_t shortest = 0;
-    std::optional<std::size_t> longest;             // none: unlimited
-    Set bytes = {};                                 // that occur
-    std::vector<long long> lengths = {};            // if there is a longest
-    std::optional<std::vector<std::string>> texts;  // all, if they are few
+    std::optional<std::size_t> longest;             // unset if the length is not limited
+    Set bytes = {};                                 // all bytes that occur
+    std::vector<long long> lengths = {};            // all lengths that occur, if the length is limited
+    std::optional<std::vector<std::string>> texts;  // all strings, if there are only a few
 };
 
-// kMostStates limits the size. A language that needs more states is treated as unknown.
+// kMostStates limits the size of an automaton. A language that needs more states is treated as unknown.
 inline constexpr std::size_t kMostStates = 20000;
 
 std::optional<Automaton> automaton_of(Languages& languages, Language one);
 std::optional<Summary> summary_of(Languages& languages, Language one);
 
-// is_empty returns true if the language is known to have no text.
+// is_empty returns true if the language is known to contain no string.
 bool is_empty(Languages& languages, Language one);
 
-// includes returns true if every text of the other is known to be in it.
+// includes returns true if every string in other is known to be in one.
 bool includes(Languages& languages, Language one, Language other);
 
 }  // namespace ostrel::rules

@@ -1,4 +1,4 @@
-// Intervals: a set of integers.
+// Sets of integers, as intervals.
 #ifndef OSTREL_RULES_LANGUAGE_INTERVALS_H
 #define OSTREL_RULES_LANGUAGE_INTERVALS_H
 
@@ -17,7 +17,7 @@ struct Interval {
 
 class Intervals {
  public:
-    // Bounds that mean no limit.
+    // These bounds mean that there is no limit.
     static constexpr long long kLowest = std::numeric_limits<long long>::min();
     static constexpr long long kHighest = std::numeric_limits<long long>::max();
 
@@ -30,13 +30,13 @@ class Intervals {
     Intervals operator~() const;
     bool operator==(const Intervals&) const = default;
 
-    // moved adds a number to each member.
+    // moved returns the set with a number added to each member.
     [[nodiscard]] Intervals moved(long long by) const;
 
     [[nodiscard]] bool contains(long long number) const;
     [[nodiscard]] bool empty() const { return parts_.empty(); }
 
-    // parts are sorted, with a gap between any two.
+    // parts are sorted and have a gap between any two.
     [[nodiscard]] const std::vector<Interval>& parts() const { return parts_; }
     [[nodiscard]] long long low() const { return parts_.front().low; }
     [[nodiscard]] long long high() const { return parts_.back().high; }

@@ -1,4 +1,4 @@
-// Languages composed of others, each stored once.
+// Languages composed of other languages, each stored once.
 #include "rules/language/language.h"
 
 #include <algorithm>

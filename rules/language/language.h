@@ -1,7 +1,8 @@
-// Languages: sets of texts, composed of bytes, sequences, choices, repetitions, intersections and complements.
+// Languages are sets of strings, composed of bytes, sequences, choices, repetitions, intersections and
+// complements.
 //
-// Equal languages are stored once. A language that comes from a condition is kept as a leaf: a length, a number,
-// keywords. Numbers are read as by atoi, but without a limit.
+// Equal languages are stored once. A language that represents a condition, such as a length, a number or
+// keywords, is kept as a leaf. Numbers are read as atoi reads them, but without limits.
 #ifndef OSTREL_RULES_LANGUAGE_LANGUAGE_H
 #define OSTREL_RULES_LANGUAGE_LANGUAGE_H
 
@@ -27,20 +28,20 @@ struct Language {
     bool operator==(const Language&) const = default;
 };
 
-// kEveryByte contains every byte that a text can contain.
+// kEveryByte contains every byte that a string can contain.
 inline constexpr Set kEveryByte = Set::range(1, 255);
 
-// Cut extracts part of a text, like the expression of that name.
+// Cut extracts part of a string, like an expression of this kind.
 struct Cut {
     Expression::Kind kind;
     std::string separator;
-    std::size_t offset = 0;  // of a slice
+    std::size_t offset = 0;  // used only for a slice, as is count
     std::size_t count = 0;
 
     bool operator==(const Cut&) const = default;
 };
 
-// Run is a number of bytes of one set, like a group of a shape.
+// Run matches from least to most bytes of one set, like a group of a shape.
 struct Run {
     Set characters;
     std::size_t least = 1;
@@ -54,17 +55,17 @@ struct Leaf {
     enum class Kind {
         kLength,  // the number of bytes is one of numbers
         kNumber,  // the number that atoi reads is one of numbers
-        kCount,   // the byte occurs that often
-        kWords,   // it is one of words
-        kPrefix,  // it begins with one of words
-        kShape,   // it has one of shapes
-        kWithin,  // its part is in the inner language
+        kCount,   // the number of times that the byte occurs is one of numbers
+        kWords,   // the string is one of words
+        kPrefix,  // the string begins with one of words
+        kShape,   // the string has one of shapes
+        kWithin,  // the part that cut extracts is in the inner language
         kItems,   // each item is in the inner language
     };
 
     Kind kind;
     Intervals numbers = {};
-    char byte = '\0';  // or the separator of items
+    char byte = '\0';  // the byte that is counted, or the separator of items
     std::vector<std::string> words = {};
     bool ignores_case = false;
     std::vector<Runs> shapes = {};
@@ -75,15 +76,15 @@ struct Leaf {
 
 struct Node {
     enum class Kind {
-        kNothing,  // no text
-        kNoByte,   // the empty text
+        kNothing,  // no string
+        kNoByte,   // only the empty string
         kByte,     // one byte of the set
-        kJoined,   // the first of two, then the second
+        kJoined,   // a string of the first part followed by a string of the second
         kEither,
         kBoth,
         kNot,
-        kRepeated,  // from least to most times
-        kLeaf,      // equal to its only part
+        kRepeated,  // from least to most strings of the part
+        kLeaf,      // the same strings as its only part
     };
 
     Kind kind;
@@ -92,7 +93,7 @@ struct Node {
     std::size_t least = 0;
     std::size_t most = 0;
     std::size_t leaf = 0;
-    bool takes_empty = false;  // the empty text is in it
+    bool takes_empty = false;  // the language contains the empty string
 };
 
 class Languages {
@@ -107,8 +108,8 @@ class Languages {
     Language byte(const Set& set);
     Language text(std::string_view text, bool ignores_case = false);
     Language joined(Language first, Language second);
-    // Computed parts are passed as a list, which every compiler evaluates in order, so results do not depend on the
-    // compiler.
+    // This overload is for parts that calls compute. Every compiler evaluates a list in order, so the results
+    // do not depend on the compiler.
     Language joined(const std::vector<Language>& parts);
     Language either(const std::vector<Language>& parts);
     Language both(const std::vector<Language>& parts);
@@ -122,19 +123,19 @@ class Languages {
     Language with_count(char byte, const Intervals& times);
     Language words(const std::vector<std::string>& words, bool ignores_case);
     Language with_prefix(const std::vector<std::string>& words, bool ignores_case);
-    // Returns nothing for shapes for which matching from left to right has another result.
+    // of_shape returns nothing if matching from left to right has another result for one of the shapes.
     std::optional<Language> of_shape(const std::vector<Runs>& shapes);
-    // Returns nothing for a separator that can overlap with itself.
+    // within returns nothing if the separator can overlap with itself.
     std::optional<Language> within(const Cut& cut, Language inner);
     Language items(char separator, const Set& trimmed, Language inner);
 
-    // leap_years returns the texts that atoi reads as a leap year.
+    // leap_years returns the strings that atoi reads as a leap year.
     Language leap_years();
 
-    // decimals returns the numbers from 0, without leading zeros.
+    // decimals returns the numbers from low to high without leading zeros. low must not be negative.
     Language decimals(long long low, long long high);
 
-    // after returns the possible continuations after that byte.
+    // after returns the possible continuations of strings that begin with that byte.
     Language after(Language one, char byte);
     [[nodiscard]] bool contains(Language one, std::string_view text);
 

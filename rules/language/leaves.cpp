@@ -1,4 +1,4 @@
-// Conditions on a text, as languages.
+// String conditions as languages.
 
 #include <algorithm>
 
@@ -32,7 +32,7 @@ std::size_t limit(long long high)
 
 Intervals from_zero(const Intervals& numbers) { return numbers & Intervals(0, Intervals::kHighest); }
 
-// is_deterministic returns true if greedy matching without backtracking misses no text.
+// is_deterministic returns true if greedy matching without backtracking finds every string with the shape.
 bool is_deterministic(const Runs& shape)
 {
     for (std::size_t i = 0; i < shape.size(); ++i) {
@@ -45,7 +45,8 @@ bool is_deterministic(const Runs& shape)
     return true;
 }
 
-// overlaps returns true if some prefix of a text is also a suffix, so that two occurrences can share bytes.
+// overlaps returns true if some prefix of a string is also a suffix of it, so that two occurrences can share
+// bytes.
 bool overlaps(std::string_view text)
 {
     for (std::size_t size = 1; size < text.size(); ++size) {
@@ -170,7 +171,7 @@ Language Languages::items(char separator, const Set& trimmed, Language inner)
     const Set mark(std::string_view(&separator, 1));
     const Language core = byte(kEveryByte - trimmed);
     const Language trimming = repeated(trimmed);
-    // A trimmed item neither begins nor ends with a trimmed byte.
+    // After trimming, an item does not begin or end with a trimmed byte.
     const Language left = trimmed.empty() ? any_ : either({no_byte_, core, joined({core, any_, core})});
     const Language item =
         both({joined({trimming, both({inner, left}), trimming}), repeated(kEveryByte - mark)});

@@ -128,8 +128,9 @@ void Languages::merge_sets(Kind kind, std::vector<Language>& parts)
     flatten(kind, parts);
 }
 
-// drop_opposites replaces a list that contains a part and its opposite by all or no strings, and removes from a nested
-// list the parts that are opposites of other parts. It finds only opposites that have already been created.
+// drop_opposites replaces a list that contains a part and its opposite with all strings or none. It also
+// removes from a nested list the parts that are opposites of other parts. It finds only opposites that have
+// already been created.
 void Languages::drop_opposites(Kind kind, std::vector<Language>& parts)
 {
     const Kind inside = kind == Kind::kEither ? Kind::kBoth : Kind::kEither;

@@ -6,11 +6,11 @@ namespace ostrel::rules {
 
 namespace {
 
-const Set kWhite = Set::range('\t', '\r') | kBlank;  // what atoi skips
+const Set kWhite = Set::range('\t', '\r') | kBlank;  // skipped by atoi
 
 }  // namespace
 
-// direct_number handles numbers other than 0, which need digits.
+// direct_number handles numbers other than 0, for which a string must contain digits.
 Language Languages::direct_number(const Intervals& numbers)
 {
     const Language zeros = repeated(Set("0"));
@@ -46,7 +46,7 @@ Language Languages::leap_years()
     const Language digits = repeated(kDigits);
     const Set even("02468");
     const Language zero = text("0");
-    // The last two digits of a multiple of 4, other than 00.
+    // The last two digits of a multiple of 4, except 00.
     const Language last =
         either({joined({byte(even - Set("0")), zero}), joined({byte(even), byte(Set("48"))}),
                 joined({byte(kDigits - even), byte(Set("26"))})});
@@ -94,7 +94,7 @@ Language Languages::decimals(long long low, long long high)
     while (last.empty() || first.size() < last.size()) {
         const std::size_t rest = first.size() - 1;
         if (first == "1" + std::string(rest, '0')) {
-            // All numbers of these lengths.
+            // All numbers with these numbers of digits are in the range.
             const std::size_t most = last.empty() ? kMany : last.size() - 2;
             parts.push_back(joined({byte(kDigits - Set("0")), repeated(byte(kDigits), rest, most)}));
             if (last.empty()) return either(parts);

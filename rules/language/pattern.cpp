@@ -12,7 +12,8 @@ using Pattern = std::optional<std::string>;
 constexpr std::string_view kEnd = "(?![\\s\\S])";  // "$" would accept a line end
 constexpr std::string_view kNever = "(?!)";
 
-// Context describes the surroundings of a part of a text: the bytes that it can contain, and what follows it.
+// Context describes the bytes that a part of a string can contain, and the expression for what follows the
+// part.
 struct Context {
     Set bytes;
     std::string end;
@@ -25,7 +26,7 @@ class Writer {
  public:
     explicit Writer(Languages& languages) : languages_(languages) {}
 
-    // whole matches a part up to its end.
+    // whole returns a pattern that matches a part up to its end.
     Pattern whole(Language one, const Context& context)
     {
         if (const Pattern pattern = plain(one, context.bytes)) return then(*pattern, context.end);
@@ -60,7 +61,7 @@ class Writer {
         return leaf.kind == Leaf::Kind::kWithin && (leaf.cut.separator.size() == 1 || is_after);
     }
 
-    // same returns the language of a leaf that has no special notation.
+    // same returns an equal language without the leaf, if the leaf has no special notation.
     Language same(Language one)
     {
         const Leaf* leaf = languages_.leaf(one);
@@ -68,7 +69,7 @@ class Writer {
         return is_own ? one : languages_.node(one).of[0];
     }
 
-    // plain matches without a lookahead.
+    // plain returns a pattern without lookaheads, if there is one.
     Pattern plain(Language one, const Set& bytes)
     {
         const Node& node = languages_.node(one);
@@ -153,8 +154,8 @@ class Writer {
         return one.kind == Kind::kByte ? std::optional(one.set) : std::nullopt;
     }
 
-    // all_of matches one part and uses lookaheads for the others. Bytes that one part excludes can be ignored in the
-    // others.
+    // all_of returns a pattern that matches one part and has lookaheads for the other parts. Bytes that one
+    // part excludes can be ignored in the other parts.
     Pattern all_of(const std::vector<Language>& parts, const Context& context)
     {
         Context narrow = context;
@@ -220,7 +221,7 @@ class Writer {
     Pattern list(const Leaf& leaf, const Context& context)
     {
         const Set mark(std::string_view(&leaf.byte, 1));
-        // The end of an item is ambiguous if it may contain trimmed bytes.
+        // The end of an item is ambiguous if the item may contain trimmed bytes.
         const Language inside = languages_.repeated(kEveryByte - leaf.trimmed);
         if (!leaf.trimmed.empty() && !includes(languages_, inside, leaf.inner)) return std::nullopt;
         const std::string trimming = many(leaf.trimmed);

@@ -1,4 +1,4 @@
-// Patterns: languages as regular expressions of ECMA-262, which Python reads in the same way.
+// Languages as ECMA-262 regular expressions, which Python interprets in the same way.
 #ifndef OSTREL_RULES_LANGUAGE_PATTERN_H
 #define OSTREL_RULES_LANGUAGE_PATTERN_H
 
@@ -9,14 +9,15 @@
 
 namespace ostrel::rules {
 
-// pattern_of returns an expression that matches the texts of a language, with each byte as the character of the same
-// number. It is valid with and without the flag u. Some languages have none.
+// pattern_of returns an expression that matches the strings in a language, in which each byte is the
+// character with the same number. The expression is valid with and without the flag u. Some languages have no
+// such expression.
 std::optional<std::string> pattern_of(Languages& languages, Language one);
 
 // class_of returns an expression for one byte of the set.
 std::string class_of(const Set& set);
 
-// times_of returns the expression repeated.
+// times_of returns an expression for the given number of repetitions.
 std::string times_of(const std::string& one, std::size_t least, std::size_t most);
 
 }  // namespace ostrel::rules

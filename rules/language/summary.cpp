@@ -1,4 +1,4 @@
-// Common properties of all texts of a language.
+// The properties that all strings in a language have in common.
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kMostTexts = 40;
 
-// Measure examines the states from which the automaton can accept a text.
+// Measure examines the states from which the automaton can accept a string.
 class Measure {
  public:
     explicit Measure(const Automaton& automaton) : automaton_(automaton), lives_(find_living()) {}
@@ -65,7 +65,8 @@ class Measure {
         return result;
     }
 
-    // has_circle repeatedly removes states that no other state leads to.
+    // has_circle removes states to which no remaining state leads. If some cannot be removed, there is a
+    // circle.
     bool has_circle()
     {
         std::vector<std::size_t> arrows(lives_.size());

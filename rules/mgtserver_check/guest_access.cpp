@@ -5,8 +5,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// A malformed value above 0 prints the first line and returns its code; any value that is not above 0 returns the code
-// for the number, even if it is malformed.
+// For a malformed value, the first line is printed. The result is then 402 if the number is below 1, and
+// otherwise the code of ValidateString.
 Check guests()
 {
     const Condition is_malformed = refused_by("ValidateString", {1, 2, kDigits, "value"});

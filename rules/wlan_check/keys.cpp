@@ -5,7 +5,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// The pass phrase is never judged: it is ignored, or not accepted.
+// The pass phrase is ignored if there is a key. Without a key, it is refused.
 Check key_or_pass_phrase()
 {
     const Line of_key = line("Error in WLAN_check_preshared_key2: Error PreSharedKey:<psk>\n\n");
@@ -49,7 +49,7 @@ Check wep_keys()
          refuse(402, because("no_key_left", equal("common", 0)))});
 }
 
-// A key is 64 hexadecimal digits or a pass phrase; other lengths are neither.
+// A key consists of 64 hexadecimal digits, or is a pass phrase of 8 to 63 characters.
 std::vector<Step> pass_phrase_or_key()
 {
     const Line refused = to_stderr("The code : -1\n");
@@ -58,7 +58,8 @@ std::vector<Step> pass_phrase_or_key()
                   refuse(-1, outside("key", kPrintable), refused)})};
 }
 
-// Printable characters pass, and so does the empty key.
+// The test of the characters accepts every printable character and the empty key. The length is tested
+// afterwards.
 std::vector<Step> wep_key()
 {
     const auto of_length = [](const char* encryption, long long bytes) {

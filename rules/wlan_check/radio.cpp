@@ -12,7 +12,7 @@ Step refuse_unknown_radio()
     return refuse(-1, ignoring_case(none_of("radio", {"RADIO_2.4GHz", "RADIO_5GHz"})));
 }
 
-// by_radio selects the steps of the radio.
+// by_radio selects the steps for the radio band.
 Step by_radio(std::vector<Step> on_2_4_ghz, std::vector<Step> on_5_ghz)
 {
     return when(ignoring_case(one_of("radio", {"RADIO_2.4GHz"})), std::move(on_2_4_ghz), std::move(on_5_ghz));
@@ -25,7 +25,7 @@ Check radio_id()
                        {refuse(-1, ignoring_case(none_of({"RADIO_2.4GHz"})))})});
 }
 
-// On 2.4 GHz only "0" itself selects the channel automatically.
+// On 2.4 GHz, only "0" itself selects the channel automatically, not other values that are read as 0.
 Check channel()
 {
     return check("WLAN_check_channel",
@@ -35,7 +35,7 @@ Check channel()
                            {refuse(-1, not_among("channel", {0, 36, 40, 44, 48, 149, 153, 157, 161}))})});
 }
 
-// second_channel requires one of the pairs of primary and second channel.
+// second_channel requires that the two channels are one of the pairs.
 Check second_channel(std::string_view name, std::string_view what,
                      const std::vector<std::pair<int, int>>& pairs)
 {

@@ -6,7 +6,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// References are replaced by the library's own converter; that of a host is unknown here.
+// Character references are replaced as by the library's own converter, because that of a host is unknown.
 Check ssid()
 {
     return check("WLAN_check_ssid", {buffer("value", "the name of a wireless network")},
@@ -25,7 +25,7 @@ std::vector<Check> rates()
               {refuse(402, refused_by("TcmValidateDataTransmitRates"),
                       line("Error in WLAN_check_basic_data_transmit_rate: Error basic data transmit "
                            "rate:<value>\n\n"))}),
-        // The empty value is not offered: it means no change.
+        // The empty value is not offered to users, because it means no change.
         check("WLAN_check_op_data_transmit_rate", {text("value", "the operational data rates").in("Mbit/s")},
               {refuse(402, none_of({"1,2,5.5,6,9,11,12,18,24,36,48,54", ""}),
                       line("Error in WLAN_check_op_data_transmit_rate: Error operation data transmit "
@@ -45,7 +45,7 @@ Check regulatory_domain()
                               "invalid :<value>\n\n"))});
 }
 
-// Only a distance below 0 passes.
+// Only a distance below 0 is accepted.
 Check distance()
 {
     return check("WLAN_check_DistanceFromRoot", {text("value", "the distance from the root access point")},

@@ -1,4 +1,4 @@
-// Elements that the descriptions of the wireless LAN checks share.
+// Elements that several descriptions of wireless LAN checks share.
 #ifndef OSTREL_RULES_WLAN_CHECK_SHARED_H
 #define OSTREL_RULES_WLAN_CHECK_SHARED_H
 
@@ -20,7 +20,7 @@ struct ModeLines {
     Line not_listed;
 };
 
-// listed_by_mode allows one list of keywords for readwrite_mode 0, another for 1.
+// listed_by_mode allows one list of keywords if readwrite_mode is 0, and another if it is 1.
 std::vector<Step> listed_by_mode(const Words& mode_0, const Words& mode_1, const ModeLines& lines);
 
 }  // namespace ostrel::rules
