@@ -30,7 +30,7 @@ inline constexpr std::array kPlaces = {Place::kFirst, Place::kInside, Place::kLa
 
 std::string_view name_of(Place place);
 
-// stands_at returns whether the string has the byte in that place.
+// stands_at returns whether the byte is in that place in the string.
 bool stands_at(Place place, std::string_view text, char byte);
 
 // Witness is a call that is accepted with each of these bytes at one offset in an argument.

@@ -37,7 +37,7 @@ struct Factors {
 struct Claim {
     Language holds;          // every value of the target for which the condition can hold
     Language fails;          // every value of the target for which the condition can fail
-    bool is_decided = true;  // the target alone decides, so the two languages are disjoint
+    bool is_decided = true;  // only the target matters, so the two languages are disjoint
     bool is_about_target = true;
     Variables others = {};     // the other arguments on which the condition depends
     bool are_negated = false;  // factors describes the negation of the condition
@@ -55,7 +55,7 @@ class Claims {
     Claim always() { return decided(languages_.any()); }
     Claim never() { return decided(languages_.nothing()); }
 
-    // unknown returns a claim that may or may not hold, depending on these arguments, or on the target alone
+    // unknown returns a claim that may or may not hold, depending on these arguments, or only on the target
     // if there are none.
     Claim unknown(Variables variables, std::size_t target);
 

@@ -23,7 +23,7 @@ struct Group {
     std::vector<Line> lines = {};  // printed if this group is at fault
 };
 
-// Shape is a sequence of groups. A group of variable length has no byte in common with the next group.
+// Shape is a sequence of groups. A group of variable length shares no byte with the next group.
 using Shape = std::vector<Group>;
 
 // GrammarFault describes where a string violates a grammar. The sentence for the id uses found and allowed.
@@ -70,19 +70,19 @@ struct Condition {
         kEmpty,      // (string)
         kShorter,    // (string, number): the string has fewer bytes
         kLonger,     // (string, number): the string has more bytes
-        kLength,     // (string): its length is one of numbers
+        kLength,     // (string): its length is in numbers
         kOutside,    // (string, set): the string contains a byte that is not in the set
-        kKeyword,    // (string): it is one of words
-        kPrefix,     // (string): it begins with one of words
+        kKeyword,    // (string): it is in words
+        kPrefix,     // (string): it begins with an element of words
         kSuffix,     // (string, suffix): the string ends with the suffix and has at least one byte before it
         kBelow,      // (number, limit): the number is lower than the limit
         kAbove,      // (number, limit): the number is higher than the limit
-        kAmong,      // (number): it is one of numbers
+        kAmong,      // (number): it is in numbers
         kBetween,    // (number): it is at least numbers[0] and at most numbers[1]
         kMultiple,   // (number, divisor): the number is a multiple of the divisor
         kEqual,      // (string, string) or, if one of them is a number, (number, number)
         kContains,   // (string, part): the part occurs in the string
-        kShape,      // (string): it has one of shapes
+        kShape,      // (string): it matches one of the shapes
         kGrammar,    // (string): it violates the grammar
         kRow,        // a row of the table satisfies all matches; kCell then refers to the first such row
         kRefusedBy,  // (arguments): the other check does not return 0

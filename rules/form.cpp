@@ -171,8 +171,8 @@ class Writer {
         }
     }
 
-    // write_pattern omits parts that have no pattern, and returns true if there are none. Lengths need no
-    // pattern, because they have members in the form.
+    // write_pattern omits parts that have no pattern, and returns true if there are no such parts. Lengths
+    // need no pattern, because they are members of the form.
     bool write_pattern()
     {
         bool is_whole = true;

@@ -53,12 +53,12 @@ using Runs = std::vector<Run>;
 
 struct Leaf {
     enum class Kind {
-        kLength,  // the number of bytes is one of numbers
-        kNumber,  // the number that atoi reads is one of numbers
-        kCount,   // the number of times that the byte occurs is one of numbers
-        kWords,   // the string is one of words
-        kPrefix,  // the string begins with one of words
-        kShape,   // the string has one of shapes
+        kLength,  // the number of bytes is in numbers
+        kNumber,  // the number that atoi reads is in numbers
+        kCount,   // the number of times that the byte occurs is in numbers
+        kWords,   // the string is in words
+        kPrefix,  // the string begins with an element of words
+        kShape,   // the string matches one of the shapes
         kWithin,  // the part that cut extracts is in the inner language
         kItems,   // each item is in the inner language
     };
