@@ -1,4 +1,5 @@
-// Caller passes values to a function and returns what the function wrote. Each argument adjoins an unreadable page.
+// Caller passes values to a function and returns the values that it writes. Each argument adjoins an
+// unreadable page.
 #ifndef OSTREL_CALLING_CALLER_H
 #define OSTREL_CALLING_CALLER_H
 
@@ -32,8 +33,8 @@ class GuardedMemory {
     std::size_t usable_ = 0;  // bytes between the two unreadable pages
 };
 
-// Written is an argument that the function may write to, with its value after the call. The value is NULL for a
-// number that was not written, and for a buffer that was NULL.
+// Written is an argument that the function may write to, with its value after the call. The value is NULL for
+// a number that was not written, and for a buffer that was NULL.
 struct Written {
     const catalogue::Argument* argument;
     catalogue::Value value;

@@ -29,8 +29,8 @@ Prints& map_prints()
     return *static_cast<Prints*>(memory);
 }
 
-// own_prints returns the memory for captures whose constructor is given none. It is mapped only once, because
-// mapping takes longer than most calls.
+// own_prints returns the memory that the default constructor uses. It is mapped only once, because mapping
+// takes longer than most calls.
 Prints& own_prints()
 {
     static Prints& prints = map_prints();

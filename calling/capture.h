@@ -1,4 +1,4 @@
-// Capture collects printed output in memory, with neither files nor system calls.
+// Capture collects printed output in memory and needs no files or system calls.
 #ifndef OSTREL_CALLING_CAPTURE_H
 #define OSTREL_CALLING_CAPTURE_H
 

@@ -1,4 +1,4 @@
-// Calls in the notation of the conformance vectors: a function and the values with which it is called.
+// Cases, which are calls in the notation of the conformance vectors.
 #ifndef OSTREL_CALLING_CASE_H
 #define OSTREL_CALLING_CASE_H
 

@@ -33,7 +33,7 @@ std::string_view name_of(Place place);
 // stands_at returns whether the byte is in that place in the string.
 bool stands_at(Place place, std::string_view text, char byte);
 
-// Witness is a call that is accepted with each of these bytes at one offset in an argument.
+// Witness is a call that is accepted no matter which of these bytes is at the given offset in an argument.
 struct Witness {
     std::string bytes;
     std::vector<Value> values;  // one for each argument that the function reads

@@ -13,13 +13,13 @@ namespace ostrel::catalogue {
 // in_lower_case converts only ASCII letters.
 std::string in_lower_case(std::string_view text);
 
-// find_in_any_case returns the function with that name, or the only one whose name differs from it only in
-// case, or NULL if there are none or several.
+// find_in_any_case returns the function with exactly that name. If there is none, it returns the only
+// function whose name differs just in case, or NULL if there is no such function or more than one.
 const Function* find_in_any_case(std::string_view name);
 
 // similar_names returns up to three names that contain the word in any case. If there are none, it returns up
 // to three names that, as a whole or in one of their words, differ from it by a few typing errors. The most
-// similar name is the first.
+// similar name comes first.
 std::vector<std::string_view> similar_names(std::string_view word,
                                             const std::vector<std::string_view>& names);
 

@@ -7,7 +7,7 @@
 namespace ostrel::catalogue {
 
 std::string_view schema();         // catalogue.schema.json
-std::string_view found_hazards();  // the lines of docs/hazards.md
+std::string_view found_hazards();  // the JSON lines of docs/hazards.md
 
 }  // namespace ostrel::catalogue
 

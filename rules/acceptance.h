@@ -1,8 +1,8 @@
-// The values of one argument, the target, for which a check returns 0, as derived from its steps without any
-// call.
+// The values of one argument, the target, for which a check returns 0. They are derived from the steps,
+// without a call.
 //
 // If the exact set of values cannot be expressed, a larger set is used. So a claim may be too weak, but it is
-// never false. Numbers beyond an int have their exact value.
+// never false. Numbers that do not fit in an int are treated as having their exact value.
 #ifndef OSTREL_RULES_ACCEPTANCE_H
 #define OSTREL_RULES_ACCEPTANCE_H
 

@@ -1,4 +1,4 @@
-// What conditions imply for the target.
+// Claims about the target that follow from conditions.
 
 #include <algorithm>
 
@@ -62,7 +62,7 @@ Claim Acceptance::number_in(const Term& term, const Intervals& numbers)
                                                                   : languages_.with_count(term.byte, before));
         }
         case Term::Kind::kPart:
-            // An int is treated as a string in decimal.
+            // An int is treated as its decimal representation.
             if (term.variable == target_ && term.is_integer)
                 return claims_.decided(languages_.of_number(numbers));
             return text_in(term, languages_.of_number(numbers));

@@ -1,4 +1,4 @@
-// What conditions imply for lengths, numbers and sets, which other arguments may limit.
+// Claims that follow from limits on lengths, numbers and sets, including limits set by other arguments.
 #include "rules/acceptance.h"
 
 namespace ostrel::rules {

@@ -1,4 +1,4 @@
-// Descriptions, in one line each, of what a check accepts.
+// One-line descriptions of what checks accept.
 #include <algorithm>
 #include <span>
 
@@ -108,8 +108,8 @@ class Summary {
         return text;
     }
 
-    // refuse adds the condition under which a step does not refuse. It returns false if no value remains that
-    // the step does not refuse.
+    // refuse adds the condition under which a step does not refuse. It returns false if the step refuses
+    // every value that the other steps leave.
     bool refuse(std::vector<Clause>& clauses, const Condition& condition, const Speaker& speaker)
     {
         const bool is_use = condition.kind == Condition::Kind::kRefusedBy && !condition.is_negated;
@@ -144,7 +144,7 @@ class Summary {
         return true;
     }
 
-    // is_flat returns whether a check has only refusing steps.
+    // is_flat returns whether a check consists only of refusing steps.
     static bool is_flat(const Check& check)
     {
         return std::ranges::all_of(check.steps, [](const Step& step) {

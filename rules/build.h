@@ -21,7 +21,7 @@ struct Build {
     std::string_view account_realm = "@example.net";
     std::string_view setup_realm = "@setup.example.net";
     Atoi atoi = Atoi::kLong64;
-    // The channels that the wireless driver lists; nullopt if unknown.
+    // The channels that the wireless driver lists, or nullopt if they are unknown.
     std::optional<std::vector<int>> channels = std::nullopt;
 };
 

@@ -11,7 +11,7 @@
 
 namespace ostrel::rules {
 
-// Variables contains the indexes of arguments of the check.
+// Variables is a set of the check's arguments, by index.
 using Variables = std::set<std::size_t>;
 
 // Limit is a limit set by another argument.

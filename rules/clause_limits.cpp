@@ -32,7 +32,8 @@ bool merge(Clause& one, const Clause& other, std::string_view least, std::string
     return true;
 }
 
-// least_bytes returns the minimum number of bytes in a predicate, or 0 if there is none or it is not a fixed number.
+// least_bytes returns the minimum number of bytes in a predicate, or 0 if the predicate contains no fixed
+// minimum.
 int least_bytes(const std::string& predicate)
 {
     if (predicate == "is not empty") return 1;

@@ -71,7 +71,7 @@ std::string Speaker::among(const Expression& expression, bool holds) const
     return std::string(holds ? "is one of " : "is none of ") + (is_set ? "these: " : "") + set(expression);
 }
 
-// other names the string with which a string is compared.
+// other names the second string in a comparison.
 std::string Speaker::other(const Expression& expression) const
 {
     const Expression* fixed = constant(expression);
@@ -205,7 +205,7 @@ Clause Speaker::outside_clause(const Condition& condition, bool holds) const
     return {value(judged), (holds ? "contains a byte other than " : "contains only ") + allowed};
 }
 
-// is_beginning returns whether judged is the beginning of a string, with the length of other.
+// is_beginning returns whether judged is a prefix of a string that is as long as other.
 bool Speaker::is_beginning(const Expression& judged, const Expression& other) const
 {
     if (judged.kind != Expression::Kind::kSlice || judged.of.size() < 3) return false;

@@ -1,4 +1,4 @@
-// Conditions, which test strings and numbers.
+// The conditions in descriptions, which test strings and numbers.
 #ifndef OSTREL_RULES_CONDITION_H
 #define OSTREL_RULES_CONDITION_H
 
@@ -64,6 +64,7 @@ struct Match {
 
 // Condition is a test. If it holds, it provides the reason for a refusal.
 struct Condition {
+    // The operands of each kind are in parentheses.
     enum class Kind {
         kAlways,
         kNull,       // (argument)
@@ -89,7 +90,7 @@ struct Condition {
         // (number): it is one of the first numbers[0] channels that the wireless driver lists, and none of
         // these is above numbers[1]
         kListed,
-        kLastItem,  // in a list: nothing follows the item
+        kLastItem,  // the item is the last one in its list
         kAllOf,     // (parts): all parts hold; the reason is that of the last part
         kAnyOf,     // (parts): at least one part holds; the reason is that of the first such part
     };

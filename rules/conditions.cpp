@@ -1,4 +1,4 @@
-// Evaluation of the conditions in a call, and of their reasons.
+// Evaluation of conditions in a call, with their reasons.
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// A list of more words is too long for a sentence.
+// Lists with more words are too long for a sentence.
 constexpr std::size_t kMostWords = 40;
 
 template <typename T, typename F>
@@ -26,7 +26,7 @@ bool same_letter(char a, char b)
     return lower(a) == lower(b);
 }
 
-// in_common returns the length of the longest substring that occurs in both, in any case, but at least
+// in_common returns the length of the longest substring that occurs in both, ignoring case, but at least
 // longest.
 std::size_t in_common(std::string_view one, std::string_view other, std::size_t longest)
 {

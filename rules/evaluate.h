@@ -21,7 +21,7 @@ using Value = std::variant<std::nullptr_t, std::string, long long, std::vector<s
 // Outside is the reason why the contract does not define the result of a call. Such a call must not be made.
 enum class Outside {
     kNo,
-    kAssertion,     // an assertion fails for NULL: the process ends
+    kAssertion,     // an assertion fails for NULL, which ends the process
     kNull,          // NULL is read
     kNeverReturns,  // the call does not return
     kDriver,        // the result depends on the wireless driver, whose list is unknown
@@ -51,7 +51,7 @@ struct Counts {
         std::vector<std::uint64_t> failed;
     };
     Counts();
-    std::vector<OfCheck> checks;  // by Check::number
+    std::vector<OfCheck> checks;  // indexed by Check::number
 };
 
 // evaluate expects a value for every argument, in order, including those that are only written.
@@ -62,7 +62,8 @@ Answer evaluate(const Check& check, std::span<const Value> values, const Build& 
 // the call.
 inline constexpr std::uint64_t kMostWork = std::uint64_t{128} << 20U;
 
-// evaluate_within gives up after examining the given number of bytes; a byte that is examined twice counts twice.
+// evaluate_within stops after examining the given number of bytes. A byte that is examined twice is counted
+// twice.
 Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 

@@ -201,8 +201,8 @@ class Explainer {
         }
     }
 
-    // uses describes each of the other checks that a condition calls, but only once, and stores the codes
-    // that they return in its_codes.
+    // uses describes the other checks that a condition calls, each of them once, and stores the codes that
+    // they return in its_codes.
     std::vector<Said> uses(const Condition& condition, const Speaker& speaker, bool always,
                            std::vector<int>& its_codes)
     {

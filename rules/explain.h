@@ -1,4 +1,4 @@
-// Explanations of descriptions in words, in the order of the steps.
+// Explanations, in words and step by step, of what a check does.
 #ifndef OSTREL_RULES_EXPLAIN_H
 #define OSTREL_RULES_EXPLAIN_H
 
@@ -34,7 +34,7 @@ struct Said {
 struct SaidArgument {
     std::string what;  // a description with the unit
     std::string room;  // the size that a buffer must have
-    std::string null;  // what NULL does; empty for a number
+    std::string null;  // the effect of NULL; empty for a number
     std::string written;
 };
 

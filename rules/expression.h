@@ -22,6 +22,7 @@ struct Conversion {
 
 // Expression is a string, a number or a set. A string that is used as a number is read as atoi reads it.
 struct Expression {
+    // The operands of each kind are in parentheses.
     enum class Kind {
         kName,          // an argument or a remembered value; "": the item, or else the first argument
         kText,          // a literal
@@ -31,11 +32,11 @@ struct Expression {
         kAccountRealm,  // the realm of the ISP's access accounts
         kSetupRealm,    // the realm of the ISP's set-up accounts
         kNowhere,       // the target of a write by another check, if this check ignores the write
-        kItem,          // in a list: the item or the key
-        kIndex,         // in a list: the index of the item, from 0
-        kRest,          // in a list: what follows the separator after the item
-        kByte,          // in a line: the byte at fault
-        kOffset,        // in a line: its offset
+        kItem,          // the current item of a list, or the current key of a block
+        kIndex,         // the index of this item, from 0
+        kRest,          // the rest of the list after this item and its separator
+        kByte,          // the byte at fault, in a line
+        kOffset,        // the offset of the byte at fault, in a line
         kBeforeFirst,   // (string, separator): the whole string if there is no separator
         kBeforeLast,    // (string, separator): the whole string if there is no separator
         kAfterFirst,    // (string, separator): empty if there is no separator

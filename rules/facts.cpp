@@ -1,4 +1,4 @@
-// The facts that are known at each step, by which impossible cases are recognised.
+// The facts that are known at each step, which rule out impossible cases.
 #include <algorithm>
 
 #include "rules/phrases.h"
@@ -91,7 +91,7 @@ std::optional<bool> Speaker::known_of_text(const Condition& condition) const
     return is(shared > 0);
 }
 
-// learn considers that an empty string is shorter than one byte and is read as the number 0.
+// learn also concludes that a string is not empty if it has a minimum length or is read as a number above 0.
 void Speaker::learn(const Condition& condition, bool holds)
 {
     holds = holds != condition.is_negated;

@@ -1,4 +1,5 @@
-// Descriptions of languages by lengths, bytes, keywords, numbers and a pattern, for constraints.cpp.
+// Conversion of languages to forms with lengths, bytes, keywords, numbers and a pattern. Only constraints.cpp
+// uses it.
 #ifndef OSTREL_RULES_FORM_H
 #define OSTREL_RULES_FORM_H
 
@@ -7,7 +8,7 @@
 
 namespace ostrel::rules {
 
-// Said is a form with a statement of whether only the strings in the language satisfy it.
+// Said is the form of a language. is_all is true if no other strings satisfy it.
 struct Said {
     Form form = {};
     bool is_all = false;

@@ -40,7 +40,7 @@ std::optional<Offer> keywords_of(Languages& languages, Language one, const std::
     return offer;
 }
 
-// numbers_within returns the numbers whose decimal form is in the language.
+// numbers_within returns the numbers whose decimal forms are in the language.
 std::optional<Intervals> numbers_within(Languages& languages, Language one, const Form& form,
                                         Intervals numbers)
 {

@@ -45,7 +45,7 @@ Check url(std::string_view name, std::string_view what, int code, Words schemes)
          when(has_port, {refuse(code, below(port, 0)), refuse(code, above(port, 65535))})});
 }
 
-// There may be more of "@" and "." between the first "@" and the last ".".
+// The part between the first "@" and the last "." may contain more of these bytes.
 Check mail_outline()
 {
     const Expression before = called("the part before the \"@\"", before_first(it, "@"));
@@ -58,8 +58,8 @@ Check mail_outline()
                   refuse(-1, empty(called("the part after the last \".\"", after_last(after, "."))))});
 }
 
-// The set contains all bytes of a host. For a byte outside both sets, the reason contains the smaller set, so
-// that the byte that replaces it is not refused.
+// The set includes the set for a host. For a byte in neither set, the reason contains the smaller one, so
+// that it does not allow a byte that is then refused.
 Step refuse_outside(const Set& set) { return refuse(803, all_of({outside(set), outside(kHost)})); }
 
 }  // namespace

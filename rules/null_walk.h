@@ -13,7 +13,7 @@
 
 namespace ostrel::rules {
 
-// NullEnd is one way in which the call may end, with the condition for it.
+// NullEnd is one way in which the call may end, and the condition for it.
 struct NullEnd {
     enum class Kind {
         kAccepted,
@@ -27,7 +27,7 @@ struct NullEnd {
 
     Kind kind;
     std::vector<int> codes = {};
-    std::string when = {};  // empty: always
+    std::string when = {};  // the condition in words, or empty if there is none
     std::string_view assertion = {};
 };
 

@@ -32,7 +32,7 @@ struct Facts {
     std::map<std::string, std::set<std::string_view>> words = {};
 };
 
-// Clause is a statement about a subject, such as "value" and "has more than 8 bytes".
+// Clause is a subject with a predicate, such as "value" and "has more than 8 bytes".
 struct Clause {
     std::string subject;
     std::string predicate;
@@ -60,8 +60,8 @@ class Speaker {
 
     [[nodiscard]] const Check& check() const { return *check_; }
 
-    // value names a string or a number. number names a number that may be read from a string: "the number in
-    // value".
+    // value names a string or a number. number names a number, which may be read from a string, as in "the
+    // number in value".
     [[nodiscard]] std::string value(const Expression& expression) const;
     [[nodiscard]] std::string number(const Expression& expression) const;
     [[nodiscard]] bool is_number(const Expression& expression) const;
@@ -79,7 +79,7 @@ class Speaker {
     void forget(const Step& step);
     void meet(const Speaker& other);
 
-    // list names the items of a list: "each item of value separated by ","".
+    // list names the items of a list, as in "each item of value separated by ","".
     [[nodiscard]] std::string list(const List& list) const;
     [[nodiscard]] const std::string& item() const { return item_.words; }
 

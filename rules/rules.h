@@ -12,7 +12,7 @@ namespace ostrel::rules {
 // checks returns every description. It throws std::logic_error if a description contains an unknown name.
 const std::vector<Check>& checks();
 
-// make_checks creates all descriptions and links those that refer to other checks.
+// make_checks creates all descriptions and resolves their references to other checks.
 std::vector<Check> make_checks();
 
 // find returns the description of the check with that name, or NULL if there is none.

@@ -114,7 +114,7 @@ class Run {
 
     // Conditions. If reason is not NULL, the reason is stored there.
     static bool same(std::string_view a, std::string_view b, bool ignores_case);
-    // common returns the number of bytes that the string has in common with the best of the prefixes.
+    // common returns the length of the longest beginning that the string shares with one of the prefixes.
     static std::size_t common(std::string_view text, const Condition& prefixes);
     bool holds(const Condition& condition, Frame& frame, Reason* reason);
     bool holds_at_all(const Condition& condition, Frame& frame, Reason* reason);

@@ -12,14 +12,14 @@
 
 namespace ostrel::rules {
 
-// Sentence is the text for an id, with these fields:
+// Sentence is the wording for an id, with these fields:
 //   {found} {allowed}    the data of the reason: for a set, its members in words; for a list, its entries or,
 //                        if it is long, their number and the entry that is closest to what was found
-//   {form}               the kind of text that was found, which "allowed" contains
+//   {form}               the kind of value that was found, which the reason contains as "allowed"
 //   {byte}               the byte that was found, in printable form
 //   {position}           the offset, counted from 1
 //   {range}              the two limits of the allowed range
-//   {read}               "read as " unless the text is just the number that was found
+//   {read}               "read as ", unless the value is exactly the number that was found
 //   {read_as}            the value that atoi reads for a number beyond an int
 //   {limit}              the limit that this value violates: the sentence for it, from its ";" on
 //   {found:one|many} {allowed:one|many}
@@ -42,7 +42,7 @@ const Sentence* find_sentence(std::string_view id);
 // an empty string if the id has no sentence.
 std::string sentence(const Reason& reason);
 
-// full_sentence begins with the item of a list, if there is one, and with the argument if users pass several.
+// full_sentence also names the item of a list, and the argument if users pass several.
 std::string full_sentence(const Reason& reason, const Check& check);
 
 // hide_secret removes the value that was found if the argument is a secret, but keeps a single byte.

@@ -16,7 +16,7 @@ inline constexpr Set kPrintable = Set::range(' ', '~');
 inline constexpr Set kLatin1 = kPrintable | Set::range(0xA1, 0xFF);
 inline constexpr Set kBlank = Set(" ");
 
-inline constexpr Set kAccountDigits = kDigits | Set("#");  // before the realm of an account
+inline constexpr Set kAccountDigits = kDigits | Set("#");  // allowed before the realm of an account
 inline constexpr Set kIpv4 = kDigits | Set(".");
 inline constexpr Set kHostLabel = kAlnum | Set("-");
 inline constexpr Set kUrl = kAlnum | Set("-_./:?");

@@ -25,8 +25,8 @@ Step judge_subnet(const char* address)
     return refuse(-1, refused_by("isInSameSubnet", {"lanAddress", address}));
 }
 
-// An item is repeated if it occurs anywhere in the rest, but only if the rest ends, or has a comma, at the
-// offset that is equal to the length of the item.
+// An item counts as repeated if it occurs anywhere in the rest of the list, provided that the rest ends, or
+// has a comma, after as many bytes as the item has.
 Condition repeats_item()
 {
     return all_of({not_(last_item()),

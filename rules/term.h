@@ -1,4 +1,5 @@
-// The value of an expression over unknown arguments, which may be a part of one of them or unknown.
+// The values of expressions over unknown arguments, such as part of an argument, a literal, or an unknown
+// value.
 #ifndef OSTREL_RULES_TERM_H
 #define OSTREL_RULES_TERM_H
 

@@ -100,8 +100,8 @@ constexpr int kNameRoom = 55;
 
 using Lines = std::vector<Line>;
 
-// If one value is empty, it is filled in, for which a substring of the other is sufficient. If both are
-// given, the offset must be complete.
+// If one of the two values is empty, it is filled in from the other, which may be a substring of an offset or
+// a name. If both are given, the offset must be complete.
 Check zone_and_name()
 {
     const Effects no_name =

@@ -8,7 +8,7 @@ namespace {
 
 using Kind = Expression::Kind;
 
-// bracketed shows where an operand begins and ends, unless it is a literal number.
+// bracketed puts an operand in parentheses, unless it is a literal number.
 std::string bracketed(const std::string& operand)
 {
     return operand[0] >= '0' && operand[0] <= '9' ? operand : "(" + operand + ")";
@@ -22,7 +22,7 @@ std::string Speaker::number(const Expression& expression) const
     return (is_named ? "" : "the number in ") + value(expression);
 }
 
-// value names a part and adds a description of it.
+// For an expression that names a part, value adds a description of the part.
 std::string Speaker::value(const Expression& expression) const
 {
     const std::string_view part = expression.part;

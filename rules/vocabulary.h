@@ -1,7 +1,7 @@
 // The data types of which a description consists. words.h declares the functions that create the data.
 //
-// A check consists of steps. A step may have a condition and steps of its own, and a condition has
-// expressions. Strings are literals, or exist until the program ends.
+// A check consists of steps. A step may have a condition and further steps, and a condition has
+// expressions. All strings are literals, or exist until the program ends.
 #ifndef OSTREL_RULES_VOCABULARY_H
 #define OSTREL_RULES_VOCABULARY_H
 
@@ -42,7 +42,7 @@ struct Write {
     bool is_terminated = true;
 };
 
-// List is a list over which a step iterates.
+// List describes the list over which a step iterates.
 struct List {
     Expression of;
     char separator = '\0';  // '\0' if the items are the keys of a block
@@ -53,13 +53,13 @@ struct List {
 
 struct Step {
     enum class Kind {
-        kRefuse,        // if the condition holds: prints and returns the code, with the condition's reason
-        kAccept,        // if the condition holds: prints, writes and returns the code, which is not a refusal
-        kPrint,         // if the condition holds: prints and continues
-        kSkip,          // if the condition holds: prints, writes and continues with the next item
+        kRefuse,        // if the condition holds, prints and returns the code, with the condition's reason
+        kAccept,        // if the condition holds, prints, writes and returns the code, which is not a refusal
+        kPrint,         // if the condition holds, prints and continues
+        kSkip,          // if the condition holds, prints, writes and continues with the next item
         kWrite,         // writes and continues
         kRemember,      // stores a string or a number under a name
-        kWhen,          // if the condition holds: executes the steps, and otherwise the other steps
+        kWhen,          // executes the steps if the condition holds, and otherwise the other steps
         kForEach,       // executes the steps for each item
         kReads,         // from here on, NULL is a memory fault or, if name is set, fails this assertion
         kNeverReturns,  // if the condition holds, the call does not return
@@ -114,7 +114,7 @@ struct Check {
     std::vector<Step> steps;
     bool is_verdict = true;  // the result is a result code; otherwise it is a number
 
-    // Set at registration.
+    // These members are set at registration.
     std::string_view module = {};
     std::size_t slots = 0;  // the number of arguments and remembered values
     std::size_t step_count = 0;

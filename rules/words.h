@@ -172,7 +172,8 @@ ArgumentWords integer(std::string_view name, std::string_view what);
 ArgumentWords natural(std::string_view name, std::string_view what);
 ArgumentWords integer_out(std::string_view name, std::string_view what);
 
-// Complete descriptions. A check returns a result code, and a number returns a number.
+// Complete descriptions. check is for functions that return a result code, and number for those that return a
+// number.
 Check check(std::string_view name, std::vector<ArgumentWords> arguments, std::vector<Step> steps);
 Check number(std::string_view name, std::vector<ArgumentWords> arguments, std::vector<Step> steps);
 std::vector<Check> joined_checks(std::initializer_list<std::vector<Check>> lists);

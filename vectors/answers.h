@@ -1,4 +1,4 @@
-// Selection of the answer in a row that applies, because some answers depend on the C library.
+// The answers in a row, some of which depend on the C library.
 #ifndef OSTREL_VECTORS_ANSWERS_H
 #define OSTREL_VECTORS_ANSWERS_H
 

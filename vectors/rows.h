@@ -16,10 +16,10 @@
 
 namespace ostrel::vectors {
 
-// Promise is the result that a row promises for its call.
+// Promise is the result that a row states for its call.
 struct Promise {
     CallResult result;        // members that the row omits have their defaults
-    bool is_written = false;  // otherwise the arguments are unchanged
+    bool is_written = false;  // false if the arguments are unchanged
 };
 
 // RowReason is the reason for a refusal that a row states. Members that do not apply are empty.

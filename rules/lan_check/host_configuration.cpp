@@ -94,7 +94,7 @@ std::vector<Check> wan_subnet()
     };
 }
 
-// The prefix allows "_" as the first byte, but the set does not.
+// The library also allows "_" as a prefix, but not in the name, so the first byte must be a letter.
 Check device_name()
 {
     const Effects wrong_name = line("Error in LAN_check_cis_dev_name: Error dev name:<value_p>\n\n");

@@ -38,7 +38,7 @@ Step refuse_repeated(const char* added, const char* existing)
     return refuse(701, because("already_listed", equal(added, existing)));
 }
 
-// One of the two servers may be empty, but not if one in the list is empty too.
+// One of the two servers may be empty, but not if one of the servers in the list is also empty.
 std::vector<Step> refuse_repeated_of_two(const char* added)
 {
     return {refuse(701, all_of({any_of({equal(added, "first"), equal(added, "second")}),
@@ -46,7 +46,7 @@ std::vector<Step> refuse_repeated_of_two(const char* added)
             refuse_repeated(added, "first"), refuse_repeated(added, "second")};
 }
 
-// A single new server is compared with the whole of the existing list.
+// A single new server is compared with the whole existing list.
 Check add_dns_servers()
 {
     const auto has_two = [](const char* list) { return contains(list, literal(",")); };

@@ -1,4 +1,4 @@
-// Finite automata for languages, with which strings can be counted and measured and languages compared.
+// Finite automata, with which languages can be measured and compared.
 #ifndef OSTREL_RULES_LANGUAGE_AUTOMATON_H
 #define OSTREL_RULES_LANGUAGE_AUTOMATON_H
 

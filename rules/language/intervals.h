@@ -1,4 +1,4 @@
-// Sets of integers, as intervals.
+// Sets of integers, stored as intervals.
 #ifndef OSTREL_RULES_LANGUAGE_INTERVALS_H
 #define OSTREL_RULES_LANGUAGE_INTERVALS_H
 

@@ -31,11 +31,11 @@ struct Language {
 // kEveryByte contains every byte that a string can contain.
 inline constexpr Set kEveryByte = Set::range(1, 255);
 
-// Cut extracts part of a string, like an expression of this kind.
+// Cut extracts part of a string, like an expression of the same kind.
 struct Cut {
     Expression::Kind kind;
     std::string separator;
-    std::size_t offset = 0;  // used only for a slice, as is count
+    std::size_t offset = 0;  // used, like count, only for a slice
     std::size_t count = 0;
 
     bool operator==(const Cut&) const = default;
@@ -108,7 +108,7 @@ class Languages {
     Language byte(const Set& set);
     Language text(std::string_view text, bool ignores_case = false);
     Language joined(Language first, Language second);
-    // This overload is for parts that calls compute. Every compiler evaluates a list in order, so the results
+    // Use this overload if the parts are computed. Every compiler evaluates a list in order, so the results
     // do not depend on the compiler.
     Language joined(const std::vector<Language>& parts);
     Language either(const std::vector<Language>& parts);

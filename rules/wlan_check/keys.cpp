@@ -58,8 +58,7 @@ std::vector<Step> pass_phrase_or_key()
                   refuse(-1, outside("key", kPrintable), refused)})};
 }
 
-// The test of the characters accepts every printable character and the empty key. The length is tested
-// afterwards.
+// The character test accepts every printable character and the empty key. The length is tested afterwards.
 std::vector<Step> wep_key()
 {
     const auto of_length = [](const char* encryption, long long bytes) {

@@ -35,7 +35,7 @@ Check channel()
                            {refuse(-1, not_among("channel", {0, 36, 40, 44, 48, 149, 153, 157, 161}))})});
 }
 
-// second_channel requires that the two channels are one of the pairs.
+// second_channel requires that the two channels form one of the pairs.
 Check second_channel(std::string_view name, std::string_view what,
                      const std::vector<std::pair<int, int>>& pairs)
 {

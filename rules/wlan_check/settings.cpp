@@ -6,7 +6,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// Character references are replaced as by the library's own converter, because that of a host is unknown.
+// Character references are replaced as by the library's own converter, because a host's converter is unknown.
 Check ssid()
 {
     return check("WLAN_check_ssid", {buffer("value", "the name of a wireless network")},
