@@ -71,14 +71,14 @@ struct Condition {
         kEmpty,      // (string)
         kShorter,    // (string, number): the string has fewer bytes
         kLonger,     // (string, number): the string has more bytes
-        kLength,     // (string): its length is in numbers
+        kLength,     // (string): its length is one of the numbers
         kOutside,    // (string, set): the string contains a byte that is not in the set
-        kKeyword,    // (string): it is in words
-        kPrefix,     // (string): it begins with an element of words
+        kKeyword,    // (string): it is one of the words
+        kPrefix,     // (string): it begins with one of the words
         kSuffix,     // (string, suffix): the string ends with the suffix and has at least one byte before it
         kBelow,      // (number, limit): the number is lower than the limit
         kAbove,      // (number, limit): the number is higher than the limit
-        kAmong,      // (number): it is in numbers
+        kAmong,      // (number): it is one of the numbers
         kBetween,    // (number): it is at least numbers[0] and at most numbers[1]
         kMultiple,   // (number, divisor): the number is a multiple of the divisor
         kEqual,      // (string, string) or, if one of them is a number, (number, number)

@@ -1,6 +1,6 @@
 // The requirements on an argument that its description proves, for use in programs and forms.
 //
-// They do not cover numbers that do not fit in an int, because builds differ in the value that they read.
+// They do not cover numbers that do not fit in an int, because builds read such numbers differently.
 #ifndef OSTREL_RULES_CONSTRAINTS_H
 #define OSTREL_RULES_CONSTRAINTS_H
 

@@ -18,7 +18,7 @@ namespace ostrel::rules {
 // Value is NULL, a string, a number, or the strings of several blocks.
 using Value = std::variant<std::nullptr_t, std::string, long long, std::vector<std::string>>;
 
-// Outside is the reason why the contract does not define the result of a call. Such a call must not be made.
+// Outside states why the contract does not define the result of a call. Such a call must not be made.
 enum class Outside {
     kNo,
     kAssertion,     // an assertion fails for NULL, which ends the process

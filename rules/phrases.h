@@ -23,8 +23,8 @@ struct Meant {
     std::set<std::string> sources = {};    // the arguments from which it is derived
 };
 
-// Facts contains the facts that are known about strings at some step. Each string is identified by its
-// description.
+// Facts contains the facts that are known about strings at some step. Each string is identified by the words
+// that describe it.
 struct Facts {
     std::set<std::string> empty = {};
     std::set<std::string> not_empty = {};
@@ -55,7 +55,7 @@ class Speaker {
     // arguments have here.
     [[nodiscard]] Speaker of_other(const Condition& use) const;
 
-    // of_items returns a speaker for the steps for each item of a list.
+    // of_items returns a speaker for the steps that are executed for each item of a list.
     [[nodiscard]] Speaker of_items(const List& list) const;
 
     [[nodiscard]] const Check& check() const { return *check_; }

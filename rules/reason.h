@@ -14,7 +14,7 @@
 
 namespace ostrel::rules {
 
-// Datum is nothing, a number, a string, a set of bytes, or a list of strings or numbers. The strings in a
+// Datum is empty, or is a number, a string, a set of bytes, or a list of strings or numbers. The strings in a
 // list belong to the description, which outlives the list.
 using Datum = std::variant<std::monostate, long long, std::string, Set, std::vector<std::string_view>,
                            std::vector<long long>>;

@@ -51,8 +51,8 @@ char first_of(const Set& set)
 }
 
 // explore follows a language byte by byte. Each state is a language, which contains the possible
-// continuations of the bytes so far. explore returns nothing if there are too many states or, with
-// must_be_empty, if it finds a string.
+// continuations of the bytes so far. explore returns nothing if there are too many states, or if
+// must_be_empty is true and it finds a string.
 std::optional<Automaton> explore(Languages& languages, Language one, bool must_be_empty)
 {
     Automaton result;

@@ -53,11 +53,11 @@ using Runs = std::vector<Run>;
 
 struct Leaf {
     enum class Kind {
-        kLength,  // the number of bytes is in numbers
-        kNumber,  // the number that atoi reads is in numbers
-        kCount,   // the number of times that the byte occurs is in numbers
-        kWords,   // the string is in words
-        kPrefix,  // the string begins with an element of words
+        kLength,  // the length in bytes is one of the numbers
+        kNumber,  // the value that atoi reads is one of the numbers
+        kCount,   // how often the byte occurs is one of the numbers
+        kWords,   // the string is one of the words
+        kPrefix,  // the string begins with one of the words
         kShape,   // the string matches one of the shapes
         kWithin,  // the part that cut extracts is in the inner language
         kItems,   // each item is in the inner language
