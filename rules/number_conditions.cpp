@@ -36,7 +36,7 @@ bool Run::number_holds(const Condition& condition, Frame& frame, Reason* reason)
     const Integer judged = number(condition.operands[0], frame, room);
     const bool is_negated = condition.is_negated;
     std::string_view id;
-    long long limit = 0;  // if the condition has one
+    long long limit = 0;  // set if the condition has a limit
     bool result = false;
     if (condition.kind == Kind::kAmong) {
         id = is_negated ? "number_not_allowed" : "number_forbidden";
