@@ -1,6 +1,6 @@
 // Times every contender on every shape of its family's values. All contenders judge the same values.
 //
-// The arguments are those of Google Benchmark. A benchmark is named family/shape/contender.
+// The program accepts Google Benchmark's options. Each benchmark is named family/shape/contender.
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
@@ -46,7 +46,8 @@ extern "C" void* realloc(void* block, std::size_t size)
 
 namespace {
 
-// corpus creates a corpus when it is first needed, so that a run of a few benchmarks creates only what it needs.
+// corpus creates each corpus when it is first needed, so that a run of a few benchmarks does not create all
+// of them.
 const Corpus& corpus(const std::string& name, Shape shape)
 {
     static std::map<std::pair<std::string, Shape>, std::unique_ptr<const Corpus>> all;
@@ -55,8 +56,8 @@ const Corpus& corpus(const std::string& name, Shape shape)
     return *entry;
 }
 
-// require_same_verdict ends the program if a contender refused a valid value, because it then did different
-// work.
+// require_same_verdict ends the program if a contender refused a valid value, because its time would then not
+// be comparable.
 void require_same_verdict(const Contender& contender, const Corpus& values, std::size_t accepted)
 {
     if (accepted == values.values().size()) return;

@@ -43,7 +43,7 @@ def _read(path):
 
 
 def count(program, values, families=()):
-    """count returns {(family, shape, contender): (instructions per value, those inside the library)}."""
+    """count returns {(family, shape, contender): (all instructions per value, and those inside the library)}."""
     with tempfile.TemporaryDirectory() as folder:
         subprocess.run(
             ["valgrind", "-q", "--tool=callgrind", "--collect-atstart=no", "--compress-strings=no",

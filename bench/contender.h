@@ -1,4 +1,4 @@
-// Contenders, each of which judges the values of a family: our rule, its peers and the limits.
+// Contenders, each of which judges a family's values. They are our rule, its peers and the limits.
 #ifndef OSTREL_BENCH_CONTENDER_H
 #define OSTREL_BENCH_CONTENDER_H
 
@@ -18,8 +18,8 @@ struct Contender {
     std::function<std::size_t(const Corpus&)> pass;  // judges every value once and counts the accepted ones
 };
 
-// contender makes a Contender from a function that judges one value. The loop is compiled around the call, so
-// that it costs every contender the same.
+// contender makes a Contender from a function that judges one value. The loop over the corpus is compiled
+// around the call, so that its cost is the same for every contender.
 template <typename Accepts>
 Contender contender(std::string family, std::string name, Accepts accepts)
 {
@@ -40,7 +40,7 @@ Contenders contenders();
 
 // Each of these adds contenders for the families that it supports.
 void add_ours(Contenders& all);
-void add_limits(Contenders& all);  // only read the value
+void add_limits(Contenders& all);  // these only read each value
 void add_libc(Contenders& all);
 void add_pcre2(Contenders& all);
 void add_re2(Contenders& all);
@@ -49,8 +49,8 @@ void add_libyang(Contenders& all);
 void add_urls(Contenders& all);  // uriparser and libcurl
 void add_cares(Contenders& all);
 
-// pattern returns the regular expression for a family's valid values. It is anchored at both ends and uses only syntax
-// that every engine supports.
+// pattern returns the regular expression for a family's valid values. It is anchored at both ends and uses
+// only syntax that every engine supports.
 std::string pattern(const std::string& family);
 
 }  // namespace ostrel::bench

@@ -63,10 +63,10 @@ struct ValueFamily {
     std::string name;
     std::function<std::string(Random&)> valid;
     std::function<std::string(Random&, std::size_t)> hostile;
-    bool distinct = true;  // false if there are too few valid values, so that some repeat
+    bool distinct = true;  // false if so few values are valid that a corpus must repeat some
 };
 
-constexpr std::size_t kCorpusSize = 65536;  // a branch predictor could learn fewer distinct values
+constexpr std::size_t kCorpusSize = 65536;  // too many values for a branch predictor to learn
 constexpr std::size_t kHostileLength = 512;
 
 // Corpus stores the values in one string, each with its terminator.
@@ -83,7 +83,7 @@ class Corpus {
     std::vector<const char*> values_;
 };
 
-// families returns all families, in the order of the table.
+// families returns all families, in the order in which families.cpp lists them.
 const std::vector<ValueFamily>& families();
 
 const ValueFamily& family(std::string_view name);

@@ -97,7 +97,8 @@ auto repeated(const std::string& head, std::string (*piece)(Random&), const std:
     };
 }
 
-// members returns a family of values made of a set's characters. Its hostile values are long ones.
+// members returns a family whose values are made of a set's characters. Its hostile values differ only in
+// length.
 ValueFamily members(const char* name, std::string_view set, unsigned shortest, unsigned longest)
 {
     const std::string all(set);
@@ -110,7 +111,7 @@ std::vector<ValueFamily> make_families()
     const auto label = [](Random& random) { return some(random, 1, kLetters); };
     const auto octet = [](Random& random) { return number(random, 0, 255); };
     const auto rate = [](Random& random) { return std::string(kRates[random.between(0, 11)]); };
-    // The items of a hostile list share prefixes with later items.
+    // In a hostile list, every item shares a prefix with the items after it.
     const auto reservation = [](Random& random) { return "192.168.2.1" + number(random, 0, 99, 2); };
     return {
         {"ipv4", ipv4, repeated("", octet, ".")},

@@ -1,10 +1,10 @@
 """The goals for the rules' speed on valid values, as multiples of a peer's speed.
 
-REASONS explains why a goal is not reached. The table shows the explanation.
+REASONS explains why a goal is missed, and the tables show these explanations.
 """
 
-LIBYANG = 15  # for every family
-LIMIT = 3  # times the duration of the plain reading loop, for keywords and lists
+LIBYANG = 15  # the goal for every family
+LIMIT = 3  # keywords and lists may take this many times as long as the plain reading loop
 
 GOALS = {
     "ipv4": {"inet_pton": 1.8, "PCRE2 JIT": 2, "RE2": 2, "c-ares": 2},

@@ -106,7 +106,7 @@ def print_tables(table, instructions):
 
 def multiples(row):
     """multiples returns the times of the peers and of the plain reading loop on valid values, as multiples of ours, in
-    ascending order. They are the times of the fastest repetitions."""
+    ascending order. The fastest repetitions are compared."""
     least = {contender: figures[2] for contender, figures in row["valid"].items() if contender != "strlen"}
     ours = least.pop("ours")
     return sorted(((contender, time / ours) for contender, time in least.items()), key=lambda pair: pair[1])
@@ -126,7 +126,7 @@ def lost_first(table):
 
 
 def draw(table, path):
-    """draw draws a group of bars for each family, which show the peers' times on valid values as multiples of ours."""
+    """draw draws a group of bars for each family. They show the peers' times on valid values as multiples of ours."""
     longest = 20  # as a multiple of our time; longer bars are cut off
     left, width, step, gap = 190, 460, 15, 14
     lines = []

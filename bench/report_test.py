@@ -20,7 +20,7 @@ FAMILIES = {
 
 
 def measured(repetitions=3):
-    """measured returns output like that of the benchmarks, with one slow repetition that must not count."""
+    """measured returns output like that of the benchmarks, with one slow repetition, which the report must ignore."""
     return {"benchmarks": [
         {"run_type": "iteration", "run_name": f"{family}/valid/{contender}", "values": 1000, "bytes_per_second": 1e9,
          "allocations": 0, "cpu_time": 1000 * time * (9 if repetition == 1 else 1)}

@@ -64,8 +64,8 @@ class Batch {
         return error_ == 0;
     }
 
-    // is_stopped returns whether the batch was interrupted and no work is in progress at the front of the
-    // queue.
+    // is_stopped returns whether the batch was interrupted and no worker is running for the slot at the front
+    // of the queue.
     [[nodiscard]] bool is_stopped() const
     {
         return StopSignals::number() != 0 && (busy_.empty() || !busy_.front()->is_running());
@@ -160,15 +160,15 @@ class Batch {
     int stop()
     {
         meter_.clear();
-        // The signal may have arrived after the last check.
+        // A signal may have arrived since the main loop last looked for one.
         if (StopSignals::number() != 0) clear_keys();
         if (error_ != 0) {
             say("ostrel-check: cannot write the results: " + std::generic_category().message(error_) + "\n");
         }
         sum_up();
         std::string where = "stopped after line " + std::to_string(line_ - 1);
-        // All records of a JSON file may be on one line, and a gateway may produce more results than a worker
-        // can hold back.
+        // A batch may stop within a line, because all records of a JSON file may be on one line, and
+        // because a gateway may produce more results than a worker can hold back.
         if (is_within_line_) {
             where = rules_->reading.map == nullptr ? "stopped within line "
                                                    : "stopped within the gateways of line ";

@@ -25,9 +25,9 @@ struct Log {
     // Entry describes a record, a line without a record, or the end of a gateway.
     struct Entry {
         std::uint32_t row = kNoRow;
-        std::uint32_t lines = 0;     // number of input lines that end with it
-        std::uint32_t written = 0;   // bytes of output up to the end of its result
-        GatewayCounts gateway = {};  // no parameters unless this is the end of a gateway
+        std::uint32_t lines = 0;     // number of input lines that end with the entry
+        std::uint32_t written = 0;   // bytes of output up to the end of the entry's result
+        GatewayCounts gateway = {};  // all zero unless this is the end of a gateway
     };
 
     // Size is the part of the log that is in use.

@@ -1,4 +1,4 @@
-// A batch of one case, for a verdict in JSON.
+// Judges one case as a batch would, to print its verdict in JSON.
 #ifndef OSTREL_TOOLS_BATCH_ONE_CASE_H
 #define OSTREL_TOOLS_BATCH_ONE_CASE_H
 

@@ -1,4 +1,5 @@
-// Options that take one of a few words, which help, the manual page and completion show as the option's type.
+// Options that accept one of a few words. Help, the manual page and completion show the words as the type of
+// the option.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
 #define OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
 
@@ -28,7 +29,8 @@ inline CLI::Option* choose_from(CLI::Option* option, const std::vector<std::stri
     return refuse_others(option, words)->type_name(CLI::detail::join(words, std::string(1, kOr)));
 }
 
-// add_choice adds an option that stores the value of its word; target must outlive the command.
+// add_choice adds an option that stores the value of the chosen word in target, which must outlive the
+// command.
 template <typename Target, typename Value>
 CLI::Option* add_choice(CLI::App& app, const char* name, Target& target,
                         const std::vector<std::pair<std::string, Value>>& choices, const char* what)

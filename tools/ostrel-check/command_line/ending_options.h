@@ -1,4 +1,4 @@
-// Options for calls, and for the beginning, the summary and the end of a batch.
+// Options for calls, and for a batch's first line, secrets, summary and exit code.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_ENDING_OPTIONS_H
 #define OSTREL_TOOLS_COMMAND_LINE_ENDING_OPTIONS_H
 
@@ -21,7 +21,7 @@ struct EndingOptions {
 // add_call_options adds the options for calls, which apply to a single verdict and to a batch.
 void add_call_options(CLI::App& app, Manner& manner, std::optional<std::string>& channels);
 
-// add_ending_options adds options to batch. --stream must already exist, because one of them excludes it.
+// add_ending_options adds options to batch. --stream must already exist, because --summary-only excludes it.
 void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules);
 
 // add_summarise_options adds the options of summarise.

@@ -1,4 +1,4 @@
-// Formats help, including the arguments NAME and VALUE, which the parser does not know.
+// Formats help, including the arguments NAME and VALUE, which are not defined in the parser.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_FORMATTER_H
 #define OSTREL_TOOLS_COMMAND_LINE_FORMATTER_H
 
@@ -17,10 +17,10 @@ std::vector<const CLI::Option*> options_of(const CLI::App& app);
 // positionals_of returns the positional arguments.
 std::vector<const CLI::Option*> positionals_of(const CLI::App& app);
 
-// synopses_of returns a line for each way to call the program, or the line for a command.
+// synopses_of returns a line for each way to call the program or, for a command, its one line.
 std::vector<std::string> synopses_of(const CLI::App& app);
 
-// usage_of returns these lines as they appear at the beginning of help.
+// usage_of returns the synopses as they appear at the beginning of the help.
 std::string usage_of(const CLI::App& app);
 
 class Formatter : public CLI::Formatter {

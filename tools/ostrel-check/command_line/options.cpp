@@ -111,7 +111,7 @@ std::unique_ptr<CLI::App> make_command_line(Options& options)
     app->set_version_flag("--version", "ostrel-check " OSTREL_VERSION, "Show the version");
     app->formatter(std::make_shared<Formatter>());
     app->prefix_command();
-    app->require_subcommand(0, 1);  // at most one, because a file may be called "list"
+    app->require_subcommand(0, 1);  // at most one, because a file after a command may be called "list"
 
     app->add_flag("-e,--escapes", options.with_escapes, "Read escapes in values");
     app->add_flag("--json", options.json, "The verdict as a line of JSON");

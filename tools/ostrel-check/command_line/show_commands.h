@@ -15,7 +15,7 @@ int show_explanation(const Options& options);
 // show_candidates prints the completions of the last word.
 int show_candidates(const CLI::App& app, const Options& options);
 
-// show_help prints what was requested: help or the version.
+// show_help prints the help or the version, whichever was requested.
 int show_help(const CLI::App& app, const CLI::Success& success);
 
 }  // namespace ostrel::tool

@@ -8,7 +8,7 @@
 
 namespace ostrel::tool {
 
-// explain_json returns one check, and list_json returns the document with all selected checks.
+// explain_json returns the object for one check, and list_json the document with all selected checks.
 std::string explain_json(const catalogue::Function& function);
 std::string list_json(const Selection& selection);
 

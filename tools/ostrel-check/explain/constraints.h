@@ -6,8 +6,8 @@
 
 namespace ostrel::tool {
 
-// constraints returns a JSON object. Its member for each check is an array, which contains the constraints on
-// each argument, or null for an argument that has none.
+// constraints returns a JSON object with a member for each check. The member is an array with an element for
+// each argument, which contains the argument's constraints, or is null if there are none.
 std::string_view constraints();
 
 // json_schema returns the output of list --json-schema.

@@ -38,7 +38,7 @@ bool may_contain(const Exposure& exposure, const Hazard& hazard)
     return std::ranges::any_of(kPlaces, [&](Place place) { return !exposure.bytes(place, hazard).empty(); });
 }
 
-// detail describes where a hazard's bytes can occur, and lists the bytes if only some of them can.
+// detail describes where a hazard's bytes can occur, and lists the bytes if only some of them can occur.
 std::string detail(const Exposure& exposure, const Hazard& hazard)
 {
     constexpr std::size_t kMostBytes = 40;

@@ -16,7 +16,7 @@ void write_hazards(Page& page, const catalogue::Function& function);
 // add_hazards adds the members "may_contain" and "may_contain_after" to an argument that is a string.
 void add_hazards(nlohmann::ordered_json& argument, const catalogue::Function& function, std::size_t index);
 
-// hazards_page returns docs/hazards.md.
+// hazards_page returns the content of docs/hazards.md.
 std::string hazards_page();
 
 }  // namespace ostrel::tool

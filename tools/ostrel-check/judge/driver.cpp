@@ -24,7 +24,7 @@ using calling::kChannelList;
 
 namespace {
 
-// The tool that the check runs.
+// kTool is the driver's tool, which the check runs.
 constexpr char kTool[] = "wlctl";
 
 bool asks_driver(const catalogue::Function& function) { return rules::asks_driver(*function.check); }

@@ -52,7 +52,8 @@ struct Heard {
     std::string problem;  // why there is no list; empty if there is one
 };
 
-// Listening records the driver's answers until heard() is called. The check is called before that.
+// Listening records the driver's answers from its construction until heard() is called. Call the check in
+// between.
 class Listening {
  public:
     Listening();
@@ -65,7 +66,7 @@ class Listening {
  private:
     void restore();
 
-    Descriptor list_;  // the file that receives the driver's answer; the check removes its name
+    Descriptor list_;  // the file with the driver's answer; kept open because the check unlinks it
     int list_error_ = 0;
     Descriptor said_;
     Descriptor standard_error_;

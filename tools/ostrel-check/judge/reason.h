@@ -13,8 +13,8 @@
 
 namespace ostrel::tool {
 
-// gateway returns the build that this program belongs to. The caller may set the channels that the wireless
-// driver lists.
+// gateway returns the build settings with which this program was compiled. The caller may set the channels
+// that the wireless driver lists.
 rules::Build& gateway();
 
 // explain uses the check's description to set the reason why the check refused, ended its process or did not

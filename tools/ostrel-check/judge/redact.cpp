@@ -80,7 +80,7 @@ void Redactor::find_secrets(const Result& result, Encoding encoding)
     }
     std::erase_if(secrets_, [](const std::string& secret) { return secret.empty(); });
     if (encoding == Encoding::kUtf8) return;
-    // Members that are passed through are in UTF-8.
+    // Members that are passed through are in UTF-8, so the secrets are also sought in UTF-8.
     const std::size_t count = secrets_.size();
     for (std::size_t i = 0; i < count; ++i) secrets_.push_back(utf8_of(secrets_[i], encoding));
 }
@@ -172,7 +172,7 @@ void Redactor::redact(Result& result, Encoding encoding)
     if (result.verdict == Verdict::kMalformed) {
         result.problem = without_quotations(result.problem);
         result.why.text = without_quotations(result.why.text);
-        // Any of the values may be a secret.
+        // Any value of a malformed record may be a secret.
         if (result.record != nullptr) {
             for (const Item& item : result.record->items) {
                 if (!item.text.empty()) secrets_.emplace_back(item.text);

@@ -84,7 +84,7 @@ Marker& marker_of(int descriptor)
     return descriptor == STDOUT_FILENO ? out : error;
 }
 
-// pass_on returns what the C library expects from the write function of a stream. It must not throw.
+// pass_on returns what the C library expects from a stream's write function, which must not throw.
 ssize_t pass_on(int descriptor, std::string_view text)
 {
     try {
@@ -198,7 +198,7 @@ int judge_one(const catalogue::Function& function, std::span<const std::string> 
         return conclude(result);
     }
 
-    const Turn turn(*result.function);  // before the time limit starts
+    const Turn turn(*result.function);  // may wait, so it comes before the time limit starts
     Pipe pipe = make_pipe();
     const pid_t child = fork_guarded();
     if (child == 0) call(caller, result, pipe.writing);

@@ -12,7 +12,7 @@ namespace ostrel::tool {
 // Manner controls how one case is judged.
 struct Manner {
     double limit = 2;            // seconds that the call may take
-    bool tries_known = false;    // also makes calls that are known not to return
+    bool tries_known = false;    // whether to make calls that are known not to return
     std::string driver_problem;  // why --channels could not replace the wireless driver; empty if it could
 };
 

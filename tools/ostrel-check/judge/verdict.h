@@ -71,7 +71,7 @@ struct Result {
     Verdict verdict = Verdict::kMalformed;
     const catalogue::Function* function = nullptr;  // NULL if no check was found
     const std::vector<catalogue::Value>* values = nullptr;
-    const Record* record = nullptr;  // NULL if there is none
+    const Record* record = nullptr;  // NULL if the case does not come from a record
     int code = 0;
     std::string problem;  // describes a malformed case, or a call that ended its process or did not return
     calling::PrintedView printed;

@@ -27,9 +27,9 @@ std::string_view name_of(Relation relation);
 // Difference is a value on which the model and the check disagree, confirmed by calling the library.
 struct Difference {
     enum class Kind {
-        kRefused,   // is allowed but refused
-        kAccepted,  // has the type's form and is not allowed, but accepted
-        kForeign,   // does not have the type's form, but is accepted
+        kRefused,   // the value is allowed but refused
+        kAccepted,  // the value has the type's form and is not allowed, but is accepted
+        kForeign,   // the value does not have the type's form, but is accepted
     };
     Kind kind = Kind::kRefused;
     std::string value;
@@ -42,10 +42,10 @@ struct Comparison {
     const MapEntry* entry = nullptr;
     const ModelFacts* facts = nullptr;
     Relation relation = Relation::kUnknown;
-    // is_proved means that no undiscovered difference of the kind kRefused or kAccepted can change relation.
+    // is_proved means that no undiscovered difference of kind kRefused or kAccepted can change relation.
     bool is_proved = false;
     std::vector<Difference> differences = {};  // at most one of each kind
-    std::size_t tried = 0;                     // values that were judged
+    std::size_t tried = 0;                     // number of values that were judged
 };
 
 // compare calls the library in separate processes. Throws std::invalid_argument if the map's entry lacks data

@@ -39,7 +39,7 @@ class Position {
     std::size_t* line_;
 };
 
-// Places records the line of each part while a parser reads it.
+// Places records the line number of each part of a document while a parser reads the document.
 class Places {
  public:
     Places(const std::size_t& line, std::map<std::string, std::size_t>& lines) : line_(line), lines_(lines) {}

@@ -72,7 +72,7 @@ std::string_view Dump::path_name() const
 
 void Dump::read_json(std::string_view text)
 {
-    // What follows the object belongs to the enclosing array.
+    // Anything after the object belongs to the enclosing array.
     const std::size_t end = text.rfind('}');
     if (end == std::string_view::npos) {
         const bool is_blank = text.find_first_not_of(" \t\r\n") == std::string_view::npos;

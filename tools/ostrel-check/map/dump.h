@@ -14,7 +14,7 @@
 
 namespace ostrel::tool {
 
-// plain_reading returns the settings for reading the rows that a map applies to.
+// plain_reading returns the settings for reading the rows of a dump, without the map that applies to them.
 Reading plain_reading(const Reading& reading);
 
 // Dump reads the CSV rows or JSON objects of a file one after another. An object is either a row or a whole
@@ -32,8 +32,8 @@ class Dump {
     // with a message for the user. In that case, there are no rows.
     void read(std::string_view text);
 
-    // next_row stores the next row, except its line, or returns false if there is none. The row is valid
-    // until the next call.
+    // next_row stores the next row, except for its line number, or returns false if there is none. The row
+    // is valid until the next call.
     bool next_row(DumpRow& row);
 
     // is_whole_gateway returns whether the last object was a whole gateway.

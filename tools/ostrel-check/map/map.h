@@ -1,4 +1,5 @@
-// A map assigns checks to parameters of a configuration, and defines the sources of their other arguments.
+// A map assigns checks to the parameters of a configuration, and defines where the checks' other arguments
+// come from.
 #ifndef OSTREL_TOOLS_MAP_MAP_H
 #define OSTREL_TOOLS_MAP_MAP_H
 
@@ -24,7 +25,7 @@ struct TextHash {
 template <typename T>
 using ByText = std::unordered_map<std::string, T, TextHash, std::equal_to<>>;
 
-// WordTable contains the string that is passed for each value in the data model.
+// WordTable contains, for each value in the data model, the string that is passed to the check.
 using WordTable = ByText<std::string>;
 
 // Source defines where the value of an argument comes from.
@@ -41,7 +42,7 @@ struct Source {
     std::string example = {};  // a value for comparisons, before the words are applied
 };
 
-// MapEntry is a parameter and a check that judges it.
+// MapEntry pairs a parameter path with the check that judges it.
 struct MapEntry {
     PathPattern path;
     const catalogue::Function* function = nullptr;
@@ -64,7 +65,7 @@ struct NotMapped {
 // KnownPath is the map's information about all paths with the same general form.
 struct KnownPath {
     std::vector<std::size_t> entries = {};
-    bool is_sibling = false;  // calls for other parameters may need the values
+    bool is_sibling = false;  // calls for other parameters may need the values at these paths
 };
 
 struct Map {

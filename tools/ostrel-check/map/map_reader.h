@@ -13,7 +13,7 @@
 namespace ostrel::tool {
 
 // MapReader reads a whole chunk, which contains only whole gateways, as one entry. After the last record of a
-// chunk, read returns Found::kNothing.
+// chunk, read() returns Found::kNothing.
 class MapReader : public Reader {
  public:
     // The map must outlive the reader. Throws std::invalid_argument with a message for the user.
@@ -28,7 +28,7 @@ class MapReader : public Reader {
     std::size_t skip(std::string_view rest, std::uint64_t line) override;
 
     // read continues where the previous call stopped. In a worker that takes over from another one, it starts
-    // again at the beginning of the chunk and skips the records that were read before. It does not throw. A
+    // again at the beginning of the chunk and skips the records that were read before. read does not throw. A
     // fault in a row becomes the problem of its record, and read continues with the next row.
     Found read(std::string_view text, std::size_t part, Record& record) override;
 

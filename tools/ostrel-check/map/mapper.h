@@ -17,7 +17,7 @@
 
 namespace ostrel::tool {
 
-// Lack is the reason why a call cannot be made although the value is not at fault.
+// Lack is the reason why a call cannot be made even though the value itself is not the cause.
 struct Lack {
     std::string_view id;        // "missing_sibling" or "no_word"; empty if nothing is missing
     std::string_view argument;  // the argument that has no value
@@ -33,7 +33,7 @@ struct DumpRow {
     std::span<const Member> members = {};  // members that results repeat
 };
 
-// Mapper takes the rows of one gateway after another. It immediately derives the calls that need only one
+// Mapper takes the rows of one gateway at a time. It immediately derives the calls that need only one
 // parameter, and reports parameters without a check. At the end of the gateway, it derives the calls that
 // also need other parameters, in the order of their rows. It stores the data of only one gateway.
 class Mapper {
@@ -44,7 +44,7 @@ class Mapper {
     void take(const DumpRow& row);
     void end_gateway();
 
-    // next stores the next call in record, or returns false if it needs another row. The record is valid
+    // next stores the next call in record, or returns false if another row is needed. The record is valid
     // until next is called again. If something is missing, lack describes it and the record has no items.
     bool next(Record& record, Lack& lack);
 

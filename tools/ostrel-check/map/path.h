@@ -31,8 +31,8 @@ class PathPattern {
     // append appends the path, with each {i} replaced by the next number. Excess numbers are ignored.
     void append(std::string& out, std::span<const std::string_view> numbers) const;
 
-    // matches returns whether a path contains the pattern's literal numbers. Both must have the same general
-    // form.
+    // matches returns whether a path contains the pattern's literal numbers in the same places. Both must
+    // have the same general form.
     [[nodiscard]] bool matches(std::string_view path, std::span<const std::string_view> numbers) const;
 
  private:

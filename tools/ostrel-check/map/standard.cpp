@@ -67,7 +67,8 @@ class StandardBuilder {
         return languages_.repeated(languages_.byte(set), least, most);
     }
 
-    // of_lengths returns the strings that repeat one as many times as the lengths allow.
+    // of_lengths returns the strings in which one is repeated as many times as any of the ranges allows. The
+    // upper limits are multiplied by factor.
     Language of_lengths(const std::vector<Range>& lengths, Language one, std::size_t factor = 1)
     {
         if (lengths.empty()) return languages_.repeated(one, 0);
@@ -206,7 +207,7 @@ class StandardBuilder {
         return result;
     }
 
-    // url treats as allowed only some of the strings that are certainly URLs.
+    // url allows only simple strings that are certainly URLs.
     Standard url()
     {
         Standard result = text_of(facts_.lengths);

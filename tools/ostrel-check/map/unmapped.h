@@ -15,8 +15,8 @@ namespace ostrel::tool {
 
 struct Map;
 
-// why_unmapped returns the map's explanation of why a path has no check, or an empty string if it contains
-// none.
+// why_unmapped returns the map's explanation of why a path has no check, or an empty string if the map does
+// not explain it.
 std::string_view why_unmapped(const Map& map, std::string_view path);
 
 // SplitGateways remembers recent gateways, and counts those whose rows are not adjacent.
@@ -51,7 +51,7 @@ class Unmapped {
  public:
     static constexpr std::size_t kMostPaths = 10'000;
 
-    // has_map returns whether anything was judged with a map. use_map records that it was.
+    // has_map returns whether anything was judged with a map. use_map records that a map was used.
     [[nodiscard]] bool has_map() const { return has_map_; }
     void use_map() { has_map_ = true; }
 

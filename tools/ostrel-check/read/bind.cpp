@@ -34,7 +34,7 @@ long long read_number(const Argument& argument, std::string_view word)
         append_escaped(message, word, 40);
         throw std::invalid_argument(message.append("\" is not one"));
     }
-    // A number that is far out of range becomes a smaller one that is still out of range.
+    // A number that is far out of range is replaced by a smaller one that is still out of range.
     if (read.ec != std::errc()) number = 1ULL << 62;
     const auto magnitude = static_cast<long long>(std::min(number, 1ULL << 62));
     return negative ? -magnitude : magnitude;

@@ -11,7 +11,8 @@
 
 namespace ostrel::tool {
 
-// Cases reads the entries of files one after another and reuses its memory. A Reader determines the entries.
+// Cases reads the entries of files one after another and reuses its memory. A Reader divides the files into
+// entries.
 class Cases {
  public:
     explicit Cases(const Reading& reading) : reading_(&reading) {}

@@ -1,4 +1,4 @@
-// Records that are rows of CSV or TSV.
+// Reads records that are rows of CSV or TSV.
 #ifndef OSTREL_TOOLS_READ_CSV_H
 #define OSTREL_TOOLS_READ_CSV_H
 

@@ -17,7 +17,7 @@ unsigned byte_at(std::string_view text, std::size_t at) { return static_cast<uns
 
 struct Character {
     unsigned code = 0;
-    std::size_t size = 0;  // 0: not valid
+    std::size_t size = 0;  // in bytes, or 0 if they are not valid UTF-8
 };
 
 // read_character reads the first character of the text.
@@ -117,7 +117,8 @@ void decode_base64(std::string& bytes, std::string_view text)
         bits = bits << 6 | static_cast<unsigned>(digit);
         if (i % 4 != 3) continue;
         const std::size_t made = i + 1 == text.size() ? 3 - padding : 3;
-        // The bits that padding leaves over must be zero. Otherwise, two strings would encode the same bytes.
+        // The bits that the padding leaves unused must be zero. Otherwise, several strings would encode the
+        // same bytes.
         if ((bits & ((1U << 8 * (3 - made)) - 1)) != 0) refuse();
         for (std::size_t byte = 0; byte < made; ++byte) {
             bytes += static_cast<char>(bits >> (16 - 8 * byte) & 0xFF);

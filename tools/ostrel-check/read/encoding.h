@@ -18,9 +18,9 @@ std::size_t valid_utf8(std::string_view text);
 
 inline bool is_ascii(std::string_view text) { return ascii_size(text) == text.size(); }
 
-// encode converts UTF-8 text to the encoding and appends the bytes, which are never more than those of the
+// encode converts UTF-8 text to the encoding and appends the result, which never has more bytes than the
 // text. With UTF-8, invalid bytes are unchanged. With Latin-1, it throws std::invalid_argument, with a
-// message for the user, for a character that does not exist in Latin-1 and for a byte that is not UTF-8.
+// message for the user, for a character that does not exist in Latin-1 and for an invalid byte.
 void encode(std::string& bytes, std::string_view text, Encoding encoding);
 
 // utf8_of converts in the opposite direction. With UTF-8, it returns the bytes unchanged, even if they are

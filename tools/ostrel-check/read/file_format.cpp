@@ -24,7 +24,7 @@ constexpr std::array<Ending, 7> kEndings = {{{".ndjson", FileFormat::kNdjson},
 constexpr std::string_view kUtf16 = "the file is UTF-16; convert it with iconv -f UTF-16 -t UTF-8";
 constexpr std::string_view kUtf32 = "the file is UTF-32; convert it with iconv -f UTF-32 -t UTF-8";
 
-// Front describes a kind of unreadable file, which its first bytes identify.
+// Front describes a kind of unreadable file that is identified by its first bytes.
 struct Front {
     std::string_view bytes;
     std::string_view problem;

@@ -17,7 +17,7 @@ std::optional<FileFormat> format_of_name(std::string_view name);
 // kWords for a line of JSON too, because lines of words and lines of JSON may be mixed.
 FileFormat format_of_bytes(std::string_view front, const Reading& reading);
 
-// why_not_text returns why a file is not text in UTF-8 and what to do about it. For any other file, it
+// why_not_text returns why a file is not UTF-8 text and what to do about it. For any other file, it
 // returns an empty string.
 std::string_view why_not_text(std::string_view front);
 

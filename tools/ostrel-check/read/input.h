@@ -22,7 +22,7 @@ struct Chunk {
     std::size_t file = 0;    // index of the file
     std::uint64_t line = 1;  // the number of the first line
     FileFormat format = FileFormat::kWords;
-    std::string_view preamble;  // of the file
+    std::string_view preamble;  // the file's preamble
     std::string_view text;
     bool starts_file = false;
     std::string problem;  // why nothing can be read here, or empty if there is text
@@ -71,7 +71,7 @@ class Input {
     std::unique_ptr<Cutter> cutter_;  // not set until the first bytes of the file have been examined
     std::string preamble_;
     std::string preamble_problem_;
-    std::string problem_;  // at the current position
+    std::string problem_;  // the problem at the current position
     bool ends_file_ = false;
     std::uint64_t line_ = 1;
     std::uint64_t problem_line_ = 1;

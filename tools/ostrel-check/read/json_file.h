@@ -1,4 +1,4 @@
-// Records that are the elements of a JSON array, or consecutive objects.
+// Reads records that are the elements of a JSON array, or consecutive objects.
 #ifndef OSTREL_TOOLS_READ_JSON_FILE_H
 #define OSTREL_TOOLS_READ_JSON_FILE_H
 

@@ -1,4 +1,4 @@
-// A record that is a JSON object.
+// Reads a record that is a JSON object.
 #ifndef OSTREL_TOOLS_READ_JSON_OBJECT_H
 #define OSTREL_TOOLS_READ_JSON_OBJECT_H
 
@@ -54,7 +54,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
         kTexts,     // in an array that is one argument
         kWrapping,  // {"base64": text}
         kBase64,
-        kOther,   // any other member of such an object, which is not allowed
+        kOther,   // a member other than "base64" in such an object, which is not allowed
         kPassed,  // the value of a member that is passed through
         kEnd,
     };

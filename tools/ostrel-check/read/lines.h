@@ -1,4 +1,4 @@
-// Records that are lines of words or JSON objects.
+// Reads records that are lines of words or JSON objects.
 #ifndef OSTREL_TOOLS_READ_LINES_H
 #define OSTREL_TOOLS_READ_LINES_H
 

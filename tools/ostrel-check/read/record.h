@@ -33,7 +33,7 @@ struct Member {
 
 // GatewayCounts counts what a gateway's dump contains apart from judged values.
 struct GatewayCounts {
-    std::uint32_t parameters = 0;  // all of them
+    std::uint32_t parameters = 0;  // all parameters
     std::uint32_t skipped = 0;     // their values carry no information, according to the map
     std::uint32_t repeated = 0;    // siblings that occurred again, so that their earlier values are lost
 };
@@ -45,18 +45,18 @@ struct Record {
     enum class Kind {
         kCase,
         kUnmapped,    // a parameter that the map has no check for
-        kGatewayEnd,  // all of a gateway has been read
+        kGatewayEnd,  // a whole gateway has been read
     };
     Kind kind = Kind::kCase;
     std::uint64_t line = 0;  // where the record begins, counted from the beginning of its entry
-    std::string_view check;  // its name, or empty if the record has none
+    std::string_view check;  // the check's name, or empty if the record has none
     std::string_view path;   // of a parameter without a check
     GatewayCounts counts;    // at the end of a gateway
     std::uint64_t end = 0;   // at the end of a gateway, the line where the next one begins
     std::vector<Item> items;
     std::vector<Member> members;  // in the record's order, with unique names, including "id" and "parameter"
     std::string_view problem;     // if not empty, why there is no call
-    std::string_view problem_id;  // id of the problem, if the record itself is not at fault
+    std::string_view problem_id;  // id of the problem, if the record itself is correct
     std::string_view problem_argument;  // the argument that has no value
     std::string_view problem_path;      // the parameter that its value would come from
     bool may_have_spares = false;       // superfluous empty items at the end are to be ignored

@@ -17,9 +17,9 @@ namespace ostrel::tool {
 // Words contains the words of a line. Its memory is reused for the next line.
 class Words {
  public:
-    // split reads words separated by blanks, 'literal text', "text with escapes", escapes outside quotation marks,
-    // and comments that begin with # where a word could begin. Throws std::invalid_argument with a message for the
-    // user.
+    // split reads words separated by blanks, 'literal text', "text with escapes", escapes outside quotation
+    // marks, and comments that begin with # where a word could begin. Throws std::invalid_argument with a
+    // message for the user.
     void split(std::string_view line);
 
     [[nodiscard]] std::span<const std::string> all() const { return {words_.data(), count_}; }
@@ -42,7 +42,7 @@ std::string read_escapes(std::string_view text);
 // kNull is the word for NULL. The word "@@null" stands for the value "@null", and so on.
 inline constexpr std::string_view kNull = "@null";
 
-// item_of returns the item for a word, whose text is a view into the word.
+// item_of returns the item for a word. The item's text is a view into the word.
 Item item_of(std::string_view word);
 
 // read_values assigns the words to the arguments, with one word for each block. A word may be a number, a

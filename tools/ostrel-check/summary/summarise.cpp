@@ -95,7 +95,7 @@ void read_row(Rows& rows, const ordered_json& given)
     rows.counted.push_back(counted);
 }
 
-// read_map reads a summary's counts for dumps.
+// read_map reads the counts that a summary contains if dumps were judged.
 void read_map(Unmapped& unmapped, const ordered_json& given)
 {
     if (!given.is_object()) refuse("\"map\" is not an object");

@@ -36,7 +36,7 @@ class Summary {
     void add(const CountedRow& counted);
     void add_unreadable_files(std::uint64_t count) { unreadable_files_ += count; }
 
-    // unmapped returns the counts for dumps.
+    // unmapped returns the counts that apply only to gateway dumps.
     [[nodiscard]] Unmapped& unmapped() { return unmapped_; }
     [[nodiscard]] const Unmapped& unmapped() const { return unmapped_; }
 
@@ -59,7 +59,7 @@ class Summary {
 
     static void add(Kinds& kinds, const SummaryRow& row, std::uint64_t count);
 
-    std::vector<OfCheck> checks_;  // as in the catalogue; the last one is for records without a check
+    std::vector<OfCheck> checks_;  // in the catalogue's order; the last one is for records without a check
     Tally tally_;
     Unmapped unmapped_;
     std::uint64_t unreadable_files_ = 0;

@@ -18,8 +18,8 @@ const catalogue::Function* function_of(const SummaryRow& row)
     return row.check == kNoCheck ? nullptr : &catalogue::functions()[row.check];
 }
 
-// Ends counts the records of a family. Accepted and refused records are counted by code, with acceptance
-// first, and all other records by verdict.
+// Ends counts the records of a family. Accepted and refused records are counted by code, accepted ones first,
+// and all other records are counted by verdict.
 struct Ends {
     std::string_view family;
     std::map<std::pair<bool, int>, std::uint64_t> by_code;

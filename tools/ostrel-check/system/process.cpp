@@ -73,7 +73,7 @@ pid_t fork_guarded()
     const pid_t child = fork();
     if (child < 0) throw failure("cannot start a process");
     if (child > 0) {
-        setpgid(child, child);  // both processes do this, because either may continue first
+        setpgid(child, child);  // both processes do this, because either may run first
         return child;
     }
     setpgid(0, 0);

@@ -51,7 +51,7 @@ void show_page(std::string_view text)
         write_all(STDOUT_FILENO, text);
         return;
     }
-    // The pager handles the interrupt keys.
+    // The pager handles the interrupt keys, so this process ignores their signals.
     std::signal(SIGINT, SIG_IGN);
     std::signal(SIGQUIT, SIG_IGN);
     pipe.reading.close();

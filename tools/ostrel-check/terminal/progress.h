@@ -14,7 +14,7 @@ namespace ostrel::tool {
 struct Advance {
     std::uint64_t cases = 0;
     std::uint64_t refused = 0;
-    std::uint64_t bytes = 0;  // of the input
+    std::uint64_t bytes = 0;  // bytes of the input
 };
 
 // size_of returns the number of bytes in the files, or nothing if one of them is not a regular file.

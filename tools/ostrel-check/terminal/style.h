@@ -33,8 +33,8 @@ struct Look {
 
 Look look_of(int descriptor);
 
-// append_wrapped appends text, wrapped to the given number of columns. Each line is indented by indentation
-// blanks, and each line after the first by hanging more blanks.
+// append_wrapped appends text, wrapped to the given number of columns. indentation is the number of blanks
+// before each line, and hanging the number of additional blanks before each line after the first.
 void append_wrapped(std::string& out, std::string_view text, std::size_t indentation, std::size_t hanging = 0,
                     std::size_t columns = kColumns);
 
