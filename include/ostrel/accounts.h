@@ -1,7 +1,7 @@
 /*
  * Checks for the provisioning code, PPP user names, passwords, and the fields of VoIP and e-mail accounts.
  *
- * No pointer may be NULL. Only TcmValidateProvisioningCode prints. Lengths count bytes.
+ * No pointer may be NULL. Only TcmValidateProvisioningCode prints. Lengths are in bytes.
  */
 #ifndef OSTREL_ACCOUNTS_H
 #define OSTREL_ACCOUNTS_H
@@ -13,38 +13,41 @@
  * counted from 0. The digits at positions 6 and 10 must be from 0 to 4, those at positions 12 to 14 may be
  * any digits, and every other digit must be 0.
  *
- * Returns 0 or OSTREL_INVALID_VALUE. If a value of 15 characters is refused, the first wrong position is
- * printed without a flush: "TcmValidateProvisioningCode  pCode[%d] error \n" for position 6, 10, 12, 13 or
- * 14, and "TcmValidateProvisioningCode  pCode[%d] error\n" for any other position. For a value of any other
- * length, nothing is printed.
+ * Returns 0 or OSTREL_INVALID_VALUE. If a value of 15 characters is refused, the position of its first wrong
+ * character is printed without a flush: "TcmValidateProvisioningCode  pCode[%d] error \n" for position 6, 10,
+ * 12, 13 or 14, and "TcmValidateProvisioningCode  pCode[%d] error\n" for any other position. For a value of
+ * any other length, nothing is printed.
  */
 OSTREL_API int TcmValidateProvisioningCode(const char* value);
 
 /*
  * TcmValidatePPPUsername: the user name of a PPP account.
  *
- * If a name ends in one of the ISP's two realms, which are build options (by default "@example.net" and
- * "@setup.example.net") and are compared case-sensitively, and has at least one character before the realm,
- * only the part before the realm is checked. It must consist of digits and "#" in one of these forms:
+ * The ISP has two realms, which are build options and are compared case-sensitively: the account realm (by
+ * default "@example.net") and the set-up realm (by default "@setup.example.net"). If a name ends in one of
+ * them, with at least one character before it, only the part before the realm is checked. That part must
+ * consist of digits and "#" in one of these forms, where indices are counted from 0:
  *
  *   type  realm    characters before the realm
  *   1     account  28, no "#"
- *   2     account  fewer than 29: 13 or more, "#", 4;  or 29, one "#", at index 24
+ *   2     account  18 to 29, one "#", directly before the last 4 characters
  *   3     account  29, one "#", at index 12
- *   4     account  19 to 30, two "#", at index 12 and 5 from the end
+ *   4     account  19 to 30, two "#", at index 12 and directly before the last 4 characters
  *   5     set-up   16, no "#"
  *   6     set-up   17, one "#", at index 12
  *
  * The part must have 18 to 30 characters before the account realm, or 16 or 17 before the set-up realm. A
- * part with three or more "#" is accepted wherever they are, and the type is not written. A name without such
- * a part is of type 0 and must consist of 1 to 131 characters from CHARSET_LATIN1_PRINTABLE.
+ * part with three or more "#" is accepted regardless of their positions, and the type is not written. A name
+ * without a realm, or with nothing before the realm, is of type 0 and must consist of 1 to 131 characters
+ * from CHARSET_LATIN1_PRINTABLE.
  *
- * account_type: receives the type if the name is accepted, except as stated above; otherwise it is unchanged.
+ * account_type: receives the type if the name is accepted. It is unchanged if the name is refused, or if the
+ *               part before the realm has three or more "#".
  *
  * Returns 0, or the code of the first test that fails:
  * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER: a fault in the part before the realm, or
  *   in the whole name if it is of type 0;
- * OSTREL_INVALID_VALUE: the part matches none of the forms.
+ * OSTREL_INVALID_VALUE: the part before the realm has none of the forms above.
  */
 OSTREL_API int TcmValidatePPPUsername(const char* value, int* account_type);
 

@@ -22,9 +22,9 @@ OSTREL_API int TcmValidateIPAddress(const char* value);
  * TcmValidateMACaddress: an IEEE 802 MAC address of 17 characters, written as six octets of two hexadecimal
  * digits each, in either case, separated by ":".
  *
- * NULL is invalid. A value of any other length is invalid, and nothing is printed. Otherwise, if the first
- * fault is some other character where a ":" is required, that character is written to standard output,
- * without a newline and without a flush. Nothing else is printed.
+ * NULL is invalid. A value that does not have 17 characters is invalid, and nothing is printed. If the first
+ * fault in a value of 17 characters is a wrong character in the place of a ":", that character is written to
+ * standard output, without a newline and without a flush. Nothing else is printed.
  */
 OSTREL_API int TcmValidateMACaddress(const char* value);
 
@@ -36,8 +36,8 @@ OSTREL_API int TcmValidateMACaddress(const char* value);
  *
  * If the group bit (I/G, the lowest bit of the first octet, IEEE 802) is set, as in every multicast address
  * and in the broadcast address, "Broadcasting MAC address, invalid.\n" is printed, without a flush, and the
- * address is invalid. This bit is tested before any later character is examined. "00:00:00:00:00:00" is
- * valid.
+ * address is invalid. This bit is tested before any character after the first octet is examined.
+ * "00:00:00:00:00:00" is valid.
  */
 OSTREL_API int isValidOrdinaryMACAddress(const char* value);
 

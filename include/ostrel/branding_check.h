@@ -14,8 +14,8 @@
  * The first eight checks limit only the length. They accept any bytes and the empty value.
  *
  * Each returns 0, or prints "Error in %s: The length of string :%s shoud not be less than %d\n" with the
- * value and the limit, and returns OSTREL_TOO_LONG. The limit printed is one more than the greatest length
- * that is accepted, so the message means "must be less than".
+ * value and the limit, and returns OSTREL_TOO_LONG. The printed limit is one more than the greatest accepted
+ * length, so the message means "must be less than".
  */
 
 /* Param_check_ispname_value: at most 31 bytes; the limit printed is 32. */
@@ -51,7 +51,7 @@ OSTREL_API int Param_check_pword_value(const char* value);
  *   "Error in %s: The length of color :%s shoud not be equal to %d\n" with the value and 6 (the message
  *   means "must be equal to");
  * OSTREL_WRONG_FORM: a character is not a hexadecimal digit:
- *   "Error in %s: color :%s contain invalid char %c\n" with the value and the first such byte as it is.
+ *   "Error in %s: color :%s contain invalid char %c\n" with the value and the first such byte, unchanged.
  */
 OSTREL_API int Param_check_color_value(const char* value);
 

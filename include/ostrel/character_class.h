@@ -1,5 +1,5 @@
 /*
- * A table of character classes, with a mask of the classes of each byte according to ISO 8859-1 (Latin-1).
+ * A table that contains, for each byte, a mask of its character classes in ISO 8859-1 (Latin-1).
  *
  * Unlike <ctype.h>, the table does not depend on the locale, has no entry for EOF, and is indexed by the byte
  * as an unsigned char.
@@ -23,8 +23,8 @@ enum ostrel_character_class {
 };
 
 /*
- * ostrel_ctype: the classes of each byte; the table is read-only. The bytes 0x80 to 0x9F have no class, not
- * even CT_CNTRL; 0xA0 (no-break space) is CT_SPACE | CT_BLANK.
+ * ostrel_ctype: a read-only table of the classes of each byte. The bytes 0x80 to 0x9F have no class, not even
+ * CT_CNTRL. The byte 0xA0 (no-break space) has the classes CT_SPACE and CT_BLANK.
  */
 OSTREL_API const unsigned char ostrel_ctype[256];
 

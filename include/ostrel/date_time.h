@@ -30,7 +30,7 @@
 /*
  * ValidateDay: a date of the Gregorian calendar, which is applied to every year, including negative ones.
  *
- * month: 1 to 12; any other number is refused. A negative number is converted to a very large one.
+ * month: 1 to 12; any other number is refused. A negative argument is converted to a very large number.
  * day:   at most the length of the month. There is no lower bound: 0 and negative days are valid.
  */
 OSTREL_API int ValidateDay(int year, unsigned month, int day);

@@ -83,7 +83,7 @@ OSTREL_API int TcmValidateEmailAddress(const char* value);
 /*
  * TcmValidateVoIPRegistrar: the SIP registrar, 3 to 64 characters from CHARSET_NAME that ValidateURL accepts.
  *
- * "_" is in the set but is not allowed in a host, so a value that contains it fails the test for the form.
+ * "_" is in the set but is not allowed in a host, so a value that contains it has the wrong form.
  *
  * Returns 0, OSTREL_TOO_SHORT, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER or OSTREL_WRONG_FORM.
  */
@@ -93,7 +93,7 @@ OSTREL_API int TcmValidateVoIPRegistrar(const char* value);
  * TcmValidateVoIPSTUNServer: the STUN server, which is either empty or a host that ValidateURL accepts, with
  * at most 64 characters from CHARSET_HOSTPORT.
  *
- * "_" and ":" are in the set but are not allowed in a host, so a value with a port fails the test for the
+ * "_" and ":" are in the set but are not allowed in a host. For example, a value with a port has the wrong
  * form.
  *
  * Returns 0, OSTREL_TOO_LONG, OSTREL_FORBIDDEN_CHARACTER or OSTREL_WRONG_FORM.

@@ -2,10 +2,10 @@
  * Checks for the fields of a static route (layer-3 forwarding).
  *
  * value is a NUL-terminated byte string of any length and must not be NULL; no check changes it. Every check
- * returns 0 or OSTREL_INVALID_VALUE. A check that refuses a value writes the stated line to standard output
- * and flushes all output streams. The first %s in the line is the name of the check. A check that accepts a
- * value prints nothing. Numbers are read with atoi: a string without a number is read as 0, and characters
- * after the digits are ignored.
+ * returns 0 or OSTREL_INVALID_VALUE. A check that refuses a value writes the line shown below to standard
+ * output and flushes all output streams. The first %s in the line is the name of the check. A check that
+ * accepts a value prints nothing. Numbers are read with atoi: a string without a number is read as 0, and
+ * characters after the digits are ignored.
  */
 #ifndef OSTREL_L3FORWARDING_CHECK_H
 #define OSTREL_L3FORWARDING_CHECK_H

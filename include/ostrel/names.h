@@ -3,7 +3,7 @@
  * of the router.
  *
  * The functions print nothing, keep no state and do not change their arguments. No pointer may be NULL.
- * Lengths count bytes; character_sets.h defines the sets.
+ * Lengths are in bytes; character_sets.h defines the sets.
  */
 #ifndef OSTREL_NAMES_H
 #define OSTREL_NAMES_H

@@ -1,14 +1,15 @@
 /*
  * Generic checks for common kinds of parameters.
  *
- * value_p is the value, a NUL-terminated byte string of any length; no check changes it. A check that prints
- * writes one line to standard output when it refuses a value, and then flushes all output streams. The line
- * begins with "Error in <name of the check>: ". Output from a primitive that a check calls is not flushed.
+ * value_p is the value, a NUL-terminated byte string of any length; no check changes it. Where a line is
+ * shown for a check, the check writes it to standard output when it refuses a value, and then flushes all
+ * output streams. The line begins with "Error in <name of the check>: ". Output from a primitive that a check
+ * calls is not flushed.
  *
- * Where a NULL value is documented to fail an assertion, the C library's assertion hook reports it and ends
- * the process, in every build type. The report contains the condition "value_p != ((void *)0)" unless stated
- * otherwise, the module "parameter_check" and the name of the check. If neither an assertion nor a result is
- * stated for NULL, value_p must not be NULL.
+ * Where a NULL value is documented to fail an assertion, the assertion is active in every build type. The C
+ * library's assertion hook prints a message and ends the process. The message contains the condition
+ * "value_p != ((void *)0)" unless noted otherwise, the module "parameter_check" and the name of the check. If
+ * the comment on a check mentions neither an assertion nor a result for NULL, value_p must not be NULL.
  */
 #ifndef OSTREL_PARAMETER_CHECK_H
 #define OSTREL_PARAMETER_CHECK_H
@@ -16,15 +17,16 @@
 #include <ostrel/api.h>
 
 /*
- * Param_check_string_len: a length of min_len to max_len bytes, compared as signed numbers.
+ * Param_check_string_len: the length must be from min_len to max_len bytes. The limits are compared as signed
+ * numbers.
  *
- * A NULL value fails an assertion with the condition "((void *)0) != value_p". Returns 0, or the code of the
+ * A NULL value fails an assertion whose condition is "((void *)0) != value_p". Returns 0, or the code of the
  * first test that fails, after printing its line:
  * OSTREL_TOO_SHORT:
  *   "Error in %s: The length of string:%s shoud not be less than %d\n" with the value and min_len;
  * OSTREL_TOO_LONG:
  *   "Error in %s: The length of string:%s shoud not be more than %d\n" with the value and max_len.
- * PARAM_check_string_len compares unsigned numbers and prints nothing.
+ * PARAM_check_string_len has unsigned limits and prints nothing.
  */
 OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_len);
 
@@ -45,15 +47,16 @@ OSTREL_API int PARAM_check_port(const char* value_p);
 OSTREL_API int PARAM_check_ip_addr(const char* value_p);
 
 /*
- * PARAM_check_Ordinary_MACAddress: the MAC address of one station; see isValidOrdinaryMACAddress, which may
- * print without a flush.
+ * PARAM_check_Ordinary_MACAddress: the MAC address of one station, as checked by isValidOrdinaryMACAddress,
+ * which may print without a flush.
  *
  * Returns 0 or OSTREL_INVALID_VALUE. NULL is invalid.
  */
 OSTREL_API int PARAM_check_Ordinary_MACAddress(const char* value_p);
 
 /*
- * PARAM_check_MACAddress: a MAC address; see TcmValidateMACaddress, which may print without a flush.
+ * PARAM_check_MACAddress: a MAC address, as checked by TcmValidateMACaddress, which may print without a
+ * flush.
  *
  * Returns 0 or OSTREL_INVALID_VALUE. NULL is invalid.
  */
@@ -90,8 +93,8 @@ OSTREL_API int PARAM_check_hexa_string(const char* value_p);
 OSTREL_API int PARAM_check_printable_ascii_string(const char* value_p);
 
 /*
- * PARAM_check_provisioning_code: a provisioning code; see TcmValidateProvisioningCode, which may print
- * without a flush.
+ * PARAM_check_provisioning_code: a provisioning code, as checked by TcmValidateProvisioningCode, which may
+ * print without a flush.
  *
  * Returns 0 or OSTREL_INVALID_VALUE.
  */
@@ -150,10 +153,10 @@ OSTREL_API int PARAM_check_num_range(const char* value_p, int min, int max);
 OSTREL_API int PARAM_check_password(const char* value_p, int min_len, int max_len);
 
 /*
- * PARAM_check_string_len: a length of min_len to max_len bytes, compared as unsigned numbers: a negative
- * limit becomes a very large one. Prints nothing.
+ * PARAM_check_string_len: the length must be from min_len to max_len bytes. The limits are unsigned, so a
+ * negative one becomes very large. Prints nothing.
  *
- * Returns 0 or OSTREL_INVALID. Param_check_string_len compares signed numbers and prints a line.
+ * Returns 0 or OSTREL_INVALID. Param_check_string_len has signed limits and prints a line.
  */
 OSTREL_API int PARAM_check_string_len(const char* value_p, unsigned min_len, unsigned max_len);
 
@@ -170,8 +173,8 @@ OSTREL_API int PARAM_check_string_prefix(const char* value_p, const char* first_
  * decimal digits only.
  *
  * Returns 0, or:
- * OSTREL_OUT_OF_RANGE: the value is NULL or empty, or its number overflows to a negative one (nothing is
- *   printed in these cases); or a character is not a digit, after printing
+ * OSTREL_OUT_OF_RANGE: the value is NULL or empty, or its number overflows and is read as negative (nothing
+ *   is printed in these cases); or a character is not a digit, after printing
  *   "Error in %s: The value %s is invalid\n" with the value;
  * OSTREL_WRONG_FORM: the number is 0, and nothing is printed;
  * OSTREL_BUFFER_SIZE_TOO_LARGE: the number is above 1048576, after printing

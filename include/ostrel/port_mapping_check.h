@@ -3,11 +3,11 @@
  *
  * Only permanent mappings of one external port that are open to every remote host are supported. Values are
  * NUL-terminated byte strings of any length; no check changes them. A check that refuses a value writes the
- * stated lines to standard output and flushes all output streams after each. The first %s in a line is the
- * name of the check unless stated otherwise. A check that accepts a value prints nothing.
+ * lines shown below to standard output and flushes all output streams after each line. The first %s in a line
+ * is the name of the check unless noted otherwise. A check that accepts a value prints nothing.
  *
- * Only PORTMAPPING_check_port_available asserts that its value is not NULL. In every build type, the C
- * library's assertion hook reports a NULL value and ends the process. The report contains the condition
+ * Only PORTMAPPING_check_port_available asserts, in every build type, that its value is not NULL. For NULL,
+ * the C library's assertion hook prints a message and ends the process. The message contains the condition
  * "value_p != ((void *)0)", the module "port_mapping_check" and the source line.
  */
 #ifndef OSTREL_PORT_MAPPING_CHECK_H
@@ -28,7 +28,7 @@ OSTREL_API int PORTMAPPING_check_remote_host(const char* value_p);
  *
  * Returns 0, or:
  * OSTREL_WILDCARD_EXTERNAL_PORT: the value is NULL or empty, after printing
- *   "Error in %s: The remote host should not be wildcard\n", which refers to the port;
+ *   "Error in %s: The remote host should not be wildcard\n", in which "remote host" means the port;
  * OSTREL_OUT_OF_RANGE: PARAM_check_port refuses the port and prints its line under its own name.
  */
 OSTREL_API int PORTMAPPING_check_external_port(const char* value_p);
@@ -37,8 +37,8 @@ OSTREL_API int PORTMAPPING_check_external_port(const char* value_p);
  * PORTMAPPING_check_port_available: a WAN port that the gateway does not reserve for its own services.
  *
  * port:     the number as atoi reads it; a string without a number is read as port 0, which is not reserved.
- *           With protocol 0 or 1, a NULL port fails an assertion that reports the function is_port_reserved
- *           or is_wan_udp_port_available, respectively; with any other protocol, port may be NULL.
+ *           With protocol 0 or 1, a NULL port fails an assertion whose message names is_port_reserved or
+ *           is_wan_udp_port_available, respectively; with any other protocol, port may be NULL.
  * protocol: 0 for TCP, 1 for UDP; with any other number, every port is accepted.
  *
  * The reserved ports are the TCP ports 80, 161, 443, 1723, 1728, 6667 and 7547, and the UDP ports 161, 5060,

@@ -83,8 +83,8 @@ OSTREL_API int PPP_check_route_protocol_rx(const char* value);
 OSTREL_API int PPP_check_shaping_rate(const char* value);
 
 /*
- * PPP_check_shaping_burst_size: a number of 0 or more, read in the same way; unlike the rate, it cannot be
- * -1. The host defines the unit.
+ * PPP_check_shaping_burst_size: a number of 0 or more, read in the same way as a shaping rate. Unlike a rate,
+ * it cannot be -1. The host defines the unit.
  *
  * Returns 0, or prints "Error in %s: Error shaping burst size:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.

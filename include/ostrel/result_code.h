@@ -2,7 +2,7 @@
  * The result codes that the checks return.
  *
  * 0 means that the value may be stored, and every other code identifies a fault. The comment on each check
- * lists the codes that it returns.
+ * lists the codes that the check returns.
  */
 #ifndef OSTREL_RESULT_CODE_H
 #define OSTREL_RESULT_CODE_H

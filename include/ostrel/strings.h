@@ -1,5 +1,5 @@
 /*
- * String primitives that check a length, the characters of a value or the range of a number, or count a
+ * Primitives that check the length and the characters of a string, check the range of a number, or count a
  * character.
  *
  * The functions print nothing, keep no state and do not change their arguments. No pointer may be NULL.

@@ -3,7 +3,8 @@
  *
  * Subnets are compared as text, never with a mask. An address is in the same subnet as a reference address if
  * the two are identical up to and including the last "." of the reference. For addresses in dotted-decimal
- * notation, that is the fixed /24 network, but "192.168.1.5" and "192.168.001.5" are in different subnets.
+ * notation, a subnet is therefore a /24 network, except that "192.168.1.5" and "192.168.001.5" are in
+ * different subnets.
  *
  * The functions print nothing, keep no state and do not change their arguments. No pointer may be NULL.
  * Values are NUL-terminated byte strings of any length, and the items of a list may also be of any length. A

@@ -2,9 +2,9 @@
  * Checks for the time zone, daylight saving and the NTP server.
  *
  * Values are NUL-terminated byte strings of any length and must not be NULL. A check that refuses a value
- * writes a line to standard output and then flushes all output streams. The first %s in the line is the name
- * of the check unless stated otherwise. If two lines are stated, the first is printed by the test that
- * failed.
+ * writes the lines shown below to standard output and flushes all output streams after each line. The first
+ * %s in a line is the name of the check unless noted otherwise. Where two lines are listed, the first is
+ * printed by the lookup or test that failed.
  */
 #ifndef OSTREL_TIME_CHECK_H
 #define OSTREL_TIME_CHECK_H

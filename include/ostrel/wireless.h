@@ -54,8 +54,8 @@ OSTREL_API int TcmValidateBeaconType(const char* value);
  * TcmValidateSSID: an SSID of 1 to 32 bytes (IEEE 802.11, SSID element), each from 0x20 to 0x7E. Spaces are
  * allowed anywhere. Every byte above 0x7E is refused.
  *
- * Every call, regardless of its result, prints "Info in %s: The lenght of SSID is %d\n\n" with the name
- * TcmValidateSSID and the length in bytes to standard output, and flushes all output streams.
+ * Every call, regardless of its result, writes "Info in TcmValidateSSID: The lenght of SSID is %d\n\n" with
+ * the length in bytes to standard output, and flushes all output streams.
  *
  * Returns 0, or the code of the first test that fails: OSTREL_TOO_SHORT for the empty value, OSTREL_TOO_LONG
  * or OSTREL_FORBIDDEN_CHARACTER. The length is tested before any byte is examined.

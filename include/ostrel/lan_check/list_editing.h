@@ -44,9 +44,9 @@ OSTREL_API int LAN_check_add_allowedMACAddress(const char* macAddress, char* all
  * "Error in %s: New dns servers: %s and %s\n\n" for the new one, each with the second server before the
  * first.
  *
- * Returns OSTREL_REPEATED if one of two new servers equals an existing one, or if a single new server equals
- * the whole existing list; otherwise returns 0. No further line is printed in either case. A single new
- * server is therefore never reported as repeated if two servers exist.
+ * Returns OSTREL_REPEATED if either of two new servers equals an existing one, or if a single new server
+ * equals the whole existing list; otherwise returns 0. No further line is printed in either case. A single
+ * new server is therefore never reported as repeated if two servers exist.
  */
 OSTREL_API int LAN_check_add_dns_servers(const char* newServers, const char* existingServers);
 

@@ -11,7 +11,7 @@
 /*
  * MGTSERVER_check_server_url: the URL of the management server; see TcmValidateServerURL.
  *
- * A NULL value fails an assertion that reports line 41. Returns 0, or prints
+ * A NULL value fails an assertion whose message gives line 41. Returns 0, or prints
  * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_server_url(const char* value_p);
@@ -19,8 +19,8 @@ OSTREL_API int MGTSERVER_check_server_url(const char* value_p);
 /*
  * MGTSERVER_check_firmware_url: the URL of a firmware image; see TcmValidatefirmwareURL.
  *
- * A NULL value fails an assertion that reports line 75. Returns 0, or prints
- * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE. The message
+ * A NULL value fails an assertion whose message gives line 75. Returns 0, or prints
+ * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE. The printed line
  * contains "server url" here too.
  */
 OSTREL_API int MGTSERVER_check_firmware_url(const char* value_p);
@@ -28,7 +28,7 @@ OSTREL_API int MGTSERVER_check_firmware_url(const char* value_p);
 /*
  * MGTSERVER_check_server_password: at most 256 bytes of any kind; the empty value is accepted.
  *
- * A NULL value fails an assertion that reports line 105. Returns 0, or prints
+ * A NULL value fails an assertion whose message gives line 105. Returns 0, or prints
  * "Error in %s: Error password:%s\n\n" with the value, which is the password, and returns
  * OSTREL_INVALID_VALUE.
  */
@@ -36,17 +36,17 @@ OSTREL_API int MGTSERVER_check_server_password(const char* value_p);
 
 /*
  * MGTSERVER_check_conn_request_username, MGTSERVER_check_conn_request_password: the credentials of a
- * connection request. Both call MGTSERVER_check_server_password, whose name appears in the line and in the
- * assertion.
+ * connection request. Both call MGTSERVER_check_server_password, whose name appears in the printed line and
+ * in the assertion's message.
  */
 OSTREL_API int MGTSERVER_check_conn_request_username(const char* value_p);
 OSTREL_API int MGTSERVER_check_conn_request_password(const char* value_p);
 
 /*
- * MGTSERVER_check_periodic_inform: the setting for periodic reports by the client, which may be any value
- * except the empty one.
+ * MGTSERVER_check_periodic_inform: the setting that controls the client's periodic reports. Every value
+ * except the empty one is accepted.
  *
- * A NULL value fails an assertion that reports line 135. Returns 0, or prints
+ * A NULL value fails an assertion whose message gives line 135. Returns 0, or prints
  * "Error in %s: Error empty periodic inform\n\n" and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_periodic_inform(const char* value_p);
@@ -55,7 +55,7 @@ OSTREL_API int MGTSERVER_check_periodic_inform(const char* value_p);
  * MGTSERVER_check_periodic_inform_time: a date-time; see TcmValidateTime. The empty value is refused, and so
  * is the "unknown time" of TR-069, "0001-01-01T00:00:00Z".
  *
- * A NULL value fails an assertion that reports line 210. Returns 0, or prints
+ * A NULL value fails an assertion whose message gives line 210. Returns 0, or prints
  * "Error in %s: Error periodic inform time:%s\n\n" with the value and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_periodic_inform_time(const char* value_p);
@@ -65,7 +65,7 @@ OSTREL_API int MGTSERVER_check_periodic_inform_time(const char* value_p);
  * than 0 as atoi reads it. Characters after the digits are ignored, so "30abc" is accepted. There is no upper
  * limit, but a number that does not fit in an int may be read as 0 or less, and is then refused.
  *
- * A NULL value fails an assertion that reports line 240. Returns 0, or prints
+ * A NULL value fails an assertion whose message gives line 240. Returns 0, or prints
  * "Error in %s: Invalite periodic inform interval\n\n" and returns OSTREL_INVALID_VALUE.
  */
 OSTREL_API int MGTSERVER_check_periodic_inform_interval(const char* value_p);

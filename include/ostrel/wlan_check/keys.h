@@ -17,7 +17,7 @@
 OSTREL_API int WLAN_check_preshared_key(const char* value);
 
 /*
- * WLAN_check_preshared_key2: a pre-shared key, and the pass phrase that may have been passed instead.
+ * WLAN_check_preshared_key2: a pre-shared key, and a pass phrase as its alternative.
  *
  * A PASS PHRASE IS NEVER ACCEPTED. If psk is not empty, the pass phrase is ignored; otherwise it is refused.
  *
@@ -37,13 +37,13 @@ OSTREL_API int WLAN_check_preshared_key2(const char* psk, const char* passphrase
  * keys: a caller-owned block of 1028 bytes that contains four NUL-terminated keys, each in a buffer of 257
  *       bytes, one directly after the other. A key that is empty or contains a byte outside 0x20 to 0x7E is
  *       skipped, and its first byte is set to NUL, even if a later key is refused. Nothing else is changed. A
- *       NULL pointer fails an assertion that reports the condition "value != ((void *)0)", the module
+ *       NULL pointer fails an assertion whose message gives the condition "value != ((void *)0)", the module
  *       "wlan_check" and line 500.
  *
  * The first key that is refused determines the result; later keys are not examined. For each skipped key,
  * "Error in %s: The key should not be empty or non printable ascii string: %s\n\n" is printed with the key.
  *
- * Returns 0, or one of these codes after printing its line, with the key unless stated otherwise:
+ * Returns 0, or one of these codes after printing its line, with the key unless noted otherwise:
  * OSTREL_FORBIDDEN_CHARACTER: a character is not a hexadecimal digit:
  *   "Error in %s: The key should not contain non hexa char: %s\n\n";
  * OSTREL_TOO_LONG: the key has 27 digits or more:
@@ -64,7 +64,7 @@ OSTREL_API int WLAN_check_wepkeys(char* keys);
  * type, encryption: see WLAN_check_HNAP_SecurityType.
  *
  *   type                                       key
- *   "WPA-PSK", "WPA2-PSK", "WPA-AUTO-PSK"      as for TcmValidatePSK or TcmValidateKPP
+ *   "WPA-PSK", "WPA2-PSK", "WPA-AUTO-PSK"      a key that TcmValidatePSK or TcmValidateKPP accepts
  *   "WEP-OPEN", "WEP-SHARED", "WEP-RADIUS"     10 characters with "WEP-64" or 26 with "WEP-128", each from
  *                                              0x20 to 0x7E; hexadecimal digits are not required
  *   "WPA-RADIUS", "WPA2-RADIUS",

@@ -85,7 +85,7 @@ OSTREL_API int WLAN_check_IEEE11i_authentication_modes(const char* value, int re
  * Returns 0, or OSTREL_INVALID_VALUE after printing the line of the first test that fails:
  *   the value has 32 bytes or more:
  *     "Error in %s: Error authentication_service_mode:%s length out of range. [0,31]\n\n" with the value;
- *   the value is none of the three:
+ *   the value is not one of these three keywords:
  *     "Error in %s: Error authentication_service_mode value invalid :%s\n\n" with the value.
  */
 OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
@@ -93,16 +93,16 @@ OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
 /*
  * WLAN_check_HNAP_SecurityType: an HNAP security type and the encryption that suits it. Prints nothing.
  *
- * setting1, setting2: if they are "0" and "auto", only the WPA2 types are allowed.
+ * setting1, setting2: if they are "0" and "auto", respectively, only the WPA2 types are allowed.
  *
  *   type                                   encryption
  *   "WEP-OPEN", "WEP-SHARED"               "WEP-64" or "WEP-128"
- *   "WEP-RADIUS"                           the same; not allowed on the model "M2840"
+ *   "WEP-RADIUS"                           "WEP-64" or "WEP-128"; not allowed on the model "M2840"
  *   "WPA-PSK", "WPA-RADIUS"                "TKIP"
  *   "WPA2-PSK", "WPA2-RADIUS"              "AES"
  *   "WPA-AUTO-PSK", "WPA-AUTO-RADIUS"      "TKIPORAES"
  *
- * The two settings and the model, which is a build option, are compared with the host's cmsUtl_strcmp.
+ * The host's cmsUtl_strcmp, if there is one, compares the two settings and the model (a build option).
  *
  * Returns 0, or:
  * OSTREL_SECURITY_TYPE_NOT_ALLOWED: the type is not in the table (the empty type included), or is not allowed

@@ -10,15 +10,17 @@
 #include <ostrel/api.h>
 
 /*
- * WLAN_check_ssid: an SSID; see TcmValidateSSID, which prints a line with the length on every call.
+ * WLAN_check_ssid: an SSID, as checked by TcmValidateSSID. That function is called, so its line with the
+ * length is printed too.
  *
  * value: a caller-owned buffer. Its HTML character references are first replaced in place, and remain
  *        replaced regardless of the result. "a&amp;b" is an SSID of 3 bytes.
  *
- * The host's htmlToText replaces them. If the host has none, the library replaces the HTML 4 names of Latin-1
- * characters, the five XML names, and numbers from 1 in decimal ("&#65;") or hexadecimal ("&#x41;"). Each
- * becomes one byte of ISO 8859-1; a number above 255, which has no such byte, becomes 0x1A, so the SSID is
- * refused. Anything else, including other names ("&euro;"), is unchanged, and the string never grows.
+ * If the host supplies htmlToText, that function replaces them. Otherwise, the library replaces the HTML 4
+ * names of Latin-1 characters, the five XML names, and numbers from 1 in decimal ("&#65;") or hexadecimal
+ * ("&#x41;"). Each reference becomes one byte of ISO 8859-1. A number above 255, for which there is no such
+ * byte, becomes 0x1A, so the SSID is refused. Anything else, including other names ("&euro;"), is unchanged.
+ * The string never grows.
  *
  * Returns 0, or prints "Error in %s: Error SSID:%s\n" with the resulting value and returns OSTREL_TOO_SHORT,
  * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
