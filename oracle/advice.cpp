@@ -14,7 +14,7 @@ using rules::Reason;
 
 namespace {
 
-// kEnough is the number of calls one step short after which the same reason must have recurred.
+// kEnough is the number of calls one step short of which at least one must be refused for the same reason.
 constexpr std::size_t kEnough = 1000;
 constexpr std::string_view kNobody = "no check has it: that none is met";
 constexpr std::string_view kPutBack = "what was refused, put back, is one step less";
@@ -106,8 +106,8 @@ const Way* way_of(std::string_view id)
     return way == std::end(kWays) || way->id != id ? nullptr : way;
 }
 
-// data_fault returns a description if a reason reports something that the value does not contain, or if its
-// sentence lacks the reported number. Otherwise it returns an empty string.
+// data_fault returns a description of the fault if a reason reports something that the value does not
+// contain, or if the reason's sentence lacks the reported number. Otherwise it returns an empty string.
 std::string data_fault(const Refusal& refusal)
 {
     const Reason& reason = refusal.reason();

@@ -1,7 +1,7 @@
 // Follows each reason as a user who reads its sentence would. If the advice is followed, the same reason must
 // not occur again. A call that falls one step short of the advice, for example with a number one above the
 // limit, must be refused for the same reason. This finds false reasons even in a description that agrees with
-// the library in every code.
+// the library in every result code.
 #ifndef OSTREL_ORACLE_ADVICE_H
 #define OSTREL_ORACLE_ADVICE_H
 
@@ -26,12 +26,12 @@ struct Advice {
     std::vector<Values> attempts;  // each is either one step short or accepted
 };
 
-// Way defines how to follow the reasons with an id. The function is NULL if no check has such a reason, or if
-// such reasons cannot be followed.
+// Way defines how to follow the reasons with the given id. The function is NULL if no check has such a
+// reason, or if such reasons cannot be followed.
 struct Way {
     std::string_view id;
     void (*advise)(const Refusal& refusal, Advice& advice);
-    std::string_view instead = {};  // what replaces the calls one step short, or why no call is made
+    std::string_view instead = {};  // what is tested instead of calls one step short, or why no call is made
 };
 
 // ways returns an entry for each id, sorted by id.
@@ -39,15 +39,15 @@ std::span<const Way> ways();
 
 class Follower {
  public:
-    // follow makes the calls that follow from the reason for a refusal. It passes each call and its answer to
-    // visit, and counts the steps. It returns a description of the first fault, or an empty string;
-    // fault_call then returns the call that showed the fault.
+    // follow makes the calls that the reason for a refusal suggests. It passes each call and its answer to
+    // visit, and counts the executed steps. It returns a description of the first fault, or an empty string.
+    // If a call shows the fault, fault_call then returns this call.
     std::string follow(const rules::Check& check, const Values& values, const rules::Build& build,
                        const rules::Answer& answer,
                        const std::function<void(const Values&, const rules::Answer&)>& visit,
                        rules::Counts* counts = nullptr);
 
-    // unproven lists the checks and ids whose reason never recurred, although many calls were one step short.
+    // unproven lists each check and id whose reason never recurred, although many calls were one step short.
     [[nodiscard]] std::vector<std::string> unproven() const;
 
     [[nodiscard]] const Values& fault_call() const { return fault_call_; }

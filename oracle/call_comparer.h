@@ -20,8 +20,8 @@ class CallComparer {
     bool agrees(const catalogue::Function& function, const std::vector<rules::Value>& values,
                 const rules::Answer& expected);
 
-    // difference describes the last call that differed. It contains the function's name, the row of vectors/
-    // that the description expects, and a row for what the library did.
+    // difference describes the last call that differed. It contains the function's name and two rows in the
+    // format of vectors/, one for what the description expects and one for what the library did.
     [[nodiscard]] const std::string& difference() const { return difference_; }
 
     // calls returns the number of calls that were made.
@@ -38,7 +38,7 @@ class CallComparer {
     std::size_t calls_ = 0;
 };
 
-// shown_call returns a call in the form of a row of vectors/, without its result.
+// shown_call returns a call as a row in the format of vectors/, without the result.
 std::string shown_call(const catalogue::Function& function, const std::vector<rules::Value>& values);
 
 }  // namespace ostrel::oracle

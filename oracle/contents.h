@@ -19,16 +19,16 @@ class Contents {
  public:
     explicit Contents(const catalogue::Function& function);
 
-    // fault describes a byte of an accepted call in a place where docs/hazards.md does not list it, or
-    // returns an empty string if there is none. after contains the final value of each argument that the
-    // function may write to, in order.
+    // fault describes a byte of an accepted call that is in a place for which docs/hazards.md does not list
+    // it. If there is no such byte, fault returns an empty string. after contains the final value of each
+    // argument that the function may write to, in order.
     [[nodiscard]] std::string fault(std::span<const catalogue::Value> values,
                                     std::span<const catalogue::Value> after) const;
 
  private:
     struct Exclusion {
         const catalogue::Exposure* exposure;
-        std::size_t output;  // its index among the arguments that the function may write to
+        std::size_t output;  // the argument's index among those that the function may write to
         std::array<std::bitset<256>, catalogue::kPlaces.size()> never;
     };
     [[nodiscard]] std::string fault(const Exclusion& excluded, const std::string& text) const;

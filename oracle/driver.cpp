@@ -20,7 +20,8 @@ bool is_list(const char* filename) { return driver != nullptr && filename == kLi
 
 }  // namespace
 
-// A function defined in a program replaces the C library's function, in the library under test too.
+// A function defined in a program replaces the C library's function of that name, even for calls from the
+// library under test.
 extern "C" {
 
 int system(const char* command)

@@ -1,5 +1,5 @@
-// Replaces the shell, the wireless driver's tool and the file with its channel list. No program is run and no
-// file is written.
+// Replaces the shell, the wireless driver's tool, and the file that contains the channel list. No program is
+// run and no file is written.
 #ifndef OSTREL_ORACLE_DRIVER_H
 #define OSTREL_ORACLE_DRIVER_H
 

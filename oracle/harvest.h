@@ -1,4 +1,4 @@
-// Collects strings to try from a description: keywords, and limits with their neighbours.
+// Collects strings to try from a description, such as its keywords and the numbers at or next to its limits.
 #ifndef OSTREL_ORACLE_HARVEST_H
 #define OSTREL_ORACLE_HARVEST_H
 

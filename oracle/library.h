@@ -9,8 +9,9 @@
 
 namespace ostrel::oracle {
 
-// library_build returns the build of the loaded library. For a variant, the environment variables
-// OSTREL_TEST_MODEL, OSTREL_TEST_ACCOUNT_REALM and OSTREL_TEST_SETUP_REALM contain its options.
+// library_build returns the build options of the loaded library. For a variant of the library, the
+// environment variables OSTREL_TEST_MODEL, OSTREL_TEST_ACCOUNT_REALM and OSTREL_TEST_SETUP_REALM contain
+// these options.
 const rules::Build& library_build();
 
 // builds_with_channels returns copies of that build with different channel lists, for use with a Driver that

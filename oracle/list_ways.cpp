@@ -1,4 +1,4 @@
-// Ways to follow reasons about lists, and about strings that depend on others.
+// Ways to follow reasons about lists, and about strings that depend on other strings.
 
 #include <algorithm>
 #include <numeric>
@@ -78,7 +78,7 @@ void begin_like_subnet(const Refusal& refusal, Advice& advice)
 void take_parts(const Refusal& refusal, Advice& advice) { take_items(refusal, advice, '.'); }
 void take_items(const Refusal& refusal, Advice& advice) { take_items(refusal, advice, ','); }
 
-// The list is the other argument.
+// The reason refers to the address to add. The list is the other of the check's two arguments.
 void shorten_list(const Refusal& refusal, Advice& advice)
 {
     const std::size_t other = 1 - refusal.reason().argument.value();

@@ -1,4 +1,4 @@
-// Mutator derives random inputs from seeds. The inputs are the same in every run.
+// Mutator derives random inputs from seeds. With the same seeds, the inputs are the same in every run.
 #ifndef OSTREL_ORACLE_MUTATOR_H
 #define OSTREL_ORACLE_MUTATOR_H
 

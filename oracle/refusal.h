@@ -1,4 +1,4 @@
-// A refused call, and the calls that follow from its reason.
+// A refused call, from which the calls that test its reason are derived.
 #ifndef OSTREL_ORACLE_REFUSAL_H
 #define OSTREL_ORACLE_REFUSAL_H
 

@@ -28,8 +28,8 @@ bool is_group_digit(char digit) { return (digit >= 'A' ? digit - 'A' : digit - '
 
 bool has_length_of_mac_address(const char* value) { return std::strlen(value) == kMacAddressLength; }
 
-// The next two functions print only if the value has the length of an address. An accepted value does not
-// need this test, because parsing it also establishes its length.
+// The next two functions print only if the value has the length of an address. Only they measure the length,
+// because an address that is parsed to its end necessarily has the right length.
 
 bool refuse_group_address(const char* value)
 {
@@ -43,8 +43,8 @@ bool refuse_separator(const char* value, char separator)
     return false;
 }
 
-// goes_on returns whether a separator and an octet follow. Successive calls take a seventh less time than a
-// loop.
+// goes_on returns whether a separator and an octet follow. Five separate calls take a seventh less time than
+// a loop.
 inline bool goes_on(const char* value, int at)
 {
     if (value[at] != ':') return refuse_separator(value, value[at]);
@@ -60,9 +60,9 @@ bool is_mac_address(const char* value, bool station_only)
 }
 
 // skip_octet returns the end of a number from 0 to 255 at the start of the string, or NULL if there is none.
-// It always examines three characters, because branches on the number of digits would often be mispredicted:
-// without them, an address takes half the time. For the same reason, a multiplication replaces a second
-// condition.
+// It always examines three characters, because branches on the number of digits would often be mispredicted.
+// Without such branches, checking an address takes half the time. For the same reason, a multiplication
+// replaces a second condition.
 inline const char* skip_octet(const char* text)
 {
     while (text[0] == '0' && digit(text[1]) <= kLargestDigit) ++text;

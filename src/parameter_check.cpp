@@ -111,7 +111,7 @@ int PARAM_check_ui2_value(const char* value_p)
     require_value(value_p, kModule);
     if (const int code = require_digits(value_p, __func__); code != OSTREL_VALID) return code;
     const int number = leading_number(value_p);
-    // Only the empty value reaches this line, and its number is 0.
+    // Only the empty value reaches this line, and it is read as 0.
     if (number >= 0 && number < 65536) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
     // GCOVR_EXCL_START
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s should be between [0,65536)\n", __func__,
@@ -123,7 +123,7 @@ int PARAM_check_ui4_value(const char* value_p)
 {
     require_value(value_p, kModule);
     if (const int code = require_digits(value_p, __func__); code != OSTREL_VALID) return code;
-    // The same applies here.
+    // Here too, only the empty value reaches this line.
     if (leading_number(value_p) >= 0) return OSTREL_VALID;  // GCOVR_EXCL_BR_LINE
     // GCOVR_EXCL_START
     return refuse(OSTREL_INVALID_VALUE, "Error in %s: The value %s should be between [0,4296967296)\n",

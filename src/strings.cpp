@@ -21,7 +21,7 @@ template <typename Set>
 int judge_string(const char* value, int min_len, int max_len, Set allowed)
 {
     const char* end = first_outside<Set>(allowed, value);
-    // A forbidden character is reported only if the length is valid, so the length of the rest is needed too.
+    // A forbidden character is reported only if the length is valid, so the remaining bytes are counted too.
     const std::size_t rest = *end == '\0' ? 0 : std::strlen(end);
     const int code = validate_length(min_len, max_len, static_cast<std::size_t>(end - value) + rest);
     if (code != OSTREL_VALID) return code;

@@ -22,7 +22,8 @@ const char* after_last_dot(const char* text)
     return dot == nullptr ? text : dot + 1;
 }
 
-// subnet_of returns the part of an address up to and including the last ".", which is empty if there is none.
+// subnet_of returns the part of an address up to and including the last ".", or an empty string if the
+// address contains no ".".
 std::string_view subnet_of(const char* address)
 {
     return {address, static_cast<std::size_t>(after_last_dot(address) - address)};

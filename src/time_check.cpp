@@ -113,7 +113,7 @@ int TIME_check_sync_daylight_saving_time(const char* start, const char* end)
         __func__, start, end);
 }
 
-// The next three checks accept a value that is empty or not printable, because an unset value must pass.
+// The next three checks accept a value that is empty or not printable, because the value may be unset.
 
 int TIME_check_local_time_zone(const char* value)
 {

@@ -45,8 +45,8 @@ constexpr Packed kRate36 = pack("36");
 constexpr Packed kRate48 = pack("48");
 constexpr Packed kRate54 = pack("54");
 
-// is_rate combines all comparisons without branches, because it cannot be predicted which of them will
-// succeed. With branches, a list takes a third longer, and with string comparisons four times as long.
+// is_rate combines all comparisons without branches, because which of them will succeed cannot be predicted.
+// Checking a list takes a third longer with branches, and four times as long with string comparisons.
 inline bool is_rate(Packed text)
 {
     return (text == kRate1) | (text == kRate2) | (text == kRate5_5) | (text == kRate6) | (text == kRate9) |

@@ -40,7 +40,7 @@ OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_
 OSTREL_API int PARAM_check_port(const char* value_p);
 
 /*
- * PARAM_check_ip_addr: an IPv4 address; see TcmValidateIPAddress. Prints nothing.
+ * PARAM_check_ip_addr: an IPv4 address, as checked by TcmValidateIPAddress. Prints nothing.
  *
  * Returns 0 or OSTREL_INVALID_VALUE.
  */

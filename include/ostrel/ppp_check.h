@@ -36,7 +36,8 @@ OSTREL_API int PPP_check_user_name(const char* value);
 OSTREL_API int PPP_check_tonline_password(const char* value);
 
 /*
- * PPP_check_non_tonline_password: the password of any other provider's account; see TcmValidatePPPPassword.
+ * PPP_check_non_tonline_password: the password of any other provider's account, as checked by
+ * TcmValidatePPPPassword.
  *
  * Returns 0, or prints "Error in %s: Error none T-Online ppp password:%s\n\n" with the value and returns
  * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.

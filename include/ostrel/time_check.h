@@ -52,7 +52,7 @@ OSTREL_API int Time_validate_tzone_and_tzone_name(char* tzone, char* tzone_name)
 OSTREL_API int TIME_check_sync_daylight_saving_time(const char* start, const char* end);
 
 /*
- * TIME_check_local_time_zone: a time-zone offset; see TcmValidateTimeZoneFormate.
+ * TIME_check_local_time_zone: a time-zone offset, as checked by TcmValidateTimeZoneFormate.
  *
  * If the value is empty or not printable, TIME_check_ascii_string prints its line, but the value is accepted.
  *
@@ -72,7 +72,7 @@ OSTREL_API int TIME_check_local_time_zone(const char* value);
 OSTREL_API int TIME_check_local_time_zone_name(const char* value);
 
 /*
- * TIME_check_daylight_saving_start_or_end: a date-time, or a switch-over without a year; see
+ * TIME_check_daylight_saving_start_or_end: a date-time, or a switch-over without a year, as checked by
  * TcmValidateDaylightSavingsTime.
  *
  * If the value is empty or not printable, TIME_check_ascii_string prints its line, but the value is accepted.
@@ -92,7 +92,7 @@ OSTREL_API int TIME_check_daylight_saving_start_or_end(const char* value);
 OSTREL_API int TIME_check_ntpserver_length(const char* value);
 
 /*
- * TIME_check_url: a bare host; see ValidateURL.
+ * TIME_check_url: a bare host, as checked by ValidateURL.
  *
  * Returns 0, or prints "Error in %s: %s is not validate URL\n" with the value and returns
  * OSTREL_INVALID_VALUE.

@@ -97,8 +97,8 @@ int LAN_check_config_password(const char* value_p)
 int LAN_check_dhcp_lease_time(const char* value_p)
 {
     require_value(value_p, kModule);
-    // The pointer itself is compared with one that no string can have, so every string is accepted as a lease
-    // time.
+    // The pointer itself is compared with an address that no string can have, so every string is accepted as
+    // a lease time.
     if (reinterpret_cast<std::uintptr_t>(value_p) != UINTPTR_MAX) return OSTREL_VALID;
     return refuse(OSTREL_INVALID, "Error in %s: Error dhcp lease time:%s\n\n", __func__, value_p);
 }

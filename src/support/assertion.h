@@ -1,10 +1,10 @@
-// Assertions that are active in every build type: a NULL value is the caller's error and ends the process.
+// Assertions that are active in every build type. A NULL value is a caller's error and ends the process.
 #ifndef OSTREL_SUPPORT_ASSERTION_H
 #define OSTREL_SUPPORT_ASSERTION_H
 
 namespace ostrel {
 
-// fail_assertion reports through the C library's own assertion hook and ends the process.
+// fail_assertion reports the failure through the C library's own assertion hook and ends the process.
 [[noreturn]] void fail_assertion(const char* condition, const char* module, const char* function,
                                  unsigned line);
 

@@ -9,7 +9,7 @@ namespace ostrel {
 namespace {
 
 constexpr int kHighestNumber = 255;
-// kBeyond replaces a number that is too large; as a byte it is the control character SUB.
+// kBeyond replaces a number that is too large. Its low byte is the control character SUB.
 constexpr int kBeyond = 0x100 + 0x1A;
 constexpr std::size_t kLongestName = 6;
 
@@ -39,8 +39,8 @@ struct Reference {
 
 constexpr Reference kNone = {0, 0};
 
-// digit_value returns the value of a digit, or at least the base if the character is not a digit in that
-// base.
+// digit_value returns the value of a digit. If the character is not a digit in the given base, the result is
+// the base or more.
 int digit_value(char c, int base)
 {
     if (c >= '0' && c <= '9') return c - '0';

@@ -10,8 +10,8 @@ namespace ostrel {
 // that they denote, and terminates the result; text[length] must be writable.
 //
 // It recognises the HTML 4 names for Latin-1 characters ("&nbsp;" to "&yuml;", "&quot;", "&amp;", "&lt;",
-// "&gt;"), XML's "&apos;", and numbers from 1 in decimal ("&#65;") and hexadecimal ("&#x41;", "&#X41;"), of
-// which those above 255 become the control character SUB. Anything else, such as an unknown name, a reference
+// "&gt;"), XML's "&apos;", and numbers from 1 in decimal ("&#65;") and hexadecimal ("&#x41;", "&#X41;").
+// Numbers above 255 become the control character SUB. Anything else, such as an unknown name, a reference
 // without a ";" or the number 0, is unchanged. The string is read only once, so a replacement is not replaced
 // again: "&amp;lt;" becomes "&lt;". The string never grows.
 void convert_references(char* text, std::size_t length);

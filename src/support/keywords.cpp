@@ -12,7 +12,7 @@ inline bool is_any(const char* value, const char* keyword, Fold fold)
     while (*keyword != '\0') {
         const char* next = keyword + *keyword;
         const char* c = value;
-        // The keyword advances first, even if the comparison fails.
+        // The keyword pointer advances first, even if the comparison fails.
         // NOLINTNEXTLINE(bugprone-inc-dec-in-conditions)
         while (++keyword != next && *keyword == fold(*c)) ++c;
         if (keyword == next && *c == '\0') return true;

@@ -26,7 +26,7 @@ inline bool equals(std::string_view a, std::string_view b)
     return a.size() == b.size() && starts_with(a, b);
 }
 
-// before returns the text before the first c, or all of it if there is none.
+// before returns the text before the first c, or the whole text if it contains no c.
 inline std::string_view before(std::string_view text, char c)
 {
     std::size_t length = 0;

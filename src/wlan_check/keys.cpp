@@ -93,7 +93,7 @@ int WLAN_check_wepkeys(char* keys)
                           "Error in %s: The key should not contain non hexa char: %s\n\n", __func__, key);
         }
         const std::size_t length = std::strlen(key);
-        // This never happens, because an empty key is not printable.
+        // This never happens, because an empty key counts as not printable and has been skipped.
         if (length == 0) {  // GCOVR_EXCL_BR_LINE
             // GCOVR_EXCL_START
             inform("Error in %s: skip wepkeys[%d] for empty string\n", __func__, static_cast<int>(i));

@@ -33,8 +33,8 @@ struct ChannelPair {
     int second;
 };
 
-// Channels 1 to 4 and 7 pair with a higher channel, the others with a lower one. Two zeros mean that there is
-// no second channel.
+// Channels 1 to 4 and 7 pair with a higher channel, and all other channels with a lower one. Two zeros mean
+// that there is no second channel.
 constexpr ChannelPair kPairs[] = {{1, 3}, {2, 4}, {3, 5},  {4, 6},  {5, 3},   {6, 4},   {7, 9},
                                   {8, 6}, {9, 7}, {10, 8}, {11, 9}, {12, 10}, {13, 11}, {0, 0}};
 // The second channel is the centre of the 40 MHz pair.
@@ -72,7 +72,7 @@ bool is_5_ghz_channel(int channel)
     }
 }
 
-// is_listed_by_driver calls the wireless driver's tool, which lists the channels that are currently allowed.
+// is_listed_by_driver runs the wireless driver's tool, which lists the channels that are currently allowed.
 bool is_listed_by_driver(int channel)
 {
     // The exit status is ignored, because only the list matters.

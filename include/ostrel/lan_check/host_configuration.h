@@ -17,7 +17,7 @@
 OSTREL_API int LAN_check_ipinterface_enabled(const char* value_p);
 
 /*
- * LAN_check_ip_router: the gateway's own address; see TcmValidateIPRouter.
+ * LAN_check_ip_router: the gateway's own address, as checked by TcmValidateIPRouter.
  *
  * Returns 0, or prints "Error in %s: Error ip interface IP:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
@@ -49,7 +49,7 @@ OSTREL_API int LAN_check_interface_addr_type(const char* value_p);
 OSTREL_API int LAN_check_domain_name(const char* value_p);
 
 /*
- * LAN_check_dhcp_addr_range: the address pool of the DHCP server; see TcmValidateAddressRange.
+ * LAN_check_dhcp_addr_range: the address pool of the DHCP server, as checked by TcmValidateAddressRange.
  *
  * Always prints "Info in %s: Check dhcp addr range: start ip%s, end ip:%s, lan ip:%s\n\n" with the three
  * arguments, and flushes all output streams.
@@ -61,7 +61,7 @@ OSTREL_API int LAN_check_dhcp_addr_range(const char* startAddress, const char* e
                                          const char* lanAddress);
 
 /*
- * LAN_check_dns_servers: the DNS servers that the DHCP server offers; see TcmValidateofferDNS.
+ * LAN_check_dns_servers: the DNS servers that the DHCP server offers, as checked by TcmValidateofferDNS.
  *
  * Returns 0, or prints "Error in %s: Error dns server:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
@@ -69,7 +69,8 @@ OSTREL_API int LAN_check_dhcp_addr_range(const char* startAddress, const char* e
 OSTREL_API int LAN_check_dns_servers(const char* value_p);
 
 /*
- * LAN_check_dhcp_reserved_addr: the addresses reserved for certain stations; see TcmValidateReservedAddress.
+ * LAN_check_dhcp_reserved_addr: the addresses reserved for certain stations, as checked by
+ * TcmValidateReservedAddress.
  *
  * Always prints "Info in %s: Dhcp reserved addr: %s, lan ip:%s\n\n" with both arguments, and flushes all
  * output streams.
@@ -80,7 +81,8 @@ OSTREL_API int LAN_check_dns_servers(const char* value_p);
 OSTREL_API int LAN_check_dhcp_reserved_addr(const char* reservedList, const char* lanAddress);
 
 /*
- * LAN_check_config_password: the password of the configuration pages; see TcmValidateLANConfigPassword.
+ * LAN_check_config_password: the password of the configuration pages, as checked by
+ * TcmValidateLANConfigPassword.
  *
  * Returns 0, or prints "Error in %s: Error config password:%s\n\n" with the value and returns
  * OSTREL_TOO_SHORT, OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.

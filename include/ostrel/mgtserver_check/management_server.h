@@ -9,7 +9,7 @@
 #include <ostrel/api.h>
 
 /*
- * MGTSERVER_check_server_url: the URL of the management server; see TcmValidateServerURL.
+ * MGTSERVER_check_server_url: the URL of the management server, as checked by TcmValidateServerURL.
  *
  * A NULL value fails an assertion whose message gives line 41. Returns 0, or prints
  * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE.
@@ -17,7 +17,7 @@
 OSTREL_API int MGTSERVER_check_server_url(const char* value_p);
 
 /*
- * MGTSERVER_check_firmware_url: the URL of a firmware image; see TcmValidatefirmwareURL.
+ * MGTSERVER_check_firmware_url: the URL of a firmware image, as checked by TcmValidatefirmwareURL.
  *
  * A NULL value fails an assertion whose message gives line 75. Returns 0, or prints
  * "Error in %s: Error server url:%s\n\n" with the value and returns OSTREL_INVALID_VALUE. The printed line
@@ -52,8 +52,8 @@ OSTREL_API int MGTSERVER_check_conn_request_password(const char* value_p);
 OSTREL_API int MGTSERVER_check_periodic_inform(const char* value_p);
 
 /*
- * MGTSERVER_check_periodic_inform_time: a date-time; see TcmValidateTime. The empty value is refused, and so
- * is the "unknown time" of TR-069, "0001-01-01T00:00:00Z".
+ * MGTSERVER_check_periodic_inform_time: a date-time, as checked by TcmValidateTime. The empty value is
+ * refused, and so is the "unknown time" of TR-069, "0001-01-01T00:00:00Z".
  *
  * A NULL value fails an assertion whose message gives line 210. Returns 0, or prints
  * "Error in %s: Error periodic inform time:%s\n\n" with the value and returns OSTREL_INVALID_VALUE.

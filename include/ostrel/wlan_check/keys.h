@@ -9,7 +9,7 @@
 #include <ostrel/api.h>
 
 /*
- * WLAN_check_preshared_key: a pre-shared key; see TcmValidatePSK.
+ * WLAN_check_preshared_key: a pre-shared key, as checked by TcmValidatePSK.
  *
  * Returns 0, or prints "Error in %s: Error key pass phrase:%s\n\n" with the value and returns
  * OSTREL_WRONG_FORM or OSTREL_FORBIDDEN_CHARACTER.

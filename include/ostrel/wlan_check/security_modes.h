@@ -9,7 +9,7 @@
 #include <ostrel/api.h>
 
 /*
- * WLAN_check_beacon_type: a beacon type; see TcmValidateBeaconType.
+ * WLAN_check_beacon_type: a beacon type, as checked by TcmValidateBeaconType.
  *
  * Returns 0, or prints "Error in %s: Error beacon type:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.

@@ -28,7 +28,7 @@
 OSTREL_API int WLAN_check_ssid(char* value);
 
 /*
- * WLAN_check_max_bit_rate: a rate; see TcmValidateRate.
+ * WLAN_check_max_bit_rate: a rate, as checked by TcmValidateRate.
  *
  * Returns 0, or prints "Error in %s: Error max bit rate:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
@@ -36,7 +36,7 @@ OSTREL_API int WLAN_check_ssid(char* value);
 OSTREL_API int WLAN_check_max_bit_rate(const char* value);
 
 /*
- * WLAN_check_basic_data_transmit_rate: a list of rates; see TcmValidateDataTransmitRates.
+ * WLAN_check_basic_data_transmit_rate: a list of rates, as checked by TcmValidateDataTransmitRates.
  *
  * Returns 0, or prints "Error in %s: Error basic data transmit rate:%s\n\n" with the value and returns
  * OSTREL_INVALID_VALUE.
