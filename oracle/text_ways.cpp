@@ -118,7 +118,7 @@ void give_what_is_null(const Refusal& refusal, Advice& advice)
 }
 
 // A byte outside the set may end a part or an item, so that another part or item is judged. A byte that fits
-// no shape may still be accepted, because some checks of times accept any value that is not printable.
+// no shape may still be accepted, because some time checks accept any value that is not printable.
 void replace_byte(const Refusal& refusal, Advice& advice)
 {
     const rules::Reason& reason = refusal.reason();

@@ -23,8 +23,8 @@ OSTREL_API int TcmValidateIPAddress(const char* value);
  * digits each, in either case, separated by ":".
  *
  * NULL is invalid. A value that does not have 17 characters is invalid, and nothing is printed. If the first
- * fault in a value of 17 characters is a wrong character in the place of a ":", that character is written to
- * standard output, without a newline and without a flush. Nothing else is printed.
+ * fault in a value of 17 characters is a wrong character where a ":" is required, that character is written
+ * to standard output, without a newline and without a flush. Nothing else is printed.
  */
 OSTREL_API int TcmValidateMACaddress(const char* value);
 

@@ -50,8 +50,8 @@ OSTREL_API int Param_check_pword_value(const char* value);
  * OSTREL_OUT_OF_RANGE: the length is not 6 bytes:
  *   "Error in %s: The length of color :%s shoud not be equal to %d\n" with the value and 6 (the message
  *   means "must be equal to");
- * OSTREL_WRONG_FORM: a character is not a hexadecimal digit:
- *   "Error in %s: color :%s contain invalid char %c\n" with the value and the first such byte, unchanged.
+ * OSTREL_WRONG_FORM: a byte is not a hexadecimal digit (the first such byte is reported):
+ *   "Error in %s: color :%s contain invalid char %c\n" with the value and that byte, printed as is.
  */
 OSTREL_API int Param_check_color_value(const char* value);
 

@@ -1,4 +1,4 @@
-// Assertions that are active in every build type. A NULL value is a caller's error and ends the process.
+// Assertions that are active in every build type. A NULL value is a bug in the caller and ends the process.
 #ifndef OSTREL_SUPPORT_ASSERTION_H
 #define OSTREL_SUPPORT_ASSERTION_H
 

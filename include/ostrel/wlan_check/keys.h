@@ -17,7 +17,7 @@
 OSTREL_API int WLAN_check_preshared_key(const char* value);
 
 /*
- * WLAN_check_preshared_key2: a pre-shared key, and a pass phrase as its alternative.
+ * WLAN_check_preshared_key2: a pre-shared key, and an alternative pass phrase.
  *
  * A PASS PHRASE IS NEVER ACCEPTED. If psk is not empty, the pass phrase is ignored; otherwise it is refused.
  *
