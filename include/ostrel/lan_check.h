@@ -1,5 +1,5 @@
 /*
- * Checks for the gateway's LAN interface and its DHCP service (RFC 2131), and checks that edit lists.
+ * Checks for the gateway's LAN interface and its DHCP service (RFC 2131), and for changes to address lists.
  *
  * Values are NUL-terminated byte strings of any length; only LAN_check_add_allowedMACAddress changes one. A
  * check that refuses a value writes one line to standard output and flushes all output streams. The line

@@ -101,7 +101,7 @@ OSTREL_API int PARAM_check_printable_ascii_string(const char* value_p);
 OSTREL_API int PARAM_check_provisioning_code(const char* value_p);
 
 /*
- * PARAM_check_ui2_value, PARAM_check_ui4_value: an unsigned integer of two or four bytes.
+ * PARAM_check_ui2_value, PARAM_check_ui4_value: a two-byte and a four-byte unsigned integer, respectively.
  *
  * FOR A VALUE THAT BEGINS WITH A DIGIT, THEY NEVER RETURN. The empty value is accepted, and any other value
  * is refused.

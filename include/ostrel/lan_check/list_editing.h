@@ -1,5 +1,5 @@
 /*
- * Checks for editing lists of MAC addresses and DNS servers on the LAN.
+ * Checks for changes to the lists of MAC addresses and DNS servers on the LAN.
  *
  * <ostrel/lan_check.h> describes what all LAN checks have in common.
  */

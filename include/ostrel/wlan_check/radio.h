@@ -21,7 +21,7 @@ OSTREL_API int WLAN_check_radio_id(const char* radio);
  * "0" selects the channel automatically and is valid for any radio, even one that does not exist.
  *
  * On 2.4 GHz, a channel is valid if it is below 14 and among the first 15 numbers that the driver lists. To
- * obtain them, the shell runs "wlctl -i wl0 channels > /var/hnapwl0chlist", and the file is read and deleted.
+ * obtain them, the shell runs "wlctl -i wl0 channels > /var/hnapwl0chlist"; the file is then read and deleted.
  * If the file cannot be opened, every channel is refused and nothing is deleted. If there is no wlctl, the
  * shell reports this on standard error, and the list is empty. Anything that wlctl itself writes to standard
  * error appears there too.
