@@ -21,10 +21,10 @@ OSTREL_API int WLAN_check_radio_id(const char* radio);
  * "0" selects the channel automatically and is valid for any radio, even one that does not exist.
  *
  * On 2.4 GHz, a channel is valid if it is below 14 and among the first 15 numbers that the driver lists. To
- * obtain them, the shell runs "wlctl -i wl0 channels > /var/hnapwl0chlist"; the file is then read and deleted.
- * If the file cannot be opened, every channel is refused and nothing is deleted. If there is no wlctl, the
- * shell reports this on standard error, and the list is empty. Anything that wlctl itself writes to standard
- * error appears there too.
+ * obtain them, the shell runs "wlctl -i wl0 channels > /var/hnapwl0chlist". Then the file is read and
+ * deleted. If the file cannot be opened, every channel is refused and nothing is deleted. If there is no
+ * wlctl, the shell reports this on standard error, and the list is empty. Anything that wlctl itself writes
+ * to standard error appears there too.
  *
  * On 5 GHz, the valid channels are 36, 40, 44, 48, 149, 153, 157 and 161, and 0, which may also be written as
  * "00", as a string without a number or as the empty value.
