@@ -12,7 +12,7 @@ namespace ostrel::tests {
 
 namespace {
 
-// cpu_seconds returns the least processor time of several runs, which does not include other processes.
+// cpu_seconds measures processor time, which excludes other processes, and returns the least of several runs.
 double cpu_seconds(const std::string& list, const char* lan_address, int code)
 {
     std::clock_t least = std::numeric_limits<std::clock_t>::max();
@@ -48,8 +48,8 @@ TEST(ReservedAddresses, TakeLinearTimeWithoutEquallyLongNeighbours)
 
 TEST(ReservedAddresses, TakeLinearTimeForItemsThatEndDifferently)
 {
-    // A search that compared from the first byte would compare nearly all of the first item at each position of the
-    // third.
+    // A search that compared from the first byte would compare nearly all of the first item at each position
+    // of the third.
     const auto list = [](std::size_t length) {
         const std::string same(length / 4 - 2, 'a');
         return same + "b," + same + "c," + same + same + "d,d";

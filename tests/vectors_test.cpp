@@ -61,7 +61,7 @@ class VectorTest : public testing::Test {
         judged_row = row.file.string() + ":" + std::to_string(row.line) + "\n";
         const testing::ScopedTrace trace(row.file.c_str(), row.line, shown(row.text));
         if (!row.fault.empty()) FAIL() << row.fault;
-        // All rows share the callers, since mapping their memory would take most of a row's time.
+        // All rows share the callers: mapping fresh memory for each row would dominate the run time.
         static std::array<Caller, 2> callers = {Caller(Edge::kEnd), Caller(Edge::kBegin)};
         for (Caller& caller : callers) {
             caller.load(*row.given.function, row.given.values);

@@ -14,7 +14,7 @@ import unittest
 
 class Abi(unittest.TestCase):
     def setUp(self):
-        """Copies the files that scripts/abi reads into a temporary tree, where a test can change the baseline."""
+        """Copies the files that scripts/abi reads into a temporary folder, where a test can change the baseline."""
         self.tree = pathlib.Path(tempfile.mkdtemp())
         self.addCleanup(shutil.rmtree, self.tree)
         for name in ("scripts/abi", "abi/ostrel_check.abi"):

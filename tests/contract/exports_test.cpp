@@ -1,5 +1,5 @@
-// Tests that the export list, the public headers, the catalogue and the loaded library name the same functions
-// and data.
+// Tests that the export list, the public headers, the catalogue and the loaded library name the same
+// functions and data.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -60,7 +60,8 @@ std::vector<std::string> catalogue_names()
     return names;
 }
 
-// public_headers returns the paths as hosts include them, except that of api.h, which declares nothing.
+// public_headers returns the paths that hosts write in #include, except that of api.h, which declares
+// nothing.
 std::vector<std::string> public_headers()
 {
     const std::filesystem::path root = OSTREL_SOURCE_DIR "/include";
@@ -86,7 +87,8 @@ std::vector<std::string> declared_names()
     return names;
 }
 
-// differences returns the names that occur more often in one list than in the other, to keep failure messages short.
+// differences returns the names that occur more often in one list than in the other, to keep failure messages
+// short.
 std::vector<std::string> differences(const std::vector<std::string>& a, const std::vector<std::string>& b)
 {
     const std::multiset<std::string> sorted_a(a.begin(), a.end());
@@ -124,7 +126,7 @@ TEST(Exports, TheHeadersDeclareWhatIsListed)
     EXPECT_EQ(std::vector<std::string>(), differences(listed_names(), declared_names()));
 }
 
-// The header with a folder's name includes the headers in that folder.
+// A header that is named after a folder includes all headers in that folder.
 TEST(Exports, CheckHeaderIncludesEveryOther)
 {
     const std::string include = OSTREL_SOURCE_DIR "/include/";

@@ -19,7 +19,7 @@ int impostor_answer()
 
 }  // namespace
 
-// The host's functions, each of which returns a value that no function of the library returns.
+// The host's functions, each of which returns a value that no library function returns.
 int ValidateString(int /*min_len*/, int /*max_len*/, const char* /*charset*/, const char* /*value*/)
 {
     return impostor_answer();

@@ -29,7 +29,7 @@ namespace {
 
 constexpr std::size_t kShort = std::size_t{1} << 12;
 
-// long_size returns the environment variable OSTREL_LONGEST_TEXT, or one megabyte if it is not set.
+// long_size returns the number in the environment variable OSTREL_LONGEST_TEXT, or one megabyte by default.
 std::size_t long_size()
 {
     const char* limit = std::getenv("OSTREL_LONGEST_TEXT");  // NOLINT(concurrency-mt-unsafe)
@@ -67,7 +67,8 @@ const std::vector<std::string>& hostile_texts()
     return texts;
 }
 
-// try_all passes the string as each text argument, one at a time, and returns the number of unlisted answers.
+// try_all passes the string as each text argument, one at a time, and returns how many result codes the
+// catalogue does not list.
 int try_all(const Function& function, const std::string& text, std::array<Caller, 2>& callers)
 {
     int unlisted = 0;
@@ -103,7 +104,7 @@ TEST_P(Misuse, HostileValuesInEveryTextArgument)
     EXPECT_EQ(0, end.status) << testing::PrintToString(end);
 }
 
-// The strings are empty, and the numbers are 0, 1, -1, and the largest and smallest int.
+// In each call, all strings are empty, and all numbers are 0, 1, -1, or the largest or smallest int.
 TEST_P(Misuse, EmptyValuesWithEveryExtremeNumber)
 {
     const Function& function = *GetParam();

@@ -1,4 +1,4 @@
-"""Tests that a function's module has the same path in every tree.
+"""Tests that a function's module has the same path under include/ostrel/, src/, rules/ and vectors/.
 
 usage: paths_test.py SOURCE_DIR VECTORS_TEST OSTREL_CHECK
 """
@@ -39,7 +39,7 @@ TREES = {"include/ostrel": (".h", declared), "src": (".cpp", defined), "rules": 
 
 
 def places(tree):
-    """places returns, for each name, the modules of a tree that contain it."""
+    """places maps each name to the modules of a tree that contain the name."""
     ending, names_in = TREES[tree]
     found = {}
     for path in sorted((SOURCE / tree).rglob("*" + ending)):

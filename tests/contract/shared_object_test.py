@@ -28,7 +28,7 @@ def read(*arguments):
 
 
 def plain(name):
-    """plain removes the version suffix from a name of the C library."""
+    """plain removes the version suffix from the name of a C library symbol."""
     return name.split("@")[0]
 
 
@@ -161,7 +161,7 @@ class SharedObject(unittest.TestCase):
         allowed_own = collections.Counter(
             relocation.kind for relocation in of_start_up_files if not relocation.symbol)
         if "PowerPC" in self.header:
-            # 32-bit PowerPC reaches data outside the code through a table of addresses.
+            # 32-bit PowerPC accesses data outside the code through a table of addresses.
             allowed_own["R_PPC_RELATIVE"] = own["R_PPC_RELATIVE"]
         self.assertEqual(allowed_own, own)
 
@@ -177,7 +177,8 @@ class SharedObject(unittest.TestCase):
         self.assertRegex(self.segments, r"(?m)^\s+GNU_RELRO\s")
 
     def test_no_floating_point(self):
-        """On MIPS, floating-point instructions have distinct names. One processor is representative of all."""
+        """Only MIPS libraries are examined, since floating-point instructions have distinct names there. All processors
+        have the same source."""
         if "MIPS" not in self.header:
             return
         code = subprocess.run([READELF.replace("readelf", "objdump"), "--disassemble", "--no-show-raw-insn", LIBRARY],

@@ -4,7 +4,7 @@ usage: llvm-cov export … | conditions.py
 
 A condition decides if there are two calls in which this condition and the decision differ, but no other evaluated
 condition does. A condition that is not shown to decide must be listed in mcdc.txt, with the reason why no call can show
-it. mcdc.txt may list no other conditions.
+it. mcdc.txt must not list any other conditions.
 """
 
 import json
@@ -71,7 +71,7 @@ def conditions(exported, root):
         branches = sorted({tuple(branch[:4]) for branch in file["branches"]})
         for decision in decisions:
             inside = [place for place in branches if within(place, decision)]
-            shown = decision[-1]  # for each condition, in source order
+            shown = decision[-1]  # one flag for each condition, in source order
             if len(inside) != len(shown):
                 raise SystemExit("%s:%d: %d conditions, but %d branches" %
                                  (source.file, decision[0], len(shown), len(inside)))

@@ -1,4 +1,4 @@
-/* Calls a function of the library according to the kinds of its arguments. */
+/* Calls a library function according to the kinds of its arguments. */
 #ifndef OSTREL_TESTS_EVERYWHERE_CALL_H
 #define OSTREL_TESTS_EVERYWHERE_CALL_H
 

@@ -75,7 +75,7 @@ class Install(unittest.TestCase):
                 run(build / "consumer")
 
     def test_cmake_subproject(self):
-        """A project that adds the tree to its build gets only the library."""
+        """A project that adds this repository to its build builds only the library."""
         build = self.scratch / "subproject"
         run(CMAKE, "-S", SUBPROJECT, "-B", build, "-DOSTREL_SOURCE=%s" % SOURCE, "-DCMAKE_C_COMPILER=%s" % CC,
             "-DCMAKE_CXX_COMPILER=%s" % CXX)

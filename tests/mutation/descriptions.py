@@ -33,7 +33,8 @@ PHRASES = [("at least", "at most"), ("needed", "allowed"), ("first", "last"), ("
 NOT_REPORTED = {"text", "buffer", "blocks", "integer", "natural", "integer_out", "in"}
 # These steps have the same reasons, so their order makes no difference.
 ALIKE = {"refuse_repeated"}
-# No value meets both a condition of the first kind and one of the second, so their order makes no difference.
+# No value is both too little (first pattern) and too much (second pattern), so the order of these steps makes no
+# difference.
 TOO_LITTLE = re.compile(r'(?:below|shorter_than)\((?:.*, )?-?\d+\)|empty\(\)')
 TOO_MUCH = re.compile(r'(?:above|longer_than)\((?:.*, )?-?\d+\)|refuse_above|outside\(k\w+\)')
 

@@ -1,5 +1,6 @@
-// Runs the tests with each of the changes that are compiled into the program. Each line of standard input is the number
-// of a change; the program prints that number, then 1 if a test failed and 0 otherwise. It reads the rows only once.
+// Runs the tests with each of the changes that are compiled into the program. Each line of standard input is
+// the number of a change; the program prints that number, then 1 if a test failed and 0 otherwise. It reads
+// the rows only once.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -20,7 +21,7 @@ namespace {
 
 constexpr rlim_t kMostSeconds = 4;  // the tests take half a second
 
-// The rows refer to the descriptions by address, so the changed ones replace them in place.
+// The rows refer to the descriptions by address, so the changed descriptions overwrite the originals.
 void remake_checks()
 {
     static const std::vector<ostrel::rules::Check> made = ostrel::rules::make_checks();

@@ -9,7 +9,7 @@ import subprocess
 
 LIBRARY = "libostrel_check.so"
 OBJECTS = "src/CMakeFiles/ostrel_check.dir/"
-# The headers are precompiled because reading them would take most of the time of each compilation.
+# The headers are precompiled because reading them would dominate the time of each compilation.
 PRELUDE = "".join("#include <%s>\n" % name for name in
                   ("cstddef", "cstdint", "cstdio", "cstdlib", "cstring", "string_view"))
 

@@ -125,7 +125,7 @@ def codes(found, text):
 
 
 def is_comparison(found, first, last):
-    """is_comparison returns whether changing the one operator between these tokens already negates them."""
+    """is_comparison returns whether the tokens are a comparison or a negation, which one changed operator negates."""
     if found[first].text == "!":
         return not any(token.text in ("&&", "||") for token in found[first:last])
     depth = 0

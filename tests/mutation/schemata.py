@@ -1,7 +1,7 @@
 """Generates a source file that contains all changes to it, of which the program selects one at run time.
 
-A function has a body for each change inside it. Checks in a list, and constants at namespace scope, become functions
-that are called instead.
+In the generated file, a function has a separate body for each change inside it. Each check in a list and each constant
+at namespace scope becomes a function, which is called in its place.
 """
 
 import re

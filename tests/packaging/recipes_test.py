@@ -116,7 +116,7 @@ class Recipes(unittest.TestCase):
             self.assertIn("ostrel-%s/CMakeLists.txt" % VERSION, files.getnames())
 
     def test_no_recipe_states_a_licence(self):
-        """The tree states no licence. If one is added, it must be added to all recipes."""
+        """The project has no licence file. If one is added, every recipe must name the licence."""
         for recipe in ("openwrt/Makefile", "buildroot/ostrel-check/ostrel-check.mk"):
             self.assertNotRegex((SOURCE / "packaging" / recipe).read_text(), r"(?m)^\w*LICENSE\w* *:?=")
 

@@ -2,8 +2,8 @@
 // defines malloc and its family, which record their caller, and the imported functions that could allocate,
 // which record that the library is inside them.
 //
-// Two allocations are allowed: the buffer of a stream, which the C library allocates at the first output or input,
-// and the stream that WLAN_check_channel opens.
+// Two allocations are allowed: the buffer of a stream, which the C library allocates at the first output or
+// input, and the stream that WLAN_check_channel opens.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ namespace {
 constexpr char kListFile[] = "/var/hnapwl0chlist";
 
 struct Request {
-    const char* inside;  // the function of the C library that the library called, or NULL
+    const char* inside;  // the C library function that the library called, or NULL
     const void* caller;  // where the allocator was called from
 };
 
@@ -266,7 +266,7 @@ void count_requests(Caller& caller, Counts& allowed, Counts& forbidden)
     }
 }
 
-// report prints the figure for the table of scripts/prove.
+// report prints the figure that scripts/prove shows in its table.
 void report(const char* what, std::size_t calls, const Counts& allowed)
 {
     std::printf("%s: %zu calls, no allocation of the library's", what, calls);

@@ -1,6 +1,6 @@
 // Passes NULL for each pointer of each function. Exactly the listed checks must fail an assertion, and they
 // must print nothing else. Each report names the condition, the module, the function and a line, which is
-// either fixed or different for each function. The other checks return, or end by a memory fault.
+// either fixed or different for each function. All other checks return, or end with a memory fault.
 
 #include <gtest/gtest.h>
 
@@ -76,7 +76,8 @@ std::vector<Asserting> asserting_checks()
     return all;
 }
 
-// Reports are the failed assertions, without the program's name and with "*" for a line that is not fixed.
+// Reports contains the messages of failed assertions, without the program's name and with "*" in place of a
+// line number that is not fixed.
 using Reports = std::multiset<std::string>;
 
 // Places maps a module and a line to the functions that the reports name.
@@ -103,7 +104,7 @@ std::string asserted(const Function& function, const std::vector<Value>& values,
         return 0;
     });
     EXPECT_FALSE(end.timed_out) << function.name;
-    // A sanitizer that detects a memory fault may end the process by SIGABRT too.
+    // A sanitizer that detects a memory fault may also end the process with SIGABRT.
     static const std::regex form(": ([a-z_]+):([0-9]+): ((.*): Assertion `.*\n)$");
     std::smatch parts;
     if (end.signal != SIGABRT || !std::regex_search(end.err, parts, form)) return "";

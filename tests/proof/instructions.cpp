@@ -1,16 +1,16 @@
-// Calls every function with long values of several shapes and sizes under callgrind, which counts the instructions
-// and writes each count to its file under the name
+// Calls every function with long values of several shapes and sizes under callgrind, which counts the
+// instructions and writes each count to its file under the name
 //
 //   FUNCTION SHAPE ARGUMENT ITEMS BYTES
 //
-// ARGUMENT is the index of the long argument, from 0, or "all". ITEMS is the number of items in a list for
-// which the contract requires a search of the rest for each item, and 0 for any other value.
-// instructions_test.py checks the growth.
+// ARGUMENT is the index of the long argument, from 0, or "all". If the value is a list in which the contract
+// requires a search for each item, ITEMS is the number of items; otherwise, it is 0. instructions_test.py
+// checks the growth.
 //
-//   instructions together|each BYTES...
+// usage: instructions together|each BYTES...
 //
-// The sizes must be in ascending order. Writing a count takes longer than a call, so "together" adds up a few
-// shapes of a function. A shape that grows too fast soon dominates the sum.
+// The sizes must be in ascending order. Writing a count takes longer than a call, so "together" counts
+// several shapes of a function as one. If the count for one shape grows too fast, it soon dominates the sum.
 
 #include <valgrind/callgrind.h>
 
@@ -27,8 +27,9 @@ using namespace ostrel::calling;
 using namespace ostrel::catalogue;
 using namespace ostrel::tests;
 
-// kParts are the pieces that long values repeat: single characters of every set and of none, items of every
-// kind of list, and fragments of the strings that the rules search for. The first pieces differ the most.
+// kParts are the pieces that are repeated to build long values: single characters of every set and of none,
+// items of every kind of list, and fragments of the strings that the rules search for. The first pieces
+// differ the most.
 constexpr std::string_view kParts[] = {
     "a",      "0",    ",",       "192.168.1.1,",
     ".",      "\xff", "1.",      "&#65;",

@@ -94,7 +94,7 @@ def run(proof, report):
     """run returns the figures, and whether every step succeeded."""
     figures = []
     for step in proof.steps:
-        # A skipped test proves nothing. With CI set, it fails.
+        # CI is set so that a skipped test fails, because it proves nothing.
         environment = dict(os.environ, CI="1", **step.environment)
         result = subprocess.run(step.command, cwd=ROOT, env=environment, check=False, text=True, errors="replace",
                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT)

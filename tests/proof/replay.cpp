@@ -2,7 +2,7 @@
 // the rows whose result differs. Any finding of a tool, and any difference under a locale, is therefore the
 // library's fault.
 //
-//   replay [LOCALE [BYTES]]
+// usage: replay [LOCALE [BYTES]]
 //
 // LOCALE must be installed; the default is C. If BYTES is given, rows with longer strings are skipped.
 

@@ -1,10 +1,9 @@
 // Measures how much stack the library needs. Each call runs on a separate stack that is painted with a
 // pattern first. The deepest overwritten word marks the depth of the call.
 //
-// The figures cover the library's own frames. This program is a host that replaces the functions of the C
-// library that have large frames with versions that need almost no stack. The C library's other byte and
-// string functions have no frames. The depth of a function that does nothing, called in the same way, is
-// subtracted.
+// The figures cover the library's own frames. This program is a host that replaces those C library functions
+// that have large frames with versions that need almost no stack. The C library's other byte and string
+// functions have no frames. The depth of a function that does nothing, called in the same way, is subtracted.
 
 #include <gtest/gtest.h>
 #include <ucontext.h>

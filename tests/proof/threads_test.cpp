@@ -1,13 +1,14 @@
-// Eight threads judge every vector concurrently. Each answer must be the one that the vector promises, and
-// every printed line must be whole. Built with the thread sanitizer (preset "tsan"), the test also shows that
-// there is no data race.
+// Eight threads judge every vector concurrently. Each result must be the one that the vector promises, and
+// no printed line may be interrupted by another. With the thread sanitizer (the "tsan" preset), the test also
+// shows that there is no data race.
 //
-// The checks of MAC addresses print a character without a line end, which may precede any line, so their rows are
-// judged separately, byte by byte.
+// The MAC address checks print a character without a line end, which may precede any line, so their rows are
+// judged separately, and their output is compared byte by byte.
 //
 // If OSTREL_LONGEST_TEXT is set in the environment, rows with longer strings are skipped.
 //
-// Only one thread at a time may call WLAN_check_channel, so its rows are skipped if they ask the driver for its list.
+// Only one thread at a time may call WLAN_check_channel, so its rows are skipped if they need the driver's
+// channel list.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -40,7 +41,7 @@ namespace {
 
 constexpr std::size_t kThreads = 8;
 
-// Pieces counts how often each line occurs, or each byte if lines are not whole.
+// Pieces counts how often each line occurs or, for output without line ends, how often each byte occurs.
 using Pieces = std::map<std::string, std::size_t, std::less<>>;
 
 void add_lines(Pieces& lines, std::string_view text, std::size_t times)
@@ -116,7 +117,8 @@ bool is_as_promised(const CallResult& expected, const std::vector<calling::Writt
     return code == expected.code && std::ranges::equal(written, expected.after, {}, &calling::Written::value);
 }
 
-// judge_all runs every case, starting at a different one in each thread, and returns the number of wrong results.
+// judge_all runs every case, starting at a different one in each thread, and returns the number of wrong
+// results.
 std::size_t judge_all(const std::vector<Expected>& all, std::size_t thread)
 {
     std::size_t wrong = 0;

@@ -1,4 +1,4 @@
-"""Adds a check with a range to a copy of the tree, following CONTRIBUTING.md, builds the copy and runs its tests.
+"""Follows CONTRIBUTING.md to add a check of a range to a copy of the repository, builds the copy and runs its tests.
 
 usage: recipe_test.py BUILD_FOLDER SOURCE_FOLDER
 
@@ -20,11 +20,12 @@ import unittest
 NAME = "L3FORWARDING_check_preference"
 MOST_FILES = 8
 SKIPPED = 77
-# The new check has no rows with long strings, and those of other checks would take most of the time.
+# The new check has no rows with long strings, and those of other checks would dominate the run time.
 LIMITS = {"OSTREL_LONGEST_TEXT": "9000"}
 PRINTED = "Error in L3FORWARDING_check_preference: Invalid preference:%s, RANGE[1, 255]\n"
 
-# The preset's tests that read every check or files generated from all checks, and the targets of these tests.
+# TESTS are the tests of the gcc preset that read every check or a file generated from all checks. TARGETS are the build
+# targets that they need.
 TESTS = ("vectors_test|paths|exports_test|misuse_test|abi|headers|shared_object|rules_test|constraints_test|json_schema|"
          "assertions_test|pages|terminal|explain|reasons|examples_test|packed_vectors|sql.table")
 TARGETS = ["ostrel_check", "ostrel_check_O0", "ostrel_empty", "ostrel-check", "find_hazards", "fuzz_replay", "vectors_test",
@@ -40,7 +41,7 @@ def row(value, reason=None):
     return json.dumps(made) + "\n"
 
 
-# The edits by hand, as the anchor in each file and the text that is inserted before it.
+# The manual edits. Each file is mapped to an anchor and the text that is inserted before that anchor.
 EDITS = {
     "vectors/l3forwarding_check.ndjson": ("", "".join([
         row("1"), row("2"), row("254"), row("255"), row("12 ms"),
@@ -76,7 +77,8 @@ L3FORWARDING_check_preference 256
 """),
     "CHANGELOG.md": ("\n## ", "\n- `L3FORWARDING_check_preference`.\n"),
 }
-# The generators, by their names in CONTRIBUTING.md. None of the preset's tests reads docs/footprint.md.
+# The generators, by their names in CONTRIBUTING.md. scripts/footprint is omitted, because none of the tests above reads
+# docs/footprint.md.
 GENERATORS = {
     "scripts/hazards": "scripts/hazards",
     "scripts/stubs": "scripts/stubs",
@@ -95,7 +97,7 @@ def run(command, folder, **environment):
 
 
 class Copy:
-    """Copy is a copy of the tree, with a build folder that reuses unchanged objects of another one."""
+    """Copy is a copy of the repository, with a build folder that reuses unchanged objects of another build."""
 
     def __init__(self, folder):
         self.folder = folder
@@ -117,7 +119,7 @@ class Copy:
         return {name for name, before in self.before.items() if (self.folder / name).read_bytes() != before}
 
     def keep(self, made):
-        """keep links the objects of the other build that depend neither on changed files nor on the tree's path."""
+        """keep links the objects of the other build that depend neither on changed files nor on the path of SOURCE."""
         commands = json.loads((BUILD / "compile_commands.json").read_text())
         places = {name for command in commands
                   for name in re.findall(r"-D(\w+)=\S*%s" % re.escape(str(SOURCE)), command["command"])}

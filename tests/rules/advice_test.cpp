@@ -70,7 +70,7 @@ TEST(AdviceTest, WhatIsTrueHolds)
     EXPECT_EQ("", fault_of(not_empty(), "a"));
 }
 
-// In each check, the reason names a limit that is not the one that decides.
+// In each of these checks, the reason names a limit other than the one that determines the verdict.
 TEST(AdviceTest, AFalseLimitIsNoticed)
 {
     EXPECT_EQ("does not come back with one step less: has 11 bytes; at most 5 are allowed",
@@ -117,7 +117,8 @@ TEST(AdviceTest, LastOctetsHaveTheirOwnLimit)
     }
 }
 
-// Shortening the label turns the whole value into an address, and its length is then a different fault.
+// Shortening the label turns the whole value into an address. If this address is refused for its length, that
+// is a different fault.
 TEST(AdviceTest, AReasonOfAnotherPartIsAnotherOne)
 {
     EXPECT_EQ("", fault_of(*find("TcmValidateVoIPSTUNServer"), {"2222222222222222222225G.1.1."}));

@@ -1,4 +1,4 @@
-// Tests statements of the automaton about all strings of a language.
+// Tests the properties that the automaton derives for all strings of a language.
 
 #include "rules/language/automaton.h"
 
@@ -45,7 +45,7 @@ TEST(AutomatonTest, Summary)
     EXPECT_EQ(summary(tail).longest, 5);
 }
 
-// Two cuts select the same number, but limit it differently.
+// In a string with one "@", both cuts select the same number, but they set different limits for it.
 TEST(AutomatonTest, WhatFollowsTellsMoreBytesApart)
 {
     Languages languages;

@@ -161,8 +161,8 @@ TEST(ConstraintsTest, KeywordsInAnyCaseAreOfferedAsTheyAreWritten)
     EXPECT_FALSE(protocol.form.recommended.front().ignores_case);
 }
 
-// Prints the arguments whose constraints are exact, those whose constraints are only necessary, and all
-// others.
+// Prints which arguments have exact constraints, which have constraints that are only necessary, and which
+// have neither.
 TEST(ConstraintsTest, HowMuchIsSaid)
 {
     std::map<std::string, std::string> names;

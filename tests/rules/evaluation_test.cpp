@@ -38,10 +38,12 @@ TEST(CountsTest, EachStepAndConditionCountsOnceInACall)
 
 TEST(CountsTest, CasesAndItemsCountToo)
 {
-    // The steps are: empty, a byte outside the set, the two cases, and the refusal in each case.
+    // ValidateURL's steps: refuse an empty value, refuse a byte outside the set, choose between name and
+    // address, refuse an invalid name, refuse an invalid address.
     const Check& host = *find("ValidateURL");
-    // The steps are: empty, a byte outside the set, only digits, too many labels, and for each label: empty,
-    // too long.
+    // TcmValidateDomainName's steps: refuse an empty value, refuse a byte outside the set, refuse a value of
+    // only digits and dots, refuse too many labels, visit each label, refuse an empty label, refuse a long
+    // one.
     const Check& name = *find("TcmValidateDomainName");
     Counts counts;
     using Times = std::vector<std::uint64_t>;
@@ -152,7 +154,7 @@ TEST(WorkTest, ALimitMayBeReached)
     EXPECT_EQ(0U, least % 2);
 }
 
-// At most positions, a search compares only a few bytes.
+// A search compares only a few bytes at nearly every position.
 TEST(WorkTest, OfASearchIsLittleMoreThanOneOfTheText)
 {
     const Check check = registered_with({refuse(1, contains("one", literal("abc")))});

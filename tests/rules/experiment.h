@@ -28,8 +28,8 @@ class Experiment {
     // be accepted too.
     void vary(std::size_t argument, calling::Capture& capture);
 
-    // pass_null returns the outcomes of NULL according to the description and, if the call can be made, the
-    // library.
+    // pass_null returns the outcomes that the description predicts for NULL and, if the call can be made,
+    // those that occur.
     std::set<rules::NullOutcome> pass_null(std::size_t argument, calling::Capture& capture);
 
     // constraints returns the constraints of an argument, or NULL if there are none.
@@ -46,7 +46,8 @@ class Experiment {
  private:
     using Values = std::vector<catalogue::Value>;
 
-    // call returns whether the library accepts the values, or nothing if the call must not be made or builds differ.
+    // call returns whether the library accepts the values, or nothing if the call must not be made or builds
+    // differ.
     std::optional<bool> call(const Values& values, calling::Capture& capture);
     void tell(std::string_view what, const Values& values, std::size_t argument);
     void compare(const Values& values, std::size_t argument, bool is_accepted);

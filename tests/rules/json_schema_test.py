@@ -133,7 +133,7 @@ class JsonSchema(unittest.TestCase):
         texts = Maker(name, definition, known).texts(COUNT) + known
         if definition.get("x-ostrel-reads-number"):
             texts = [text for text in texts if not is_beyond_int(text)]
-        # A string for which the check never returns uses up the time limit, as would any with the same first byte.
+        # A string for which the check never returns uses up the time limit, as would any string with that first byte.
         verdicts = verdicts_of(name, texts[:50], 0.05)
         endless = {text[:1] for text, verdict in zip(texts, verdicts) if verdict == "no_return"}
         texts[50:] = [text for text in texts[50:] if text[:1] not in endless]

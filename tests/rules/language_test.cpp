@@ -111,7 +111,7 @@ TEST(LanguageTest, LeapYears)
     }
 }
 
-// part_of implements a cut independently.
+// part_of is an independent implementation of a cut.
 std::string part_of(const std::string& text, const Cut& cut)
 {
     const std::size_t first = text.find(cut.separator);

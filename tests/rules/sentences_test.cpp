@@ -138,7 +138,7 @@ Reason of_item(Reason reason, std::string text)
     return reason;
 }
 
-// An argument is named if the user passes more than one. Outputs do not count.
+// An argument is named if the user passes more than one. Output arguments do not count.
 TEST(FullSentencesTest, NameWhatTheySpeakOf)
 {
     EXPECT_EQ("is empty", full_sentence(of("empty"), of_one()));

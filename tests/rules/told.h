@@ -1,4 +1,4 @@
-// A description's answer to a call, and its sentence about a refusal.
+// A description's answer to a call, and the sentence about a refusal.
 #ifndef OSTREL_TESTS_RULES_TOLD_H
 #define OSTREL_TESTS_RULES_TOLD_H
 
@@ -18,7 +18,7 @@ inline Answer answer_of(std::string_view name, const std::vector<Value>& values,
     return evaluate(*find(name), values, build);
 }
 
-// answer_of evaluates steps that belong to no check of the project.
+// answer_of evaluates steps that are not part of any real check.
 inline Answer answer_of(std::vector<Step> steps, const std::vector<Value>& values, const Build& build = {})
 {
     std::vector<ArgumentWords> arguments;

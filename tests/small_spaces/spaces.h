@@ -1,4 +1,4 @@
-// Compares calls of the library with their descriptions, for tests that exhaust a small space of values.
+// Compares calls of the library with their descriptions, for tests that try every value in a small space.
 #ifndef OSTREL_TESTS_SMALL_SPACES_SPACES_H
 #define OSTREL_TESTS_SMALL_SPACES_SPACES_H
 

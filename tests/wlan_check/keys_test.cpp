@@ -31,7 +31,8 @@ Block block_of(const Keys& keys)
     return block;
 }
 
-// check returns the code of WLAN_check_wepkeys, and expects it to write a NUL at the given keys and nothing else.
+// check returns the code of WLAN_check_wepkeys, and expects it to write a NUL at the given keys and nothing
+// else.
 int check(const Keys& keys, const std::array<bool, 4>& emptied)
 {
     Block block = block_of(keys);

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Tests that each difference that "compare" reports is real, and that "same" has no exception.
+"""Tests that each difference that "compare" reports is real, and that "same" has no exceptions.
 
 usage: compare_test.py OSTREL_CHECK SOURCE_DIR
 

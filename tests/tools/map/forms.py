@@ -1,4 +1,4 @@
-"""Writes the same gateways as rows of CSV, as rows of JSON, and as trees of JSON."""
+"""Writes the same gateways as CSV rows, as JSON rows, and as JSON trees."""
 
 import csv
 import io

@@ -63,7 +63,7 @@ def wlan(number, standard, channel, name):
 
 
 def good_gateway(number):
-    """good_gateway returns the parameters of a gateway; its checks accept all of them."""
+    """good_gateway returns the parameters of a gateway, all of which their checks accept."""
     net = f"192.168.{number % 250}."
     colours = {f"UserInterface.{name}Color": "00a0ff" for name in ("Text", "Background", "Button", "ButtonText")}
     servers = {f"Time.NTPServer{n}": f"ntp{n}.example.net" for n in range(1, 6)}
@@ -143,8 +143,8 @@ def good_gateway(number):
     return {ROOT + path: value for path, value in gateway.items()}
 
 
-# A fault consists of a parameter, its bad value (None if it is missing), the check that detects it, the argument at
-# fault, and the reason.
+# A fault consists of a parameter, its bad value (None if it is missing), the check that detects it, the offending
+# argument, and the reason.
 FAULTS = [
     ("DeviceInfo.ProvisioningCode", "TLCO.GRP2", "PARAM_check_provisioning_code", "value_p", "wrong_length"),
     ("ManagementServer.URL", "https://acs.example.net/", "MGTSERVER_check_server_url", "value_p", "wrong_prefix"),

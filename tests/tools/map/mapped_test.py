@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Judges dumps of gateways with a map.
+"""Tests batches that judge gateway dumps with a map.
 
 usage: mapped_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -34,7 +34,7 @@ def batch(text, *options, map_file=tr_098, code=None):
 
 
 def place_of(result):
-    """place_of returns the gateway, the parameter at fault, the check, its argument and the reason's id."""
+    """place_of returns the gateway, the offending parameter, the check, its argument and the reason's id."""
     reason = result["reason"]
     path = reason.get("parameter") or result.get("siblings", {}).get(reason["argument"], result["parameter"])
     if isinstance(path, list):

@@ -1,4 +1,4 @@
-"""Judges which values a data model allows according to a file of facts, independently of "ostrel-check compare"."""
+"""Determines which values a data model allows, from a file of facts and independently of "ostrel-check compare"."""
 
 import base64
 import binascii

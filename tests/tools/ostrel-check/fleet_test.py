@@ -1,4 +1,4 @@
-"""Judges the values of a fleet in each form, interrupted and resumed, and in pieces whose summaries are added.
+"""Tests batches of a fleet's values in each form: uninterrupted, resumed, and in pieces whose summaries are added.
 
 usage: fleet_test.py OSTREL_CHECK SOURCE_DIR [ROWS]
 

@@ -45,7 +45,7 @@ def in_rows(rows, delimiter):
 
 
 def write(form, cases):
-    """Returns a file of that format that contains pairs of a check and its only value."""
+    """Returns the contents of a file of that format. Each case is a pair of a check and its only value."""
     if form == "words":
         return "".join(f"{check} {in_words(text)}\n" for check, text in cases)
     objects = [{"check": check, "args": [text]} for check, text in cases]

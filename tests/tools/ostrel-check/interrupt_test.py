@@ -152,7 +152,7 @@ class Interruption(Cases):
 
 class FullDisk(Cases):
     def assert_goes_on(self, output, *options, room):
-        """assert_goes_on runs a batch into a limited file, resumes it, and compares both parts with the whole."""
+        """assert_goes_on resumes a batch that ran out of space, and compares both parts with an uninterrupted run."""
         with open(output, "wb") as file:
             full = subprocess.run([PROGRAM, "batch", *options, self.cases], stdout=file, stderr=subprocess.PIPE,
                                   check=False, preexec_fn=room)

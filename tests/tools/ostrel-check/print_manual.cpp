@@ -16,7 +16,8 @@ namespace {
 
 std::string in_small_letters(const std::string& text) { return CLI::detail::to_lower(text); }
 
-// argument_of returns the type of an option in mdoc, which is the list of its words or a name for its value.
+// argument_of returns an option's type as mdoc markup: either the list of words that the option accepts, or a
+// placeholder for its value.
 std::string argument_of(const CLI::Option& option)
 {
     if (option.get_items_expected_max() == 0) return "";

@@ -34,7 +34,7 @@ class FileReading {
     {
     }
 
-    // add supplies more bytes and returns false if nothing more is read.
+    // add supplies more bytes and returns whether reading continues.
     bool add(std::string_view bytes, bool is_end)
     {
         rest_ += bytes;

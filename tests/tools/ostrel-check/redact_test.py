@@ -18,7 +18,7 @@ import unittest
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[3] / "vectors"))
 from vectors import rows, text_of  # noqa: E402  (sys.path must be set first)
 
-# No piece of a marker may appear in the output if it has this length.
+# No piece of a marker that has this length may appear in the output.
 PIECE = 6
 DICE = random.Random(20261122)
 MARKERS = ["".join(DICE.choices(letters, k=24))
@@ -117,7 +117,7 @@ class Redaction(unittest.TestCase):
             self.assertIn("not shown", shown)
 
     def test_members_that_are_passed_through(self):
-        """They may repeat the value unchanged, inside a string, with escapes, as a number, or in a list."""
+        """Such a member may repeat the value unchanged, inside a string, with escapes, as a number, or in a list."""
         lines = []
         for marker in MARKERS:
             number = marker if marker.isdigit() and marker[0] != "0" else f'"{marker}"'
@@ -136,7 +136,7 @@ class Redaction(unittest.TestCase):
         self.assertEqual([7, "A.1.B", "north", ["<14 bytes>"]], [row[name] for name in ("id", "parameter", "site", "args")])
 
     def test_values_that_a_map_does_not_translate(self):
-        """The value may belong to another parameter than the judged one and be secret there."""
+        """The value may belong to a parameter other than the judged one, and may be secret there."""
         with tempfile.NamedTemporaryFile("w", suffix=".json") as file:
             json.dump({"parameters": [
                 {"path": "Band", "check": "WLAN_check_radio_id", "words": {"2.4GHz": "RADIO_2.4GHz"}},
