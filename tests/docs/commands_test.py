@@ -29,7 +29,7 @@ LONG = {"scripts/quickstart", "scripts/test", "scripts/test-everywhere", "script
         "scripts/abi", "scripts/footprint", "scripts/manual", "scripts/stubs", "sql/generate.py"}
 # Commands that build or test a preset are not run, but the preset must exist.
 LONG_BUILD = re.compile(r"(cmake --preset|cmake --build --preset|ctest --test-dir build)[ /](\S+)( -\S+ \S+)*")
-# Programs that the text mentions without running them.
+# Programs that the documents mention but do not run.
 FILES = {"packaging/wlctl", "fleet/ostrel-fleet"}
 # Code spans of several words that are not commands.
 TEXTS = {"lan_check: refuse an address without a dot"}

@@ -94,8 +94,8 @@ class Maker {
         }
     }
 
-    // groups generates each group of a shape at its minimum and maximum length, and one byte shorter or
-    // longer.
+    // groups generates each group of a shape at its minimum and maximum length, and one byte shorter and
+    // longer than each.
     void groups(const rules::Runs& shape)
     {
         for (std::size_t at = 0; at <= shape.size(); ++at) {
@@ -156,7 +156,7 @@ class Maker {
         return result;
     }
 
-    // bytes inserts bytes at the beginning, the middle and the end of a string, and removes bytes there.
+    // bytes inserts, replaces and removes bytes at the beginning, the middle and the end of a string.
     void bytes(const std::string& text, bool all)
     {
         const std::string tried = all ? Set::range(1, 255).members() : members_ + others_;

@@ -150,7 +150,7 @@ TEST(WorkTest, ALimitMayBeReached)
     const std::vector<Value> values = {"80"};
     std::uint64_t least = 1;
     while (evaluate_within(least, *find("TcmValidatePort"), values, {}).outside != Outside::kNo) ++least;
-    // The work consists of reading the length, the digits and the number, each of which is two bytes.
+    // The work is the number of bytes read: two each for the length, the digits and the number.
     EXPECT_EQ(0U, least % 2);
 }
 
@@ -172,7 +172,7 @@ TEST(ModelTest, OfAnotherModel)
     EXPECT_EQ(1001, answer_of("WLAN_check_HNAP_SecurityType", {"1", "auto", "x", "AES"}, other).code);
 }
 
-// Conditions that distinguish cases need no reason.
+// The conditions of "when" are evaluated without a reason.
 TEST(WhenTest, TakesEveryCondition)
 {
     static const Table kTable = {{"a column"}, {{"a"}, {"b"}}};

@@ -32,8 +32,8 @@ void add_lines(const std::vector<Said>& steps, std::vector<SaidLine>& lines)
     }
 }
 
-// Pattern is an explained line, split at its placeholders. A row supplies the text for an argument's name:
-// the value that was passed, or the text that the argument contains after the call.
+// Pattern is an explained line, split at its placeholders. A row supplies the text for a placeholder that
+// names an argument: the value that was passed, or the text that the argument contains after the call.
 class Pattern {
  public:
     Pattern(const SaidLine& line, const Row& row) : is_error_(line.stream == rules::Line::Stream::kErr)

@@ -18,7 +18,7 @@ std::string repeated(std::string_view part, std::size_t size);
 // count.
 bool is_text(const catalogue::Argument& argument);
 
-// neutral returns an empty string, or the number, for an argument while another one is hostile.
+// neutral returns a value for an argument while another one is hostile: an empty string, or the number.
 catalogue::Value neutral(const catalogue::Argument& argument, long long number);
 
 // widest returns a value for each argument. Strings are empty, and numbers are 0, except the last one, which

@@ -71,7 +71,7 @@ class Explained(unittest.TestCase):
         unprinted = set(literals)
         for line in explained:
             matching = {literal for literal in literals if as_pattern(literal).fullmatch(line)}
-            # A byte that replaces a ":" is printed alone.
+            # The MAC address checks print a byte that is in the place of a ":", and nothing else.
             self.assertTrue(matching or line == "<byte>", line)
             unprinted -= matching
         self.assertEqual(NEVER_PRINTED, sorted(unprinted))

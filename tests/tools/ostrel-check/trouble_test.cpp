@@ -67,7 +67,7 @@ TEST(Trouble, TableNamesTheCaseAndItsAssertion)
     EXPECT_EQ("8 cases: 2 accepted, 1 refused, 3 ended the process, 2 did not return\n", summary_of(outcome));
 }
 
-// If the description predicts that a call never returns, the program does not wait for it.
+// If the description predicts that a call never returns, the program does not make the call.
 TEST(Trouble, ThatIsKnownNeedsNoCall)
 {
     std::string lines;
