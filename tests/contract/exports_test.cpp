@@ -148,7 +148,7 @@ TEST(Exports, EachEntryIsTheFunctionOfItsName)
     EXPECT_EQ(static_cast<const void*>(ostrel_ctype), dlsym(RTLD_DEFAULT, "ostrel_ctype"));
 }
 
-// Every name must be defined in the library's file, or in the variant's if LD_LIBRARY_PATH selects one.
+// Every name must be defined in this build's library or, if LD_LIBRARY_PATH selects a variant, in that one.
 TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
 {
     const char* asked_for = std::getenv("LD_LIBRARY_PATH");  // NOLINT(concurrency-mt-unsafe)

@@ -32,8 +32,8 @@ def digest(data):
 
 
 class Results:
-    """Results stores the status of each mutant until its file changes. A surviving mutant is tried again if the tests
-    change."""
+    """Results stores the status of each mutant until its source file is edited. A surviving mutant is tried again if
+    the tests change."""
 
     def __init__(self, path, texts, programs):
         self.path = path

@@ -28,7 +28,7 @@ using vectors::RowReason;
 
 namespace {
 
-// result_of returns the result of an answer. As in the caller, a number that was not written is NULL.
+// result_of returns the result of an answer. A number that was not written becomes NULL, as in Caller.
 CallResult result_of(const Answer& answer)
 {
     CallResult result{answer.code, answer.out, answer.err, answer.is_flushed(), answer.after};
