@@ -30,7 +30,7 @@ class Condition(NamedTuple):
 
 
 class Source:
-    """Source is a file of src/. As in llvm-cov, lines and columns are counted from 1, and ranges exclude their end."""
+    """Source is a file in src/. As in llvm-cov, lines and columns are counted from 1, and ranges exclude their end."""
 
     def __init__(self, root, path):
         self.file = str(path.relative_to(root))

@@ -1,8 +1,8 @@
 // Finds which hazardous bytes accepted values may contain, and prints the lines of docs/hazards.md.
 //
-// For each text argument, it tries every hazardous byte at many positions of the accepted values of vectors/,
+// For each text argument, it tries every hazardous byte at many positions of the accepted values in vectors/,
 // both inserted and as a replacement. For a buffer, it also searches the content after the call for bytes of
-// any argument. The descriptions of rules/ decide whether a value is accepted; rules_test compares them with
+// any argument. The descriptions in rules/ decide whether a value is accepted; rules_test compares them with
 // the library.
 
 #include <algorithm>
@@ -44,7 +44,7 @@ std::string hazardous_bytes()
     return {bytes.begin(), bytes.end()};
 }
 
-// texts_of returns pointers to the strings of an argument, which are const if the argument is const.
+// texts_of returns pointers to an argument's strings. The strings are const if the argument is.
 template <typename V>
 auto texts_of(V& value)
 {

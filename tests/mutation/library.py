@@ -61,7 +61,7 @@ class Sources:
                          for file, text in self.text.items()}
 
     def including(self, header):
-        """including returns the .cpp files that include a header of src/, directly or through other headers."""
+        """including returns the .cpp files that include a header in src/, directly or through other headers."""
         seen, waiting = set(), [header]
         while waiting:
             name = waiting.pop()
@@ -98,7 +98,7 @@ class LibraryBuild(Build):
         return super().link_command(target) + (["-fuse-ld=gold"] if shutil.which("ld.gold") else [])
 
     def compiled_in(self, file):
-        """compiled_in returns the test programs that compile this source file of the library themselves."""
+        """compiled_in returns the test programs that compile this library source file themselves."""
         objects = self.folder.glob("tests/**/CMakeFiles/*.dir/__/__/%s.o" % file)
         names = {re.search(r"CMakeFiles/(\w+)\.dir/", str(path)).group(1) for path in objects}
         return sorted(name for name in names if name.endswith("_test") and (self.folder / "bin" / name).exists())

@@ -134,7 +134,7 @@ def with_all(text, numbered, kept):
 
 
 def owners(text):
-    """owners returns the number of the mutant that each line belongs to, or 0."""
+    """owners returns, for each line, the number of the mutant to which it belongs, or 0 if there is none."""
     number, made = 0, [0]
     for line in text.splitlines():
         match = MARK.match(line)

@@ -15,7 +15,7 @@ import vectors  # noqa: E402  (sys.path must be set first)
 LIBC = ctypes.CDLL(None)
 DIE_WITH_PARENT = 1
 
-# Files whose test program has a different name.
+# Files whose test program is not named after them.
 PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test"}
 # This program compares times. A limit on processor time would make the clock coarse, and a busy machine can make the
 # program fail, so only repeated failures count.
@@ -48,7 +48,7 @@ class Suites:
         return programs
 
     def own(self, file):
-        """own returns the suites of the module and of the modules in the same folder of src/."""
+        """own returns the suites of the module and of the modules in the same folder under src/."""
         module = pathlib.PurePath(file).relative_to("src").with_suffix("")
         names = [str(module), *(name for name in self.vectors if name.startswith(f"{module.parent}/"))]
         found = [("vectors_test", name + ".*") for name in names if name in self.vectors]

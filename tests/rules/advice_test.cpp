@@ -1,4 +1,4 @@
-// Tests that reasons of every id can be followed, and that a false reason is detected. fuzz/ follows the
+// Tests that reasons with each id can be followed, and that a false reason is detected. fuzz/ follows the
 // reasons of all checks.
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Compares the descriptions with every row of vectors/*.ndjson and with the declared arguments. fuzz/
+// Compares the descriptions with every row in vectors/*.ndjson and with the declared arguments. fuzz/
 // compares them with the library.
 
 #include <gtest/gtest.h>

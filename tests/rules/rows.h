@@ -1,4 +1,4 @@
-// The rows of vectors/, read once and grouped by function.
+// The rows in vectors/, read once and grouped by function.
 #ifndef OSTREL_TESTS_RULES_ROWS_H
 #define OSTREL_TESTS_RULES_ROWS_H
 

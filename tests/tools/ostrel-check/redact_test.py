@@ -2,7 +2,7 @@
 
 usage: redact_test.py OSTREL_CHECK SOURCE_DIR
 
-The test calls every check that has a secret argument with the rows of vectors/, and puts a marker into each secret: in
+The test calls every check that has a secret argument with the rows in vectors/, and puts a marker into each secret: in
 place of the value, before it, after it and around it. This reaches each step of the check.
 """
 
