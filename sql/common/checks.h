@@ -1,4 +1,4 @@
-/* The library's functions in the form in which SQL calls them. */
+/* A table of the library's functions, for calling them from SQL. */
 #ifndef OSTREL_SQL_CHECKS_H
 #define OSTREL_SQL_CHECKS_H
 
@@ -10,10 +10,10 @@ enum { kMostArguments = 4 };
 typedef enum {
     kText,
     kBuffer, /* read and written */
-    kBlocks, /* several strings at a fixed distance, read and written; SQL passes them as separate values */
+    kBlocks, /* an array of fixed-size strings, read and written; SQL passes each string as a value */
     kInteger,
     kUnsigned,
-    kOutputText, /* only written, and not passed by SQL */
+    kOutputText, /* write-only, so SQL does not pass it */
     kOutputInteger
 } OstrelKind;
 

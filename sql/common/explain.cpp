@@ -1,5 +1,5 @@
-// Buffer sizes and reasons from the descriptions. This file is the interface between C++ and C, so it lets no
-// exception escape.
+// Derives buffer sizes and reasons from the descriptions. This file is the interface between C++ and C, so it
+// lets no exception escape.
 
 #include <algorithm>
 #include <cstdlib>
@@ -87,7 +87,7 @@ std::string after(const OstrelCheck& check, const OstrelSlot* slots)
     return out.empty() ? "[]" : out + "]";
 }
 
-// lengths returns the lengths of a call's secrets, because nothing else may be shown of them.
+// lengths describes the lengths of a call's secret values. Nothing else about a secret may be shown.
 std::string lengths(const OstrelCheck& check, const OstrelText* given)
 {
     std::string out;
@@ -106,7 +106,7 @@ std::string lengths(const OstrelCheck& check, const OstrelText* given)
     return out;
 }
 
-// reason returns an empty sentence or JSON object if the search for the reason would take too long.
+// reason returns an empty sentence or JSON object if finding the reason would take too long.
 std::string reason(const OstrelCheck& called, const OstrelText* given, const OstrelSlot* slots,
                    OstrelWish wish, int code)
 {

@@ -1,9 +1,9 @@
 /*
- * Replacements for functions of the C library. This header is included before each source of the library, so
- * that the library prints with print.c.
+ * Replacements for C library functions. This header is included before each source file of the library, so
+ * that print.c receives the library's output.
  *
- * A database process has several threads, and its standard output must not be written or flushed by the
- * library. With these replacements, the library uses no stream and runs no shell.
+ * A database process can have several threads, and the library must not write to or flush its standard output.
+ * With these replacements, the library uses no stream and runs no shell.
  */
 #ifndef OSTREL_SQL_HOST_H
 #define OSTREL_SQL_HOST_H
@@ -46,7 +46,7 @@ using ::ostrel_host_vprintf;
 #define fflush ostrel_host_fflush
 #define system ostrel_host_system
 
-/* A database process does not have a gateway's two utilities. */
+/* The gateway's two utilities do not exist in a database process. */
 #define cmsUtl_strcmp ostrel_host_has_no_strcmp
 #define htmlToText ostrel_host_has_no_conversion
 #endif

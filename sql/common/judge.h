@@ -1,5 +1,5 @@
 /*
- * Calling checks with the values that SQL passes. The library's output does not reach a stream, NULL is never
+ * Calls checks with the values that SQL passes. The library's output does not reach a stream, NULL is never
  * passed to the library, and several threads may call checks at the same time.
  */
 #ifndef OSTREL_SQL_JUDGE_H
@@ -18,8 +18,8 @@ typedef enum {
     kCode,    /* no text */
     kLine,    /* the output that the check prints to standard output */
     kAfter,   /* a JSON array with the contents of each argument that the check may write to */
-    kReason,  /* the reason of a refusal as JSON */
-    kSentence /* the reason as a sentence or, if an argument is secret, only lengths */
+    kReason,  /* the reason for a refusal, as JSON */
+    kSentence /* the reason as a sentence or, if an argument is secret, the lengths of the secrets */
 } OstrelWish;
 
 typedef struct {
@@ -60,7 +60,7 @@ extern "C" {
 const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t values, bool is_verdict,
                                        OstrelFault* fault);
 
-/* ostrel_is_callable makes the same tests on a known check. */
+/* ostrel_is_callable performs the same tests on a check that has already been found. */
 bool ostrel_is_callable(const OstrelCheck* check, size_t values, bool is_verdict, OstrelFault* fault);
 
 /*

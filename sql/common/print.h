@@ -1,4 +1,4 @@
-/* Storage for the output of the library's sources. */
+/* Captures the output of the library. */
 #ifndef OSTREL_SQL_PRINT_H
 #define OSTREL_SQL_PRINT_H
 
@@ -9,7 +9,7 @@ typedef struct {
     char* bytes; /* allocated with malloc, or NULL; followed by a NUL byte */
     size_t size;
     size_t room;
-    bool is_lost; /* there was not enough memory for all the output */
+    bool is_lost; /* some output was lost for lack of memory */
 } OstrelPrints;
 
 /* After ostrel_capture, this thread's standard output is stored in prints, or discarded if prints is NULL. */

@@ -1,7 +1,7 @@
 /*
- * The checks as functions of PostgreSQL. docs/sql.md describes these functions.
+ * PostgreSQL functions for the checks. docs/sql.md describes these functions.
  *
- * An error is raised only after the call of the check has returned.
+ * An error is raised only after the check has returned, because raising it does not return to the caller.
  */
 #include "postgres.h"
 
@@ -48,7 +48,7 @@ static Datum judge_one(FunctionCallInfo fcinfo, const OstrelCheck* check)
     Datum ostrel_check_##name(PG_FUNCTION_ARGS) { return judge_one(fcinfo, &ostrel_checks[index]); }
 #include "sql/postgresql/functions.inc"
 
-/* OstrelCall is a call of a named check with a text[] or bytea[] of values. */
+/* OstrelCall is a call of a named check, with the values from a text[] or bytea[]. */
 typedef struct {
     const OstrelCheck* check;
     OstrelText given[kMostArguments];
@@ -72,7 +72,7 @@ static const OstrelCheck* choose(FunctionCallInfo fcinfo, size_t count, bool is_
     return check;
 }
 
-/* prepare returns false if a value is NULL. STRICT does not apply to the elements of an array. */
+/* prepare returns false if a value is NULL, because STRICT covers the array but not its elements. */
 static bool prepare(FunctionCallInfo fcinfo, bool is_verdict, OstrelCall* call)
 {
     ArrayType* array = PG_GETARG_ARRAYTYPE_P(1);

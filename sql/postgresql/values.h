@@ -23,7 +23,7 @@ char* ostrel_told(OstrelAnswer* answer);
 
 /*
  * ostrel_jsonb converts JSON in ASCII to jsonb, and may modify the string. Unless the database uses UTF-8 or
- * Latin-1, it replaces "\u0080" to "\u00FF", which the encoding may not have, with "\\x80" to "\\xFF".
+ * Latin-1, it replaces "\u0080" to "\u00FF", which its encoding might lack, with "\\x80" to "\\xFF".
  */
 Datum ostrel_jsonb(char* json);
 

@@ -1,8 +1,8 @@
 /*
- * The checks as functions of SQLite. docs/sql.md describes these functions.
+ * SQLite functions for the checks. docs/sql.md describes these functions.
  *
  * The functions are deterministic and use only their arguments, so they may be called from CHECK constraints,
- * indexes and schemas of unknown origin.
+ * from indexes, and from untrusted schemas.
  */
 #include <sqlite3ext.h>
 #include <string.h>
@@ -19,7 +19,7 @@ __attribute__((visibility("default"))) int sqlite3_ostrel_init(sqlite3* database
 typedef struct {
     const char* sql_name;
     OstrelWish wish;
-    bool is_verdict; /* whether a check that returns a number is an error */
+    bool is_verdict; /* whether naming a check that returns a number is an error */
     bool is_valid;   /* whether the result is true or false instead of the code */
 } OstrelQuestion;
 
@@ -32,8 +32,8 @@ static const OstrelQuestion kQuestions[] = {
 static const OstrelQuestion kCodeAlone = {"", kCode, false, false};
 
 /*
- * take stores the bytes of a value, followed by a NUL byte. A blob is unchanged, text is in UTF-8, and a
- * number has the form in which SQLite writes it. The caller frees *copy.
+ * take stores the bytes of a value, followed by a NUL byte. A blob is unchanged, text is in UTF-8, and SQLite
+ * converts a number to text. The caller frees *copy.
  */
 static bool take(sqlite3_value* value, int type, OstrelText* text, char** copy)
 {

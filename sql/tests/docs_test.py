@@ -15,7 +15,7 @@ import documents  # noqa: E402  it is in the folder of another test
 import server  # noqa: E402
 
 TEXT = (shared.SOURCE / "docs/sql.md").read_text(encoding="utf-8")
-# These commands have been run before the test.
+# The test skips these commands, because they were run before it started.
 LONG = re.compile(r"scripts/setup |cmake --preset ")
 
 
@@ -38,7 +38,7 @@ class Commands(unittest.TestCase):
         self.addCleanup(tree.remove)
         started = server.Server(tree)
         self.addCleanup(started.stop)
-        # The page's commands install into the copy of the server's tree.
+        # DESTDIR makes the page's commands install into the copy of the server's installation.
         self.environment = {**started.environment(), "DESTDIR": str(tree.folder)}
         for language, _, lines in documents.blocks(TEXT):
             if language == "sql":

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Compares the processor time of a scan with a check to that of the same scan with length(), and with the alternatives
-in PostgreSQL, which are a regular expression and a cast.
+"""Compares the processor time of a scan that calls a check with that of scans that use PostgreSQL's length(), a regular
+expression or a cast instead.
 
 usage: postgresql_speed_test.py [ROWS]
 """
@@ -19,7 +19,7 @@ OCTET = "(25[0-5]|2[0-4][0-9]|1?[0-9]{1,2})"
 ADDRESS = "^%s$" % r"\.".join([OCTET] * 4)
 STATION = "^([0-9A-Fa-f]{2}:){5}[0-9A-Fa-f]{2}$"
 
-# Each case contains a check, the values, and the alternatives.
+# Each case contains a check, an expression that generates values, and the alternatives to the check.
 CASES = (
     ("TcmValidateIPAddress", "concat_ws('.', i % 256, i * 7 % 256, i * 31 % 256, i / 256 % 256)",
      {"~": "v ~ '%s'" % ADDRESS, "inet": "v::inet"}),

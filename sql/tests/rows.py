@@ -1,4 +1,4 @@
-"""Reads the rows of the vectors that SQL can run."""
+"""Reads the vector rows that can be run from SQL."""
 
 import collections
 import pathlib
@@ -7,8 +7,8 @@ import sys
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
 import vectors  # noqa: E402  it is in another folder
 
-# Row is a row for SQL. values contains bytes and numbers in the order in which SQL passes them. after lists the
-# allowed results. reason is None if the row has no reason.
+# Row is a row to run from SQL. values contains bytes and numbers in the order in which SQL passes them. after lists the
+# allowed results of ostrel_after. reason is None if the row has no reason.
 Row = collections.namedtuple("Row", "place check values code out after reason is_verdict")
 
 WRITTEN = ("buffer", "blocks", "integer_out")
@@ -17,7 +17,7 @@ NULL = "an argument is NULL"
 
 
 class Text(bytes):
-    """Text is a value that also stores the pieces it consists of, each with its number of repetitions."""
+    """Text is a value that also stores the pieces from which it was built, each with its number of repetitions."""
     pieces = ()
 
 
@@ -70,7 +70,7 @@ def held(check, row):
 
 
 def rows(checks, not_called):
-    """rows returns the rows that SQL can run, and the number of omitted rows for each reason to omit them."""
+    """rows returns the rows that can be run from SQL, and how many rows were omitted for each reason."""
     by_name = {check["name"]: check for check in checks}
     found, left_out = [], collections.Counter()
     for place, row in vectors.rows():

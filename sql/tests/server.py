@@ -1,5 +1,6 @@
-"""Starts PostgreSQL servers for tests. A server runs as a user other than root, from a copy of its tree with the
-extension, and its socket is in a temporary folder. It ends when the test ends, even if the test is killed."""
+"""Starts PostgreSQL servers for tests. A server runs as a user other than root, from a copy of its installation that
+includes the extension, and its socket is in a temporary folder. It stops when the test ends, even if the test is
+killed."""
 
 import os
 import pathlib
@@ -34,8 +35,8 @@ def as_other(command, *options):
 
 
 class Tree:
-    """Tree is a copy of the server's tree, into which the extension is installed. Only the programs are copied, because
-    they find the other files relative to their own location; the other files are links."""
+    """Tree is a copy of the server's installation, to which the extension is added. Only the programs are real copies,
+    because they look for the other files relative to their own location. The other files are symbolic links."""
 
     def __init__(self, source, build, is_installed=True):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="ostrel-"))
@@ -84,7 +85,7 @@ class Server:
 
     def start(self):
         with open(self.log, "ab") as log:
-            # If this process ends for any reason, the child receives a signal to end immediately.
+            # If this process ends for any reason, the server receives a signal to shut down immediately.
             self.process = subprocess.Popen(
                 as_other([self.tree.binaries / "postgres", "-D", self.data], "--pdeathsig", "QUIT"),
                 cwd=self.folder, stdin=subprocess.DEVNULL, stdout=log, stderr=subprocess.STDOUT)
@@ -102,7 +103,7 @@ class Server:
 
     def stop(self):
         if self.process is not None:
-            self.process.terminate()  # the server waits until its sessions end
+            self.process.terminate()  # the server waits for its sessions to end
             try:
                 self.process.wait(10)
             except subprocess.TimeoutExpired:
@@ -111,7 +112,7 @@ class Server:
             self.process = None
 
     def environment(self):
-        # The tests compare messages in this locale.
+        # The tests expect messages in the C locale.
         return {**os.environ, "PGHOST": str(self.folder), "PGUSER": USER, "LC_ALL": "C", "PGDATABASE": "postgres",
                 "PATH": "%s:%s" % (self.tree.binaries, os.environ["PATH"])}
 

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Compares the processor time of a scan with a check to that of the same scan with length().
+"""Compares the processor time of a scan that calls a check with that of a scan that calls length() instead.
 
 usage: sqlite_speed_test.py [ROWS]
 """

@@ -36,7 +36,7 @@ class Vectors(unittest.TestCase):
         texts = ["line", "after"] + (["reason", "valid"] if row.is_verdict else [])
         given = (row.check, *values)
         sql = "SELECT ostrel_code(%s), %s" % (marks, ", ".join("ostrel_%s(%s)" % (text, marks) for text in texts))
-        # The line is read as a blob, because the output of a check may not be UTF-8.
+        # The line is read as a blob, because the output of a check might not be UTF-8.
         sql = sql.replace("ostrel_line(%s)" % marks, "CAST(ostrel_line(%s) AS BLOB)" % marks)
         code, line, after, *verdict = ask(database, sql, *given * (len(texts) + 1))
         self.assertEqual((row.code, row.out), (code, line or b""))
