@@ -1,5 +1,5 @@
-// Compares the time that verdicts take with the time that validator takes. It includes everything that a page does, so
-// values are passed as strings. Where stated, the time for a refused value includes finding its reason.
+// Compares the time for a verdict with that of the validator package. The time includes everything that a page does, so
+// values are passed as JavaScript strings. The rows labelled "with its reason" also include the time to find the reason.
 //
 //   OSTREL_WEB_BUILD=build/web/web node web/bench.js
 
@@ -12,7 +12,7 @@ const {load} = await import(pathToFileURL(join(build, 'package/index.js')).href)
 const validator = createRequire(join(build, 'node_modules/'))('validator');
 const ostrel = await load();
 
-// Partial values as a user types them, and valid values.
+// Each case contains invalid values, as a user might type them, and valid values.
 const cases = [
   {
     name: 'e-mail',

@@ -1,11 +1,11 @@
-// Shows an excerpt of a value, in which the character at fault is marked.
+// Shows an excerpt of a value in which the offending character is marked.
 
 import {placeOf} from './sentences.js';
 
-const kAround = 16;  // the number of characters that are shown on each side
+const kAround = 16;  // the number of characters shown on each side
 const kHidden = '\u2022';
 
-// excerptOf returns an element that shows the excerpt. For a secret, it shows only the character at fault.
+// excerptOf returns an element that shows the excerpt. If the value is secret, only the offending character is legible.
 export function excerptOf(value, offset, encoding, isSecret) {
   const {character, index} = placeOf(value, offset, encoding);
   const shown = (part) => [...(isSecret ? kHidden.repeat([...part].length) : part)];

@@ -6,5 +6,5 @@ export interface FormOptions {
   sentences?: Language;
 }
 
-/** Judges the fields of a form that name a check while the user types. Returns a function that detaches the checks. */
+/** Judges each field that names a check while the user types. Returns a function that detaches the checks. */
 export function attach(form: HTMLFormElement, ostrel: Ostrel, options?: FormOptions): () => void;

@@ -4,13 +4,13 @@ import {excerptOf} from './excerpt.js';
 import english from './sentences/en.js';
 import {bytesOf, sentence} from './sentences.js';
 
-const kMostWide = 16;  // the maximum number of characters that are listed
+const kMostWide = 16;  // the maximum number of multi-byte characters that are listed
 
 let ids = 0;
 
 const filledIn = (template, values) => template.replace(/\{(\w+)\}/g, (_, name) => values[name]);
 
-// parsed reads data-with, whose items have the form "argument=field" or "argument:constant".
+// parsed parses the data-with attribute, whose items have the form "argument=field" or "argument:constant".
 function parsed(text = '') {
   return new Map(text.split(/\s+/).filter(Boolean).map((item) => {
     const [, name, sign, value] = item.match(/^(\w+)([=:])(.*)$/) ?? [];
@@ -27,7 +27,7 @@ function element(name, className, parent) {
   return made;
 }
 
-// Field is a field that a check judges. Several fields of a form may be arguments of one call.
+// Field is a form field that a check judges. Several fields of a form can be arguments of one call.
 class Field {
   #turn = 0;
   #made = [];
@@ -47,7 +47,7 @@ class Field {
     this.#reason = this.#place('ostrel-reason');
     this.#reason.setAttribute('aria-live', 'polite');
     this.#bytes = this.#place('ostrel-bytes');
-    this.#prepare().catch(() => {});  // without constraints, no keywords are offered
+    this.#prepare().catch(() => {});  // if this fails, no keywords are offered
   }
 
   get #isSecret() {
@@ -73,7 +73,7 @@ class Field {
     try {
       verdict = this.ostrel.judge(this.check.name, ...values);
     } catch (error) {
-      if (error instanceof TypeError) return this.#refuse(this.words.refused);  // not a number
+      if (error instanceof TypeError) return this.#refuse(this.words.refused);  // the value is not a number
       return this.#refuse(error instanceof RangeError ? this.words.cannot_be_stored : this.words.stops);
     }
     if (verdict.valid !== false) return this.#settle();
@@ -185,7 +185,7 @@ class Field {
     this.#showBytes();
   }
 
-  // #otherOf returns the other field to which the reason refers, or undefined if it refers to none.
+  // #otherOf returns the other field to which the reason refers, or undefined if there is none.
   #otherOf({argument, item}) {
     const names = this.with.get(argument)?.fields;
     const other = names && this.#input(names[item] ?? names[0]);
@@ -211,7 +211,7 @@ class Field {
   }
 }
 
-// attach judges the fields of a form that name a check. It returns a function that detaches the checks from the form.
+// attach judges each field of a form that names a check. It returns a function that detaches the checks from the form.
 export function attach(form, ostrel, {sentences = english} = {}) {
   const fields = [];
   for (const input of form.elements) {
@@ -224,7 +224,7 @@ export function attach(form, ostrel, {sentences = english} = {}) {
       of(target).forEach((field) => (isComposing ? field.forget() : field.judge())),
     compositionend: ({target}) => of(target).forEach((field) => field.judge()),
     reset: () => setTimeout(judgeAll),
-    // A script may have changed a field without causing an event.
+    // A script might have changed a field without firing an event.
     submit: (event) => {
       if (event.submitter?.formNoValidate) return;
       judgeAll();

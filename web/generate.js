@@ -1,5 +1,5 @@
-// Generates package.json and the files that depend on the descriptions, which are checks.js, constraints.js, index.d.ts
-// and sentences/en.js.
+// Generates package.json and the files that are derived from the descriptions, which are checks.js, constraints.js,
+// index.d.ts and sentences/en.js.
 //
 //   node generate.js DESCRIBE.WASM CATALOGUE.JSON RESULT_CODE.H PACKAGE.JSON BUILD FOLDER
 //

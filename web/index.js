@@ -13,7 +13,7 @@ const kPage = 0x10000;
 const kSpare = 2048;  // bytes reserved beyond the strings of a call, for blocks and buffers that a check writes to
 const kNothingWritten = Object.freeze({});
 
-// Verdict is the result of a call. Few callers need the printed lines, so they are obtained by a second call.
+// Verdict is the result of a call. Few callers need the printed lines, so they are recorded only by a second call.
 class Verdict {
   #asked;  // the functions print and explain
   #judged;
@@ -57,12 +57,12 @@ class Ostrel {
   #reasons;
   #reasonOf;
   #loadReasons;
-  #judged;  // the data that every call of a check needs, by the check's name
+  #judged;  // the data that every call of a check needs, keyed by the check's name
   // These functions are passed to each verdict.
   #asked = {print: (...call) => this.#print(...call), explain: (...call) => this.#explain(...call)};
   #isBusy = false;
   #message;
-  #printed = null;  // the printed messages by stream number, while they are recorded
+  #printed = null;  // while messages are recorded, those printed so far, keyed by stream number
 
   constructor(module, options) {
     const {encoding, isLatin1, isLong64, channels, compare, convert, loadReasons} = options;
@@ -103,7 +103,7 @@ class Ostrel {
     if (judged === undefined) throw new RangeError(`there is no check ${name}`);
     const {check} = judged;
     let values = given.length === check.arguments.length ? given : complete(check, given);
-    // Arrays are copied, because the caller may change them later.
+    // Arrays are copied, because the caller might change them later.
     if (check.writes) values = values.map((value) => (Array.isArray(value) ? [...value] : value));
     const code = judged.takesText && isText(values[0]) ? this.#callWithText(judged, values)
                                                        : this.#call(judged, values);
@@ -136,7 +136,7 @@ class Ostrel {
     this.#message = '';
   }
 
-  // #callWithText does the same as #call in the most common case, a single string.
+  // #callWithText replaces #call in the most common case, a single string.
   #callWithText(judged, values) {
     const text = values[0];
     put(this.#room(kSpare + most(text, this.#isLatin1)), this.#base, text, this.#isLatin1);
@@ -223,7 +223,7 @@ class Ostrel {
     return after;
   }
 
-  // #explain loads the descriptions when it is first called, and tries again if that has failed.
+  // #explain loads the descriptions when it is first called. If loading fails, the next call tries again.
   async #explain(judged, values) {
     if (this.#reasonOf) return this.#reasonOf(judged, values);
     try {

@@ -1,4 +1,4 @@
-// Compiles a WebAssembly module, which the caller passes or which is fetched from the folder of the package.
+// Compiles a WebAssembly module, which is either passed by the caller or fetched from the package's folder.
 
 export async function compiled(given, url) {
   if (given instanceof WebAssembly.Module) return given;

@@ -1,4 +1,4 @@
-// Uses the module of reasons, which finds the reason for a refusal from the description of the check.
+// Uses the reasons module, which derives the reason for a refusal from the check's description.
 
 import {most, put, take} from './text.js';
 
@@ -9,7 +9,7 @@ const kUnsigned = 3;
 const kBlocks = 4;
 const kHead = 5;  // the size of a tag and a number, in bytes
 
-// The positions of the numbers of a reason (reasons/told.h). A string has two numbers, its address and its size.
+// The positions of a reason's numbers (reasons/told.h). A string takes up two numbers, its address and its size.
 const kId = 0;
 const kPart = 2;
 const kConversion = 4;
@@ -23,7 +23,7 @@ const kAllowed = 16;
 const kReadAs = 19;
 const kSentence = 22;
 
-// The kinds of a datum. Two numbers follow the kind.
+// The kinds of datum. Each kind is followed by two numbers.
 const kNothing = 0;
 const kNumber = 1;
 const kDatumText = 2;
@@ -101,7 +101,7 @@ export class Memory {
     return end;
   }
 
-  // numbers returns the memory as numbers. The result is valid until the next call is written.
+  // numbers returns the memory as an array of 32-bit numbers, which is valid until the next call is written.
   numbers() {
     this.#look();
     return this.#numbers;
@@ -127,7 +127,7 @@ const whole = (low, high) => (low >> 31 === high ? low : high * 2 ** 32 + (low >
 class Reasons {
   #exports;
   #memory;
-  #told;  // the index of the first number of a reason
+  #told;  // the index of the first number of the reason
   #keptData = new Map();
 
   constructor(module, {isLatin1, isLong64, channels}) {

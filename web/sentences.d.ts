@@ -12,12 +12,12 @@ export interface SentenceOptions {
 /** Returns a sentence that explains why a value was refused. */
 export function sentence(reason: Reason, language: Language, options?: SentenceOptions): string;
 
-/** Returns the same without the initial capital, the full stop and the default subject. */
+/** Returns the same sentence without the initial capital, the full stop and the default subject. */
 export function clause(reason: Reason, language: Language, options?: SentenceOptions): string;
 
-/** Returns the number of bytes in which the gateway stores a string. */
+/** Returns the number of bytes that a string occupies on the gateway. */
 export function bytesOf(text: string, encoding?: 'utf-8' | 'latin1'): number;
 
-/** Returns the character that contains the byte, its number (counted from 0), and its index in the string. */
+/** Returns the character that contains the byte at an offset, its number (from 0), and its index in the string. */
 export function placeOf(text: string, offset: number, encoding?: 'utf-8' | 'latin1'):
     {character: string; number: number; index: number};

@@ -1,7 +1,7 @@
 // Describes a reason to the user as a sentence, in the language of a module such as sentences/en.js or sentences/de.js.
 
-const kMostWords = 40;  // a longer list is too long to read
-const kLongest = 64;    // the maximum number of characters of a value that are shown
+const kMostWords = 40;  // the maximum length of a list that is shown in full
+const kLongest = 64;    // the maximum number of characters shown of a value
 const kCategories = ['zero', 'one', 'two', 'few', 'many', 'other'];
 
 const filledIn = (template, value) => template.replace(/\{([^}]*)\}/g, (_, name) => value(name));
@@ -24,7 +24,7 @@ function countOf(datum) {
   return datum?.members?.length ?? (Array.isArray(datum) ? datum.length : 1);
 }
 
-// bytesOf returns the number of bytes in which the gateway stores a string.
+// bytesOf returns the number of bytes that a string occupies on the gateway.
 export function bytesOf(text, encoding = 'utf-8') {
   let bytes = 0;
   for (const character of text) {
@@ -51,8 +51,8 @@ export function placeOf(text, offset, encoding) {
   return {character: '', index, number};
 }
 
-// Teller describes one reason. In the strings of a reason, each character is a byte. They are decoded if an encoding is
-// given.
+// Teller describes one reason. Each character in a reason's strings stands for one byte. The strings are decoded if an
+// encoding is given.
 class Teller {
   constructor(reason, language, {subject = '', text, encoding}) {
     Object.assign(this, {reason, language, subject, encoding});
@@ -85,7 +85,7 @@ class Teller {
     return inHex(character.codePointAt(0));
   }
 
-  // byte returns the character at fault, or only the byte at fault if the value is unknown.
+  // byte returns the offending character, or only the offending byte if the value is unknown.
   byte() {
     const {found} = this.reason;
     if (this.place?.character) return this.shown(this.place.character, false);

@@ -36,8 +36,8 @@ export function put(bytes, at, text, isLatin1) {
 export const most = (text, isLatin1) => text.length * (isLatin1 ? 1 : 3) + 1;
 
 const decoder = new TextDecoder('utf-8', {ignoreBOM: true});
-const kShort = 64;      // in bytes; shorter strings are decoded faster without the decoder
-const kAtOnce = 0x1000;  // the number of bytes that are passed as arguments of one call
+const kShort = 64;      // in bytes; strings up to this size are decoded faster without the decoder
+const kAtOnce = 0x1000;  // the number of bytes that are passed as arguments to one call
 
 // take decodes length bytes.
 export function take(bytes, at, length, isLatin1) {

@@ -2,8 +2,8 @@
  * Replacements for C library functions. This header is included before each source file of the library, so
  * that print.c receives the library's output.
  *
- * A database process can have several threads, and the library must not write to or flush its standard output.
- * With these replacements, the library uses no stream and runs no shell.
+ * A database process can have several threads, and the library must not write to or flush its standard
+ * output. With these replacements, the library uses no stream and runs no shell.
  */
 #ifndef OSTREL_SQL_HOST_H
 #define OSTREL_SQL_HOST_H

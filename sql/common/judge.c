@@ -131,8 +131,8 @@ static bool load_value(const OstrelCheck* check, const OstrelArgument* argument,
     return false;
 }
 
-/* load_buffer allocates the buffer for an argument that the check writes to, and copies the values into it. It
-   returns false if it runs out of memory. */
+/* load_buffer allocates the buffer for an argument that the check writes to, and copies the values into it.
+   It returns false if it runs out of memory. */
 static bool load_buffer(const OstrelCheck* check, const OstrelText* given, const OstrelText* own,
                         OstrelSlot* slots, unsigned i)
 {

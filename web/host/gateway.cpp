@@ -26,7 +26,7 @@ constexpr int kNoChannel = -1;
 
 extern "C" {
 
-// ostrel_configure sets the properties of the gateway, and which of the two utilities the page supplies.
+// ostrel_configure sets the gateway's properties, and records which of the two utilities the page supplies.
 void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts);
 
 void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts)
@@ -36,7 +36,7 @@ void ostrel_configure(bool is_long_of_64_bits, bool compares, bool converts)
     has_convert = converts;
 }
 
-// A number that does not fit in a long saturates, and the result is its lowest 32 bits.
+// A number that does not fit in a long saturates. The result is the low 32 bits of the long.
 int atoi(const char* text)
 {
     while (*text == ' ' || (*text >= '\t' && *text <= '\r')) ++text;

@@ -13,7 +13,7 @@ OSTREL_IMPORT(write) void page_write(int stream, const char* text, std::size_t l
 
 OSTREL_IMPORT(flush) void page_flush();
 
-// The next two functions throw.
+// The next two functions throw a JavaScript error.
 [[noreturn]] OSTREL_IMPORT(fail) void page_fail(const char* condition, const char* module, int line,
                                                 const char* function);
 [[noreturn]] OSTREL_IMPORT(never_return) void page_never_return();

@@ -1,5 +1,5 @@
-// Wrappers for the C library's string functions, which end the call if an argument is NULL. In WebAssembly,
-// address 0 can be read, so NULL would otherwise be judged as an empty value.
+// Wraps the C library's string functions, so that a NULL argument ends the call. In WebAssembly, address 0
+// can be read, so NULL would otherwise be judged as an empty value.
 
 #include <cstddef>
 

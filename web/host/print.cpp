@@ -67,7 +67,7 @@ int vprintf(const char* format, va_list arguments)
     return 0;
 }
 
-// fprintf is only called with standard error.
+// fprintf is called only for standard error.
 int fprintf(FILE* /*stream*/, const char* format, ...)
 {
     va_list arguments;

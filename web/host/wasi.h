@@ -19,7 +19,7 @@ namespace std {
 using ::system;
 }
 
-// The library's only asm statement is in its endless loop. In a page, it throws an error instead.
+// The library's only asm statement is in its endless loop. This macro makes the loop throw in a page.
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wkeyword-macro"
 #define asm                 \

@@ -19,7 +19,7 @@ class CallReader {
  public:
     explicit CallReader(const char* begin) : next_(begin) {}
 
-    // read sets a value. A string reuses the memory of the value's previous string.
+    // read reads one value. A string reuses the memory of the value's previous string.
     void read(Value& value)
     {
         const char tag = *next_++;

@@ -1,7 +1,7 @@
 // Reads a call that the page has written into the memory of this module.
 //
-// Each argument of the check is stored as a tag of one byte and, except for NULL, a number of four bytes. This
-// number is the argument itself, the size of the string that follows, or the count of blocks that follow,
+// Each argument of the check is stored as a one-byte tag and, except for NULL, a four-byte number. This
+// number is the argument itself, the size of the string that follows, or the number of blocks that follow,
 // each of which consists of a size and a string.
 #ifndef OSTREL_WEB_REASONS_CALL_H
 #define OSTREL_WEB_REASONS_CALL_H

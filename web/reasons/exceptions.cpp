@@ -8,7 +8,7 @@ extern "C" {
 void* __cxa_allocate_exception(std::size_t /*size*/) { __builtin_trap(); }
 void __cxa_throw(void* /*exception*/, void* /*type*/, void (* /*destroy*/)(void*)) { __builtin_trap(); }
 
-// The C++ library's versions of the next two functions would link printf.
+// The C++ library's versions of the next two functions would pull in printf.
 [[noreturn]] void abort_message(const char* format, ...);
 [[noreturn]] void abort_message(const char* /*format*/, ...) { __builtin_trap(); }
 }

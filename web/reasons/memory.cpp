@@ -7,8 +7,8 @@
 
 namespace {
 
-// The region is large enough for the descriptions. It costs nothing, because the module needs this memory
-// later.
+// The region is large enough for the descriptions. It costs nothing, because the module later uses the same
+// memory for other data.
 constexpr std::size_t kRegion = std::size_t{3} << 20U;
 constexpr std::size_t kAlignment = alignof(std::max_align_t);
 
@@ -53,7 +53,7 @@ void end_building() { next = nullptr; }
 void clear_building()
 {
     std::memset(region, 0, kRegion);
-    asm volatile("" : : "r"(region) : "memory");  // otherwise the compiler would remove the clearing
+    asm volatile("" : : "r"(region) : "memory");  // otherwise the compiler would remove the memset
     std::free(region);
 }
 

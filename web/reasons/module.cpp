@@ -1,4 +1,4 @@
-// The interface of the module of reasons.
+// The interface of the reasons module.
 
 #include <cstddef>
 #include <string>
@@ -68,7 +68,8 @@ OSTREL_EXPORT(reserve) char* ostrel_reserve(std::size_t size) { return ostrel::w
 // ostrel_told returns the address at which explain stores the reason.
 OSTREL_EXPORT(told) const Told* ostrel_told() { return &told; }
 
-// ostrel_explain stores the reason why the written call is refused. It returns false if it is not refused.
+// ostrel_explain stores the reason why the written call is refused. It returns false if the call is not
+// refused.
 OSTREL_EXPORT(explain) bool ostrel_explain(std::size_t check)
 {
     called = &descriptions()[check];

@@ -21,7 +21,7 @@ void append_number(std::string& bytes, std::uint64_t number)
     bytes += static_cast<char>(number);
 }
 
-// zigzag encodes a number so that small numbers are short, whether they are positive or negative.
+// zigzag encodes numbers near zero, both positive and negative, as small unsigned numbers.
 std::uint64_t zigzag(std::int64_t number)
 {
     return (static_cast<std::uint64_t>(number) << 1U) ^ static_cast<std::uint64_t>(number >> 63);
@@ -142,7 +142,7 @@ class Packer {
 Pack pack(const std::vector<rules::Check>& checks)
 {
     Packer packer(checks);
-    // fields.h takes references that are not const, because unpacking uses it too. Packing changes nothing.
+    // fields.h takes non-const references, because unpacking uses it too. Packing changes nothing.
     for (const rules::Check& check : checks) packer.add(const_cast<rules::Check&>(check));
     return packer.take();
 }

@@ -14,7 +14,8 @@ namespace {
 
 using rules::Set;
 
-// kMostSets exceeds the number of sets in the descriptions, so only sets from callers are converted again.
+// kMostSets exceeds the number of sets in the descriptions, so only sets that callers pass are converted
+// again.
 constexpr std::size_t kMostSets = 64;
 
 struct KnownSet {
@@ -35,7 +36,7 @@ std::int32_t number_of(const std::optional<std::size_t>& number)
     return number ? static_cast<std::int32_t>(*number) : Told::kNone;
 }
 
-// at stores an address, which has 32 bits in WebAssembly.
+// at stores an address, which is 32 bits wide in WebAssembly.
 Told::Datum at(Told::Datum::Kind kind, const void* begin, std::size_t count)
 {
     return {kind, static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(begin)),

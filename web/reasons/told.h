@@ -1,4 +1,4 @@
-// A reason in the binary form in which the page reads it.
+// A reason in the binary form that the page reads.
 #ifndef OSTREL_WEB_REASONS_TOLD_H
 #define OSTREL_WEB_REASONS_TOLD_H
 

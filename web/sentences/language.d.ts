@@ -18,9 +18,9 @@ export interface Language {
   readonly wide: string;
   readonly hidden_wide: string;
   readonly one_wide: string;
-  /** The sentences by the id of the reason. */
+  /** The sentences, keyed by the id of the reason. */
   readonly sentences: Readonly<Record<string, string>>;
-  /** The translations of phrases by the English phrase. */
+  /** The translations of phrases, keyed by the English phrase. */
   readonly phrases: Readonly<Record<string, string>>;
 }
 

@@ -1,4 +1,4 @@
-// Starts the specimen portal, in whose forms the fields are judged while the user types.
+// Starts the specimen portal, whose form fields are judged while the user types.
 
 import {load} from './ostrel/index.js';
 import {attach} from './ostrel/form.js';
@@ -7,7 +7,7 @@ import german from './ostrel/sentences/de.js';
 
 const kChannels = [1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 36, 40, 44, 48];
 
-// chosen reads the properties of the gateway and the language from the query: ?encoding=latin1&long=64&lang=de
+// chosen reads the gateway's properties and the language from a query such as ?encoding=latin1&long=64&lang=de.
 function chosen() {
   const given = new URLSearchParams(location.search);
   return {

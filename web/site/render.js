@@ -4,13 +4,13 @@ export const escaped = (text) => String(text).replace(/[&<>"]/g, (c) => `&#${c.c
 const code = (text) => `<code>${escaped(text)}</code>`;
 const codes = (texts) => `<ul class="words">${texts.map((text) => `<li>${code(text === '' ? '""' : text)}</li>`).join('')}</ul>`;
 
-// visible shows a character, which stands for a byte. An invisible character is shown as the number of its byte.
+// visible returns a visible form of a character, which stands for a byte. An invisible byte is shown in hexadecimal.
 function visible(c) {
   if (c === ' ') return 'blank';
   return c > ' ' && c <= '~' ? c : `\\x${c.charCodeAt(0).toString(16).toUpperCase().padStart(2, '0')}`;
 }
 
-// runs describes a set of characters by the ends of its runs, for example "A to Z".
+// runs describes a set of characters as ranges, for example "A to Z".
 export function runs(members) {
   const result = [];
   for (let i = 0; i < members.length; ++i) {

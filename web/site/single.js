@@ -1,4 +1,4 @@
-// Starts the single-file site. The page contains the modules as text, because a page opened from a disk cannot fetch
+// Starts the single-file site. The page contains the modules as text, because a page opened from disk cannot fetch
 // them.
 
 import {load} from './ostrel/index.js';

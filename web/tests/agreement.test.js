@@ -46,7 +46,7 @@ test('the fields of the portal judge as ostrel-check does', async (t) => {
   const told = {accepted: 0, refused: 0};
   for (const name of names) {
     const values = Array.from({length: kValues}, value);
-    // Each value is judged as after a keystroke. The call is recorded with the arguments that other fields contain.
+    // Each value is judged as if it had just been typed. The recorded call includes the arguments from other fields.
     const judged = await page.evaluate(async ([field, all]) => {
       const input = document.querySelector(`[name=${field}]`);
       const {checks} = await import('/ostrel/checks.js');

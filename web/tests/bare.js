@@ -1,4 +1,4 @@
-// Calls the module of rules without the wrapper, so that a test can place each value and observe every effect.
+// Calls the rules module without the wrapper, so that a test can place each value in memory and observe every effect.
 
 import {complete, kUnwritten} from '../arguments.js';
 
@@ -93,8 +93,8 @@ export class Bare {
   }
 }
 
-// edges lists the arguments that can be placed at the end of the memory. If there are none, it returns -1, so that the
-// call is made once.
+// edges lists the arguments that can be placed at the end of the memory. If there are none, it lists only -1, so that
+// the call is made once.
 export function edges(check, given) {
   const values = complete(check, given);
   const found = check.arguments.flatMap((argument, i) => (isPointer(argument) && values[i] !== null ? [i] : []));

@@ -1,4 +1,4 @@
-// Uses the descriptions to find details of a call that the module of reasons does not return, for the tests.
+// For the tests, derives details of a call from the descriptions that the reasons module does not return.
 
 #include "rules/evaluate.h"
 #include "rules/rules.h"
@@ -11,7 +11,7 @@ __attribute__((export_name("reserve"))) char* ostrel_reserve(std::size_t size)
     return ostrel::web::room_for_call(size);
 }
 
-// ostrel_room returns the size that a buffer must have, or -1 if it needs only room for its contents.
+// ostrel_room returns the required size of a buffer, or -1 if the buffer only has to hold its contents.
 __attribute__((export_name("room"))) int ostrel_room(std::size_t check, std::size_t argument)
 {
     const auto& described = ostrel::rules::checks().at(check);

@@ -1,4 +1,4 @@
-// Uses the descriptions to find details of a call that the module of reasons does not return.
+// Derives details of a call from the descriptions that the reasons module does not return.
 
 import {Memory} from '../reasons.js';
 import {checks, moduleOf} from './files.js';
@@ -10,8 +10,8 @@ exports._initialize();
 const memory = new Memory(exports, true);
 const stackPointer = exports.__stack_pointer.value;
 
-// answered returns the result of calling an export. It returns null if the export traps, because the description reads
-// NULL, fails an assertion or does not return.
+// answered returns the result of calling an export, or null if the export traps. It traps if the described call would
+// read NULL, fail an assertion or not return.
 function answered(call) {
   try {
     return call();
@@ -22,7 +22,7 @@ function answered(call) {
   }
 }
 
-// roomOf returns the size that a buffer must have, or -1 if it needs only room for its contents.
+// roomOf returns the required size of a buffer, or -1 if the buffer only has to hold its contents.
 export function roomOf(check, argument, values) {
   memory.write(check, values);
   return answered(() => exports.room(checks.indexOf(check), argument)) ?? -1;

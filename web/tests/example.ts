@@ -34,7 +34,7 @@ ostrel.judge('Param_check_string_len', 'x', 0, 5);
 // @ts-expect-error lengths are numbers
 ostrel.judge('Param_check_string_len', 'x', '0', 5);
 
-// Arguments that are only written may be omitted.
+// Write-only arguments may be omitted.
 const account: number | null = ostrel.judge('TcmValidatePPPUsername', 'x').after.account_type;
 const offset: string | null = ostrel.judge('HNAPCORE_check_timezone', 'UTC', '').after.offset_out;
 const keys: readonly string[] = ostrel.judge('WLAN_check_wepkeys', ['', '', '', '']).after.keys;

@@ -1,4 +1,4 @@
-// Tests that each call judges its own value, that no value is truncated, and that an error has no later effect.
+// Tests that each call judges its own value, that no value is truncated, and that an error does not affect later calls.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';
@@ -23,7 +23,7 @@ test('a value that makes the memory grow is the one that is judged', async () =>
   }
 });
 
-// loaded loads the package, and also returns the exports of the module of rules.
+// loaded loads the package, and also returns the exports of the rules module.
 async function loaded(options) {
   let exports;
   const {Instance} = WebAssembly;

@@ -2,8 +2,8 @@
 
 import {spawnSync} from 'node:child_process';
 
-// judgedNatively judges calls, in whose strings each character is a byte, as in the rows of the vectors. The wireless
-// driver lists the given channels.
+// judgedNatively judges calls as if the wireless driver listed the given channels. As in the vectors, each character of
+// a string stands for one byte.
 export function judgedNatively(calls, channels = []) {
   const input = calls.map((call) => JSON.stringify(call)).join('\n');
   const words = ['batch', '--json', '--encoding', 'latin-1', '--jobs', '2', '--channels', channels.join(' ')];

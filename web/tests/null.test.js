@@ -39,7 +39,7 @@ function watched() {
         },
         alignfault() {},
         emscripten_get_sbrk_ptr: () => {
-          // kEndOfMemory is so low an address that no other data is stored there.
+          // No other data is stored at an address as low as kEndOfMemory.
           new DataView(bare.exports.memory.buffer).setInt32(kEndOfMemory, 0x7fffffff, true);
           return kEndOfMemory;
         },
@@ -63,7 +63,7 @@ function outcomeOf(bare, check, values) {
 test('each NULL answers as described', async (t) => {
   const bare = watched();
   const ostrel = await load({encoding: 'latin1'});
-  const seen = new Map();  // by check and argument, whether the description states the result
+  const seen = new Map();  // for each check and argument, whether the description defines the results
   let calls = 0;
   for (const row of rows) {
     const check = checkOf(row.check);

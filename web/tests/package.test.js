@@ -1,4 +1,4 @@
-// Tests the package as a portal installs it, with its files, their sizes, its types and the example in its README.
+// Tests the installed package, including the sizes of its files, its types and the example in its README.
 
 import assert from 'node:assert/strict';
 import {execFileSync} from 'node:child_process';

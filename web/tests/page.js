@@ -1,4 +1,4 @@
-// Starts a browser and a server of the site for tests. Pages may send requests only to this server.
+// Starts a browser and a server for the site, for use in tests. Pages may send requests only to this server.
 
 import assert from 'node:assert/strict';
 import {createReadStream, existsSync} from 'node:fs';
@@ -17,7 +17,7 @@ export const kPolicy = "default-src 'none'; script-src 'self' 'wasm-unsafe-eval'
   "style-src 'self'; base-uri 'none'; form-action 'none'";
 export const site = join(build, 'site');
 
-// serve delivers the site and the pages of a test with a content security policy.
+// serve serves the site and a test's own pages with a content security policy.
 export async function serve(t, {policy = kPolicy, pages = {}} = {}) {
   const server = createServer((request, response) => {
     const name = normalize(decodeURIComponent(new URL(request.url, 'http://x').pathname));

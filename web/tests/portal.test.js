@@ -1,4 +1,4 @@
-// Tests the page of the specimen portal for its content security policy, the cost of a keystroke, and accessibility.
+// Tests the specimen portal's content security policy, its processing time per keystroke, and its accessibility.
 
 import assert from 'node:assert/strict';
 import {readFileSync} from 'node:fs';

@@ -1,4 +1,4 @@
-// Tests that the module of reasons and ostrel-check agree on every row.
+// Tests that the reasons module and ostrel-check agree on every row.
 
 import assert from 'node:assert/strict';
 import test from 'node:test';
@@ -21,7 +21,7 @@ test('reasons, long 64', async (t) => {
   t.diagnostic(`${refused.length} reasons of ${rows.length} rows`);
 });
 
-// ostrel-check reads numbers with this machine's long. Rows for which its size matters are marked.
+// ostrel-check reads numbers with this machine's long. Rows whose result depends on the size of a long are marked.
 test('reasons, long 32', async (t) => {
   const ostrel = await load({encoding: 'latin1', long: 32});
   let asNative = 0;

@@ -21,7 +21,7 @@ for (const row of rows) {
   if (reason) refused.push({row, reason});
 }
 
-// A sentence may contain {character} in place of {position}. The subject is not compared, because only some languages
+// A sentence may contain {character} instead of {position}. The subject is not compared, because only some languages
 // name it.
 const kSame = {character: 'position'};
 const parametersOf = (text) => [...new Set([...text.matchAll(/\{(\w+)/g)].map(([, name]) => kSame[name] ?? name))]
@@ -41,7 +41,7 @@ test('no id lacks a sentence or a parameter', () => {
   }
 });
 
-// A sentence can end with the limit from another sentence, which is its part from the ";" onwards.
+// A sentence can end with the limit from another sentence, namely the part of that sentence from the ";" onwards.
 test('a limit can be told of a number that is too large', () => {
   for (const {reason} of refused.filter(({reason: {limit}}) => limit)) {
     assert.match(german.sentences[reason.limit], /;/, reason.limit);

@@ -1,5 +1,5 @@
-// Tests that the site contains every check, and that checks can be found and tried on a page from a server and on one
-// from a disk. It also takes screenshots.
+// Tests that the site contains every check, and that checks can be found and tried, both on a served page and on one
+// opened from disk. It also takes screenshots.
 
 import assert from 'node:assert/strict';
 import {mkdirSync, readFileSync} from 'node:fs';

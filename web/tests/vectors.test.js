@@ -1,5 +1,5 @@
-// Judges every row of the vectors with the module of rules, where each value is at the end of its memory, and with the
-// wrapper in Node and in a browser.
+// Judges every row of the vectors with the rules module, placing each value at the end of memory, and with the wrapper,
+// both in Node and in a browser.
 
 import assert from 'node:assert/strict';
 import {readFileSync} from 'node:fs';

@@ -4,7 +4,7 @@ import {complete, kUnwritten} from '../arguments.js';
 
 const kWritten = ['buffer', 'blocks', 'integer_out'];
 
-// held returns the contents that the writable arguments have before the call.
+// held returns the contents of the writable arguments before the call.
 const held = (check, values) => complete(check, values).filter((_, i) => kWritten.includes(check.arguments[i].kind))
   .map((value) => (value === kUnwritten ? null : value));
 
