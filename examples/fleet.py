@@ -1,13 +1,13 @@
 #!/usr/bin/python3
 """Generates the saved configurations of a fleet of gateways for ostrel-check batch. The same values are written in four
-forms. Two of them, CSV and lines of JSON, name a check for each value. The other two are for the map of TR-098 and
+forms. Two of them, CSV and lines of JSON, name a check for each value. The other two are for the TR-098 map and
 name no checks: a CSV dump with a row for each value, and nested JSON with an object for each gateway.
 
 usage: fleet.py [--rows N] [--seed N] [--refused SHARE] FOLDER
 
 The files are fleet.csv, fleet.ndjson, fleet-dump.csv and fleet.json in FOLDER. Each gateway has 20 values, in the same
 order in each file, and its name is the id of each value. --refused is the share of values that are refused (0.1), for
-reasons that support desks often see. The same seed generates the same files.
+reasons that are common in practice. The same seed generates the same files.
 
   examples/fleet.py --rows 2000 /tmp
   ostrel-check batch --summary-only /tmp/fleet.ndjson
@@ -58,7 +58,7 @@ def key(dice):
 
 
 # Each row contains a path below InternetGatewayDevice, a check, a generator of accepted values, and refused values. The
-# parameters are in the order of the tree, so those of one folder are adjacent.
+# parameters are in the order of the data model, so those of one folder are adjacent.
 PARAMETERS = [
     ("ManagementServer.PeriodicInformInterval", "MGTSERVER_check_periodic_inform_interval", numbers(60, 86400),
      ["0", "", "-60"]),
@@ -144,7 +144,7 @@ def write(folder, rows, seed, refused):
         as_rows.write("id,parameter,check,value\r\n")
         as_dump.write("id,parameter,value\r\n")
         as_tree.write("[\n")
-        block = 2048  # gateways that are generated at a time
+        block = 2048  # the number of gateways that are generated at a time
         for begin in range(0, gateways, block):
             names = [f"gateway-{number:07}" for number in range(begin, min(begin + block, gateways))]
             columns = [dice.choices(values, weights, k=len(names)) for values, weights in pools]

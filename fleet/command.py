@@ -84,8 +84,8 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
 
 
 def require_options(program: str, manifest: Manifest) -> None:
-    """require_options runs the program without cases, so that invalid options are reported only once and not for each
-    part."""
+    """require_options runs the program without cases, so that invalid options are reported once rather than for
+    each part."""
     said = ostrel_program.output_of(program, "batch", "--stream", "--exit-zero", "--summary", "json", *manifest.words())
     if said:
         raise Refused(f"{shlex.join(manifest.options)}: a file is among the options of ostrel-check")
@@ -106,7 +106,7 @@ def manifest_of(given: argparse.Namespace, options: Sequence[str]) -> Manifest:
 
 
 class Run:
-    """Run is one invocation of the runner on the folder of a run."""
+    """Run is one invocation of the runner. A run may take several invocations, all with the same folder."""
 
     def __init__(self, given: argparse.Namespace, manifest: Manifest) -> None:
         self._given, self._manifest = given, manifest

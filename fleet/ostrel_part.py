@@ -36,11 +36,11 @@ class Job:
 @dataclasses.dataclass(frozen=True)
 class Part:
     """Part is a file, or a block of its lines. The state is None if the file could not be examined when the run was
-    planned; a part without an end extends to the end of its file."""
+    planned. A part whose end is None extends to the end of its file."""
 
     name: str
     file: str
-    state: tuple[int, int] | None  # bytes, and nanoseconds of the last change
+    state: tuple[int, int] | None  # the size in bytes, and the time of the last change in nanoseconds
     format: str | None = None
     begin: int = 0
     end: int | None = None
@@ -174,7 +174,7 @@ def _send(part: Part, source: int, pipe: int) -> None:
 
 def _end_of(part: Part, source: BinaryIO, out: BinaryIO) -> tuple[str, str]:
     """_end_of returns a definite and a possible problem at the end of a file. A last line without a line end was cut
-    off if its record is malformed; otherwise it may have been cut off."""
+    off if its record is malformed; otherwise it might have been cut off."""
     size = os.fstat(source.fileno()).st_size
     last = os.pread(source.fileno(), 1, size - 1) if size > 0 and part.end in (None, size) else b"\n"
     if last == b"\n":

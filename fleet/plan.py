@@ -1,4 +1,4 @@
-"""Manages the folder of a run, with its plan, its finished parts, and the files that an earlier run left behind."""
+"""Plans a run and manages its folder, including finished parts and files that an earlier invocation left behind."""
 
 import dataclasses
 import fcntl

@@ -8,12 +8,13 @@ _SECONDS_BETWEEN = 0.25
 
 
 class Failed(Exception):
-    """Failed is raised if nothing more can be judged. The message states the cause. Once it is corrected, --resume
-    continues the run."""
+    """Failed is raised if nothing more can be judged. The message gives the cause. Once the cause has been removed,
+    --resume continues the run."""
 
 
 class Progress:
-    """Progress shows its line and the messages of mention only on a terminal. The messages of say are always shown."""
+    """Progress shows its line, and the messages passed to mention, only on a terminal. The messages passed to say are
+    always shown."""
 
     def __init__(self, parts: int, size: int, stream: TextIO = sys.stderr) -> None:
         self._parts, self._size = parts, size

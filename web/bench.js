@@ -1,5 +1,5 @@
 // Compares the time for a verdict with that of the validator package. The time includes everything that a page does, so
-// values are passed as JavaScript strings. The rows labelled "with its reason" also include the time to find the reason.
+// values are passed as JavaScript strings. Rows labelled "with its reason" also include the time to find the reason.
 //
 //   OSTREL_WEB_BUILD=build/web/web node web/bench.js
 

@@ -15,8 +15,7 @@
 #include <unistd.h>
 
 #define LONGEST_VALUE 255
-/* HNAPCORE_check_timezone writes at most 7 bytes, or the part after "UTC". The other checks do not write
-   more. */
+/* HNAPCORE_check_timezone writes at most 7 bytes, or the part after "UTC". No other check writes more. */
 #define ROOM (LONGEST_VALUE + 7)
 
 struct setting {
@@ -79,7 +78,7 @@ static void take_the_streams(void)
     if (dup2(fileno(file), STDOUT_FILENO) < 0 || dup2(fileno(file), STDERR_FILENO) < 0) give_up("configd");
 }
 
-/* print_escaped escapes the control bytes in a value, which are harmful in a log or on a terminal. */
+/* print_escaped escapes the control bytes in a value, which could do harm in a log or on a terminal. */
 static void print_escaped(FILE* stream, const char* bytes, size_t size)
 {
     size_t i;
@@ -95,7 +94,7 @@ static void log_report(const struct setting* setting, int code)
 {
     char report[1024];
     ssize_t size;
-    fflush(stdout); /* some primitives print without a flush */
+    fflush(stdout); /* some primitives print without flushing */
     size = pread(STDOUT_FILENO, report, sizeof report, 0);
     if (ftruncate(STDOUT_FILENO, 0) != 0 || lseek(STDOUT_FILENO, 0, SEEK_SET) != 0) give_up("configd");
     if (code == OSTREL_VALID) return;

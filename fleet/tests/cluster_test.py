@@ -1,4 +1,4 @@
-"""Tests runs on a separate scheduler and workers, which die, are missing, or have another version of the program.
+"""Tests runs on a separate scheduler, with workers that die, are missing, or have another version of the program.
 
 usage: cluster_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -1,4 +1,4 @@
-"""Runs the commands in docs/fleets.md as they are written there.
+"""Runs the commands in docs/fleets.md exactly as they are written there.
 
 usage: document_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -1,5 +1,4 @@
-"""Tests runs that use only this machine. Their results equal those of a single batch, even after faults and
-interruptions.
+"""Tests that runs on this machine produce the same results as a single batch, even after faults and interruptions.
 
 usage: local_test.py OSTREL_CHECK SOURCE_DIR
 """

@@ -17,7 +17,7 @@ RUNNER = SOURCE / "fleet" / "ostrel-fleet"
 PATH = f"{PROGRAM.parent}:/usr/bin:/bin"
 ENVIRONMENT = {**os.environ, "PATH": PATH, "PYTHONDONTWRITEBYTECODE": "1"}
 
-# A program that delays reading a part, so that something can happen to it in the meantime.
+# A program that delays reading a part, so that a test can interfere in the meantime.
 SLOW = f"""#!/bin/sh
 [ "$1" != batch ] || [ ! -p /dev/stdin ] || while [ -e "$SLOW_WHILE" ]; do sleep 0.02; done
 exec {PROGRAM} "$@"
@@ -34,7 +34,7 @@ def wait_until(condition, seconds=60):
 
 
 class Processes(unittest.TestCase):
-    """Processes is the base class of tests that need a scratch folder and start processes, which end with the test."""
+    """Processes is the base class of tests that need a scratch folder and start processes. These end with the test."""
 
     def setUp(self):
         scratch = tempfile.TemporaryDirectory()
@@ -78,7 +78,7 @@ class Folder(Processes):
         return self.scratch / "fleet.csv", self.scratch / "fleet-dump.csv", self.scratch / "fleet.json"
 
     def slow_program(self):
-        """slow_program returns a program that judges nothing while the file hold exists, and its environment."""
+        """slow_program returns a program that judges nothing while the hold file exists, and its environment."""
         self.hold.touch()
         slow = self.scratch / "slow"
         slow.write_text(SLOW)

@@ -1,7 +1,7 @@
 """Judges the configuration values of a home gateway with the checks of ostrel-check.
 
-The functions call, judge and judge_many and the mapping checks use the default session, which encodes a str as UTF-8
-and whose program ends with the interpreter.
+The functions call, judge and judge_many, and the mapping checks, use the default session. It encodes a str as UTF-8,
+and its program ends when the interpreter exits.
 """
 
 from ostrel._catalogue import ArgumentOf, Check, Code

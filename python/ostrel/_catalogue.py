@@ -18,8 +18,9 @@ class ArgumentOf:
 
     name: str
     kind: Kind
-    """A string of kind "text" is only read, and one of kind "buffer" is also written. "blocks" are several strings,
-    which are read and written. "integer" and "unsigned" are numbers, and "integer_out" is a number that is written."""
+    """A "text" is a string that the check only reads, and a "buffer" is a string that the check may also change.
+    "blocks" are several strings that the check may change. "integer" and "unsigned" are numbers that are passed, and
+    "integer_out" is a number that the check writes."""
     what: str
     unit: str | None
     is_secret: bool
@@ -27,8 +28,8 @@ class ArgumentOf:
     is_output_only: bool
     """Whether a caller may omit the argument."""
     constraints: Mapping[str, Any] | None
-    """The constraints on a value that follow from the check's description. ostrel-check list --schema defines the
-    members. In their strings, each character stands for the byte with the same number."""
+    """The constraints on a value, derived from the check's description. ostrel-check list --schema defines the
+    members. Each character in their strings stands for the byte with the same number."""
 
 
 @dataclass(frozen=True)

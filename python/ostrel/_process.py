@@ -15,8 +15,8 @@ from ostrel._wire import Case, Encoding, lines_of
 
 NAME = "ostrel-check"
 
-# The number of cases that are written at once. It is small because one side is idle while the other handles the first
-# or the last piece.
+# The number of cases that are written at once. It is small because this process and the program cannot work in parallel
+# on the first and the last piece.
 _PIECE = 128
 _MOST_READ = 1 << 18
 _SECONDS_TO_END = 5.0
@@ -50,7 +50,8 @@ def output_of(program: str, *arguments: str) -> str:
 
 
 def require_version(program: str) -> None:
-    """require_version raises OtherVersion for a program of another version, whose checks may differ from the stubs."""
+    """require_version raises OtherVersion if the program has another version, because its checks might then differ from
+    the stubs."""
     said = output_of(program, "--version").split()
     if said != [NAME, VERSION]:
         raise OtherVersion(f"this package and its stubs are of version {VERSION}, and {program} is "

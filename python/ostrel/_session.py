@@ -34,8 +34,8 @@ class _Owner:
             self.process = None
 
     def begin_again(self) -> None:
-        """begin_again is called in a forked child, where the program belongs to the parent, and any thread that held
-        the lock does not exist."""
+        """begin_again is called in a forked child. The program still belongs to the parent, and a thread of the parent
+        that held the lock does not exist in the child."""
         self.lock = threading.Lock()
         if self.process is not None:
             self.process.forget()
@@ -59,7 +59,7 @@ class Session(Calls):
 
     program     the path or name of ostrel-check; the default is the program that the environment variable OSTREL_CHECK
                 names, or the first ostrel-check on the PATH
-    encoding    the encoding of each str that is judged and of all output, "utf-8" or "latin-1"; bytes are passed
+    encoding    the encoding of every str that is judged and of all output, "utf-8" or "latin-1"; bytes are passed
                 unchanged
     limit_time  the number of seconds after which a call is abandoned; the program's default is 2
     channels    the channels that replace those of the wireless driver, for machines without this driver
@@ -71,7 +71,7 @@ class Session(Calls):
                  limit_time: float | None = None, channels: Iterable[int] | None = None) -> None:
         if encoding not in ("utf-8", "latin-1"):
             raise ValueError(f'the encoding is "utf-8" or "latin-1", not {encoding!r}')
-        # The parameters with which an equal session can be created.
+        # The parameters for creating an equal session.
         self._parameters = {"program": program, "encoding": encoding, "limit_time": limit_time,
                             "channels": None if channels is None else (channels := tuple(channels))}
         self._program = program
@@ -153,7 +153,7 @@ class Session(Calls):
                         raise ProgramFailed(f"ostrel-check ended {attempts} times at {cases[len(verdicts)]!r:.200}, "
                                             f"the last time with {ending}") from None
                 except BaseException:
-                    # Answers to these cases may still arrive.
+                    # Answers to these cases might still arrive, so this process cannot be used again.
                     owner.process = None
                     process.abandon()
                     raise

@@ -1,4 +1,4 @@
-"""Reads the result of a check from a line that ostrel-check prints."""
+"""Defines verdicts, and parses them from the lines that ostrel-check prints."""
 
 import base64
 import json
@@ -19,7 +19,7 @@ class CharacterSet:
     """CharacterSet is a set of bytes."""
 
     text: str
-    """The set in words."""
+    """A description of the set."""
     members: str
     """The bytes of the set, as a string."""
 
@@ -32,22 +32,22 @@ NOTHING: Mapping[str, Written] = MappingProxyType({})
 
 @dataclass(frozen=True, repr=False)
 class Reason:
-    """Reason states why a value was refused. Members that do not apply are None."""
+    """Reason explains why a value was refused. Members that do not apply are None."""
 
     id: str
     """The kind of problem, as an identifier that does not change between versions."""
     text: str
-    """The sentence for the user."""
+    """The reason as a sentence for the user."""
     argument: str | None = None
     """The name of the argument concerned."""
     part: str | None = None
-    """The part of the argument concerned, in words."""
+    """A description of the part of the argument concerned."""
     conversion: str | None = None
-    """The conversion of the value before it was judged. offset is a position in the converted value."""
+    """How the value was converted before it was judged. offset is a position in the converted value."""
     item: int | None = None
     """The index of the item in a list, or of the key in a block, counted from 0."""
     item_text: str | None = None
-    """The content of that item, unless it is empty or secret."""
+    """The contents of that item, unless it is empty or secret."""
     offset: int | None = None
     """The position of a byte in the value or in the key, counted from 0."""
     found: Datum = None
@@ -55,9 +55,9 @@ class Reason:
     allowed: Datum = None
     """What is allowed, as a limit, two limits, a list, or a set of bytes."""
     read_as: int | None = None
-    """The number that this gateway reads, if the value contains more than that number."""
+    """The number that was read from the value, unless the value is just that number."""
     limit: str | None = None
-    """The id that applies to the number that was read, if the number in the value does not fit in an int."""
+    """The id of the limit violated by the number that was read, if the number in the value does not fit in an int."""
 
     def __repr__(self) -> str:
         members = ", ".join(f"{name}={value!r}" for name, value in self.__dict__.items())
@@ -79,7 +79,7 @@ class Verdict:
     lines: tuple[str, ...] = ()
     """The lines that the check printed, each with its line end."""
     err: str = ""
-    """What was written to standard error, for example a failed assertion."""
+    """What was written to standard error, for example the message of a failed assertion."""
     after: Mapping[str, Written] = field(default_factory=lambda: NOTHING, hash=False)
     """The final contents of each argument that the check may write to, by name."""
     meaning: str = ""
@@ -176,7 +176,7 @@ def _lines(out: str) -> tuple[str, ...]:
 
 def _made(kind: type[T], members: dict[str, Any]) -> T:
     """_made creates an instance of a frozen class. It sets all members at once, because a separate call for each
-    member would take most of the time."""
+    member would dominate the run time."""
     made = object.__new__(kind)
     object.__setattr__(made, "__dict__", members)
     return made
@@ -191,7 +191,7 @@ def verdicts_of(lines: list[str]) -> list[Verdict]:
     record; without that number, many lines are equal."""
     lines = ["{" + line[line.index(",") + 1:] for line in lines]
     known = [_plain.get(line) for line in lines]
-    # Parsing all results as one document takes two thirds of the time that parsing each one separately takes.
+    # Parsing all results as one document takes a third less time than parsing each one separately.
     rest = [line for line, verdict in zip(lines, known) if verdict is None]
     rows = json.loads(f"[{','.join(rest)}]")
     made = (_verdict(line, row) for line, row in zip(rest, rows, strict=True))

@@ -1,4 +1,4 @@
-"""Tests that stale stubs are noticed, and that with the stubs, mypy finds every fault and nothing else.
+"""Tests that stale stubs are noticed, and that mypy, using the stubs, reports every misuse and nothing else.
 
 usage: stubs_test.py OSTREL_CHECK SOURCE_DIR
 """

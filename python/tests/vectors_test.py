@@ -10,7 +10,7 @@ import support
 import ostrel
 import vectors
 
-# Longer strings would add nothing to the test of the encodings, but would take most of the time.
+# Strings longer than this would dominate the run time without testing the encodings any further.
 LONG = 1 << 16
 
 

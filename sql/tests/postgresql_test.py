@@ -33,7 +33,7 @@ def as_bytes(value):
 
 
 def bytes_in_sql(value):
-    """bytes_in_sql returns an SQL expression for a value. The server expands repeated pieces, so the SQL stays short."""
+    """bytes_in_sql returns an SQL expression for a value. The server expands repeated pieces, to keep the SQL short."""
     if isinstance(value, rows.Text):
         return " || ".join("decode(repeat('%s', %d), 'hex')" % (part.hex(), times) for part, times in value.pieces)
     return "'\\x%s'::bytea" % as_bytes(value).hex()
@@ -89,7 +89,7 @@ class Vectors(unittest.TestCase):
         self.assertEqual({rows.NULL, rows.NOT_CALLED}, set(self.left_out))
 
     def test_as_texts(self):
-        """Each row of valid UTF-8 is judged by a function that takes the check's name, and by the check's own function."""
+        """Each row in valid UTF-8 is judged by a function that takes the check's name and by the check's function."""
         names = {"Param_check_bool_value": "param_check_bool_value_branding",
                  "Param_check_string_len": "param_check_string_len_signed"}
         queries, expected = [], []

@@ -6,11 +6,12 @@
 
 OSTREL_CHECK_VERSION = 0.1.0
 OSTREL_CHECK_SOURCE = ostrel-$(OSTREL_CHECK_VERSION).tar.gz
-# The address of releases. Alternatively, set OSTREL_CHECK_OVERRIDE_SRCDIR to a
-# source tree. packaging/release creates ostrel-check.hash for this folder.
+# The address of the releases. Instead of downloading a release, you can set
+# OSTREL_CHECK_OVERRIDE_SRCDIR to a source tree. packaging/release creates
+# ostrel-check.hash for this folder.
 OSTREL_CHECK_SITE = $(OSTREL_SOURCE_URL)
-# OSTREL_CHECK_LICENSE is not set, because the source tree states no licence. Ask
-# the developers before you distribute it.
+# OSTREL_CHECK_LICENSE is not set, because the source tree specifies no
+# licence. Ask the developers before you distribute it.
 # Other packages need the headers and the files for CMake and pkg-config.
 OSTREL_CHECK_INSTALL_STAGING = YES
 
