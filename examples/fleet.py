@@ -117,7 +117,7 @@ def tree_of(cells):
 
 
 def forms():
-    """forms returns what each file contains for one gateway, with %s in place of its name and of each value."""
+    """forms returns the contents of each file for one gateway, with %s as a placeholder for its name and each value."""
     csv_lines = "".join(f"%s,InternetGatewayDevice.{path},{check},%s\r\n" for path, check, *_ in PARAMETERS)
     dump_lines = "".join(f"%s,InternetGatewayDevice.{path},%s\r\n" for path, *_ in PARAMETERS)
     json_lines = "".join(

@@ -65,7 +65,8 @@ def require_program(client: Client, job: Job) -> None:
 
 def judge_all(client: Client, job: Job, parts: Sequence[Part], tell: Callable[[Part, Outcome], None],
               look: Callable[[int], None]) -> None:
-    """judge_all judges the parts. It passes each outcome to tell and, while it waits, the number of workers to look."""
+    """judge_all judges the parts, and calls tell with each outcome. While it waits, it calls look with the number of
+    workers."""
     keys = {f"judge-{part.name}-{os.path.basename(part.file)}-{job.number}": part for part in parts}
     finished: queue.SimpleQueue[Future] = queue.SimpleQueue()
     futures = client.map(functools.partial(ostrel_part.judge, job), parts, key=list(keys), pure=False)

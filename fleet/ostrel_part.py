@@ -1,4 +1,4 @@
-"""Judges a part of the files on a worker of the cluster, and moves the results into place when they are complete. The
+"""Judges one part of a run on a worker of the cluster, and moves the results into place when they are complete. The
 runner sends this module to the workers, so it needs only Python's standard library."""
 
 import contextlib

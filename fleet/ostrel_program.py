@@ -53,8 +53,8 @@ def require_identity(program: str, wanted: str) -> None:
         raise Stopped(f"{program} is {identity}, and not {wanted}")
 
 
-# The running programs with the numbers of their runs, and the runs that must not start another program. Both survive a
-# reload of the module, which every invocation of the runner causes.
+# The running programs with the numbers of their runs, and the runs that must not start another program. Every
+# invocation of the runner reloads this module, but both variables keep their values.
 _running: dict[subprocess.Popen[bytes], str] = globals().get("_running", {})
 _stopped: set[str] = globals().get("_stopped", set())
 _lock: threading.Lock = globals().get("_lock", threading.Lock())

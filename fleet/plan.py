@@ -169,8 +169,8 @@ def _parts_of(number: int, file: str, manifest: Manifest) -> Iterator[Part]:
 
 
 def make_plan(manifest: Manifest) -> list[Part]:
-    """make_plan returns the parts in the order of the files and their lines, which is also the order of the parts'
-    names."""
+    """make_plan returns the parts in the order of the files and their lines. The parts' names sort in the same
+    order."""
     return [part for number, file in enumerate(manifest.files, 1) for part in _parts_of(number, file, manifest)]
 
 

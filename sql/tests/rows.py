@@ -56,8 +56,8 @@ def plain(value):
 
 
 def held(check, row):
-    """held lists the possible contents of the writable arguments after the call. These are the contents in the row or,
-    if the row has none, the unchanged arguments. SQL does not pass output arguments, so an unchanged output argument
+    """held lists the possible contents of the writable arguments after the call. The contents are those in the row or,
+    if the row lists none, the unchanged arguments. SQL does not pass output arguments, so an unchanged output argument
     has either the value in the row or no value."""
     if "after" in row:
         return [plain(row["after"])]

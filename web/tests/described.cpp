@@ -1,4 +1,5 @@
-// For the tests, derives details of a call from the descriptions that the reasons module does not return.
+// Returns details of a call that the tests need but the reasons module does not return. They are derived from
+// the descriptions.
 
 #include "rules/evaluate.h"
 #include "rules/rules.h"

@@ -1,4 +1,4 @@
-// Derives details of a call from the descriptions that the reasons module does not return.
+// Returns details of a call that the reasons module does not return. They are derived from the descriptions.
 
 import {Memory} from '../reasons.js';
 import {checks, moduleOf} from './files.js';

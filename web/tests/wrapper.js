@@ -13,7 +13,7 @@ export function expectedOf(row, check, long) {
   return {...answer, after: answer.after ?? held(check, row.values)};
 }
 
-// mixed returns a number that depends on each character of a string and on the previous number.
+// mixed returns a checksum that has been updated with a string.
 function mixed(number, text) {
   for (let i = 0; i < text.length; ++i) number = Math.imul(number ^ text.charCodeAt(i), 0x01000193);
   return number;
