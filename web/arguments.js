@@ -2,7 +2,7 @@
 
 export const kUnwritten = -0x80000000;  // a number that no check writes
 
-// complete adds the arguments that the caller may omit because they are only written.
+// complete adds the arguments that the caller may omit because they are write-only.
 export function complete(check, given) {
   const values = [...given];
   for (const {output, kind} of check.arguments.slice(given.length)) {

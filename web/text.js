@@ -1,4 +1,4 @@
-// Copies strings into and out of the memory of a module. A value that cannot be passed unchanged causes an error.
+// Copies strings into and out of a module's memory. A value that cannot be passed unchanged causes an error.
 
 const kHighSurrogates = 0xd800;
 const kLowSurrogates = 0xdc00;

@@ -66,9 +66,9 @@ static void give_up(const char* what)
     exit(1);
 }
 
-/* take_the_streams redirects the two streams to which the library writes into an unnamed file. Only
-   WLAN_check_keys writes to standard error. Unlike a full pipe, a file does not block, and the daemon can
-   decide what it logs. */
+/* take_the_streams redirects standard output and standard error, to which the library writes, to an unnamed
+   file. Only WLAN_check_keys writes to standard error. Unlike a full pipe, a file does not block, and the
+   daemon can decide what it logs. */
 static void take_the_streams(void)
 {
     FILE* file = tmpfile();
@@ -122,7 +122,7 @@ static void judge(const struct setting* setting, const char* given)
     fputc('\n', answers);
 }
 
-/* read_line cuts off the end of an overlong line, whose value is then still too long to be accepted. */
+/* read_line truncates an overlong line. The remaining value is still too long to be accepted. */
 static int read_line(char* line, size_t room)
 {
     size_t length = 0;

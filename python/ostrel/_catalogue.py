@@ -43,7 +43,7 @@ class Code:
 
 @dataclass(frozen=True)
 class Check:
-    """Check describes a check."""
+    """Check describes a check, its arguments and its result codes."""
 
     name: str
     family: str

@@ -81,7 +81,7 @@ class Verdict:
     err: str = ""
     """What was written to standard error, for example the message of a failed assertion."""
     after: Mapping[str, Written] = field(default_factory=lambda: NOTHING, hash=False)
-    """The final contents of each argument that the check may write to, by name."""
+    """The final contents of each argument that the check may write to, keyed by its name."""
     meaning: str = ""
     """What the code means, or how the call ended."""
     remarks: tuple[Reason, ...] = ()

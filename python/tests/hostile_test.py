@@ -75,7 +75,7 @@ def content(value):
 
 
 def without_place(meaning):
-    """without_place removes the position of the invalid byte in a line, which depends on the encoding."""
+    """without_place removes the position of the invalid byte, which depends on the encoding of the line."""
     return re.sub(r" \(at byte \d+\)$", "", meaning)
 
 

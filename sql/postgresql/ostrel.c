@@ -130,7 +130,7 @@ Datum ostrel_reason(PG_FUNCTION_ARGS) { return answer_json(fcinfo, kReason); }
 
 Datum ostrel_after(PG_FUNCTION_ARGS) { return answer_json(fcinfo, kAfter); }
 
-/* ostrel_line returns text or bytea, like its values. */
+/* ostrel_line returns text or bytea, depending on the type of its values. */
 Datum ostrel_line(PG_FUNCTION_ARGS)
 {
     OstrelCall call;

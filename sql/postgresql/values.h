@@ -1,4 +1,4 @@
-/* Conversion of values between the server and a check. */
+/* Converts values between the server and a check. */
 #ifndef OSTREL_SQL_POSTGRESQL_VALUES_H
 #define OSTREL_SQL_POSTGRESQL_VALUES_H
 

@@ -60,7 +60,7 @@ export class Bare {
       text(at + i * argument.block_size, at + (i + 1) * argument.block_size));
   }
 
-  // call calls a check, and places the argument with the index edge at the end of the memory.
+  // call calls a check, with the argument whose index is edge placed at the end of the memory.
   call(check, given, edge) {
     const values = complete(check, given);
     const sizes = check.arguments.map((argument, i) => (
