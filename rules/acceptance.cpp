@@ -81,7 +81,7 @@ Acceptance::Outcome Acceptance::follow(const Step& step, Scope& scope)
             result.accepts = holds;
         }
     } else if (step.code.is_its) {
-        // If the other check refuses, its code is not 0.
+        // If the step is reached because the other check refuses, that check's code is not 0.
         const bool has_refused =
             step.condition.kind == Condition::Kind::kRefusedBy && !step.condition.is_negated;
         const bool may_be_zero =
@@ -115,8 +115,8 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
         const Claim where_it_holds = claims_.both(holds, a);
         return claims_.either(where_it_holds, claims_.both(fails, b));
     };
-    // A value that is stored in only one case is read only in that case. Values unknown in both cases may
-    // differ.
+    // A value that is stored in only one of the two cases is read only in that case. Two values that are both
+    // unknown may differ.
     const auto is_same = [](const Term& a, const Term& b) {
         return a == b && a.kind != Term::Kind::kUnknown && a.kind != Term::Kind::kDays;
     };
@@ -158,13 +158,13 @@ Acceptance::Outcome Acceptance::repeat(const Step& step, Scope& scope)
     forget(step.steps, scope);
     const std::optional<Claim> all = for_items(list, step, scope);
     if (all) return going_on(*all);
-    // An iteration that can end the call may skip the remaining items.
+    // An iteration may end the call before the remaining items are tested, so the outcome is unknown.
     return {unknown(anything()), claims_.never(), unknown(anything())};
 }
 
 std::optional<Claim> Acceptance::for_items(const Term& list, const Step& step, Scope scope)
 {
-    // If separators are trimmed too, empty items are skipped.
+    // If the separator is also trimmed, empty items disappear, so the items cannot be derived from the list.
     if (step.list->trimmed.contains(step.list->separator)) return std::nullopt;
     const bool is_of_target = list.kind == Term::Kind::kPart && list.variable == target_ && !list.is_integer;
     const std::size_t whole = target_;

@@ -33,14 +33,14 @@ class Acceptance {
     Claim claim();
 
  private:
-    // Scope is the state of a check whose steps are followed, which is the called check or one that it calls.
+    // Scope is the state of one check while its steps are followed: the called check, or one that it calls.
     struct Scope {
         std::vector<Term> slots;
         Term item = {};
         bool is_called = false;
     };
 
-    // Outcome states when steps return 0, continue with the next item, or continue after the last step.
+    // Outcome states for which values steps return 0, skip to the next item, or continue after the last step.
     struct Outcome {
         Claim accepts;
         Claim skips;
@@ -89,7 +89,7 @@ class Acceptance {
     const Build& build_;
     const Check& check_;
     std::size_t target_;
-    std::size_t variables_;  // the number of variables, which are arguments and items of lists
+    std::size_t variables_;  // the number of variables: arguments and list items
 };
 
 }  // namespace ostrel::rules

@@ -39,7 +39,7 @@ class Summary {
                     break;
                 case Kind::kAccept: {
                     const bool is_null = step.condition.kind == Condition::Kind::kNull;
-                    if (is_null || (known && !*known)) break;  // NULL is described with the argument
+                    if (is_null || (known && !*known)) break;  // the argument's description covers NULL
                     if (known) return all("");
                     const std::string rest = phrase(steps.subspan(i + 1), speaker);
                     if (rest.empty()) return all("");
@@ -78,7 +78,7 @@ class Summary {
         if (!part.empty()) text.append(text.empty() ? "" : "; ").append(part);
     }
 
-    // enclosed puts a phrase of several parts in parentheses.
+    // enclosed puts a phrase in parentheses if it has several parts.
     static std::string enclosed(const std::string& phrase)
     {
         return phrase.find("; ") == std::string::npos ? phrase : "(" + phrase + ")";
@@ -98,7 +98,7 @@ class Summary {
         ++depth_;
         const std::string one = phrase(step.steps, speaker);
         const std::string other = phrase(step.otherwise, speaker);
-        if (--depth_ > 0) is_plain_ = false;  // the end of the inner cases would be unclear
+        if (--depth_ > 0) is_plain_ = false;  // readers could not tell where the inner cases end
         if (one.empty() && other.empty()) return "";
         if (one.empty()) {
             return "if " + speaker.clause(step.condition, false).text() + ": " + enclosed(other);
@@ -109,7 +109,7 @@ class Summary {
     }
 
     // refuse adds the condition under which a step does not refuse. It returns false if the step refuses
-    // every value that the other steps leave.
+    // every value that the earlier steps do not refuse.
     bool refuse(std::vector<Clause>& clauses, const Condition& condition, const Speaker& speaker)
     {
         const bool is_use = condition.kind == Condition::Kind::kRefusedBy && !condition.is_negated;
@@ -133,10 +133,10 @@ class Summary {
             clauses.push_back({speaker.value(condition.operands[0]), is});
             return true;
         }
-        if (condition.kind == Condition::Kind::kNull) return true;  // NULL is described with the argument
+        if (condition.kind == Condition::Kind::kNull) return true;  // the argument's description covers NULL
         const Clause refused = speaker.clause(condition);
         const Clause wanted = speaker.clause(condition, false);
-        // If both a condition and its opposite are refused, nothing remains.
+        // If values are refused both when a condition holds and when it fails, nothing is accepted.
         if (std::ranges::any_of(clauses, [&](const Clause& one) { return one.text() == refused.text(); }))
             return false;
         if (std::ranges::any_of(clauses, [&](Clause& one) { return includes(one, wanted); })) return true;

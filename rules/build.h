@@ -10,7 +10,7 @@
 namespace ostrel::rules {
 
 struct Build {
-    // Atoi is the way in which atoi reads a number that does not fit in an int.
+    // Atoi is how the C library's atoi reads a number that does not fit in an int.
     enum class Atoi {
         kLong64,    // as the low 32 bits of a 64-bit long, which saturates
         kLong32,    // as the highest or the lowest int
@@ -25,7 +25,7 @@ struct Build {
     std::optional<std::vector<int>> channels = std::nullopt;
 };
 
-// atoi_here determines how the C library of this program reads such a number.
+// atoi_here determines which kind of atoi this program's C library has.
 Build::Atoi atoi_here();
 
 // Number is the number that atoi reads at the beginning of a string.

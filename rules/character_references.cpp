@@ -47,7 +47,7 @@ std::optional<char> numbered(std::string_view digits, int base)
     return static_cast<char>(static_cast<unsigned char>(number));
 }
 
-// referred returns the byte to which a reference refers, given the part between "&" and ";".
+// referred returns the byte that a reference stands for, given the text between "&" and ";".
 std::optional<char> referred(std::string_view text)
 {
     if (text.starts_with("#x") || text.starts_with("#X")) return numbered(text.substr(2), 16);

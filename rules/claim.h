@@ -24,9 +24,9 @@ struct Limit {
     bool operator==(const Limit&) const = default;
 };
 
-// Factors is a condition in the form of a conjunction.
+// Factors is a condition written as a conjunction.
 struct Factors {
-    Language own = {};  // depends only on the target
+    Language own = {};  // the factor that depends only on the target
     std::vector<Limit> limits = {};
     bool is_entangled = false;  // a factor depends on the target and other arguments, or is unknown
     Variables entangled = {};   // the other arguments in limits and in that factor
@@ -55,8 +55,8 @@ class Claims {
     Claim always() { return decided(languages_.any()); }
     Claim never() { return decided(languages_.nothing()); }
 
-    // unknown returns a claim that may or may not hold, depending on these arguments, or only on the target
-    // if there are none.
+    // unknown returns a claim that may or may not hold, depending on these variables or, if there are none,
+    // only on the target.
     Claim unknown(Variables variables, std::size_t target);
 
     // beyond returns the claim that the limit set by another argument is exceeded.

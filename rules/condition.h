@@ -15,12 +15,12 @@ namespace ostrel::rules {
 
 struct Check;
 
-// Group is one element of a shape, which matches from least to most bytes of one set.
+// Group is one element of a shape. It matches from least to most bytes of one set.
 struct Group {
     Set set;
     std::size_t least = 1;
     std::size_t most = 1;
-    std::vector<Line> lines = {};  // printed if this group is at fault
+    std::vector<Line> lines = {};  // printed if the string does not match this group
 };
 
 // Shape is a sequence of groups. A group of variable length shares no byte with the next group.
@@ -45,11 +45,11 @@ struct Grammar {
 
 // Table is a list of rows with a cell for each column.
 struct Table {
-    std::vector<std::string_view> columns;  // the contents of each column, in words
+    std::vector<std::string_view> columns;  // a description of each column
     std::vector<std::vector<std::string_view>> rows;
 };
 
-// Match defines how a string or a number must match a column of a row.
+// Match defines how a string or a number must match the cell in one column.
 struct Match {
     enum class How {
         kEqual,   // the value is the string in the cell

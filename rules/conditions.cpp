@@ -51,7 +51,7 @@ bool Run::holds(const Condition& condition, Frame& frame, Reason* reason)
     return result;
 }
 
-// holds_at_all ignores negation in its result, but not in the reason.
+// holds_at_all returns the result before negation. The reason that it stores takes negation into account.
 bool Run::holds_at_all(const Condition& condition, Frame& frame, Reason* reason)
 {
     switch (condition.kind) {

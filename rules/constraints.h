@@ -1,4 +1,4 @@
-// The requirements on an argument that its description proves, for use in programs and forms.
+// The requirements on an argument that the check's description proves, for use in programs and forms.
 //
 // They do not cover numbers that do not fit in an int, because builds read such numbers differently.
 #ifndef OSTREL_RULES_CONSTRAINTS_H
@@ -37,7 +37,7 @@ struct Form {
     // An ECMA-262 regular expression, if bytes, lengths and keywords are not sufficient.
     std::string pattern = {};
     std::vector<Form> recommended = {};  // at most one, with what users should be offered if more is accepted
-    bool reads_number = false;           // a number is read, so numbers beyond an int are not covered
+    bool reads_number = false;  // a number is read, so numbers that do not fit in an int are not covered
 
     bool operator==(const Form&) const = default;
 };

@@ -1,4 +1,4 @@
-// The data of a reason in words, and strings in printable form.
+// Descriptions of the data in a reason, and printable forms of strings.
 #ifndef OSTREL_RULES_DATUM_H
 #define OSTREL_RULES_DATUM_H
 

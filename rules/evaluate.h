@@ -24,7 +24,7 @@ enum class Outside {
     kAssertion,     // an assertion fails for NULL, which ends the process
     kNull,          // NULL is read
     kNeverReturns,  // the call does not return
-    kDriver,        // the result depends on the wireless driver, whose list is unknown
+    kDriver,        // the result depends on the wireless driver, whose channel list is unknown
     kTooMuchWork,   // the evaluation would take too long
 };
 
@@ -36,8 +36,8 @@ struct Answer {
     std::size_t flushed = 0;   // the number of bytes of out that were flushed
     std::vector<Value> after;  // the final contents of each argument that can be written to, in order
     Outside outside = Outside::kNo;
-    bool beyond_int = false;      // a number beyond an int was read, so the result may differ in other builds
-    Reason reason;                // the reason for the refusal, or for outside
+    bool beyond_int = false;      // a number does not fit in an int, so the result may differ in other builds
+    Reason reason;                // the reason for the refusal, or for the value of outside
     std::vector<Reason> printed;  // the reasons of steps that printed or skipped an item
 
     [[nodiscard]] bool is_flushed() const { return flushed == out.size(); }
@@ -68,11 +68,11 @@ Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const 
                        const Build& build);
 
 // explain_within does the same as evaluate_within, but the answer contains neither output nor the final
-// contents of arguments. An answer from an earlier call may be passed.
+// contents of arguments. An answer from an earlier call may be reused.
 void explain_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                     const Build& build, Answer& answer);
 
-// evaluate_hiding is evaluate_within, except that lines show only the length of a secret argument.
+// evaluate_hiding does the same as evaluate_within, but lines show only the length of a secret argument.
 Answer evaluate_hiding(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 

@@ -187,7 +187,7 @@ class Explainer {
         return {speaker.line(line), when, line.stream, line.is_flushed};
     }
 
-    // add states when a group's line is printed; several groups may share a line.
+    // add describes when a group's line is printed. Several groups may share a line.
     static void add(std::vector<SaidLine>& lines, const Group& group, const Line& line,
                     const Speaker& speaker)
     {

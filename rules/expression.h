@@ -24,7 +24,7 @@ struct Conversion {
 struct Expression {
     // The operands of each kind are in parentheses.
     enum class Kind {
-        kName,          // an argument or a remembered value; "": the item, or else the first argument
+        kName,          // an argument or a remembered value; "" names the item, or else the first argument
         kText,          // a literal
         kNumber,        // a literal
         kSet,           // a literal
@@ -35,8 +35,8 @@ struct Expression {
         kItem,          // the current item of a list, or the current key of a block
         kIndex,         // the index of this item, from 0
         kRest,          // the rest of the list after this item and its separator
-        kByte,          // the byte at fault, in a line
-        kOffset,        // the offset of the byte at fault, in a line
+        kByte,          // the offending byte, in a line
+        kOffset,        // the offset of the offending byte, in a line
         kBeforeFirst,   // (string, separator): the whole string if there is no separator
         kBeforeLast,    // (string, separator): the whole string if there is no separator
         kAfterFirst,    // (string, separator): empty if there is no separator

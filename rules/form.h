@@ -8,11 +8,11 @@
 
 namespace ostrel::rules {
 
-// Said is the form of a language. is_all is true if no other strings satisfy it.
+// Said is the form of a language. is_all is true if only the strings in the language satisfy the form.
 struct Said {
     Form form = {};
     bool is_all = false;
-    bool is_all_in_schema = false;  // the same, ignoring what JSON Schema cannot express
+    bool is_all_in_schema = false;  // the same for the part of the form that JSON Schema can express
 };
 
 // form_of_text describes the properties that all strings in a language have in common.

@@ -45,7 +45,7 @@ Check url(std::string_view name, std::string_view what, int code, Words schemes)
          when(has_port, {refuse(code, below(port, 0)), refuse(code, above(port, 65535))})});
 }
 
-// The part between the first "@" and the last "." may contain more of these bytes.
+// The part between the first "@" and the last "." may contain further "@" and "." bytes.
 Check mail_outline()
 {
     const Expression before = called("the part before the \"@\"", before_first(it, "@"));

@@ -38,8 +38,8 @@ std::string in_words(const NullEnd& end)
     return "";
 }
 
-// in_words describes how calls end and under which conditions. If that would be too long, or if conditions
-// are unknown, it lists only the ends.
+// in_words describes how calls end and under which conditions. If the description would be too long, or if
+// conditions are unknown, it lists only the ways in which calls end.
 std::string in_words(const std::vector<NullEnd>& ends, const std::set<std::string>& sources)
 {
     constexpr std::size_t kLongest = 200;

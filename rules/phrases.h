@@ -51,8 +51,8 @@ class Speaker {
     // spell_out replaces the names of remembered values with what they refer to.
     void spell_out(const std::vector<Step>& steps);
 
-    // of_other returns a speaker for the check that a condition calls, which uses the names that its
-    // arguments have here.
+    // of_other returns a speaker for the check that a condition calls. It describes that check's arguments
+    // with the words that this speaker uses for the values passed.
     [[nodiscard]] Speaker of_other(const Condition& use) const;
 
     // of_items returns a speaker for the steps that are executed for each item of a list.

@@ -5,7 +5,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// For a reserved port, the message of the lookup is printed before the message of the check.
+// For a reserved port, the message from the lookup is printed before the check's own message.
 Step refuse_reserved(Condition condition, std::string_view message)
 {
     return refuse(402, std::move(condition),

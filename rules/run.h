@@ -59,8 +59,7 @@ struct Integer {
     }
 };
 
-// Frame is the state of a check that is being evaluated, which is the called check or one that another check
-// calls.
+// Frame is the state of one check during an evaluation: the called check, or one that another check calls.
 struct Frame {
     const Check& check;
     std::vector<Operand> slots;
@@ -69,7 +68,7 @@ struct Frame {
     std::string_view rest = {};     // what follows the separator after the item
     long long index = 0;
     bool is_last_item = false;
-    const std::vector<std::string_view>* row = nullptr;  // the row of a table that was found last
+    const std::vector<std::string_view>* row = nullptr;  // the table row that was found last
     bool is_called = false;                              // true for the called check, whose writes are kept
     int code = 0;
     bool is_refusal = false;
@@ -146,10 +145,10 @@ class Run {
     Counts* counts_;
     Answer& answer_;
     Reason& reason_;                        // for the current step, or for the one that determined the result
-    std::vector<std::string_view> blocks_;  // the strings of the argument that has several
+    std::vector<std::string_view> blocks_;  // the strings in the argument of kind kBlocks
     std::forward_list<std::string> kept_;
     bool is_printing_ = false;
-    const std::vector<Line>* fault_lines_ = nullptr;  // the lines of the group at fault
+    const std::vector<Line>* fault_lines_ = nullptr;  // the lines of the group that does not match
     int its_code_ = 0;                                // the code of the check that was called last
     bool hides_secrets_ = false;
     bool is_silent_ = false;  // the answer contains neither output nor the final contents of arguments

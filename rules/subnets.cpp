@@ -25,8 +25,8 @@ Step judge_subnet(const char* address)
     return refuse(-1, refused_by("isInSameSubnet", {"lanAddress", address}));
 }
 
-// An item counts as repeated if it occurs anywhere in the rest of the list, provided that the rest ends, or
-// has a comma, after as many bytes as the item has.
+// An item counts as repeated if it occurs anywhere in the rest of the list, provided that the rest is as long
+// as the item, or has a comma at the offset that equals the item's length.
 Condition repeats_item()
 {
     return all_of({not_(last_item()),

@@ -80,8 +80,8 @@ class Keywords {
  private:
     using Kind = Condition::Kind;
 
-    // is_model returns whether the product model satisfies a condition, or nullopt if that is not what it
-    // tests.
+    // is_model returns whether the product model satisfies a condition, or nullopt if the condition does not
+    // test the model.
     [[nodiscard]] std::optional<bool> is_model(const Condition& condition) const
     {
         const bool asks =
@@ -111,8 +111,8 @@ class Keywords {
         }
     }
 
-    // look adds the words that are allowed if the condition must hold or must fail. If the condition
-    // distinguishes cases, it adds all words.
+    // look adds the words that a condition allows if it must hold or must fail, as holds states. If holds is
+    // not set, the condition only distinguishes cases, and look adds all its words.
     void look(const Condition& condition, std::optional<bool> holds)
     {
         for (const Condition& part : condition.parts) look(part, holds);

@@ -85,7 +85,7 @@ Condition not_(Condition condition);
 Condition ignoring_case(Condition condition);
 Condition because(std::string_view id, Condition condition);
 
-// Their opposites.
+// Negations of some of these conditions.
 inline Condition none_of(Expression text, Words words)
 {
     return not_(one_of(std::move(text), std::move(words)));

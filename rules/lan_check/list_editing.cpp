@@ -5,8 +5,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// A value of any length is added to an empty list, without a terminator. In any other list, a comma and a
-// terminator are also written, so that 159 bytes of addresses need a buffer of 161 bytes.
+// A value of any length is added to an empty list, without a terminator. If the list is not empty, a comma
+// and a terminator are also written, so 159 bytes of addresses need a buffer of 161 bytes.
 Check add_allowed_address()
 {
     const Line existed = line(
@@ -20,7 +20,7 @@ Check add_allowed_address()
         {refuse(-1, null("macAddress")), refuse(-1, null("allowedList")),
          accept(empty("allowedList"), Write{"allowedList", "macAddress", false}),
          refuse(-1, empty("macAddress"), existed), refuse(-1, contains("allowedList", "macAddress"), existed),
-         // A list of one byte leaves room for 158 bytes, so these are all the lengths that can be added.
+         // The list has at least one byte and so leaves room for at most 158. No other valid length fits.
          refuse(-1,
                 all_of({not_(multiple(sum({length("macAddress"), 1}), 18)),
                         length_not({17, 35, 53, 71, 89, 107, 125, 143})}),
@@ -75,8 +75,8 @@ Check add_dns_servers()
               {refuse_repeated("newServers", "existingServers")})});
 }
 
-// The comparison with the first server is inverted, so a value of the same length may be deleted unless it is
-// that server.
+// The comparison with the first server is inverted, so an address with the length of the first server is
+// accepted unless it is equal to it.
 Check delete_dns_server()
 {
     const Effects not_found = line(

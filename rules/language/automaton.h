@@ -21,7 +21,7 @@ struct Automaton {
         std::vector<Arrow> arrows = {};  // each byte is in exactly one arrow
     };
 
-    std::vector<State> states;  // the first is the start
+    std::vector<State> states;  // the first one is the start state
 };
 
 // Summary contains the properties that all strings in a language have in common.

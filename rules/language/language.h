@@ -108,8 +108,8 @@ class Languages {
     Language byte(const Set& set);
     Language text(std::string_view text, bool ignores_case = false);
     Language joined(Language first, Language second);
-    // Use this overload if the parts are computed. Every compiler evaluates a list in order, so the results
-    // do not depend on the compiler.
+    // Use this overload if calls compute the parts. Unlike arguments, the elements of a braced list are
+    // always evaluated in order, so the results do not depend on the compiler.
     Language joined(const std::vector<Language>& parts);
     Language either(const std::vector<Language>& parts);
     Language both(const std::vector<Language>& parts);
@@ -123,7 +123,7 @@ class Languages {
     Language with_count(char byte, const Intervals& times);
     Language words(const std::vector<std::string>& words, bool ignores_case);
     Language with_prefix(const std::vector<std::string>& words, bool ignores_case);
-    // of_shape returns nothing if matching from left to right has another result for one of the shapes.
+    // of_shape returns nothing if matching without backtracking might miss strings of one of the shapes.
     std::optional<Language> of_shape(const std::vector<Runs>& shapes);
     // within returns nothing if the separator can overlap with itself.
     std::optional<Language> within(const Cut& cut, Language inner);

@@ -1,4 +1,4 @@
-// Numbers as atoi reads them, as languages.
+// Languages of the strings that atoi reads as given numbers.
 #include "rules/language/language.h"
 #include "rules/sets.h"
 
@@ -58,7 +58,7 @@ Language Languages::leap_years()
     return either({of_number({0, 0}), joined({repeated(kWhite), sign, either({divisible, century}), rest})});
 }
 
-// decimals_of_length handles limits with the same number of digits.
+// decimals_of_length returns the numbers from low to high, which must have the same number of digits.
 Language Languages::decimals_of_length(std::string low, const std::string& high)
 {
     if (low.empty()) return no_byte_;
@@ -94,7 +94,7 @@ Language Languages::decimals(long long low, long long high)
     while (last.empty() || first.size() < last.size()) {
         const std::size_t rest = first.size() - 1;
         if (first == "1" + std::string(rest, '0')) {
-            // All numbers with these numbers of digits are in the range.
+            // The range contains all numbers that have from rest + 1 to most + 1 digits.
             const std::size_t most = last.empty() ? kMany : last.size() - 2;
             parts.push_back(joined({byte(kDigits - Set("0")), repeated(byte(kDigits), rest, most)}));
             if (last.empty()) return either(parts);

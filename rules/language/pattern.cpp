@@ -69,7 +69,7 @@ class Writer {
         return is_own ? one : languages_.node(one).of[0];
     }
 
-    // plain returns a pattern without lookaheads, if there is one.
+    // plain returns a pattern without lookaheads, if such a pattern exists.
     Pattern plain(Language one, const Set& bytes)
     {
         const Node& node = languages_.node(one);

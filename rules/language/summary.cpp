@@ -65,8 +65,8 @@ class Measure {
         return result;
     }
 
-    // has_circle removes states to which no remaining state leads. If some cannot be removed, there is a
-    // circle.
+    // has_circle sorts the states so that every transition leads to a later state. If that is impossible, the
+    // automaton has a cycle.
     bool has_circle()
     {
         std::vector<std::size_t> arrows(lives_.size());

@@ -5,8 +5,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// For a malformed value, the first line is printed. The result is then 402 if the number is below 1, and
-// otherwise the code of ValidateString.
+// For a malformed value, the line about the maximum is printed. If the number is below 1, the line about the
+// minimum is also printed, and the result is 402; otherwise, the result is the code of ValidateString.
 Check guests()
 {
     const Condition is_malformed = refused_by("ValidateString", {1, 2, kDigits, "value"});

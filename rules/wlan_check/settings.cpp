@@ -6,7 +6,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// Character references are replaced as by the library's own converter, because a host's converter is unknown.
+// Character references are replaced in the same way as by the library's own converter, because the host's
+// converter is unknown.
 Check ssid()
 {
     return check("WLAN_check_ssid", {buffer("value", "the name of a wireless network")},
