@@ -11,7 +11,7 @@
 
 namespace ostrel::calling {
 
-// Edge selects the end of each argument's memory that adjoins an unreadable page.
+// Edge selects which end of each argument's memory adjoins an unreadable page.
 enum class Edge { kEnd, kBegin };
 
 // GuardedMemory is memory between two unreadable pages. It grows as needed and is reused.

@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 
 void write(const char* file, const std::string& text) { std::ofstream(file) << text; }
 
-// enter_mount_namespace also enters a user namespace if the user may not create a mount namespace without
-// one. The user namespace grants the right to mount, and the user id stays the same.
+// enter_mount_namespace also enters a user namespace if the user is not permitted to create a mount namespace
+// without one. The user namespace grants the right to mount, and the user id stays the same.
 bool enter_mount_namespace()
 {
     const std::string user = std::to_string(geteuid());

@@ -8,7 +8,8 @@
 
 namespace ostrel::catalogue {
 
-// described accepts a description in which a buffer contains several strings.
+// A declaration does not show whether a buffer contains one string or several, so described accepts either in
+// the description.
 Function described(std::string_view name, std::string_view family, std::vector<Kind> kinds,
                    const void* address, int (*invoke)(std::span<const Raw>))
 {

@@ -10,8 +10,8 @@ namespace ostrel::catalogue {
 
 namespace {
 
-// No name is longer than kLongestName. Counting typing errors takes time proportional to the square of the
-// length.
+// No name is longer than kLongestName. Longer words are truncated, because the time needed to count typing
+// errors grows with the square of the length.
 constexpr std::size_t kLongestName = 64;
 constexpr std::size_t kMostShown = 3;
 // Shorter words are ignored, because a single letter occurs in nearly every name.
@@ -21,7 +21,7 @@ bool is_letter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z')
 bool is_capital(char c) { return c >= 'A' && c <= 'Z'; }
 
 // begins_word returns whether a word begins at that offset in a name. A word begins after a byte that is not
-// a letter, and at a capital letter that follows a small one.
+// a letter, and at a capital letter that follows a lower-case one.
 bool begins_word(std::string_view name, std::size_t at)
 {
     if (at == 0 || !is_letter(name[at - 1])) return true;

@@ -14,7 +14,7 @@ namespace ostrel::catalogue {
 std::string in_lower_case(std::string_view text);
 
 // find_in_any_case returns the function with exactly that name. If there is none, it returns the only
-// function whose name differs just in case, or NULL if there is no such function or more than one.
+// function whose name differs only in upper and lower case, or NULL unless there is exactly one.
 const Function* find_in_any_case(std::string_view name);
 
 // similar_names returns up to three names that contain the word in any case. If there are none, it returns up

@@ -21,7 +21,7 @@ install(FILES ${PROJECT_BINARY_DIR}/ostrel_check.pc DESTINATION ${CMAKE_INSTALL_
     COMPONENT development)
 
 if(OSTREL_BUILD_TOOLS)
-    # The program finds the library relative to its own location, so the tree can be moved.
+    # The program finds the library relative to its own location, so the installed tree can be moved.
     file(RELATIVE_PATH library_folder /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
     set_target_properties(ostrel-check PROPERTIES INSTALL_RPATH "$ORIGIN/${library_folder}")
     install(TARGETS ostrel-check RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)

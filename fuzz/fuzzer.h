@@ -35,8 +35,8 @@ class Fuzzer {
     RunResult run(std::string_view input, const rules::Build& build, rules::Counts* counts = nullptr,
                   rules::Counts* further = nullptr);
 
-    // fault describes the last input that differed. It returns the expected row, as in vectors/, and the
-    // actual one, or the fault in the reason.
+    // fault describes the last input whose results differed. It returns the expected row, as in vectors/, and
+    // the actual one, or the fault in the reason.
     [[nodiscard]] const std::string& fault() const { return fault_; }
 
     // encode returns the input for a call, or nothing if the function is not in this family or a string is

@@ -52,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         ostrel::fuzz::RunResult::kDiffered)
         return 0;
     const std::string& fault = fuzzer().fault();
-    // The stream of standard error is captured, but its descriptor is not.
+    // The standard error stream is captured, but its file descriptor is not.
     (void)!write(STDERR_FILENO, fault.data(), fault.size());
     std::abort();
 }

@@ -120,7 +120,7 @@ std::vector<Row> read_rows(const std::set<std::string>& modules)
         if (entry.path().extension() == ".ndjson" && (modules.empty() || modules.contains(folder)))
             files.insert(entry.path());
     }
-    // The faults in this module are reported before any other rows run.
+    // This module comes first, so that faults in it are reported before any other rows run.
     const char* const first = std::getenv("OSTREL_TEST_FIRST");  // NOLINT(concurrency-mt-unsafe)
     const auto comes_first = [&](const std::filesystem::path& file) {
         return first != nullptr && module_of(file) == first;

@@ -1,4 +1,4 @@
-// The rows of the files in this folder, and the results that they promise.
+// The rows in the files of this folder, and the results that the rows promise.
 #ifndef OSTREL_VECTORS_ROWS_H
 #define OSTREL_VECTORS_ROWS_H
 

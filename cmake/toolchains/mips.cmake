@@ -1,4 +1,4 @@
-# MIPS, 32 bits, big-endian
+# 32-bit big-endian MIPS
 set(OSTREL_TRIPLET mips-linux-gnu)
 set(OSTREL_EMULATOR qemu-mips)
 include(${CMAKE_CURRENT_LIST_DIR}/debian-cross.cmake)

@@ -1,4 +1,4 @@
-# MIPS, 32 bits, little-endian
+# 32-bit little-endian MIPS
 set(OSTREL_TRIPLET mipsel-linux-gnu)
 set(OSTREL_EMULATOR qemu-mipsel)
 include(${CMAKE_CURRENT_LIST_DIR}/debian-cross.cmake)

@@ -1,4 +1,4 @@
-# RISC-V, 64 bits
+# 64-bit RISC-V
 set(OSTREL_TRIPLET riscv64-linux-gnu)
 set(OSTREL_EMULATOR qemu-riscv64)
 include(${CMAKE_CURRENT_LIST_DIR}/debian-cross.cmake)
