@@ -12,8 +12,8 @@ namespace ostrel::calling {
 // open_stream opens a stream that passes the cookie and its output to a function, as fopencookie does.
 std::FILE* open_stream(cookie_write_function_t* write, void* cookie, int buffering);
 
-// Prints is memory for printed output. It should be in zeroed memory from mmap, whose untouched pages occupy
-// no space. Another process that shares this memory can read the output even after this process has ended.
+// Prints is memory for printed output. Place it in zeroed memory from mmap, whose untouched pages occupy no
+// space. Another process that shares this memory can read the output even after this process has ended.
 struct Prints {
     struct Text {
         static constexpr std::size_t kCapacity = std::size_t{32} << 20;

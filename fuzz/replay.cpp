@@ -104,7 +104,7 @@ class Replay {
 
     Totals totals()
     {
-        totals_.calls = fuzzer_.calls() / 2;  // each call was made twice, once with each edge
+        totals_.calls = fuzzer_.calls() / 2;  // each call was made twice, once for each edge
         totals_.refused = fuzzer_.refused();
         totals_.unproven = fuzzer_.follower().unproven();
         return std::move(totals_);
@@ -173,7 +173,8 @@ bool are_met(const rules::Counts& counts, const rules::Counts& further, const Re
     return below == 0;
 }
 
-// require_families throws if inputs are in a folder that is not named after a family, because they would never run.
+// require_families throws if inputs are in a folder that is not named after a family, because these inputs would
+// never run.
 void require_families(const std::vector<std::filesystem::path>& folders)
 {
     const std::vector<std::string_view> families = catalogue::families();

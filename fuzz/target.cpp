@@ -1,5 +1,5 @@
-// The fuzzer for the engines that call LLVMFuzzerTestOneInput: libFuzzer and AFL++. OSTREL_FUZZ_FAMILY names the family
-// of checks.
+// The fuzzer for the engines that call LLVMFuzzerTestOneInput: libFuzzer and AFL++. The environment variable
+// OSTREL_FUZZ_FAMILY names the family of checks.
 
 #include <unistd.h>
 

@@ -1,4 +1,4 @@
-// The values for which the steps of a check return 0.
+// Derivation of the values for which a check's steps return 0.
 #include "rules/acceptance.h"
 
 #include <algorithm>

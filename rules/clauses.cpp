@@ -1,4 +1,4 @@
-// Conditions in words.
+// Descriptions of conditions in words.
 
 #include "rules/datum.h"
 #include "rules/phrases.h"

@@ -1,4 +1,4 @@
-// Compound conditions in words: table rows, other checks, conjunctions and disjunctions.
+// Descriptions, in words, of compound conditions: table rows, other checks, conjunctions and disjunctions.
 #include <algorithm>
 
 #include "rules/phrases.h"

@@ -1,4 +1,4 @@
-// The steps of a check in words.
+// Descriptions of a check's steps in words.
 #include "rules/explain.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// The arguments of a check in words.
+// Descriptions of a check's arguments in words.
 #include <algorithm>
 
 #include "rules/explain.h"

@@ -1,4 +1,4 @@
-// Expressions, conditions and lines in words.
+// Descriptions of expressions, conditions and lines in words.
 #ifndef OSTREL_RULES_PHRASES_H
 #define OSTREL_RULES_PHRASES_H
 

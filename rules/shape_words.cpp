@@ -1,4 +1,4 @@
-// Shapes in words.
+// Descriptions of shapes in words.
 #include "rules/datum.h"
 #include "rules/phrases.h"
 

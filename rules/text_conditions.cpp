@@ -12,7 +12,7 @@ using Kind = Condition::Kind;
 
 constexpr auto kMissing = std::string_view::npos;
 
-// A search compares this many bytes of the part at a time and, in the worst case, does so at every offset.
+// A search compares this many bytes at a time. In the worst case, it compares the whole part at every offset.
 constexpr std::size_t kQuickBytes = 16;
 
 std::string one_byte(std::string_view text, std::size_t offset)

@@ -1,4 +1,4 @@
-// Strings and numbers in words.
+// Descriptions of strings and numbers in words.
 #include "rules/datum.h"
 #include "rules/phrases.h"
 

@@ -16,13 +16,13 @@
 
 namespace ostrel::vectors {
 
-// Promise is the result that a row states for its call.
+// Promise is the result that a row requires of its call.
 struct Promise {
     CallResult result;        // members that the row omits have their defaults
     bool is_written = false;  // false if the arguments are unchanged
 };
 
-// RowReason is the reason for a refusal that a row states. Members that do not apply are empty.
+// RowReason is the reason that a row contains for a refusal. Members that do not apply are empty.
 struct RowReason {
     std::string id;
     std::string argument;

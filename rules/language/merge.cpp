@@ -1,4 +1,4 @@
-// Simplification of the parts of choices and intersections.
+// Simplification of choices and intersections.
 
 #include <algorithm>
 

@@ -144,7 +144,7 @@ class Writer {
         return result.empty() ? std::string(kNever) : "(?:" + result + ")";
     }
 
-    // run_of returns the allowed bytes if a part restricts only bytes.
+    // run_of returns the allowed bytes if a part restricts only which bytes a string contains.
     std::optional<Set> run_of(Language part)
     {
         const Node& node = languages_.node(part);
