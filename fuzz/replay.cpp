@@ -173,8 +173,8 @@ bool are_met(const rules::Counts& counts, const rules::Counts& further, const Re
     return below == 0;
 }
 
-// require_families throws if inputs are in a folder that is not named after a family, because these inputs would
-// never run.
+// require_families throws if inputs are in a folder that is not named after a family, because these inputs
+// would never run.
 void require_families(const std::vector<std::filesystem::path>& folders)
 {
     const std::vector<std::string_view> families = catalogue::families();
