@@ -13,8 +13,8 @@ namespace ostrel::catalogue {
 // in_lower_case converts only ASCII letters.
 std::string in_lower_case(std::string_view text);
 
-// find_in_any_case returns the function with exactly that name. If there is none, it returns the only
-// function whose name differs only in upper and lower case, or NULL unless there is exactly one.
+// find_in_any_case returns the function with exactly that name. If there is none, it ignores case, and
+// returns NULL unless exactly one function matches.
 const Function* find_in_any_case(std::string_view name);
 
 // similar_names returns up to three names that contain the word in any case. If there are none, it returns up

@@ -164,7 +164,7 @@ Acceptance::Outcome Acceptance::repeat(const Step& step, Scope& scope)
 
 std::optional<Claim> Acceptance::for_items(const Term& list, const Step& step, Scope scope)
 {
-    // If the separator is also trimmed, empty items disappear, so the items cannot be derived from the list.
+    // If the separator is also trimmed, empty items are dropped, which Languages::items does not support.
     if (step.list->trimmed.contains(step.list->separator)) return std::nullopt;
     const bool is_of_target = list.kind == Term::Kind::kPart && list.variable == target_ && !list.is_integer;
     const std::size_t whole = target_;

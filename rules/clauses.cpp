@@ -196,7 +196,7 @@ Clause Speaker::outside_clause(const Condition& condition, bool holds) const
     const bool is_slice = judged.kind == Expression::Kind::kSlice && judged.of.size() == 3;
     const Expression* count = is_slice ? constant(judged.of[2]) : nullptr;
     if (count != nullptr && count->number == 1) {
-        // If the string ends before this offset, the slice is empty and contains no byte outside the set.
+        // If the string has no byte at this offset, the slice is empty and contains no byte outside the set.
         const Expression* offset = constant(judged.of[1]);
         const std::string none =
             offset != nullptr && offset->number == 0 ? value(judged.of[0]) + " is empty or " : "";
@@ -205,7 +205,7 @@ Clause Speaker::outside_clause(const Condition& condition, bool holds) const
     return {value(judged), (holds ? "contains a byte other than " : "contains only ") + allowed};
 }
 
-// is_beginning returns whether judged is the prefix, with the length of other, of some string.
+// is_beginning returns whether judged is a prefix that has the same length as other.
 bool Speaker::is_beginning(const Expression& judged, const Expression& other) const
 {
     if (judged.kind != Expression::Kind::kSlice || judged.of.size() < 3) return false;

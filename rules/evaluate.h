@@ -36,7 +36,7 @@ struct Answer {
     std::size_t flushed = 0;   // the number of bytes of out that were flushed
     std::vector<Value> after;  // the final contents of each argument that can be written to, in order
     Outside outside = Outside::kNo;
-    bool beyond_int = false;      // a number does not fit in an int, so the result may differ in other builds
+    bool beyond_int = false;      // a number read does not fit in an int, so other builds may differ
     Reason reason;                // the reason for the refusal, or for the value of outside
     std::vector<Reason> printed;  // the reasons of steps that printed or skipped an item
 

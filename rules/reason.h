@@ -38,7 +38,7 @@ struct Reason {
     Datum found;
     Datum allowed;
     std::optional<long long> read_as;  // the number that atoi reads, if the string is not exactly an int
-    std::string_view limit;  // for number_beyond_int, the id that the number read by atoi would have
+    std::string_view limit;  // for number_beyond_int, the id that applies to the number that atoi reads
 
     // clear resets the reason for reuse. A reason without an id is already empty.
     void clear()

@@ -111,8 +111,8 @@ class Keywords {
         }
     }
 
-    // look adds the words that a condition allows if it must hold or must fail, as holds states. If holds is
-    // not set, the condition only distinguishes cases, and look adds all its words.
+    // look adds the words that a condition allows, given that it must hold or must fail. If holds is not set,
+    // the condition only distinguishes cases, and look adds all its words.
     void look(const Condition& condition, std::optional<bool> holds)
     {
         for (const Condition& part : condition.parts) look(part, holds);

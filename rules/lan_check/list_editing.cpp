@@ -75,8 +75,8 @@ Check add_dns_servers()
               {refuse_repeated("newServers", "existingServers")})});
 }
 
-// The comparison with the first server is inverted, so an address with the length of the first server is
-// accepted unless it is equal to it.
+// The comparison with the first server is inverted, so an address that has the same length as the first
+// server but differs from it is accepted.
 Check delete_dns_server()
 {
     const Effects not_found = line(
