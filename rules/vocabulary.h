@@ -61,7 +61,7 @@ struct Step {
         kRemember,      // stores a string or a number under a name
         kWhen,          // executes the steps if the condition holds, and otherwise the other steps
         kForEach,       // executes the steps for each item
-        kReads,         // from here on, NULL is a memory fault or, if name is set, fails this assertion
+        kReads,         // from here on, NULL causes a memory fault or, if name is set, an assertion failure
         kNeverReturns,  // if the condition holds, the call does not return
     };
 
