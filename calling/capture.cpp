@@ -1,5 +1,6 @@
 #include "calling/capture.h"
 
+#include <stdio_ext.h>
 #include <sys/mman.h>
 #include <sys/types.h>
 
@@ -83,7 +84,8 @@ void Capture::clear()
 PrintedView Capture::look()
 {
     const std::size_t flushed = prints_->out.size;
-    std::fflush(stream_out_);
+    // Most checks print nothing, and the test takes less time than a flush.
+    if (__fpending(stream_out_) > 0) std::fflush(stream_out_);
     return {prints_->out.view(), flushed, prints_->err.view(), prints_->out.cut || prints_->err.cut};
 }
 

@@ -64,6 +64,7 @@ class Parts {
 void add_runs(const std::string& members, Parts& parts)
 {
     std::string single;
+    single.reserve(2 * members.size());
     for (std::size_t begin = 0; begin < members.size();) {
         std::size_t end = begin + 1;
         while (end < members.size() &&
@@ -74,12 +75,29 @@ void add_runs(const std::string& members, Parts& parts)
         if (end - begin >= 4 && !is_mark) {
             parts.add(bare(members[begin]).append(kTo).append(bare(members[end - 1])));
         } else {
-            for (std::size_t i = begin; i < end; ++i)
-                single += (single.empty() ? "" : " ") + bare(members[i]);
+            for (std::size_t i = begin; i < end; ++i) {
+                if (!single.empty()) single += ' ';
+                single += bare(members[i]);
+            }
         }
         begin = end;
     }
     if (!single.empty()) parts.add(single);
+}
+
+std::string described(const Set& set)
+{
+    if (set.empty()) return std::string(kNoBytes);
+    if (set.size() == 1) return byte_in_words(set.members().front());
+    Parts parts;
+    Set rest = set;
+    for (const Group& group : kGroups) {
+        if (!rest.contains(group.set)) continue;
+        parts.add(group.words);
+        rest = rest - group.set;
+    }
+    add_runs(rest.members(), parts);
+    return parts.take();
 }
 
 }  // namespace
@@ -93,14 +111,14 @@ std::size_t Set::size() const
 
 std::string Set::members() const
 {
-    std::string result;
-    result.reserve(size());
+    std::array<char, 256> found;
+    std::size_t count = 0;
     for (std::size_t i = 0; i < bits_.size(); ++i) {
         for (std::uint64_t rest = bits_[i]; rest != 0; rest &= rest - 1) {
-            result += static_cast<char>(i * 64 + static_cast<std::size_t>(std::countr_zero(rest)));
+            found[count++] = static_cast<char>(i * 64 + static_cast<std::size_t>(std::countr_zero(rest)));
         }
     }
-    return result;
+    return {found.data(), count};
 }
 
 std::size_t Set::find_outside(std::string_view text) const
@@ -113,17 +131,15 @@ std::size_t Set::find_outside(std::string_view text) const
 
 std::string in_words(const Set& set)
 {
-    if (set.empty()) return std::string(kNoBytes);
-    if (set.size() == 1) return byte_in_words(set.members().front());
-    Parts parts;
-    Set rest = set;
-    for (const Group& group : kGroups) {
-        if (!rest.contains(group.set)) continue;
-        parts.add(group.words);
-        rest = rest - group.set;
-    }
-    add_runs(rest.members(), parts);
-    return parts.take();
+    // The descriptions have few sets, and a set recurs in many reasons.
+    struct Known {
+        Set set;
+        std::string words = described(Set());
+    };
+    thread_local std::array<Known, 32> recent;
+    Known& known = recent[set.hash() % recent.size()];
+    if (known.set != set) known = {set, described(set)};
+    return known.words;
 }
 
 std::string bare(char byte)

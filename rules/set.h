@@ -51,6 +51,14 @@ class Set {
     [[nodiscard]] std::size_t size() const;
     [[nodiscard]] bool empty() const { return *this == Set(); }
 
+    // hash returns a number that differs for most sets.
+    [[nodiscard]] constexpr std::size_t hash() const
+    {
+        std::uint64_t mixed = 0;
+        for (const std::uint64_t word : bits_) mixed = (mixed ^ word) * 0x9E3779B97F4A7C15;
+        return static_cast<std::size_t>(mixed >> 32);
+    }
+
     // members lists the bytes in order.
     [[nodiscard]] std::string members() const;
 

@@ -27,13 +27,20 @@ std::unique_ptr<Arena, Unmap> map_arena()
     return std::unique_ptr<Arena, Unmap>(new (memory) Arena);
 }
 
-void release_pages(char* begin, std::size_t capacity, std::size_t size)
+void release_pages(char* begin, std::size_t used, std::size_t kept)
 {
+    if (used <= kept) return;
     const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
     const auto address = reinterpret_cast<std::uintptr_t>(begin);
-    const std::uintptr_t from = (address + size + page - 1) / page * page;
-    const std::uintptr_t to = (address + capacity) / page * page;
+    const std::uintptr_t from = (address + kept + page - 1) / page * page;
+    const std::uintptr_t to = (address + used) / page * page;
     if (from < to) madvise(begin + (from - address), to - from, MADV_REMOVE);
+}
+
+void release_prints(calling::Prints& prints)
+{
+    release_pages(prints.out.bytes, prints.out.size, kChunk);
+    release_pages(prints.err.bytes, prints.err.size, kChunk);
 }
 
 }  // namespace ostrel::tool

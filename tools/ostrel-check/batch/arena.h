@@ -99,9 +99,12 @@ struct Unmap {
 // map_arena throws std::system_error.
 std::unique_ptr<Arena, Unmap> map_arena();
 
-// release_pages returns the pages of one of the arena's arrays to the system, except those that contain its
-// first size bytes.
-void release_pages(char* begin, std::size_t capacity, std::size_t size);
+// release_pages returns pages of one of the arena's arrays to the system: those that were used, except those
+// that contain the first kept bytes.
+void release_pages(char* begin, std::size_t used, std::size_t kept);
+
+// release_prints does this with what the last call printed.
+void release_prints(calling::Prints& prints);
 
 }  // namespace ostrel::tool
 

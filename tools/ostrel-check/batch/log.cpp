@@ -74,17 +74,24 @@ void LogWriter::add(Log::Size& size, const SummaryRow& row, std::uint32_t lines,
     key_.append(reinterpret_cast<const char*>(&row.code), sizeof row.code);
     key_ += static_cast<char>(row.verdict);
     key_.append(row.reason).append(1, '\0').append(row.parameter);
-    auto found = known_.find(key_);
-    if (found == known_.end()) {
-        if (known_.size() == kMostKnown) known_.clear();
+    KnownRow*& known = last_known_[row.check % last_known_.size()];
+    if (known == nullptr || known->first != key_) {
+        const auto found = known_.find(key_);
+        known = found == known_.end() ? nullptr : &*found;
+    }
+    if (known == nullptr) {
+        if (known_.size() == kMostKnown) {
+            known_.clear();
+            last_known_.fill(nullptr);
+        }
         const std::string told = example();
         SummaryRow with_example = row;
         with_example.example = told;
-        found = known_.emplace(key_, Known{round_, append(size, with_example)}).first;
-    } else if (found->second.round != round_) {
-        found->second = {round_, append(size, row)};
+        known = &*known_.emplace(key_, Known{round_, append(size, with_example)}).first;
+    } else if (known->second.round != round_) {
+        known->second = {round_, append(size, row)};
     }
-    log_->entries[size.entries++] = {found->second.row, lines, static_cast<std::uint32_t>(written), {}};
+    log_->entries[size.entries++] = {known->second.row, lines, static_cast<std::uint32_t>(written), {}};
 }
 
 void LogWriter::add_end(Log::Size& size, std::uint32_t lines, std::size_t written,

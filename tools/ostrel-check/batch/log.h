@@ -78,11 +78,14 @@ class LogWriter {
         std::uint32_t row = 0;
     };
 
+    using KnownRow = std::pair<const std::string, Known>;
+
     std::uint32_t append(Log::Size& size, const SummaryRow& row);
 
     Log* log_;
     std::uint64_t round_ = 1;
     std::unordered_map<std::string, Known> known_;
+    std::array<KnownRow*, 256> last_known_{};  // the last one of each check, which often is the next one too
     std::string key_;
 };
 

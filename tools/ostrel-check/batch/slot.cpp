@@ -124,8 +124,9 @@ void Slot::conclude(Verdict verdict, std::string problem)
     explain(result);
     Redactor redactor;
     if (rules_->style.redacts) redactor.redact(result, rules_->style.encoding);
-    append_result(conclusion_, rules_->style,
-                  {rules_->files[arena_->file], progress.line + cases_.record().line}, result);
+    std::string memory;
+    conclusion_ += render_result(memory, rules_->style,
+                                 {rules_->files[arena_->file], progress.line + cases_.record().line}, result);
     const std::uint64_t line = progress.next;
     progress.advance(text, !text.empty() && cases_.has_more(), cases_.record());
     ++progress.cases;
@@ -134,6 +135,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
         .add(progress.log, row_of(result, parameter), static_cast<std::uint32_t>(progress.next - line),
              progress.written + conclusion_.size(),
              [&] { return example_of(result, rules_->style.encoding); });
+    release_prints(arena_->prints);
     arena_->commit(progress);
 }
 
@@ -203,6 +205,7 @@ Taken Slot::take(int descriptor, Summary& summary)
         taken.is_within_line = false;
         ++taken.line;
     }
+    release_pages(arena_->output.data(), progress.written, kEnoughOutput);
     progress.cases = 0;
     progress.refused = 0;
     progress.written = 0;
@@ -210,19 +213,11 @@ Taken Slot::take(int descriptor, Summary& summary)
     arena_->commit(progress);
     if (taken.error != 0 || (arena_->is_to_stop() && !progress.is_within)) return taken;
     if (arena_->rest_of_input().empty()) {
-        return_memory();
+        release_pages(arena_->input.data(), arena_->input_size, kChunk);
     } else {
         start_round();
     }
     return taken;
-}
-
-void Slot::return_memory()
-{
-    release_pages(arena_->output.data(), arena_->output.size(), kEnoughOutput);
-    release_pages(arena_->input.data(), arena_->input.size(), kChunk);
-    release_pages(arena_->prints.out.bytes, sizeof arena_->prints.out.bytes, kChunk);
-    release_pages(arena_->prints.err.bytes, sizeof arena_->prints.err.bytes, kChunk);
 }
 
 }  // namespace ostrel::tool

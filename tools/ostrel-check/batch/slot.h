@@ -77,7 +77,6 @@ class Slot {
     void conclude(Verdict verdict, std::string problem);
     std::size_t write_out(int descriptor, int& error);
     std::uint32_t count(std::size_t written, Summary& summary);
-    void return_memory();
 
     const Rules* rules_;
     std::unique_ptr<Arena, Unmap> arena_;

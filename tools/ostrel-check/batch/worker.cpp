@@ -83,6 +83,7 @@ class Judge {
         result_.values = &cases_.values();
         judge_case(progress);
         write(progress);
+        release_prints(arena_->prints);
         return cases_.has_more();
     }
 
@@ -149,17 +150,16 @@ class Judge {
 
     void write(Progress& progress)
     {
-        text_.clear();
         result_.record = &cases_.record();
         if (style_.redacts) redactor_.redact(result_, style_.encoding);
-        append_result(text_, style_, {(*files_)[arena_->file], progress.line + cases_.record().line},
-                      result_);
-        if (text_.size() > kOutput - kMostOutput) {
+        const std::string_view text = render_result(
+            text_, style_, {(*files_)[arena_->file], progress.line + cases_.record().line}, result_);
+        if (text.size() > kOutput - kMostOutput) {
             refuse_record("the result is too long to be written", progress);
             return;
         }
-        std::memcpy(arena_->output.data() + progress.written, text_.data(), text_.size());
-        progress.written += text_.size();
+        std::memcpy(arena_->output.data() + progress.written, text.data(), text.size());
+        progress.written += text.size();
         ++progress.cases;
         if (result_.verdict == Verdict::kRefused) ++progress.refused;
         if (text_.capacity() > kEnoughOutput) text_ = std::string();

@@ -136,7 +136,7 @@ void JsonObject::pass(std::string_view token)
     if (kinds_.has_controls) {
         token = items_.compact(token);
     }
-    record_->members.push_back({name_, token, true});
+    record_->members.push_back({name_, token, true, !kinds_.has_backslashes});
 }
 
 }  // namespace ostrel::tool

@@ -23,27 +23,29 @@ std::string describe(rapidjson::ParseErrorCode error)
 
 ByteKinds kinds_in(std::string_view text)
 {
-    constexpr std::uint64_t kOnes = 0x0101010101010101;
-    constexpr std::uint64_t kHighs = 0x80 * kOnes;
-    std::uint64_t high = 0;
-    std::uint64_t low = 0;
-    std::uint64_t backslash = 0;
-    const auto look = [&](std::uint64_t eight) {
-        // The subtraction borrows from the next byte only if the mark is already set.
-        high |= eight;
-        low |= (eight - 0x20 * kOnes) & ~eight;
-        const std::uint64_t other = eight ^ ('\\' * kOnes);
-        backslash |= (other - kOnes) & ~other;
+    // The compiler uses the processor's vector instructions for such a block.
+    using Block = unsigned char __attribute__((vector_size(16)));
+    Block controls{};
+    Block backslashes{};
+    Block high_bytes{};
+    const auto look = [&](const Block& block) {
+        controls |= static_cast<Block>(block < 0x20);
+        backslashes |= static_cast<Block>(block == '\\');
+        high_bytes |= block & 0x80;
     };
-    std::uint64_t eight = 0;
-    for (; text.size() >= sizeof eight; text.remove_prefix(sizeof eight)) {
-        std::memcpy(&eight, text.data(), sizeof eight);
-        look(eight);
+    Block block{};
+    for (; text.size() >= sizeof block; text.remove_prefix(sizeof block)) {
+        std::memcpy(&block, text.data(), sizeof block);
+        look(block);
     }
-    eight = ' ' * kOnes;
-    std::memcpy(&eight, text.data(), text.size());
-    look(eight);
-    return {(low & kHighs) != 0, (backslash & kHighs) != 0, (high & kHighs) != 0};
+    block = Block{} + static_cast<unsigned char>(' ');
+    std::memcpy(&block, text.data(), text.size());
+    look(block);
+    const auto is_any = [](const Block& bytes) {
+        constexpr Block kNone{};
+        return std::memcmp(&bytes, &kNone, sizeof bytes) != 0;
+    };
+    return {is_any(controls), is_any(backslashes), is_any(high_bytes)};
 }
 
 ByteKinds require_json(std::string_view text)

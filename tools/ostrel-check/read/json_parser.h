@@ -5,7 +5,10 @@
 #include <rapidjson/reader.h>
 #include <rapidjson/stream.h>
 
+#include <bit>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -15,6 +18,32 @@ namespace ostrel::tool {
 // beyond it.
 inline constexpr std::size_t kDeepest = 32;
 
+// plain_size returns the size of the longest prefix that JSON strings contain without escapes.
+inline std::size_t plain_size(std::string_view text)
+{
+    constexpr std::uint64_t kOnes = 0x0101010101010101;
+    constexpr std::uint64_t kHighs = 0x80 * kOnes;
+    // A subtraction borrows from the next byte only if a lower byte has been marked.
+    const auto mark_below = [&](std::uint64_t bytes, std::uint64_t limit) {
+        return (bytes - limit * kOnes) & ~bytes & kHighs;
+    };
+    std::size_t size = 0;
+    for (; size + 8 <= text.size(); size += 8) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, text.data() + size, sizeof eight);
+        const std::uint64_t marks =
+            mark_below(eight, ' ') | mark_below(eight ^ '"' * kOnes, 1) | mark_below(eight ^ '\\' * kOnes, 1);
+        if (marks == 0) continue;
+        if (std::endian::native != std::endian::little) break;
+        return size + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+    }
+    const auto is_plain = [](char c) {
+        return static_cast<unsigned char>(c) >= ' ' && c != '"' && c != '\\';
+    };
+    while (size < text.size() && is_plain(text[size])) ++size;
+    return size;
+}
+
 // TokenStream hides all but the first of several consecutive digits from the parser, unless the first is 0.
 // The parser computes the value of each number, although only the token is needed, and refuses a number that
 // no double can represent. If digits are hidden, the value is small, but the parser finds the same end and
@@ -22,7 +51,7 @@ inline constexpr std::size_t kDeepest = 32;
 // because decoding does not move those bytes.
 class TokenStream : public rapidjson::InsituStringStream {
  public:
-    explicit TokenStream(char* text) : GenericInsituStringStream(text) {}
+    TokenStream(char* text, std::size_t size) : GenericInsituStringStream(text), end_(text + size) {}
 
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
     char Take()
@@ -42,9 +71,7 @@ class TokenStream : public rapidjson::InsituStringStream {
         char* const begin = GenericInsituStringStream::PutBegin();
         const bool is_string = begin != head_ && begin[-1] == '"';
         if (!is_string) return begin;
-        char* at = begin;
-        while (*at != '"' && *at != '\\' && static_cast<unsigned char>(*at) >= 0x20) ++at;
-        src_ = dst_ = at;
+        src_ = dst_ = begin + plain_size({begin, end_});
         return begin;
     }
     std::size_t PutEnd(char* begin)
@@ -54,15 +81,30 @@ class TokenStream : public rapidjson::InsituStringStream {
         return size;
     }
     // NOLINTEND(bugprone-derived-method-shadowing-base-method)
+
+ private:
+    const char* end_;
 };
 
 }  // namespace ostrel::tool
 
+namespace rapidjson {
+
 // copyOptimization makes the parser work on a copy of the stream, which the compiler can keep in registers.
 template <>
-struct rapidjson::StreamTraits<ostrel::tool::TokenStream> {
+struct StreamTraits<ostrel::tool::TokenStream> {
     enum { copyOptimization = 1 };  // NOLINT(readability-identifier-naming)
 };
+
+// RapidJSON's own version is not inlined, and copies the stream for what is usually one space or none.
+template <>
+inline void SkipWhitespace(ostrel::tool::TokenStream& stream)
+{
+    const auto is_blank = [](char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; };
+    while (is_blank(*stream.src_)) ++stream.src_;
+}
+
+}  // namespace rapidjson
 
 namespace ostrel::tool {
 
@@ -74,7 +116,7 @@ class JsonParser {
     rapidjson::ParseResult parse(std::string_view text, Handler& handler)
     {
         copy_.assign(text);
-        TokenStream stream(copy_.data());
+        TokenStream stream(copy_.data(), copy_.size());
         stream_ = &stream;
         rapidjson::Reader reader;
         return reader.Parse<rapidjson::kParseInsituFlag | rapidjson::kParseNumbersAsStringsFlag>(stream,

@@ -29,6 +29,7 @@ struct Member {
     std::string_view name;   // in UTF-8, without escapes
     std::string_view value;  // JSON or plain text, as in the file
     bool is_json = false;
+    bool has_plain_name = false;  // the name is known to need no escapes in JSON
 };
 
 // GatewayCounts counts what a gateway's dump contains apart from judged values.

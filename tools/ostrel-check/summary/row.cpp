@@ -44,24 +44,26 @@ catalogue::Value shortened(const catalogue::Value& value)
     return result;
 }
 
-// append_valid appends text, and writes bytes that are not valid UTF-8 as \xNN.
-void append_valid(std::string& out, std::string_view text)
+// escaped_text returns text with \xNN in place of each byte that is not valid UTF-8.
+std::string escaped_text(std::string_view text)
 {
+    std::string out;
     while (!text.empty()) {
         const std::size_t valid = valid_utf8(text);
         out += text.substr(0, valid);
         text.remove_prefix(valid);
-        if (text.empty()) return;
+        if (text.empty()) break;
         append_escaped(out, text.substr(0, 1), 1);
         text.remove_prefix(1);
     }
+    return out;
 }
 
 // member_text returns a member of the record as text, or an empty string if the record has no such member.
-std::string member_text(const Result& result, std::string_view name)
+std::string_view member_text(const Result& result, std::string_view name, std::string& memory)
 {
     const Member* member = result.record == nullptr ? nullptr : result.record->find(name);
-    return member == nullptr ? "" : text_of(*member);
+    return member == nullptr ? "" : text_of(*member, memory);
 }
 
 }  // namespace
@@ -69,16 +71,18 @@ std::string member_text(const Result& result, std::string_view name)
 void append_counted_parameter(std::string& out, std::string_view path)
 {
     path = cut_text(path, kLongestPath);
+    std::string escaped;
+    if (valid_utf8(path) < path.size()) path = escaped = escaped_text(path);
     // The first name is the name of the tree, never an instance.
     const std::size_t root = std::min(path.find('.'), path.size());
-    append_valid(out, path.substr(0, root));
+    out += path.substr(0, root);
     path.remove_prefix(root);
     while (!path.empty()) {
         path.remove_prefix(1);
         const std::string_view name = path.substr(0, path.find('.'));
         path.remove_prefix(name.size());
         out += '.';
-        append_valid(out, is_instance(name) ? "{i}" : name);
+        out += is_instance(name) ? "{i}" : name;
     }
 }
 
@@ -93,8 +97,8 @@ SummaryRow row_of(const Result& result, std::string& parameter)
     if (is_code(result.verdict)) row.code = result.code;
     row.reason = result.why.reason.id;
     parameter.clear();
-    if (result.record != nullptr && !result.record->members.empty())
-        append_counted_parameter(parameter, member_text(result, "parameter"));
+    std::string memory;
+    append_counted_parameter(parameter, member_text(result, "parameter", memory));
     row.parameter = parameter;
     return row;
 }
@@ -120,7 +124,8 @@ std::string example_of(const Result& result, Encoding encoding)
         json.plain(name);
         write_text(json, cut_text(text, 4 * kLongestShown));
     };
-    add("id", member_text(result, "id"));
+    std::string memory;
+    add("id", member_text(result, "id", memory));
     if (result.verdict != Verdict::kMalformed) {
         json.plain("args");
         json.StartArray();

@@ -1,36 +1,12 @@
 #include "write/json_writer.h"
 
-#include <cstdint>
-#include <cstring>
+#include <utility>
 
 #include "read/json_parser.h"
 #include "rules/reason_json.h"
 #include "write/show.h"
 
 namespace ostrel::tool {
-
-namespace {
-
-// needs_no_escapes checks eight bytes at a time.
-bool needs_no_escapes(std::string_view text)
-{
-    constexpr std::uint64_t kOnes = 0x0101010101010101;
-    constexpr std::uint64_t kHighs = 0x80 * kOnes;
-    const auto has_zero = [](std::uint64_t eight) { return (eight - kOnes) & ~eight & kHighs; };
-    std::size_t at = 0;
-    for (; at + 8 <= text.size(); at += 8) {
-        std::uint64_t eight = 0;
-        std::memcpy(&eight, text.data() + at, sizeof eight);
-        const std::uint64_t is_low = (eight - 0x20 * kOnes) & ~eight & kHighs;
-        if ((is_low | has_zero(eight ^ '"' * kOnes) | has_zero(eight ^ '\\' * kOnes)) != 0) return false;
-    }
-    for (const char c : text.substr(at)) {
-        if (static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\') return false;
-    }
-    return true;
-}
-
-}  // namespace
 
 void JsonWriter::raw(std::string_view json)
 {
@@ -40,7 +16,7 @@ void JsonWriter::raw(std::string_view json)
 
 void JsonWriter::text(std::string_view text)
 {
-    if (needs_no_escapes(text)) {
+    if (plain_size(text) == text.size()) {
         plain(text);
     } else {
         String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
@@ -127,18 +103,21 @@ struct StringReader : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, StringRead
 
 }  // namespace
 
-std::string text_of(const Member& member)
+std::string_view text_of(const Member& member, std::string& memory)
 {
-    if (member.is_json && member.value.starts_with('"') && member.value.find('\\') == std::string_view::npos)
-        return std::string(member.value.substr(1, member.value.size() - 2));
+    const std::string_view value = member.value;
+    if (member.is_json && !value.starts_with('"')) return value;
+    if (member.is_json && value.find('\\') == std::string_view::npos)
+        return value.substr(1, value.size() - 2);
+    if (!member.is_json && valid_utf8(value) == value.size()) return value;
     rapidjson::StringBuffer buffer;
     JsonWriter json(buffer);
     write_member(json, member);
     const std::string_view token(buffer.GetString(), buffer.GetSize());
-    if (!token.starts_with('"')) return std::string(token);
+    if (!token.starts_with('"')) return memory.assign(token);
     StringReader text;
     JsonParser().parse(token, text);
-    return text.text;
+    return memory = std::move(text.text);
 }
 
 }  // namespace ostrel::tool

@@ -22,7 +22,7 @@ class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
     using Writer::Writer;
 
     // plain writes a string that is known to need no escapes, such as the name of a member or of a verdict.
-    void plain(std::string_view text)
+    [[gnu::always_inline]] void plain(std::string_view text)
     {
         Prefix(rapidjson::kStringType);
         char* place = os_->Push(text.size() + 2);
@@ -58,8 +58,9 @@ void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encod
 // write_member writes the value of a member that is passed through.
 void write_member(JsonWriter& json, const Member& member);
 
-// text_of returns the value of a member that is passed through, as JSON unless it is a string.
-std::string text_of(const Member& member);
+// text_of returns the value of a member that is passed through, as JSON unless it is a string. The result is a
+// view of the member or of memory.
+std::string_view text_of(const Member& member, std::string& memory);
 
 // append_bytes does the same as write_bytes for JSON that is built without a writer.
 void append_bytes(std::string& out, std::string_view bytes, Encoding encoding);

@@ -6,22 +6,24 @@
 
 namespace ostrel::tool {
 
-void append_result(std::string& out, const Style& style, const Location& place, const Result& result)
+std::string_view render_result(std::string& memory, const Style& style, const Location& place,
+                               const Result& result)
 {
-    if (style.no_results) return;
-    if (style.only_refused && exit_code(result.verdict) == kExitAccepted) return;
+    if (style.no_results) return {};
+    if (style.only_refused && exit_code(result.verdict) == kExitAccepted) return {};
+    memory.clear();
     switch (style.format) {
         case Format::kTable:
-            append_row(out, style, place, result);
+            append_row(memory, style, place, result);
             break;
         case Format::kCsv:
-            append_csv(out, style, place, result);
+            append_csv(memory, style, place, result);
             break;
         case Format::kJson:
         case Format::kStream:
-            append_json(out, style, place, result);
-            break;
+            return json_line(style, place, result);
     }
+    return memory;
 }
 
 }  // namespace ostrel::tool

@@ -34,8 +34,9 @@ struct Location {
     std::uint64_t line = 0;
 };
 
-// append_result appends a result in that style.
-void append_result(std::string& out, const Style& style, const Location& place, const Result& result);
+// render_result returns a result in that style. The view refers to memory, or is valid until the next call.
+std::string_view render_result(std::string& memory, const Style& style, const Location& place,
+                               const Result& result);
 
 }  // namespace ostrel::tool
 

@@ -43,7 +43,8 @@ std::string in_json(const auto& write)
 void append_passed(std::string& out, const Result& result, std::string_view name)
 {
     const Member* member = result.record == nullptr ? nullptr : result.record->find(name);
-    append_column(out, member == nullptr ? "" : text_of(*member));
+    std::string memory;
+    append_column(out, member == nullptr ? "" : text_of(*member, memory));
 }
 
 bool has_column(const Member& member) { return member.name == "id" || member.name == "parameter"; }

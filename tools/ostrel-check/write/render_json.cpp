@@ -17,7 +17,13 @@ constexpr std::array<std::string_view, 16> kOwn = {"file",   "line",    "check",
                                                    "reason", "remarks", "out",   "flushed", "err",  "cut",
                                                    "after",  "args",    "given", "tried"};
 
-bool is_own(std::string_view name) { return std::ranges::find(kOwn, name) != kOwn.end(); }
+bool is_own(std::string_view name)
+{
+    // Most members are ruled out by their length.
+    constexpr auto kSizes = std::ranges::minmax(kOwn, {}, &std::string_view::size);
+    if (name.size() < kSizes.min.size() || name.size() > kSizes.max.size()) return false;
+    return std::ranges::find(kOwn, name) != kOwn.end();
+}
 
 // ResultLine writes one line after another and reuses its memory.
 class ResultLine {
@@ -35,7 +41,7 @@ class ResultLine {
         json_.Reset(buffer_);
         encoding_ = style.encoding;
         json_.StartObject();
-        if (style.format != Format::kStream) member("file", place.file);
+        if (style.format != Format::kStream) write_file(place.file);
         json_.plain("line");
         json_.Uint64(place.line);
         write_passed(result);
@@ -55,6 +61,21 @@ class ResultLine {
         write_text(json_, text);
     }
 
+    // write_file reuses what it wrote for the same file.
+    void write_file(std::string_view file)
+    {
+        if (file_member_.empty() || file != file_) {
+            rapidjson::StringBuffer buffer;
+            JsonWriter json(buffer);
+            json.StartObject();
+            json.plain("file");
+            write_text(json, file);
+            file_ = file;
+            file_member_ = std::string_view(buffer.GetString(), buffer.GetSize()).substr(1);
+        }
+        json_.members(file_member_);
+    }
+
     void write_passed(const Result& result)
     {
         if (result.record == nullptr) return;
@@ -64,7 +85,11 @@ class ResultLine {
                 has_own = true;
                 continue;
             }
-            json_.text(passed.name);
+            if (passed.has_plain_name) {
+                json_.plain(passed.name);
+            } else {
+                json_.text(passed.name);
+            }
             write_member(json_, passed);
         }
         if (!has_own) return;
@@ -142,15 +167,17 @@ class ResultLine {
 
     rapidjson::StringBuffer buffer_;
     JsonWriter json_;
+    std::string file_;
+    std::string file_member_;  // as JSON
     Encoding encoding_ = Encoding::kUtf8;
 };
 
 }  // namespace
 
-void append_json(std::string& out, const Style& style, const Location& place, const Result& result)
+std::string_view json_line(const Style& style, const Location& place, const Result& result)
 {
     static ResultLine line;
-    out += line.write(style, place, result);
+    return line.write(style, place, result);
 }
 
 }  // namespace ostrel::tool

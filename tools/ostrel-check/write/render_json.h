@@ -8,7 +8,8 @@
 
 namespace ostrel::tool {
 
-void append_json(std::string& out, const Style& style, const Location& place, const Result& result);
+// json_line returns a view that is valid until the next call.
+std::string_view json_line(const Style& style, const Location& place, const Result& result);
 
 }  // namespace ostrel::tool
 

@@ -53,7 +53,8 @@ void append_whose(std::string& out, const Result& result)
         const Member* member = result.record->find(name);
         if (member == nullptr || member->value.empty()) continue;
         if (has_name) out += ' ';
-        append_escaped(out, text_of(*member), kLongestShown);
+        std::string memory;
+        append_escaped(out, text_of(*member, memory), kLongestShown);
         has_name = true;
     }
     if (has_name) out += ": ";
