@@ -2,6 +2,8 @@
 
 #include <rapidjson/error/en.h>
 
+#include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <stdexcept>
@@ -42,8 +44,8 @@ ByteKinds kinds_in(std::string_view text)
     std::memcpy(&block, text.data(), text.size());
     look(block);
     const auto is_any = [](const Block& bytes) {
-        constexpr Block kNone{};
-        return std::memcmp(&bytes, &kNone, sizeof bytes) != 0;
+        const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(bytes);
+        return (halves[0] | halves[1]) != 0;
     };
     return {is_any(controls), is_any(backslashes), is_any(high_bytes)};
 }

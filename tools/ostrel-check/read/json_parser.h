@@ -98,10 +98,10 @@ struct StreamTraits<ostrel::tool::TokenStream> {
 
 // RapidJSON's own version is not inlined, and copies the stream for what is usually one space or none.
 template <>
-inline void SkipWhitespace(ostrel::tool::TokenStream& stream)
+inline void SkipWhitespace(ostrel::tool::TokenStream& is)
 {
     const auto is_blank = [](char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; };
-    while (is_blank(*stream.src_)) ++stream.src_;
+    while (is_blank(*is.src_)) ++is.src_;
 }
 
 }  // namespace rapidjson
