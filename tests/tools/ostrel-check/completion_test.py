@@ -145,7 +145,7 @@ class Zsh(Completion, unittest.TestCase):
         shown = self.shell.offered("ostrel-check batch --enc").replace("\r", "")
         self.assertIn("ostrel-check batch --encoding", shown)
         shown = self.shell.offered("ostrel-check batch --s")
-        for option, what in (("--stream", "A line of JSON for each record"),
+        for option, what in (("--stream", "Print a line of JSON per record"),
                              ("--strict", "Refuse unknown and duplicate members"),
                              ("--summary-file", "Write the summary to this file")):
             self.assertRegex(shown, option + " +-- " + what)

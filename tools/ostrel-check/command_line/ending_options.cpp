@@ -19,27 +19,27 @@ void add_summary(CLI::App& app, EndingOptions& options)
 
 void add_call_options(CLI::App& app, Manner& manner, std::optional<std::string>& channels)
 {
-    app.add_option("--limit-time", manner.limit, "Time limit of a call (2)")
+    app.add_option("--limit-time", manner.limit, "Limit the time of each call (2)")
         ->check(CLI::Range(0.001, 86400.0).description(""))
         ->type_name("SECONDS");
-    app.add_option("--channels", channels, "Channels that the wireless driver is to list")->type_name("LIST");
-    app.add_flag("--try", manner.tries_known, "Make calls that are known not to return");
+    app.add_option("--channels", channels, "Replace the wireless driver's channel list")->type_name("LIST");
+    app.add_flag("--try", manner.tries_known, "Make calls even if they are known not to return");
 }
 
 void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules)
 {
     add_summary(batch, options);
-    batch.add_flag("--summary-only", rules.style.no_results, "Write the summary alone")->excludes("--stream");
+    batch.add_flag("--summary-only", rules.style.no_results, "Write only the summary")->excludes("--stream");
     batch.add_option("--summary-file", options.closing.file, "Write the summary to this file")
         ->type_name("FILE");
-    batch.add_flag("--exit-zero", options.closing.exits_with_zero, "Exit with 0 whatever the verdicts are");
+    batch.add_flag("--exit-zero", options.closing.exits_with_zero, "Ignore verdicts in the exit code");
     batch.add_flag("--redact", rules.style.redacts, "Replace secret values with their length");
-    batch.add_option("--start-line", rules.start_line, "First line to judge, of the first file (1)")
+    batch.add_option("--start-line", rules.start_line, "Start at this line of the first file (1)")
         ->check(CLI::Range(std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max()).description(""))
         ->type_name("N");
     batch
         .add_option("--number-lines-from", rules.first_number,
-                    "Number of the first line of the first file (1)")
+                    "Number the first file's lines from N (1)")
         ->check(CLI::Range(std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max()).description(""))
         ->type_name("N");
 }

@@ -4,11 +4,11 @@ namespace ostrel::tool {
 
 std::string_view main_help()
 {
-    return R"(Everything after NAME is a value and is passed as it is, even with a leading
-"-". The word @null passes NULL, and @@null passes the text "@null". With
+    return R"(Everything after NAME is a value and is passed unchanged, even with a leading
+"-". The word @null passes NULL, and @@null passes the string "@null". With
 --escapes, values may contain \xNN, \n, \r, \t and \\. Arguments marked :number
-take a decimal number, or a hexadecimal one after 0x. Options come before NAME.
-A line after "library:" is one that the library itself printed.
+must be decimal numbers, or hexadecimal ones that begin with 0x. Options come
+before NAME. Text after "library:" was printed by the library itself.
 
 Examples:
   ostrel-check PARAM_check_port 8080
@@ -23,21 +23,21 @@ Examples:
   ostrel-check batch settings.txt
   some-program | ostrel-check batch --json
 
-Exit code: 0 accepted (or the answer is a number), 1 refused, 2 wrong usage,
-3 the check ended the process or did not return. Colours are used at terminals,
-unless NO_COLOR is set.)";
+Exit code: 0 accepted (or the check returns a number), 1 refused, 2 wrong usage,
+3 the check ended the process or did not return. Output on a terminal is in
+colour unless NO_COLOR is set.)";
 }
 
 std::string_view batch_help()
 {
-    return R"(A file is in one of five formats. --format names it; otherwise the name of the
-file decides (.ndjson, .jsonl, .json, .csv, .tsv), then its first bytes. Files
-are in UTF-8. With --encoding latin-1 the characters of texts become bytes of
-Latin-1, in every format.
+    return R"(There are five file formats. Without --format, the extension of a file decides
+(.ndjson, .jsonl, .json, .csv, .tsv), or else its first bytes. Files are in
+UTF-8. With --encoding latin-1, values are converted to Latin-1, whatever the
+format.
 
 words: each line is a case. Empty lines and comments (#) are skipped. Words are
-quoted as for a shell, and may contain the escapes \xNN, \n, \r, \t, \\ outside
-'single quotes'. @null is NULL, and "@null" is the text. A line may also be a
+quoted as in a shell, and may contain the escapes \xNN, \n, \r, \t, \\ outside
+'single quotes'. @null is NULL, and "@null" is that string. A line may also be a
 JSON object:
 
   PARAM_check_port 8080             # a comment
@@ -45,47 +45,47 @@ JSON object:
   TcmValidatePPPPassword caf\xE9
 
 ndjson: each line is a JSON object. Numbers, true and false are passed as they
-are written. {"base64": "..."} passes any bytes. Results repeat all other
-members:
+are written. {"base64": "..."} passes arbitrary bytes. Results repeat all other
+members of the object:
 
   {"id": 1, "check": "PARAM_check_num_range", "args": ["15", 1, 20]}
   {"check": "PARAM_check_port", "args": [null]}
 
 json: an array of such objects, or a sequence of them, on any number of lines.
 
-csv, tsv: a header, then a row for each case, with the columns "check" and
-"value" (or "value_1", "value_2", ...), or those of --check and --value. Results
-repeat all other columns.
+csv, tsv: a header, then a row for each case. The columns are "check" and
+"value" (or "value_1", "value_2", ...), or those that --check and --value name.
+Results repeat all other columns.
 
-With --map, files are dumps of gateways in csv, tsv, ndjson or json: rows of a
-path ("parameter", "path", "name" or --parameter) and a "value", or nested JSON,
-in which an object on its own, an element of an array, or a line is a gateway.
-The map says which check judges which parameter. --group names the column that
-identifies the gateway of a row. The rows of a gateway must be adjacent: if they
-are in several places, each place is judged as a gateway. Where a check needs
-other parameters, they come from the same gateway, and the result comes at its
+With --map, files are gateway dumps in csv, tsv, ndjson or json. A dump has rows
+with a path ("parameter", "path", "name" or --parameter) and a "value", or it is
+nested JSON with a gateway per top-level object, array element or line. The map
+assigns checks to parameters. --group names the column that identifies the
+gateway of a row. The rows of a gateway must be adjacent: otherwise each group
+of adjacent rows is judged as a separate gateway. If a check needs other
+parameters, they are taken from the same gateway, and the result follows at its
 end. Parameters without a check are counted and listed in the summary.
 
 A line ends in a line feed, or in a carriage return and a line feed. A line, a
-row or an element is at most 16 MiB long.
+row or an element may have at most 16 MiB.
 
-With --stream each record has exactly one line of results, in order. It depends
-only on the record and its line number (it is empty for a line without a case),
-so a file can be judged in pieces.
+With --stream, each record has exactly one line of results, in order. The line
+depends only on the record and its line number (it is empty for a line without a
+case), so a file can be judged in pieces.
 
---summary counts by check, parameter and reason, with an example of each.
-Instance numbers in a parameter's path count as {i}. The summary follows the
-results or goes to --summary-file; with --stream and no such file it goes to
-standard error.
+--summary counts cases by check, parameter and reason, with an example of each
+combination. Instance numbers in a parameter's path are replaced by {i}. The
+summary follows the results or is written to --summary-file; with --stream and
+without --summary-file, it is written to standard error.
 
-SIGINT and SIGTERM stop a batch after the current record, and so does a full
-disk. Standard error names the last line, and --start-line resumes after it.
-With --map a batch stops after the current gateway, and --start-line resumes
-with the first gateway that begins on that line or later.
+SIGINT, SIGTERM and a full disk stop a batch after the current record. A message
+on standard error names the last line, and --start-line resumes after it. With
+--map, a batch stops after the current gateway, and --start-line resumes at the
+first gateway that begins on that line or later.
 
-A call that is known not to return is made only with --try. A channel that has
-to be looked up with the wireless driver is not judged (no driver) if the driver
-returns no list.
+A call that is known not to return is made only with --try. If a channel must be
+looked up in the wireless driver's list and the driver returns none, the channel
+is not judged (no driver).
 
 Examples:
   ostrel-check batch settings.txt
@@ -97,22 +97,22 @@ Examples:
   ostrel-check batch --stream --start-line 120001 cases >>results
   parallel --pipe --keep-order ostrel-check batch --stream < cases
 
-Exit code (the highest that applies): 0 all were accepted, 1 something was
-refused, 2 lines were malformed, files were unreadable, the results could not be
-written or a driver returned no list, 3 a check ended its process or did not
-return. With --exit-zero verdicts do not count. After SIGINT 130, after SIGTERM
-143.)";
+Exit code (the highest that applies): 0 all cases were accepted, 1 a case was
+refused, 2 a line was malformed, a file was unreadable, the results could not be
+written or the driver returned no list, 3 a check ended its process or did not
+return. --exit-zero ignores verdicts and malformed lines. After SIGINT the exit
+code is 130, after SIGTERM 143.)";
 }
 
 std::string_view summarise_help()
 {
-    return R"(Adds up the output of batches that judged pieces of one input: summaries of
---summary json, or results of --json or --stream. Summaries are small, and their
-examples include the arguments. If the files are named in the order of the
-pieces, the sum is the summary of the whole, examples included.
+    return R"(Adds up the output of batches that judged pieces of one input: summaries from
+--summary json, or results from --json or --stream. Summaries are small, and
+their examples include the arguments. If the files are named in the order of the
+pieces, the sum equals the summary of the whole input, including the examples.
 
-A line that is neither is reported on standard error and omitted. Exit code: 0,
-or 2 if something was omitted.
+A line that is neither a summary nor a result is reported on standard error and
+omitted. Exit code: 0, or 2 if a line was omitted.
 
 Examples:
   ostrel-check batch --stream --summary-file 1.json part1 >results1
@@ -122,16 +122,17 @@ Examples:
 
 std::string_view list_help()
 {
-    return R"(Lists the checks with each PATTERN in their name, in what they accept, or in the
-name or the description of an argument. Case does not matter.
+    return R"(Lists the checks that have each PATTERN in their name, in what they accept, or
+in the name or description of an argument. Case does not matter.
 
 --json prints the catalogue: arguments, rules, codes, steps with the lines that
-they print, what an accepted value may contain, and the constraints of each
-argument for programs and forms. --schema prints its JSON Schema, --schema
-result that of a line of batch --json, and --schema map that of maps.
---json-schema prints a schema for values: a definition for each check of a
-single text, marked x-ostrel-exact if a validator accepts the same values as
-the check. --reference and --hazards print pages in Markdown.
+they print, what an accepted value may contain, and the constraints on each
+argument for programs and forms. --schema prints the JSON Schema of the
+catalogue, --schema result that of a line of batch --json, --schema summary that
+of a summary, and --schema map that of maps. --json-schema prints a schema with
+a definition of the accepted values for each check that has a single string
+argument; the definition is marked x-ostrel-exact if it accepts the same values
+as the check. --reference and --hazards print pages in Markdown.
 
 Examples:
   ostrel-check list
@@ -145,10 +146,10 @@ Examples:
 std::string_view explain_help()
 {
     return R"(Prints what the check accepts, its arguments and the effect of NULL, its result
-codes, its steps in order with the condition and the lines of each, what it
+codes, its steps in order with their conditions and printed lines, what it
 writes into buffers, and what an accepted value may contain. In a printed line,
-\n is a line end and <name> is an argument, a part of one, or what a step keeps
-under that name.
+\n is a line end, and <name> is an argument, a part of one, or a value that a
+step keeps under that name.
 
 Examples:
   ostrel-check explain PARAM_check_port
@@ -158,9 +159,9 @@ Examples:
 std::string_view compare_help()
 {
     return R"(Compares what a data model allows for each parameter of a map with what the
-check accepts: same, narrower, wider or other, with a value for each difference,
-which the library has judged. The map names a file of facts, which has the types
-and limits of the model.
+check accepts. The relation is same, narrower, wider or other; each difference
+is shown with a value that the library has judged. The map names a file of facts
+with the types and limits of the model.
 
 Examples:
   ostrel-check compare examples/maps/tr-098.json
@@ -169,8 +170,9 @@ Examples:
 
 std::string_view complete_help()
 {
-    return R"(For shell completion: prints the candidates for the last WORD, one on each line;
-@files means any path. The words are those after "ostrel-check".
+    return R"(Prints the candidates for the last WORD, one per line, for shell completion.
+The line @files stands for any path. Pass all the words that follow
+"ostrel-check" on the command line.
 
 Examples:
   ostrel-check complete -- PARAM_check_p

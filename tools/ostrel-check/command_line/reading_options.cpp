@@ -29,24 +29,24 @@ void add_reading(CLI::App& batch, Reading& reading)
                                                        {"csv", FileFormat::kCsv},
                                                        {"tsv", FileFormat::kTsv},
                                                        {"json", FileFormat::kJson}},
-                                                      "Format of files (from name or first bytes)");
+                                                      "Read this format (from file name or first bytes)");
     add_choice<Encoding, Encoding>(batch, "--encoding", reading.encoding,
                                    {{"utf-8", Encoding::kUtf8}, {"latin-1", Encoding::kLatin1}},
-                                   "Encoding of values (utf-8)");
+                                   "Pass values in this encoding (utf-8)");
     batch
         .add_option_function<std::string>(
             "--delimiter", [&](const std::string& given) { reading.delimiter = read_escapes(given).front(); },
-            "Delimiter of CSV (,)")
+            "Use this delimiter in CSV (,)")
         ->check(one_byte)
         ->type_name("BYTE");
-    batch.add_option("--check", reading.check, "Column of the check, or one check for all")
+    batch.add_option("--check", reading.check, "Read checks from this column, or use one for all")
         ->type_name("COLUMN|NAME");
-    batch.add_option("--value", reading.values, "Column of an argument; once for each")
+    batch.add_option("--value", reading.values, "Read an argument from this column; repeatable")
         ->type_name("COLUMN")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    batch.add_option("--group", reading.group, "With --map: column of the gateway")->type_name("COLUMN");
-    batch.add_option("--parameter", reading.parameter, "With --map: column of the path")->type_name("COLUMN");
+    batch.add_option("--group", reading.group, "With --map: tell gateways apart by this column")->type_name("COLUMN");
+    batch.add_option("--parameter", reading.parameter, "With --map: read paths from this column")->type_name("COLUMN");
     batch.add_flag("--strict", reading.is_strict, "Refuse unknown and duplicate members and columns");
 }
 
