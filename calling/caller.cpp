@@ -35,8 +35,8 @@ std::invalid_argument bad_argument(const Argument& argument, const char* what)
 const std::string& text_of(const Argument& argument, const Value& value)
 {
     const auto* text = std::get_if<std::string>(&value);
-    if (text == nullptr) throw bad_argument(argument, "takes a text or NULL");
-    if (text->find('\0') != std::string::npos) throw bad_argument(argument, "cannot hold a NUL byte");
+    if (text == nullptr) throw bad_argument(argument, "must be a string or NULL");
+    if (text->find('\0') != std::string::npos) throw bad_argument(argument, "must not contain a NUL byte");
     return *text;
 }
 
@@ -44,10 +44,10 @@ template <typename T>
 T number_of(const Argument& argument, const Value& value)
 {
     const auto* number = std::get_if<long long>(&value);
-    if (number == nullptr) throw bad_argument(argument, "takes a number");
+    if (number == nullptr) throw bad_argument(argument, "must be a number");
     if (!std::in_range<T>(*number)) {
-        throw bad_argument(argument, std::is_signed_v<T> ? "takes a number from -2147483648 to 2147483647"
-                                                         : "takes a number from 0 to 4294967295");
+        throw bad_argument(argument, std::is_signed_v<T> ? "must be a number from -2147483648 to 2147483647"
+                                                         : "must be a number from 0 to 4294967295");
     }
     return static_cast<T>(*number);
 }
@@ -105,7 +105,8 @@ void Caller::load_argument(std::size_t index, const std::vector<Value>& values)
     if (argument.kind == Kind::kBlocks) {
         const auto* texts = std::get_if<std::vector<std::string>>(&value);
         if (texts == nullptr || texts->size() != argument.blocks) {
-            throw bad_argument(argument, ("takes " + std::to_string(argument.blocks) + " texts").c_str());
+            throw bad_argument(
+                argument, ("must be an array of " + std::to_string(argument.blocks) + " strings").c_str());
         }
         const std::size_t size = argument.blocks * argument.block_size;
         char* block = memory.place(size, edge_);
@@ -114,7 +115,7 @@ void Caller::load_argument(std::size_t index, const std::vector<Value>& values)
         for (const std::string& text : *texts) {
             text_of(argument, text);
             if (text.size() >= argument.block_size)
-                throw bad_argument(argument, "holds a text that is too long");
+                throw bad_argument(argument, "contains a string that is too long");
             std::memcpy(block, text.data(), text.size());
             block += argument.block_size;
         }
@@ -144,7 +145,7 @@ void Caller::load(const Function& function, const std::vector<Value>& values)
             if (argument.is_only_written()) continue;
             expected.append(expected.empty() ? "" : ", ").append(argument.name);
             if (argument.blocks > 1)
-                expected += " (an array of " + std::to_string(argument.blocks) + " texts)";
+                expected += " (an array of " + std::to_string(argument.blocks) + " strings)";
         }
         throw std::invalid_argument(std::string(function.name) + " takes " + std::to_string(inputs) +
                                     (inputs == 1 ? " argument: " : " arguments: ") + expected + "; " +

@@ -14,7 +14,7 @@ using nlohmann::json;
 Case case_from_json(const json& row)
 {
     constexpr std::size_t kMostArguments = 4;
-    if (!row.is_object()) throw std::invalid_argument("a case is an object with \"check\" and \"args\"");
+    if (!row.is_object()) throw std::invalid_argument("a case must be an object with \"check\" and \"args\"");
     const auto name = row.find("check");
     if (name == row.end() || !name->is_string()) {
         throw std::invalid_argument("\"check\" must be the name of a check");

@@ -14,13 +14,13 @@ Function described(std::string_view name, std::string_view family, std::vector<K
                    const void* address, int (*invoke)(std::span<const Raw>))
 {
     const rules::Check* check = rules::find(name);
-    if (check == nullptr) throw std::logic_error("no description of " + std::string(name));
+    if (check == nullptr) throw std::logic_error("there is no description of " + std::string(name));
     const std::vector<Argument>& arguments = check->arguments;
     for (std::size_t i = 0; i < std::min(kinds.size(), arguments.size()); ++i) {
         if (kinds[i] == Kind::kBuffer && arguments[i].kind == Kind::kBlocks) kinds[i] = Kind::kBlocks;
     }
     if (!std::ranges::equal(kinds, arguments, {}, {}, &Argument::kind)) {
-        throw std::logic_error("the description of " + std::string(name) + " does not suit its declaration");
+        throw std::logic_error("the description of " + std::string(name) + " does not match its declaration");
     }
     return {name, family, arguments, check, address, invoke};
 }

@@ -33,7 +33,7 @@ std::string bytes_from_utf8(const std::string& text)
         } else if (lead == 0xC2 || lead == 0xC3) {
             bytes += static_cast<char>((lead & 3) << 6 | (static_cast<unsigned char>(text[++i]) & 0x3F));
         } else {
-            throw std::invalid_argument("a text holds a character above U+00FF, which is not a byte");
+            throw std::invalid_argument("a string contains a character above U+00FF, which is not a byte");
         }
     }
     return bytes;
@@ -41,7 +41,7 @@ std::string bytes_from_utf8(const std::string& text)
 
 void require_room(std::size_t size)
 {
-    if (size > kLongestText) throw std::invalid_argument("a text is longer than 16 MiB");
+    if (size > kLongestText) throw std::invalid_argument("a string is longer than 16 MiB");
 }
 
 // append_times doubles the appended string repeatedly, so that a long one needs few steps.
@@ -59,7 +59,7 @@ void append_times(std::string& result, const std::string& part, std::size_t coun
 
 void append_text(std::string& result, const json& text, int depth)
 {
-    if (depth > kDeepest) throw std::invalid_argument("a text is nested too deeply");
+    if (depth > kDeepest) throw std::invalid_argument("a string is nested too deeply");
     if (text.is_string()) {
         const std::string bytes = bytes_from_utf8(text.get_ref<const std::string&>());
         require_room(result.size() + bytes.size());
@@ -69,7 +69,7 @@ void append_text(std::string& result, const json& text, int depth)
         append_text(part, text["repeat"], depth + 1);
         const auto times = text.find("times");
         if (times == text.end() || !times->is_number_unsigned()) {
-            throw std::invalid_argument("\"repeat\" needs a number of \"times\"");
+            throw std::invalid_argument("\"repeat\" requires \"times\", a number");
         }
         if (part.empty()) return;
         const auto count = times->get<std::size_t>();
@@ -79,7 +79,7 @@ void append_text(std::string& result, const json& text, int depth)
         for (const json& part : text["join"]) append_text(result, part, depth + 1);
     } else {
         throw std::invalid_argument(
-            "a text is a string, {\"repeat\": text, \"times\": n} or {\"join\": [text, ...]}");
+            "a value must be a string, {\"repeat\": text, \"times\": n} or {\"join\": [text, ...]}");
     }
 }
 
@@ -116,7 +116,7 @@ Value value_from_json(const json& value)
     if (value.is_number_integer()) return value.get<long long>();
     if (value.is_array()) {
         std::vector<std::string> texts;
-        if (value.size() > kMostBlocks) throw std::invalid_argument("no argument takes that many texts");
+        if (value.size() > kMostBlocks) throw std::invalid_argument("no argument takes that many strings");
         for (const json& text : value) texts.push_back(text_from_json(text));
         return texts;
     }

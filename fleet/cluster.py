@@ -54,10 +54,10 @@ def require_program(client: Client, job: Job) -> None:
     try:
         client.wait_for_workers(1, timeout=_SECONDS_TO_CONNECT)
     except (TimeoutError, asyncio.TimeoutError) as error:
-        raise Failed("the scheduler has no worker") from error
+        raise Failed("the scheduler has no workers") from error
     answers = client.run(ostrel_program.identity_of, job.program, on_error="return")
     wrong = [f"{address}: " + (str(answer) if isinstance(answer, Exception) else
-                               f"{job.program} is {answer}, and not {job.identity}")
+                               f"{job.program} is {answer}, not {job.identity}")
              for address, answer in sorted(answers.items()) if answer != job.identity]
     if wrong:
         raise Failed("\n".join(wrong))
@@ -79,7 +79,7 @@ def judge_all(client: Client, job: Job, parts: Sequence[Part], tell: Callable[[P
             except queue.Empty:
                 look(len(client.scheduler_info()["workers"]))
                 if client.status != "running":
-                    raise Failed("the scheduler is lost") from None
+                    raise Failed("the connection to the scheduler was lost") from None
                 continue
             part = keys.pop(future.key)
             outcome = _outcome_of(future, part)
@@ -94,13 +94,13 @@ def judge_all(client: Client, job: Job, parts: Sequence[Part], tell: Callable[[P
 
 def _outcome_of(future: Future, part: Part) -> Outcome:
     if future.cancelled():
-        raise Failed("the scheduler is lost")
+        raise Failed("the connection to the scheduler was lost")
     try:
         outcome = future.result()
     except (asyncio.CancelledError, concurrent.futures.CancelledError) as error:
-        raise Failed("the scheduler is lost") from error
+        raise Failed("the connection to the scheduler was lost") from error
     except distributed.scheduler.KilledWorker as error:
-        return Outcome("missing", f"{part.file}: each worker that judged it died, {error.last_worker} the last")
+        return Outcome("missing", f"{part.file}: every worker that judged it died; the last one was {error.last_worker}")
     except Exception as error:
         return Outcome("missing", f"{part.file}: {type(error).__name__}: {error}")
     return Outcome(**outcome)

@@ -48,7 +48,7 @@ class Interrupted(Exception):
 def size_of(text: str) -> int:
     match = re.fullmatch(r"([1-9][0-9]*)([kMG]?)", text)
     if match is None:
-        raise argparse.ArgumentTypeError("a size is a number of bytes, or one with k, M or G after it")
+        raise argparse.ArgumentTypeError("a size must be a number of bytes, optionally followed by k, M or G")
     return int(match[1]) * UNITS[match[2]]
 
 
@@ -60,26 +60,26 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
         fromfile_prefix_chars="@", usage="ostrel-fleet [OPTIONS] FOLDER FILE... [-- OPTIONS OF ostrel-check batch]\n"
         "       ostrel-fleet --resume [--scheduler ADDRESS] FOLDER")
     parser.add_argument("folder", metavar="FOLDER", type=pathlib.Path,
-                        help="where results go; the same path on each worker")
-    parser.add_argument("files", metavar="FILE", nargs="*", help="as batch reads it; @LIST has the names, a line each")
-    parser.add_argument("--resume", action="store_true", help="judge what is missing of the run that FOLDER has")
-    parser.add_argument("--scheduler", metavar="ADDRESS", help="of a Dask cluster; otherwise this machine judges alone")
+                        help="write the results here; the path must be valid on each worker")
+    parser.add_argument("files", metavar="FILE", nargs="*", help="judge this file; @LIST reads the names from LIST, one per line")
+    parser.add_argument("--resume", action="store_true", help="judge the missing parts of the run in FOLDER")
+    parser.add_argument("--scheduler", metavar="ADDRESS", help="use the Dask cluster at this address, and not only this machine")
     parser.add_argument("--jobs", metavar="N", type=int, default=len(os.sched_getaffinity(0)),
-                        help="parts that this machine judges side by side (its processors)")
-    parser.add_argument("--map", metavar="FILE", help="the files are dumps of gateways, judged by this map")
+                        help="judge this many parts in parallel on this machine (its processors)")
+    parser.add_argument("--map", metavar="FILE", help="judge the files as gateway dumps with this map")
     parser.add_argument("--block", metavar="SIZE", type=size_of, default="256M",
-                        help="files of lines that are larger are cut into blocks of about this size (256M)")
-    parser.add_argument("--program", metavar="PATH", default=PROGRAM, help="ostrel-check, on each worker")
-    parser.add_argument("--exit-zero", action="store_true", help="exit with 0 whatever the verdicts are")
+                        help="split larger files of lines into blocks of about this size (256M)")
+    parser.add_argument("--program", metavar="PATH", default=PROGRAM, help="run this ostrel-check on each worker")
+    parser.add_argument("--exit-zero", action="store_true", help="ignore verdicts in the exit code")
     given = parser.parse_args(words[:at])
     if given.jobs < 1:
-        parser.error("--jobs is 1 or more")
+        parser.error("--jobs must be at least 1")
     if not given.resume and not given.files:
         parser.error("FILE is missing")
     options = list(words[at + 1:])
     for option in options:
         if option.partition("=")[0] in OWN_OPTIONS:
-            parser.error(f"{option} cannot be given to ostrel-check here")
+            parser.error(f"{option} cannot be passed to ostrel-check here")
     return given, options
 
 
@@ -88,7 +88,7 @@ def require_options(program: str, manifest: Manifest) -> None:
     each part."""
     said = ostrel_program.output_of(program, "batch", "--stream", "--exit-zero", "--summary", "json", *manifest.words())
     if said:
-        raise Refused(f"{shlex.join(manifest.options)}: a file is among the options of ostrel-check")
+        raise Refused(f"{shlex.join(manifest.options)}: the options of ostrel-check must not name a file")
 
 
 def manifest_of(given: argparse.Namespace, options: Sequence[str]) -> Manifest:
@@ -146,7 +146,7 @@ class Run:
         words += ["--scheduler", self._given.scheduler] if self._given.scheduler else []
         words += ["--program", self._given.program] if self._given.program != PROGRAM else []
         words.append(str(self._given.folder))
-        return f"{done} of {len(self._parts)} parts are done; go on with\n  {shlex.join(words)}"
+        return f"{done} of {len(self._parts)} parts are done; resume with\n  {shlex.join(words)}"
 
     def sum_up(self) -> int:
         """sum_up writes the summary of the run and returns its exit code."""
@@ -159,7 +159,7 @@ class Run:
         self._write_summary(text, missing)
         print(self._summarise([text], "text").splitlines()[-1])
         summary = shlex.quote(str(self._given.folder / plan.SUMMARY))
-        print(f"By check, parameter and reason: ostrel-check summarise {summary}")
+        print(f"For counts by check, parameter and reason: ostrel-check summarise {summary}")
         for _, problem in missing:
             print(f"missing: {problem}")
         if missing:

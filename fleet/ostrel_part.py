@@ -150,14 +150,14 @@ def _open(part: Part) -> BinaryIO:
         raise Unreadable(f"cannot be read: {error.strerror}") from error
     if not stat.S_ISREG(os.fstat(source.fileno()).st_mode):
         source.close()
-        raise Unreadable("cannot be read: it is not a regular file")
+        raise Unreadable("cannot be read: not a regular file")
     return source
 
 
 def _require_unchanged(part: Part, source: BinaryIO) -> None:
     status = os.fstat(source.fileno())
     if part.state not in (None, (status.st_size, status.st_mtime_ns)):
-        raise Unreadable("it has changed since the run began")
+        raise Unreadable("the file has changed since the run began")
 
 
 def _send(part: Part, source: int, pipe: int) -> None:
@@ -184,9 +184,9 @@ def _end_of(part: Part, source: BinaryIO, out: BinaryIO) -> tuple[str, str]:
     with contextlib.suppress(ValueError):
         result = json.loads(tail.rstrip(b"\n").rpartition(b"\n")[2])
         if result["verdict"] == "malformed" and result["line"] == _last_line(part, source):
-            return f"{part.file}: it ends in the middle of line {result['line']}", ""
+            return f"{part.file}: the file ends in the middle of line {result['line']}", ""
         if last not in b"]}":
-            return "", f"{part.file}: line {result['line']}, the last one, has no end; it may have been cut"
+            return "", f"{part.file}: line {result['line']}, the last one, has no line end and may be incomplete"
     return "", ""
 
 

@@ -50,7 +50,7 @@ def identity_of(program: str) -> str:
 def require_identity(program: str, wanted: str) -> None:
     identity = identity_of(program)
     if identity != wanted:
-        raise Stopped(f"{program} is {identity}, and not {wanted}")
+        raise Stopped(f"{program} is {identity}, not {wanted}")
 
 
 # The running programs with the numbers of their runs, and the runs that must not start another program. Every

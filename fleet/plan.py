@@ -62,9 +62,9 @@ def read_manifest(folder: pathlib.Path) -> Manifest:
         given = json.loads((folder / MANIFEST).read_bytes())
         return Manifest(**{name: tuple(value) if isinstance(value, list) else value for name, value in given.items()})
     except OSError as error:
-        raise Refused(f"{folder} has no run that could be resumed: {error.strerror}") from error
+        raise Refused(f"{folder} contains no run to resume: {error.strerror}") from error
     except (ValueError, TypeError, AttributeError) as error:
-        raise Refused(f"{folder / MANIFEST} is not what a run was begun with: {error}") from error
+        raise Refused(f"{folder / MANIFEST} is not a valid manifest: {error}") from error
 
 
 def write_whole(path: pathlib.Path, text: str) -> None:
@@ -74,7 +74,7 @@ def write_whole(path: pathlib.Path, text: str) -> None:
 
 def begin(folder: pathlib.Path, manifest: Manifest) -> None:
     if (folder / MANIFEST).exists():
-        raise Refused(f"{folder} has a run already; --resume goes on with it")
+        raise Refused(f"{folder} already contains a run; use --resume to continue it")
     for name in FOLDERS:
         (folder / name).mkdir(parents=True, exist_ok=True)
         if any((folder / name).iterdir()):
@@ -87,9 +87,8 @@ def require_same(begun: Manifest, now: Manifest) -> None:
     for field in dataclasses.fields(Manifest):
         before, after = getattr(begun, field.name), getattr(now, field.name)
         if before != after:
-            name = {"map_sum": "contents of the map"}.get(field.name, field.name)
-            raise Refused(f"the run was begun with other {name}: {before}, and not {after}; "
-                          "begin one in another folder")
+            name = {"block": "block size", "map_sum": "map contents"}.get(field.name, field.name)
+            raise Refused(f"the run was started with {name} {before}, not {after}; use another folder")
 
 
 def lock(folder: pathlib.Path) -> int:
@@ -190,10 +189,10 @@ def sweep(job: Job, parts: Sequence[Part]) -> tuple[list[Part], list[str]]:
         if mark is not None and not mark.get("problem"):
             changed = mark and mark["part"] != part
             notes.append(f"{part.file} has changed since it was judged" if changed else
-                         f"{ostrel_part.results_of(job, part)} is not whole")
+                         f"{ostrel_part.results_of(job, part)} is incomplete")
     keep = {part.name for part in parts} - {part.name for part in left}
     for name in FOLDERS:
         for path in (folder / name).iterdir():
             if path.name.rpartition(".")[0] not in keep:
                 path.unlink(missing_ok=True)
-    return left, [f"{note}; it is judged again" for note in dict.fromkeys(notes)]
+    return left, [f"{note}; it will be judged again" for note in dict.fromkeys(notes)]

@@ -41,7 +41,7 @@ class Progress:
 
     def show(self, workers: int) -> None:
         if workers == 0 and not self._waits:
-            self.say("no worker is left; the run waits for one")
+            self.say("no workers are left; the run is waiting for one")
         self._waits = workers == 0
         now = time.monotonic()
         if not self._is_shown or now < self._next:

@@ -60,8 +60,8 @@ class Programs(support.Cluster):
         other = self.start_worker(PATH=f"{self.scratch / '0'}:/usr/bin:/bin")
         code, said = self.on_cluster(self.out, *self.files)
         self.assertEqual(4, code, said)
-        self.assertRegex(said, r"tcp://127.0.0.1:\d+: ostrel-check is ostrel-check 9.9.9 with .* "
-                               r"and not ostrel-check \d")
+        self.assertRegex(said, r"tcp://127.0.0.1:\d+: ostrel-check is ostrel-check 9.9.9 with .*, "
+                               r"not ostrel-check \d")
         self.assertEqual([], list((self.out / "results").iterdir()))
         other.terminate()
         other.wait()
@@ -75,7 +75,7 @@ class Programs(support.Cluster):
         self.start_worker(PATH=f"{self.scratch / '1'}:/usr/bin:/bin")
         said, _ = process.communicate(timeout=60)
         self.assertEqual(4, process.returncode, said)
-        self.assertRegex(said, r"cases \d.ndjson was not judged on .*: ostrel-check is .* and not ")
+        self.assertRegex(said, r"cases \d.ndjson was not judged on .*: ostrel-check is .*, not ")
         self.assert_nothing_is_left()
 
 
@@ -86,13 +86,13 @@ class Scheduler(support.Cluster):
         code, said = self.on_cluster(self.out, *self.files)
         self.assertEqual(4, code, said)
         self.assertIn(f"the scheduler at {self.address} cannot be reached: ", said)
-        self.assertIn("0 of 4 parts are done; go on with\n", said)
+        self.assertIn("0 of 4 parts are done; resume with\n", said)
         self.assertEqual(1, self.fleet("--resume", self.out)[0])
         self.assert_whole(self.files)
 
     def test_it_has_no_worker(self):
         code, said = self.on_cluster(self.out, *self.files)
-        self.assertEqual((4, True), (code, "the scheduler has no worker" in said), said)
+        self.assertEqual((4, True), (code, "the scheduler has no workers" in said), said)
 
     def test_it_is_lost(self):
         slow, environment = self.slow_program()
@@ -103,7 +103,7 @@ class Scheduler(support.Cluster):
         self.scheduler.kill()
         said, _ = process.communicate(timeout=60)
         self.assertEqual(4, process.returncode, said)
-        self.assertIn("the scheduler is lost\n", said)
+        self.assertIn("the connection to the scheduler was lost\n", said)
         self.assert_nothing_is_left()
         self.hold.unlink()
         self.assertEqual(1, self.fleet("--resume", "--program", slow, self.out, env=environment)[0])
@@ -119,7 +119,7 @@ class Interruption(support.Cluster):
         support.wait_until(lambda: self.at_work(worker))
         code, said = support.interrupt(process)
         self.assertEqual(130, code, said)
-        self.assertIn("interrupted\n0 of 4 parts are done; go on with\n", said)
+        self.assertIn("interrupted\n0 of 4 parts are done; resume with\n", said)
         self.assert_nothing_is_left()
         self.hold.unlink()
         self.assertEqual(1, self.on_cluster("--resume", "--program", slow, self.out)[0])

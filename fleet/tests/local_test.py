@@ -94,14 +94,14 @@ class Broken(support.Folder):
         lines = self.files[1].read_bytes().count(b"\n") + 1
         code, said = self.fleet("--block", "4k", self.out, *self.files)
         self.assertEqual(4, code, said)
-        self.assertIn(f"{self.files[1]}: it ends in the middle of line {lines}\n", said)
+        self.assertIn(f"{self.files[1]}: the file ends in the middle of line {lines}\n", said)
         self.assertIn("missing", self.summary())
         self.assert_whole(self.files)
         self.assertEqual(4, self.fleet("--resume", self.out)[0])
         self.files[1].write_bytes(whole)
         code, said = self.fleet("--resume", self.out)
         self.assertEqual(1, code, said)
-        self.assertIn(f"{self.files[1]} has changed since it was judged; it is judged again\n", said)
+        self.assertIn(f"{self.files[1]} has changed since it was judged; it will be judged again\n", said)
         self.assert_whole(self.files)
 
     def test_a_value_that_may_have_been_cut(self):
@@ -109,7 +109,7 @@ class Broken(support.Folder):
         words.write_text("PARAM_check_port 1\nPARAM_check_port 655")
         code, said = self.fleet(self.out, words)
         self.assertEqual(0, code)
-        self.assertIn(f"{words}: line 2, the last one, has no end; it may have been cut\n", said)
+        self.assertIn(f"{words}: line 2, the last one, has no line end and may be incomplete\n", said)
 
     def test_results_that_were_cut_or_changed_are_made_again(self):
         self.assertEqual(1, self.fleet(self.out, *self.files)[0])
@@ -120,7 +120,7 @@ class Broken(support.Folder):
         mark.write_text(mark.read_text()[:100])
         code, said = self.fleet("--resume", self.out)
         self.assertEqual(1, code, said)
-        self.assertIn(f"{results[0]} is not whole; it is judged again\n", said)
+        self.assertIn(f"{results[0]} is incomplete; it will be judged again\n", said)
         self.assert_whole(self.files)
 
     def test_a_full_disk(self):
@@ -140,7 +140,7 @@ class Broken(support.Folder):
             self.skipTest(said)
         self.assertEqual(4, process.returncode, said)
         self.assertRegex(said, "cases [0-9].ndjson was not judged on .*No space left on device")
-        self.assertIn("go on with\n", said)
+        self.assertIn("resume with\n", said)
         self.assertNotIn(".tmp\n", said)
         self.assertTrue(self.judged(*self.files)[0] == (self.scratch / "joined").read_bytes())
 
@@ -157,7 +157,7 @@ class Interruption(support.Folder):
             self.assertEqual((2, f"ostrel-fleet: another runner is already using {self.out}\n"), again)
             got, said = support.interrupt(process, number)
             self.assertEqual(code, got, said)
-            self.assertIn("interrupted\n0 of 4 parts are done; go on with\n", said)
+            self.assertIn("interrupted\n0 of 4 parts are done; resume with\n", said)
             self.assert_nothing_is_left()
             self.hold.unlink()
             self.assertEqual(1, self.fleet("--resume", "--program", slow, self.out, env=environment)[0])
@@ -184,30 +184,30 @@ class Refusals(support.Folder):
 
     def test_usage(self):
         self.assert_refused("FILE is missing", self.out)
-        self.assert_refused("--jobs is 1 or more", "--jobs", "0", self.out, "x")
+        self.assert_refused("--jobs must be at least 1", "--jobs", "0", self.out, "x")
         self.assert_refused("a size is a number of bytes", "--block", "1T", self.out, "x")
-        self.assert_refused("--stream cannot be given to ostrel-check here", self.out, "x", "--", "--stream")
+        self.assert_refused("--stream cannot be passed to ostrel-check here", self.out, "x", "--", "--stream")
         self.assert_refused("--start-line=2 cannot be given", self.out, "x", "--", "--start-line=2")
         self.assert_refused("--wrong", self.out, "x", "--", "--wrong")
         self.assert_refused("a file is among the options", self.out, "x", "--", self.files[0])
         self.assert_refused("there is no program nowhere", "--program", "nowhere", self.out, "x")
         self.assert_refused("No such file", "--map", "nowhere", self.out, "x")
         self.assertFalse(self.out.exists())
-        self.assert_refused("has no run that could be resumed", "--resume", self.scratch)
+        self.assert_refused("contains no run to resume", "--resume", self.scratch)
 
     def test_another_run(self):
         self.assertEqual(1, self.fleet(self.out, *self.files)[0])
-        self.assert_refused("has a run already; --resume goes on with it", self.out, *self.files)
+        self.assert_refused("already contains a run; use --resume to continue it", self.out, *self.files)
         self.assertEqual(1, self.fleet("--resume", self.out, *self.files)[0])
-        self.assert_refused("begun with other files", "--resume", self.out, *self.files[1:])
-        self.assert_refused("begun with other options", "--resume", self.out, "--", "--redact")
+        self.assert_refused("started with files", "--resume", self.out, *self.files[1:])
+        self.assert_refused("started with options", "--resume", self.out, "--", "--redact")
         other = self.scratch / "ostrel-check"
         other.write_text(f"#!/bin/sh\n{support.PROGRAM} \"$@\" | sed 's/^ostrel-check .*/ostrel-check 9.9.9/'\n")
         other.chmod(0o755)
         self.assert_refused("ostrel-check 9.9.9", "--resume", "--program", other, self.out)
         manifest = self.out / "run.json"
         manifest.write_text(json.dumps({"x": 1}))
-        self.assert_refused("is not what a run was begun with", "--resume", self.out)
+        self.assert_refused("is not a valid manifest", "--resume", self.out)
 
     def test_types(self):
         modules = sorted(map(str, pathlib.Path(support.SOURCE, "fleet").glob("*.py")))

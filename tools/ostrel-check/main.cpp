@@ -47,9 +47,9 @@ int judge_words(const CLI::App& app, Options& options)
 {
     std::vector<std::string> words = app.remaining();
     if (!words.empty() && words.front() == "--") words.erase(words.begin());
-    if (words.empty()) return complain_of_usage("the NAME of a check, or a command, is missing");
+    if (words.empty()) return complain_of_usage("a check or a command is required");
     if (words.front().starts_with('-') && words.front() != "-") {
-        return complain_of_usage("there is no option " + words.front());
+        return complain_of_usage("unknown option " + words.front());
     }
     if (options.with_escapes) {
         for (std::string& word : words) word = read_escapes(word);
@@ -61,8 +61,8 @@ int judge_words(const CLI::App& app, Options& options)
     try {
         return judge_one(*function, values, options.manner);
     } catch (const std::invalid_argument& error) {
-        return complain(error.what(),
-                        "ostrel-check explain " + std::string(function->name) + " says what it takes.\n");
+        return complain(error.what(), "ostrel-check explain " + std::string(function->name) +
+                                          " describes its arguments.\n");
     }
 }
 
@@ -95,7 +95,7 @@ int run(int argc, char** argv)
     Options options;
     const std::unique_ptr<CLI::App> app = make_command_line(options);
     if (argc < 2) {
-        say(usage_of(*app) + "ostrel-check --help says more.\n");
+        say(usage_of(*app) + "ostrel-check --help shows more.\n");
         return kExitUsage;
     }
     try {
@@ -134,7 +134,7 @@ int main(int argc, char** argv)
     } catch (const std::invalid_argument& error) {
         return ostrel::tool::complain_of_usage(error.what());
     } catch (const std::exception& error) {
-        return ostrel::tool::complain(error.what(),
-                                      "The rest was not judged; fix the problem and run it again.\n");
+        return ostrel::tool::complain(
+            error.what(), "The remaining input was not judged; fix the problem and run the command again.\n");
     }
 }

@@ -75,14 +75,14 @@ class Unmapped(unittest.TestCase):
         self.assertEqual((dumps["gateways"], dumps["parameters"], dumps["unmapped"]["parameters"]),
                          (COUNT, sum(len(parameters) for _, parameters, _ in self.fleet), sum(counts.values())))
         shown, _ = self.run_batch(text, "--summary-only", code=2)
-        self.assertIn(f"{dumps['parameters']} parameters of {COUNT} gateways; no check is known for "
+        self.assertIn(f"{dumps['parameters']} parameters of {COUNT} gateways; the map has no check for "
                       f"{sum(counts.values())}:\n", shown)
         for path, count in counts.items():
             why = f": {because[path]}" if path in because else ""
             self.assertRegex(shown, rf"(?m)^ +{count}  {re.escape(path + why)}$")
         for options in ((), ("--stream",), ("--stream", "--summary", "text"), ("--format-out", "csv")):
             out, err = self.run_batch(text, *options, code=2)
-            self.assertEqual(1, (out + err).count("; no check is known for "), options)
+            self.assertEqual(1, (out + err).count("; the map has no check for "), options)
         self.assertNotIn("no check is known", self.run_batch(text, "--json", code=2)[1])
 
     def test_unmapped_parameters_are_not_faults(self):
@@ -111,7 +111,7 @@ class Unmapped(unittest.TestCase):
             self.assertEqual((60000, 2), (dumps["unmapped"]["parameters"], dumps["gateways"]))
             self.assertEqual([{"path": f"x{number:06d}", "count": 2} for number in range(10000)],
                              dumps["unmapped"]["paths"])
-        self.assertIn("40000 with other paths\n", self.run_batch(text, "--summary-only", code=0)[0])
+        self.assertIn("40000 parameters with other paths\n", self.run_batch(text, "--summary-only", code=0)[0])
 
 
 class Stopped(unittest.TestCase):
@@ -173,7 +173,7 @@ class Stopped(unittest.TestCase):
         process.stdout.read(1)
         process.send_signal(signal.SIGINT)
         out, err = process.communicate()
-        self.assertRegex(err, rb"stopped within the gateways of line 1, after \d+ records in all\n")
+        self.assertRegex(err, rb"stopped within the gateways of line 1, after \d+ records in total\n")
         self.assertEqual(130, process.returncode)
 
 

@@ -169,7 +169,7 @@ class Rows(unittest.TestCase):
             self.assertEqual(counted["skipped"], 1)
         parameters[0]["words"]["日"] = ""
         _, _, error = self.judge(parameters, rows, "--encoding", "latin-1")
-        self.assertIn("/parameters/0/words/\\xE6\\x97\\xA5: a text holds U+65E5, which Latin-1 does not have", error)
+        self.assertIn("/parameters/0/words/\\xE6\\x97\\xA5: a string contains U+65E5, which does not exist in Latin-1", error)
 
     def test_the_first_bytes_tell_the_format(self):
         gateway = {"id": 1, "A": {"Port": "1"}}
@@ -219,7 +219,7 @@ class Errors(unittest.TestCase):
             (entry % ('{"path": "B", ' + pool + ',\n "with": {"lanAddress": {"path": "C.{i}"}}}'),
              "MAP:4: /parameters/1/with/lanAddress/path: it has more {i}"),
             (entry % ('{"path": "B", ' + pool + ', "with": {"lan": {"path": "C"}, "lanAddress": {"path": "C"}}}'),
-             "MAP:3: /parameters/1/with/lan: LAN_check_dhcp_reserved_addr has no such argument; it has reservedList"),
+             "MAP:3: /parameters/1/with/lan: LAN_check_dhcp_reserved_addr has no such argument; its arguments are reservedList"),
             (entry % ('{"path": "B", ' + pool + ', "with": {"lanAddress": {}}}'),
              "MAP:3: /parameters/1/with/lanAddress: it needs one of"),
         ]

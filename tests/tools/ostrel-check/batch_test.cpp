@@ -34,7 +34,7 @@ TEST(Batch, TableShowsEachCaseAndASummary)
                          "  strings  answered: 1\n"
                          "  accounts  accepted: 1\n"
                          "  parameter_check  accepted: 1, refused 601: 1\n"
-                         "4 cases: 2 accepted, 1 refused, 1 answered with a number\n",
+                         "4 cases: 2 accepted, 1 refused, 1 returned a number\n",
                          ""}),
               outcome);
 }
@@ -112,7 +112,7 @@ TEST(Batch, MalformedLinesAreReportedAndTheRestIsJudged)
     }
     EXPECT_EQ("no closing \"", rows[1]["meaning"]);
     EXPECT_EQ("2 values were given; expected: PARAM_check_port value_p", rows[3]["meaning"]);
-    EXPECT_EQ("argument value_p takes a text or NULL", rows[8]["meaning"]);
+    EXPECT_EQ("argument value_p must be a string or NULL", rows[8]["meaning"]);
     EXPECT_EQ("accepted", rows[12]["verdict"]);
     EXPECT_EQ(11, rows[13]["summary"]["malformed"]);
 }

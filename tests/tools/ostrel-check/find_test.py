@@ -111,7 +111,7 @@ class Mistyped(unittest.TestCase):
                                "summarize": "; did you mean summarise?",
                                "t": ""}.items():
             with self.subTest(name=name):
-                self.assert_answer([name, "lst"], 'there is no check and no command "%s"%s' % (name, question))
+                self.assert_answer([name, "lst"], 'there is no check or command "%s"%s' % (name, question))
 
     def test_names_in_another_case_are_accepted(self):
         for name in ("param_check_port", "PARAM_CHECK_PORT", "Param_Check_Port"):

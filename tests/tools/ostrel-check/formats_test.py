@@ -101,7 +101,7 @@ class OneText(unittest.TestCase):
                 self.assertEqual(value, shown)
         for broken in ("a", "a===", "====", "YQ=a", "YR==", "Y Q=", "YQ==YQ==", "ä==="):
             row = judged(json.dumps({"check": "PARAM_check_port", "args": [{"base64": broken}]}))[0]
-            self.assertEqual(("malformed", "a text in base64 is not valid base64"), (row["verdict"], row["meaning"]), broken)
+            self.assertEqual(("malformed", "the string in \"base64\" is not valid base64"), (row["verdict"], row["meaning"]), broken)
 
     def test_what_does_not_decode_is_written_in_base64(self):
         row = judged("PARAM_check_bool_value \\xE9", "--with-args")[0]
@@ -141,12 +141,12 @@ class Malformed(unittest.TestCase):
     def test_reasons(self):
         for line, meaning in (
                 (b'{"check":"PARAM_check_port","args":["\\u0000"]}',
-                 "argument value_p contains U+0000 (a NUL byte), which would end the value in C"),
-                (b"PARAM_check_port 1\\x001", "argument value_p contains U+0000 (a NUL byte), which would end the value in C"),
-                (b'{"check":"PARAM_check_port","args":["\\ud800"]}', "a text holds a lone surrogate, which is not a character"),
-                (b'{"check":"PARAM_check_port","args":["\\udc00x"]}', "a text holds a lone surrogate, which is not a character"),
+                 "argument value_p contains U+0000 (NUL), which would end the value in C"),
+                (b"PARAM_check_port 1\\x001", "argument value_p contains U+0000 (NUL), which would end the value in C"),
+                (b'{"check":"PARAM_check_port","args":["\\ud800"]}', "a string contains a lone surrogate, which is not a character"),
+                (b'{"check":"PARAM_check_port","args":["\\udc00x"]}', "a string contains a lone surrogate, which is not a character"),
                 (b'{"check":"PARAM_check_port","args":["1"],"x":["\\udfff"]}',
-                 "a text holds a lone surrogate, which is not a character"),
+                 "a string contains a lone surrogate, which is not a character"),
                 (b'{"check":"PARAM_check_port","args":["\xed\xa0\x80"]}', "byte 38 is \\xED, which is not UTF-8"),
                 (b'{"check":"PARAM_check_port","args":["\xff"]}', "byte 38 is \\xFF, which is not UTF-8"),
                 (b'{"check":"PARAM_check_port","args":["\x00"]}', "invalid JSON: byte 38 is NUL"),
@@ -154,7 +154,7 @@ class Malformed(unittest.TestCase):
                 (b'{"check":"PARAM_check_port","args":[{"repeat":"1","times":3}]}', '"repeat" is notation of the conformance'),
                 (b'{"check":"PARAM_check_port","args":[{"join":["1"]}]}', '"join" is notation of the conformance vectors'),
                 (b'{"check":"PARAM_check_port","args":[{}]}', "1 value"),
-                (b'{"check":"PARAM_check_port","args":[[null]]}', "an array of texts cannot hold null"),
+                (b'{"check":"PARAM_check_port","args":[[null]]}', "an array of strings must not contain null"),
                 (b'{"check":"PARAM_check_port","args":["1"}', "invalid JSON: "),
                 (b'{"check":"PARAM_check_port","x":' + b"[" * 100 + b"]" * 100 + b"}", "the JSON is nested too deeply"),
         ):
@@ -214,9 +214,9 @@ class Csv(unittest.TestCase):
                           (8, "malformed", None), (9, "malformed", None), (10, "accepted", "7")],
                          [(row["line"], row["verdict"], row.get("id")) for row in rows])
         self.assertEqual(['a\r\nb, "c"'], rows[1]["args"])
-        self.assertEqual(["the row has 2 fields; the header has 3", "field 3 has an opening quotation mark and no closing one",
+        self.assertEqual(["the row has 2 fields; the header has 3", "field 3 has no closing quotation mark",
                           "field 3 continues after its closing quotation mark",
-                          "field 3 holds a quotation mark and is not quoted"],
+                          "field 3 contains a quotation mark but is not quoted"],
                          [row["meaning"] for row in rows[2:6]])
 
     def test_columns(self):

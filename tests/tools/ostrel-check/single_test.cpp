@@ -16,7 +16,7 @@ std::string usage_error(const std::string& problem)
 // value_error returns the message for values that do not match a check's arguments.
 std::string value_error(const std::string& problem, const std::string& name)
 {
-    return "ostrel-check: " + problem + "\nostrel-check explain " + name + " says what it takes.\n";
+    return "ostrel-check: " + problem + "\nostrel-check explain " + name + " describes its arguments.\n";
 }
 
 TEST(Single, AcceptanceExitsWithZero)
@@ -120,12 +120,11 @@ TEST(Single, EscapesAreReadOnRequest)
     EXPECT_EQ(0, run({"-e", "TcmValidatePPPPassword", "caf\\xE9"}).status);
     EXPECT_EQ(1, run({"--escapes", "TcmValidatePPPPassword", "a\\nb"}).status);
     EXPECT_EQ(0, run({"TcmValidatePPPPassword", "a\\nb"}).status);
-    EXPECT_EQ((RunResult{
-                  2, "",
-                  value_error("argument value_p contains U+0000 (a NUL byte), which would end the value in C",
-                              "PARAM_check_port")}),
+    EXPECT_EQ((RunResult{2, "",
+                         value_error("argument value_p contains U+0000 (NUL), which would end the value in C",
+                                     "PARAM_check_port")}),
               run({"-e", "PARAM_check_port", "1\\x00"}));
-    EXPECT_EQ((RunResult{2, "", usage_error("\\q is not an escape; a backslash is \\\\")}),
+    EXPECT_EQ((RunResult{2, "", usage_error("\\q is not an escape; write a backslash as \\\\")}),
               run({"-e", "PARAM_check_port", "\\q"}));
 }
 
@@ -163,7 +162,7 @@ TEST(Single, CallThatDoesNotReturnExitsWithThree)
 TEST(Single, WrongUsageExitsWithTwo)
 {
     EXPECT_EQ((RunResult{2, "",
-                         "ostrel-check: there is no check and no command \"PARAM_check_prot\"; did you mean "
+                         "ostrel-check: there is no check or command \"PARAM_check_prot\"; did you mean "
                          "PARAM_check_port?\n"
                          "ostrel-check list WORD searches the names and rules of all checks.\n"}),
               run({"PARAM_check_prot", "1"}));
@@ -176,18 +175,18 @@ TEST(Single, WrongUsageExitsWithTwo)
                                      "max:number",
                                      "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1"}));
-    EXPECT_EQ(
-        (RunResult{2, "",
-                   value_error("argument min takes a number; \"a\" is not one", "PARAM_check_num_range")}),
-        run({"PARAM_check_num_range", "1", "a", "3"}));
     EXPECT_EQ((RunResult{2, "",
-                         value_error("argument min takes a number from -2147483648 to 2147483647",
+                         value_error("argument min must be a number, but \"a\" is not one",
+                                     "PARAM_check_num_range")}),
+              run({"PARAM_check_num_range", "1", "a", "3"}));
+    EXPECT_EQ((RunResult{2, "",
+                         value_error("argument min must be a number from -2147483648 to 2147483647",
                                      "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1", "2147483648", "3"}));
     EXPECT_EQ((RunResult{2, "", value_error("argument min takes a number", "PARAM_check_num_range")}),
               run({"PARAM_check_num_range", "1", "@null", "3"}));
-    EXPECT_EQ((RunResult{2, "", usage_error("the NAME of a check, or a command, is missing")}), run({"-e"}));
-    EXPECT_EQ((RunResult{2, "", usage_error("there is no option --limit")}),
+    EXPECT_EQ((RunResult{2, "", usage_error("a check or a command is required")}), run({"-e"}));
+    EXPECT_EQ((RunResult{2, "", usage_error("unknown option --limit")}),
               run({"--limit", "PARAM_check_port"}));
     EXPECT_EQ(2, run({"--limit-time", "0", "PARAM_check_port", "1"}).status);
     EXPECT_EQ(2, run({"batch", "--nothing"}).status);
@@ -198,8 +197,7 @@ TEST(Single, UnknownNamesAreShownSafely)
 {
     const RunResult outcome = run({"\x1B[1m\xE9", "1"});
     EXPECT_EQ(2, outcome.status);
-    EXPECT_EQ("ostrel-check: there is no check and no command \"\\x1B[1m\\xE9\"\n",
-              outcome.err.substr(0, 61));
+    EXPECT_EQ("ostrel-check: there is no check or command \"\\x1B[1m\\xE9\"\n", outcome.err.substr(0, 61));
 }
 
 TEST(Single, HelpAndVersion)
@@ -214,7 +212,7 @@ TEST(Single, AloneTheProgramShowsItsUsage)
     const RunResult outcome = run({});
     EXPECT_EQ(2, outcome.status);
     EXPECT_TRUE(outcome.err.starts_with("Usage: ostrel-check [OPTIONS] NAME VALUE...\n")) << outcome.err;
-    EXPECT_TRUE(outcome.err.ends_with("\nostrel-check --help says more.\n")) << outcome.err;
+    EXPECT_TRUE(outcome.err.ends_with("\nostrel-check --help shows more.\n")) << outcome.err;
 }
 
 TEST(Single, JsonIsTheSameAsInABatch)

@@ -132,7 +132,7 @@ class Sum(unittest.TestCase):
         self.assertEqual({name: given[name] for name in sorted(given)[:10000]},
                          {path["path"]: path["count"] for path in dumps["unmapped"]["paths"]})
         text = self.summarise(*pieces, options=()).stdout
-        self.assertIn(f"{dumps['parameters']} parameters of 16 gateways; no check is known for {sum(given.values())}:\n",
+        self.assertIn(f"{dumps['parameters']} parameters of 16 gateways; the map has no check for {sum(given.values())}:\n",
                       text)
         self.assertIn(": it says nothing\n", text)
 
@@ -200,9 +200,9 @@ class Sum(unittest.TestCase):
 
     def test_what_cannot_be_added_is_left_out_and_named(self):
         good = self.summary(self.row())
-        for bad, why in (("nothing\n", "invalid JSON: Invalid value; a line is a summary or a result in JSON"),
+        for bad, why in (("nothing\n", "invalid JSON: Invalid value; each line must be a summary or a result in JSON"),
                          ("[]\n", "neither a summary nor a result"), ("1\n", "neither a summary nor a result"),
-                         ('{"summary": {}}\n', "a summary without rows; batch --summary json writes one with rows"),
+                         ('{"summary": {}}\n', "the summary has no \"rows\"; batch --summary json writes them"),
                          ('{"summary": 1, "rows": []}\n', '"summary" is not an object'),
                          (self.summary(self.row(check="x")), 'there is no check "x"'),
                          (self.summary(self.row(code=1)), '"code" does not match "verdict"'),
@@ -212,9 +212,9 @@ class Sum(unittest.TestCase):
                          (good.replace('"accepted": 1', '"accepted": 2'), 'the rows do not add up to "accepted"'),
                          (good.replace('"count": 1', '"count": -1'), '"count" is not a count'),
                          (good.replace('"rows": [', '"rows": [1, '), "a row is not an object"),
-                         ("[" * 100000 + "\n", "the JSON is nested too deeply; a line is a summary or a result in JSON"),
+                         ("[" * 100000 + "\n", "the JSON is nested too deeply; each line must be a summary or a result in JSON"),
                          ('{"verdict": "\x00"}\n',
-                          "invalid JSON: byte 14 is NUL; a line is a summary or a result in JSON"),
+                          "invalid JSON: byte 14 is NUL; each line must be a summary or a result in JSON"),
                          (self.mapped({}), '"map" does not list what is unmapped'),
                          (self.mapped(DUMPS | {"gateways": 1.5}), '"gateways" is not a count'),
                          (self.mapped(DUMPS | {"unmapped": {"parameters": 1, "paths": [{"path": "a", "count": 2}]}}),

@@ -69,10 +69,10 @@ TEST(Words, FaultsAreNamed)
     EXPECT_EQ("no closing \"", problem_of([] { split("a \"b"); }));
     EXPECT_EQ("no closing '", problem_of([] { split("'"); }));
     EXPECT_EQ("no closing \"", problem_of([] { split("\"\\\""); }));
-    EXPECT_EQ("a \\ is the last character", problem_of([] { split("a\\"); }));
+    EXPECT_EQ("\\ at the end begins no escape", problem_of([] { split("a\\"); }));
     EXPECT_EQ("\\x needs two hexadecimal digits", problem_of([] { split("\\x1"); }));
     EXPECT_EQ("\\x needs two hexadecimal digits", problem_of([] { split("\\xg1"); }));
-    EXPECT_EQ("\\q is not an escape; a backslash is \\\\", problem_of([] { split("\\q"); }));
+    EXPECT_EQ("\\q is not an escape; write a backslash as \\\\", problem_of([] { split("\\q"); }));
 }
 
 TEST(Words, EveryByteShownIsReadBackAsItself)
@@ -144,7 +144,7 @@ TEST(Values, NumbersAreDecimalOrHexadecimal)
     EXPECT_EQ((std::vector<Value>{44LL}), value_of(Kind::kUnsigned, "0x2c"));
     EXPECT_EQ((std::vector<Value>{1LL << 62}), value_of(Kind::kInteger, "99999999999999999999999"));
     for (const std::string word : {"", "-", "1 ", " 1", "1x", "0x", "--1", "x"}) {
-        EXPECT_EQ("argument a takes a number; \"" + word + "\" is not one",
+        EXPECT_EQ("argument a must be a number, but \"" + word + "\" is not one",
                   problem_of([&] { value_of(Kind::kInteger, word); }));
     }
 }
@@ -223,7 +223,7 @@ TEST(Lines, OfJsonKeepEveryMember)
     EXPECT_EQ("1.0", cases.record().find("id")->value);
     EXPECT_TRUE(cases.read(R"({"check": "PARAM_check_port", "args": [null]})", 0));
     EXPECT_EQ((std::vector<Value>{nullptr}), cases.values());
-    EXPECT_EQ("a text holds U+0100, which Latin-1 does not have",
+    EXPECT_EQ("a string contains U+0100, which does not exist in Latin-1",
               problem_of([&] { cases.read(R"({"check": "PARAM_check_port", "args": ["\u0100"]})", 0); }));
 }
 

@@ -179,11 +179,11 @@ class Batch {
             append_escaped(where, rules_->files[file_], kLongestText);
         }
         if (is_within_line_) {
-            say(where + ", after " + std::to_string(summary_.tally().sum()) + " records in all\n");
+            say(where + ", after " + std::to_string(summary_.tally().sum()) + " records in total\n");
             return exit_code_of_stop();
         }
         where += "; resume with --start-line " + std::to_string(line_);
-        if (file_ > 0) where += ", with that file as the first one";
+        if (file_ > 0) where += ", and name that file first";
         say(where + "\n");
         return exit_code_of_stop();
     }

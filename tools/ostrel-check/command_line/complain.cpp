@@ -28,9 +28,8 @@ int complain_of_name(const CLI::App& app, const std::string& name)
     std::vector<std::string_view> names;
     for (const CLI::App* command : commands_of(app)) names.emplace_back(command->get_name());
     for (const catalogue::Function& function : catalogue::functions()) names.push_back(function.name);
-    return complain(
-        "there is no check and no command \"" + name + "\"" + catalogue::did_you_mean(name, names),
-        kAdviceOnNames);
+    return complain("there is no check or command \"" + name + "\"" + catalogue::did_you_mean(name, names),
+                    kAdviceOnNames);
 }
 
 const catalogue::Function* find_meant(const std::string& name)

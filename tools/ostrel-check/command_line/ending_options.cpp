@@ -37,9 +37,7 @@ void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules)
     batch.add_option("--start-line", rules.start_line, "Start at this line of the first file (1)")
         ->check(CLI::Range(std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max()).description(""))
         ->type_name("N");
-    batch
-        .add_option("--number-lines-from", rules.first_number,
-                    "Number the first file's lines from N (1)")
+    batch.add_option("--number-lines-from", rules.first_number, "Number the first file's lines from N (1)")
         ->check(CLI::Range(std::uint64_t{1}, std::numeric_limits<std::uint64_t>::max()).description(""))
         ->type_name("N");
 }

@@ -56,7 +56,8 @@ void add_list(CLI::App& app, Options& options)
     choose_from(schema->expected(0, 1)->default_str("catalogue"), {"catalogue", "result", "summary", "map"});
     CLI::Option* json_schema =
         list.add_flag("--json-schema", options.json_schema, "Print a JSON Schema of what the checks accept");
-    CLI::Option* reference = list.add_flag("--reference", options.reference, "Print the reference in Markdown");
+    CLI::Option* reference =
+        list.add_flag("--reference", options.reference, "Print the reference in Markdown");
     CLI::Option* hazards =
         list.add_flag("--hazards", options.hazards, "Print in Markdown what accepted values may contain");
     exclude_each_other({json, schema, json_schema, reference, hazards});
@@ -65,8 +66,7 @@ void add_list(CLI::App& app, Options& options)
 
 void add_batch(CLI::App& app, Options& options)
 {
-    CLI::App& batch =
-        add_command(app, "batch", "Judge cases from files or standard input", batch_help());
+    CLI::App& batch = add_command(app, "batch", "Judge cases from files or standard input", batch_help());
     CLI::Option* json =
         batch.add_flag("--json", options.json, "Print a line of JSON per case and for the summary");
     CLI::Option* stream =
@@ -119,7 +119,8 @@ std::unique_ptr<CLI::App> make_command_line(Options& options)
     add_explain(*app, options);
     add_list(*app, options);
     add_batch(*app, options);
-    CLI::App& summarise = add_command(*app, "summarise", "Add up the results of several batches", summarise_help());
+    CLI::App& summarise =
+        add_command(*app, "summarise", "Add up the results of several batches", summarise_help());
     add_summarise_options(summarise, options.ending);
     add_compare(*app, options);
     CLI::App& complete = add_command(*app, "complete", "Print completions for a shell", complete_help());

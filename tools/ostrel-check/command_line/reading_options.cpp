@@ -16,7 +16,7 @@ std::string one_byte(const std::string& given)
     const std::string delimiter = read_escapes(given);
     constexpr std::string_view kTaken("\"\r\n\0", 4);
     if (delimiter.size() == 1 && kTaken.find(delimiter) == std::string_view::npos) return {};
-    return "it must be one byte, and neither \" nor a line end";
+    return "the delimiter must be a single byte other than NUL, \" and line ends";
 }
 
 }  // namespace
@@ -45,8 +45,10 @@ void add_reading(CLI::App& batch, Reading& reading)
         ->type_name("COLUMN")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    batch.add_option("--group", reading.group, "With --map: tell gateways apart by this column")->type_name("COLUMN");
-    batch.add_option("--parameter", reading.parameter, "With --map: read paths from this column")->type_name("COLUMN");
+    batch.add_option("--group", reading.group, "With --map: tell gateways apart by this column")
+        ->type_name("COLUMN");
+    batch.add_option("--parameter", reading.parameter, "With --map: read paths from this column")
+        ->type_name("COLUMN");
     batch.add_flag("--strict", reading.is_strict, "Refuse unknown and duplicate members and columns");
 }
 

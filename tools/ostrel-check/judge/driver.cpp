@@ -34,7 +34,7 @@ bool asks_driver(const catalogue::Function& function) { return rules::asks_drive
 StandIn::StandIn(std::string_view channels)
 {
     if (channels.find_first_not_of("0123456789 ") != std::string_view::npos) {
-        throw std::invalid_argument("--channels takes numbers separated by blanks");
+        throw std::invalid_argument("--channels must be a list of numbers separated by spaces");
     }
     try {
         make(channels);
@@ -46,15 +46,16 @@ StandIn::StandIn(std::string_view channels)
 void StandIn::make(std::string_view channels)
 {
     if (access(kChannelFolder, W_OK) != 0 && !calling::move_to_own_var()) {
-        problem_ = std::string("--channels needs to write ") + kChannelList +
-                   "; this user may not, and the system does not allow a mount namespace in which it could";
+        problem_ =
+            std::string("--channels must write to ") + kChannelList +
+            ", but this user has no permission, and the system does not allow a private mount namespace";
         return;
     }
     folder_ = (std::filesystem::temp_directory_path() / "ostrel-check.XXXXXX").string();
     if (mkdtemp(folder_.data()) == nullptr) {
         const int error = errno;
         folder_.clear();
-        throw std::system_error(error, std::generic_category(), "cannot make a folder");
+        throw std::system_error(error, std::generic_category(), "cannot create a folder");
     }
     std::ofstream(folder_ + "/channels") << channels << '\n';
     std::ofstream(folder_ + "/wlctl") << "#!/bin/sh\nexec cat \"${0%/*}/channels\"\n";

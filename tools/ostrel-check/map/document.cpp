@@ -156,7 +156,7 @@ void Document::complain(const std::string& pointer, std::string_view problem) co
 void Document::require_members(const std::string& pointer, const ordered_json& object,
                                std::initializer_list<std::string_view> names) const
 {
-    if (!object.is_object()) complain(pointer, "it is not an object");
+    if (!object.is_object()) complain(pointer, "must be an object");
     for (const auto& [name, value] : object.items()) {
         if (std::ranges::find(names, name) == names.end()) complain(pointer + "/" + name, "unknown member");
     }
@@ -175,9 +175,9 @@ std::string Document::text(const std::string& pointer, const ordered_json& objec
 
 std::string Document::text_of(const std::string& pointer, const ordered_json& value) const
 {
-    if (!value.is_string()) complain(pointer, "it is not a string");
+    if (!value.is_string()) complain(pointer, "must be a string");
     std::string result = value.get<std::string>();
-    if (result.find('\0') != std::string::npos) complain(pointer, "a value cannot hold U+0000");
+    if (result.find('\0') != std::string::npos) complain(pointer, "must not contain U+0000");
     return result;
 }
 
@@ -190,7 +190,7 @@ const ordered_json& Document::array(const std::string& pointer, const ordered_js
         if (is_needed) complain(pointer, std::string("\"") + name + "\" is missing");
         return kNone;
     }
-    if (!found->is_array()) complain(pointer + "/" + name, "it is not an array");
+    if (!found->is_array()) complain(pointer + "/" + name, "must be an array");
     return *found;
 }
 

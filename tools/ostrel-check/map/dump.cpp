@@ -35,7 +35,8 @@ Dump::Dump(FileFormat format, const Reading& reading, std::string_view preamble)
       json_(reading.encoding)
 {
     if (format == FileFormat::kWords)
-        throw std::invalid_argument("a map judges CSV, TSV or JSON; --format says which it is");
+        throw std::invalid_argument(
+            "with --map, a file must be CSV, TSV or JSON; set its format with --format");
     reader_ = make_reader(format, reading_, preamble);
 }
 
@@ -77,7 +78,7 @@ void Dump::read_json(std::string_view text)
     if (end == std::string_view::npos) {
         const bool is_blank = text.find_first_not_of(" \t\r\n") == std::string_view::npos;
         if (is_blank) return;
-        throw std::invalid_argument("a gateway, or a row of one, is an object of JSON");
+        throw std::invalid_argument("expected a JSON object: a gateway, or a row of one");
     }
     json_.read(text.substr(0, end + 1));
     record_.members = json_.members();
@@ -105,7 +106,7 @@ void Dump::read_row(std::string_view text)
     if (reader_->read(text, 0, record_) == Found::kNothing) return;
     const std::string_view name = path_name();
     if (name.empty())
-        throw std::invalid_argument("no column names the parameter; --parameter says which one does");
+        throw std::invalid_argument("no column for the paths of parameters; name it with --parameter");
     path_ = require(name).value;
     gateway_ = reading_.group.empty() ? std::string_view() : require(reading_.group).value;
     if (record_.items.empty() || record_.items.front().kind != Item::Kind::kText) return;

@@ -78,11 +78,11 @@ Model read_facts(const std::string& file)
     for (std::size_t number = 1; std::getline(lines, line); ++number) {
         try {
             if (number == 1) {
-                if (line != kHeader) throw std::invalid_argument("the columns are not those of facts");
+                if (line != kHeader) throw std::invalid_argument("the header is not that of a file of facts");
                 continue;
             }
             const std::vector<std::string_view> columns = split(line, "\t");
-            if (columns.size() != 5) throw std::invalid_argument("a row has five columns");
+            if (columns.size() != 5) throw std::invalid_argument("a row must have five columns");
             ModelFacts facts;
             std::string_view type = columns[2];
             facts.is_list = take(type, "list of ");

@@ -45,7 +45,7 @@ bool FlatJson::start(bool is_array)
         return false;
     }
     if (levels_.empty() && is_array) {
-        problem_ = "a gateway is an object";
+        problem_ = "a gateway must be a JSON object";
         return false;
     }
     if (!levels_.empty()) enter(name_);
@@ -112,7 +112,7 @@ bool FlatJson::Key(const char* begin, rapidjson::SizeType size, bool /*copy*/)
 bool FlatJson::scalar(std::string_view text, bool is_token)
 {
     if (levels_.empty()) {
-        problem_ = "a gateway is an object";
+        problem_ = "a gateway must be a JSON object";
         return false;
     }
     const bool is_member = levels_.size() == 1 && name_.find('.') == std::string_view::npos;

@@ -36,8 +36,7 @@ class Loader {
         map_.file = document_.file();
         map_.about = document_.text("", root, "about");
         map_.root = document_.text("", root, "root");
-        if (!map_.root.empty() && !map_.root.ends_with('.'))
-            document_.complain("/root", "it does not end in \".\"");
+        if (!map_.root.empty() && !map_.root.ends_with('.')) document_.complain("/root", "must end in \".\"");
         if (const std::string facts = document_.text("", root, "facts"); !facts.empty()) {
             map_.facts = (std::filesystem::path(map_.file).parent_path() / facts).string();
         }
@@ -45,7 +44,7 @@ class Loader {
         for (std::size_t i = 0; i < parameters.size(); ++i) {
             add_entry("/parameters/" + std::to_string(i), parameters[i]);
         }
-        if (map_.entries.empty()) document_.complain("/parameters", "it is empty");
+        if (map_.entries.empty()) document_.complain("/parameters", "must not be empty");
         const ordered_json& others = document_.array("", root, "not_mapped", false);
         for (std::size_t i = 0; i < others.size(); ++i) {
             add_not_mapped("/not_mapped/" + std::to_string(i), others[i]);
@@ -76,7 +75,7 @@ class Loader {
     {
         const auto found = object.find("words");
         if (found == object.end()) return std::nullopt;
-        if (!found->is_object()) document_.complain(at + "/words", "it is not an object");
+        if (!found->is_object()) document_.complain(at + "/words", "must be an object");
         WordTable result;
         for (const auto& [word, value] : found->items()) {
             const std::string place = at + "/words/" + word;
@@ -104,7 +103,7 @@ class Loader {
     {
         PathPattern pattern = path(at, relative);
         if (pattern.instances() > entry.path.instances())
-            document_.complain(at, "it has more {i} than the path of the parameter");
+            document_.complain(at, "has more {i} than the path of the parameter");
         map_.paths[pattern.general()].is_sibling = true;
         return pattern;
     }
@@ -125,7 +124,7 @@ class Loader {
         entry.tried = document_.texts(at, object, "try");
         add_sources(at, object, entry);
         if (!known_.insert(entry.path.general() + "\n" + name).second)
-            document_.complain(at, "the parameter has this check already");
+            document_.complain(at, "the parameter already has this check");
         entry.call = calls_.emplace(call_of(entry), calls_.size()).first->second;
         map_.paths[entry.path.general()].entries.push_back(map_.entries.size());
         map_.entries.push_back(std::move(entry));
@@ -137,7 +136,7 @@ class Loader {
         static const ordered_json kNone = ordered_json::object();
         const auto found = object.find("with");
         const ordered_json& with = found == object.end() ? kNone : *found;
-        if (!with.is_object()) document_.complain(at + "/with", "it is not an object");
+        if (!with.is_object()) document_.complain(at + "/with", "must be an object");
         std::string value = document_.text(at, object, "value");
         if (value.empty() && given.size() == 1 && !with.contains(std::string(given[0].name)))
             value = given[0].name;
@@ -146,14 +145,15 @@ class Loader {
             const std::string name(given[i].name);
             if (name == value) {
                 if (given[i].kind == catalogue::Kind::kBlocks)
-                    document_.complain(at,
-                                       "the argument \"" + name + "\" is several texts: name their paths");
+                    document_.complain(
+                        at, "the argument \"" + name +
+                                "\" consists of several strings; name their \"paths\" in \"with\"");
                 entry.value = i;
                 entry.sources.push_back({Source::Kind::kValue, {}, words(at, object)});
             } else if (with.contains(name)) {
                 entry.sources.push_back(source(at + "/with/" + name, with[name], given[i], entry));
             } else {
-                document_.complain(at, "nothing says where the argument \"" + name + "\" comes from");
+                document_.complain(at, "no source is given for the argument \"" + name + "\"");
             }
         }
         for (const auto& item : with.items()) {
@@ -166,16 +166,18 @@ class Loader {
         entry.has_siblings = std::ranges::any_of(
             entry.sources, [](const Source& one) { return one.kind == Source::Kind::kSibling; });
         if (entry.value == given.size() && object.contains("words"))
-            document_.complain(at + "/words", "it needs the value to be an argument");
+            document_.complain(at + "/words",
+                               "\"words\" requires that the value is an argument of the check");
     }
 
     [[noreturn]] void complain_of_argument(const std::string& at, const MapEntry& entry, bool is_value)
     {
-        if (is_value) document_.complain(at, "the argument is the value itself");
+        if (is_value) document_.complain(at, "this argument already is the parameter's value");
         std::string names;
         for (const Argument& one : given_arguments(*entry.function))
             names.append(names.empty() ? "" : ", ").append(one.name);
-        document_.complain(at, std::string(entry.function->name) + " has no such argument; it has " + names);
+        document_.complain(
+            at, std::string(entry.function->name) + " has no such argument; its arguments are " + names);
     }
 
     Source source(const std::string& at, const ordered_json& object, const Argument& argument,
@@ -183,7 +185,8 @@ class Loader {
     {
         document_.require_members(at, object, {"path", "paths", "constant", "words", "example"});
         const int kinds = object.contains("path") + object.contains("paths") + object.contains("constant");
-        if (kinds != 1) document_.complain(at, "it needs one of \"path\", \"paths\" and \"constant\"");
+        if (kinds != 1)
+            document_.complain(at, "exactly one of \"path\", \"paths\" and \"constant\" is required");
         Source source;
         source.example = object.contains("example") ? argument_of(at + "/example", object["example"]) : "";
         source.words = words(at, object);
@@ -200,10 +203,10 @@ class Loader {
         for (std::size_t i = 0; i < paths.size(); ++i)
             source.paths.push_back(sibling(at + "/paths/" + std::to_string(i), paths[i], entry));
         if (source.paths.size() != argument.blocks)
-            document_.complain(at, "the argument needs as many paths: " + std::to_string(argument.blocks));
+            document_.complain(at, "the number of paths must be " + std::to_string(argument.blocks));
         if (argument.is_number() && !source.words && !source.example.empty() &&
             source.example.find_first_not_of("-0123456789") != std::string::npos)
-            document_.complain(at + "/example", "the argument is a number");
+            document_.complain(at + "/example", "must be a number");
         return source;
     }
 

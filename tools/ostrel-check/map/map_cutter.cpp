@@ -37,8 +37,8 @@ Cut MapCutter::cut(std::string_view bytes, bool is_end)
     const bool is_too_long = begin_ == 0 && all > kLongestText;
     cut.size = ends_gateway || is_too_long ? whole_ : begin_;
     if (is_too_long && !ends_gateway) {
-        cut.problem = "a gateway has more than 16 MiB; the rest is judged as another gateway";
-        if (reading_->group.empty()) cut.problem += "; --group separates the gateways of a file";
+        cut.problem = "a gateway is larger than 16 MiB; the remainder is judged as another gateway";
+        if (reading_->group.empty()) cut.problem += "; use --group to separate the gateways of a file";
     }
     if (cut.size == whole_) is_in_gateway_ = false;
     whole_ -= cut.size;

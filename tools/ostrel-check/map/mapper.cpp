@@ -181,7 +181,7 @@ bool Mapper::add_item(const MapEntry& entry, std::size_t argument, const DumpRow
         if (found == values_.end()) {
             lack.id = "missing_sibling";
             lack.parameter = path_;
-            lack.text = path_ + " is missing; the check needs it";
+            lack.text = path_ + " is missing, but the check needs it";
             return false;
         }
         if (!add_text(source, found->second, found->first, record, lack)) return false;

@@ -68,7 +68,7 @@ std::string standing(const Comparison& one)
 {
     std::string text(name_of(one.relation));
     if (one.relation == Relation::kUnknown) {
-        return "no difference found in " + std::to_string(one.tried) + " values";
+        return "no difference found among " + std::to_string(one.tried) + " values";
     }
     if (!one.is_proved) {
         text += one.relation == Relation::kNarrower ? "; no known value is accepted only by the gateway"

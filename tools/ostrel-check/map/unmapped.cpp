@@ -95,7 +95,7 @@ std::string Unmapped::text() const
     std::string text = counted(counts_.parameters, "parameter of ", "parameters of ") +
                        counted(counts_.gateways, "gateway", "gateways");
     const std::uint64_t unmapped = count();
-    if (unmapped > 0) text += "; no check is known for " + std::to_string(unmapped) + ":";
+    if (unmapped > 0) text += "; the map has no check for " + std::to_string(unmapped) + ":";
     text += '\n';
     for (const auto* row : sorted()) {
         const std::string times = std::to_string(row->second.count);
@@ -104,13 +104,14 @@ std::string Unmapped::text() const
         if (!row->second.because.empty()) text.append(": ").append(row->second.because);
         text += '\n';
     }
-    if (others_ > 0) text += std::to_string(others_) + " with other paths\n";
+    if (others_ > 0) text += counted(others_, "parameter", "parameters") + " with other paths\n";
     if (counts_.skipped > 0)
-        text += std::to_string(counts_.skipped) + " were skipped because their values carry no information\n";
+        text += counted(counts_.skipped, "parameter", "parameters") +
+                " skipped because of uninformative values\n";
     if (counts_.repeated > 0) {
-        text += std::to_string(counts_.repeated) +
-                " appeared again in the same gateway, and calls that need them used only the last value; "
-                "--group separates the gateways of a file\n";
+        text += counted(counts_.repeated, "repeated parameter", "repeated parameters") +
+                ": calls that need one used its last value in the gateway; "
+                "use --group to separate the gateways of a file\n";
     }
     if (counts_.split == 0) return text;
     text += "The rows of " + counted(counts_.split, "gateway", "gateways") + " are not adjacent";
@@ -119,7 +120,7 @@ std::string Unmapped::text() const
         append_escaped(text, first_split_, kLongestShown);
         text += '"';
     }
-    return text + ": each place was judged without the parameters in the others\n";
+    return text + ": each group of adjacent rows was judged as a separate gateway\n";
 }
 
 nlohmann::ordered_json Unmapped::json() const

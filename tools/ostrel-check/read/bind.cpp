@@ -30,7 +30,7 @@ long long read_number(const Argument& argument, std::string_view word)
     const char* end = digits.data() + digits.size();
     const auto read = std::from_chars(digits.data(), end, number, is_hexadecimal ? 16 : 10);
     if (digits.empty() || read.ptr != end) {
-        std::string message = "argument " + std::string(argument.name) + " takes a number; \"";
+        std::string message = "argument " + std::string(argument.name) + " must be a number, but \"";
         append_escaped(message, word, 40);
         throw std::invalid_argument(message.append("\" is not one"));
     }
@@ -44,7 +44,7 @@ void require_c_text(const Argument& argument, std::string_view text)
 {
     if (text.find('\0') == std::string_view::npos) return;
     throw std::invalid_argument("argument " + std::string(argument.name) +
-                                " contains U+0000 (a NUL byte), which would end the value in C");
+                                " contains U+0000 (NUL), which would end the value in C");
 }
 
 void set_text(Value& value, std::string_view text)

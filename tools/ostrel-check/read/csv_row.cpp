@@ -62,7 +62,7 @@ void CsvRow::split(std::string_view row, char delimiter)
     for (std::size_t at = 0;; ++at) {
         if (has_quotes && at < row.size() && row[at] == kQuote) {
             at = take_quoted(row, at);
-            if (at == std::string_view::npos) refuse("has an opening quotation mark and no closing one");
+            if (at == std::string_view::npos) refuse("has no closing quotation mark");
             if (at < row.size() && row[at] != delimiter) {
                 fields_.pop_back();
                 refuse("continues after its closing quotation mark");
@@ -72,7 +72,7 @@ void CsvRow::split(std::string_view row, char delimiter)
             fields_.push_back(row.substr(at, end - at));
             if (has_quotes && fields_.back().find(kQuote) != std::string_view::npos) {
                 fields_.pop_back();
-                refuse("holds a quotation mark and is not quoted");
+                refuse("contains a quotation mark but is not quoted");
             }
             at = end;
         }

@@ -84,13 +84,13 @@ void encode(std::string& bytes, std::string_view text, Encoding encoding)
         const Character character = read_character(text.substr(at));
         if (character.size == 0) {
             throw std::invalid_argument(
-                "byte " + std::to_string(at + 1) + " of a text is \\x" +
+                "byte " + std::to_string(at + 1) + " of a string is \\x" +
                 in_hexadecimal(byte_at(text, at), 2) +
-                ", which is not UTF-8; files are in UTF-8, also where values are in Latin-1");
+                ", which is not UTF-8; files must be in UTF-8 even with --encoding latin-1");
         }
         if (character.code > 0xFF) {
-            throw std::invalid_argument("a text holds U+" + in_hexadecimal(character.code, 4) +
-                                        ", which Latin-1 does not have");
+            throw std::invalid_argument("a string contains U+" + in_hexadecimal(character.code, 4) +
+                                        ", which does not exist in Latin-1");
         }
         bytes += static_cast<char>(character.code);
         at += character.size;
@@ -105,7 +105,7 @@ std::string utf8_of(std::string_view bytes, Encoding encoding)
 
 void decode_base64(std::string& bytes, std::string_view text)
 {
-    const auto refuse = [] { throw std::invalid_argument("a text in base64 is not valid base64"); };
+    const auto refuse = [] { throw std::invalid_argument("the string in \"base64\" is not valid base64"); };
     if (text.size() % 4 != 0) refuse();
     std::size_t padding = 0;
     while (padding < 2 && padding < text.size() && text[text.size() - padding - 1] == '=') ++padding;

@@ -118,7 +118,7 @@ class JsonCutter : public Cutter {
                 complain(cut, "a comma or ] is missing", 0);
                 return at;
             } else if (expected_ == Expected::kNothing) {
-                complain(cut, "something follows the end of the array", 0);
+                complain(cut, "unexpected data after the end of the array", 0);
                 return at;
             } else if (c == ',' || c == ']' || c == '}') {
                 complain(cut, std::string("an element is missing before ") + c, 0);

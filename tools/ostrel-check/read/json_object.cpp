@@ -81,7 +81,7 @@ bool JsonObject::Key(const char* begin, rapidjson::SizeType size, bool /*copy*/)
     } else {
         const bool is_vector = name == "repeat" || name == "join";
         complain(is_vector ? "\"" + std::string(name) +
-                                 "\" is notation of the conformance vectors, which batch does not read"
+                                 "\" is notation of the conformance vectors, which batch does not accept"
                            : kNotBase64);
         state_ = State::kOther;
     }

@@ -41,7 +41,8 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
  private:
     static constexpr const char* kNotAName = "\"check\" must be the name of a check";
     static constexpr const char* kNotAnArray = "\"args\" must be an array";
-    static constexpr const char* kNotBase64 = "an object that is an argument must be {\"base64\": text}";
+    static constexpr const char* kNotBase64 =
+        "an argument that is an object must have the form {\"base64\": text}";
 
     // State is the part of the record that is read next.
     enum class State {

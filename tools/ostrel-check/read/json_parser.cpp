@@ -16,7 +16,7 @@ namespace ostrel::tool {
 std::string describe(rapidjson::ParseErrorCode error)
 {
     if (error == rapidjson::kParseErrorStringUnicodeSurrogateInvalid) {
-        return "a text holds a lone surrogate, which is not a character";
+        return "a string contains a lone surrogate, which is not a character";
     }
     std::string text = rapidjson::GetParseError_En(error);
     if (text.ends_with('.')) text.pop_back();
@@ -58,7 +58,7 @@ ByteKinds require_json(std::string_view text)
         std::string byte;
         append_escaped(byte, text.substr(valid, 1), 1);
         throw std::invalid_argument("invalid JSON: byte " + std::to_string(valid + 1) + " is " + byte +
-                                    ", which is not UTF-8; any bytes can be given as {\"base64\": \"...\"}");
+                                    ", which is not UTF-8; pass arbitrary bytes as {\"base64\": \"...\"}");
     }
     const std::size_t nul = kinds.has_controls ? text.find('\0') : std::string_view::npos;
     if (nul != std::string_view::npos) {

@@ -50,7 +50,7 @@ bool JsonObject::scalar(Item::Kind kind, std::string_view text, std::string_view
     if (skipped_ > 0) return true;
     switch (state_) {
         case State::kObject:
-            complain("a record is an object of JSON");
+            complain("a record must be a JSON object");
             break;
         case State::kCheck:
             complain(kNotAName);
@@ -70,7 +70,7 @@ bool JsonObject::scalar(Item::Kind kind, std::string_view text, std::string_view
             break;
         default:
             if (state_ == State::kTexts && kind == Item::Kind::kNull)
-                complain("an array of texts cannot hold null");
+                complain("an array of strings must not contain null");
             add_item(kind, text);
             finish_value();
     }
@@ -93,7 +93,7 @@ bool JsonObject::start(bool is_object)
                 state_ = State::kMembers;
                 return true;
             }
-            complain("a record is an object of JSON");
+            complain("a record must be a JSON object");
             break;
         case State::kCheck:
             complain(kNotAName);
@@ -125,7 +125,7 @@ bool JsonObject::start(bool is_object)
                 state_ = State::kTexts;
                 return true;
             }
-            complain("an array of texts cannot hold an array");
+            complain("an array of strings must not contain an array");
     }
     ++skipped_;
     return true;

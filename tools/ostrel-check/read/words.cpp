@@ -32,7 +32,7 @@ int hexadecimal(char c)
 // escape.
 std::size_t read_escape(std::string_view text, std::size_t at, std::string& word)
 {
-    if (at == text.size()) throw std::invalid_argument("a \\ is the last character");
+    if (at == text.size()) throw std::invalid_argument("\\ at the end begins no escape");
     const char c = text[at];
     if (c == 'x') {
         const int high = at + 1 < text.size() ? hexadecimal(text[at + 1]) : -1;
@@ -48,7 +48,7 @@ std::size_t read_escape(std::string_view text, std::size_t at, std::string& word
     } else if (c == 't') {
         word += '\t';
     } else if (is_letter_or_digit(c)) {
-        throw std::invalid_argument(std::string("\\") + c + " is not an escape; a backslash is \\\\");
+        throw std::invalid_argument(std::string("\\") + c + " is not an escape; write a backslash as \\\\");
     } else {
         word += c;
     }

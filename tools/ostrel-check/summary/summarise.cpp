@@ -146,7 +146,7 @@ ordered_json read_line(std::string_view line)
     try {
         return json_tree(line);
     } catch (const std::invalid_argument& error) {
-        refuse(std::string(error.what()) + "; a line is a summary or a result in JSON");
+        refuse(std::string(error.what()) + "; each line must be a summary or a result in JSON");
     }
 }
 
@@ -167,7 +167,7 @@ bool add_file(Summary& summary, const std::string& file)
     if (file != "-") opened.open(file, std::ios::binary);
     std::istream& lines = file == "-" ? std::cin : opened;
     if (!lines) {
-        complain(file, 0, "cannot read it: " + std::generic_category().message(errno));
+        complain(file, 0, "cannot be read: " + std::generic_category().message(errno));
         return false;
     }
     bool is_good = true;
@@ -195,7 +195,7 @@ void add_line(Summary& summary, const std::string& line)
     if (given.is_object() && given.contains("summary")) {
         if (!given["summary"].is_object()) refuse("\"summary\" is not an object");
         if (!given.contains("rows") || !given["rows"].is_array())
-            refuse("a summary without rows; batch --summary json writes one with rows");
+            refuse("the summary has no \"rows\"; batch --summary json writes them");
         for (const ordered_json& row : given["rows"]) read_row(rows, row);
         unreadable_files = number_of(given["summary"], "unreadable_files");
         if (given.contains("map")) read_map(rows.unmapped, given["map"]);

@@ -145,10 +145,10 @@ std::string summary_text(const Summary& summary, bool with_rows)
     const auto add = [&](Verdict verdict, std::string_view what) {
         if (tally.of(verdict) > 0) text.append(", ").append(std::to_string(tally.of(verdict))).append(what);
     };
-    add(Verdict::kAnswer, " answered with a number");
+    add(Verdict::kAnswer, " returned a number");
     add(Verdict::kEnded, " ended the process");
     add(Verdict::kNoReturn, " did not return");
-    add(Verdict::kNoDriver, " without the driver's list");
+    add(Verdict::kNoDriver, " not judged (no driver)");
     if (const std::uint64_t malformed = tally.of(Verdict::kMalformed); malformed > 0) {
         text += "; " + counted(malformed, "malformed line", "malformed lines");
     }

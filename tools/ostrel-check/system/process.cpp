@@ -63,7 +63,7 @@ int Descriptor::release() { return std::exchange(number_, -1); }
 Pipe make_pipe()
 {
     std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) throw failure("cannot make a pipe");
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) throw failure("cannot create a pipe");
     return {Descriptor(ends[0]), Descriptor(ends[1])};
 }
 
