@@ -85,7 +85,7 @@ std::vector<Check> accounts()
         provisioning_code(),
         ppp_user_name(),
         field("TcmValidatePPPPassword", text("value", "the password of an account").secret(), 1, 67, kLatin1),
-        field("TcmValidateLANConfigPassword", text("value", "the password of the configuration").secret(), 4,
+        field("TcmValidateLANConfigPassword", text("value", "the password of the configuration pages").secret(), 4,
               12, kNameSet),
         field("TcmValidateEmailPassword", text("value", "the password of a mail account").secret(), 0, 255,
               kNameSet),

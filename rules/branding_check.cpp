@@ -38,7 +38,7 @@ std::vector<Check> branding_check()
               {refuse(802, longer_than(29),
                       line("Error in Param_check_pword_value: The length of string :<value> shoud not be "
                            "less than 30\n"))}),
-        check("Param_check_color_value", {text("value", "a colour: red, green and blue, two digits each")},
+        check("Param_check_color_value", {text("value", "a colour: two digits each for red, green and blue")},
               {refuse(601, length_not({6}),
                       line("Error in Param_check_color_value: The length of color :<value> shoud not be "
                            "equal to 6\n")),

@@ -40,11 +40,13 @@ std::string driver_list(long long first, long long highest)
            std::to_string(first) + " listed by the wireless driver";
 }
 
-// choice returns "is a or b", or "is none of a, b".
+// choice returns "is a or b", "is neither a nor b", or "is not one of a, b and c".
 std::string choice(const std::vector<std::string>& words, bool holds)
 {
     if (words.size() == 1) return (holds ? "is " : "is not ") + words[0];
-    return holds ? "is " + joined_words(words, "or") : "is none of " + joined_words(words, "and");
+    if (holds) return "is " + joined_words(words, "or");
+    return words.size() == 2 ? "is neither " + joined_words(words, "nor")
+                             : "is not one of " + joined_words(words, "and");
 }
 
 }  // namespace
@@ -68,7 +70,7 @@ std::string Speaker::among(const Expression& expression, bool holds) const
 {
     const Expression* fixed = constant(expression);
     const bool is_set = fixed != nullptr && fixed->kind == Expression::Kind::kSet;
-    return std::string(holds ? "is one of " : "is none of ") + (is_set ? "these: " : "") + set(expression);
+    return std::string(holds ? "is one of " : "is not one of ") + (is_set ? "these: " : "") + set(expression);
 }
 
 // other names the second string in a comparison.

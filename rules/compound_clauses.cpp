@@ -18,9 +18,9 @@ Clause Speaker::row_clause(const Condition& condition, bool holds) const
         const std::string column(condition.table->columns[match.column]);
         const bool is_part = match.how == Match::How::kPart;
         matches.push_back((match.how == Match::How::kNumber ? number(match.value) : value(match.value)) +
-                          (is_part ? " as a part of its " : " as its ") + column);
+                          (is_part ? " as part of its " : " as its ") + column);
     }
-    return {holds ? "a row of the table" : "no row of the table", "has " + joined_words(matches, "and")};
+    return {"the table", (holds ? "has a row with " : "has no row with ") + joined_words(matches, "and")};
 }
 
 Clause Speaker::use_clause(const Condition& condition, bool holds) const

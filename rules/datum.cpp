@@ -56,7 +56,7 @@ std::string in_words(const std::vector<std::string_view>& words, const Datum& fo
         if (common > longest) nearest = word;
         longest = common;
     }
-    return std::to_string(words.size()) + " texts; the closest is " + quoted(nearest);
+    return std::to_string(words.size()) + " values; the closest is " + quoted(nearest);
 }
 
 }  // namespace

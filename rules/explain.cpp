@@ -20,10 +20,10 @@ std::string missing(const Expression& expression)
         case Expression::Kind::kBeforeFirst:
         case Expression::Kind::kBeforeLast:
         case Expression::Kind::kAfterLast:
-            return "; all of it if there is none";
+            return " (all of it if there is none)";
         case Expression::Kind::kAfterFirst:
         case Expression::Kind::kThroughLast:
-            return "; nothing if there is none";
+            return " (nothing if there is none)";
         default:
             return "";
     }
@@ -126,10 +126,10 @@ class Explainer {
             case Kind::kRefuse:
                 return verdict(step, speaker, is_called) + condition;
             case Kind::kAccept:
-                if (!speaker.check().is_verdict) return "answers " + code(step, speaker) + condition;
+                if (!speaker.check().is_verdict) return "returns " + code(step, speaker) + condition;
                 return (is_called ? "accepted" : "accepts") + condition;
             case Kind::kPrint:
-                return "prints and goes on" + condition;
+                return "prints and continues" + condition;
             case Kind::kSkip:
                 return "skips " + speaker.item() + condition;
             case Kind::kWrite:

@@ -18,12 +18,12 @@ std::string unit_of(const Argument& argument)
 std::string room_of(const Argument& argument, const Speaker& speaker)
 {
     if (argument.kind == Argument::Kind::kBlocks) {
-        return std::to_string(argument.blocks) + " texts, " + std::to_string(argument.block_size) +
+        return std::to_string(argument.blocks) + " strings, " + std::to_string(argument.block_size) +
                " bytes apart";
     }
     if (argument.kind != Argument::Kind::kBuffer) return "";
     if (argument.room) return speaker.value(*argument.room) + ", in bytes";
-    return "the length of its text and the terminator";
+    return "the length of the string and its terminator";
 }
 
 // add_written lists the values that may be written to an argument.
@@ -73,10 +73,9 @@ std::string how_numbers_are_read(const Build& build)
     const auto read = [&](const char* text) {
         return std::string(text) + " as " + std::to_string(read_number(text, build.atoi).value);
     };
-    return "Numbers are read as atoi reads them: leading white space and whatever follows the digits are "
-           "ignored, and a text without digits is 0. Gateways differ in how they read a number that does not "
-           "fit "
-           "in an int; this one reads " +
+    return "Numbers are read as by atoi: leading white space and anything after the digits are ignored, and a "
+           "string without digits is 0. Gateways differ in how they read a number that does not fit in an "
+           "int; this one reads " +
            read("2147483648") + ", and " + read("99999999999999999999") + ".";
 }
 

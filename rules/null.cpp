@@ -25,9 +25,9 @@ std::string in_words(const NullEnd& end)
         case NullEnd::Kind::kRefused:
             return "refused with " + in_words(end.codes);
         case NullEnd::Kind::kAnswered:
-            return "answers " + in_words(end.codes);
+            return "returns " + in_words(end.codes);
         case NullEnd::Kind::kPrinted:
-            return "left to the C library, which prints it or ends the process";
+            return "passed to the C library, which prints it or ends the process";
         case NullEnd::Kind::kFault:
             return "ends the process (memory fault)";
         case NullEnd::Kind::kAsserted:

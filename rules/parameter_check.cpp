@@ -11,7 +11,7 @@ std::vector<Check> lengths()
 {
     return {
         check("Param_check_string_len",
-              {text("value_p", "a text").asserts("((void *)0) != value_p"),
+              {text("value_p", "a string").asserts("((void *)0) != value_p"),
                integer("min_len", "the minimum length").in("bytes"),
                integer("max_len", "the maximum length").in("bytes")},
               {refuse(801, shorter_than("min_len"),
@@ -32,11 +32,11 @@ std::vector<Check> lengths()
                integer("max_len", "the maximum length").in("bytes")},
               {refuse(its_code(), refused_by("ValidateString", {"min_len", "max_len", kAlnum, "value_p"}))}),
         check("PARAM_check_string_len",
-              {text("value_p", "a text"), natural("min_len", "the minimum length").in("bytes"),
+              {text("value_p", "a string"), natural("min_len", "the minimum length").in("bytes"),
                natural("max_len", "the maximum length").in("bytes")},
               {refuse(-1, shorter_than("min_len")), refuse(-1, longer_than("max_len"))}),
         check("PARAM_check_string_prefix",
-              {text("value_p", "a text").asserts(kAssertion), text("first_chars", "the allowed first bytes")},
+              {text("value_p", "a string").asserts(kAssertion), text("first_chars", "the allowed first bytes")},
               {refuse(-1, outside(slice("value_p", 0, 1), "first_chars"))}),
     };
 }
@@ -58,7 +58,7 @@ std::vector<Check> addresses_and_words()
                {answer(0, one_of({"TCP"})), answer(1, one_of({"UDP"})), answer(2)}),
         check("PARAM_check_hexa_string", {text("value_p", "hexadecimal digits").asserts(kAssertion)},
               {refuse(-1, outside(kHex))}),
-        check("PARAM_check_printable_ascii_string", {text("value_p", "a printable text")},
+        check("PARAM_check_printable_ascii_string", {text("value_p", "a printable string")},
               {refuse(-1, null(it)), refuse(-1, empty()), refuse(-1, outside(kPrintable))}),
         check("PARAM_check_provisioning_code", {text("value_p", "a provisioning code")},
               {refuse(402, refused_by("TcmValidateProvisioningCode"))}),
@@ -91,7 +91,7 @@ std::vector<Check> numbers()
         check("PARAM_check_ui4_value", {text("value_p", "a four-byte number").asserts(kAssertion)},
               unsigned_integer("Error in PARAM_check_ui4_value: The value <value_p> is invalid\n")),
         check("PARAM_check_dl_test_bufsize",
-              {text("value_p", "the size of a buffer for downloads").in("bytes")},
+              {text("value_p", "the buffer size for download tests").in("bytes")},
               {refuse(601, null(it)), refuse(601, empty()),
                refuse(601, outside(kDigits),
                       line("Error in PARAM_check_dl_test_bufsize: The value <value_p> is invalid\n")),

@@ -54,7 +54,7 @@ std::vector<Check> port_mapping_check()
                       line("Error in PORTMAPPING_check_description: Error port mapping "
                            "description:<value_p>\n\n"))}),
         check("PORTMAPPING_check_lease_duration",
-              {text("value_p", "the lease time of the mapping; 0 is permanent").in("seconds")},
+              {text("value_p", "the lease time of the mapping, or 0 for a permanent one").in("seconds")},
               {refuse(725, not_among(it, {0}),
                       line("Error in PORTMAPPING_check_lease_duration: The port mapping lease should be "
                            "zero\n"))}),

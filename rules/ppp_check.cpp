@@ -20,7 +20,7 @@ std::vector<Check> ppp_check()
               {refuse(its_code(), refused_by("TcmValidatePPPPassword"),
                       line("Error in PPP_check_non_tonline_password: Error none T-Online ppp "
                            "password:<value>\n\n"))}),
-        check("PPP_check_pppoe_service_name", {text("value", "the service name of PPPoE")},
+        check("PPP_check_pppoe_service_name", {text("value", "the PPPoE service name")},
               {refuse(501, empty(),
                       line("Error in PPP_check_pppoe_service_name: Error ppp service name:<value>\n\n"))}),
         check("PPP_check_connection_trigger", {text("value", "what triggers the connection")},
@@ -34,7 +34,7 @@ std::vector<Check> ppp_check()
         check("PPP_check_route_protocol_rx", {text("value", "the routing protocol to listen to")},
               {refuse(402, none_of({"Off"}),
                       line("Error in PPP_check_route_protocol_rx: Error Rx route protocol:<value>\n\n"))}),
-        check("PPP_check_shaping_rate", {text("value", "the traffic-shaping rate; -1 for none")},
+        check("PPP_check_shaping_rate", {text("value", "the traffic-shaping rate, or -1 for none")},
               {refuse(402, below(-1),
                       line("Error in PPP_check_shaping_rate: Error shaping rate:<value>\n\n"))}),
         check("PPP_check_shaping_burst_size", {text("value", "the burst size of shaped traffic")},

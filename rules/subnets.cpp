@@ -42,7 +42,7 @@ std::vector<Check> subnets()
     return {
         check(
             "isInSameSubnet",
-            {text("reference", "an address of the subnet"), text("address", "the address that is compared")},
+            {text("reference", "an address of the subnet"), text("address", "the address to compare")},
             {refuse(-1, because("another_subnet",
                                 not_equal(slice("address", 0, length(through_last("reference", "."))),
                                           through_last("reference", "."))))}),

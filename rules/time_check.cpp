@@ -195,7 +195,7 @@ std::vector<Check> time_check()
         check("TIME_check_url", {text("value", "the host of an NTP server")},
               {refuse(402, refused_by("ValidateURL"),
                       line("Error in TIME_check_url: <value> is not validate URL\n"))}),
-        check("TIME_check_ascii_string", {text("value", "a printable text")},
+        check("TIME_check_ascii_string", {text("value", "a printable string")},
               {refuse(-1, refused_by("PARAM_check_printable_ascii_string"), not_printable())}),
         check("TIME_check_NTP_server", {text("value", "the host of an NTP server")},
               {refuse(its_code(), refused_by("TIME_check_ntpserver_length")),

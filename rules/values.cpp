@@ -113,7 +113,7 @@ std::string Speaker::computed(const Expression& expression) const
         case Kind::kLength:
             return "the length of " + operands[0];
         case Kind::kCount:
-            return "how often " + operands[1] + " occurs in " + operands[0];
+            return "the number of times " + operands[1] + " occurs in " + operands[0];
         case Kind::kSum: {
             const Expression& first = expression.of[0];
             const bool counts_items =

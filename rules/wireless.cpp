@@ -18,7 +18,7 @@ Words with(Words words, const Words& more)
 std::vector<Check> wireless()
 {
     return {
-        check("TcmValueisValid", {text("value", "a text"), text("allowed", "the allowed bytes")},
+        check("TcmValueisValid", {text("value", "a string"), text("allowed", "the allowed bytes")},
               {refuse(803, outside("value", "allowed"))}),
         check("TcmValidatePSK", {text("value", "a pre-shared key").secret()},
               {refuse(600, length_not({64})), refuse(803, outside(kHex))}),

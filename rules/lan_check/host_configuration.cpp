@@ -84,13 +84,13 @@ std::vector<Check> wan_subnet()
                       line("Error in LAN_check_associated_connection: Error associated_connection "
                            "length:<value_p>\n\n"))}),
         check("LAN_check_passthrough_lease",
-              {text("value_p", "the lease of a station that is passed through").asserts(kAssertion)},
+              {text("value_p", "the lease of a passthrough station").asserts(kAssertion)},
               {refuse(-1, below(0),
                       line("Error in LAN_check_passthrough_lease: Error passthrough lease:<value_p>\n\n")),
                refuse(-1, above(65535),
                       line("Error in LAN_check_passthrough_lease: Error passthrough lease:<value_p>\n\n"))}),
         check("LAN_check_passthrough_MAC_address",
-              {text("value", "the MAC address of a station that is passed through; ignored")}, {}),
+              {text("value", "the MAC address of a passthrough station; ignored")}, {}),
     };
 }
 

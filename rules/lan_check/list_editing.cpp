@@ -15,7 +15,7 @@ Check add_allowed_address()
     return check(
         "LAN_check_add_allowedMACAddress",
         {text("macAddress", "the MAC addresses to add"),
-         buffer("allowedList", "the allowed MAC addresses; if empty, in a buffer of zeros")
+         buffer("allowedList", "the allowed MAC addresses; an empty list needs a zeroed buffer")
              .needs(larger({161, sum({length("macAddress"), 1})}))},
         {refuse(-1, null("macAddress")), refuse(-1, null("allowedList")),
          accept(empty("allowedList"), Write{"allowedList", "macAddress", false}),

@@ -11,7 +11,7 @@ Check guests()
 {
     const Condition is_malformed = refused_by("ValidateString", {1, 2, kDigits, "value"});
     return check(
-        "GUESTACCESS_check_max_allowed_number", {text("value", "the number of guests that are allowed")},
+        "GUESTACCESS_check_max_allowed_number", {text("value", "the maximum number of guests")},
         {print(line("Error in GUESTACCESS_check_max_allowed_number: Error max allowed number:<value>\n\n"),
                is_malformed),
          refuse(402, below(1),

@@ -79,7 +79,7 @@ Check keys()
 {
     return check("WLAN_check_keys",
                  {text("key", "a key or a pass phrase").secret(), text("type", "a security type"),
-                  text("encryption", "an encryption")},
+                  text("encryption", "an encryption method")},
                  {refuse(-1, none_of("type", kSecurityTypes), to_stderr("The code : -1\n")),
                   when(one_of("type", {"WPA-PSK", "WPA-AUTO-PSK", "WPA2-PSK"}), pass_phrase_or_key()),
                   when(one_of("type", kWepTypes), wep_key()), print(to_stderr("The code : 0\n"))});
@@ -96,7 +96,7 @@ std::vector<Check> wlan_check_keys()
         key_or_pass_phrase(),
         wep_keys(),
         keys(),
-        check("WLAN_check_default_wep_key_index", {text("value", "the number of a WEP key, from 0")},
+        check("WLAN_check_default_wep_key_index", {text("value", "the index of a WEP key, from 0")},
               {refuse(402, not_(between(it, 0, 3)),
                       line("Error in WLAN_check_default_wep_key_index: Error default wep key "
                            "index:<value>\n\n"))}),

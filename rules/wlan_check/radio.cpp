@@ -44,7 +44,7 @@ Check second_channel(std::string_view name, std::string_view what,
     std::vector<Step> steps = {reads("second"), refuse(-1, not_among("primary", primaries))};
     for (const auto& [primary, second] : pairs)
         steps.push_back(when(equal("primary", primary), {refuse(-1, not_among("second", {second}))}));
-    return check(name, {text("primary", "the primary channel of a pair; 0: none"), text("second", what)},
+    return check(name, {text("primary", "the primary channel of a pair, or 0 for none"), text("second", what)},
                  std::move(steps));
 }
 
@@ -72,7 +72,7 @@ std::vector<Check> wlan_check_radio()
     return {
         radio_id(),
         channel(),
-        second_channel("WLAN_check_second_channel", "the other channel of the pair; 0: none",
+        second_channel("WLAN_check_second_channel", "the other channel of the pair, or 0 for none",
                        {{0, 0},
                         {1, 3},
                         {2, 4},
@@ -88,7 +88,7 @@ std::vector<Check> wlan_check_radio()
                         {12, 10},
                         {13, 11}}),
         second_channel(
-            "WLAN_check_5g_second_channel", "the centre of the pair; 0: none",
+            "WLAN_check_5g_second_channel", "the centre of the pair, or 0 for none",
             {{0, 0}, {36, 38}, {40, 38}, {44, 46}, {48, 46}, {149, 151}, {153, 151}, {157, 159}, {161, 159}}),
         wide_channel(),
         mode(),

@@ -42,7 +42,7 @@ std::vector<Check> lists()
 
 std::vector<Check> lists_by_mode()
 {
-    const auto mode = integer("readwrite_mode", "which list applies");
+    const auto mode = integer("readwrite_mode", "which list of values applies");
     return {
         check("WLAN_check_IEEE11i_encryption_modes", {text("value", "an IEEE 802.11i encryption mode"), mode},
               listed_by_mode({"AESEncryption", "WEPandAESEncryption", "TKIPandAESEncryption",
@@ -79,8 +79,8 @@ Check security_type()
     };
     return check(
         "WLAN_check_HNAP_SecurityType",
-        {text("setting1", "the first of two host settings"), text("setting2", "the second host setting"),
-         text("type", "a security type"), text("encryption", "an encryption")},
+        {text("setting1", "the first of two host settings"), text("setting2", "the second of two host settings"),
+         text("type", "a security type"), text("encryption", "an encryption method")},
         {when(all_of({equal("setting1", literal("0")), equal("setting2", literal("auto"))}),
               {refuse(1001, none_of("type", {"WPA2-PSK", "WPA2-RADIUS"}))},
               {when(equal(model(), literal("M2840")), {refuse(1001, none_of("type", without_wep_radius))},
@@ -95,7 +95,7 @@ Check key_renewal()
 {
     return check("WLAN_check_HNAP_KeyRenewal",
                  {text("renewal", "whether keys are renewed"),
-                  text("interval", "the interval between two renewals").in("seconds"),
+                  text("interval", "the interval between renewals").in("seconds"),
                   text("type", "a security type")},
                  {accept(one_of("renewal", {"false"})), accept(one_of("type", kWepTypes)),
                   refuse(-1, empty("interval")), refuse(-1, outside("interval", kDigits)),

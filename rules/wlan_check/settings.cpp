@@ -57,7 +57,7 @@ Check distance()
 Check operation_mode()
 {
     return check("WLAN_check_device_opration_mode",
-                 {text("value", "the role of the device"), integer("readwrite_mode", "which list applies")},
+                 {text("value", "the role of the device"), integer("readwrite_mode", "which list of values applies")},
                  listed_by_mode(
                      {"WirelessBridge", "WirelessRepeater", "WirelessStation"}, {"InfrastructureAccessPoint"},
                      {line("Error in WLAN_check_device_opration_mode: Error operating mode:<value> "

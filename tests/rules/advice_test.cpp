@@ -92,7 +92,7 @@ TEST(AdviceTest, AFalseSetIsNoticed)
 {
     EXPECT_EQ("does not come back with one step less: byte 1 is \"z\"; digits are allowed",
               fault_of(all_of({outside(kDigits | Set(":/")), outside(kDigits)}), "z"));
-    EXPECT_EQ("does not come back with one step less: is none of a, b",
+    EXPECT_EQ("does not come back with one step less: is not one of a, b",
               fault_of(all_of({none_of({"ax", "bx"}), none_of({"a", "b"})}), "c"));
 }
 

@@ -200,8 +200,8 @@ TEST(ExplanationTest, ThoseThatAreDescribedTogetherAreToldApart)
     EXPECT_EQ("the offset of the local time zone", what("TIME_check_local_time_zone"));
     EXPECT_EQ("the name of the local time zone", what("TIME_check_local_time_zone_name"));
     EXPECT_EQ("when daylight saving starts or ends", what("TIME_check_daylight_saving_start_or_end"));
-    EXPECT_EQ("the other channel of the pair; 0: none", what("WLAN_check_second_channel", 1));
-    EXPECT_EQ("the centre of the pair; 0: none", what("WLAN_check_5g_second_channel", 1));
+    EXPECT_EQ("the other channel of the pair, or 0 for none", what("WLAN_check_second_channel", 1));
+    EXPECT_EQ("the centre of the pair, or 0 for none", what("WLAN_check_5g_second_channel", 1));
 }
 
 TEST(ExplanationTest, KeywordsOfAnyCaseAreAsTheyAreWritten)

@@ -55,12 +55,12 @@ TEST(HostsTest, Urls)
     EXPECT_EQ("in the host, byte 9 is \"?\"; letters, digits and - . are allowed", said("http://a?b"));
     EXPECT_EQ("the host has 7 labels; at most 6 are allowed", said("http://a.b.c.d.e.f.g:1"));
     EXPECT_EQ("the IPv4 address has 3 parts; 4 are needed", said("http://1.2.3/"));
-    EXPECT_EQ("has a \":\" in the path that begins at byte 13; that is allowed only after a port",
+    EXPECT_EQ("has a \":\" in the path that begins at byte 13; this is allowed only after a port",
               said("http://a.lan/b:80"));
     EXPECT_EQ("in the port, byte 11 is \"x\"; digits are allowed", said("http://a:8x"));
     EXPECT_EQ("the port is 65536; at most 65535 is allowed", said("http://a:65536/"));
     EXPECT_EQ(
-        "the port has the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
+        "the port contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
         "least 0 is needed",
         said("http://a:4294967295/"));
 }

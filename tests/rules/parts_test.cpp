@@ -119,7 +119,7 @@ TEST(ShapesTest, MayEndWhereTheyAreAtFault)
     EXPECT_EQ("byte 3 is \"Z\"; + - or the end is expected there", said({brief, signed_so}, "12Z"));
     EXPECT_EQ("byte 3 is \"Z\"; + - or the end is expected there", said({signed_so, brief}, "12Z"));
     EXPECT_EQ("byte 3 is \"Z\"; + - are expected there", said({signed_so}, "12Z"));
-    EXPECT_EQ("should end before byte 3", said({brief}, "12Z"));
+    EXPECT_EQ("continues at byte 3, where it must end", said({brief}, "12Z"));
     EXPECT_EQ("byte 2 is \"Z\"; digits are expected there", said({brief, signed_so}, "1Z"));
     EXPECT_EQ("byte 3 is \"Z\"; digits or the end is expected there", said({{some(kDigits, 1, 3)}}, "12Z"));
     EXPECT_EQ("ends before byte 2, where digits are expected", said({brief, signed_so}, "1"));

@@ -17,7 +17,7 @@ std::string said(std::string_view name, const std::vector<Value>& values)
 
 TEST(KeywordTest, NamesAll)
 {
-    EXPECT_EQ("value is none of en-us, fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th",
+    EXPECT_EQ("value is not one of en-us, fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th",
               said("HNAPCORE_check_locale", {"de"}));
     EXPECT_EQ("value_p is not Static", said("LAN_check_interface_addr_type", {"static"}));
     EXPECT_EQ("value_p is \"Normal\"; Normal, UseAllocatedSubnet, Passthrough are not allowed",
@@ -26,8 +26,8 @@ TEST(KeywordTest, NamesAll)
 
 TEST(KeywordTest, NamesThoseOfAnyCaseAsTheyAreWritten)
 {
-    EXPECT_EQ("value_p is none of TCP, UDP", said("PARAM_check_transport_protocol", {"x"}));
-    EXPECT_EQ("value is none of Default, Network, Host", said("L3FORWARDING_check_ForwardingType", {"x"}));
+    EXPECT_EQ("value_p is not one of TCP, UDP", said("PARAM_check_transport_protocol", {"x"}));
+    EXPECT_EQ("value is not one of Default, Network, Host", said("L3FORWARDING_check_ForwardingType", {"x"}));
 }
 
 TEST(PreSharedKeyTest, LengthIsToldFirst)
@@ -65,12 +65,12 @@ TEST(NumberTest, TextIsReadAsANumber)
     EXPECT_EQ("value is read as 0; at least 1 is needed", said("L3FORWARDING_check_MTU", {"abc"}));
     EXPECT_EQ("value is read as 1541; at most 1540 is allowed", said("L3FORWARDING_check_MTU", {" 1541x"}));
     EXPECT_EQ(
-        "value has the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
+        "value contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
         "least "
         "1 is needed",
         said("L3FORWARDING_check_MTU", {"4294967295 bytes"}));
     EXPECT_EQ(
-        "value has the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
+        "value contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
         "least "
         "1 is needed",
         said("L3FORWARDING_check_MTU", {" 4294967295 bytes"}));
@@ -101,7 +101,7 @@ TEST(NumberTest, ReservedPorts)
 {
     EXPECT_EQ("port is 443; 80, 161, 443, 1723, 1728, 6667, 7547 are not allowed",
               said("PORTMAPPING_check_port_available", {"443", 0LL}));
-    EXPECT_EQ("port is 54000; 54000 to 54999 are not allowed",
+    EXPECT_EQ("port is 54000; numbers from 54000 to 54999 are not allowed",
               said("PORTMAPPING_check_port_available", {"54000", 1LL}));
     EXPECT_EQ(" accepted", said("PORTMAPPING_check_port_available", {"53999", 1LL}));
     EXPECT_EQ(" accepted", said("PORTMAPPING_check_port_available", {"55000", 1LL}));
@@ -138,7 +138,7 @@ TEST(ListTest, AddedAddresses)
     EXPECT_EQ("macAddress is empty", told_of("", "l"));
     EXPECT_EQ("macAddress is \"l\", which is already in the list", told_of("l", "l"));
     EXPECT_EQ("macAddress has 1 byte; one of 17, 35, 53, 71, 89, 107, 125, 143 is needed", told_of("a", "l"));
-    EXPECT_EQ("macAddress has 160 bytes together with the list; at most 159 are allowed",
+    EXPECT_EQ("macAddress needs 160 bytes together with the list; at most 159 are allowed",
               told_of("00:11:22:33:44:55", longest));
 }
 
@@ -157,8 +157,8 @@ TEST(ListTest, AddedAndDeletedServers)
     };
     EXPECT_EQ("serverAddress is the first server, which cannot be deleted",
               deleted("8.8.8.8", "8.8.8.8,1.1.1.1"));
-    EXPECT_EQ("serverAddress is neither the first nor the second server", deleted("10.0.0.1", "8.8.8.8"));
-    EXPECT_EQ("serverAddress is neither the first nor the second server", deleted("1.1.1.1", ""));
+    EXPECT_EQ("serverAddress is not one of the current servers", deleted("10.0.0.1", "8.8.8.8"));
+    EXPECT_EQ("serverAddress is not one of the current servers", deleted("1.1.1.1", ""));
 }
 
 TEST(AddressTest, Pools)
@@ -167,7 +167,7 @@ TEST(AddressTest, Pools)
         return said("LAN_check_dhcp_addr_range", {start, end, "192.168.1.1"});
     };
     EXPECT_EQ("startAddress the last octet is 0; at least 1 is needed", pool("192.168.1.0", "192.168.1.9"));
-    EXPECT_EQ("endAddress the last octet is 8; at least 9, the last octet of the start address, is needed",
+    EXPECT_EQ("endAddress the last octet is 8; it must be at least 9, the last octet of the start address",
               pool("192.168.1.9", "192.168.1.8"));
     EXPECT_EQ("endAddress the last octet is 256; at most 254 is allowed",
               pool("192.168.1.9", "192.168.1.256"));

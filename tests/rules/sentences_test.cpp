@@ -96,7 +96,7 @@ Reason of(std::string_view id, std::size_t argument = 0)
 // The found value may be hidden, and a reason without a place or a limit still has a sentence.
 TEST(SentencesTest, SayWhatIsNotShown)
 {
-    EXPECT_EQ("should end before byte ", sentence(of("too_much")));
+    EXPECT_EQ("continues at byte , where it must end", sentence(of("too_much")));
     Reason reason = of("not_in_set");
     reason.allowed = kDigits;
     EXPECT_EQ("byte  is a byte that is not shown; digits are allowed", sentence(reason));
@@ -104,7 +104,7 @@ TEST(SentencesTest, SayWhatIsNotShown)
     EXPECT_EQ("byte  is a byte that is not shown; digits are allowed", sentence(reason));
     EXPECT_EQ("is a value that is not shown; the allowed range is ", sentence(of("number_out_of_range")));
     EXPECT_EQ(
-        "has the number a value that is not shown, which does not fit in an int; this gateway reads it as ",
+        "contains the number a value that is not shown, which does not fit in an int; this gateway reads it as ",
         sentence(of("number_beyond_int")));
 }
 

@@ -19,7 +19,7 @@ TEST(DateTimeTest, Forms)
     EXPECT_EQ("ends before byte 11, where \"T\" is expected", said("2010-01-01"));
     EXPECT_EQ("byte 11 is \"t\"; \"T\" is expected there", said("2010-01-01t00:00:00"));
     EXPECT_EQ("byte 20 is \"Z\"; + - or the end is expected there", said("2010-01-01T00:00:00Z"));
-    EXPECT_EQ("should end before byte 14", said("0329T02:00:00+01:00"));
+    EXPECT_EQ("continues at byte 14, where it must end", said("0329T02:00:00+01:00"));
 }
 
 TEST(DateTimeTest, Fields)
@@ -47,17 +47,17 @@ TEST(TimeZoneTest, OffsetsAndNames)
     };
     EXPECT_EQ("accepted", told(answered("-04:00", "La Paz")));
     EXPECT_EQ(
-        "is not part of any name for this offset: \"Atlantic Time\", \"Caracas, La Paz\", "
+        "does not occur in any name for this offset: \"Atlantic Time\", \"Caracas, La Paz\", "
         "Santiago",
         told(answered("-04:00", "Lima")));
     EXPECT_EQ("tzone_name", answered("-04:00", "Lima").reason.name);
     const Answer unknown = answered("+00:00", "London");
     EXPECT_EQ("tzone", unknown.reason.name);
-    EXPECT_TRUE(told(unknown).starts_with("is none of -12:00, -11:00, -10:00, "));
+    EXPECT_TRUE(told(unknown).starts_with("is not one of -12:00, -11:00, -10:00, "));
     EXPECT_EQ(32, std::get<std::vector<std::string_view>>(unknown.reason.allowed).size());
     const Answer no_name = answered("+00:00", "");
     EXPECT_EQ("tzone", no_name.reason.name);
-    EXPECT_TRUE(told(no_name).starts_with("is not part of any of -12:00, -11:00, "));
+    EXPECT_TRUE(told(no_name).starts_with("does not occur in any of -12:00, -11:00, "));
     const Answer no_offset = answered("", "tokyo");
     EXPECT_EQ("tzone_name", no_offset.reason.name);
     EXPECT_EQ(75, std::get<std::vector<std::string_view>>(no_offset.reason.allowed).size());
@@ -66,7 +66,7 @@ TEST(TimeZoneTest, OffsetsAndNames)
 TEST(TimeZoneTest, BothOrNone)
 {
     const char* const name = "TIME_check_sync_daylight_saving_time";
-    EXPECT_EQ("is empty, but the other one is not", told(name, {"", "x"}));
+    EXPECT_EQ("is empty, but the other value is not", told(name, {"", "x"}));
     EXPECT_EQ("start", answer_of(name, {"", "x"}).reason.name);
     EXPECT_EQ("end", answer_of(name, {"x", ""}).reason.name);
 }

@@ -80,10 +80,10 @@ TEST(SentencesTest, AreWhatAUserReads)
     EXPECT_EQ("has 1 byte; at least 2 are needed", told("ValidateString", {2LL, 5LL, "abc", "a"}));
     EXPECT_EQ("byte 6 is \\x9F; letters, digits and - . _ are allowed",
               told("TcmValidateEmailPassword", {"abcde\x9F"}));
-    EXPECT_EQ("is none of None, Basic, WPA, 11i, WPAand11i", told("TcmValidateBeaconType", {"wpa"}));
+    EXPECT_EQ("is not one of None, Basic, WPA, 11i, WPAand11i", told("TcmValidateBeaconType", {"wpa"}));
     EXPECT_EQ("is 0; at least 1 is needed", told("TcmValidatePort", {"0"}));
     EXPECT_EQ(
-        "has the number 99999999999999999999, which does not fit in an int; this gateway reads it as -1; "
+        "contains the number 99999999999999999999, which does not fit in an int; this gateway reads it as -1; "
         "at least 1 is needed",
         told("TcmValidatePort", {"99999999999999999999"}));
     EXPECT_EQ("byte 15 is \"-\"; \":\" is expected there",

@@ -20,13 +20,13 @@ std::string said(std::string_view name, const std::vector<Value>& values, const 
 
 TEST(WlanReasonTest, NamesTheModesOfTheRadio)
 {
-    EXPECT_EQ("mode is none of 802.11b, 802.11g, 802.11n, 802.11bg, 802.11bgn",
+    EXPECT_EQ("mode is not one of 802.11b, 802.11g, 802.11n, 802.11bg, 802.11bgn",
               said("WLAN_check_IEEE11_mode", {"802.11a", "RADIO_2.4GHz"}));
-    EXPECT_EQ("mode is none of 802.11n, 802.11a, 802.11an",
+    EXPECT_EQ("mode is not one of 802.11n, 802.11a, 802.11an",
               said("WLAN_check_IEEE11_mode", {"802.11g", "radio_5ghz"}));
-    EXPECT_EQ("radio is none of RADIO_2.4GHz, RADIO_5GHz",
+    EXPECT_EQ("radio is not one of RADIO_2.4GHz, RADIO_5GHz",
               said("WLAN_check_IEEE11_mode", {"802.11n", "RADIO_6GHz"}));
-    EXPECT_EQ("width is none of 0, 20", said("WLAN_check_wide_channel", {"40", "RADIO_2.4GHz"}));
+    EXPECT_EQ("width is not one of 0, 20", said("WLAN_check_wide_channel", {"40", "RADIO_2.4GHz"}));
 }
 
 TEST(WlanReasonTest, NamesTheChannelOfThePair)
@@ -36,7 +36,7 @@ TEST(WlanReasonTest, NamesTheChannelOfThePair)
     EXPECT_EQ("primary is 1; only 0, 36, 40, 44, 48, 149, 153, 157, 161 are allowed",
               said("WLAN_check_5g_second_channel", {"1", "3"}));
     EXPECT_EQ(
-        "second has the number 4294967295, which does not fit in an int; this gateway reads it as -1; only 3 "
+        "second contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; only 3 "
         "is allowed",
         said("WLAN_check_second_channel", {"1", "4294967295"}));
 }
@@ -49,18 +49,18 @@ TEST(WlanReasonTest, NamesWhatTheModelOffers)
     EXPECT_EQ("radio is not RADIO_2.4GHz", said("WLAN_check_radio_id", {"RADIO_5GHz"}, build));
     const std::vector<Value> wep_with_radius = {"1", "", "WEP-RADIUS", "WEP-64"};
     EXPECT_EQ(
-        "type is none of WEP-OPEN, WEP-SHARED, WPA-PSK, WPA-RADIUS, WPA2-PSK, WPA2-RADIUS, "
+        "type is not one of WEP-OPEN, WEP-SHARED, WPA-PSK, WPA-RADIUS, WPA2-PSK, WPA2-RADIUS, "
         "WPA-AUTO-PSK, WPA-AUTO-RADIUS",
         said("WLAN_check_HNAP_SecurityType", wep_with_radius));
     EXPECT_EQ("accepted", said("WLAN_check_HNAP_SecurityType", wep_with_radius, build));
-    EXPECT_EQ("type is none of WPA2-PSK, WPA2-RADIUS",
+    EXPECT_EQ("type is not one of WPA2-PSK, WPA2-RADIUS",
               said("WLAN_check_HNAP_SecurityType", {"0", "auto", "WPA-PSK", "TKIP"}));
 }
 
 TEST(WlanReasonTest, OfKeys)
 {
     EXPECT_EQ(
-        "type is none of WEP-OPEN, WEP-SHARED, WEP-RADIUS, WPA-PSK, WPA-RADIUS, WPA2-PSK, "
+        "type is not one of WEP-OPEN, WEP-SHARED, WEP-RADIUS, WPA-PSK, WPA-RADIUS, WPA2-PSK, "
         "WPA2-RADIUS, WPA-AUTO-PSK, WPA-AUTO-RADIUS",
         said("WLAN_check_keys", {"", "OPEN", ""}));
     EXPECT_EQ("passphrase is given without a pre-shared key; a pass phrase alone is not accepted",
@@ -68,7 +68,7 @@ TEST(WlanReasonTest, OfKeys)
     EXPECT_EQ("psk has 0 bytes; 64 are needed", said("WLAN_check_preshared_key2", {"", ""}));
     EXPECT_EQ("keys has 12 bytes; one of 10, 26 is needed",
               said("WLAN_check_wepkeys", {std::vector<std::string>{"0123456789AB", "", "", ""}}));
-    EXPECT_EQ("keys has no key that is printable and not empty",
+    EXPECT_EQ("keys contains no printable, non-empty key",
               said("WLAN_check_wepkeys", {std::vector<std::string>{"", "", "\t", ""}}));
 }
 
@@ -90,12 +90,12 @@ TEST(WlanReasonTest, OfNumbers)
 
 TEST(WlanReasonTest, OfRates)
 {
-    EXPECT_EQ("value is none of all, default, 1, 2, 5.5, 6, 9, 11, 12, 18, 24, 36, 48, 54",
+    EXPECT_EQ("value is not one of all, default, 1, 2, 5.5, 6, 9, 11, 12, 18, 24, 36, 48, 54",
               said("WLAN_check_basic_data_transmit_rate", {"ALL"}));
-    EXPECT_EQ("value is none of 1, 2, 5.5, 6, 9, 11, 12, 18, 24, 36, 48, 54",
+    EXPECT_EQ("value is not one of 1, 2, 5.5, 6, 9, 11, 12, 18, 24, 36, 48, 54",
               said("WLAN_check_basic_data_transmit_rate", {"1,all"}));
     EXPECT_EQ(1, answer_of("WLAN_check_basic_data_transmit_rate", {"1,all"}).reason.item);
-    EXPECT_EQ("value is none of \"1,2,5.5,6,9,11,12,18,24,36,48,54\", \"\"",
+    EXPECT_EQ("value is not one of \"1,2,5.5,6,9,11,12,18,24,36,48,54\", \"\"",
               said("WLAN_check_op_data_transmit_rate", {"1,2"}));
 }
 

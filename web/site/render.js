@@ -77,7 +77,7 @@ function argumentOf(argument) {
   const rows = [];
   const add = (term, text) => text && rows.push([term, escaped(text)]);
   add('Unit', argument.unit);
-  add('Secret', argument.secret && 'not to be shown or logged');
+  add('Secret', argument.secret && 'must not be shown or logged');
   add('Room', argument.room);
   add('Texts', argument.blocks && `${argument.blocks}, ${argument.block_size} bytes apart`);
   add('Afterwards', argument.written);
@@ -122,7 +122,7 @@ export function articleOf(check) {
 <pre class="declaration">${escaped(check.declaration)}</pre>
 <form class="try" data-name="${check.name}" aria-label="Try ${check.name}" hidden>${fieldsOf(check)}<output></output></form>
 <h2 class="part">Arguments</h2>${check.arguments.map(argumentOf).join('')}
-${answers ? `<h2 class="part">Codes</h2><table class="codes">${answers}</table>` : '<h2 class="part">Answer</h2><p>A number, and no result code.</p>'}
+${answers ? `<h2 class="part">Codes</h2><table class="codes">${answers}</table>` : '<h2 class="part">Return value</h2><p>A number, not a result code.</p>'}
 ${check.steps.length > 0 ? `<h2 class="part">Steps and printed lines</h2><div class="steps">${stepsOf(check.steps)}</div>` : ''}
 ${(check.tables ?? []).map(tableOf).join('')}
 </article>`;

@@ -87,7 +87,7 @@ test('sentences as they are read', async () => {
       'Der Wert ist 1541; erlaubt ist höchstens 1540.'],
     ['PARAM_check_ip_addr', ['192.168.1.256'], 'Octet 4 is 256; at most 255 is allowed.',
       'Zahl 4 ist 256; erlaubt ist höchstens 255.'],
-    ['WLAN_check_beacon_type', ['wpa'], 'The value is none of None, Basic, WPA, 11i, WPAand11i.',
+    ['WLAN_check_beacon_type', ['wpa'], 'The value is not one of None, Basic, WPA, 11i, WPAand11i.',
       'Der Wert muss einer von diesen sein: None, Basic, WPA, 11i, WPAand11i.'],
     ['LAN_check_interface_addr_type', ['DHCP'], 'The value is not Static.', 'Der Wert muss Static sein.'],
     ['TcmValidateTime', ['2026-11'], 'The value ends before byte 8, where "-" is expected.',

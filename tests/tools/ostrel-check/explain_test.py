@@ -98,7 +98,7 @@ class Explained(unittest.TestCase):
         for name in ("TIME_check_local_time_zone", "TIME_check_local_time_zone_name",
                      "TIME_check_daylight_saving_start_or_end"):
             (step,) = steps_with(name, "is not printable ascii string")
-            self.assertEqual("prints and goes on if PARAM_check_printable_ascii_string refuses value", step["text"])
+            self.assertEqual("prints and continues if PARAM_check_printable_ascii_string refuses value", step["text"])
         (step,) = steps_with("WLAN_check_wepkeys", "should not be empty or non printable")
         self.assertEqual("skips the key if PARAM_check_printable_ascii_string refuses the key", step["text"])
         (step,) = steps_with("WLAN_check_preshared_key2", "Error PreSharedKey:<psk>")[:1]

@@ -97,16 +97,16 @@ class Vectors(unittest.TestCase):
 
 class Told(unittest.TestCase):
     def test_keywords_and_limits_are_named(self):
-        self.assertIn("is none of en-us, fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th)",
+        self.assertIn("is not one of en-us, fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th)",
                       said("HNAPCORE_check_locale", "de"))
-        self.assertIn("(mode is none of 802.11b, 802.11g, 802.11n, 802.11bg, 802.11bgn)",
+        self.assertIn("(mode is not one of 802.11b, 802.11g, 802.11n, 802.11bg, 802.11bgn)",
                       said("WLAN_check_IEEE11_mode", "802.11a", "RADIO_2.4GHz"))
         self.assertIn("(has 0 bytes; at least 4 are needed)", said("TcmValidateLANConfigPassword", ""))
 
     def test_an_item_is_named(self):
         row = judged("TcmValidateDataTransmitRates", "1,2,7")
         self.assertEqual((2, "7"), (row["reason"]["item"], row["reason"]["item_text"]))
-        self.assertTrue(row["reason"]["text"].startswith('item 3 ("7") is none of 1, 2, 5.5, '))
+        self.assertTrue(row["reason"]["text"].startswith('item 3 ("7") is not one of 1, 2, 5.5, '))
 
     def test_the_reason_is_that_of_the_step_that_decided(self):
         row = judged("GUESTACCESS_check_max_allowed_number", "abc")
@@ -128,7 +128,7 @@ class Told(unittest.TestCase):
     def test_a_long_list_is_not_listed(self):
         reason = judged("Time_validate_tzone_and_tzone_name", "", "Tokio")["reason"]
         self.assertEqual(75, len(reason["allowed"]))
-        self.assertEqual('tzone_name is not part of any of 75 texts; the closest is "Osaka, Sapporo, Tokyo"',
+        self.assertEqual('tzone_name does not occur in any of 75 values; the closest is "Osaka, Sapporo, Tokyo"',
                          reason["text"])
 
 

@@ -63,7 +63,7 @@ TEST(Single, EmptyLinesAreLeftOut)
     EXPECT_EQ((RunResult{1,
                          "library: Error in WLAN_check_beacon_type: Error beacon type:a\n"
                          "library: b\n"
-                         "refused: 402, invalid value (is none of None, Basic, WPA, 11i, WPAand11i)\n",
+                         "refused: 402, invalid value (is not one of None, Basic, WPA, 11i, WPAand11i)\n",
                          ""}),
               run({"WLAN_check_beacon_type", "a\n\nb"}));
 }

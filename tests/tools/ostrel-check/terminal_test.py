@@ -172,7 +172,7 @@ class Width(unittest.TestCase):
         self.assertLessEqual(width, 72)  # the name and the value are on one line
         self.assertEqual("      1  refused     402  WLAN_check_beacon_type\n"
                          "           WPA3-and-something-that-is-long\n"
-                         "         invalid value: is none of None, Basic, WPA, 11i,\n"
+                         "         invalid value: is not one of None, Basic, WPA, 11i,\n"
                          "           WPAand11i\n"
                          "         library: Error in WLAN_check_beacon_type: Error\n"
                          "           beacon type:WPA3-and-something-that-is-long\n",

@@ -69,7 +69,7 @@ TEST(Words, FaultsAreNamed)
     EXPECT_EQ("no closing \"", problem_of([] { split("a \"b"); }));
     EXPECT_EQ("no closing '", problem_of([] { split("'"); }));
     EXPECT_EQ("no closing \"", problem_of([] { split("\"\\\""); }));
-    EXPECT_EQ("\\ at the end begins no escape", problem_of([] { split("a\\"); }));
+    EXPECT_EQ("a backslash at the end must be written as \\\\", problem_of([] { split("a\\"); }));
     EXPECT_EQ("\\x needs two hexadecimal digits", problem_of([] { split("\\x1"); }));
     EXPECT_EQ("\\x needs two hexadecimal digits", problem_of([] { split("\\xg1"); }));
     EXPECT_EQ("\\q is not an escape; write a backslash as \\\\", problem_of([] { split("\\q"); }));

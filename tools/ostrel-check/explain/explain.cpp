@@ -44,8 +44,8 @@ void write_arguments(Page& page, const rules::Check& check, const rules::Explana
     for (std::size_t i = 0; i < check.arguments.size(); ++i) {
         const rules::SaidArgument& said = explanation.arguments[i];
         const bool is_secret = check.arguments[i].is_secret;
-        page.item(check.arguments[i].name, said.what + (is_secret ? "; a secret, not to be shown" : ""));
-        if (!said.room.empty()) page.detail("room: " + said.room);
+        page.item(check.arguments[i].name, said.what + (is_secret ? "; a secret that must not be shown" : ""));
+        if (!said.room.empty()) page.detail("buffer: " + said.room);
         if (!said.null.empty()) page.detail("NULL: " + said.null);
         if (!said.written.empty()) page.detail("may become: " + said.written);
     }
@@ -56,7 +56,7 @@ void write_codes(Page& page, const rules::Check& check, const rules::Explanation
 {
     page.heading("Result codes");
     if (!check.is_verdict) {
-        page.paragraph("The answer is a number, not a result code.");
+        page.paragraph("The check returns a number, not a result code.");
         return;
     }
     const auto write = [&](int code) {
@@ -115,15 +115,15 @@ void write_tables(Page& page, const rules::Check& check)
 }
 
 constexpr std::string_view kOfDriver =
-    "The check asks the wireless driver through the command wlctl, which /bin/sh finds on PATH. Whatever "
-    "either of them writes to standard error appears there, for example that wlctl was not found.";
+    "The check queries the wireless driver with the command wlctl, which /bin/sh finds on PATH. Anything that "
+    "wlctl or the shell writes to standard error appears there, for example that wlctl was not found.";
 
 void write_check(Page& page, const Function& function)
 {
     const rules::Check& check = *function.check;
     const rules::Explanation explanation = rules::explain(check, gateway());
     page.declaration(declaration_of(function));
-    page.heading(check.is_verdict ? "What is accepted" : "What is answered");
+    page.heading(check.is_verdict ? "What is accepted" : "What is returned");
     page.paragraph(explanation.accepted);
     write_arguments(page, check, explanation);
     write_codes(page, check, explanation);

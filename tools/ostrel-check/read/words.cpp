@@ -32,7 +32,7 @@ int hexadecimal(char c)
 // escape.
 std::size_t read_escape(std::string_view text, std::size_t at, std::string& word)
 {
-    if (at == text.size()) throw std::invalid_argument("\\ at the end begins no escape");
+    if (at == text.size()) throw std::invalid_argument("a backslash at the end must be written as \\\\");
     const char c = text[at];
     if (c == 'x') {
         const int high = at + 1 < text.size() ? hexadecimal(text[at + 1]) : -1;
