@@ -73,7 +73,8 @@ std::string how_numbers_are_read(const Build& build)
     const auto read = [&](const char* text) {
         return std::string(text) + " as " + std::to_string(read_number(text, build.atoi).value);
     };
-    return "Numbers are read as by atoi: leading white space and anything after the digits are ignored, and a "
+    return "Numbers are read as by atoi: leading white space and anything after the digits are ignored, and "
+           "a "
            "string without digits is 0. Gateways differ in how they read a number that does not fit in an "
            "int; this one reads " +
            read("2147483648") + ", and " + read("99999999999999999999") + ".";

@@ -35,9 +35,10 @@ std::vector<Check> lengths()
               {text("value_p", "a string"), natural("min_len", "the minimum length").in("bytes"),
                natural("max_len", "the maximum length").in("bytes")},
               {refuse(-1, shorter_than("min_len")), refuse(-1, longer_than("max_len"))}),
-        check("PARAM_check_string_prefix",
-              {text("value_p", "a string").asserts(kAssertion), text("first_chars", "the allowed first bytes")},
-              {refuse(-1, outside(slice("value_p", 0, 1), "first_chars"))}),
+        check(
+            "PARAM_check_string_prefix",
+            {text("value_p", "a string").asserts(kAssertion), text("first_chars", "the allowed first bytes")},
+            {refuse(-1, outside(slice("value_p", 0, 1), "first_chars"))}),
     };
 }
 

@@ -40,12 +40,11 @@ Condition repeats_item()
 std::vector<Check> subnets()
 {
     return {
-        check(
-            "isInSameSubnet",
-            {text("reference", "an address of the subnet"), text("address", "the address to compare")},
-            {refuse(-1, because("another_subnet",
-                                not_equal(slice("address", 0, length(through_last("reference", "."))),
-                                          through_last("reference", "."))))}),
+        check("isInSameSubnet",
+              {text("reference", "an address of the subnet"), text("address", "the address to compare")},
+              {refuse(-1, because("another_subnet",
+                                  not_equal(slice("address", 0, length(through_last("reference", "."))),
+                                            through_last("reference", "."))))}),
         check("TcmValidateAddressRange",
               {text("startAddress", "the first address of the pool"),
                text("endAddress", "the last address of the pool"),

@@ -44,7 +44,8 @@ Check second_channel(std::string_view name, std::string_view what,
     std::vector<Step> steps = {reads("second"), refuse(-1, not_among("primary", primaries))};
     for (const auto& [primary, second] : pairs)
         steps.push_back(when(equal("primary", primary), {refuse(-1, not_among("second", {second}))}));
-    return check(name, {text("primary", "the primary channel of a pair, or 0 for none"), text("second", what)},
+    return check(name,
+                 {text("primary", "the primary channel of a pair, or 0 for none"), text("second", what)},
                  std::move(steps));
 }
 

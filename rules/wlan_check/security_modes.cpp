@@ -79,8 +79,9 @@ Check security_type()
     };
     return check(
         "WLAN_check_HNAP_SecurityType",
-        {text("setting1", "the first of two host settings"), text("setting2", "the second of two host settings"),
-         text("type", "a security type"), text("encryption", "an encryption method")},
+        {text("setting1", "the first of two host settings"),
+         text("setting2", "the second of two host settings"), text("type", "a security type"),
+         text("encryption", "an encryption method")},
         {when(all_of({equal("setting1", literal("0")), equal("setting2", literal("auto"))}),
               {refuse(1001, none_of("type", {"WPA2-PSK", "WPA2-RADIUS"}))},
               {when(equal(model(), literal("M2840")), {refuse(1001, none_of("type", without_wep_radius))},
@@ -93,13 +94,13 @@ Check security_type()
 // The number has at most four digits, so it fits in an int.
 Check key_renewal()
 {
-    return check("WLAN_check_HNAP_KeyRenewal",
-                 {text("renewal", "whether keys are renewed"),
-                  text("interval", "the interval between renewals").in("seconds"),
-                  text("type", "a security type")},
-                 {accept(one_of("renewal", {"false"})), accept(one_of("type", kWepTypes)),
-                  refuse(-1, empty("interval")), refuse(-1, outside("interval", kDigits)),
-                  refuse(-1, longer_than("interval", 4)), refuse(-1, not_(between("interval", 600, 7200)))});
+    return check(
+        "WLAN_check_HNAP_KeyRenewal",
+        {text("renewal", "whether keys are renewed"),
+         text("interval", "the interval between renewals").in("seconds"), text("type", "a security type")},
+        {accept(one_of("renewal", {"false"})), accept(one_of("type", kWepTypes)),
+         refuse(-1, empty("interval")), refuse(-1, outside("interval", kDigits)),
+         refuse(-1, longer_than("interval", 4)), refuse(-1, not_(between("interval", 600, 7200)))});
 }
 
 Check radius_secret()

@@ -56,16 +56,17 @@ Check distance()
 
 Check operation_mode()
 {
-    return check("WLAN_check_device_opration_mode",
-                 {text("value", "the role of the device"), integer("readwrite_mode", "which list of values applies")},
-                 listed_by_mode(
-                     {"WirelessBridge", "WirelessRepeater", "WirelessStation"}, {"InfrastructureAccessPoint"},
-                     {line("Error in WLAN_check_device_opration_mode: Error operating mode:<value> "
-                           "length out of range. [0,31]\n\n"),
-                      line("Error in WLAN_check_device_opration_mode: Error operating "
-                           "mode:readwrite mode <readwrite_mode> invalid \n\n"),
-                      line("Error in WLAN_check_device_opration_mode: Error operating "
-                           "mode:<value>\n\n")}));
+    return check(
+        "WLAN_check_device_opration_mode",
+        {text("value", "the role of the device"), integer("readwrite_mode", "which list of values applies")},
+        listed_by_mode({"WirelessBridge", "WirelessRepeater", "WirelessStation"},
+                       {"InfrastructureAccessPoint"},
+                       {line("Error in WLAN_check_device_opration_mode: Error operating mode:<value> "
+                             "length out of range. [0,31]\n\n"),
+                        line("Error in WLAN_check_device_opration_mode: Error operating "
+                             "mode:readwrite mode <readwrite_mode> invalid \n\n"),
+                        line("Error in WLAN_check_device_opration_mode: Error operating "
+                             "mode:<value>\n\n")}));
 }
 
 Check location()

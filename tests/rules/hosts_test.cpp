@@ -60,7 +60,8 @@ TEST(HostsTest, Urls)
     EXPECT_EQ("in the port, byte 11 is \"x\"; digits are allowed", said("http://a:8x"));
     EXPECT_EQ("the port is 65536; at most 65535 is allowed", said("http://a:65536/"));
     EXPECT_EQ(
-        "the port contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
+        "the port contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; "
+        "at "
         "least 0 is needed",
         said("http://a:4294967295/"));
 }

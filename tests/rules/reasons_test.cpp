@@ -17,8 +17,9 @@ std::string said(std::string_view name, const std::vector<Value>& values)
 
 TEST(KeywordTest, NamesAll)
 {
-    EXPECT_EQ("value is not one of en-us, fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th",
-              said("HNAPCORE_check_locale", {"de"}));
+    EXPECT_EQ(
+        "value is not one of en-us, fr-ca, fr-fr, de-de, es-es, it-it, nl-nl, sv-se, ar-sa, pl-pl, th-th",
+        said("HNAPCORE_check_locale", {"de"}));
     EXPECT_EQ("value_p is not Static", said("LAN_check_interface_addr_type", {"static"}));
     EXPECT_EQ("value_p is \"Normal\"; Normal, UseAllocatedSubnet, Passthrough are not allowed",
               said("LAN_check_use_allocated_wan", {"Normal"}));

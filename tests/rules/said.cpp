@@ -83,14 +83,16 @@ std::vector<Expectation> of_numbers()
         {read_as(-1, reason("number_beyond_int", "4294967295", 1)),
          "contains the number 4294967295, which does not fit in an int; this gateway reads it as -1"},
         {limited("number_too_low", read_as(-1, reason("number_beyond_int", "4294967295", 1))),
-         "contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; at least 1 "
+         "contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; at "
+         "least 1 "
          "is "
          "needed"},
         {reason("number_forbidden", 80, Numbers{80, 161}), "is 80; 80, 161 are not allowed"},
         {reason("number_forbidden", 80, Numbers{80}), "is 80; 80 is not allowed"},
         {read_as(80, reason("number_forbidden", 80, Numbers{80, 161})),
          "is read as 80; 80, 161 are not allowed"},
-        {reason("number_in_range", 54001, Numbers{54000, 54999}), "is 54001; numbers from 54000 to 54999 are not allowed"},
+        {reason("number_in_range", 54001, Numbers{54000, 54999}),
+         "is 54001; numbers from 54000 to 54999 are not allowed"},
         {read_as(54001, reason("number_in_range", 54001, Numbers{54000, 54999})),
          "is read as 54001; numbers from 54000 to 54999 are not allowed"},
         {reason("number_not_allowed", 3, Numbers{0}), "is 3; only 0 is allowed"},
@@ -172,8 +174,10 @@ std::vector<Expectation> of_words()
         {reason("not_a_keyword", "x", Texts{"None", "1,2", ""}), "is not one of None, \"1,2\", \"\""},
         {reason("not_equal", "a", "b"), "is \"a\"; \"b\" is expected"},
         {reason("not_in_table", "x", Texts{"1"}), "\"x\" matches no known entry"},
-        {reason("not_of_offset", "Lima", Texts{"Alaska"}), "does not occur in any name for this offset: Alaska"},
-        {reason("not_part_of_any", "x", Texts{"La Paz", "Lima"}), "does not occur in any of \"La Paz\", Lima"},
+        {reason("not_of_offset", "Lima", Texts{"Alaska"}),
+         "does not occur in any name for this offset: Alaska"},
+        {reason("not_part_of_any", "x", Texts{"La Paz", "Lima"}),
+         "does not occur in any of \"La Paz\", Lima"},
         {reason("wrong_prefix", "x", Texts{"UTC"}), "does not begin with UTC"},
         {reason("wrong_prefix", "x", Texts{"http://", "https://"}),
          "does not begin with any of http://, https://"},

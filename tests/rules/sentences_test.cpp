@@ -104,7 +104,8 @@ TEST(SentencesTest, SayWhatIsNotShown)
     EXPECT_EQ("byte  is a byte that is not shown; digits are allowed", sentence(reason));
     EXPECT_EQ("is a value that is not shown; the allowed range is ", sentence(of("number_out_of_range")));
     EXPECT_EQ(
-        "contains the number a value that is not shown, which does not fit in an int; this gateway reads it as ",
+        "contains the number a value that is not shown, which does not fit in an int; this gateway reads it "
+        "as ",
         sentence(of("number_beyond_int")));
 }
 

@@ -83,7 +83,8 @@ TEST(SentencesTest, AreWhatAUserReads)
     EXPECT_EQ("is not one of None, Basic, WPA, 11i, WPAand11i", told("TcmValidateBeaconType", {"wpa"}));
     EXPECT_EQ("is 0; at least 1 is needed", told("TcmValidatePort", {"0"}));
     EXPECT_EQ(
-        "contains the number 99999999999999999999, which does not fit in an int; this gateway reads it as -1; "
+        "contains the number 99999999999999999999, which does not fit in an int; this gateway reads it as "
+        "-1; "
         "at least 1 is needed",
         told("TcmValidatePort", {"99999999999999999999"}));
     EXPECT_EQ("byte 15 is \"-\"; \":\" is expected there",

@@ -36,7 +36,8 @@ TEST(WlanReasonTest, NamesTheChannelOfThePair)
     EXPECT_EQ("primary is 1; only 0, 36, 40, 44, 48, 149, 153, 157, 161 are allowed",
               said("WLAN_check_5g_second_channel", {"1", "3"}));
     EXPECT_EQ(
-        "second contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; only 3 "
+        "second contains the number 4294967295, which does not fit in an int; this gateway reads it as -1; "
+        "only 3 "
         "is allowed",
         said("WLAN_check_second_channel", {"1", "4294967295"}));
 }

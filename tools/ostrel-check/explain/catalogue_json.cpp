@@ -162,7 +162,8 @@ std::string list_json(const Selection& selection)
 {
     ordered_json result = {{"version", OSTREL_VERSION}};
     result["texts"] =
-        "In texts made of bytes of values, such as characters and keywords, each character is the byte of "
+        "In strings that contain bytes of values, such as characters and keywords, each character is the "
+        "byte of "
         "the same number: \u00e9 is 0xE9. In UTF-8, \u00e9 is the two bytes 0xC3 and 0xA9, here "
         "\u00c3\u00a9.";
     result["checks"] = ordered_json::array();

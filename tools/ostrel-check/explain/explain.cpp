@@ -44,7 +44,8 @@ void write_arguments(Page& page, const rules::Check& check, const rules::Explana
     for (std::size_t i = 0; i < check.arguments.size(); ++i) {
         const rules::SaidArgument& said = explanation.arguments[i];
         const bool is_secret = check.arguments[i].is_secret;
-        page.item(check.arguments[i].name, said.what + (is_secret ? "; a secret that must not be shown" : ""));
+        page.item(check.arguments[i].name,
+                  said.what + (is_secret ? "; a secret that must not be shown" : ""));
         if (!said.room.empty()) page.detail("buffer: " + said.room);
         if (!said.null.empty()) page.detail("NULL: " + said.null);
         if (!said.written.empty()) page.detail("may become: " + said.written);
@@ -115,7 +116,8 @@ void write_tables(Page& page, const rules::Check& check)
 }
 
 constexpr std::string_view kOfDriver =
-    "The check queries the wireless driver with the command wlctl, which /bin/sh finds on PATH. Anything that "
+    "The check queries the wireless driver with the command wlctl, which /bin/sh finds on PATH. Anything "
+    "that "
     "wlctl or the shell writes to standard error appears there, for example that wlctl was not found.";
 
 void write_check(Page& page, const Function& function)
@@ -183,8 +185,8 @@ std::string reference(const Selection& selection)
     std::string text =
         R"(# Reference
 
-The checks, from their descriptions. In printed lines, `\n` is a line end and `<name>` is an argument, a part of one, or
-what a step keeps under that name.
+This page is generated from the descriptions of the checks. In printed lines, `\n` is a line end, and `<name>` is an
+argument, a part of one, or a value that a step keeps under that name.
 
 )";
     std::string_view family;

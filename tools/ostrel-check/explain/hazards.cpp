@@ -103,20 +103,22 @@ ordered_json json_of(const Exposure& exposure)
 
 constexpr std::string_view kHead = R"(# What an accepted value may contain
 
-Made by `scripts/hazards`. Quote the bytes of a value's row before you paste the value into a shell command, a page or a
-configuration file. `-`: never; `any`: anywhere; otherwise where: `f` first, `i` inside, `l` last. A row is about the
-value that is passed or, for a buffer "after the call", about the text that the buffer then holds; bytes that were in a
-buffer after its new terminator stay there. `ostrel-check explain` lists the bytes of each kind.
+Made by `scripts/hazards`. Before you paste a value into a shell command, a page or a configuration file, quote the bytes
+that its row allows. In a cell, `-` means that an accepted value never contains such a byte, and `any` that the byte may
+be anywhere; otherwise the letters state where: `f` first, `i` inside, `l` last. A row describes the value that is passed
+or, for a buffer "after the call", the string that the buffer then contains; bytes after a new terminator are unchanged.
+`ostrel-check explain` lists the bytes of each kind.
 
-A check that answers 0 says that a value suits its parameter. It does not say that the value is harmless.
+A check that returns 0 states that a value suits its parameter, not that the value is harmless.
 )";
 
 constexpr std::string_view kWitnesses = R"(
 ## Witnesses
 
-For each argument and each place, calls that are accepted with each of some bytes: the bytes, as the names of their
-kinds and, after a `=`, the others; the values; the number of the value that holds the byte, of its text where it has
-several, and the offset. The tests make each of these calls, and many others in which no other byte may appear.
+For each argument and place, this list contains calls that are accepted with each of several bytes at one offset. An
+entry consists of these bytes (the names of their kinds and, after a `=`, any others), the values, the number of the
+value that contains the byte, the number of the string if that value consists of several, and the offset. The tests make
+each of these calls, and many others in which no other byte may appear.
 
 ```json
 )";

@@ -195,10 +195,12 @@ ordered_json schema_of(ordered_json definitions)
         {"$schema", "https://json-schema.org/draft/2020-12/schema"},
         {"title", "What the checks of libostrel_check.so accept"},
         {"description",
-         "A definition for each check of a single text. Each character of a string is the byte of the same "
-         "number. A definition with x-ostrel-exact agrees with its check on every string of U+0001 to "
-         "U+007E. One without it accepts every string that the check accepts, and others. With "
-         "x-ostrel-reads-number, strings with a number that an int does not hold are left out of that."},
+         "A definition for each check that has a single string argument. Each character of a string stands "
+         "for "
+         "the byte of the same number. A definition with x-ostrel-exact agrees with its check on every "
+         "string "
+         "of U+0001 to U+007E. One without it accepts every string that the check accepts, and others. With "
+         "x-ostrel-reads-number, this does not cover strings with a number that does not fit in an int."},
         {"$defs", std::move(definitions)}};
 }
 

@@ -89,7 +89,7 @@ std::string sentence(const Difference& one, bool is_markdown)
     if (!one.with.empty()) {
         std::string others;
         for (const auto& [name, value] : one.with)
-            others += (others.empty() ? "" : ", ") + name + " being " + show(value);
+            others += (others.empty() ? "" : ", ") + name + " = " + show(value);
         text += " (" + others + ")";
     }
     return text;
@@ -173,18 +173,19 @@ std::string json_of(const Map& map, const std::vector<Comparison>& all)
 }
 
 constexpr std::string_view kIntroduction =
-    R"(For each parameter that a check of the gateway judges: what the data model allows, what the check accepts, and values
-on which the two disagree. The library has judged each of these values.
+    R"(For each parameter that a check of the gateway judges, this page shows what the data model allows, what the check
+accepts, and values on which they disagree. The library has judged each of these values.
 
 - **same**: of the values that have the form of the type, the check accepts exactly those that the model allows.
-- **narrower**: it refuses some that the model allows.
-- **wider**: it accepts others that have the form: another number, a longer text, another keyword.
+- **narrower**: the check refuses some values that the model allows.
+- **wider**: the check accepts some values of this form that the model does not allow: another number, a longer string,
+  another keyword.
 - **other**: both.
 
-This follows from the descriptions of the checks, not from examples. If a description or a type leaves something open,
-the row says what is known. Numbers have no redundant sign and no leading zeros. Texts are in UTF-8; the model counts
-characters, and the checks count bytes. Vendor-specific keywords are not considered. Many checks accept texts that do
-not have the form at all, for example letters after a number; the row then names one.
+The relation is derived from the description of the check, not from examples. If a description or a type leaves
+something open, the row states what is known. Numbers have no redundant sign and no leading zeros. Strings are in UTF-8;
+the model counts characters, and the checks count bytes. Vendor-specific keywords are not considered. Many checks also
+accept values that do not have the form of the type, for example letters after a number; the row then shows one.
 )";
 
 std::string markdown_of(const Map& map, const std::vector<Comparison>& all)
@@ -204,7 +205,7 @@ std::string markdown_of(const Map& map, const std::vector<Comparison>& all)
         for (const Difference& difference : one.differences) text += "; " + sentence(difference, true);
         text += " |\n";
     }
-    text += "\n## Not mapped\n\n| parameter | check | because |\n|---|---|---|\n";
+    text += "\n## Not mapped\n\n| parameter | check | reason |\n|---|---|---|\n";
     for (const NotMapped& one : map.not_mapped) {
         text += "| " + relative(one.path) + " | " + (one.check.empty() ? "-" : as_code(one.check)) + " | " +
                 in_markdown(one.because) + " |\n";
