@@ -27,5 +27,5 @@ const isOf = {
 export function require(check, argument, value) {
   const isNull = value === null && argument.null;
   if (isNull ? argument.null !== 'read' : isOf[argument.kind](value, argument)) return;
-  throw new TypeError(`${check.name}: ${argument.name} is ${isNull ? 'null' : `not of kind ${argument.kind}`}`);
+  throw new TypeError(`${check.name}: ${argument.name} must ${isNull ? 'not be null' : `be of kind ${argument.kind}`}`);
 }

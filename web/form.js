@@ -14,7 +14,7 @@ const filledIn = (template, values) => template.replace(/\{(\w+)\}/g, (_, name) 
 function parsed(text = '') {
   return new Map(text.split(/\s+/).filter(Boolean).map((item) => {
     const [, name, sign, value] = item.match(/^(\w+)([=:])(.*)$/) ?? [];
-    if (name === undefined) throw new SyntaxError(`data-with: ${item}`);
+    if (name === undefined) throw new SyntaxError(`data-with contains an invalid item: ${item}`);
     return [name, sign === '=' ? {fields: value.split(',')} : {constant: value}];
   }));
 }
@@ -115,7 +115,7 @@ class Field {
       const {fields, constant} = this.with.get(argument.name) ?? {};
       const isOwn = argument === this.argument;
       if (!isOwn && fields === undefined && constant === undefined) {
-        throw new RangeError(`data-with of ${this.input.name} lacks ${argument.name}`);
+        throw new RangeError(`data-with of ${this.input.name} must name ${argument.name}`);
       }
       const texts = fields?.map((name) => this.#input(name).value) ?? [isOwn ? this.input.value : constant];
       return kinds[argument.kind]?.(texts) ?? texts[0];

@@ -85,7 +85,7 @@ class Ostrel {
         const converted = convert(take(this.#bytes(), at, length, isLatin1));
         const room = new Uint8Array(most(converted, isLatin1));
         const end = put(room, 0, converted, isLatin1);
-        if (end > length) throw new RangeError('htmlToText: too long');
+        if (end > length) throw new RangeError('the result of htmlToText is too long');
         this.#bytes().set(room.subarray(0, end + 1), at);
       },
     }});
@@ -171,7 +171,7 @@ class Ostrel {
     } catch (error) {
       this.#rules.__stack_pointer.value = this.#stack;
       if (!(error instanceof WebAssembly.RuntimeError && values.includes(null))) throw error;
-      throw new TypeError(`${check.name} reads an argument that is null`);
+      throw new TypeError(`${check.name} reads an argument, which must not be null`);
     } finally {
       this.#isBusy = false;
     }
@@ -179,7 +179,7 @@ class Ostrel {
 
   // #room returns the memory, after enlarging it if it has no room for a call of size bytes.
   #room(size) {
-    if (this.#isBusy) throw new Error('called by itself');
+    if (this.#isBusy) throw new Error('a check must not be called during another call');
     const missing = this.#base + size - this.#bytes().length;
     if (missing > 0) this.#rules.memory.grow(Math.ceil(missing / kPage));
     return this.#bytes();
@@ -195,7 +195,7 @@ class Ostrel {
       for (const text of value) {
         const end = put(bytes, at, text, this.#isLatin1);
         at += size;
-        if (end >= at) throw new RangeError('too long');
+        if (end >= at) throw new RangeError('a string is too long for its block');
         bytes.fill(0, end, at);
       }
     }
@@ -239,8 +239,8 @@ class Ostrel {
 
 export async function load(
     {encoding = 'utf-8', long = 32, channels = [], htmlToText, cmsUtl_strcmp, rules, reasons} = {}) {
-  if (encoding !== 'utf-8' && encoding !== 'latin1') throw new RangeError(`encoding: ${encoding}`);
-  if (long !== 32 && long !== 64) throw new RangeError(`long: ${long}`);
+  if (encoding !== 'utf-8' && encoding !== 'latin1') throw new RangeError(`encoding must be "utf-8" or "latin1", not ${encoding}`);
+  if (long !== 32 && long !== 64) throw new RangeError(`long must be 32 or 64, not ${long}`);
   const options = {encoding, isLatin1: encoding === 'latin1', isLong64: long === 64, channels: [...channels]};
   const loadReasons = async () => (await import('./reasons.js'))
     .reasonsOf(await compiled(reasons, new URL('./reasons.wasm', import.meta.url)), options);

@@ -8,16 +8,16 @@ const kAfterSurrogates = 0xe000;
 export function put(bytes, at, text, isLatin1) {
   for (let i = 0; i < text.length; ++i) {
     let c = text.charCodeAt(i);
-    if (c === 0) throw new RangeError('U+0000 in a value');
+    if (c === 0) throw new RangeError('a value contains U+0000');
     if (c < 0x80 || (isLatin1 && c < 0x100)) {
       bytes[at++] = c;
       continue;
     }
-    if (isLatin1) throw new RangeError('not in Latin-1');
+    if (isLatin1) throw new RangeError('a value contains a character that is not in Latin-1');
     if (c >= kHighSurrogates && c < kAfterSurrogates) {
       const low = text.charCodeAt(++i);
       if (c >= kLowSurrogates || !(low >= kLowSurrogates && low < kAfterSurrogates)) {
-        throw new RangeError('half a character');
+        throw new RangeError('a value contains a lone surrogate');
       }
       c = 0x10000 + ((c - kHighSurrogates) << 10) + (low - kLowSurrogates);
       bytes[at++] = 0xf0 | (c >> 18);

@@ -54,8 +54,8 @@ def require_version(program: str) -> None:
     the stubs."""
     said = output_of(program, "--version").split()
     if said != [NAME, VERSION]:
-        raise OtherVersion(f"this package and its stubs are of version {VERSION}, and {program} is "
-                           f"{' '.join(said) or 'of none'}; install the same version of both")
+        raise OtherVersion(f"this package and its stubs have version {VERSION}, but {program} reports "
+                           f"{' '.join(said) or 'none'}; install the same version of both")
 
 
 class Process:
@@ -105,7 +105,7 @@ class Process:
                 incomplete = []
             incomplete.append(data[end:])
         if len(verdicts) > len(cases) or any(incomplete):
-            raise ProgramFailed(f"{NAME} answered more than it was asked")
+            raise ProgramFailed(f"{NAME} printed more results than there were cases")
 
     def _send(self, data: memoryview) -> int:
         try:

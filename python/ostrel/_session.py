@@ -70,7 +70,7 @@ class Session(Calls):
     def __init__(self, program: str | None = None, *, encoding: Encoding = "utf-8",
                  limit_time: float | None = None, channels: Iterable[int] | None = None) -> None:
         if encoding not in ("utf-8", "latin-1"):
-            raise ValueError(f'the encoding is "utf-8" or "latin-1", not {encoding!r}')
+            raise ValueError(f'the encoding must be "utf-8" or "latin-1", not {encoding!r}')
         # The parameters for creating an equal session.
         self._parameters = {"program": program, "encoding": encoding, "limit_time": limit_time,
                             "channels": None if channels is None else (channels := tuple(channels))}
@@ -125,7 +125,7 @@ class Session(Calls):
         the verdicts of the current one have been consumed. A case that cannot be called has the verdict "malformed", so
         one bad record does not end the iteration."""
         if block < 1:
-            raise ValueError("a block has at least one case")
+            raise ValueError("a block must have at least one case")
         return self._answer_blocks(iter(cases), block)
 
     def _answer_blocks(self, cases: Iterator[Case], size: int) -> Iterator[Verdict]:

@@ -93,8 +93,8 @@ class Verdict:
 
     def __bool__(self) -> bool:
         if self.verdict == "answer":
-            raise TypeError(f"the check answers with a number, {self.code}, which is neither true nor false; "
-                            "compare the code")
+            raise TypeError(f"the check returned a number, {self.code}, which is neither true nor false; "
+                            "compare the code instead")
         if self.verdict == "malformed":
             raise MalformedCall(self.meaning)
         if self.verdict == "no_driver":

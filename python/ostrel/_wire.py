@@ -36,12 +36,12 @@ def _token(value: object, quote: Quote) -> str:
         return int.__repr__(value)
     if isinstance(value, (list, tuple)):
         return "[%s]" % ",".join([_token(item, quote) for item in value])
-    raise TypeError(f"an argument is str, bytes, int, None or a list of texts, not {type(value).__name__}")
+    raise TypeError(f"an argument must be str, bytes, int, None or a list of str or bytes, not {type(value).__name__}")
 
 
 def _line(case: Case, quote: Quote) -> str:
     if not isinstance(case, (tuple, list)) or not case or not isinstance(case[0], str):
-        raise TypeError(f"a case is a tuple of the name of a check and its arguments, not {case!r:.100}")
+        raise TypeError(f"a case must be a tuple of the name of a check and its arguments, not {case!r:.100}")
     arguments = [_quoted(item) if type(item) is str and quote is _quoted else _token(item, quote)
                  for item in case[1:]]
     return '{"check":%s,"args":[%s]}\n' % (quote(case[0]), ",".join(arguments))

@@ -31,7 +31,7 @@ class Gateway(Session):
         if code is not None and verdict.code != code:
             _fail(check, arguments, verdict, f"should have been refused with {code}")
         if reason is not None and found != reason:
-            _fail(check, arguments, verdict, f"should have been refused for {reason}, and not for {found}")
+            _fail(check, arguments, verdict, f"should have been refused for {reason}, not for {found}")
         return verdict
 
 
@@ -46,8 +46,8 @@ def _fail(check: str, arguments: tuple[Argument, ...], verdict: Verdict, expecte
 
 def pytest_addoption(parser: pytest.Parser) -> None:
     parser.getgroup("ostrel").addoption(
-        "--ostrel-check", metavar="PATH", help="the program that judges (the first ostrel-check on the PATH)")
-    parser.addini("ostrel_encoding", "the encoding of a str: utf-8 or latin-1", default="utf-8")
+        "--ostrel-check", metavar="PATH", help="path of ostrel-check (default: the first one on the PATH)")
+    parser.addini("ostrel_encoding", "encoding of str arguments: utf-8 or latin-1", default="utf-8")
 
 
 @pytest.fixture(scope="session")

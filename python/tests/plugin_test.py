@@ -65,7 +65,7 @@ TOLD = [
     "E       AssertionError: PARAM_check_port('80') should have been refused\n"
     "E         it was accepted\n",
     "E       AssertionError: PARAM_check_port('65536') should have been refused with 402\n",
-    "E       AssertionError: PARAM_check_port('65536') should have been refused for empty, and not for number_too_high\n",
+    "E       AssertionError: PARAM_check_port('65536') should have been refused for empty, not for number_too_high\n",
 ]
 
 

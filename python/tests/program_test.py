@@ -43,8 +43,8 @@ class Program(unittest.TestCase):
     def test_another_version_is_an_error_that_says_so(self):
         session = ostrel.Session(self.write("echo ostrel-check 9.9.9\n"))
         for ask in (lambda: session.judge("PARAM_check_port", "80"), lambda: len(session.checks)):
-            with self.assertRaisesRegex(ostrel.OtherVersion, "this package and its stubs are of version "
-                                        f"{ostrel.__version__}, and .* is ostrel-check 9.9.9; install the same"):
+            with self.assertRaisesRegex(ostrel.OtherVersion, "this package and its stubs have version "
+                                        f"{ostrel.__version__}, but .* reports ostrel-check 9.9.9; install the same"):
                 ask()
 
     def answering(self, text):

@@ -42,7 +42,7 @@ class Judged(unittest.TestCase):
     def test_a_number_is_neither_true_nor_false(self):
         verdict = self.session.judge("countChar", "banana", ord("a"))
         self.assertEqual(("answer", 3, "<Verdict answer 3>"), (verdict.verdict, verdict.code, repr(verdict)))
-        with self.assertRaisesRegex(TypeError, "answers with a number, 3"):
+        with self.assertRaisesRegex(TypeError, "returned a number, 3"):
             bool(verdict)
 
     def test_a_failed_assertion_is_a_verdict(self):

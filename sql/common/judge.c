@@ -41,12 +41,12 @@ static void list_arguments(const OstrelCheck* check, char* out, size_t room)
 bool ostrel_is_callable(const OstrelCheck* check, size_t values, bool is_verdict, OstrelFault* fault)
 {
     if (check->hindrance == kNeverReturns)
-        return fail(fault, kNotCalled, "%s is not called from SQL: for some values it does not return",
+        return fail(fault, kNotCalled, "%s cannot be called from SQL because it does not return for some values",
                     check->name);
     if (check->hindrance == kRunsShell)
-        return fail(fault, kNotCalled, "%s is not called from SQL: it runs a shell", check->name);
+        return fail(fault, kNotCalled, "%s cannot be called from SQL because it runs a shell", check->name);
     if (is_verdict && check->is_number)
-        return fail(fault, kNoVerdict, "%s returns a number and not a result code: use ostrel_code",
+        return fail(fault, kNoVerdict, "%s returns a number, not a result code; use ostrel_code",
                     check->name);
     if (values != check->texts) {
         char names[kMostMessage / 2];
@@ -106,9 +106,9 @@ static bool load_value(const OstrelCheck* check, const OstrelArgument* argument,
         case kBlocks:
             for (unsigned i = 0; i < (argument->kind == kBlocks ? argument->blocks : 1); ++i) {
                 if (memchr(given[i].bytes, '\0', given[i].size) != NULL)
-                    return fail(fault, kNulByte, "%s: %s has a NUL byte", check->name, argument->name);
+                    return fail(fault, kNulByte, "%s: %s contains a NUL byte", check->name, argument->name);
                 if (argument->kind == kBlocks && given[i].size >= argument->block_size)
-                    return fail(fault, kTooLongForBlock, "%s: text %u of %s has more than %zu bytes",
+                    return fail(fault, kTooLongForBlock, "%s: string %u of %s has more than %zu bytes",
                                 check->name, i + 1, argument->name, argument->block_size - 1);
             }
             slot->text = given->bytes;
@@ -116,7 +116,7 @@ static bool load_value(const OstrelCheck* check, const OstrelArgument* argument,
         case kInteger:
         case kUnsigned:
             if (!read_integer(given, is_signed ? INT_MIN : 0, is_signed ? INT_MAX : UINT_MAX, &number))
-                return fail(fault, kNotAnInteger, "%s: %s is not an integer from %lld to %lld", check->name,
+                return fail(fault, kNotAnInteger, "%s: %s must be an integer from %lld to %lld", check->name,
                             argument->name, is_signed ? INT_MIN : 0LL,
                             is_signed ? INT_MAX : (long long)UINT_MAX);
             slot->integer = (int)number;

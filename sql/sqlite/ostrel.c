@@ -114,7 +114,7 @@ static void call_question(sqlite3_context* context, int count, sqlite3_value** v
     const OstrelQuestion* const question = sqlite3_user_data(context);
     OstrelFault fault;
     if (count == 0) {
-        sqlite3_result_error(context, "the first argument is the name of a check", -1);
+        sqlite3_result_error(context, "the first argument must be the name of a check", -1);
         return;
     }
     const OstrelCheck* check = sqlite3_get_auxdata(context, 0);

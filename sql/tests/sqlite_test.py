@@ -90,7 +90,7 @@ class Functions(unittest.TestCase):
         self.assertEqual((0, 601), ask(self.database, "SELECT PARAM_check_port(80), param_check_port('65536')"))
         # -1 is a valid signed limit, but not a valid unsigned one.
         self.assertEqual((0,), ask(self.database, "SELECT param_check_string_len_signed('', -1, 1)"))
-        self.refuses("PARAM_check_string_len: min_len is not an integer from 0 to 4294967295",
+        self.refuses("PARAM_check_string_len: min_len must be an integer from 0 to 4294967295",
                      "SELECT param_check_string_len('', -1, 1)")
 
     def test_null(self):
@@ -108,7 +108,7 @@ class Functions(unittest.TestCase):
         self.refuses("there is no check of that name", "SELECT ostrel_code(?, 1)", "PARAM_check_port\0")
         self.refuses("there is no check of that name", "SELECT ostrel_code(?, 1)",
                      "PARAM_check_port\0" + 100_000_000 * "x")
-        self.refuses("the first argument is the name of a check", "SELECT ostrel_valid()")
+        self.refuses("the first argument must be the name of a check", "SELECT ostrel_valid()")
         self.refuses("PARAM_check_number takes 3 values (value_p, min_len, max_len); 1 was given",
                      "SELECT ostrel_code('PARAM_check_number', 1)")
         self.refuses("PARAM_check_port takes 1 value (value_p); 2 were given",
@@ -116,20 +116,20 @@ class Functions(unittest.TestCase):
         self.refuses("WLAN_check_wepkeys takes 4 values (keys); 1 was given",
                      "SELECT ostrel_code('WLAN_check_wepkeys', '')")
         self.refuses("wrong number of arguments to function param_check_port()", "SELECT param_check_port()")
-        self.refuses("PARAM_check_port: value_p has a NUL byte", "SELECT ostrel_code('PARAM_check_port', ?)", "80\0")
-        self.refuses("PARAM_check_port: value_p has a NUL byte", "SELECT ostrel_line('PARAM_check_port', x'383000')")
-        self.refuses("WLAN_check_wepkeys: text 2 of keys has more than 256 bytes",
+        self.refuses("PARAM_check_port: value_p contains a NUL byte", "SELECT ostrel_code('PARAM_check_port', ?)", "80\0")
+        self.refuses("PARAM_check_port: value_p contains a NUL byte", "SELECT ostrel_line('PARAM_check_port', x'383000')")
+        self.refuses("WLAN_check_wepkeys: string 2 of keys has more than 256 bytes",
                      "SELECT ostrel_code('WLAN_check_wepkeys', '', ?, '', '')", "1" * 257)
-        self.refuses("countChar returns a number and not a result code: use ostrel_code",
+        self.refuses("countChar returns a number, not a result code; use ostrel_code",
                      "SELECT ostrel_valid('countChar', 'a', 97)")
 
     def test_checks_that_are_not_called(self):
         for name in shared.NEVER_RETURN:
-            message = name + " is not called from SQL: for some values it does not return"
+            message = name + " cannot be called from SQL because it does not return for some values"
             self.refuses(message, "SELECT ostrel_code(?, '1')", name)
             self.refuses(message, "SELECT %s('1')" % name)
         for name in shared.RUNS_SHELL:
-            message = name + " is not called from SQL: it runs a shell"
+            message = name + " cannot be called from SQL because it runs a shell"
             self.refuses(message, "SELECT ostrel_reason(?, '1', 'RADIO_2.4GHz')", name)
             self.refuses(message, "SELECT %s('1', 'RADIO_2.4GHz')" % name)
 
@@ -139,7 +139,7 @@ class Functions(unittest.TestCase):
             self.assertEqual((code,), ask(self.database, length, least))
         for wrong in (-2147483649, 2147483648, "", " 1", "1 ", "+", "-", "1.0", 1.0, "0x1", "1e1", "9" * 30, b"\xb2"):
             with self.subTest(wrong=wrong):
-                self.refuses("Param_check_string_len: min_len is not an integer from -2147483648 to 2147483647",
+                self.refuses("Param_check_string_len: min_len must be an integer from -2147483648 to 2147483647",
                              "SELECT ostrel_code('Param_check_string_len', '', ?, 1)", wrong)
 
     def test_what_a_value_is(self):

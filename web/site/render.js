@@ -69,7 +69,7 @@ function constraintsOf(said) {
   const claim = said.exact ? 'Exactly these values are accepted'
     : said.necessary ? 'Every accepted value is within these limits; others within them may be refused' : 'Every value within these limits is accepted';
   const offered = said.recommended ? rowsOf(said.recommended) : [];
-  return `<h4>Constraints</h4>${list(rows)}<p class="claim">${claim}${said.reads_number ? ', except for numbers beyond 32 bits' : ''}.</p>${
+  return `<h4>Constraints</h4>${list(rows)}<p class="claim">${claim}${said.reads_number ? ', except for numbers that do not fit in 32 bits' : ''}.</p>${
     offered.length > 0 ? `<h4>What a form should offer</h4>${list(offered)}` : ''}`;
 }
 

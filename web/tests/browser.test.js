@@ -183,10 +183,10 @@ test('forms', async (t) => {
       attach(document.forms[0], await load());
     });
     await retype(page, '#a', '8080');
-    assert.equal(await said(page, '#a'), 'The gateway cannot cope with this value.');
+    assert.equal(await said(page, '#a'), 'The gateway cannot process this value.');
     await retype(page, '#a', 'x');
     await refused(page, '#a');
-    assert.notEqual(await said(page, '#a'), 'The gateway cannot cope with this value.');
+    assert.notEqual(await said(page, '#a'), 'The gateway cannot process this value.');
     assert.deepEqual(page.faults, []);
   });
 
