@@ -35,7 +35,7 @@ class Registration {
         for (Step& step : steps) {
             if (step.kind == Step::Kind::kRemember) {
                 step.slot = slots_.emplace(step.name, slots_.size()).first->second;
-                if (step.slot < check_.arguments.size()) fail("an argument has the name", step.name);
+                if (step.slot < check_.arguments.size()) fail("an argument already has the name", step.name);
             }
             collect_names(step.steps);
             collect_names(step.otherwise);
@@ -54,7 +54,7 @@ class Registration {
         if (expression.text.empty() && in_list_) {
             expression.kind = Kind::kItem;
         } else if (expression.text.empty()) {
-            if (check_.arguments.empty()) fail("no argument", "");
+            if (check_.arguments.empty()) fail("the check has no argument", "");
         } else if (const auto slot = slots_.find(expression.text); slot != slots_.end()) {
             expression.slot = slot->second;
         } else if (const auto item = kItems.find(expression.text); in_list_ && item != kItems.end()) {
@@ -62,7 +62,7 @@ class Registration {
         } else if (const auto fault = kFaults.find(expression.text); fault != kFaults.end()) {
             expression.kind = fault->second;
         } else {
-            fail("nothing has the name", expression.text);
+            fail("unknown name", expression.text);
         }
     }
 
@@ -87,10 +87,10 @@ class Registration {
                 rest.remove_prefix(begin);
                 if (rest.empty()) break;
                 const std::size_t end = rest.find('>');
-                if (end == std::string_view::npos) fail("no end of", rest);
+                if (end == std::string_view::npos) fail("missing end of", rest);
                 Expression value = "";
                 value.text = rest.substr(1, end - 1);
-                if (value.text.empty()) fail("no name in", line.text);
+                if (value.text.empty()) fail("empty name in", line.text);
                 resolve(value);
                 line.parts.push_back({{}, std::move(value)});
                 rest.remove_prefix(end + 1);
@@ -137,7 +137,7 @@ void link(Condition& condition, const std::vector<Check>& all)
     if (condition.target == nullptr)
         throw std::logic_error("no description of " + std::string(condition.check));
     if (condition.target->arguments.size() != condition.operands.size()) {
-        throw std::logic_error("another number of arguments for " + std::string(condition.check));
+        throw std::logic_error("wrong number of arguments for " + std::string(condition.check));
     }
 }
 

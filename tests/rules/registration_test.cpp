@@ -63,7 +63,7 @@ TEST(RegistrationTest, FaultsAreNamed)
     EXPECT_EQ("a_check: no end of <one", fault({refuse(1, empty(), line("of <one"))}));
     EXPECT_EQ("a_check: no name in of <>", fault({refuse(1, empty(), line("of <>"))}));
     EXPECT_EQ("no description of nobody", fault({refuse(1, refused_by("nobody"))}));
-    EXPECT_EQ("another number of arguments for TcmValidatePort",
+    EXPECT_EQ("wrong number of arguments for TcmValidatePort",
               fault({refuse(1, refused_by("TcmValidatePort", {it, it}))}));
 }
 

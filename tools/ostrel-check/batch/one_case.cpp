@@ -33,7 +33,7 @@ std::string record_of(const catalogue::Function& function, std::span<const std::
 int judge_in_json(const catalogue::Function& function, std::span<const std::string> words, Rules rules)
 {
     const Descriptor file(memfd_create("case", MFD_CLOEXEC));
-    if (file.number() < 0) throw std::system_error(errno, std::generic_category(), "cannot keep the case");
+    if (file.number() < 0) throw std::system_error(errno, std::generic_category(), "cannot store the case");
     write_all(file.number(), record_of(function, words));
     lseek(file.number(), 0, SEEK_SET);
     dup2(file.number(), STDIN_FILENO);

@@ -103,11 +103,11 @@ ordered_json json_of(const Exposure& exposure)
 
 constexpr std::string_view kHead = R"(# What an accepted value may contain
 
-Made by `scripts/hazards`. Before you paste a value into a shell command, a page or a configuration file, quote the bytes
-that its row allows. In a cell, `-` means that an accepted value never contains such a byte, and `any` that the byte may
-be anywhere; otherwise the letters state where: `f` first, `i` inside, `l` last. A row describes the value that is passed
-or, for a buffer "after the call", the string that the buffer then contains; bytes after a new terminator are unchanged.
-`ostrel-check explain` lists the bytes of each kind.
+Made by `scripts/hazards`. Before you paste a value into a shell command, a page or a configuration file, quote the
+bytes that its row allows. In a cell, `-` means that an accepted value never contains such a byte, and `any` that the
+byte may be anywhere; otherwise the letters state where: `f` first, `i` inside, `l` last. A row describes the value
+that is passed or, for a buffer "after the call", the string that the buffer then contains; bytes after a new
+terminator are unchanged. `ostrel-check explain` lists the bytes of each kind.
 
 A check that returns 0 states that a value suits its parameter, not that the value is harmless.
 )";
