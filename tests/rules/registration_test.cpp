@@ -54,14 +54,14 @@ std::string fault(std::vector<Step> steps)
 TEST(RegistrationTest, FaultsAreNamed)
 {
     EXPECT_EQ("", fault({refuse(1, empty("one"))}));
-    EXPECT_EQ("a_check: an argument has the name one", fault({remember("one", it)}));
-    EXPECT_EQ("a_check: no argument ", fault({refuse(1, empty())}, {}));
-    EXPECT_EQ("a_check: nothing has the name two", fault({refuse(1, empty("two"))}));
-    EXPECT_EQ("a_check: nothing has the name two",
+    EXPECT_EQ("a_check: an argument already has the name one", fault({remember("one", it)}));
+    EXPECT_EQ("a_check: the check has no argument ", fault({refuse(1, empty())}, {}));
+    EXPECT_EQ("a_check: unknown name two", fault({refuse(1, empty("two"))}));
+    EXPECT_EQ("a_check: unknown name two",
               fault({for_each(list_of(it, ','), {refuse(1, empty("two"))})}));
-    EXPECT_EQ("a_check: nothing has the name item", fault({refuse(1, empty("item"))}));
-    EXPECT_EQ("a_check: no end of <one", fault({refuse(1, empty(), line("of <one"))}));
-    EXPECT_EQ("a_check: no name in of <>", fault({refuse(1, empty(), line("of <>"))}));
+    EXPECT_EQ("a_check: unknown name item", fault({refuse(1, empty("item"))}));
+    EXPECT_EQ("a_check: missing end of <one", fault({refuse(1, empty(), line("of <one"))}));
+    EXPECT_EQ("a_check: empty name in of <>", fault({refuse(1, empty(), line("of <>"))}));
     EXPECT_EQ("no description of nobody", fault({refuse(1, refused_by("nobody"))}));
     EXPECT_EQ("wrong number of arguments for TcmValidatePort",
               fault({refuse(1, refused_by("TcmValidatePort", {it, it}))}));
