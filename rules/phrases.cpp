@@ -16,7 +16,7 @@ std::string item_of(const List& list, const Meant& outer)
     if (!list.part.empty()) return "the " + std::string(list.part);
     if (list.separator != '\0') return outer.words == "the item" ? "the part" : "the item";
     const std::string_view blocks = list.of.text;
-    return blocks.ends_with('s') ? "the " + std::string(blocks.substr(0, blocks.size() - 1)) : "the text";
+    return blocks.ends_with('s') ? "the " + std::string(blocks.substr(0, blocks.size() - 1)) : "the string";
 }
 
 }  // namespace
