@@ -45,16 +45,16 @@ std::string outcome_in_words(const Function& function, const std::vector<Value>&
     if (end.signal != 0) return "memory fault";
     if (end.timed_out) return "does not return";
     const std::string text = end.err.substr(end.err.rfind("\ncode ") + 6);
-    if (!function.check->is_verdict) return "answers " + text;
+    if (!function.check->is_verdict) return "returns " + text;
     return text == "0" ? "accepted" : "refused with " + text;
 }
 
 std::set<std::string> outcomes_in(const std::string& text)
 {
     const std::regex outcome(
-        "failed assertion [^ ]+( \\*\\)0\\))? != [^ )]+( \\*\\)0\\))?|memory fault|left to the C "
+        "failed assertion [^ ]+( \\*\\)0\\))? != [^ )]+( \\*\\)0\\))?|memory fault|passed to the C "
         "library|does not return|accepted|"
-        "(answers |refused with )(-?[0-9]+((, | or )-?[0-9]+)*)");
+        "(returns |refused with )(-?[0-9]+((, | or )-?[0-9]+)*)");
     const std::regex number("-?[0-9]+");
     std::set<std::string> result;
     for (std::sregex_iterator one(text.begin(), text.end(), outcome), end; one != end; ++one) {
@@ -75,7 +75,7 @@ TEST_P(NullTest, WhatIsSaidIsWhatHappens)
     const std::size_t distance = std::max<std::size_t>(rows.size() / kMostCalls, 1);
     for (std::size_t i = 0; i < check_.arguments.size(); ++i) {
         const std::string said = rules::null_does(check_, i, oracle::library_build());
-        const bool is_printed = outcomes_in(said).contains("left to the C library");
+        const bool is_printed = outcomes_in(said).contains("passed to the C library");
         std::set<std::string> met;
         std::set<std::string> tried;
         for (std::size_t r = 0; r < rows.size(); ++r) {
@@ -89,7 +89,7 @@ TEST_P(NullTest, WhatIsSaidIsWhatHappens)
             if (!tried.insert(kind).second && (!is_printed || r % distance != 0)) continue;
             const std::string outcome = outcome_in_words(function_, values);
             const bool is_left = answer.outside == rules::Outside::kNull && outcome != "memory fault";
-            met.insert(is_left ? "left to the C library" : outcome);
+            met.insert(is_left ? "passed to the C library" : outcome);
         }
         EXPECT_EQ(met, outcomes_in(said)) << check_.arguments[i].name << ": " << said;
     }
