@@ -100,7 +100,8 @@ def _outcome_of(future: Future, part: Part) -> Outcome:
     except (asyncio.CancelledError, concurrent.futures.CancelledError) as error:
         raise Failed("the connection to the scheduler was lost") from error
     except distributed.scheduler.KilledWorker as error:
-        return Outcome("missing", f"{part.file}: every worker that judged it died; the last one was {error.last_worker}")
+        return Outcome("missing",
+                       f"{part.file}: every worker that judged it died; the last one was {error.last_worker}")
     except Exception as error:
         return Outcome("missing", f"{part.file}: {type(error).__name__}: {error}")
     return Outcome(**outcome)

@@ -61,9 +61,11 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
         "       ostrel-fleet --resume [--scheduler ADDRESS] FOLDER")
     parser.add_argument("folder", metavar="FOLDER", type=pathlib.Path,
                         help="write the results here; the path must be valid on each worker")
-    parser.add_argument("files", metavar="FILE", nargs="*", help="judge this file; @LIST reads the names from LIST, one per line")
+    parser.add_argument("files", metavar="FILE", nargs="*",
+                        help="judge this file; @LIST reads the names from LIST, one per line")
     parser.add_argument("--resume", action="store_true", help="judge the missing parts of the run in FOLDER")
-    parser.add_argument("--scheduler", metavar="ADDRESS", help="use the Dask cluster at this address, and not only this machine")
+    parser.add_argument("--scheduler", metavar="ADDRESS",
+                        help="use the Dask cluster at this address, and not only this machine")
     parser.add_argument("--jobs", metavar="N", type=int, default=len(os.sched_getaffinity(0)),
                         help="judge this many parts in parallel on this machine (its processors)")
     parser.add_argument("--map", metavar="FILE", help="judge the files as gateway dumps with this map")

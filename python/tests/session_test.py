@@ -150,7 +150,7 @@ class Refused(unittest.TestCase):
                               ("PARAM_check_port", "8\x000"): "U\\+0000",
                               ("PARAM_check_port", b"8\x000\xff"): "U\\+0000",
                               ("PARAM_check_port", "\ud800"): "surrogate",
-                              ("countChar", "a", "many"): "takes a number"}.items():
+                              ("countChar", "a", "many"): "must be a number"}.items():
             with self.assertRaisesRegex(ostrel.MalformedCall, message):
                 self.session.judge(*case)
             (verdict,) = self.session.judge_many([case])
@@ -163,7 +163,7 @@ class Refused(unittest.TestCase):
 
     def test_other_types_are_errors(self):
         for value in (1.5, True, {"base64": "AA=="}, object(), [None, 1.5]):
-            with self.assertRaisesRegex(TypeError, "an argument is str, bytes, int, None or a list of texts"):
+            with self.assertRaisesRegex(TypeError, "an argument must be str, bytes, int, None or a list of str"):
                 self.session.judge("PARAM_check_port", value)
         for case in ("PARAM_check_port", (), (1, "80"), None):
             with self.assertRaisesRegex(TypeError, "a case is a tuple"):

@@ -41,8 +41,8 @@ static void list_arguments(const OstrelCheck* check, char* out, size_t room)
 bool ostrel_is_callable(const OstrelCheck* check, size_t values, bool is_verdict, OstrelFault* fault)
 {
     if (check->hindrance == kNeverReturns)
-        return fail(fault, kNotCalled, "%s cannot be called from SQL because it does not return for some values",
-                    check->name);
+        return fail(fault, kNotCalled,
+                    "%s cannot be called from SQL because it does not return for some values", check->name);
     if (check->hindrance == kRunsShell)
         return fail(fault, kNotCalled, "%s cannot be called from SQL because it runs a shell", check->name);
     if (is_verdict && check->is_number)

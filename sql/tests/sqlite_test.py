@@ -116,8 +116,9 @@ class Functions(unittest.TestCase):
         self.refuses("WLAN_check_wepkeys takes 4 values (keys); 1 was given",
                      "SELECT ostrel_code('WLAN_check_wepkeys', '')")
         self.refuses("wrong number of arguments to function param_check_port()", "SELECT param_check_port()")
-        self.refuses("PARAM_check_port: value_p contains a NUL byte", "SELECT ostrel_code('PARAM_check_port', ?)", "80\0")
-        self.refuses("PARAM_check_port: value_p contains a NUL byte", "SELECT ostrel_line('PARAM_check_port', x'383000')")
+        nul = "PARAM_check_port: value_p contains a NUL byte"
+        self.refuses(nul, "SELECT ostrel_code('PARAM_check_port', ?)", "80\0")
+        self.refuses(nul, "SELECT ostrel_line('PARAM_check_port', x'383000')")
         self.refuses("WLAN_check_wepkeys: string 2 of keys has more than 256 bytes",
                      "SELECT ostrel_code('WLAN_check_wepkeys', '', ?, '', '')", "1" * 257)
         self.refuses("countChar returns a number, not a result code; use ostrel_code",

@@ -57,8 +57,7 @@ TEST(RegistrationTest, FaultsAreNamed)
     EXPECT_EQ("a_check: an argument already has the name one", fault({remember("one", it)}));
     EXPECT_EQ("a_check: the check has no argument ", fault({refuse(1, empty())}, {}));
     EXPECT_EQ("a_check: unknown name two", fault({refuse(1, empty("two"))}));
-    EXPECT_EQ("a_check: unknown name two",
-              fault({for_each(list_of(it, ','), {refuse(1, empty("two"))})}));
+    EXPECT_EQ("a_check: unknown name two", fault({for_each(list_of(it, ','), {refuse(1, empty("two"))})}));
     EXPECT_EQ("a_check: unknown name item", fault({refuse(1, empty("item"))}));
     EXPECT_EQ("a_check: missing end of <one", fault({refuse(1, empty(), line("of <one"))}));
     EXPECT_EQ("a_check: empty name in of <>", fault({refuse(1, empty(), line("of <>"))}));

@@ -203,25 +203,27 @@ class Errors(unittest.TestCase):
         pool = '"check": "LAN_check_dhcp_reserved_addr", "value": "reservedList"'
         cases = [
             ("{\n \"parameters\": [\n}", "MAP:3: invalid JSON: "),
-            ("[]", "MAP:1: it is not an object"),
+            ("[]", "MAP:1: must be an object"),
             ("{}", 'MAP:1: "parameters" is missing'),
-            ('{"parameters": []}', "MAP:1: /parameters: it is empty"),
+            ('{"parameters": []}', "MAP:1: /parameters: must not be empty"),
             (entry % '{"path": "B", "check": "PARAM_check_prot"}', 'MAP:3: /parameters/1/check: '),
             (entry % '{"check": "PARAM_check_port"}', 'MAP:3: /parameters/1: "path" is missing'),
-            (entry % '{"path": "B",\n "check": 7}', "MAP:4: /parameters/1/check: it is not a string"),
+            (entry % '{"path": "B",\n "check": 7}', "MAP:4: /parameters/1/check: must be a string"),
             (entry % '{"path": "B..C", "check": "PARAM_check_port"}',
              "MAP:3: /parameters/1/path: the path has an empty name"),
             (entry % '{"path": "B.{j}", "check": "PARAM_check_port"}', "MAP:3: /parameters/1/path: braces"),
-            (entry % '{"path": "A", "check": "PARAM_check_port"}', "MAP:3: /parameters/1: the parameter has"),
+            (entry % '{"path": "A", "check": "PARAM_check_port"}', "MAP:3: /parameters/1: the parameter already has"),
             (entry % '{"path": "B", "check": "PARAM_check_port", "values": 1}',
              "MAP:3: /parameters/1/values: unknown member"),
-            (entry % ('{"path": "B", ' + pool + "}"), 'MAP:3: /parameters/1: nothing says where the argument "lanAddress"'),
+            (entry % ('{"path": "B", ' + pool + "}"),
+             'MAP:3: /parameters/1: no source is given for the argument "lanAddress"'),
             (entry % ('{"path": "B", ' + pool + ',\n "with": {"lanAddress": {"path": "C.{i}"}}}'),
-             "MAP:4: /parameters/1/with/lanAddress/path: it has more {i}"),
+             "MAP:4: /parameters/1/with/lanAddress/path: has more {i}"),
             (entry % ('{"path": "B", ' + pool + ', "with": {"lan": {"path": "C"}, "lanAddress": {"path": "C"}}}'),
-             "MAP:3: /parameters/1/with/lan: LAN_check_dhcp_reserved_addr has no such argument; its arguments are reservedList"),
+             "MAP:3: /parameters/1/with/lan: LAN_check_dhcp_reserved_addr has no such argument; "
+             "its arguments are reservedList"),
             (entry % ('{"path": "B", ' + pool + ', "with": {"lanAddress": {}}}'),
-             "MAP:3: /parameters/1/with/lanAddress: it needs one of"),
+             "MAP:3: /parameters/1/with/lanAddress: exactly one of"),
         ]
         for text, expected in cases:
             with self.subTest(text):

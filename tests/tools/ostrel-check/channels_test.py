@@ -66,8 +66,8 @@ class Channels(unittest.TestCase):
         rows = [json.loads(line) for line in shown.stdout.splitlines()]
         self.assertEqual(["accepted", "no_driver", "accepted"], [row["verdict"] for row in rows[:-1]])
         self.assertEqual({"id": "no_driver_list",
-                          "text": "the driver returned no list: --channels must write to /var/hnapwl0chlist; this user may not, "
-                                  "and the system does not allow a mount namespace in which it could"},
+                          "text": "the driver returned no list: --channels must write to /var/hnapwl0chlist, but this user has no "
+                                  "permission, and the system does not allow a private mount namespace"},
                          rows[1]["reason"])
         shown = self.as_nobody("--channels", "1", "WLAN_check_channel", "6", "RADIO_2.4GHz", before=before)
         self.assertEqual(2, shown.returncode)

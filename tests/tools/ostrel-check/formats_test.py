@@ -124,7 +124,7 @@ class OneText(unittest.TestCase):
             row = judged('{"check":"PARAM_check_num_range","args":%s}' % arguments, "--with-args")[0]
             self.assertEqual(("accepted", ["15", 1, 20]), (row["verdict"], row["args"]))
         row = judged('{"check":"PARAM_check_num_range","args":["15",1.5,20]}')[0]
-        self.assertRegex(row["meaning"], r'argument \w+ takes a number; "1.5" is not one')
+        self.assertRegex(row["meaning"], r'argument \w+ must be a number, but "1.5" is not one')
 
 
 class Malformed(unittest.TestCase):

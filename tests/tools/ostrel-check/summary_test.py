@@ -224,7 +224,7 @@ class Sum(unittest.TestCase):
             self.assertEqual(f"ostrel-check: {self.folder}/1:2: {why}\n", shown.stderr)
             self.assertEqual(2, json.loads(shown.stdout)["summary"]["accepted"])
         shown = run("summarise", "/nonexistent/file", self.file("good", good))
-        self.assertEqual((2, "ostrel-check: /nonexistent/file: cannot read it: No such file or directory\n"),
+        self.assertEqual((2, "ostrel-check: /nonexistent/file: cannot be read: No such file or directory\n"),
                          (shown.returncode, shown.stderr))
         self.assertIn("1 case: 1 accepted", shown.stdout)
         self.assertEqual(2, run("summarise").returncode)
