@@ -185,7 +185,7 @@ class Refusals(support.Folder):
     def test_usage(self):
         self.assert_refused("FILE is missing", self.out)
         self.assert_refused("--jobs must be at least 1", "--jobs", "0", self.out, "x")
-        self.assert_refused("a size is a number of bytes", "--block", "1T", self.out, "x")
+        self.assert_refused("a size must be a number of bytes", "--block", "1T", self.out, "x")
         self.assert_refused("--stream cannot be passed to ostrel-check here", self.out, "x", "--", "--stream")
         self.assert_refused("--start-line=2 cannot be given", self.out, "x", "--", "--start-line=2")
         self.assert_refused("--wrong", self.out, "x", "--", "--wrong")

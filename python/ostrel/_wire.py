@@ -41,7 +41,7 @@ def _token(value: object, quote: Quote) -> str:
 
 def _line(case: Case, quote: Quote) -> str:
     if not isinstance(case, (tuple, list)) or not case or not isinstance(case[0], str):
-        raise TypeError(f"a case must be a tuple of the name of a check and its arguments, not {case!r:.100}")
+        raise TypeError(f"a case must be a tuple or list of the name of a check and its arguments, not {case!r:.100}")
     arguments = [_quoted(item) if type(item) is str and quote is _quoted else _token(item, quote)
                  for item in case[1:]]
     return '{"check":%s,"args":[%s]}\n' % (quote(case[0]), ",".join(arguments))

@@ -166,7 +166,7 @@ class Refused(unittest.TestCase):
             with self.assertRaisesRegex(TypeError, "an argument must be str, bytes, int, None or a list of str"):
                 self.session.judge("PARAM_check_port", value)
         for case in ("PARAM_check_port", (), (1, "80"), None):
-            with self.assertRaisesRegex(TypeError, "a case is a tuple"):
+            with self.assertRaisesRegex(TypeError, "a case must be a tuple"):
                 list(self.session.judge_many([("PARAM_check_port", "80"), case]))
         with self.assertRaises(ValueError):
             self.session.judge_many([], block=0)
