@@ -179,7 +179,7 @@ class Ostrel {
 
   // #room returns the memory, after enlarging it if it has no room for a call of size bytes.
   #room(size) {
-    if (this.#isBusy) throw new Error('a check must not be called during another call');
+    if (this.#isBusy) throw new Error('a check is already running');
     const missing = this.#base + size - this.#bytes().length;
     if (missing > 0) this.#rules.memory.grow(Math.ceil(missing / kPage));
     return this.#bytes();
@@ -195,7 +195,7 @@ class Ostrel {
       for (const text of value) {
         const end = put(bytes, at, text, this.#isLatin1);
         at += size;
-        if (end >= at) throw new RangeError('a string is too long for its block');
+        if (end >= at) throw new RangeError('a string is too long');
         bytes.fill(0, end, at);
       }
     }

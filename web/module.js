@@ -12,6 +12,6 @@ export async function compiled(given, url) {
   try {
     return await WebAssembly.compile(given);
   } catch (cause) {
-    throw new Error("the module cannot be compiled; a content security policy must allow 'wasm-unsafe-eval'", {cause});
+    throw new Error("the content security policy must allow 'wasm-unsafe-eval'", {cause});
   }
 }

@@ -13,7 +13,7 @@ export function put(bytes, at, text, isLatin1) {
       bytes[at++] = c;
       continue;
     }
-    if (isLatin1) throw new RangeError('a value contains a character that is not in Latin-1');
+    if (isLatin1) throw new RangeError('a value is not in Latin-1');
     if (c >= kHighSurrogates && c < kAfterSurrogates) {
       const low = text.charCodeAt(++i);
       if (c >= kLowSurrogates || !(low >= kLowSurrogates && low < kAfterSurrogates)) {
