@@ -116,7 +116,7 @@ std::span<const Hazard> hazards()
         {"blanks", "blank", " "},
         {"quotes", "quotes ' \" `", "'\"`"},
         {"shell", "shell $ ; | & < > ( ) { } [ ] * ? ! # ~ =", "$;|&<>(){}[]*?!#~="},
-        {"line_ends", "line ends", "\n\r"},
+        {"line_ends", "line endings", "\n\r"},
         {"controls", "control bytes", controls},
         {"markup", "markup < > &", "<>&"},
         {"percent", "%", "%"},

@@ -173,7 +173,7 @@ def _send(part: Part, source: int, pipe: int) -> None:
 
 
 def _end_of(part: Part, source: BinaryIO, out: BinaryIO) -> tuple[str, str]:
-    """_end_of returns a definite and a possible problem at the end of a file. A last line without a line end was cut
+    """_end_of returns a definite and a possible problem at the end of a file. A last line without a line ending was cut
     off if its record is malformed; otherwise it might have been cut off."""
     size = os.fstat(source.fileno()).st_size
     last = os.pread(source.fileno(), 1, size - 1) if size > 0 and part.end in (None, size) else b"\n"
@@ -186,7 +186,7 @@ def _end_of(part: Part, source: BinaryIO, out: BinaryIO) -> tuple[str, str]:
         if result["verdict"] == "malformed" and result["line"] == _last_line(part, source):
             return f"{part.file}: the file ends in the middle of line {result['line']}", ""
         if last not in b"]}":
-            return "", f"{part.file}: line {result['line']}, the last one, has no line end and may be incomplete"
+            return "", f"{part.file}: line {result['line']}, the last one, has no line ending and may be incomplete"
     return "", ""
 
 

@@ -11,7 +11,7 @@
 
 namespace ostrel::rules {
 
-// SaidLine is a printed line, in which <name> stands for a value and \n for a line end.
+// SaidLine is a printed line, in which <name> stands for a value and \n for a line ending.
 struct SaidLine {
     std::string text;
     std::string when;  // the case in which the line is printed, or empty if it always is

@@ -83,7 +83,7 @@ class Speaker {
     [[nodiscard]] std::string list(const List& list) const;
     [[nodiscard]] const std::string& item() const { return item_.words; }
 
-    // line returns a line in which <name> stands for a value and \n for a line end.
+    // line returns a line in which <name> stands for a value and \n for a line ending.
     [[nodiscard]] std::string line(const Line& line) const;
 
     // pass_null sets an argument to NULL. is_null returns true for an expression that is NULL, and reads_null

@@ -109,7 +109,7 @@ class Broken(support.Folder):
         words.write_text("PARAM_check_port 1\nPARAM_check_port 655")
         code, said = self.fleet(self.out, words)
         self.assertEqual(0, code)
-        self.assertIn(f"{words}: line 2, the last one, has no line end and may be incomplete\n", said)
+        self.assertIn(f"{words}: line 2, the last one, has no line ending and may be incomplete\n", said)
 
     def test_results_that_were_cut_or_changed_are_made_again(self):
         self.assertEqual(1, self.fleet(self.out, *self.files)[0])

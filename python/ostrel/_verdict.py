@@ -77,7 +77,7 @@ class Verdict:
     reason: Reason | None = None
     """Why the value was refused, or why the call ended its process or did not return."""
     lines: tuple[str, ...] = ()
-    """The lines that the check printed, each with its line end."""
+    """The lines that the check printed, each with its line ending."""
     err: str = ""
     """What was written to standard error, for example the message of a failed assertion."""
     after: Mapping[str, Written] = field(default_factory=lambda: NOTHING, hash=False)
@@ -165,7 +165,7 @@ def _reason(members: dict[str, Any]) -> Reason:
 
 
 def _lines(out: str) -> tuple[str, ...]:
-    """_lines splits the output after each line end."""
+    """_lines splits the output after each line ending."""
     lines = out.split("\n")
     last = lines.pop()
     printed = [line + "\n" for line in lines]

@@ -9,7 +9,7 @@ namespace {
 using Kind = Node::Kind;
 using Pattern = std::optional<std::string>;
 
-constexpr std::string_view kEnd = "(?![\\s\\S])";  // "$" would accept a line end
+constexpr std::string_view kEnd = "(?![\\s\\S])";  // "$" would accept a line ending
 constexpr std::string_view kNever = "(?!)";
 
 // Context describes the bytes that a part of a string can contain, and the expression for what follows the

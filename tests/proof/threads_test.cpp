@@ -2,7 +2,7 @@
 // no printed line may be interrupted by another. With the thread sanitizer (the "tsan" preset), the test also
 // shows that there is no data race.
 //
-// The MAC address checks print a character without a line end, which may precede any line, so their rows are
+// The MAC address checks print a character without a line ending, which may precede any line, so their rows are
 // judged separately, and their output is compared byte by byte.
 //
 // If OSTREL_LONGEST_TEXT is set in the environment, rows with longer strings are skipped.
@@ -41,7 +41,7 @@ namespace {
 
 constexpr std::size_t kThreads = 8;
 
-// Pieces counts how often each line occurs or, for output without line ends, how often each byte occurs.
+// Pieces counts how often each line occurs or, for output without line endings, how often each byte occurs.
 using Pieces = std::map<std::string, std::size_t, std::less<>>;
 
 void add_lines(Pieces& lines, std::string_view text, std::size_t times)

@@ -148,7 +148,7 @@ std::string_view explain_help()
     return R"(Prints what the check accepts, its arguments and the effect of NULL, its result
 codes, its steps in order with their conditions and printed lines, what it
 writes into buffers, and what an accepted value may contain. In a printed line,
-\n is a line end, and <name> is an argument, a part of one, or a value that a
+\n is a line ending, and <name> is an argument, a part of one, or a value that a
 step keeps under that name.
 
 Examples:

@@ -185,7 +185,7 @@ std::string reference(const Selection& selection)
     std::string text =
         R"(# Reference
 
-This page is generated from the descriptions of the checks. In printed lines, `\n` is a line end, and `<name>` is an
+This page is generated from the descriptions of the checks. In printed lines, `\n` is a line ending, and `<name>` is an
 argument, a part of one, or a value that a step keeps under that name.
 
 )";

@@ -10,7 +10,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// said_of returns the text that select searches, with a line end between unrelated parts.
+// said_of returns the text that select searches, with a line ending between unrelated parts.
 std::string said_of(const catalogue::Function& function)
 {
     std::string text(function.name);

@@ -9,7 +9,7 @@
 
 namespace ostrel::tool {
 
-// RowEnd describes where the row at the front of the input ends. The size includes the row's line end.
+// RowEnd describes where the row at the front of the input ends. The size includes the row's line ending.
 struct RowEnd {
     std::size_t size = 0;
     bool is_open = false;  // the input ends within quotation marks, or more of the row may follow

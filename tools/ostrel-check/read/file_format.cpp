@@ -77,7 +77,7 @@ FileFormat format_of_bytes(std::string_view front, const Reading& reading)
     if (begin != std::string_view::npos && front[begin] == '[') return FileFormat::kJson;
     const std::string_view line = front.substr(0, front.find('\n'));
     if (begin != std::string_view::npos && front[begin] == '{') {
-        // An object with a line end after its opening brace spans several lines.
+        // An object with a line ending after its opening brace spans several lines.
         const std::size_t next = front.find_first_not_of(" \t\r", begin + 1);
         if (next != std::string_view::npos && front[next] == '\n') return FileFormat::kJson;
         return reading.map == nullptr ? FileFormat::kWords : FileFormat::kNdjson;

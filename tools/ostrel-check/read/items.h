@@ -27,7 +27,7 @@ class Items {
     Item of_text(std::string_view text);
     Item of_base64(std::string_view text);
 
-    // compact returns JSON without the blanks and line ends outside strings.
+    // compact returns JSON without the blanks and line endings outside strings.
     std::string_view compact(std::string_view json);
 
  private:

@@ -11,7 +11,7 @@
 
 namespace ostrel::tool {
 
-// JsonReader reads an element together with the blanks, line ends and comma after it.
+// JsonReader reads an element together with the blanks, line endings and comma after it.
 class JsonReader : public Reader {
  public:
     explicit JsonReader(const Reading& reading) : object_(reading) {}

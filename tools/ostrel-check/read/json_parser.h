@@ -159,7 +159,7 @@ ByteKinds require_json(std::string_view text);
 // text if the string is not closed.
 std::size_t end_of_string(std::string_view text, std::size_t at);
 
-// append_compact appends JSON without the blanks and line ends outside strings.
+// append_compact appends JSON without the blanks and line endings outside strings.
 void append_compact(std::string& out, std::string_view json);
 
 }  // namespace ostrel::tool
