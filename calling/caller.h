@@ -1,5 +1,5 @@
-// Caller passes values to a function and returns the values that it writes. Each argument adjoins an
-// unreadable page.
+// Caller passes values to a function and returns the values that the function writes. Each argument adjoins
+// an unreadable page.
 #ifndef OSTREL_CALLING_CALLER_H
 #define OSTREL_CALLING_CALLER_H
 
@@ -33,8 +33,8 @@ class GuardedMemory {
     std::size_t usable_ = 0;  // bytes between the two unreadable pages
 };
 
-// Written is an argument that the function may write to, with its value after the call. The value is NULL for
-// a number that was not written, and for a buffer that was NULL.
+// Written is an argument that the function may write to, with the value that it has after the call. The value
+// is NULL for a number that was not written, and for a buffer that was NULL.
 struct Written {
     const catalogue::Argument* argument;
     catalogue::Value value;
@@ -44,8 +44,8 @@ class Caller {
  public:
     explicit Caller(Edge edge = Edge::kEnd) : edge_(edge) {}
 
-    // load accepts a value for each argument, or a value for each argument that the function reads. If the
-    // values do not match the arguments in number, kind or range, it throws std::invalid_argument with a
+    // load accepts either one value for each argument or one for each argument that the function reads. If
+    // the values do not match the arguments in number, kind or range, it throws std::invalid_argument with a
     // message for the user.
     void load(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 

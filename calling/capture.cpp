@@ -84,7 +84,7 @@ void Capture::clear()
 PrintedView Capture::look()
 {
     const std::size_t flushed = prints_->out.size;
-    // Most checks print nothing, and the test takes less time than a flush.
+    // Most checks print nothing, and this test is faster than a flush.
     if (__fpending(stream_out_) > 0) std::fflush(stream_out_);
     return {prints_->out.view(), flushed, prints_->err.view(), prints_->out.cut || prints_->err.cut};
 }

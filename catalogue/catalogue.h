@@ -16,7 +16,7 @@ const std::vector<Function>& functions();
 // families returns the families, in the same order as their functions.
 std::vector<std::string_view> families();
 
-// find returns the function with that name, or NULL if there is none.
+// find returns the function with the given name, or NULL if there is none.
 const Function* find(std::string_view name);
 
 }  // namespace ostrel::catalogue

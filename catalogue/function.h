@@ -1,4 +1,4 @@
-// An exported function with its description, in a form in which it can be called.
+// An exported function: its description, its address, and the code that calls it.
 #ifndef OSTREL_CATALOGUE_FUNCTION_H
 #define OSTREL_CATALOGUE_FUNCTION_H
 
@@ -19,7 +19,7 @@ using rules::Argument;
 using rules::Value;
 using Kind = Argument::Kind;
 
-// Raw is an argument in the form in which it is passed to a function.
+// Raw is an argument as it is passed to a function. One member is used, depending on the argument's type.
 struct Raw {
     void* pointer = nullptr;
     int integer = 0;
@@ -35,10 +35,12 @@ struct Function {
     int (*invoke)(std::span<const Raw> arguments) = nullptr;
 };
 
-// kUnwritten is the value of an output number before the call. No function writes this value.
+// kUnwritten is the initial value of a number that the function only writes. No function sets a number to
+// this value.
 inline constexpr long long kUnwritten = std::numeric_limits<int>::min();
 
-// completed adds values for the arguments that are only written, if the caller omitted them.
+// completed adds an initial value for each argument that the function only writes, if the caller omitted
+// these arguments.
 std::vector<Value> completed(const Function& function, std::span<const Value> given);
 
 // room_of returns the number of bytes that a caller must provide for a buffer, or for each string in an

@@ -14,14 +14,14 @@
 
 namespace ostrel::catalogue {
 
-// Hazard is a kind of byte that needs care when a value is pasted elsewhere.
+// Hazard is a class of bytes that need care when a value is pasted into a command, a page or a file.
 struct Hazard {
     std::string_view name;  // the name used in JSON
     std::string_view title;
     std::string_view bytes;
 };
 
-// hazards returns all kinds. A byte may belong to several of them.
+// hazards returns all classes. A byte may belong to several of them.
 std::span<const Hazard> hazards();
 
 enum class Place { kFirst, kInside, kLast };
@@ -30,7 +30,7 @@ inline constexpr std::array kPlaces = {Place::kFirst, Place::kInside, Place::kLa
 
 std::string_view name_of(Place place);
 
-// stands_at returns whether the byte is in that place in the string.
+// stands_at returns whether the byte occurs at the given place in the string.
 bool stands_at(Place place, std::string_view text, char byte);
 
 // Witness is a call that is accepted no matter which of these bytes is at the given offset in an argument.
@@ -50,10 +50,10 @@ struct Exposure {
     bool is_after = false;
     std::array<std::vector<Witness>, kPlaces.size()> witnesses;
 
-    // witness returns an accepted call that has the byte in that place, or NULL if there is none.
+    // witness returns an accepted call that has the byte at the given place, or NULL if there is none.
     [[nodiscard]] const Witness* witness(Place place, char byte) const;
 
-    // bytes returns those bytes of the hazard that can occur in that place.
+    // bytes returns the hazard's bytes that can occur at the given place.
     [[nodiscard]] std::string bytes(Place place, const Hazard& hazard) const;
 };
 

@@ -10,8 +10,8 @@ namespace ostrel::catalogue {
 
 namespace {
 
-// No name is longer than kLongestName. Longer words are truncated, because the time needed to count typing
-// errors grows with the square of the length.
+// No name is longer than kLongestName. Longer words are truncated, because the time needed to count typos
+// grows with the square of the length.
 constexpr std::size_t kLongestName = 64;
 constexpr std::size_t kMostShown = 3;
 // Shorter words are ignored, because a single letter occurs in nearly every name.
@@ -20,8 +20,8 @@ constexpr std::size_t kShortest = 2;
 bool is_letter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 bool is_capital(char c) { return c >= 'A' && c <= 'Z'; }
 
-// begins_word returns whether a word begins at that offset in a name. A word begins after a byte that is not
-// a letter, and at a capital letter that follows a lower-case one.
+// begins_word returns whether a word begins at the given offset in a name. A word begins after a byte that is
+// not a letter, and at a capital letter that follows a lower-case one.
 bool begins_word(std::string_view name, std::size_t at)
 {
     if (at == 0 || !is_letter(name[at - 1])) return true;
@@ -40,7 +40,7 @@ std::vector<std::string_view> words_of(std::string_view name)
     return words;
 }
 
-// typing_errors counts the bytes that were omitted, added, changed, or swapped with the next byte.
+// typing_errors counts typos: bytes that were omitted, added, changed, or swapped with the next byte.
 std::size_t typing_errors(std::string_view a, std::string_view b)
 {
     std::vector<std::size_t> row(b.size() + 1);
@@ -60,8 +60,8 @@ std::size_t typing_errors(std::string_view a, std::string_view b)
     return row.back();
 }
 
-// Similar is a name with its sort keys. The first key is the number of typing errors or, if the name contains
-// the word, 0 if it is a whole word there and 1 if not. The second key is the length of the name.
+// Similar is a name with its sort keys. The first key is the number of typos or, if the name contains the
+// word, 0 if it is a whole word there and 1 if not. The second key is the length of the name.
 using Similar = std::tuple<std::size_t, std::size_t, std::string_view>;
 
 std::vector<std::string_view> first_ones(std::vector<Similar> found)

@@ -1,9 +1,9 @@
-# Generates texts.cpp, which contains files of the source tree as string literals, so that the program need not read
-# the files.
+# Generates texts.cpp, which contains files of the source tree as string literals, so that the program does
+# not need to read the files.
 set(hazards ${PROJECT_SOURCE_DIR}/docs/hazards.md)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS catalogue.schema.json ${hazards})
 file(READ catalogue.schema.json OSTREL_SCHEMA)
-# The page ends with a JSON block that has a line for each argument.
+# docs/hazards.md ends with a JSON block that has a line for each argument.
 file(READ ${hazards} OSTREL_HAZARDS)
 string(REGEX REPLACE "^.*\n```json\n(.*)```\n$" "\\1" OSTREL_HAZARDS "${OSTREL_HAZARDS}")
 configure_file(texts.cpp.in texts.cpp @ONLY)

@@ -44,7 +44,7 @@ void require_room(std::size_t size)
     if (size > kLongestText) throw std::invalid_argument("a string is longer than 16 MiB");
 }
 
-// append_times doubles the appended string repeatedly, so that a long one needs few steps.
+// append_times repeatedly doubles the string that it appends, so a long result takes few steps.
 void append_times(std::string& result, const std::string& part, std::size_t count)
 {
     const std::size_t begin = result.size();

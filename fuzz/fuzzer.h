@@ -26,7 +26,7 @@ enum class RunResult {
 // Fuzzer runs the inputs for one family of the catalogue.
 class Fuzzer {
  public:
-    // Throws std::invalid_argument for an unknown family.
+    // This constructor throws std::invalid_argument for an unknown family.
     explicit Fuzzer(std::string_view family);
 
     // run decodes an input, makes its call, and follows the reason if the call is refused. If build has no

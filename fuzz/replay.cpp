@@ -1,4 +1,4 @@
-// fuzz_replay runs the calls of the vectors, kept inputs and random inputs without an engine.
+// fuzz_replay runs the calls in the vectors, kept inputs and random inputs without a fuzzing engine.
 
 #include <algorithm>
 #include <chrono>
@@ -149,7 +149,8 @@ std::vector<const Function*> chosen(std::string_view family, const ReplayOptions
     return result;
 }
 
-// are_met prints the lowest counts that are below the floor, and returns whether there are none.
+// are_met prints how many counts are below the floor and lists the lowest of them. It returns true if there
+// are none. It also writes the table of counts, if options name a file for it.
 bool are_met(const rules::Counts& counts, const rules::Counts& further, const ReplayOptions& options)
 {
     std::vector<oracle::StepCount> rows = oracle::table(counts);

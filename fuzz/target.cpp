@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::abort();
 }
 
-// The library allocates nothing, so the sanitizer need not record allocations.
+// The library allocates nothing, so the sanitizer does not need to track allocations.
 extern "C" const char* __asan_default_options();
 const char* __asan_default_options()
 {

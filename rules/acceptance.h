@@ -1,5 +1,5 @@
 // The values of one argument, the target, for which a check returns 0, derived from the check's steps without
-// calling it.
+// calling the check.
 //
 // If the exact set of values cannot be expressed, a larger set is used. So a claim may be too weak, but it is
 // never false. Numbers that do not fit in an int are treated as having their exact value.

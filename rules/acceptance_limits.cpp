@@ -5,7 +5,7 @@ namespace ostrel::rules {
 
 using Kind = Condition::Kind;
 
-// is_limit returns true if the target is compared with another argument, which is a number or a set.
+// is_limit returns true if the target is compared with another argument that is a number or a set.
 bool Acceptance::is_limit(const Term& judged, const Term& limit) const
 {
     return judged.variable == target_ && judged.cuts.empty() && judged.number == 0 &&

@@ -16,7 +16,7 @@ constexpr std::string_view kNothing = "nothing";
 
 class Summary {
  public:
-    // phrase describes what these steps accept. It returns an empty string if they accept everything.
+    // phrase describes what the given steps accept. It returns an empty string if they accept everything.
     std::string phrase(std::span<const Step> steps, const Speaker& speaker)
     {
         std::vector<Clause> clauses;
@@ -144,7 +144,7 @@ class Summary {
         return true;
     }
 
-    // is_flat returns whether a check consists only of refusing steps.
+    // is_flat returns whether a check consists only of steps that refuse values or read arguments.
     static bool is_flat(const Check& check)
     {
         return std::ranges::all_of(check.steps, [](const Step& step) {

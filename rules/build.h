@@ -10,7 +10,7 @@
 namespace ostrel::rules {
 
 struct Build {
-    // Atoi is how the C library's atoi reads a number that does not fit in an int.
+    // Atoi states how the C library's atoi reads a number that does not fit in an int.
     enum class Atoi {
         kLong64,    // as the low 32 bits of a 64-bit long, which saturates
         kLong32,    // as the highest or the lowest int

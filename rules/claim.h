@@ -29,7 +29,7 @@ struct Factors {
     Language own = {};  // the factor that depends only on the target
     std::vector<Limit> limits = {};
     bool is_entangled = false;  // a factor depends on the target and other arguments, or is unknown
-    Variables entangled = {};   // the other arguments in limits and in that factor
+    Variables entangled = {};   // the other arguments in limits and in the entangled factor
 
     bool operator==(const Factors&) const = default;
 };
@@ -55,11 +55,11 @@ class Claims {
     Claim always() { return decided(languages_.any()); }
     Claim never() { return decided(languages_.nothing()); }
 
-    // unknown returns a claim that may or may not hold, depending on these variables or, if there are none,
-    // only on the target.
+    // unknown returns a claim that may or may not hold, depending on the given variables or, if there are
+    // none, only on the target.
     Claim unknown(Variables variables, std::size_t target);
 
-    // beyond returns the claim that the limit set by another argument is exceeded.
+    // beyond returns the claim that the limit set by another argument is violated.
     Claim beyond(Limit limit);
 
     Claim negated(Claim claim);

@@ -32,7 +32,7 @@ bool merge(Clause& one, const Clause& other, std::string_view least, std::string
     return true;
 }
 
-// least_bytes returns the minimum number of bytes in a predicate, or 0 if the predicate contains no fixed
+// least_bytes returns the minimum length in bytes that a predicate states, or 0 if it states no fixed
 // minimum.
 int least_bytes(const std::string& predicate)
 {

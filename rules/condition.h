@@ -15,7 +15,7 @@ namespace ostrel::rules {
 
 struct Check;
 
-// Group is one element of a shape. It matches from least to most bytes of one set.
+// Group is one element of a shape. It matches a run of bytes from one set, with a length from least to most.
 struct Group {
     Set set;
     std::size_t least = 1;

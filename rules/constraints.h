@@ -1,4 +1,4 @@
-// The requirements on an argument that the check's description proves, for use in programs and forms.
+// The requirements on an argument that follow from the check's description, for use in programs and forms.
 //
 // They do not cover numbers that do not fit in an int, because builds read such numbers differently.
 #ifndef OSTREL_RULES_CONSTRAINTS_H
@@ -36,7 +36,7 @@ struct Form {
     std::vector<Form> item = {};  // at most one, with the requirements on each item
     // An ECMA-262 regular expression, if bytes, lengths and keywords are not sufficient.
     std::string pattern = {};
-    std::vector<Form> recommended = {};  // at most one, with what users should be offered if more is accepted
+    std::vector<Form> recommended = {};  // at most one: the form to offer users if more is accepted
     bool reads_number = false;  // a number is read, so numbers that do not fit in an int are not covered
 
     bool operator==(const Form&) const = default;

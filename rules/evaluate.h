@@ -36,9 +36,9 @@ struct Answer {
     std::size_t flushed = 0;   // the number of bytes of out that were flushed
     std::vector<Value> after;  // the final contents of each argument that can be written to, in order
     Outside outside = Outside::kNo;
-    bool beyond_int = false;      // a number read does not fit in an int, so other builds may differ
+    bool beyond_int = false;      // a number that was read does not fit in an int, so other builds may differ
     Reason reason;                // the reason for the refusal, or for the value of outside
-    std::vector<Reason> printed;  // the reasons of steps that printed or skipped an item
+    std::vector<Reason> printed;  // the reasons of steps that printed a line or skipped an item
 
     [[nodiscard]] bool is_flushed() const { return flushed == out.size(); }
 };
@@ -58,8 +58,8 @@ struct Counts {
 Answer evaluate(const Check& check, std::span<const Value> values, const Build& build,
                 Counts* counts = nullptr);
 
-// kMostWork limits the number of bytes that are examined to find a reason, which must not take longer than
-// the call.
+// kMostWork limits the number of bytes that are examined to find a reason, because finding the reason must
+// not take longer than the call.
 inline constexpr std::uint64_t kMostWork = std::uint64_t{128} << 20U;
 
 // evaluate_within stops after examining the given number of bytes. A byte that is examined twice is counted

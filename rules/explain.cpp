@@ -13,7 +13,7 @@ namespace {
 
 using Kind = Step::Kind;
 
-// missing describes what a part of a string is if the string has no separator.
+// missing states what an expression for part of a string refers to if the string has no separator.
 std::string missing(const Expression& expression)
 {
     switch (expression.kind) {

@@ -1,4 +1,4 @@
-// Expressions, whose values conditions test, and lines of output.
+// The expressions that conditions test, and lines of output.
 #ifndef OSTREL_RULES_EXPRESSION_H
 #define OSTREL_RULES_EXPRESSION_H
 
@@ -17,7 +17,7 @@ namespace ostrel::rules {
 struct Conversion {
     std::string_view what;  // such as "with character references replaced"
     std::string (*convert)(std::string_view text);
-    std::vector<std::string> changed = {};  // strings that it changes, one for each kind of change
+    std::vector<std::string> changed = {};  // examples of changed strings, one for each kind of change
 };
 
 // Expression is a string, a number or a set. A string that is used as a number is read as atoi reads it.
@@ -46,11 +46,11 @@ struct Expression {
         kJoined,        // (strings): concatenated
         kConverted,     // (string): the result of the conversion
         kLength,        // (string): its length in bytes
-        kCount,         // (string, byte): how often the byte occurs; a number stands for its lowest 8 bits
+        kCount,         // (string, byte or number): how often the byte, or the number's lowest 8 bits, occurs
         kSum,           // (numbers)
         kLarger,        // (numbers): the largest
         kDays,          // (year, month): the number of days in the month; 0 if the month is invalid
-        kCell,          // the string in a column of the row that a condition found last
+        kCell,          // the string in a column of the table row that a condition last found
     };
 
     Expression(const char* name) : text(name) {}
@@ -64,7 +64,7 @@ struct Expression {
     Set set = {};
     const Conversion* conversion = nullptr;
     std::vector<Expression> of = {};
-    std::string_view part = {};  // the name, in sentences, of this part of an argument
+    std::string_view part = {};  // the name that sentences use for this part of an argument
     std::size_t slot = 0;        // the index of the named value; set at registration
 };
 

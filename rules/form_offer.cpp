@@ -82,7 +82,7 @@ std::optional<Offer> list_of(Languages& languages, Language one, const Form& for
     const Language item = item_of(languages, list, form);
     const std::optional<Offer> each = offer_of(languages, item, form.item.front());
     if (!each) return std::nullopt;
-    // The other parts are kept only if such items do not imply them.
+    // Another part is kept only if lists of the offered items can violate it.
     std::vector<Language> parts = {languages.items(list.byte, {}, each->language)};
     for (const Language part : parts_of(languages, one)) {
         if (!includes(languages, part, parts.front())) parts.push_back(part);

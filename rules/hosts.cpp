@@ -27,7 +27,8 @@ Check host()
 }
 
 // The first ":" after the scheme ends the host, even if it is in the path. The set for the whole URL contains
-// the sets for host and port and is tested after them, so that no reason allows a byte that is then refused.
+// the sets for host and port and is tested after them, so that no reason suggests a byte that a later step
+// refuses.
 Check url(std::string_view name, std::string_view what, int code, Words schemes)
 {
     const Condition has_port = contains("rest", literal(":"));
@@ -58,8 +59,8 @@ Check mail_outline()
                   refuse(-1, empty(called("the part after the last \".\"", after_last(after, "."))))});
 }
 
-// The set includes the set for a host. For a byte in neither set, the reason contains the smaller one, so
-// that it does not allow a byte that is then refused.
+// The set includes the set for a host. For a byte in neither set, the reason contains the smaller set, so
+// that it does not suggest a byte that a later step refuses.
 Step refuse_outside(const Set& set) { return refuse(803, all_of({outside(set), outside(kHost)})); }
 
 }  // namespace

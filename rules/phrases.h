@@ -52,7 +52,7 @@ class Speaker {
     void spell_out(const std::vector<Step>& steps);
 
     // of_other returns a speaker for the check that a condition calls. It describes that check's arguments
-    // with the words that this speaker uses for the values passed.
+    // with the words that this speaker uses for the values that are passed.
     [[nodiscard]] Speaker of_other(const Condition& use) const;
 
     // of_items returns a speaker for the steps that are executed for each item of a list.

@@ -5,7 +5,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// For a reserved port, the message from the lookup is printed before the check's own message.
+// For a reserved port, the function that looks up the port prints its message before the check prints its
+// own.
 Step refuse_reserved(Condition condition, std::string_view message)
 {
     return refuse(402, std::move(condition),

@@ -194,7 +194,7 @@ std::vector<Check> make_checks()
 
 const std::vector<Check>& checks()
 {
-    // The links between checks are addresses, so the elements must not be moved.
+    // The links between checks are pointers, so the elements must not be moved.
     static const std::vector<Check> all = make_checks();
     return all;
 }

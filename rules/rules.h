@@ -15,7 +15,7 @@ const std::vector<Check>& checks();
 // make_checks creates all descriptions and resolves their references to other checks.
 std::vector<Check> make_checks();
 
-// find returns the description of the check with that name, or NULL if there is none.
+// find returns the description of the check with the given name, or NULL if there is none.
 const Check* find(std::string_view name);
 
 // registered prepares a description that is not among checks() for evaluation. It throws the same exception

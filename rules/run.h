@@ -80,7 +80,7 @@ struct Ended {
     Place place = {};
 };
 
-// place_piece changes piece, a copy of whole, to the given part of it. The part has a place but no name.
+// place_piece reduces piece, a copy of whole, to the given part, and adjusts its place. The part has no name.
 void place_piece(Operand& piece, const Operand& whole, std::string_view text);
 
 class Run {

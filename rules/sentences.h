@@ -35,7 +35,7 @@ struct Sentence {
 // sentences returns all sentences in the order of their ids.
 std::span<const Sentence> sentences();
 
-// find_sentence returns the sentence with that id, or NULL if there is none.
+// find_sentence returns the sentence with the given id, or NULL if there is none.
 const Sentence* find_sentence(std::string_view id);
 
 // sentence returns the reason without the argument's name: "has 34 bytes; at most 32 are allowed". It returns

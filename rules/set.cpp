@@ -131,7 +131,7 @@ std::size_t Set::find_outside(std::string_view text) const
 
 std::string in_words(const Set& set)
 {
-    // The descriptions have few sets, and a set recurs in many reasons.
+    // Recent results are kept, because the descriptions use few sets, and many reasons use the same one.
     struct Known {
         Set set;
         std::string words = described(Set());

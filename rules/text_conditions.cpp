@@ -12,7 +12,8 @@ using Kind = Condition::Kind;
 
 constexpr auto kMissing = std::string_view::npos;
 
-// A search compares this many bytes at a time. In the worst case, it compares the whole part at every offset.
+// The limit on work assumes that a search compares this many bytes at a time and, in the worst case, the
+// whole part at every offset.
 constexpr std::size_t kQuickBytes = 16;
 
 std::string one_byte(std::string_view text, std::size_t offset)
@@ -20,7 +21,7 @@ std::string one_byte(std::string_view text, std::size_t offset)
     return std::string(text.substr(offset, 1));
 }
 
-// Progress is how far a string matches a shape.
+// Progress records how far a string matches a shape.
 struct Progress {
     bool is_whole = false;
     bool may_end = false;  // the string may end at the offset

@@ -8,7 +8,7 @@ namespace {
 constexpr std::size_t kOffset = 0;
 constexpr std::size_t kName = 1;
 
-// The zero offset has a minus sign. Of several rows with the same offset, the first is found.
+// The zero offset has a minus sign. If several rows have the same offset, the first one is used.
 const Table& zones()
 {
     static const Table kZones = {

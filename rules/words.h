@@ -43,7 +43,7 @@ Expression items(Expression text, std::string_view separator);  // the number of
 Expression sum(std::initializer_list<Expression> numbers);
 Expression larger(std::initializer_list<Expression> numbers);
 Expression days(Expression year, Expression month);  // 0 if the month is invalid
-Expression cell(int column);                         // the cell in the row that was found last
+Expression cell(int column);                         // the cell in the row that a condition last found
 
 // Conditions. If no string or number is given, they test the default subject.
 Condition always();

@@ -31,7 +31,7 @@ std::vector<catalogue::Value> values_of(const std::vector<calling::Written>& wri
 // actual_result makes the loaded call and returns its result.
 CallResult actual_result(calling::Caller& caller, calling::Capture& capture);
 
-// shown returns a string quoted as in JSON. A long string is reduced to its two ends.
+// shown returns a string quoted as in JSON. Only the beginning and the end of a long string are shown.
 std::string shown(const std::string& text);
 
 }  // namespace ostrel::vectors

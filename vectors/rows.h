@@ -35,7 +35,8 @@ struct RowReason {
 
 void PrintTo(const RowReason& reason, std::ostream* stream);
 
-// Row is one line of a file: a call and its promised result. If the row cannot be run, fault describes why.
+// Row is one line of a file: a call and its promised result. If the row cannot be run, fault contains the
+// reason.
 struct Row {
     std::filesystem::path file;
     std::string module;  // the path of the file in vectors/, without the extension

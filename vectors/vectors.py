@@ -14,7 +14,7 @@ def text_of(value):
 
 
 def rows():
-    """rows yields the location of each row, such as hosts:12, and the row."""
+    """rows yields the location of each row, such as hosts:12, and the row itself."""
     for path in sorted(FOLDER.rglob("*.ndjson")):
         for number, line in enumerate(path.read_text(encoding="utf-8").split("\n"), 1):
             if line:

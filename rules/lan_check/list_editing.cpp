@@ -20,7 +20,8 @@ Check add_allowed_address()
         {refuse(-1, null("macAddress")), refuse(-1, null("allowedList")),
          accept(empty("allowedList"), Write{"allowedList", "macAddress", false}),
          refuse(-1, empty("macAddress"), existed), refuse(-1, contains("allowedList", "macAddress"), existed),
-         // The list has at least one byte and so leaves room for at most 158. No other valid length fits.
+         // These are the lengths of one to eight addresses. Nine do not fit, because the list has at least
+         // one byte and so leaves room for at most 158.
          refuse(-1,
                 all_of({not_(multiple(sum({length("macAddress"), 1}), 18)),
                         length_not({17, 35, 53, 71, 89, 107, 125, 143})}),

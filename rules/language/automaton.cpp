@@ -8,8 +8,8 @@ namespace ostrel::rules {
 
 namespace {
 
-// Classes groups the bytes by the sets to which the first byte of a string can belong. All bytes in a class
-// have the same continuations.
+// Classes groups the bytes according to the sets that can contain the first byte of a string. All bytes in a
+// class have the same continuations.
 class Classes {
  public:
     Classes(const Languages& languages, Language one) : languages_(languages) { look_at(one); }

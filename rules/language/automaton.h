@@ -1,4 +1,4 @@
-// Finite automata, with which languages can be measured and compared.
+// Finite automata for measuring and comparing languages.
 #ifndef OSTREL_RULES_LANGUAGE_AUTOMATON_H
 #define OSTREL_RULES_LANGUAGE_AUTOMATON_H
 
@@ -18,7 +18,7 @@ struct Automaton {
     };
     struct State {
         bool accepts = false;
-        std::vector<Arrow> arrows = {};  // each byte is in exactly one arrow
+        std::vector<Arrow> arrows = {};  // each byte belongs to exactly one arrow
     };
 
     std::vector<State> states;  // the first one is the start state

@@ -36,7 +36,7 @@ class Intervals {
     [[nodiscard]] bool contains(long long number) const;
     [[nodiscard]] bool empty() const { return parts_.empty(); }
 
-    // parts are sorted and have a gap between any two.
+    // parts returns the intervals in ascending order, with a gap between any two.
     [[nodiscard]] const std::vector<Interval>& parts() const { return parts_; }
     [[nodiscard]] long long low() const { return parts_.front().low; }
     [[nodiscard]] long long high() const { return parts_.back().high; }

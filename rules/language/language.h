@@ -2,7 +2,7 @@
 // complements.
 //
 // Equal languages are stored once. A language that represents a condition, such as a length, a number or
-// keywords, is kept as a leaf. Numbers are read as atoi reads them, but without limits.
+// keywords, is kept as a leaf. Numbers are read as atoi reads them, except that they may have any size.
 #ifndef OSTREL_RULES_LANGUAGE_LANGUAGE_H
 #define OSTREL_RULES_LANGUAGE_LANGUAGE_H
 
@@ -41,7 +41,7 @@ struct Cut {
     bool operator==(const Cut&) const = default;
 };
 
-// Run matches from least to most bytes of one set, like a group of a shape.
+// Run matches a run of bytes from one set, with a length from least to most, like a group of a shape.
 struct Run {
     Set characters;
     std::size_t least = 1;
@@ -55,7 +55,7 @@ struct Leaf {
     enum class Kind {
         kLength,  // the length in bytes is one of the numbers
         kNumber,  // the value that atoi reads is one of the numbers
-        kCount,   // how often the byte occurs is one of the numbers
+        kCount,   // the number of occurrences of the byte is one of the numbers
         kWords,   // the string is one of the words
         kPrefix,  // the string begins with one of the words
         kShape,   // the string matches one of the shapes
@@ -79,11 +79,11 @@ struct Node {
         kNothing,  // no string
         kNoByte,   // only the empty string
         kByte,     // one byte of the set
-        kJoined,   // a string of the first part followed by a string of the second
+        kJoined,   // a string in the first part followed by a string in the second
         kEither,
         kBoth,
         kNot,
-        kRepeated,  // from least to most strings of the part
+        kRepeated,  // a sequence of least to most strings in the part
         kLeaf,      // the same strings as its only part
     };
 
@@ -135,7 +135,7 @@ class Languages {
     // decimals returns the numbers from low to high without leading zeros. low must not be negative.
     Language decimals(long long low, long long high);
 
-    // after returns the possible continuations of strings that begin with that byte.
+    // after returns the possible continuations of strings that begin with the given byte.
     Language after(Language one, char byte);
     [[nodiscard]] bool contains(Language one, std::string_view text);
 

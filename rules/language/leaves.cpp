@@ -45,8 +45,8 @@ bool is_deterministic(const Runs& shape)
     return true;
 }
 
-// overlaps returns true if some prefix of a string is also a suffix of it, so that two occurrences can share
-// bytes.
+// overlaps returns true if a string begins and ends with the same shorter string, so that two occurrences can
+// share bytes.
 bool overlaps(std::string_view text)
 {
     for (std::size_t size = 1; size < text.size(); ++size) {

@@ -128,9 +128,9 @@ void Languages::merge_sets(Kind kind, std::vector<Language>& parts)
     flatten(kind, parts);
 }
 
-// drop_opposites replaces a list that contains a part and its opposite with all strings or none. It also
-// removes from a nested list the parts that are opposites of other parts. It finds only opposites that have
-// already been created.
+// drop_opposites replaces a choice that contains a part and its opposite with all strings, and such an
+// intersection with none. From an intersection in a choice, or a choice in an intersection, it removes the
+// parts whose opposites are parts of the outer one. It finds only opposites that have already been created.
 void Languages::drop_opposites(Kind kind, std::vector<Language>& parts)
 {
     const Kind inside = kind == Kind::kEither ? Kind::kBoth : Kind::kEither;

@@ -61,7 +61,8 @@ class Writer {
         return leaf.kind == Leaf::Kind::kWithin && (leaf.cut.separator.size() == 1 || is_after);
     }
 
-    // same returns an equal language without the leaf, if the leaf has no special notation.
+    // same replaces a leaf for which patterns have no special notation with the equal language that defines
+    // it.
     Language same(Language one)
     {
         const Leaf* leaf = languages_.leaf(one);

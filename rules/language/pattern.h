@@ -10,7 +10,7 @@
 namespace ostrel::rules {
 
 // pattern_of returns an expression that matches the strings in a language, in which each byte is the
-// character with the same number. The expression is valid with and without the flag u. Some languages have no
+// character with the same number. The expression is valid with and without the u flag. Some languages have no
 // such expression.
 std::optional<std::string> pattern_of(Languages& languages, Language one);
 

@@ -13,7 +13,7 @@ std::string escaped(char byte)
     const auto code = static_cast<unsigned char>(byte);
     if (byte < ' ' || byte > '~') return {'\\', 'x', kHexDigits[code / 16], kHexDigits[code % 16]};
     if (byte == '-')
-        return "\\x2D";  // with the flag u, "-" must not be escaped with a backslash outside a class
+        return "\\x2D";  // with the u flag, "-" must not be escaped with a backslash outside a class
     const bool has_meaning = kMeaning.find(byte) != std::string_view::npos;
     return has_meaning ? std::string("\\") + byte : std::string(1, byte);
 }

@@ -112,7 +112,7 @@ class Measure {
         }
     }
 
-    // count_texts uses the order that has_circle found.
+    // count_texts processes the states in the order that has_circle found.
     std::size_t count_texts()
     {
         std::vector<std::size_t> counts(lives_.size());

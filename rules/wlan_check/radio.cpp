@@ -25,7 +25,8 @@ Check radio_id()
                        {refuse(-1, ignoring_case(none_of({"RADIO_2.4GHz"})))})});
 }
 
-// On 2.4 GHz, only "0" itself selects the channel automatically, not other values that are read as 0.
+// On 2.4 GHz, only the string "0" selects the channel automatically; other strings that atoi reads as 0 do
+// not.
 Check channel()
 {
     return check("WLAN_check_channel",

@@ -54,7 +54,7 @@ std::vector<Check> lists_by_mode()
                                    "modes:readwrite mode <readwrite_mode> invalid \n\n"),
                               line("Error in WLAN_check_IEEE11i_encryption_modes: Error IEEE11i encryption "
                                    "modes:<value>\n\n")})),
-        // The lines of this check also contain the word "encryption".
+        // This check is about authentication, but the lines that it prints say "encryption".
         check(
             "WLAN_check_IEEE11i_authentication_modes",
             {text("value", "an IEEE 802.11i authentication mode"), mode},
@@ -68,7 +68,7 @@ std::vector<Check> lists_by_mode()
     };
 }
 
-// WEP with RADIUS is not allowed on the model M2840.
+// WEP with RADIUS is not allowed on model M2840.
 Check security_type()
 {
     const Words without_wep_radius = {"WEP-OPEN", "WEP-SHARED",  "WPA-PSK",      "WPA-RADIUS",

@@ -6,7 +6,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// Character references are replaced in the same way as by the library's own converter, because the host's
+// Character references are replaced as the library's own converter replaces them, because the host's
 // converter is unknown.
 Check ssid()
 {
