@@ -33,7 +33,7 @@ class Acceptance {
     Claim claim();
 
  private:
-    // Scope is the state of one check while its steps are followed: the called check, or one that it calls.
+    // Scope is the state of one check while its steps are followed: the check itself, or one that it calls.
     struct Scope {
         std::vector<Term> slots;
         Term item = {};

@@ -201,8 +201,8 @@ class Explainer {
         }
     }
 
-    // uses describes the other checks that a condition calls, each of them once, and stores the codes that
-    // they return in its_codes.
+    // uses describes the other checks that a condition calls, and stores the codes that they return in
+    // its_codes. A call that prints nothing is described only if always is true, and only the first time.
     std::vector<Said> uses(const Condition& condition, const Speaker& speaker, bool always,
                            std::vector<int>& its_codes)
     {

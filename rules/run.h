@@ -59,7 +59,7 @@ struct Integer {
     }
 };
 
-// Frame is the state of one check during an evaluation: the called check, or one that another check calls.
+// Frame is the state of one check during an evaluation: the evaluated check, or one that it calls.
 struct Frame {
     const Check& check;
     std::vector<Operand> slots;
@@ -69,7 +69,7 @@ struct Frame {
     long long index = 0;
     bool is_last_item = false;
     const std::vector<std::string_view>* row = nullptr;  // the table row that was found last
-    bool is_called = false;                              // true for the called check, whose writes are kept
+    bool is_called = false;  // true for the evaluated check, whose writes are kept
     int code = 0;
     bool is_refusal = false;
 };

@@ -65,8 +65,8 @@ class Measure {
         return result;
     }
 
-    // has_circle sorts the states so that every transition leads to a later state. If that is impossible, the
-    // automaton has a cycle.
+    // has_circle sorts the states so that every transition leads to a later state. It returns true if that is
+    // impossible, because the automaton has a cycle.
     bool has_circle()
     {
         std::vector<std::size_t> arrows(lives_.size());
@@ -85,7 +85,8 @@ class Measure {
         return order_.size() != left;
     }
 
-    // walk_lengths advances all states by one byte at a time.
+    // walk_lengths finds the shortest length and, if the language is finite, all other lengths. Each pass
+    // advances one byte from the states that the previous pass reached.
     void walk_lengths(Summary& result, bool is_finite)
     {
         std::vector<std::size_t> here = {0};
@@ -112,7 +113,7 @@ class Measure {
         }
     }
 
-    // count_texts processes the states in the order that has_circle found.
+    // count_texts processes the states in the reverse of the order that has_circle found.
     std::size_t count_texts()
     {
         std::vector<std::size_t> counts(lives_.size());
