@@ -1,4 +1,4 @@
-// Files of the source tree that are embedded in the program.
+// Files from the source tree that are embedded in the program.
 #ifndef OSTREL_CATALOGUE_TEXTS_H
 #define OSTREL_CATALOGUE_TEXTS_H
 

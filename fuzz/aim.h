@@ -35,7 +35,7 @@ class Aim {
     std::vector<std::string> seeds_;
     std::size_t next_seed_ = 0;
     oracle::Mutator mutator_;
-    std::vector<Met> mets_;  // for the steps, followed by those for the conditions
+    std::vector<Met> mets_;  // one for each step, followed by one for each condition
     std::uint64_t turn_ = 0;
 };
 

@@ -31,7 +31,7 @@ std::string missing(const Expression& expression)
 
 class Explainer {
  public:
-    std::vector<int> codes;  // other than 0, in the order of the steps
+    std::vector<int> codes;  // the codes other than 0, in the order of the steps
     bool reads_numbers = false;
 
     // steps describes the steps that can act. It returns true if every call ends in one of them.

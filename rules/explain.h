@@ -42,7 +42,7 @@ struct Explanation {
     std::string accepted;  // what is accepted or returned, in one line
     std::vector<SaidArgument> arguments;
     std::vector<Said> steps;  // the steps that can act; after the last one, the result is 0
-    std::vector<int> codes;   // other than 0, in the order of the steps; empty if the result is a number
+    std::vector<int> codes;   // all except 0, in the order of the steps; empty if the result is a number
     std::string numbers;      // how numbers are read from strings; empty if none are read
 };
 

@@ -21,7 +21,7 @@ namespace ostrel::rules {
 //   {range}              the two limits of the allowed range
 //   {read}               "read as ", unless the value is exactly the number that was found
 //   {read_as}            the value that atoi reads for a number that does not fit in an int
-//   {limit}              the end, from the ";" on, of the sentence for the limit that this value violates
+//   {limit}              the sentence for the limit that this value violates, from its ";" to its end
 //   {found:one|many} {allowed:one|many}
 //                        the first form if the number or the count is 1, otherwise the second
 // The subject is the part that the reason names, or else the argument. If the sentence contains its own

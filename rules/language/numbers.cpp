@@ -58,7 +58,7 @@ Language Languages::leap_years()
     return either({of_number({0, 0}), joined({repeated(kWhite), sign, either({divisible, century}), rest})});
 }
 
-// decimals_of_length returns the numbers from low to high, which must have the same number of digits.
+// decimals_of_length returns the numbers from low to high. low and high must have the same number of digits.
 Language Languages::decimals_of_length(std::string low, const std::string& high)
 {
     if (low.empty()) return no_byte_;
