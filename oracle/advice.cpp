@@ -14,11 +14,11 @@ using rules::Reason;
 
 namespace {
 
-// kEnough is the number of calls one step short of which at least one must be refused for the same reason.
+// If kEnough calls were one step short, at least one of them must have been refused for the same reason.
 constexpr std::size_t kEnough = 1000;
-constexpr std::string_view kNobody = "no check has it: that none is met";
-constexpr std::string_view kPutBack = "what was refused, put back, is one step less";
-constexpr std::string_view kOutside = "the contract does not cover such a call, and it is not made";
+constexpr std::string_view kNobody = "no check has this reason, so any occurrence is a fault";
+constexpr std::string_view kPutBack = "the refused call itself is the one that is one step short";
+constexpr std::string_view kOutside = "the contract does not cover such calls, so none is made";
 
 // kWays is sorted by id.
 constexpr Way kWays[] = {
@@ -50,7 +50,7 @@ constexpr Way kWays[] = {
     {"listed_by_driver", nullptr, kNobody},
     {"neither_server", take_second_server},
     {"never_returns", nullptr, kOutside},
-    {"no_channel_listed", any_number, "no number is allowed: that each comes back"},
+    {"no_channel_listed", any_number, "no number is allowed, so each is refused again"},
     {"no_key_left", give_key, kPutBack},
     {"not_a_keyword", take_word},
     {"not_a_multiple", nullptr, kNobody},
@@ -66,7 +66,7 @@ constexpr Way kWays[] = {
     {"null", give_what_is_null, kPutBack},
     {"null_asserted", nullptr, kOutside},
     {"null_read", nullptr, kOutside},
-    {"number_beyond_int", fit_int, "that what it is read as is refused too"},
+    {"number_beyond_int", fit_int, "the number that it is read as is refused too"},
     {"number_forbidden", leave_number},
     {"number_in_range", leave_range},
     {"number_not_allowed", take_number},
@@ -119,17 +119,17 @@ std::string data_fault(const Refusal& refusal)
         const auto* number = std::get_if<long long>(datum);
         const bool is_said = number != nullptr && known->text.find(place) != std::string_view::npos;
         if (is_said && sentence.find(std::to_string(*number)) == std::string::npos)
-            return "has no " + std::to_string(*number) + " in its sentence";
+            return "has a sentence that does not contain " + std::to_string(*number);
     }
     const auto* found = std::get_if<std::string>(&reason.found);
     const bool is_of_byte = known->text.find("{byte}") != std::string_view::npos;
     if (is_of_byte && found != nullptr && refusal.byte() && *found != std::string(1, *refusal.byte()))
-        return "has found another byte";
+        return "reports a byte other than the one at its offset";
     if (std::string_view(reason.id).ends_with("_length") || reason.id == "too_long" ||
         reason.id == "too_short") {
         const auto* bytes = std::get_if<long long>(&reason.found);
         if (bytes != nullptr && static_cast<std::size_t>(*bytes) != refusal.judged().size())
-            return "has found another length";
+            return "reports a length other than that of the judged part";
     }
     return "";
 }

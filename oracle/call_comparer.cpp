@@ -43,8 +43,8 @@ std::string row(const Function& function, const std::vector<Value>& values, cons
     return result.dump();
 }
 
-// is_left returns whether a number that a function only writes was left unwritten. Caller returns NULL for
-// such a number.
+// is_left returns whether a number that is only an output of the function was left unwritten. Caller returns
+// NULL for such a number.
 bool is_left(const Value& expected, const Value& actual)
 {
     const auto* number = std::get_if<long long>(&expected);

@@ -1,4 +1,4 @@
-// Compares calls of the library's functions with their descriptions.
+// Compares calls to the library's functions with the descriptions of these functions.
 #ifndef OSTREL_ORACLE_CALL_COMPARER_H
 #define OSTREL_ORACLE_CALL_COMPARER_H
 
@@ -14,9 +14,9 @@ namespace ostrel::oracle {
 
 class CallComparer {
  public:
-    // agrees makes the call twice: once with every argument ending at an unreadable page, and once with every
-    // argument beginning at one. It compares the code, the output, how much was flushed, and the written
-    // arguments. The contract must cover the call.
+    // agrees makes the call twice: once with every argument ending next to an unreadable page, and once with
+    // every argument beginning next to one. It compares the code, the output, how much was flushed, and the
+    // written arguments. The contract must cover the call.
     bool agrees(const catalogue::Function& function, const std::vector<rules::Value>& values,
                 const rules::Answer& expected);
 

@@ -19,9 +19,9 @@ class Contents {
  public:
     explicit Contents(const catalogue::Function& function);
 
-    // fault describes a byte of an accepted call that is in a place for which docs/hazards.md does not list
-    // it. If there is no such byte, fault returns an empty string. after contains the final value of each
-    // argument that the function may write to, in order.
+    // fault describes a byte of an accepted call that occurs in a place for which docs/hazards.md does not
+    // list it. If there is no such byte, fault returns an empty string. after contains the final value of
+    // each argument that the function may write to, in order.
     [[nodiscard]] std::string fault(std::span<const catalogue::Value> values,
                                     std::span<const catalogue::Value> after) const;
 

@@ -17,7 +17,7 @@ struct StepCount {
     std::uint64_t times = 0;
 };
 
-// table lists the steps and conditions of all checks, except the condition "always".
+// table lists the steps and conditions of all checks, except "always" conditions.
 std::vector<StepCount> table(const rules::Counts& counts);
 
 // add_table adds the counts of an earlier run from a file, so that runs with several libraries result in one

@@ -25,7 +25,7 @@ class Harvest {
     }
 
  private:
-    // A number in a description may be the limit of a number or of a length.
+    // A number in a description may limit either a number or a length.
     void number(long long limit)
     {
         constexpr long long kLongest = 8000;

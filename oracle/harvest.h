@@ -1,4 +1,4 @@
-// Collects strings to try from a description, such as its keywords and the numbers at or next to its limits.
+// Derives test strings from a description, such as its keywords and the numbers at or next to its limits.
 #ifndef OSTREL_ORACLE_HARVEST_H
 #define OSTREL_ORACLE_HARVEST_H
 
@@ -9,7 +9,7 @@
 
 namespace ostrel::oracle {
 
-// harvest returns strings to try with a check, from its description and those of the checks that it uses.
+// harvest derives test strings for a check from its description and those of the checks that it uses.
 std::set<std::string> harvest(const rules::Check& check, const rules::Build& build);
 
 }  // namespace ostrel::oracle

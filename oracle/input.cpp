@@ -15,7 +15,7 @@ namespace {
 constexpr char kNull = 1;
 constexpr char kRepeat = 2;
 constexpr char kLiteral = 3;
-constexpr std::size_t kShortRun = 128;  // shorter runs are encoded by length, longer ones in steps
+constexpr std::size_t kShortRun = 128;  // shorter runs are counted in bytes, longer ones in units of kStep
 constexpr std::size_t kStep = 64;
 constexpr std::size_t kMostSteps = 128;  // 8192 bytes
 

@@ -25,7 +25,7 @@ constexpr std::size_t kLongestText = 8192;
 void decode_arguments(const catalogue::Function& function, std::string_view fields,
                       std::vector<catalogue::Value>& values);
 
-// encode_arguments does the reverse. It returns no value if a string is too long.
+// encode_arguments does the reverse. It returns std::nullopt if a string is too long.
 std::optional<std::string> encode_arguments(const catalogue::Function& function,
                                             const std::vector<catalogue::Value>& values);
 

@@ -59,7 +59,7 @@ void make_different(const Refusal& refusal, Advice& advice)
     advice.followed.push_back(refusal.with(different(refusal)));
 }
 
-// An item of a list cannot begin with a subnet that contains a separator or begins with a blank.
+// A list item cannot begin with a subnet that contains a separator or begins with a blank.
 void begin_like_subnet(const Refusal& refusal, Advice& advice)
 {
     const std::string subnet = refusal.allowed_texts().at(0);

@@ -1,4 +1,4 @@
-// Mutator derives random inputs from seeds. With the same seeds, the inputs are the same in every run.
+// Derives random inputs from seeds. Two Mutators with the same constructor arguments return the same inputs.
 #ifndef OSTREL_ORACLE_MUTATOR_H
 #define OSTREL_ORACLE_MUTATOR_H
 
@@ -13,10 +13,10 @@ class Mutator {
     // seeds must not be empty.
     Mutator(std::vector<std::string> seeds, std::uint64_t seed);
 
-    // next returns a seed with some changes. The reference is valid until the next call.
+    // next returns a seed with one to four changes. The reference is valid until the next call.
     const std::string& next();
 
-    // This overload returns a copy of from with few changes or none.
+    // This overload returns a copy of from with at most two changes.
     const std::string& next(const std::string& from);
 
  private:

@@ -74,7 +74,7 @@ void leave_range(const Refusal& refusal, Advice& advice)
     add(refusal, advice.followed, limits.at(1) + 1);
 }
 
-// The number is read as a different int, which is refused too.
+// A number that does not fit in an int is read as a different number, which is refused too.
 void fit_int(const Refusal& refusal, Advice& advice)
 {
     for (const long long number : refusal.some(refusal.allowed_numbers()))

@@ -21,7 +21,7 @@ const std::string* written_text(const rules::Check& check, const rules::Answer& 
     return written < answer.after.size() ? std::get_if<std::string>(&answer.after[written]) : nullptr;
 }
 
-// converts returns whether a check writes the result of a conversion to an argument, and judges that result.
+// converts returns whether a check judges the result of a conversion, which it also writes to an argument.
 bool converts(const rules::Check& check)
 {
     return std::ranges::any_of(check.steps, [](const rules::Step& step) {
@@ -29,8 +29,7 @@ bool converts(const rules::Check& check)
     });
 }
 
-// referred returns a string that the conversion turns into the given one, by writing each "&" as a character
-// reference.
+// referred replaces each "&" with its character reference, so that the conversion restores the given string.
 std::string referred(std::string_view text)
 {
     std::string result;

@@ -16,7 +16,7 @@ using Values = std::vector<rules::Value>;
 class Refusal {
  public:
     // turn selects some of the alternatives if there are too many to try all of them. Pass a different number
-    // each time.
+    // for each refusal.
     Refusal(const rules::Check& check, const Values& values, const rules::Answer& answer, std::size_t turn);
 
     [[nodiscard]] const rules::Reason& reason() const { return answer_.reason; }

@@ -95,7 +95,7 @@ void take_length(const Refusal& refusal, Advice& advice)
     }
 }
 
-// A key has 10 or 26 digits, so a key with the wrong one of these lengths is one step short.
+// A WEP key has 10 or 26 digits, so a key of the other length is one step short.
 void take_other_length(const Refusal& refusal, Advice& advice)
 {
     const long long length = refusal.allowed_numbers().at(0);

@@ -15,8 +15,8 @@ using namespace ostrel;
 
 namespace {
 
-// The realms of the ISP that the gateway serves, including the "@". They are arrays because a constant view
-// would contain a pointer, which needs a relocation.
+// The realms of the gateway's ISP, including the "@". They are arrays because a constant std::string_view
+// would contain a pointer, which would need a relocation.
 constexpr char kAccountRealm[] = OSTREL_ACCOUNT_REALM;
 constexpr char kSetupRealm[] = OSTREL_SETUP_REALM;
 

@@ -1,4 +1,4 @@
-// The lengths and characters that several checks require of a password.
+// Password rules (allowed lengths and characters) that several checks share.
 #ifndef OSTREL_SRC_ACCOUNTS_H
 #define OSTREL_SRC_ACCOUNTS_H
 

@@ -2,7 +2,7 @@
 
 namespace {
 
-// Short names keep a table row of sixteen bytes on one line.
+// Short names keep each sixteen-byte row of the table on one line.
 constexpr unsigned char N = 0;
 constexpr unsigned char U = CT_UPPER;
 constexpr unsigned char L = CT_LOWER;

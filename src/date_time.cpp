@@ -60,8 +60,8 @@ struct Date {
     unsigned day = 0;
 };
 
-// read_day_and_time reads "DDThh:mm:ss", which all forms share. Inlining this function and read_offset saves
-// a fifth of the time for a date-time.
+// read_day_and_time reads "DDThh:mm:ss", which all forms share. Inlining this function and read_offset cuts
+// the time to check a date-time by a fifth.
 inline bool read_day_and_time(Reader& reader, Date& date)
 {
     date.day = reader.two_digits();

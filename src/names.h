@@ -1,4 +1,4 @@
-// The lengths and characters that several checks require of a name.
+// Name rules (allowed lengths and characters) that several checks share.
 #ifndef OSTREL_SRC_NAMES_H
 #define OSTREL_SRC_NAMES_H
 

@@ -56,7 +56,7 @@ std::string_view trim(std::string_view text)
 // the item's length or has a "," at that offset.
 //
 // The search compares the last byte of a possible match first, because the items of most lists differ there.
-// At a ",", it skips the length of an item, because no match contains a ",".
+// At a ",", it advances by the item's length, because no match contains a ",".
 bool is_repeated(std::string_view item, std::string_view rest)
 {
     const std::size_t length = item.size();

@@ -1,4 +1,4 @@
-// Functions that apply a rule and print its refusal in one call, for rules that many checks share.
+// Functions that apply a rule and print the line for a refusal in one call, for rules that many checks share.
 //
 // Each function returns OSTREL_VALID if the rule accepts the value. Otherwise it prints the line with the
 // name of the check and the value, flushes every output stream and returns the result code.
@@ -35,11 +35,11 @@ int number_or_refuse(const char* value, const Limits& limits, const char* line,
 int length_or_refuse(const char* value, const Limits& limits, const char* line,
                      const char* check = __builtin_FUNCTION());
 
-// keyword_or_refuse refuses with OSTREL_INVALID_VALUE.
+// keyword_or_refuse returns OSTREL_INVALID_VALUE for a value that is not one of the keywords.
 int keyword_or_refuse(const char* value, const char* keywords, const char* line,
                       const char* check = __builtin_FUNCTION());
 
-// text_or_refuse refuses with the code that validate_string returns.
+// text_or_refuse returns the code that validate_string returns.
 int text_or_refuse(const char* value, Text rule, const char* line, const char* check = __builtin_FUNCTION());
 
 // rule_or_refuse does the same as code_or_refuse, but returns OSTREL_INVALID_VALUE instead of OSTREL_INVALID.

@@ -19,8 +19,8 @@ constexpr auto kNamedRateSets = keywords("all|default");
 constexpr Text kPreSharedKey = text(64, 64, kHexDigits);
 constexpr Text kSsid = text(1, 32, kAsciiPrintable);
 
-// Packed is a string of up to three bytes, packed into one number. A longer string never equals a shorter
-// one, because its last four bytes are kept.
+// Packed is a string of up to three bytes, packed into one number. A longer string is reduced to its last
+// four bytes, so it never equals a shorter one.
 using Packed = std::uint32_t;
 
 constexpr Packed append(Packed packed, char c) { return packed << 8 | static_cast<unsigned char>(c); }

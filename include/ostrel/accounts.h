@@ -36,10 +36,10 @@ OSTREL_API int TcmValidateProvisioningCode(const char* value);
  *   5     set-up   16, no "#"
  *   6     set-up   17, one "#", at index 12
  *
- * The part must have 18 to 30 characters before the account realm, or 16 or 17 before the set-up realm. A
- * part with three or more "#" is accepted regardless of their positions, and the type is not written. A name
- * without a realm, or with nothing before the realm, is of type 0 and must consist of 1 to 131 characters
- * from CHARSET_LATIN1_PRINTABLE.
+ * The part must have 18 to 30 characters if the account realm follows, or 16 or 17 if the set-up realm
+ * follows. If it contains three or more "#", it is accepted regardless of their positions, but no type is
+ * written. A name without a realm, or with nothing before the realm, is of type 0 and must consist of 1 to
+ * 131 characters from CHARSET_LATIN1_PRINTABLE.
  *
  * account_type: receives the type if the name is accepted. It is unchanged if the name is refused, or if the
  *               part before the realm has three or more "#".

@@ -14,7 +14,7 @@
  * The first eight checks limit only the length. They accept any bytes and the empty value.
  *
  * Each returns 0, or prints "Error in %s: The length of string :%s shoud not be less than %d\n" with the
- * value and the limit, and returns OSTREL_TOO_LONG. The printed limit is one more than the greatest accepted
+ * value and the limit, and returns OSTREL_TOO_LONG. The printed limit is one more than the maximum accepted
  * length, so the message means "must be less than".
  */
 
@@ -27,7 +27,7 @@ OSTREL_API int Param_check_helpdesk_value(const char* value);
 /* Param_check_page_value: at most 255 bytes; the limit printed is 256. */
 OSTREL_API int Param_check_page_value(const char* value);
 
-/* Param_check_logo_value: at most 5459 bytes as encoded by the host; the limit printed is 5460. */
+/* Param_check_logo_value: at most 5459 bytes in the host's encoding; the limit printed is 5460. */
 OSTREL_API int Param_check_logo_value(const char* value);
 
 /* Param_check_logo_size_value: at most 4095 bytes; the limit printed is 4096. */

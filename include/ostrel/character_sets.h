@@ -59,7 +59,7 @@
     " \"|/\\+'@!%#$&()*,.:;<=>?[]^_`" \
     "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz{}~-"
 
-/* CHARSET_DEVICE_NAME: every printable ASCII character; "@", "!" and "%" occur twice, 98 bytes. */
+/* CHARSET_DEVICE_NAME: every printable ASCII character, with "@", "!" and "%" repeated; 98 bytes. */
 #define CHARSET_DEVICE_NAME           \
     " \"|/\\+'@!%#$&()*,.:;<=>?[]^_`" \
     "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz@!%{}~-"

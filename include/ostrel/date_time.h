@@ -35,7 +35,7 @@
  */
 OSTREL_API int ValidateDay(int year, unsigned month, int day);
 
-/* TcmValidateTime: a date-time, with or without offset. */
+/* TcmValidateTime: a date-time, with or without an offset. */
 OSTREL_API int TcmValidateTime(const char* value);
 
 /*

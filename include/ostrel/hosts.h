@@ -14,10 +14,10 @@
  * TcmValidateDomainName: a host name in the style of RFC 952 and RFC 1123, with 1 to 6 labels separated by
  * dots, each of 1 to 20 characters from CHARSET_HOST (letters, digits, "-").
  *
- * This is narrower than RFC 1123, which allows labels of up to 63 characters and any number of labels, but
- * wider in that a label may begin or end with "-". A single label such as "localhost" is valid; a final dot
- * is not. A value that consists only of digits and dots is not a name; it is refused, and so is the empty
- * value.
+ * This is stricter than RFC 1123, which allows labels of up to 63 characters and any number of labels, but
+ * more lenient in that a label may begin or end with "-". A single label such as "localhost" is valid; a
+ * final dot is not. A value that consists only of digits and dots is not a name; it is refused, and so is the
+ * empty value.
  *
  * Returns 0 or OSTREL_INVALID.
  */
@@ -42,7 +42,7 @@ OSTREL_API int ValidateURL(const char* value);
  *       does not fit in an int depends on the C library.
  * path: not examined further.
  *
- * This is narrower than RFC 3986: none of "@", "%", "=", "&", "#" and "~" is allowed anywhere, and user
+ * This is stricter than RFC 3986: none of "@", "%", "=", "&", "#" and "~" is allowed anywhere, and user
  * information and IPv6 addresses are not supported. The first ":" after the scheme separates the host from
  * the port, wherever it is, so a URL without a port is refused if its path contains a ":". A "?" directly
  * after the host is treated as part of the host, which makes it invalid.
@@ -66,7 +66,7 @@ OSTREL_API int TcmValidatefirmwareURL(const char* value);
  * This tests only the general shape of an RFC 5321 or RFC 5322 address. No character is refused, not even a
  * second "@".
  *
- * Returns 0 or OSTREL_INVALID. Note that the result for an address is 0, which is false in C.
+ * Returns 0 or OSTREL_INVALID. Note that the result for a valid address is 0, which is false in C.
  */
 OSTREL_API int isEmail(const char* value);
 

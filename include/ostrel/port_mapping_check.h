@@ -44,11 +44,11 @@ OSTREL_API int PORTMAPPING_check_external_port(const char* value_p);
  * The reserved ports are the TCP ports 80, 161, 443, 1723, 1728, 6667 and 7547, and the UDP ports 161, 5060,
  * and 54000 to 54999 (used for voice media).
  *
- * Returns 0, or prints two lines with the port and returns OSTREL_INVALID_VALUE. The first line has the name
- * of the function that found the port to be reserved:
+ * Returns 0, or prints two lines with the port and returns OSTREL_INVALID_VALUE. The first line contains the
+ * name of the function that found the port to be reserved:
  *   "Error in is_port_reserved: The port:%s is reserved\n" or
  *   "Error in is_wan_udp_port_available: The udp port:%s is reserved sip rtp ports\n".
- * The second line has the name of the check:
+ * The second line contains the name of the check:
  *   "Error in %s: Error port mapping external port:%s\n\n".
  */
 OSTREL_API int PORTMAPPING_check_port_available(const char* port, int protocol);

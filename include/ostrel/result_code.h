@@ -12,7 +12,7 @@ enum ostrel_result_code {
     OSTREL_INVALID = -1,
     OSTREL_VALID = 0,
 
-    /* OSTREL_INVALID_VALUE: the general refusal of the service checks. */
+    /* OSTREL_INVALID_VALUE: the general refusal code of the service checks. */
     OSTREL_INVALID_VALUE = 402,
     /* OSTREL_EMPTY: a required value is empty (PPP checks). */
     OSTREL_EMPTY = 501,

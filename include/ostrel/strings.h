@@ -1,6 +1,6 @@
 /*
- * Primitives that check the length and the characters of a string, check the range of a number, or count a
- * character.
+ * Primitives that check the length and the characters of a string, check the range of a number, or count the
+ * occurrences of a character.
  *
  * The functions print nothing, keep no state and do not change their arguments. No pointer may be NULL.
  * Values are NUL-terminated byte strings of any length.

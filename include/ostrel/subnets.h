@@ -46,12 +46,12 @@ OSTREL_API int TcmValidateAddressRange(const char* startAddress, const char* end
  * ".".
  *
  * An item counts as repeated if it occurs anywhere in the rest of the list, even inside a longer item, but
- * only if the rest, without its leading spaces, is exactly as long as the item or has a "," at the offset
- * that equals the length of the item. An immediate repetition is therefore found, except in "X,X " (with a
- * space after the second item). A later repetition is found only if a "," happens to be at that offset.
+ * only if the rest, without its leading spaces, is exactly as long as the item or has a "," at an offset
+ * equal to the item's length. An immediate repetition is therefore found, except in "X,X " (with a space
+ * after the second item). A later repetition is found only if a "," happens to be at that offset.
  *
  * Returns 0, OSTREL_INVALID if an item is in another subnet, or OSTREL_REPEATED. The first fault from the
- * left determines the result; the subnet of an item is tested before its repetition.
+ * left determines the result; each item is tested for its subnet first, then for repetition.
  *
  * The run time is proportional to the length of the list, except that the rest of the list is searched for
  * each item for which there is a "," at that offset. With many such items, the run time is proportional to

@@ -28,8 +28,8 @@
  * If neither is empty, a row must have exactly that offset and a name that contains tzone_name.
  * A buffer is written only on success, and no byte after the terminator is changed.
  *
- * Returns 0, or prints two lines and returns OSTREL_INVALID_VALUE. The first line has the name of the lookup
- * that failed, the second the name of the check:
+ * Returns 0, or prints two lines and returns OSTREL_INVALID_VALUE. The first line contains the name of the
+ * lookup that failed, and the second that of the check:
  *   "Error in get_tzone_name_by_tzone: Error Time Zone:%s\n\n" and
  *   "Error in %s: NOT get timezone name from timezone:%s\n\n", each with tzone;
  * or

@@ -72,7 +72,7 @@ int LAN_check_add_dns_servers(const char* newServers, const char* existingServer
                static_cast<int>(existing.first.size()), existing.first.data());
     }
     const ServerList added = split(newServers);
-    // A single new server is compared with the whole existing list, even if that contains two servers.
+    // A single new server is compared with the whole existing list, even if that list contains two.
     if (added.second == nullptr) {
         return equals(existingServers, newServers) ? OSTREL_REPEATED : OSTREL_VALID;
     }

@@ -13,7 +13,7 @@
 
 namespace ostrel {
 
-// Memberships has a word for each byte value, with one bit for each of the sets below.
+// Memberships contains a word for each byte value, with one bit for each of the sets below.
 struct Memberships {
     std::uint16_t words[256] = {};
 };
@@ -80,8 +80,8 @@ inline bool contains(CharSet set, char c)
     return (kMemberships.words[static_cast<unsigned char>(c)] & static_cast<unsigned>(set)) != 0;
 }
 
-// OwnSet is a set that a caller supplies. It is cleared in quarters, which compilers do with plain stores. To
-// clear all of it at once, they would use an instruction whose start-up takes longer than judging a short
+// OwnSet is a set that a caller supplies. It is cleared in quarters, which compilers turn into plain stores.
+// To clear it all at once, they would use an instruction whose start-up takes longer than checking a short
 // value. Members are added four at a time, because the overhead of one loop iteration per member would exceed
 // the cost of adding it.
 class OwnSet {

@@ -1,5 +1,5 @@
 // The library never divides by zero, but without these definitions the run-time support of ARM compilers
-// would import raise for that case.
+// would import the function raise for that case.
 #if defined(__ARM_EABI__)
 extern "C" {
 int __aeabi_idiv0(int quotient);

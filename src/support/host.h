@@ -1,4 +1,4 @@
-// The host process's two utilities, to which only this module refers.
+// The two functions that the host process may supply. Only this module refers to them.
 //
 // They are weak imports. If the host process supplies one, it is called; otherwise, the library uses its own
 // equivalent.

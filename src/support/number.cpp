@@ -7,7 +7,7 @@ namespace ostrel {
 
 namespace {
 
-constexpr std::ptrdiff_t kMostDigits = 9;  // any number of nine digits fits in an int
+constexpr std::ptrdiff_t kMostDigits = 9;  // any nine-digit number fits in an int
 
 }  // namespace
 

@@ -53,7 +53,7 @@ OSTREL_API int LAN_check_add_dns_servers(const char* newServers, const char* exi
 /*
  * LAN_check_delete_dns_server: checks whether a DNS server may be deleted from a list of one or two.
  *
- * The server may be deleted if it equals the text after the first "," of the list, or if it is as long as the
+ * The server may be deleted if it equals the text after the first "," in the list, or if it is as long as the
  * first (or only) server AND DIFFERS from it. Consequently, the first server itself is found only if it is
  * also the second, and an address of a different length only if it is the second. In an empty list, no server
  * is found.

@@ -9,8 +9,8 @@
 #include <ostrel/api.h>
 
 /*
- * GUESTACCESS_check_max_allowed_number: the number of guests that are allowed, which must have 1 or 2 digits
- * and be greater than 0.
+ * GUESTACCESS_check_max_allowed_number: the maximum number of guests, which must have 1 or 2 digits and be
+ * greater than 0.
  *
  * Returns 0, or prints one or both of these lines and returns the code for the last one printed:
  * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER, as ValidateString returns them:

@@ -34,11 +34,11 @@ OSTREL_API int WLAN_check_preshared_key2(const char* psk, const char* passphrase
  * WLAN_check_wepkeys: the four WEP keys (IEEE 802.11), each of 10 or 26 hexadecimal digits and all of the
  * same length.
  *
- * keys: a caller-owned block of 1028 bytes that contains four NUL-terminated keys, each in a buffer of 257
- *       bytes, one directly after the other. A key that is empty or contains a byte outside 0x20 to 0x7E is
- *       skipped, and its first byte is set to NUL, even if a later key is refused. Nothing else is changed. A
- *       NULL pointer fails an assertion whose message gives the condition "value != ((void *)0)", the module
- *       "wlan_check" and line 500.
+ * keys: a caller-owned block of 1028 bytes, which consists of four 257-byte buffers, each with one
+ *       NUL-terminated key. A key that is empty or contains a byte outside 0x20 to 0x7E is skipped, and its
+ *       first byte is set to NUL, even if a later key is refused. Nothing else is changed. A NULL pointer
+ *       fails an assertion whose message gives the condition "value != ((void *)0)", the module "wlan_check"
+ *       and line 500.
  *
  * The first key that is refused determines the result; later keys are not examined. For each skipped key,
  * "Error in %s: The key should not be empty or non printable ascii string: %s\n\n" is printed with the key.

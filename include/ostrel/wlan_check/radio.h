@@ -12,7 +12,7 @@
 
 #include <ostrel/api.h>
 
-/* WLAN_check_radio_id: one of the two radios, or only the first in a build for a model other than "M2840". */
+/* WLAN_check_radio_id: either radio, or only "RADIO_2.4GHz" in builds for models other than "M2840". */
 OSTREL_API int WLAN_check_radio_id(const char* radio);
 
 /*
@@ -21,10 +21,10 @@ OSTREL_API int WLAN_check_radio_id(const char* radio);
  * "0" selects the channel automatically and is valid for any radio, even one that does not exist.
  *
  * On 2.4 GHz, a channel is valid if it is below 14 and among the first 15 numbers that the driver lists. To
- * obtain them, the shell runs "wlctl -i wl0 channels > /var/hnapwl0chlist". Then the file is read and
- * deleted. If the file cannot be opened, every channel is refused and nothing is deleted. If there is no
- * wlctl, the shell reports this on standard error, and the list is empty. Anything that wlctl itself writes
- * to standard error appears there too.
+ * obtain them, the check has the shell run "wlctl -i wl0 channels > /var/hnapwl0chlist", and then reads and
+ * deletes that file. If the file cannot be opened, every channel is refused and nothing is deleted. If there
+ * is no wlctl, the shell reports this on standard error, and the list is empty. Anything that wlctl itself
+ * writes to standard error appears there too.
  *
  * On 5 GHz, the valid channels are 36, 40, 44, 48, 149, 153, 157 and 161, and 0, which may also be written as
  * "00", as a string without a number or as the empty value.
@@ -43,8 +43,10 @@ OSTREL_API int WLAN_check_channel(const char* channel, const char* radio);
 OSTREL_API int WLAN_check_second_channel(const char* primary, const char* second);
 
 /*
- * WLAN_check_5g_second_channel: the centre of a 40 MHz pair on 5 GHz: 38 for 36 and 40, 46 for 44 and 48, 151
- * for 149 and 153, or 159 for 157 and 161; or both must be 0.
+ * WLAN_check_5g_second_channel: the centre of a 40 MHz pair on 5 GHz.
+ *
+ * The second channel must be 38 if primary is 36 or 40, 46 if it is 44 or 48, 151 if it is 149 or 153, and
+ * 159 if it is 157 or 161; or both must be 0.
  */
 OSTREL_API int WLAN_check_5g_second_channel(const char* primary, const char* second);
 

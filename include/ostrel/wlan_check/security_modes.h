@@ -102,7 +102,8 @@ OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
  *   "WPA2-PSK", "WPA2-RADIUS"              "AES"
  *   "WPA-AUTO-PSK", "WPA-AUTO-RADIUS"      "TKIPORAES"
  *
- * The host's cmsUtl_strcmp, if there is one, compares the two settings and the model (a build option).
+ * If the host supplies cmsUtl_strcmp, the library calls it to compare the two settings and the model (a build
+ * option) with these strings.
  *
  * Returns 0, or:
  * OSTREL_SECURITY_TYPE_NOT_ALLOWED: the type is not in the table (the empty type included), or is not allowed

@@ -17,10 +17,10 @@
  *        replaced regardless of the result. "a&amp;b" is an SSID of 3 bytes.
  *
  * If the host supplies htmlToText, that function replaces them. Otherwise, the library replaces the HTML 4
- * names of Latin-1 characters, the five XML names, and numbers from 1 in decimal ("&#65;") or hexadecimal
- * ("&#x41;"). Each reference becomes one byte of ISO 8859-1. A number above 255, for which there is no such
- * byte, becomes 0x1A, so the SSID is refused. Anything else, including other names ("&euro;"), is unchanged.
- * The string never grows.
+ * names of Latin-1 characters, the five XML names, and numbers of 1 or more in decimal ("&#65;") or
+ * hexadecimal ("&#x41;"). Each reference becomes one byte of ISO 8859-1. A number above 255, for which there
+ * is no such byte, becomes 0x1A, so the SSID is refused. Anything else, including other names ("&euro;"), is
+ * unchanged. The string never grows.
  *
  * Returns 0, or prints "Error in %s: Error SSID:%s\n" with the resulting value and returns OSTREL_TOO_SHORT,
  * OSTREL_TOO_LONG or OSTREL_FORBIDDEN_CHARACTER.
