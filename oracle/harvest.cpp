@@ -49,7 +49,7 @@ class Harvest {
         for (const Expression& operand : expression.of) this->expression(operand);
     }
 
-    // A realm is appended to the examples of all later shapes.
+    // The realm will be appended to the examples of all later shapes.
     void suffix(std::string_view realm) { realms_.emplace(realm); }
 
     void shape(const rules::Shape& shape)

@@ -81,7 +81,7 @@ OSTREL_API int TcmValidateVoIPPassword(const char* value);
 OSTREL_API int TcmValidateVoIPAreaCode(const char* value);
 
 /*
- * TcmValidatePort: a usable TCP or UDP port, 1 to 65535 as atoi reads it. Characters after the digits are
+ * TcmValidatePort: a usable TCP or UDP port, 1 to 65535 as read by atoi. Characters after the digits are
  * ignored. Port 0 and the empty value are refused.
  *
  * Returns 0 or OSTREL_INVALID.

@@ -38,7 +38,7 @@ OSTREL_API int ValidateURL(const char* value);
  *   "x-dslf_cwmp://" or "x-dslf_cwmps://" (case-sensitive), host, [":" port], ["/" path]
  *
  * host: as for ValidateURL.
- * port: digits only, 0 to 65535 as atoi reads them; an empty port is read as 0. How atoi reads a number that
+ * port: digits only, 0 to 65535 as read by atoi; an empty port is read as 0. How atoi reads a number that
  *       does not fit in an int depends on the C library.
  * path: not examined further.
  *

@@ -29,7 +29,7 @@ OSTREL_API int L3FORWARDING_check_interface(const char* value);
 OSTREL_API int L3FORWARDING_check_IP_address_and_mask(const char* value);
 
 /*
- * L3FORWARDING_check_ForwardingType: "Default", "Network" or "Host", in any mixture of upper and lower case.
+ * L3FORWARDING_check_ForwardingType: "Default", "Network" or "Host", in any mix of upper and lower case.
  *
  * On refusal, prints "Error in %s: Invalid type:%s\n" with the value.
  */

@@ -31,7 +31,7 @@
 OSTREL_API int Param_check_string_len(const char* value_p, int min_len, int max_len);
 
 /*
- * PARAM_check_port: a port number from 0 to 65535 as atoi reads it. A string without a number is read as 0,
+ * PARAM_check_port: a port number from 0 to 65535 as read by atoi. A string without a number is read as 0,
  * and characters after the digits are ignored, so "abc", "80abc" and the empty value are accepted.
  *
  * A NULL value fails an assertion. Returns 0, or prints "Error in %s: The port shoud be between 0~65535\n"
@@ -63,7 +63,7 @@ OSTREL_API int PARAM_check_Ordinary_MACAddress(const char* value_p);
 OSTREL_API int PARAM_check_MACAddress(const char* value_p);
 
 /*
- * PARAM_check_transport_protocol: "TCP" or "UDP" in any mixture of upper and lower case.
+ * PARAM_check_transport_protocol: "TCP" or "UDP" in any mix of upper and lower case.
  *
  * Returns 0, or prints "Error in %s: The transport protocol:%s is error\n" with the value and returns
  * OSTREL_INVALID.

@@ -36,7 +36,7 @@ OSTREL_API int PORTMAPPING_check_external_port(const char* value_p);
 /*
  * PORTMAPPING_check_port_available: a WAN port that the gateway does not reserve for its own services.
  *
- * port:     the number as atoi reads it; a string without a number is read as port 0, which is not reserved.
+ * port:     the number as read by atoi; a string without a number is read as port 0, which is not reserved.
  *           With protocol 0 or 1, a NULL port fails an assertion whose message names is_port_reserved or
  *           is_wan_udp_port_available, respectively; with any other protocol, port may be NULL.
  * protocol: 0 for TCP, 1 for UDP; with any other number, every port is accepted.
@@ -63,7 +63,7 @@ OSTREL_API int PORTMAPPING_check_port_available(const char* port, int protocol);
 OSTREL_API int PORTMAPPING_check_description(const char* value_p);
 
 /*
- * PORTMAPPING_check_lease_duration: a lease of 0 seconds as atoi reads it, which means a permanent mapping; a
+ * PORTMAPPING_check_lease_duration: a lease of 0 seconds, as read by atoi, for a permanent mapping; a
  * string without a number is read as 0. value_p must not be NULL.
  *
  * Returns 0, or prints "Error in %s: The port mapping lease should be zero\n" and returns

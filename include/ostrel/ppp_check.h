@@ -75,7 +75,7 @@ OSTREL_API int PPP_check_idle_disconnect_time(const char* value);
 OSTREL_API int PPP_check_route_protocol_rx(const char* value);
 
 /*
- * PPP_check_shaping_rate: a number of -1 or more as atoi reads it; a string without a number is read as 0, so
+ * PPP_check_shaping_rate: a number of -1 or more as read by atoi; a string without a number is read as 0, so
  * the empty value is accepted. The host defines the unit.
  *
  * Returns 0, or prints "Error in %s: Error shaping rate:%s\n\n" with the value and returns

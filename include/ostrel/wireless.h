@@ -26,7 +26,7 @@ OSTREL_API int TcmValueisValid(const char* value, const char* allowed);
 OSTREL_API int TcmValidatePSK(const char* value);
 
 /*
- * TcmValidateKPP: a WPA pass phrase (IEEE 802.11, annex on the pass-phrase mapping) of 8 to 63 characters
+ * TcmValidateKPP: a WPA pass phrase (IEEE 802.11, pass-phrase mapping annex) of 8 to 63 characters
  * from CHARSET_ASCII_PRINTABLE.
  *
  * Returns 0, or the code of the first test that fails: OSTREL_TOO_SHORT (also for the empty value),

@@ -115,7 +115,7 @@ OSTREL_API int LAN_check_use_allocated_wan(const char* value_p);
 OSTREL_API int LAN_check_associated_connection(const char* value_p);
 
 /*
- * LAN_check_passthrough_lease: a number from 0 to 65535 as atoi reads it; a string without a number is read
+ * LAN_check_passthrough_lease: a number from 0 to 65535 as read by atoi; a string without a number is read
  * as 0. The host defines the unit.
  *
  * Returns 0, or prints "Error in %s: Error passthrough lease:%s\n\n" with the value and returns

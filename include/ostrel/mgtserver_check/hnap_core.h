@@ -18,7 +18,7 @@
 OSTREL_API int HNAPCORE_check_username(const char* value);
 
 /*
- * HNAPCORE_check_timezone: "UTC" in any mixture of upper and lower case, followed by any text. Prints
+ * HNAPCORE_check_timezone: "UTC" in any mix of upper and lower case, followed by any text. Prints
  * nothing.
  *
  * offset_out: a caller-owned buffer that receives the text after "UTC", or "+00:00" if there is none, and a
@@ -31,7 +31,7 @@ OSTREL_API int HNAPCORE_check_timezone(const char* value, char* offset_out);
 
 /*
  * HNAPCORE_check_locale: a locale of the user interface (RFC 5646 tag): en-us, fr-ca, fr-fr, de-de, es-es,
- * it-it, nl-nl, sv-se, ar-sa, pl-pl or th-th, in any mixture of upper and lower case. Prints nothing.
+ * it-it, nl-nl, sv-se, ar-sa, pl-pl or th-th, in any mix of upper and lower case. Prints nothing.
  *
  * Returns 0 or OSTREL_INVALID.
  */

@@ -62,7 +62,7 @@ OSTREL_API int MGTSERVER_check_periodic_inform_time(const char* value_p);
 
 /*
  * MGTSERVER_check_periodic_inform_interval: the number of seconds between two reports, which must be greater
- * than 0 as atoi reads it. Characters after the digits are ignored, so "30abc" is accepted. There is no upper
+ * than 0 as read by atoi. Characters after the digits are ignored, so "30abc" is accepted. There is no upper
  * limit, but a number that does not fit in an int may be read as 0 or less, and is then refused.
  *
  * A NULL value fails an assertion whose message gives line 240. Returns 0, or prints

@@ -86,7 +86,7 @@ OSTREL_API int WLAN_check_wepkeys(char* keys);
 OSTREL_API int WLAN_check_keys(const char* key, const char* type, const char* encryption);
 
 /*
- * WLAN_check_default_wep_key_index: a number from 0 to 3 as atoi reads it. A string without a number is read
+ * WLAN_check_default_wep_key_index: a number from 0 to 3 as read by atoi. A string without a number is read
  * as 0, and characters after the digits are ignored, so "abc" and the empty value are accepted.
  *
  * Returns 0, or prints "Error in %s: Error default wep key index:%s\n\n" with the value and returns

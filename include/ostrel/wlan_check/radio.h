@@ -3,7 +3,7 @@
  *
  * <ostrel/wlan_check.h> describes what all wireless LAN checks have in common.
  *
- * radio is "RADIO_2.4GHz" or "RADIO_5GHz", in any mixture of upper and lower case. Numbers are read with
+ * radio is "RADIO_2.4GHz" or "RADIO_5GHz", in any mix of upper and lower case. Numbers are read with
  * atoi: a string without a number, such as the empty value, is read as 0. Every check returns 0 or
  * OSTREL_INVALID and prints nothing itself.
  */

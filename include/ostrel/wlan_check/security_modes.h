@@ -91,7 +91,7 @@ OSTREL_API int WLAN_check_IEEE11i_authentication_modes(const char* value, int re
 OSTREL_API int WLAN_check_authentication_service_mode(const char* value);
 
 /*
- * WLAN_check_HNAP_SecurityType: an HNAP security type and the encryption that suits it. Prints nothing.
+ * WLAN_check_HNAP_SecurityType: an HNAP security type and its encryption. Prints nothing.
  *
  * setting1, setting2: if they are "0" and "auto", respectively, only the WPA2 types are allowed.
  *

@@ -89,7 +89,7 @@ OSTREL_API int WLAN_check_regulatory_domain(const char* value);
 OSTREL_API int WLAN_check_device_opration_mode(const char* value, int readwrite_mode);
 
 /*
- * WLAN_check_DistanceFromRoot: a negative number as atoi reads it. ZERO AND POSITIVE DISTANCES ARE REFUSED,
+ * WLAN_check_DistanceFromRoot: a negative number as read by atoi. ZERO AND POSITIVE DISTANCES ARE REFUSED,
  * and so is a string without a number.
  *
  * Returns 0, or prints "Error in %s: Error DistanceFromRoot:%s\n\n" with the value and returns
