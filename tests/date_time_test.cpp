@@ -1,4 +1,5 @@
-// Compares every day of four hundred years with the calendar of the C++ library, and tests every offset.
+// Compares the verdict on every day of four hundred years with the C++ library's calendar, and tests every
+// time-zone offset.
 
 #include <gtest/gtest.h>
 #include <ostrel/date_time.h>

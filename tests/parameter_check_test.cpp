@@ -1,4 +1,4 @@
-// Tests calls of the generic checks that never return, which the vectors cannot express.
+// Tests calls to the generic checks that never return, which the vectors cannot express.
 
 #include <gtest/gtest.h>
 #include <ostrel/parameter_check.h>

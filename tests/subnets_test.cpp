@@ -12,7 +12,7 @@ namespace ostrel::tests {
 
 namespace {
 
-// cpu_seconds measures processor time, which excludes other processes, and returns the least of several runs.
+// cpu_seconds returns the least processor time of several runs. It excludes the time of other processes.
 double cpu_seconds(const std::string& list, const char* lan_address, int code)
 {
     std::clock_t least = std::numeric_limits<std::clock_t>::max();

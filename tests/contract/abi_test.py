@@ -1,4 +1,4 @@
-"""Tests that the library's interface matches the committed one, and that a change is detected.
+"""Tests that the library's interface matches the committed baseline, and that a change is detected.
 
 usage: abi_test.py LIBRARY SOURCE_DIR
 """

@@ -1,2 +1,2 @@
-/* A library without code, so everything in its file comes from the compiler's start-up files. */
+/* A library without code, so everything in the linked file comes from the compiler's start-up files. */
 extern char nothing;

@@ -33,7 +33,7 @@ std::string contents(const std::filesystem::path& path)
 
 bool is_name_character(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; }
 
-// names_before returns the name before each of the marks.
+// names_before returns the name before each occurrence of any of the marks.
 std::vector<std::string> names_before(const std::string& text, std::string_view marks)
 {
     std::vector<std::string> names;
@@ -60,8 +60,8 @@ std::vector<std::string> catalogue_names()
     return names;
 }
 
-// public_headers returns the paths that hosts write in #include, except that of api.h, which declares
-// nothing.
+// public_headers returns the path of each header as hosts write it in #include. It omits api.h, which
+// declares nothing.
 std::vector<std::string> public_headers()
 {
     const std::filesystem::path root = OSTREL_SOURCE_DIR "/include";
@@ -166,7 +166,7 @@ TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
     dlclose(library);
 }
 
-// For each result code, the catalogue must contain the name in the header, and a meaning.
+// The catalogue must contain a meaning for each result code, and the name that it has in the header.
 TEST(ResultCodes, HaveTheNamesOfTheHeaderAndAMeaning)
 {
     const std::string header = contents(OSTREL_SOURCE_DIR "/include/ostrel/result_code.h");

@@ -23,7 +23,7 @@ def compile_text(compiler, standard, language, text):
 
 class Headers(unittest.TestCase):
     def compile_each(self, headers, text, is_accepted):
-        """compile_each compiles the text with each header in place of %s, for every compiler and standard."""
+        """compile_each compiles the text with each header in place of %s, with every compiler and standard."""
         for compiler in COMPILERS:
             is_cpp = compiler.endswith("++")
             for standard in CPP_STANDARDS if is_cpp else C_STANDARDS:
@@ -41,7 +41,7 @@ class Headers(unittest.TestCase):
         self.compile_each(HEADERS, "#include <%s>\n#include <%s>\nextern int ostrel_test_unit;\n", True)
 
     def test_a_fault_is_seen(self):
-        """Without this check, the test above could accept any header."""
+        """This shows that the test above would detect an invalid header."""
         self.compile_each(HEADERS[:1], "#include <%s>\n;;int f(void) { return undeclared; }\n", False)
 
     def test_line_comments_are_seen(self):

@@ -67,8 +67,8 @@ const std::vector<std::string>& hostile_texts()
     return texts;
 }
 
-// try_all passes the string as each text argument, one at a time, and returns how many result codes the
-// catalogue does not list.
+// try_all passes the string as each text argument, one at a time, and returns how many of the calls returned
+// a code that the catalogue does not list.
 int try_all(const Function& function, const std::string& text, std::array<Caller, 2>& callers)
 {
     int unlisted = 0;

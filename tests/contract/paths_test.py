@@ -39,7 +39,7 @@ TREES = {"include/ostrel": (".h", declared), "src": (".cpp", defined), "rules": 
 
 
 def places(tree):
-    """places maps each name to the modules of a tree that contain the name."""
+    """places maps each name to the modules in a tree whose files contain it."""
     ending, names_in = TREES[tree]
     found = {}
     for path in sorted((SOURCE / tree).rglob("*" + ending)):

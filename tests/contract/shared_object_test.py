@@ -38,7 +38,7 @@ def dynamic_symbols(path):
         columns = line.split()
         if len(columns) < 8 or not re.fullmatch(r"\d+:", columns[0]):
             continue
-        # Some targets list section symbols.
+        # For some targets, the list also contains section symbols.
         if columns[3] == "SECTION":
             continue
         symbols.append(Symbol(columns[7], columns[3], columns[4], columns[5], columns[6] != "UND"))
@@ -51,7 +51,7 @@ def relocations(path):
         columns = line.split()
         if len(columns) < 3 or not columns[2].startswith("R_"):
             continue
-        # Without a symbol, the fourth column contains only the addend.
+        # If a relocation has no symbol, the fourth column contains only the addend.
         found.append(Relocation(columns[2], plain(columns[4]) if len(columns) > 4 else ""))
     return found
 
@@ -145,7 +145,7 @@ class SharedObject(unittest.TestCase):
         self.assertNotRegex(self.segments, r"^\s+TLS\s")
 
     def test_no_relocation_of_its_own(self):
-        """Each import needs a relocation. There must be as many other relocations as in the empty library."""
+        """Each import needs a relocation. Apart from these, there must be as many relocations as in the empty library."""
         allowed = set(self.listed_imports)
         of_start_up_files = relocations(EMPTY)
         own = collections.Counter()
@@ -161,7 +161,7 @@ class SharedObject(unittest.TestCase):
         allowed_own = collections.Counter(
             relocation.kind for relocation in of_start_up_files if not relocation.symbol)
         if "PowerPC" in self.header:
-            # 32-bit PowerPC accesses data outside the code through a table of addresses.
+            # 32-bit PowerPC code accesses data through a table of addresses, each entry of which needs a relocation.
             allowed_own["R_PPC_RELATIVE"] = own["R_PPC_RELATIVE"]
         self.assertEqual(allowed_own, own)
 
@@ -177,8 +177,8 @@ class SharedObject(unittest.TestCase):
         self.assertRegex(self.segments, r"(?m)^\s+GNU_RELRO\s")
 
     def test_no_floating_point(self):
-        """Only MIPS libraries are examined, since floating-point instructions have distinct names there. All processors
-        have the same source."""
+        """Only MIPS libraries are examined, since floating-point instructions have distinct names there. The source is
+        the same for all processors."""
         if "MIPS" not in self.header:
             return
         code = subprocess.run([READELF.replace("readelf", "objdump"), "--disassemble", "--no-show-raw-insn", LIBRARY],
@@ -196,7 +196,7 @@ class SharedObject(unittest.TestCase):
 
     def test_every_loader_finds_its_hash_table(self):
         self.assertIn("(HASH)", self.dynamic)
-        # On MIPS, the GNU hash table has a different form, which no loader needs.
+        # On MIPS, the GNU hash table has a different form (XHASH), which no loader needs.
         self.assertEqual("MIPS" not in self.header, "(GNU_HASH)" in self.dynamic)
         self.assertNotIn("XHASH", self.dynamic)
 

@@ -2,9 +2,9 @@
 
 usage: llvm-cov export … | conditions.py
 
-A condition decides if there are two calls in which this condition and the decision differ, but no other evaluated
-condition does. A condition that is not shown to decide must be listed in mcdc.txt, with the reason why no call can show
-it. mcdc.txt must not list any other conditions.
+A condition decides if two calls differ in the value of this condition and in the outcome of the decision, but in the
+value of no other evaluated condition. A condition that is not shown to decide must be listed in mcdc.txt, with the
+reason why no call can show it. mcdc.txt must not list any other conditions.
 """
 
 import json
@@ -58,7 +58,7 @@ def within(place, decision):
 
 
 def conditions(exported, root):
-    """conditions yields the conditions of each decision. A template's decisions occur once for each set of arguments.
+    """conditions yields the conditions of each decision. A template's decisions occur once for each instantiation.
 
     The compiler omits decisions that it cannot analyse, such as nested ones. For these, each operator is returned as a
     condition that has not been shown to decide.

@@ -1,4 +1,4 @@
-"""Tests the condition gate with inputs that must pass and inputs that must fail."""
+"""Tests conditions.py with inputs that it must accept and inputs that it must reject."""
 
 import contextlib
 import io
@@ -16,7 +16,7 @@ ENTRY = "file: src/a.cpp\nline: %s\ncondition: %s\nwhy: so it is\n"
 
 class Gate(unittest.TestCase):
     def judge(self, shown, listed, decisions=1):
-        """judge returns whether the gate passes, and its output."""
+        """judge returns whether conditions.py accepts the input, and what it prints."""
         with tempfile.TemporaryDirectory() as folder:
             root = pathlib.Path(folder).resolve()
             (root / "src").mkdir()

@@ -29,7 +29,7 @@ LONG = {"scripts/quickstart", "scripts/test", "scripts/test-everywhere", "script
         "scripts/abi", "scripts/footprint", "scripts/manual", "scripts/stubs", "sql/generate.py"}
 # Commands that build or test a preset are not run, but the preset must exist.
 LONG_BUILD = re.compile(r"(cmake --preset|cmake --build --preset|ctest --test-dir build)[ /](\S+)( -\S+ \S+)*")
-# Programs that the documents mention but do not run.
+# Programs that the documents mention but do not show being run.
 FILES = {"packaging/wlctl", "fleet/ostrel-fleet"}
 # Code spans of several words that are not commands.
 TEXTS = {"lan_check: refuse an address without a dot"}
@@ -57,7 +57,7 @@ int main(void)
 
 
 def reader_may(text):
-    """reader_may returns the exit codes allowed for a command, since ostrel-check may refuse a value."""
+    """reader_may returns the exit codes allowed for a command: ostrel-check exits with 1 if it refuses a value."""
     return (0, 1) if "ostrel-check" in text.split()[0] else (0,)
 
 
@@ -180,7 +180,7 @@ class Commands(unittest.TestCase):
 
 
 def enter_namespace():
-    """enter_namespace restarts this test in a namespace where it may mount, or skips it if that is not allowed."""
+    """enter_namespace restarts this test in a namespace where it can mount file systems, or skips it if it cannot."""
     unshare = ["unshare", "--mount"] + ([] if os.geteuid() == 0 else ["--user", "--map-root-user"])
     if run([*unshare, "mount", "-t", "tmpfs", "none", "/usr/local"]).returncode != 0:
         print("skipped: mount namespaces are not allowed")
@@ -189,7 +189,7 @@ def enter_namespace():
 
 
 def hide_installed():
-    """hide_installed empties /usr/local, and makes the loader's cache in /etc replaceable."""
+    """hide_installed hides the contents of /usr/local, and lets ldconfig replace the loader's cache in /etc."""
     cache = pathlib.Path("/etc/ld.so.cache").read_bytes()
     for folder in ("/usr/local", "/mnt"):
         subprocess.run(["mount", "-t", "tmpfs", "none", folder], check=True)

@@ -16,7 +16,7 @@ union function {
     int (*iui)(int, unsigned, int);
 };
 
-/* plain_kinds replaces the letter of each kind of pointer with p. */
+/* plain_kinds copies the kinds, with p in place of every kind that is passed as a pointer. */
 static void plain_kinds(const char* kinds, char* plain)
 {
     for (; *kinds != '\0'; ++kinds) *plain++ = *kinds == 'i' || *kinds == 'u' ? *kinds : 'p';

@@ -3,15 +3,15 @@
 //
 // usage: pack_vectors OUTPUT
 //
-// The file begins with "ostrel vectors 3\n" and the number of rows. A number has 32 bits, least significant
-// byte first. A string consists of its length and its bytes. A text consists of the number of its parts and
-// the parts, each of which is a repeat count and a string. A row consists of the label, the function and the
-// kinds of its arguments (all strings), the C libraries to which it applies (1: 64-bit long, 2: limits of an
-// int, 4: wrapping), whether everything is flushed, the code, out and err (both texts), and then for each
-// argument: its size in memory (0 for NULL), the number before and after the call, the number of texts, the
-// texts before the call, and the texts after it. The kinds are i (int), u (unsigned), t (text, read), n (int,
-// written) and b (texts, written); only b has texts after the call. A row with several answers becomes
-// several rows.
+// The file begins with "ostrel vectors 3\n" and the number of rows. Numbers are 32-bit and little-endian. A
+// string consists of its length and its bytes. A text consists of the number of its parts and the parts, each
+// of which is a repeat count and a string. A row consists of the label, the function and the kinds of its
+// arguments (all strings), the kinds of C library to which it applies (a sum of the numbers that atoi_at_hand
+// in packed_vectors_test.c defines), whether all output is flushed, the code, out and err (both texts), and
+// then for each argument: its size in memory (0 for NULL), the number before and after the call, the number
+// of texts, the texts before the call, and the texts after it. The kinds are i (int), u (unsigned), t (text,
+// read), n (int, written) and b (texts, written); only b has texts after the call. A row with several answers
+// becomes several rows.
 
 #include <cstdint>
 #include <exception>

@@ -107,7 +107,7 @@ static size_t file_size(int file)
     return (size_t)status.st_size;
 }
 
-/* differ_printed compares the printed text, and empties the file for the next row. */
+/* differ_printed returns whether the printed text differs, and empties the file for the next row. */
 static int differ_printed(const char* what, int file, const struct text* text)
 {
     const size_t size = file_size(file);
@@ -167,7 +167,8 @@ static int run(void* function, enum edge edge)
 }
 
 /* atoi_at_hand returns the kind of this C library. For a number that does not fit in an int, atoi returns the
-   low 32 bits of a 64-bit long (1), the highest int (2), or the low 32 bits of the number itself (4). */
+   low 32 bits of the nearest 64-bit long (1), the nearest int (2), or the low 32 bits of the number itself
+   (4). */
 static unsigned long atoi_at_hand(void)
 {
     switch (atoi("99999999999999999999")) {

@@ -1,9 +1,9 @@
 // Finds which hazardous bytes accepted values may contain, and prints the lines of docs/hazards.md.
 //
-// For each text argument, it tries every hazardous byte at many positions of the accepted values in vectors/,
-// both inserted and as a replacement. For a buffer, it also searches the content after the call for bytes of
-// any argument. The descriptions in rules/ decide whether a value is accepted; rules_test compares them with
-// the library.
+// For each text argument, it inserts every hazardous byte at many positions of the accepted values in
+// vectors/, and also replaces the byte at that position. For a buffer, it also searches the content after the
+// call for hazardous bytes that were passed in any argument. The descriptions in rules/ decide whether a
+// value is accepted; rules_test compares them with the library.
 
 #include <algorithm>
 #include <array>
@@ -77,7 +77,7 @@ std::vector<Attempt> attempts_around(const std::string& seed)
     return all;
 }
 
-// Search finds the witnesses of one exposure.
+// Search finds the witnesses for one exposure: accepted values that contain a hazardous byte.
 class Search {
  public:
     Search(const Function& function, Exposure& exposure) : function_(function), exposure_(exposure)

@@ -1,7 +1,7 @@
 """Tests that examples/daemon can be built with the installed library and follows the rules for hosts in SECURITY.md.
 
-usage: daemon_test.py SOURCE_DIR BUILD_DIR CMAKE CC     tests the daemon with the library of a build
-       daemon_test.py SOURCE_DIR                        tests it with the library of docs/porting.md, in an emulator
+usage: daemon_test.py SOURCE_DIR BUILD_DIR CMAKE CC     tests the daemon with the library from a build
+       daemon_test.py SOURCE_DIR                        tests it in an emulator, with the library from docs/porting.md
 """
 
 import os
@@ -59,7 +59,7 @@ class Daemon(unittest.TestCase):
         cls.programs = [cls.scratch / "configd"]
         cls.build(compiler, usr, library, cls.programs[0])
         if not cls.emulator:
-            # Sanitizers detect any of the daemon's buffers that is too small.
+            # The sanitizers detect any buffer in the daemon that is too small.
             cls.programs.append(cls.scratch / "configd_sanitized")
             cls.build(compiler, usr, library, cls.programs[1], "-g1", "-fsanitize=address,undefined",
                       "-fno-sanitize-recover=all")

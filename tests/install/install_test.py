@@ -39,7 +39,7 @@ class Install(unittest.TestCase):
         cls.addClassCleanup(shutil.rmtree, cls.scratch)
         built = cls.scratch / "installed"
         cls.files = install(built, *COMPONENTS)
-        # No installed file may contain the path of the installation.
+        # No installed file may depend on the path to which it was installed.
         cls.prefix = cls.scratch / "moved"
         built.rename(cls.prefix)
         (cls.library,) = cls.prefix.rglob("libostrel_check.so")

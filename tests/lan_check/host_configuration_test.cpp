@@ -1,4 +1,4 @@
-// Tests the only address that the lease-time check refuses, which rows cannot express.
+// Tests that the lease-time check refuses only one pointer, the highest address. Rows cannot express this.
 
 #include <gtest/gtest.h>
 #include <ostrel/lan_check.h>
@@ -23,7 +23,7 @@ TEST(LeaseTime, NoOtherAddressIsRefusedOrRead)
     EXPECT_EQ(0, LAN_check_dhcp_lease_time(pointer(1)));
 }
 
-// The refusal prints the value, but reading it at that address ends the process.
+// To report the refusal, the check prints the value, but reading it at that address ends the process.
 TEST(LeaseTime, TheAddressOfAllOnesIsRefused)
 {
     EXPECT_DEATH(LAN_check_dhcp_lease_time(pointer(UINTPTR_MAX)), "");

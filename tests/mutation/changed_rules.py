@@ -43,7 +43,7 @@ class Workshop:
         program = self.folder / "rules_test"
         command = list(self.link)
         command[command.index("-o") + 1] = str(program)
-        # Objects must precede the archives; otherwise, the linker would take the unchanged file from an archive.
+        # Objects must precede the archives; otherwise, the linker would take the unchanged object from an archive.
         command[command.index("-o") + 2:command.index("-o") + 2] = map(str, (made, *others))
         done = run(command, cwd=self.build.folder)
         if done.returncode != 0:
@@ -73,7 +73,7 @@ class Workshop:
             told = re.findall(r"/%s:(\d+):\d+: +(error|required)" % pathlib.Path(file).name, errors)
             wrong = {owner[int(line)] for line, _ in told}
             if 0 in wrong:
-                # Some code needs a real constant, but the constant is now a function.
+                # Some code needs a compile-time constant, but the constant is now a function.
                 named = set(re.findall(r"in expansion of macro '(\w+)'", errors)) - kept
                 if not named:
                     raise SystemExit(errors)
@@ -96,7 +96,7 @@ class Workshop:
                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode != 0
 
     def noticed(self, program, file, numbers):
-        """noticed returns the numbers of the changes that a quick test notices when it reads only short rows."""
+        """noticed returns the numbers of the changes that the quick tests notice. They read only short rows."""
         done = subprocess.run([str(program), *QUICK, "--gtest_filter=-" + SLOW], cwd=self.folder, text=True,
                               input="\n".join(map(str, [UNCHANGED, *numbers])), stdout=subprocess.PIPE,
                               stderr=subprocess.PIPE, check=False, env=self.environment(file, **SHORT))

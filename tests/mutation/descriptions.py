@@ -29,12 +29,12 @@ SETS = ["kDigits", "kUpper", "kLower", "kLetters", "kAlnum", "kHex", "kPrintable
         "kAccountDigits", "kIpv4", "kHostLabel", "kUrl", "kNameSet", "kMail", "kHostPort", "kRouterName", "kDeviceName"]
 PHRASES = [("at least", "at most"), ("needed", "allowed"), ("first", "last"), ("end", "start"), ("is", "are"),
            ("one of", "none of"), ("byte", "bytes"), ("is", "is not")]
-# A refusal does not contain the text that describes an argument.
+# The functions whose string arguments describe an argument of a check. No refusal contains these strings.
 NOT_REPORTED = {"text", "buffer", "blocks", "integer", "natural", "integer_out", "in"}
-# These steps have the same reasons, so their order makes no difference.
+# Steps of this kind have the same reason, so their order makes no difference.
 ALIKE = {"refuse_repeated"}
-# No value is both too little (first pattern) and too much (second pattern), so the order of these steps makes no
-# difference.
+# No value is refused both by a step that matches the first pattern and by one that matches the second, so the order
+# of two such steps makes no difference.
 TOO_LITTLE = re.compile(r'(?:below|shorter_than)\((?:.*, )?-?\d+\)|empty\(\)')
 TOO_MUCH = re.compile(r'(?:above|longer_than)\((?:.*, )?-?\d+\)|refuse_above|outside\(k\w+\)')
 
@@ -70,7 +70,7 @@ def texts(found, text):
 
 
 def steps(found):
-    """steps yields the first and the last index of each refusing step in a list."""
+    """steps yields the indices of the first and the last token of each refusing step in a list."""
     for i, token in enumerate(found[:-1]):
         if token.text.startswith("refuse") and token.text != "refused_by" and found[i + 1].text == "(" and \
                 found[i - 1].text in (",", "{"):
@@ -78,7 +78,7 @@ def steps(found):
 
 
 def orders(found, text):
-    """orders swaps each pair of adjacent refusing steps, and removes each refusing step."""
+    """orders yields changes that swap two adjacent refusing steps, and changes that remove one refusing step."""
     every = list(steps(found))
     for (first, end), (second, last) in zip(every, every[1:]):
         one, other = (text[found[a].offset:found[b].end] for a, b in ((first, end), (second, last)))
@@ -100,7 +100,7 @@ def mutants(file, text):
     return list(mutators.mutants(file, text, MUTATORS))
 
 
-TOGETHER = 250  # mutants that are compiled into one program
+TOGETHER = 250  # at most this many mutants are compiled into one program
 
 
 def try_all(waiting, texts, workshop, jobs):

@@ -1,4 +1,4 @@
-"""Tests which parts of a description are changed."""
+"""Tests which parts of a description the mutators change."""
 
 import unittest
 

@@ -9,7 +9,7 @@ import subprocess
 
 LIBRARY = "libostrel_check.so"
 OBJECTS = "src/CMakeFiles/ostrel_check.dir/"
-# The headers are precompiled because reading them would dominate the time of each compilation.
+# The headers are precompiled because parsing them would dominate the time of each compilation.
 PRELUDE = "".join("#include <%s>\n" % name for name in
                   ("cstddef", "cstdint", "cstdio", "cstdlib", "cstring", "string_view"))
 
@@ -72,7 +72,7 @@ class Sources:
         return sorted(file for file in seen if file.endswith(".cpp"))
 
     def dependent(self, file):
-        """dependent returns the .cpp files whose results a change of the file can affect."""
+        """dependent returns the .cpp files whose behaviour a change in the file can affect."""
         found, waiting = {file}, [file]
         while waiting:
             name = waiting.pop()
@@ -98,7 +98,7 @@ class LibraryBuild(Build):
         return super().link_command(target) + (["-fuse-ld=gold"] if shutil.which("ld.gold") else [])
 
     def compiled_in(self, file):
-        """compiled_in returns the test programs that compile this library source file themselves."""
+        """compiled_in returns the test programs that contain their own copy of this library source file."""
         objects = self.folder.glob("tests/**/CMakeFiles/*.dir/__/__/%s.o" % file)
         names = {re.search(r"CMakeFiles/(\w+)\.dir/", str(path)).group(1) for path in objects}
         return sorted(name for name in names if name.endswith("_test") and (self.folder / "bin" / name).exists())
@@ -160,7 +160,7 @@ class Workshop:
         return "made"
 
     def link(self, command, output, replaced):
-        """link returns whether linking succeeded, since a change may leave a symbol undefined."""
+        """link returns whether linking succeeded. It may fail because a change leaves a symbol undefined."""
         words = [replaced.get(word, word) for word in command]
         words[words.index("-o") + 1] = str(output)
         return run(words, cwd=self.build.folder).returncode == 0

@@ -1,4 +1,4 @@
-"""Lists of exceptions, each with its reason."""
+"""Reads lists of exceptions in which each exception has a reason."""
 
 import fnmatch
 

@@ -37,7 +37,7 @@ def changed(literal, piece, at):
 
 
 def callee(found, at):
-    """callee returns the name of the function whose arguments contain the token at that index."""
+    """callee returns the name of the function whose arguments contain the token at the given index."""
     depth = 0
     for i in range(at - 1, 0, -1):
         if found[i].text in (";", "{", "}"):

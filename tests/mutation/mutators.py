@@ -1,4 +1,4 @@
-"""Mutators, each of which changes one place of a source file.
+"""Mutators, each of which changes one place in a source file.
 
 A mutator yields each change as the offset of its start, the offset after its end, and the replacement.
 """
@@ -125,7 +125,7 @@ def codes(found, text):
 
 
 def is_comparison(found, first, last):
-    """is_comparison returns whether the tokens are a comparison or a negation, which one changed operator negates."""
+    """is_comparison returns whether the tokens are a comparison or a negation. Changing its operator negates it."""
     if found[first].text == "!":
         return not any(token.text in ("&&", "||") for token in found[first:last])
     depth = 0
@@ -171,7 +171,7 @@ def results(found, text):
 
 
 def is_effect(found, at):
-    """is_effect returns whether a call, an assignment or a jump begins at that index."""
+    """is_effect returns whether a call, an assignment or a jump begins at the given index."""
     token = found[at]
     if token.text in ("++", "--", "*", "continue", "break"):
         return True

@@ -1,4 +1,4 @@
-"""Tests which parts of a source file are changed."""
+"""Tests which parts of a source file the mutators change."""
 
 import pathlib
 import sys

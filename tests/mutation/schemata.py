@@ -1,4 +1,4 @@
-"""Generates a source file that contains all changes to it, of which the program selects one at run time.
+"""Generates a variant of a source file that contains all changes; the program selects one of them at run time.
 
 In the generated file, a function has a separate body for each change inside it. Each check in a list and each constant
 at namespace scope becomes a function, which is called in its place.
@@ -30,7 +30,7 @@ class Region(NamedTuple):
 
 
 def first_of(found, texts):
-    """first_of returns the index of the first of these tokens outside brackets."""
+    """first_of returns the index of the first token that is outside brackets and has one of these texts."""
     i = 0
     while i < len(found):
         if found[i].text in texts:
@@ -54,7 +54,7 @@ def checks(found, at, last):
 
 
 def constant(head, end):
-    """constant returns a list with the constant that is defined there, or an empty list."""
+    """constant returns a list that contains the constant that the declaration defines, or an empty list."""
     at = first_of(head, "=[{(")
     if not head or head[0].text not in ("const", "constexpr") or at is None or \
             head[at].text == "(" and head[at + 1].kind != "string":

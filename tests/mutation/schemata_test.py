@@ -1,4 +1,4 @@
-"""Tests the generated file with all changes, and the selection of one change."""
+"""Tests the generated file that contains all changes, and the selection of one change."""
 
 import re
 import unittest

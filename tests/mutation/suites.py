@@ -15,7 +15,7 @@ import vectors  # noqa: E402  (sys.path must be set first)
 LIBC = ctypes.CDLL(None)
 DIE_WITH_PARENT = 1
 
-# Files whose test program is not named after them.
+# Files whose test programs have different names.
 PROGRAMS = {"char_set": "character_sets_test", "radio": "channel_test", "rules": "host_test"}
 # This program compares times. A limit on processor time would make the clock coarse, and a busy machine can make the
 # program fail, so only repeated failures count.
@@ -61,7 +61,7 @@ class Suites:
                 if mutant.function in checks]
 
     def of(self, file):
-        """of returns the suites that can notice a change of the file."""
+        """of returns the suites that can notice a change in the file."""
         found = self.own(file)
         users = self.sources.dependent(file)
         if len(users) > 12:

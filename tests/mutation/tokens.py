@@ -1,4 +1,4 @@
-"""The tokens of a C++ source file that may be changed."""
+"""Splits a C++ source file into the tokens that mutators may change."""
 
 import re
 from typing import NamedTuple
@@ -77,7 +77,7 @@ def without_attributes(found):
 
 
 def closing(found, at):
-    """closing returns the index of the bracket that closes the one at that index."""
+    """closing returns the index of the bracket that closes the one at the given index."""
     depth = 0
     for i in range(at, len(found)):
         if found[i].text in "([{":
@@ -90,7 +90,7 @@ def closing(found, at):
 
 
 def statement_end(found, at):
-    """statement_end returns the index of the ";" that ends the statement at that index, or None."""
+    """statement_end returns the index of the ";" that ends the statement at the given index, or None."""
     i = at
     while found[i].text != ";":
         i = closing(found, i) if found[i].text in "([{" else i

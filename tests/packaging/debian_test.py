@@ -89,14 +89,14 @@ class Debian(unittest.TestCase):
         self.assertEqual((SOURCE / "CHANGELOG.md").read_text(), changes)
 
     def test_lintian_has_no_complaint(self):
-        """packaging/debian contains the overrides, each with its reason."""
+        """packaging/debian contains the lintian overrides, each with its reason."""
         result = subprocess.run(["lintian", "--allow-root", "--fail-on", "error,warning", "--tag-display-limit", "0",
                                  *map(str, self.files)], capture_output=True, text=True, check=False)
         print(result.stdout + result.stderr)
         self.assertEqual((0, ""), (result.returncode, result.stdout))
 
     def test_lintian_sees_a_fault(self):
-        """Without this check, the test above might accept any package."""
+        """This shows that the test above would detect a faulty package."""
         tree = self.scratch / "faulty"
         run("dpkg-deb", "--raw-extract", self.files[0], tree)
         for copyright_file in tree.rglob("copyright"):

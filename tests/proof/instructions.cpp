@@ -1,5 +1,5 @@
 // Calls every function with long values of several shapes and sizes under callgrind, which counts the
-// instructions and writes each count to its file under the name
+// instructions and writes each count to its output file under the name
 //
 //   FUNCTION SHAPE ARGUMENT ITEMS BYTES
 //
@@ -56,7 +56,7 @@ std::string list_of_distinct_items(std::size_t size)
     return list;
 }
 
-// kCases are long values that pass the conditions before the one that reads the whole value.
+// kCases are long values that pass all conditions that precede the one that reads the whole value.
 constexpr LongCase kCases[] = {
     {"TcmValidateReservedAddress", "accepted",
      [](std::size_t size) -> std::vector<Value> {
@@ -213,8 +213,8 @@ void count_case(const LongCase& one, std::size_t size, bool each)
                ' ' + std::to_string(size));
 }
 
-// count_argument counts the calls in which the given argument is long. If its index is one past the last, all
-// text arguments are long.
+// count_argument counts the instructions of calls in which the given argument is long. If its index is one
+// past the last, all text arguments are long.
 void count_argument(const Function& function, std::size_t argument, std::size_t size, bool each)
 {
     const bool all = argument == function.arguments.size();

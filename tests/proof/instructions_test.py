@@ -7,9 +7,9 @@ apply to calls that take only a few instructions per byte, since a length limit 
 and a call that prints would be compared with one that does not. In addition, no call may exceed a fixed number of
 instructions per byte, which detects any growth that is faster than linear.
 
-The contract requires one exception: in a list of reserved addresses, each item that is as long as the next one must be
-searched for in the rest of the list. The bound for such a list is a fixed number of instructions per item and byte. The
-bound for a list of long items that are nearly alike is the cost of an equally long list of short items.
+The contract requires one exception: for each item in a list of reserved addresses that is as long as the next item,
+the rest of the list must be searched. The bound for such a list is a fixed number of instructions per item and byte.
+The bound for a list of long items that are nearly alike is the cost of an equally long list of short items.
 """
 
 import collections

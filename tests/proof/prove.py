@@ -24,7 +24,7 @@ Proof = collections.namedtuple("Proof", "name promise measure presets steps")
 
 
 def ctest(preset, pattern):
-    """ctest runs the tests of that name and their variants. The figure is the number of failed tests out of all."""
+    """ctest runs the tests that match the pattern. The figure is the number of failed tests out of the total."""
     return Step(["ctest", "--test-dir", str(preset), "--output-on-failure", "--no-tests=error", "-R", pattern],
                 r"(\d+ tests failed out of \d+)")
 

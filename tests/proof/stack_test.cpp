@@ -89,7 +89,8 @@ const char* find_part(const char* text, const char* part)
     }
 }
 
-// Like the C library's atoi with a 64-bit long, atoi truncates a long that saturates at LONG_MAX or LONG_MIN.
+// This atoi works as in a C library with a 64-bit long: it clamps the number to the range of a long, which it
+// then truncates to an int.
 int atoi(const char* nptr) noexcept
 {
     while (*nptr == ' ' || (*nptr >= '\t' && *nptr <= '\r')) ++nptr;

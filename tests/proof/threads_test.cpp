@@ -148,7 +148,8 @@ std::size_t judge_in_threads(const std::vector<Expected>& all)
     return wrong;
 }
 
-// differing returns a few of the lines that occur more often on one side, to keep failure messages short.
+// differing returns only a few of the lines that occur more often on one side, which keeps failure messages
+// short.
 std::string differing(const Pieces& expected, const Pieces& actual)
 {
     std::string result;

@@ -1,4 +1,4 @@
-"""Follows CONTRIBUTING.md to add a check of a range to a copy of the repository, builds the copy and runs its tests.
+"""Follows CONTRIBUTING.md to add a range check to a copy of the repository, builds the copy and runs its tests.
 
 usage: recipe_test.py BUILD_FOLDER SOURCE_FOLDER
 

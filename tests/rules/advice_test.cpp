@@ -1,5 +1,5 @@
-// Tests that reasons with each id can be followed, and that a false reason is detected. fuzz/ follows the
-// reasons of all checks.
+// Tests that the advice in every kind of reason can be followed, as oracle/advice.h defines it, and that a
+// false reason is detected. fuzz/ follows the reasons of all checks.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ namespace ostrel::rules {
 
 namespace {
 
-// fault_of follows the reason of a refused call and returns the fault that this reveals.
+// fault_of follows the reason for a refusal and returns the fault found in the reason, or an empty string.
 std::string fault_of(const Check& check, const std::vector<Value>& values)
 {
     const Build build;

@@ -28,7 +28,7 @@ using vectors::RowReason;
 
 namespace {
 
-// result_of returns the result of an answer. A number that was not written becomes NULL, as in Caller.
+// result_of converts an answer to a call's result. A number that was not written becomes NULL, as in Caller.
 CallResult result_of(const Answer& answer)
 {
     CallResult result{answer.code, answer.out, answer.err, answer.is_flushed(), answer.after};
@@ -38,7 +38,7 @@ CallResult result_of(const Answer& answer)
     return result;
 }
 
-// told returns the fields of a reason that rows contain.
+// told returns those fields of the answer's reason that rows contain too.
 RowReason told(const Answer& answer)
 {
     const rules::Reason& reason = answer.reason;
@@ -55,8 +55,8 @@ bool is_beyond_rows(const Check& check)
            std::ranges::find(kOthers, check.name) != std::end(kOthers);
 }
 
-// A row applies to every C library, but its reason assumes a 64-bit long. The rows reach every step, and each
-// condition is true in some row.
+// A row applies to every C library, but its reason assumes a 64-bit long. Together, the rows must reach every
+// step, and each condition must be true in some row.
 TEST(AgreementTest, VectorsAndDescriptions)
 {
     std::size_t count = 0;

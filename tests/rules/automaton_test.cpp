@@ -45,7 +45,8 @@ TEST(AutomatonTest, Summary)
     EXPECT_EQ(summary(tail).longest, 5);
 }
 
-// In a string with one "@", both cuts select the same number, but they set different limits for it.
+// In a string with one "@", both cuts select the same number. One sets an upper and the other a lower limit
+// for it, so both limits apply.
 TEST(AutomatonTest, WhatFollowsTellsMoreBytesApart)
 {
     Languages languages;

@@ -1,4 +1,4 @@
-// Tests the counts, and conditions that are evaluated without a reason.
+// Tests the counts of evaluated steps and conditions, and conditions that are evaluated without a reason.
 
 #include <gtest/gtest.h>
 
@@ -172,7 +172,7 @@ TEST(ModelTest, OfAnotherModel)
     EXPECT_EQ(1001, answer_of("WLAN_check_HNAP_SecurityType", {"1", "auto", "x", "AES"}, other).code);
 }
 
-// The conditions of "when" are evaluated without a reason.
+// The conditions of "when" are evaluated without producing a reason.
 TEST(WhenTest, TakesEveryCondition)
 {
     static const Table kTable = {{"a column"}, {{"a"}, {"b"}}};

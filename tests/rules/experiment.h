@@ -20,7 +20,7 @@ class Experiment {
  public:
     Experiment(const catalogue::Function& function, const rules::Check& check);
 
-    // change makes that many calls with changed rows. Accepted values must obey the constraints.
+    // change makes the given number of calls with changed rows. Accepted values must obey the constraints.
     void change(std::size_t times, calling::Capture& capture);
 
     // vary inserts candidates for an argument into accepted rows. Accepted values must obey the constraints
@@ -46,8 +46,8 @@ class Experiment {
  private:
     using Values = std::vector<catalogue::Value>;
 
-    // call returns whether the library accepts the values, or nothing if the call must not be made or builds
-    // differ.
+    // call returns whether the library accepts the values, or nothing if the call must not be made or its
+    // result may depend on the C library.
     std::optional<bool> call(const Values& values, calling::Capture& capture);
     void tell(std::string_view what, const Values& values, std::size_t argument);
     void compare(const Values& values, std::size_t argument, bool is_accepted);

@@ -160,7 +160,7 @@ TEST_P(Explained, CodesAreThoseThatVectorsReach)
     EXPECT_EQ(reached, std::set<int>(codes.begin(), codes.end()));
 }
 
-// is_accepted evaluates the description first, since the call must not end the process.
+// is_accepted evaluates the description first, since a call that would end the process must not be made.
 bool is_accepted(const Function& function, const std::vector<Value>& values)
 {
     const auto answer = rules::evaluate(*function.check, values, oracle::library_build());

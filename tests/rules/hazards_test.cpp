@@ -63,7 +63,8 @@ TEST_F(Hazards, EachWitnessIsAccepted)
     EXPECT_GT(calls, 10000U);
 }
 
-// Each text argument is listed, before the call and, if the call can write to it, also after the call.
+// The catalogue must list the hazards of each text argument before the call and, if the call can write to the
+// argument, also after it.
 TEST_F(Hazards, EachTextIsSpokenOf)
 {
     for (const Function& function : catalogue::functions()) {

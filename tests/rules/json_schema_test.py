@@ -95,7 +95,7 @@ class Maker:
         return self.random.choice(("", " ", "\n", ",")) + text + self.random.choice((" ", "\n", ",", "."))
 
     def texts(self, count):
-        """Returns that many strings, or fewer if not enough can be made."""
+        """Returns the given number of strings, or fewer if not enough can be made."""
         made = dict.fromkeys(self.known)
         for _ in range(5 * count):
             if len(made) >= count:
@@ -128,7 +128,7 @@ class JsonSchema(unittest.TestCase):
 
     @classmethod
     def judge(cls, name, definition):
-        """Returns pairs of a string and whether the library accepts it, without numbers beyond an int."""
+        """Returns pairs of a string and whether the library accepts it. Numbers in the strings fit in an int."""
         known = [text for text in VECTORS.get(name, []) if set(text) <= set(ALPHABET)]
         texts = Maker(name, definition, known).texts(COUNT) + known
         if definition.get("x-ostrel-reads-number"):

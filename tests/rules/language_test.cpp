@@ -1,4 +1,4 @@
-// Compares the contents of languages with every short string over a small alphabet.
+// Tests, for every short string over a small alphabet, which languages contain it.
 
 #include <gtest/gtest.h>
 

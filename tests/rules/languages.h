@@ -10,7 +10,7 @@
 
 namespace ostrel::tests {
 
-// for_each_text visits all strings over an alphabet, up to a length.
+// for_each_text visits all strings over an alphabet, up to the given length.
 void for_each_text(const std::string& alphabet, std::size_t longest,
                    const std::function<void(const std::string&)>& look, const std::string& begin = "");
 

@@ -33,7 +33,7 @@ TEST(RegistrationTest, TheModuleIsThatOfTheHeader)
     }
 }
 
-// fault registers a check with these steps and returns the error.
+// fault registers a check with these steps and returns the error message.
 std::string fault(std::vector<Step> steps, std::vector<ArgumentWords> arguments)
 {
     try {

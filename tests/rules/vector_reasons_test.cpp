@@ -91,7 +91,7 @@ std::map<std::string, std::size_t> paths_shown()
     return result;
 }
 
-// A refusal for two different faults must have a step for each.
+// A check that refuses two different faults must have a step for each.
 TEST(VectorReasonsTest, ConditionsHaveAStepEach)
 {
     for (const Check& check : rules::checks()) {

@@ -1,4 +1,5 @@
-// Tests small spaces of hosts, URLs, mail addresses, IP and MAC addresses, lists of addresses, and ports.
+// Tests every value in small spaces of hosts, URLs, mail addresses, IP and MAC addresses, lists of addresses,
+// and ports.
 
 #include <string>
 

@@ -1,4 +1,4 @@
-// Compares calls of the library with their descriptions, for tests that try every value in a small space.
+// Compares calls to the library with their descriptions, for tests that try every value in a small space.
 #ifndef OSTREL_TESTS_SMALL_SPACES_SPACES_H
 #define OSTREL_TESTS_SMALL_SPACES_SPACES_H
 
@@ -17,7 +17,7 @@ namespace ostrel::tests {
 
 using Texts = std::vector<std::string>;
 
-// texts_of returns every string of up to that many pieces.
+// texts_of returns every string that consists of at most the given number of pieces.
 Texts texts_of(const Texts& pieces, std::size_t most);
 Texts texts_of(std::string_view alphabet, std::size_t longest);
 

@@ -1,5 +1,5 @@
-// Tests every single byte in values of every check, and small spaces of date-times, time zones, character
-// references, account names, channels and keys.
+// Tests every single byte at each position in values of every check, and every value in small spaces of
+// date-times, time zones, character references, account names, channels and keys.
 
 #include <set>
 #include <string>

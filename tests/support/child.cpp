@@ -105,7 +105,7 @@ ChildEnd Child::wait(std::chrono::milliseconds limit)
     std::array<pollfd, 2> streams = {{{out_, POLLIN, 0}, {err_, POLLIN, 0}}};
     while ((streams[0].fd >= 0 || streams[1].fd >= 0) && remaining_ms(deadline) > 0) {
         if (poll(streams.data(), streams.size(), remaining_ms(deadline)) <= 0) continue;
-        // poll ignores a stream that has ended.
+        // poll ignores a negative descriptor, which marks a stream that has ended.
         if (streams[0].revents != 0 && !drain(out_, end.out)) streams[0].fd = -1;
         if (streams[1].revents != 0 && !drain(err_, end.err)) streams[1].fd = -1;
     }

@@ -24,10 +24,10 @@ struct ChildEnd {
 void PrintTo(const ChildEnd& end, std::ostream* stream);
 
 // Child immediately starts the body in a forked process, which leaves no core file. Several children may run
-// at a time.
+// at the same time.
 class Child {
  public:
-    // body must return 0 to 255.
+    // body must return a value from 0 to 255.
     explicit Child(const std::function<int()>& body);
     Child(const Child&) = delete;
     Child& operator=(const Child&) = delete;

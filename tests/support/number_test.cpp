@@ -12,7 +12,7 @@ namespace {
 using ostrel::leading_number;
 using ostrel::read_number;
 
-// for_each_text visits all strings of up to that length over the alphabet, each preceded by the prefix.
+// for_each_text visits all strings over the alphabet, up to the given length, each preceded by the prefix.
 template <typename Visit>
 void for_each_text(const std::string& prefix, const std::string& alphabet, int longest, const Visit& visit)
 {

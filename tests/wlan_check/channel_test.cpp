@@ -53,8 +53,8 @@ class Channel : public testing::Test {
         close(lock_);
     }
 
-    // tool installs a wlctl that records its call and then runs the shell script. The folder is the whole
-    // PATH, so the script can use only the shell's built-in commands.
+    // tool installs a wlctl that records its call and then runs the shell script. PATH contains
+    // no other folder, so the script can use only the shell's built-in commands.
     void tool(const std::string& script)
     {
         const fs::path file = folder_ / "wlctl";
@@ -66,7 +66,7 @@ class Channel : public testing::Test {
     void list(const std::string& text) { tool("printf '" + text + "'"); }
 
     // Reply is a code and the bytes written to the descriptors of standard output and standard error,
-    // including those of the shell and the tool.
+    // including what the shell and the tool write.
     struct Reply {
         int code = 0;
         std::string out;

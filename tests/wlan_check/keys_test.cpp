@@ -1,4 +1,4 @@
-// Tests which bytes of a WEP key block are written, which the vectors cannot express.
+// Tests which bytes of a WEP key block are written. The vectors cannot express this.
 
 #include <gtest/gtest.h>
 #include <ostrel/result_code.h>
@@ -31,8 +31,8 @@ Block block_of(const Keys& keys)
     return block;
 }
 
-// check returns the code of WLAN_check_wepkeys, and expects it to write a NUL at the given keys and nothing
-// else.
+// check returns the code of WLAN_check_wepkeys, and expects it to write a NUL at the start of the given keys
+// and nothing else.
 int check(const Keys& keys, const std::array<bool, 4>& emptied)
 {
     Block block = block_of(keys);

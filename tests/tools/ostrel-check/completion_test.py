@@ -18,7 +18,7 @@ import unittest
 
 
 class Shell:
-    """Shell is a shell that runs at a terminal."""
+    """Shell is a shell that runs in a terminal."""
 
     PROMPT = "ready> "
     LONGEST = 60.0

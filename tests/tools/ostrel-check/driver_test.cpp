@@ -1,4 +1,4 @@
-// Tests the check of the wireless channel with a stand-in for the driver's answer.
+// Tests the wireless channel check with a stand-in for the driver's answer.
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,7 @@ class Driver : public testing::Test {
     }
 
  private:
-    std::string folder_ = "/tmp/ostrel driver.XXXXXX";  // contains a blank, which must do no harm
+    std::string folder_ = "/tmp/ostrel driver.XXXXXX";  // the space in it must do no harm
 };
 
 TEST_F(Driver, ListsTheChannelsGiven)

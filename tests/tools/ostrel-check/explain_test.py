@@ -71,7 +71,7 @@ class Explained(unittest.TestCase):
         unprinted = set(literals)
         for line in explained:
             matching = {literal for literal in literals if as_pattern(literal).fullmatch(line)}
-            # The MAC address checks print a byte that is in the place of a ":", and nothing else.
+            # The MAC address checks print only the byte that is found where a ":" is expected.
             self.assertTrue(matching or line == "<byte>", line)
             unprinted -= matching
         self.assertEqual(NEVER_PRINTED, sorted(unprinted))

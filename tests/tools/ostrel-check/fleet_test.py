@@ -1,4 +1,4 @@
-"""Tests batches of a fleet's values in each form: uninterrupted, resumed, and in pieces whose summaries are added.
+"""Tests batches of a fleet's values in each form: uninterrupted, resumed, and in pieces whose summaries are added up.
 
 usage: fleet_test.py OSTREL_CHECK SOURCE_DIR [ROWS]
 
@@ -50,7 +50,8 @@ def ends_row(name, line):
 def write_pieces(name, whole, piece):
     """write_pieces splits a form between gateways, writes the pieces to files and yields their names.
 
-    It keeps only one line in memory, since the memory of this process would count as the program's.
+    It keeps only one line in memory: if this process held all lines, its peak memory would be attributed to programs
+    started later.
     """
     gateways = -(-ROWS // (PIECES * GATEWAY))
     is_tree = name == "fleet.json"
@@ -106,7 +107,7 @@ class Fleet(unittest.TestCase):
 
     @classmethod
     def summary(cls, name):
-        """summary returns the summary of results without its member for dumps, and that member separately."""
+        """summary returns the summary without its "map" member, and that member separately."""
         with open(cls.path(name + ".summary"), encoding="utf-8") as file:
             summary = json.load(file)
         return summary, summary.pop("map", None)
@@ -170,7 +171,8 @@ class Fleet(unittest.TestCase):
                 results.write(process.stdout.read(100))
                 if part < 3:
                     process.send_signal((signal.SIGINT, signal.SIGTERM)[part % 2])
-                # The output is copied in pieces, since this process's memory would count as that of later programs.
+                # The output is copied in pieces: if this process held all of it, its peak memory would be attributed to
+                # programs started later.
                 shutil.copyfileobj(process.stdout, results)
                 err = process.stderr.read()
                 process.stdout.close()

@@ -1,4 +1,4 @@
-// Tests that a file of any bytes yields the same records, no matter how it is divided into chunks.
+// Tests that a file with arbitrary bytes yields the same records, no matter how it is divided into chunks.
 
 #include <gtest/gtest.h>
 

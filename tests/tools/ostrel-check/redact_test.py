@@ -18,7 +18,7 @@ import unittest
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[3] / "vectors"))
 from vectors import rows, text_of  # noqa: E402  (sys.path must be set first)
 
-# No piece of a marker that has this length may appear in the output.
+# No piece of a marker that is this long may appear in the output.
 PIECE = 6
 DICE = random.Random(20261122)
 MARKERS = ["".join(DICE.choices(letters, k=24))
@@ -117,7 +117,8 @@ class Redaction(unittest.TestCase):
             self.assertIn("not shown", shown)
 
     def test_members_that_are_passed_through(self):
-        """Such a member may repeat the value unchanged, inside a string, with escapes, as a number, or in a list."""
+        """A passed-through member may repeat the value plainly, inside a string, with escapes, as a number, or in a
+        list."""
         lines = []
         for marker in MARKERS:
             number = marker if marker.isdigit() and marker[0] != "0" else f'"{marker}"'

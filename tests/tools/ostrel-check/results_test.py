@@ -1,4 +1,4 @@
-"""Tests that the results of a batch pass members through, and that every JSON line matches the schema.
+"""Tests that a batch passes members of its input through to the results, and that every JSON line matches the schema.
 
 usage: results_test.py OSTREL_CHECK SOURCE_DIR
 """
@@ -48,7 +48,7 @@ class Schema(unittest.TestCase):
     def test_of_the_conformance_vectors(self):
         files = [SOURCE / "vectors/wireless.ndjson", *sorted((SOURCE / "vectors/wlan_check").iterdir())]
         lines = "".join(path.read_text() for path in files)
-        # A vector stores the expected output in members that a result also has.
+        # A vector stores the expected output in members whose names a result also uses.
         rows = [json.loads(line) for line in run(lines, "--json", "--channels", "1 6 11").splitlines()]
         for row in rows:
             self.validator.validate(row)

@@ -1,4 +1,4 @@
-"""Tests the output of each command at a terminal.
+"""Tests the output of each command on a terminal.
 
 usage: terminal_test.py OSTREL_CHECK
 """
@@ -21,8 +21,8 @@ COLOUR = re.compile(r"\x1b\[[0-9]*m")
 
 
 def at_terminal(*arguments, text=(), columns=80, keys=(), **environment):
-    """at_terminal runs the program at a terminal, types each of the keys after its text has appeared, and returns the
-    status and the complete output."""
+    """at_terminal runs the program on a terminal and returns the status and the complete output. Each element of
+    keys is a pair: once its text has appeared, its keys are typed."""
     # The program starts after the terminal's width is set.
     start, starting = os.pipe()
     child, terminal = pty.fork()

@@ -1,6 +1,6 @@
-# Stands in for OpenWrt's package.mk. BuildPackage checks that a recipe defines everything that it must, configures the
-# package with the recipe's options, and installs a finished build with the recipe's hooks. For a MIPS target, it uses
-# -mips16 unless the recipe excludes that.
+# Stands in for OpenWrt's package.mk. BuildPackage checks that a recipe defines every mandatory variable and hook,
+# configures the package with the recipe's options, and installs a finished build with the recipe's hooks. For a MIPS
+# target, it uses -mips16 unless the recipe excludes that.
 PKG_USE_MIPS16 ?= 1
 ifeq ($(CONFIG_USE_MIPS16)$(strip $(PKG_USE_MIPS16)),y1)
   TARGET_CFLAGS += -mips16 -minterlink-mips16
