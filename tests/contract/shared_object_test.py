@@ -145,7 +145,7 @@ class SharedObject(unittest.TestCase):
         self.assertNotRegex(self.segments, r"^\s+TLS\s")
 
     def test_no_relocation_of_its_own(self):
-        """Each import needs a relocation. Apart from these, there must be as many relocations as in the empty library."""
+        """Apart from one relocation for each import, there must be as many relocations as in the empty library."""
         allowed = set(self.listed_imports)
         of_start_up_files = relocations(EMPTY)
         own = collections.Counter()
