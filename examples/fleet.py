@@ -6,8 +6,8 @@ name no checks: a CSV dump with a row for each value, and nested JSON with an ob
 usage: fleet.py [--rows N] [--seed N] [--refused SHARE] FOLDER
 
 The files are fleet.csv, fleet.ndjson, fleet-dump.csv and fleet.json in FOLDER. Each gateway has 20 values, in the same
-order in each file, and its name is the id of each value. --refused is the share of values that are refused (0.1), for
-reasons that are common in practice. The same seed generates the same files.
+order in each file, and each value has the gateway's name as its id. --refused is the share of values that are refused
+(default: 0.1), for reasons that are common in practice. The same seed generates the same files.
 
   examples/fleet.py --rows 2000 /tmp
   ostrel-check batch --summary-only /tmp/fleet.ndjson
@@ -161,9 +161,11 @@ def write(folder, rows, seed, refused):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--rows", type=int, default=1000, help="values in all (1000); whole gateways are made")
+    parser.add_argument("--rows", type=int, default=1000,
+                        help="the number of values (default: 1000), rounded up to whole gateways")
     parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("--refused", type=float, default=0.1, help="the share of values that are refused (0.1)")
+    parser.add_argument("--refused", type=float, default=0.1,
+                        help="the share of values that are refused (default: 0.1)")
     parser.add_argument("folder", metavar="FOLDER")
     arguments = parser.parse_args()
     if arguments.rows < 0 or not 0 <= arguments.refused <= 1:

@@ -26,8 +26,8 @@ _SECONDS_BETWEEN_LOOKS = 0.2
 
 @contextlib.contextmanager
 def connect(address: str | None, jobs: int) -> Iterator[Client]:
-    """connect connects to a scheduler, or starts a cluster in this process, whose tasks run ostrel-check as separate
-    processes."""
+    """connect yields a client of the scheduler at the address. If there is no address, it starts a cluster in this
+    process, whose tasks run ostrel-check as separate processes."""
     # A timer of a closed cluster logs errors that do not concern the user.
     logging.getLogger("asyncio").setLevel(logging.CRITICAL)
     if address is None:
@@ -108,7 +108,8 @@ def _outcome_of(future: Future, part: Part) -> Outcome:
 
 
 def _stop(client: Client, job: Job, futures: Sequence[Future]) -> None:
-    """_stop stops all parts, because the workers outlive the run, and incomplete results must be removed."""
+    """_stop stops all parts. Otherwise the workers, which outlive the run, would continue to judge them while the
+    runner removes their incomplete results."""
     with contextlib.suppress(Exception):
         client.cancel(futures)
         client.run(ostrel_program.abandon, job.number, on_error="ignore")

@@ -1,8 +1,8 @@
 """Judges files of cases with ostrel-check, on many machines or on all processors of this one.
 
 Each part, which is a file or a block of its lines, is a Dask task that writes its results to a file in FOLDER/results.
-The names of these files sort in the order of the parts; joined in that order, the files equal the output of one
-ostrel-check batch --stream for all input files. FOLDER/summary.json is the summary of all parts.
+The names of these files sort in the order of the parts; concatenated in that order, the files equal the output of a
+single ostrel-check batch --stream for all input files. FOLDER/summary.json is the summary of all parts.
 
 The exit code is that of ostrel-check batch, or 4 if parts are missing; --resume judges only the missing parts.
 """
@@ -60,17 +60,17 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
         fromfile_prefix_chars="@", usage="ostrel-fleet [OPTIONS] FOLDER FILE... [-- OPTIONS OF ostrel-check batch]\n"
         "       ostrel-fleet --resume [--scheduler ADDRESS] FOLDER")
     parser.add_argument("folder", metavar="FOLDER", type=pathlib.Path,
-                        help="write the results here; the path must be valid on each worker")
+                        help="write the results to this folder; the path must be valid on each worker")
     parser.add_argument("files", metavar="FILE", nargs="*",
-                        help="judge this file; @LIST reads the names from LIST, one per line")
+                        help="judge this file; @LIST reads file names from LIST, one per line")
     parser.add_argument("--resume", action="store_true", help="judge the missing parts of the run in FOLDER")
     parser.add_argument("--scheduler", metavar="ADDRESS",
-                        help="use the Dask cluster at this address, and not only this machine")
+                        help="use the Dask cluster with this scheduler instead of only this machine")
     parser.add_argument("--jobs", metavar="N", type=int, default=len(os.sched_getaffinity(0)),
-                        help="judge this many parts in parallel on this machine (its processors)")
-    parser.add_argument("--map", metavar="FILE", help="judge the files as gateway dumps with this map")
+                        help="judge this many parts in parallel on this machine (default: its number of processors)")
+    parser.add_argument("--map", metavar="FILE", help="judge the files as gateway dumps, using this map")
     parser.add_argument("--block", metavar="SIZE", type=size_of, default="256M",
-                        help="split larger files of lines into blocks of about this size (256M)")
+                        help="split larger files of lines into blocks of about this size (default: 256M)")
     parser.add_argument("--program", metavar="PATH", default=PROGRAM, help="run this ostrel-check on each worker")
     parser.add_argument("--exit-zero", action="store_true", help="ignore verdicts in the exit code")
     given = parser.parse_args(words[:at])
@@ -108,7 +108,8 @@ def manifest_of(given: argparse.Namespace, options: Sequence[str]) -> Manifest:
 
 
 class Run:
-    """Run is one invocation of the runner. A run may take several invocations, all with the same folder."""
+    """Run is one invocation of the runner. An interrupted run is continued by further invocations with the same
+    folder."""
 
     def __init__(self, given: argparse.Namespace, manifest: Manifest) -> None:
         self._given, self._manifest = given, manifest
@@ -195,7 +196,7 @@ def size_in(part: Part) -> int:
 
 @contextlib.contextmanager
 def signals_raise() -> Iterator[None]:
-    """signals_raise makes the first signal end the run in an orderly way, and a second signal end it immediately."""
+    """signals_raise makes the first signal end the run cleanly, and a second signal end it immediately."""
     def interrupt(number: int, _: FrameType | None) -> None:
         signal.signal(number, signal.SIG_DFL)
         raise Interrupted(number)

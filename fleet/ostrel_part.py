@@ -95,8 +95,8 @@ def is_finished(job: Job, part: Part) -> bool:
 
 @contextlib.contextmanager
 def whole(path: pathlib.Path) -> Iterator[BinaryIO]:
-    """whole opens a file that receives its name when it is complete. Its temporary name is unique, because another
-    worker may be judging the same part after the scheduler wrongly considered this one dead."""
+    """whole opens a file under a temporary name, and renames it when it is complete. The name is unique, because
+    another worker may be judging the same part after the scheduler wrongly considered this one dead."""
     temporary = path.with_name(f".{path.name}.{socket.gethostname()}-{os.getpid()}-{secrets.token_hex(4)}{TEMPORARY}")
     try:
         with open(temporary, "x+b") as file:
@@ -109,8 +109,8 @@ def whole(path: pathlib.Path) -> Iterator[BinaryIO]:
 
 
 def judge(job: Job, part: Part) -> dict[str, Any]:
-    """judge judges a part, unless a worker that died before reporting it has already finished it. It returns an Outcome
-    as a dictionary."""
+    """judge judges a part, unless another worker has already finished the part and died before reporting it. It returns
+    an Outcome as a dictionary."""
     return dataclasses.asdict(_outcome_of(job, part))
 
 

@@ -1,5 +1,5 @@
-"""Identifies the ostrel-check on a worker, runs batches with it, and ends the programs of an interrupted run. The
-runner sends this module to the workers, so it needs only Python's standard library."""
+"""Identifies the ostrel-check program on a worker, runs batches with it, and ends the programs of an interrupted run.
+The runner sends this module to the workers, so it needs only Python's standard library."""
 
 import asyncio
 import contextlib
@@ -53,8 +53,8 @@ def require_identity(program: str, wanted: str) -> None:
         raise Stopped(f"{program} is {identity}, not {wanted}")
 
 
-# The running programs with the numbers of their runs, and the runs that must not start another program. Every
-# invocation of the runner reloads this module, but both variables keep their values.
+# _running maps each running program to the number of its run. _stopped contains the numbers of the runs that must not
+# start another program. Every invocation of the runner reloads this module, but these variables keep their values.
 _running: dict[subprocess.Popen[bytes], str] = globals().get("_running", {})
 _stopped: set[str] = globals().get("_stopped", set())
 _lock: threading.Lock = globals().get("_lock", threading.Lock())
@@ -98,7 +98,7 @@ def judge(number: str, words: Sequence[str], out: BinaryIO, send: Callable[[int]
 
 def _start(number: str, words: Sequence[str], out: BinaryIO, complaints: IO[bytes]) -> subprocess.Popen[bytes]:
     """_start starts the program with a pipe, not the file, as its input. If this process is killed, the pipe is closed
-    and the program ends. In its own process group, the program does not receive an interrupt from the terminal."""
+    and the program ends. The program has its own process group, so it receives no interrupt from the terminal."""
     words = [*words, "--stream", "--exit-zero", "--summary", "json"]
     with _lock:
         if number in _stopped:

@@ -122,8 +122,8 @@ def _told_format(options: Sequence[str]) -> str | None:
 
 
 def _begins_as_text(file: BinaryIO) -> bool:
-    """_begins_as_text returns whether a file may be split. ostrel-check reports a compressed or UTF-16 file once if it
-    is not split, and otherwise once per block."""
+    """_begins_as_text returns whether a file may be split. If a compressed or UTF-16 file were split, ostrel-check
+    would report it once per block instead of once."""
     front = file.read(4)
     file.seek(0)
     return front.startswith(b"\xef\xbb\xbf") or all(32 <= byte < 127 or byte in b"\t\r\n" for byte in front)
@@ -175,7 +175,7 @@ def make_plan(manifest: Manifest) -> list[Part]:
 
 def sweep(job: Job, parts: Sequence[Part]) -> tuple[list[Part], list[str]]:
     """sweep removes results that are incomplete, or that belong to files that have since changed. It returns the parts
-    that remain to be judged, and notes that explain why earlier results were dropped."""
+    that remain to be judged, and notes that explain why earlier results were discarded."""
     folder = pathlib.Path(job.folder)
     remove_temporary(folder)
     (folder / SUMMARY).unlink(missing_ok=True)

@@ -15,7 +15,7 @@ KINDS = {"text": "kText", "buffer": "kBuffer", "blocks": "kBlocks", "integer": "
 PASSED = {"kText": "at[%d].text", "kBuffer": "at[%d].buffer", "kBlocks": "at[%d].buffer", "kInteger": "at[%d].integer",
           "kUnsigned": "at[%d].natural", "kOutputText": "at[%d].buffer", "kOutputInteger": "&at[%d].integer"}
 
-# SQL ignores the case of function names, so without another name these checks would conflict with other checks.
+# SQL ignores case in function names, so these checks need other names to avoid clashing with other checks.
 OTHER_SQL_NAMES = {"Param_check_bool_value": "param_check_bool_value_branding",
                    "Param_check_string_len": "param_check_string_len_signed"}
 

@@ -62,7 +62,7 @@ class Ostrel {
   #asked = {print: (...call) => this.#print(...call), explain: (...call) => this.#explain(...call)};
   #isBusy = false;
   #message;
-  #printed = null;  // while messages are recorded, those printed so far, keyed by stream number
+  #printed = null;  // the messages printed so far, by stream number, if they are recorded
 
   constructor(module, options) {
     const {encoding, isLatin1, isLong64, channels, compare, convert, loadReasons} = options;

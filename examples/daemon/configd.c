@@ -1,5 +1,5 @@
 /*
- * configd judges settings in the way that SECURITY.md requires of a host.
+ * configd judges settings as SECURITY.md requires of a host.
  *
  * It reads lines of the form "NAME VALUE" from standard input, and writes "NAME: accepted as VALUE" or
  * "NAME: refused, CODE" to standard output. It writes the library's reports about refusals to standard error.

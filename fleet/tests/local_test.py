@@ -18,7 +18,7 @@ class Whole(support.Folder):
     def test_files_of_every_form(self):
         files = [*self.files, *self.make_fleet()]
         code, said = self.fleet(self.out, *files)
-        self.assertEqual(2, code, said)  # the objects of nested JSON are not cases
+        self.assertEqual(2, code, said)  # the objects in the nested JSON are not cases
         self.assert_whole(files)
 
     def test_blocks_have_the_lines_of_their_file(self):

@@ -34,7 +34,7 @@ def wait_until(condition, seconds=60):
 
 
 class Processes(unittest.TestCase):
-    """Processes is the base class of tests that need a scratch folder and start processes. These end with the test."""
+    """Processes is the base class of tests that need a scratch folder and start processes, which end with the test."""
 
     def setUp(self):
         scratch = tempfile.TemporaryDirectory()
@@ -78,7 +78,7 @@ class Folder(Processes):
         return self.scratch / "fleet.csv", self.scratch / "fleet-dump.csv", self.scratch / "fleet.json"
 
     def slow_program(self):
-        """slow_program returns a program that judges nothing while the hold file exists, and its environment."""
+        """slow_program returns a program that judges nothing while the hold file exists, and the environment for it."""
         self.hold.touch()
         slow = self.scratch / "slow"
         slow.write_text(SLOW)

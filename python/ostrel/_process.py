@@ -69,7 +69,7 @@ class Process:
         self._socket, theirs = socket.socketpair()
         self._complaints = tempfile.TemporaryFile()
         with theirs:
-            # In its own process group, the program does not receive an interrupt that the terminal sends to the
+            # The program has its own process group, so it does not receive an interrupt that the terminal sends to the
             # caller.
             self._child = subprocess.Popen(
                 [program, "batch", "--stream", "--format", "ndjson", "--encoding", encoding, *options],
@@ -150,8 +150,8 @@ class Process:
         return f"status {status}" + (f": {said}" if said else "")
 
     def forget(self) -> None:
-        """forget leaves the program to the parent after a fork. It closes this process's copies of the program's files;
-        otherwise the program would not notice when the parent closes them."""
+        """forget leaves the program to the parent after a fork. It closes this process's copies of the descriptors;
+        otherwise the program would not notice when the parent closes its own."""
         self._socket.close()
         self._complaints.close()
         self._child.returncode = 0  # the program is the parent's child, so this process cannot wait for it

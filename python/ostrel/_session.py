@@ -112,8 +112,8 @@ class Session(Calls):
         return None if process is None else process.pid
 
     def call(self, check: str, arguments: Iterable[Argument]) -> Verdict:
-        """call does what judge does, but takes the arguments as an iterable. Its types also allow a check whose name is
-        known only at run time."""
+        """call does what judge does, but takes the arguments as an iterable. Its type annotations also allow a check
+        whose name is known only at run time."""
         (verdict,) = self._answer([(check, *arguments)])
         if verdict.verdict == "malformed":
             raise MalformedCall(verdict.meaning)

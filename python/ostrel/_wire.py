@@ -12,7 +12,7 @@ Argument = Text | int | Texts | None
 Case = Sequence[Argument]
 Quote = Callable[[str], str]
 
-# JSONEncoder.encode calls this function for a str; calling it directly takes half the time. Characters beyond ASCII
+# JSONEncoder.encode calls this function for a str; calling it directly takes half the time. Non-ASCII characters
 # are not escaped, because escapes would cost both sides more time.
 _quoted: Quote = encoder.encode_basestring  # type: ignore[attr-defined]
 _escaped: Quote = encoder.encode_basestring_ascii  # type: ignore[attr-defined]

@@ -1,4 +1,5 @@
-"""Judges 100,000 hostile values. The caller survives, and the results equal those of the program without the package.
+"""Judges 100,000 hostile values. The caller must survive, and the results must equal those of the program when it is
+run without the package.
 
 usage: hostile_test.py OSTREL_CHECK SOURCE_DIR
 """

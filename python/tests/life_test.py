@@ -19,7 +19,7 @@ from ostrel import _process
 
 
 def cases(count, first=0):
-    """cases returns cases. Every second case is refused, each with a different line."""
+    """cases returns the given number of cases. Every second case is refused, each with a different line."""
     return [("LAN_check_interface_addr_type", "Static" if number % 2 else f"{number}")
             for number in range(first, first + count)]
 

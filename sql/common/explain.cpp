@@ -1,5 +1,5 @@
-// Derives buffer sizes and reasons from the descriptions. This file is the interface between C++ and C, so it
-// lets no exception escape.
+// Derives buffer sizes and reasons from the descriptions. The exported functions are called from C, so no
+// exception may escape from them.
 
 #include <algorithm>
 #include <cstdlib>

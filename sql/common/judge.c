@@ -94,7 +94,7 @@ static bool read_integer(const OstrelText* given, long long lowest, long long hi
     return end == given->bytes + given->size && end[-1] >= '0' && *number >= lowest && *number <= highest;
 }
 
-/* load_value validates a value that SQL passes and stores it in the slot. It allocates no buffer. */
+/* load_value validates a value that SQL passes and stores it in the slot. Buffers are left to load_buffer. */
 static bool load_value(const OstrelCheck* check, const OstrelArgument* argument, const OstrelText* given,
                        OstrelSlot* slot, OstrelFault* fault)
 {

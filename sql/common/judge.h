@@ -55,7 +55,7 @@ extern "C" {
 
 /*
  * ostrel_choose_check returns the check if it can be called with this number of values; otherwise it returns
- * NULL and sets the fault. With is_verdict, a check that returns a number is also a fault.
+ * NULL and sets the fault. If is_verdict is true, naming a check that returns a number is also a fault.
  */
 const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t values, bool is_verdict,
                                        OstrelFault* fault);

@@ -12,7 +12,7 @@ typedef struct {
     bool is_lost; /* some output was lost for lack of memory */
 } OstrelPrints;
 
-/* After ostrel_capture, this thread's standard output is stored in prints, or discarded if prints is NULL. */
+/* ostrel_capture makes this thread store the library's output in prints, or discard it if prints is NULL. */
 void ostrel_capture(OstrelPrints* prints);
 
 #endif

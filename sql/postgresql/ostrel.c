@@ -1,7 +1,8 @@
 /*
  * PostgreSQL functions for the checks. docs/sql.md describes these functions.
  *
- * An error is raised only after the check has returned, because raising it does not return to the caller.
+ * ostrel_judge reports a fault, which is raised as an error only after it has returned. Raising the error
+ * inside ostrel_judge would skip its cleanup.
  */
 #include "postgres.h"
 
@@ -13,7 +14,7 @@
 
 PG_MODULE_MAGIC;
 
-/* judge raises an error if the check must not be called with these values. */
+/* judge calls ostrel_judge and raises its fault, if there is one, as an error. */
 static void judge(const OstrelCheck* check, const OstrelText* given, OstrelWish wish, OstrelAnswer* answer)
 {
     OstrelFault fault;
@@ -72,7 +73,7 @@ static const OstrelCheck* choose(FunctionCallInfo fcinfo, size_t count, bool is_
     return check;
 }
 
-/* prepare returns false if a value is NULL, because STRICT covers the array but not its elements. */
+/* prepare returns false if an element of the array is NULL. STRICT applies only to the array itself. */
 static bool prepare(FunctionCallInfo fcinfo, bool is_verdict, OstrelCall* call)
 {
     ArrayType* array = PG_GETARG_ARRAYTYPE_P(1);

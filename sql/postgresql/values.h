@@ -18,12 +18,13 @@ void pg_attribute_noreturn() ostrel_raise(const OstrelFault* fault);
  */
 OstrelText ostrel_take(Datum value, bool is_text, char* room);
 
-/* ostrel_told moves the text of the answer into the server's memory. It returns NULL if there is no text. */
+/* ostrel_told moves the answer's text into the server's memory. It returns NULL if there is no text. */
 char* ostrel_told(OstrelAnswer* answer);
 
 /*
- * ostrel_jsonb converts JSON in ASCII to jsonb, and may modify the string. Unless the database uses UTF-8 or
- * Latin-1, it replaces "\u0080" to "\u00FF", which its encoding might lack, with "\\x80" to "\\xFF".
+ * ostrel_jsonb converts JSON in ASCII to jsonb, and may modify the string. If the database uses neither UTF-8
+ * nor Latin-1, the characters "\u0080" to "\u00FF", which its encoding might lack, are replaced with "\\x80" to
+ * "\\xFF".
  */
 Datum ostrel_jsonb(char* json);
 

@@ -11,7 +11,7 @@
 
 SQLITE_EXTENSION_INIT1
 
-/* sqlite3_ostrel_init is the entry point that SQLite calls when it loads the file. */
+/* sqlite3_ostrel_init is the entry point that SQLite calls when it loads the extension. */
 __attribute__((visibility("default"))) int sqlite3_ostrel_init(sqlite3* database, char** error,
                                                                const sqlite3_api_routines* api);
 
@@ -32,8 +32,8 @@ static const OstrelQuestion kQuestions[] = {
 static const OstrelQuestion kCodeAlone = {"", kCode, false, false};
 
 /*
- * take stores the bytes of a value, followed by a NUL byte. A blob is unchanged, text is in UTF-8, and SQLite
- * converts a number to text. The caller frees *copy.
+ * take stores the bytes of a value, followed by a NUL byte. A blob is stored unchanged, text as UTF-8, and a
+ * number as the text to which SQLite converts it. The caller frees *copy.
  */
 static bool take(sqlite3_value* value, int type, OstrelText* text, char** copy)
 {
@@ -106,8 +106,8 @@ static void call_check(sqlite3_context* context, int count, sqlite3_value** valu
 }
 
 /*
- * call_question implements a function whose first argument names the check. If the name is constant, SQLite
- * keeps the check between calls.
+ * call_question implements a function whose first argument names the check. If the name is a constant, SQLite
+ * keeps the check that the first call has found for later calls.
  */
 static void call_question(sqlite3_context* context, int count, sqlite3_value** values)
 {

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Tests where the check runs for a table with partitions on three servers, and what happens when a server stops."""
+"""Tests where checks run if the partitions of a table are on three servers, and what happens when a server stops."""
 
 import os
 import pathlib
@@ -55,7 +55,7 @@ class Servers(unittest.TestCase):
         cls.server.run(COORDINATOR + "".join(
             PARTITION.format(name=name, folder=cls.shards[name].folder, user=server.USER, remainder=remainder)
             for remainder, name in enumerate(NAMES)))
-        # Every fifth address has an octet that is too high.
+        # Every fifth address has an octet above 255.
         cls.server.run("INSERT INTO setting SELECT i, concat('10.0.', i / 256, '.', CASE WHEN i %% 5 = 0 THEN 300 ELSE i "
                        "%% 256 END), i FROM generate_series(1, %d) AS i;" % ROWS)
 

@@ -61,7 +61,7 @@ ANSWERS = """SELECT json_build_array(
 
 
 def answers(row):
-    """answers returns the query for one row. OFFSET prevents the values from being generated several times."""
+    """answers returns the query for one row. OFFSET 0 prevents the values from being generated several times."""
     return ANSWERS % "(SELECT '%s' AS name, ARRAY[%s] AS given, %s AS is_verdict OFFSET 0) AS calls" % (
         row.check, ", ".join(map(bytes_in_sql, row.values)), VERDICTS[row.check])
 
@@ -89,7 +89,7 @@ class Vectors(unittest.TestCase):
         self.assertEqual({rows.NULL, rows.NOT_CALLED}, set(self.left_out))
 
     def test_as_texts(self):
-        """Each row in valid UTF-8 is judged by a function that takes the check's name and by the check's function."""
+        """Each row in valid UTF-8 is judged by ostrel_code and by the check's own SQL function."""
         names = {"Param_check_bool_value": "param_check_bool_value_branding",
                  "Param_check_string_len": "param_check_string_len_signed"}
         queries, expected = [], []
@@ -149,7 +149,7 @@ class Encodings(unittest.TestCase):
                          .rstrip("\n"))
 
     def test_others(self):
-        """A reason can contain bytes that do not exist in the encoding of the database."""
+        """A reason can contain characters that the database's encoding lacks."""
         for encoding in ("LATIN2", "SQL_ASCII", "EUC_JP"):
             with self.subTest(encoding=encoding):
                 name = self.database(encoding)

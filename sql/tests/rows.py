@@ -7,8 +7,8 @@ import sys
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "vectors"))
 import vectors  # noqa: E402  it is in another folder
 
-# Row is a row to run from SQL. values contains bytes and numbers in the order in which SQL passes them. after lists the
-# allowed results of ostrel_after. reason is None if the row has no reason.
+# Row is a vector row that can be run from SQL. values contains bytes and numbers in the order in which SQL passes them.
+# after lists the allowed results of ostrel_after. reason is None if the row has no reason.
 Row = collections.namedtuple("Row", "place check values code out after reason is_verdict")
 
 WRITTEN = ("buffer", "blocks", "integer_out")

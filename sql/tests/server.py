@@ -28,7 +28,7 @@ class Failed(Exception):
 
 
 def as_other(command, *options):
-    """as_other returns a command that runs the given command as a user other than root, with options for setpriv."""
+    """as_other returns a command that runs the given command as a user other than root. The options are for setpriv."""
     if os.geteuid() == 0:
         options = ("--reuid", OTHER, "--regid", "nogroup", "--clear-groups", *options)
     return ["setpriv", *options, *map(str, command)] if options else list(map(str, command))

@@ -1,5 +1,5 @@
 // This header is included before each source of the library. It declares functions that are missing from the
-// WASI headers, and replaces the endless loop.
+// WASI headers, and replaces the library's endless loop.
 #ifndef OSTREL_WEB_HOST_WASI_H
 #define OSTREL_WEB_HOST_WASI_H
 

@@ -1,4 +1,4 @@
-// This module has no exceptions, so throwing one traps.
+// This module is built without support for exceptions, so throwing one traps.
 
 #include <__verbose_abort>
 #include <cstddef>
