@@ -50,7 +50,7 @@ class Part:
 @dataclasses.dataclass(frozen=True)
 class Outcome:
     """Outcome is the result of a part. Its kind is "done", "missing" if this part could not be judged, or "stop" if the
-    whole run cannot continue. A part that is done but has a problem is judged again by the next run."""
+    whole run cannot continue. A part that is done but has a problem is judged again by the next invocation."""
 
     kind: Literal["done", "missing", "stop"]
     problem: str = ""

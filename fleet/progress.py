@@ -8,7 +8,7 @@ _SECONDS_BETWEEN = 0.25
 
 
 class Failed(Exception):
-    """Failed is raised if nothing more can be judged. The message gives the cause. Once the cause has been removed,
+    """Failed is raised if nothing more can be judged. The message states the cause. Once the cause has been removed,
     --resume continues the run."""
 
 

@@ -13,7 +13,7 @@ const kPage = 0x10000;
 const kSpare = 2048;  // bytes reserved beyond the strings of a call, for blocks and buffers that a check writes to
 const kNothingWritten = Object.freeze({});
 
-// Verdict is the result of a call. Few callers need the printed lines, so they are recorded only by a second call.
+// Verdict is the result of a call. Few callers need the printed lines, so reading them repeats the call.
 class Verdict {
   #asked;  // the functions print and explain
   #judged;

@@ -68,7 +68,7 @@ static void give_up(const char* what)
 
 /* take_the_streams redirects standard output and standard error, to which the library writes, to an unnamed
    file. Only WLAN_check_keys writes to standard error. Unlike a full pipe, a file does not block, and the
-   daemon can decide what it logs. */
+   daemon can decide what to log. */
 static void take_the_streams(void)
 {
     FILE* file = tmpfile();
@@ -78,7 +78,8 @@ static void take_the_streams(void)
     if (dup2(fileno(file), STDOUT_FILENO) < 0 || dup2(fileno(file), STDERR_FILENO) < 0) give_up("configd");
 }
 
-/* print_escaped escapes the control bytes in a value, which could do harm in a log or on a terminal. */
+/* print_escaped escapes all bytes that are not printable ASCII, because control bytes could do harm in a log
+   or on a terminal. */
 static void print_escaped(FILE* stream, const char* bytes, size_t size)
 {
     size_t i;
@@ -89,7 +90,7 @@ static void print_escaped(FILE* stream, const char* bytes, size_t size)
 }
 
 /* log_report logs the report that a check has printed, and empties the file. A report contains the refused
-   value, so no report is logged for a secret. */
+   value, so only the code is logged for a secret. */
 static void log_report(const struct setting* setting, int code)
 {
     char report[1024];

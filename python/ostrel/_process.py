@@ -150,8 +150,8 @@ class Process:
         return f"status {status}" + (f": {said}" if said else "")
 
     def forget(self) -> None:
-        """forget leaves the program to the parent after a fork. It closes this process's copies of the descriptors;
-        otherwise the program would not notice when the parent closes its own."""
+        """forget leaves the program to the parent after a fork. It closes this process's copies of the descriptors,
+        because the program ends only when every copy of the socket is closed."""
         self._socket.close()
         self._complaints.close()
         self._child.returncode = 0  # the program is the parent's child, so this process cannot wait for it

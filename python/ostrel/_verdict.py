@@ -157,7 +157,7 @@ def _datum(value: Any) -> Any:
 
 
 def _reason(members: dict[str, Any]) -> Reason:
-    # Only these members can be anything but a string or a number.
+    # All other members are strings or numbers.
     for name in ("item_text", "found", "allowed"):
         if type(value := members.get(name)) in (dict, list):
             members[name] = _datum(value)
@@ -182,7 +182,7 @@ def _made(kind: type[T], members: dict[str, Any]) -> T:
     return made
 
 
-# The verdicts that contain only a code, keyed by their line. There is at most one for each check.
+# The accepted verdicts without output or written arguments, keyed by their line. There is at most one for each check.
 _plain: dict[str, Verdict] = {}
 
 

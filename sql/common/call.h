@@ -4,7 +4,7 @@
 
 #include "sql/common/judge.h"
 
-/* OSTREL_UNWRITTEN is the value of an output number before the call. No check writes this value. */
+/* OSTREL_UNWRITTEN is the initial value of an output number. No check writes this value. */
 #define OSTREL_UNWRITTEN (-2147483647 - 1)
 
 #ifdef __cplusplus

@@ -10,7 +10,7 @@ enum { kMostArguments = 4 };
 typedef enum {
     kText,
     kBuffer, /* read and written */
-    kBlocks, /* an array of fixed-size strings, read and written; SQL passes each string as a value */
+    kBlocks, /* an array of fixed-size strings, read and written; SQL passes each as a separate value */
     kInteger,
     kUnsigned,
     kOutputText, /* write-only, so SQL does not pass it */

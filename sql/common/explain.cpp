@@ -87,7 +87,7 @@ std::string after(const OstrelCheck& check, const OstrelSlot* slots)
     return out.empty() ? "[]" : out + "]";
 }
 
-// lengths describes the lengths of a call's secret values. Nothing else about a secret may be shown.
+// lengths lists the length of each secret value in a call. Nothing else about a secret may be shown.
 std::string lengths(const OstrelCheck& check, const OstrelText* given)
 {
     std::string out;

@@ -121,7 +121,7 @@ class Hostile(unittest.TestCase):
         self.assertNotIn("Info in ", log)
 
     def test_texts(self):
-        """Each value is passed in a separate statement."""
+        """Each call is a separate statement, with its values as literals."""
         queries = []
         for name, values in shared.hostile_calls(3000, 22):
             texts = [value.decode("utf-8", "ignore") if isinstance(value, bytes) else str(value) for value in values]

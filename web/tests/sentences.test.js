@@ -55,7 +55,7 @@ test('no fixed phrase lacks a translation, and none is translated in vain', () =
 
 test('English is what the reasons say', (t) => {
   for (const {row, reason} of refused) {
-    // If a call has several arguments, the reason names the one at fault.
+    // If a call has several arguments, the reason names the offending one.
     const {argument, text} = reason;
     const severalGiven = checkOf(row.check).arguments.filter(({output}) => !output).length > 1;
     let expected = text;
