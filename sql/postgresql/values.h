@@ -28,7 +28,7 @@ char* ostrel_told(OstrelAnswer* answer);
  */
 Datum ostrel_jsonb(char* json);
 
-/* ostrel_shown converts bytes to the server's encoding, and escapes bytes that are not UTF-8 ("\xFF"). */
+/* ostrel_shown converts bytes to the server's encoding, and escapes bytes that are not valid UTF-8. */
 char* ostrel_shown(const char* bytes, size_t size);
 
 #endif

@@ -14,8 +14,8 @@ namespace {
 
 using rules::Set;
 
-// kMostSets exceeds the number of sets in the descriptions, so only sets that callers pass are converted
-// again.
+// kMostSets limits the number of sets whose JSON is cached. It exceeds the number of sets in the
+// descriptions, so only sets that callers pass are converted more than once.
 constexpr std::size_t kMostSets = 64;
 
 struct KnownSet {
