@@ -1,5 +1,5 @@
-// Derives buffer sizes and reasons from the descriptions. The exported functions are called from C, so no
-// exception may escape from them.
+// Derives buffer sizes and reasons from the descriptions. ostrel_room and ostrel_explain are called from C,
+// so no exception may escape from them.
 
 #include <algorithm>
 #include <cstdlib>

@@ -23,8 +23,8 @@ char* ostrel_told(OstrelAnswer* answer);
 
 /*
  * ostrel_jsonb converts JSON in ASCII to jsonb, and may modify the string. If the database uses neither UTF-8
- * nor Latin-1, the characters "\u0080" to "\u00FF", which its encoding might lack, are replaced with "\\x80" to
- * "\\xFF".
+ * nor Latin-1, the characters "\u0080" to "\u00FF", which its encoding might lack, are replaced with
+ * "\\x80" to "\\xFF".
  */
 Datum ostrel_jsonb(char* json);
 
