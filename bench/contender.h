@@ -1,4 +1,5 @@
-// Contenders, each of which judges a family's values. They are our rule, its peers and the limits.
+// Contenders judge the values of a family: our own rule, comparable implementations (peers), and lower bounds
+// that only read each value (limits).
 #ifndef OSTREL_BENCH_CONTENDER_H
 #define OSTREL_BENCH_CONTENDER_H
 
@@ -40,7 +41,7 @@ Contenders contenders();
 
 // Each of these adds contenders for the families that it supports.
 void add_ours(Contenders& all);
-void add_limits(Contenders& all);  // these only read each value
+void add_limits(Contenders& all);  // they only read each value
 void add_libc(Contenders& all);
 void add_pcre2(Contenders& all);
 void add_re2(Contenders& all);

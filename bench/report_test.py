@@ -1,4 +1,4 @@
-"""The chart and the page show all families, beginning with those in which a peer is faster."""
+"""Tests that the chart and the page show all families, beginning with those in which a peer is faster."""
 
 import contextlib
 import io

@@ -58,14 +58,15 @@ void add_libyang(Contenders& all)
     ly_ctx* context = nullptr;
     // libyang must not log refused values.
     ly_log_options(0);
-    if (ly_ctx_new(nullptr, 0, &context) != LY_SUCCESS) throw std::runtime_error("libyang has no context");
+    if (ly_ctx_new(nullptr, 0, &context) != LY_SUCCESS)
+        throw std::runtime_error("cannot create a libyang context");
     if (lys_parse_mem(context, kModule, LYS_IN_YANG, nullptr) != LY_SUCCESS) {
         throw std::runtime_error("libyang does not accept the module");
     }
     for (const ValueFamily& family : families()) {
         const std::string path = "/ostrel-bench:" + family.name;
         const lysc_node* leaf = lys_find_path(context, nullptr, path.c_str(), 0);
-        if (leaf == nullptr) throw std::runtime_error("libyang does not find " + path);
+        if (leaf == nullptr) throw std::runtime_error("libyang cannot find " + path);
         all.push_back(contender(family.name, "libyang", [context, leaf](const char* v) {
             return lyd_value_validate(context, leaf, v, std::strlen(v), nullptr, nullptr, nullptr) ==
                    LY_SUCCESS;

@@ -22,7 +22,7 @@ void add_urls(Contenders& all)
     }));
     // Reusing one handle for all values is fastest.
     CURLU* handle = curl_url();
-    if (handle == nullptr) throw std::runtime_error("curl_url has no handle");
+    if (handle == nullptr) throw std::runtime_error("curl_url returned no handle");
     all.push_back(contender("url", "libcurl", [handle](const char* v) {
         return curl_url_set(handle, CURLUPART_URL, v, 0) == CURLUE_OK;
     }));

@@ -1,5 +1,5 @@
-# Common settings for Debian's cross compilers. Before a toolchain file includes this file, it sets OSTREL_TRIPLET, the
-# prefix of the compiler's programs, and OSTREL_EMULATOR, which runs the target's programs.
+# Common settings for Debian's cross compilers. Before including this file, a toolchain file must set OSTREL_TRIPLET,
+# the prefix of the names of the compiler's programs, and OSTREL_EMULATOR, which runs programs for the target.
 set(CMAKE_SYSTEM_NAME Linux)
 string(REGEX REPLACE "-.*" "" CMAKE_SYSTEM_PROCESSOR ${OSTREL_TRIPLET})
 

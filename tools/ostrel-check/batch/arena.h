@@ -68,7 +68,7 @@ class Arena {
 
     std::size_t file = 0;  // index of the file that the input comes from
     FileFormat format = FileFormat::kWords;
-    std::size_t preamble_size = 0;  // the input begins with the file's preamble
+    std::size_t preamble_size = 0;  // bytes of the file's preamble, with which the input begins
     std::size_t input_size = 0;
     std::array<char, 2 * kLongestText + kChunk> input;
     std::array<char, kOutput> output;
@@ -96,14 +96,14 @@ struct Unmap {
     void operator()(Arena* arena) const;
 };
 
-// map_arena throws std::system_error.
+// map_arena creates an arena in shared memory. Throws std::system_error.
 std::unique_ptr<Arena, Unmap> map_arena();
 
-// release_pages returns pages of one of the arena's arrays to the system: those that were used, except those
-// that contain the first kept bytes.
+// release_pages returns to the system those pages of one of the arena's arrays that lie after the first kept
+// bytes and within the first used bytes.
 void release_pages(char* begin, std::size_t used, std::size_t kept);
 
-// release_prints does this with what the last call printed.
+// release_prints does the same for the arrays that contain what the last call printed.
 void release_prints(calling::Prints& prints);
 
 }  // namespace ostrel::tool

@@ -150,7 +150,8 @@ class Batch {
         return !chunk.text.empty();
     }
 
-    // clear_keys erases what the terminal shows for the interrupt keys. Only the first call has an effect.
+    // clear_keys erases the characters that the terminal echoed for the interrupt keys. Only the first call
+    // has an effect.
     void clear_keys()
     {
         if (!std::exchange(is_interrupted_, true)) meter_.clear_keys();
@@ -160,7 +161,7 @@ class Batch {
     int stop()
     {
         meter_.clear();
-        // A signal may have arrived since the main loop last looked for one.
+        // A signal may have arrived since the main loop last checked for one.
         if (StopSignals::number() != 0) clear_keys();
         if (error_ != 0) {
             say("ostrel-check: cannot write the results: " + std::generic_category().message(error_) + "\n");

@@ -1,4 +1,4 @@
-// Judging many cases in worker processes, with the results in the order of the input.
+// Judges many cases in worker processes, and writes the results in the order of the input.
 #ifndef OSTREL_TOOLS_BATCH_BATCH_H
 #define OSTREL_TOOLS_BATCH_BATCH_H
 

@@ -85,7 +85,7 @@ class LogWriter {
     Log* log_;
     std::uint64_t round_ = 1;
     std::unordered_map<std::string, Known> known_;
-    std::array<KnownRow*, 256> last_known_{};  // the last one of each check, which often is the next one too
+    std::array<KnownRow*, 256> last_known_{};  // each check's last row, which is often needed again
     std::string key_;
 };
 

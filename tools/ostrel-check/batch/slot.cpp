@@ -64,7 +64,7 @@ void Slot::start_round()
     commits_seen_ = arena_->commits();
     seen_at_ = Clock::now();
     if (worker_ == 0) start_worker();
-    // If the worker has ended in the meantime, look detects it.
+    // If the worker has ended in the meantime, the next call to look detects that.
     write_all(orders_.writing.number(), "g");
 }
 
@@ -200,7 +200,7 @@ Taken Slot::take(int descriptor, Summary& summary)
         for (std::uint32_t i = done; i < progress.log.entries; ++i) taken.line -= log.entries[i].lines;
     }
     taken.is_within_line = done > 0 && log.entries[done - 1].lines == 0;
-    // The last line of a file may not end in a line feed.
+    // The last line of a file might not end in a line feed.
     if (taken.is_within_line && taken.error == 0 && is_done() && arena_->format != FileFormat::kJson) {
         taken.is_within_line = false;
         ++taken.line;

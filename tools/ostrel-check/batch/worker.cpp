@@ -198,7 +198,7 @@ class Judge {
     Redactor redactor_;
     std::string text_;
     std::string parameter_;
-    std::string said_;  // standard error, including the driver's
+    std::string said_;  // output to standard error, including the driver's
 };
 
 }  // namespace
@@ -206,7 +206,7 @@ class Judge {
 void run_worker(Arena& arena, const Style& style, const Reading& reading,
                 const std::vector<std::string>& files, const Descriptor& orders, const Descriptor& answers)
 {
-    // A program that a check runs must not read the batch's input or write among its results.
+    // A program that a check runs must not read the batch's input or write to its output.
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nothing, standard);
     Judge judge(arena, style, reading, files);

@@ -1,5 +1,5 @@
-// Options that accept one of a few words. Help, the manual page and completion show the words as the type of
-// the option.
+// Options that accept one of a few words. Help, the manual page and completion show the words as the
+// option's type.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
 #define OSTREL_TOOLS_COMMAND_LINE_CHOICE_H
 

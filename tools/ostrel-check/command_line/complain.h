@@ -21,8 +21,8 @@ int complain_of_usage(std::string_view problem);
 // complain_of_name reports a word that is neither a command nor a check, with suggestions.
 int complain_of_name(const CLI::App& app, const std::string& name);
 
-// find_meant returns the check with that name in upper or lower case, or NULL. It prints a note if the case
-// differs.
+// find_meant returns the check with the given name, ignoring case, or NULL if there is none. It prints a note
+// if the case differs.
 const catalogue::Function* find_meant(const std::string& name);
 
 }  // namespace ostrel::tool

@@ -55,7 +55,7 @@ Candidates long_options_of(const CLI::App& app)
     return candidates;
 }
 
-// keywords_at returns the keywords of the argument to which the value at this index belongs.
+// keywords_at returns the keywords of the argument to which the value at the given index belongs.
 Candidates keywords_at(std::string_view name, std::size_t value)
 {
     const Function* function = catalogue::find_in_any_case(name);
@@ -74,7 +74,7 @@ Candidates keywords_at(std::string_view name, std::size_t value)
     return {};
 }
 
-// Parser reads the words before the one to be completed in the same way as the command-line parser.
+// Parser reads the words before the one to be completed as the command-line parser would.
 class Parser {
  public:
     explicit Parser(const CLI::App& app) : app_(&app) {}
@@ -114,7 +114,7 @@ class Parser {
     }
 
  private:
-    // takes_value returns the option with that name if it takes a value, and NULL otherwise.
+    // takes_value returns the option with the given name if it takes a value, and NULL otherwise.
     [[nodiscard]] const CLI::Option* takes_value(const std::string& name) const
     {
         const CLI::Option* option = app_->get_option_no_throw(name);

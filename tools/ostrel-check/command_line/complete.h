@@ -18,8 +18,8 @@ struct Candidate {
     std::string what;  // a short description; may be empty
 };
 
-// complete returns the candidates for the last word. The words are those after the program's name. The case
-// of letters is ignored. If the last word is --option=VALUE, a candidate is only the value.
+// complete returns the candidates for the last word. The words are those after the program's name. Case is
+// ignored. If the last word is --option=VALUE, each candidate consists of the value alone.
 std::vector<Candidate> complete(const CLI::App& app, std::span<const std::string> words);
 
 }  // namespace ostrel::tool

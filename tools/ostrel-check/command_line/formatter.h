@@ -17,7 +17,7 @@ std::vector<const CLI::Option*> options_of(const CLI::App& app);
 // positionals_of returns the positional arguments.
 std::vector<const CLI::Option*> positionals_of(const CLI::App& app);
 
-// synopses_of returns a line for each way to call the program or, for a command, its one line.
+// synopses_of returns a line for each way to call the program or, for a command, a single line.
 std::vector<std::string> synopses_of(const CLI::App& app);
 
 // usage_of returns the synopses as they appear at the beginning of the help.

@@ -67,7 +67,7 @@ parameters, they are taken from the same gateway, and the result follows at its
 end. Parameters without a check are counted and listed in the summary.
 
 A line ends in a line feed, or in a carriage return and a line feed. A line, a
-row or an element may have at most 16 MiB.
+row or an element may be at most 16 MiB long.
 
 With --stream, each record has exactly one line of results, in order. The line
 depends only on the record and its line number (it is empty for a line without a

@@ -16,7 +16,7 @@ std::string one_byte(const std::string& given)
     const std::string delimiter = read_escapes(given);
     constexpr std::string_view kTaken("\"\r\n\0", 4);
     if (delimiter.size() == 1 && kTaken.find(delimiter) == std::string_view::npos) return {};
-    return "the delimiter must be a single byte other than NUL, \", CR and LF";
+    return "the delimiter must be a single byte other than NUL, \", CR or LF";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The options of batch that control how its files are read.
+// Options of the batch command that control how its files are read.
 #ifndef OSTREL_TOOLS_COMMAND_LINE_READING_OPTIONS_H
 #define OSTREL_TOOLS_COMMAND_LINE_READING_OPTIONS_H
 

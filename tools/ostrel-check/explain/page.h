@@ -23,8 +23,8 @@ class Page {
     void item(std::string_view label, std::string_view text);
     void detail(std::string_view text);  // belongs to the last item
 
-    // Steps may be nested. note and line belong to the last step at that depth. line shows a line that the
-    // check prints.
+    // Steps may be nested. note and line belong to the last step at the given depth. line shows a line that
+    // the check prints.
     void step(std::size_t depth, std::string_view number, std::string_view text);
     void note(std::size_t depth, std::string_view text);
     void line(std::size_t depth, std::string_view label, std::string_view text);

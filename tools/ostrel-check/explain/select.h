@@ -13,8 +13,8 @@ namespace ostrel::tool {
 using Selection = std::vector<const catalogue::Function*>;
 
 // select returns the checks of the family (of every family if it is empty) that match all patterns. A pattern
-// matches if it occurs, in any case, in the check's name, in the description of what it accepts, or in an
-// argument's name or description.
+// matches if it occurs in the check's name, in the description of what it accepts, or in an argument's name
+// or description, regardless of case.
 Selection select(std::string_view family, const std::vector<std::string>& patterns);
 
 }  // namespace ostrel::tool

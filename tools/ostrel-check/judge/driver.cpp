@@ -76,7 +76,7 @@ Turn::Turn(const catalogue::Function& function, const std::function<void()>& sti
 {
     if (!asks_driver(function)) return;
     constexpr useconds_t kPause = 10'000;
-    // The processes that write the file share nothing but its folder, so the lock is on the folder.
+    // Each check creates the file and unlinks it, so the lock is on the folder, which persists.
     lock_ = Descriptor(open(kChannelFolder, O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     while (flock(lock_.number(), LOCK_EX | LOCK_NB) != 0 && (errno == EWOULDBLOCK || errno == EINTR)) {
         still_waiting();

@@ -49,7 +49,7 @@ class Turn {
 struct Heard {
     std::vector<int> channels;
     std::string said;     // standard error from the driver's tool or from the shell
-    std::string problem;  // why there is no list; empty if there is one
+    std::string problem;  // why there is no channel list; empty if there is one
 };
 
 // Listening records the driver's answers from its construction until heard() is called. Call the check in
@@ -72,7 +72,7 @@ class Listening {
     Descriptor standard_error_;
 };
 
-// clean_up_after removes the file that a check leaves if it is stopped while it queries the driver.
+// clean_up_after removes the file that a check leaves behind if it is stopped while it queries the driver.
 void clean_up_after(const catalogue::Function& function);
 
 }  // namespace ostrel::tool

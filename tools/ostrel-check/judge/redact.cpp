@@ -18,8 +18,7 @@ namespace {
 // A shorter secret would occur by chance in too many strings.
 constexpr std::size_t kShortestSought = 4;
 
-// arguments_of returns the argument for each value of a case. A case may omit arguments that are only
-// written.
+// arguments_of returns the argument for each value of a case. A case may omit output-only arguments.
 std::vector<const rules::Argument*> arguments_of(const Result& result)
 {
     const catalogue::Function& function = *result.function;

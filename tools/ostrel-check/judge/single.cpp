@@ -84,7 +84,8 @@ Marker& marker_of(int descriptor)
     return descriptor == STDOUT_FILENO ? out : error;
 }
 
-// pass_on returns what the C library expects from a stream's write function, which must not throw.
+// pass_on writes text and returns what the C library expects from a stream's write function. It must not
+// throw.
 ssize_t pass_on(int descriptor, std::string_view text)
 {
     try {

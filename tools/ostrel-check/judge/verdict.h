@@ -33,8 +33,8 @@ inline constexpr std::size_t kVerdicts = 7;
 std::string_view name_of(Verdict verdict);
 std::string_view json_name(Verdict verdict);
 
-// has_code returns whether the number that the check returned is meaningful, and is_code whether it is a
-// result code.
+// has_code returns whether the number that the check returned is meaningful for the verdict. is_code returns
+// whether that number is a result code.
 bool has_code(Verdict verdict);
 bool is_code(Verdict verdict);
 

@@ -132,8 +132,8 @@ class Comparer {
         return found;
     }
 
-    // search derives values from the description. If the description is incomplete, some of them may not be
-    // differences.
+    // search tries values that it derives from the description. If the description is incomplete, some of
+    // them might not be differences.
     std::optional<Difference> search(Kind kind)
     {
         constexpr int kMostTexts = 8;

@@ -18,7 +18,7 @@ enum class Relation {
     kSame,
     kNarrower,  // the check refuses some values that are allowed
     kWider,     // the check accepts some values that are not allowed
-    kOther,     // both
+    kOther,     // both narrower and wider
     kUnknown,   // no difference was found, but equality is not proved
 };
 

@@ -60,8 +60,8 @@ const Member& Dump::require(std::string_view name) const
     return *member;
 }
 
-// path_name returns the name of the column or member with the path of a row, or an empty string if there is
-// none.
+// path_name returns the name of the column or member that contains a row's path, or an empty string if there
+// is none.
 std::string_view Dump::path_name() const
 {
     if (!reading_.parameter.empty()) return reading_.parameter;

@@ -1,4 +1,4 @@
-// Cutting a file after whole gateways, and counting the gateways whose rows are not adjacent.
+// Cuts a file between gateways, and counts the gateways whose rows are not adjacent.
 #ifndef OSTREL_TOOLS_MAP_MAP_CUTTER_H
 #define OSTREL_TOOLS_MAP_MAP_CUTTER_H
 

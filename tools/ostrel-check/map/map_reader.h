@@ -28,12 +28,12 @@ class MapReader : public Reader {
     std::size_t skip(std::string_view rest, std::uint64_t line) override;
 
     // read continues where the previous call stopped. In a worker that takes over from another one, it starts
-    // again at the beginning of the chunk and skips the records that were read before. read does not throw. A
-    // fault in a row becomes the problem of its record, and read continues with the next row.
+    // again at the beginning of the chunk and skips the records that were read before. read does not throw.
+    // If a row is faulty, read stores the problem in the row's record and continues with the next row.
     Found read(std::string_view text, std::size_t part, Record& record) override;
 
  private:
-    // Next is what read_row finds next.
+    // Next is the result of read_row.
     enum class Next { kRow, kGatewayEnd, kProblem, kNothing };
 
     void begin(std::string_view text);

@@ -10,8 +10,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// argument_of returns the argument for the source at the given index. Arguments that are only written have no
-// source.
+// argument_of returns the argument for the source at the given index. Output-only arguments have no source.
 const catalogue::Argument& argument_of(const catalogue::Function& function, std::size_t index)
 {
     for (const catalogue::Argument& argument : function.arguments) {
@@ -126,7 +125,7 @@ void Mapper::defer(std::size_t entry)
     deferred_.push_back(std::move(one));
 }
 
-// is_first returns whether the call has not yet been derived from another of its parameters.
+// is_first returns true unless the same call has already been derived from another of its parameters.
 bool Mapper::is_first(const MapEntry& entry, std::span<const std::string_view> numbers)
 {
     std::string call = std::to_string(entry.call);

@@ -1,4 +1,4 @@
-// Deriving calls of checks from a gateway's parameters, according to a map.
+// Derives calls to checks from a gateway's parameters, according to a map.
 #ifndef OSTREL_TOOLS_MAP_MAPPER_H
 #define OSTREL_TOOLS_MAP_MAPPER_H
 
@@ -17,7 +17,7 @@
 
 namespace ostrel::tool {
 
-// Lack is the reason why a call cannot be made even though the value itself is not the cause.
+// Lack is the reason why a call cannot be made, if the cause is not the value itself.
 struct Lack {
     std::string_view id;        // "missing_sibling" or "no_word"; empty if nothing is missing
     std::string_view argument;  // the argument that has no value

@@ -1,4 +1,4 @@
-// Judging a value with the check of a map entry, and with the map's examples as the other arguments.
+// Judges a value with the check of a map entry, using the map's examples as the other arguments.
 #ifndef OSTREL_TOOLS_MAP_PROBE_H
 #define OSTREL_TOOLS_MAP_PROBE_H
 

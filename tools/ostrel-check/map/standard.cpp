@@ -67,8 +67,8 @@ class StandardBuilder {
         return languages_.repeated(languages_.byte(set), least, most);
     }
 
-    // of_lengths returns the strings in which one is repeated as many times as any of the ranges allows. The
-    // upper limits are multiplied by factor.
+    // of_lengths returns the strings that consist of n strings of the language one, for each n in any of the
+    // ranges. The upper limits are multiplied by factor.
     Language of_lengths(const std::vector<Range>& lengths, Language one, std::size_t factor = 1)
     {
         if (lengths.empty()) return languages_.repeated(one, 0);

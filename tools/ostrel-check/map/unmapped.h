@@ -22,8 +22,8 @@ std::string_view why_unmapped(const Map& map, std::string_view path);
 // SplitGateways remembers recent gateways, and counts those whose rows are not adjacent.
 class SplitGateways {
  public:
-    // begin records that a sequence of a gateway's rows begins, and counts the gateway if an earlier sequence
-    // of its rows has ended. It ignores gateways without a name, which are always separate.
+    // begin records the start of a run of adjacent rows of a gateway, and counts the gateway if it already
+    // had such a run. It ignores gateways without a name, which are always separate.
     void begin(std::string_view gateway);
 
     [[nodiscard]] std::uint64_t count() const { return count_; }

@@ -1,4 +1,4 @@
-// Converts a record to a call of a check.
+// Converts a record to the arguments of a check.
 #ifndef OSTREL_TOOLS_READ_BIND_H
 #define OSTREL_TOOLS_READ_BIND_H
 

@@ -1,4 +1,4 @@
-// Reads the records of a file as calls of checks.
+// Reads the records of a file as calls to checks.
 #ifndef OSTREL_TOOLS_READ_CASES_H
 #define OSTREL_TOOLS_READ_CASES_H
 

@@ -42,7 +42,7 @@ class Input {
     // is_ready returns whether read can return a chunk without reading from the file.
     [[nodiscard]] bool is_ready() const { return is_ready_; }
 
-    // descriptor returns the descriptor from which the next call of read reads.
+    // descriptor returns the descriptor that the next call to read will use.
     [[nodiscard]] int descriptor() const { return file_.number(); }
 
     // read reads from the file once, waiting if necessary, and returns the entries that are now complete.

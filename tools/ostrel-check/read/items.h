@@ -11,10 +11,10 @@
 
 namespace ostrel::tool {
 
-// Items makes items, whose views are valid until the next call of begin.
+// Items makes items, whose views are valid until the next call to begin.
 class Items {
  public:
-    // begin reserves memory for the items of a record of that size. Each byte of the record may be used
+    // begin reserves memory for the items of a record of the given size. Each byte of the record may be used
     // twice.
     void begin(std::size_t size, Encoding encoding)
     {

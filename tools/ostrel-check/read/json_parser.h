@@ -14,8 +14,8 @@
 
 namespace ostrel::tool {
 
-// kDeepest limits how deeply JSON may be nested. The parser recurses for each level, so a handler must return false
-// beyond it.
+// kDeepest limits how deeply JSON may be nested. The parser recurses for each level, so a handler must return
+// false beyond this limit.
 inline constexpr std::size_t kDeepest = 32;
 
 // plain_size returns the size of the longest prefix that JSON strings contain without escapes.
@@ -46,8 +46,8 @@ inline std::size_t plain_size(std::string_view text)
 
 // TokenStream hides all but the first of several consecutive digits from the parser, unless the first is 0.
 // The parser computes the value of each number, although only the token is needed, and refuses a number that
-// no double can represent. If digits are hidden, the value is small, but the parser finds the same end and
-// the same faults of the token. TokenStream also skips the beginning of a string up to the first escape,
+// no double can represent. While digits are hidden, the value stays small, but the parser still finds the end
+// of the token and any fault in it. TokenStream also skips the part of a string before the first escape,
 // because decoding does not move those bytes.
 class TokenStream : public rapidjson::InsituStringStream {
  public:
@@ -65,7 +65,8 @@ class TokenStream : public rapidjson::InsituStringStream {
         }
         return taken;
     }
-    // PutBegin is called at the beginning of a string, after its quotation mark, and at the beginning of a number.
+    // PutBegin is called at the beginning of a number, and at the beginning of a string, after its quotation
+    // mark.
     char* PutBegin()
     {
         char* const begin = GenericInsituStringStream::PutBegin();
@@ -109,7 +110,7 @@ inline void SkipWhitespace(ostrel::tool::TokenStream& is)
 namespace ostrel::tool {
 
 // JsonParser parses a copy of the text and decodes strings within the copy, so the strings that a handler
-// receives are valid until the next call of parse. Numbers are passed as they are written.
+// receives are valid until the next call to parse. Numbers are passed as they are written.
 class JsonParser {
  public:
     template <typename Handler>

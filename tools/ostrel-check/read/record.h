@@ -35,7 +35,7 @@ struct Member {
 // GatewayCounts counts what a gateway's dump contains apart from judged values.
 struct GatewayCounts {
     std::uint32_t parameters = 0;  // all parameters
-    std::uint32_t skipped = 0;     // their values carry no information, according to the map
+    std::uint32_t skipped = 0;     // those whose values carry no information, according to the map
     std::uint32_t repeated = 0;    // siblings that occurred again, so that their earlier values are lost
 };
 
@@ -51,7 +51,7 @@ struct Record {
     Kind kind = Kind::kCase;
     std::uint64_t line = 0;  // where the record begins, counted from the beginning of its entry
     std::string_view check;  // the check's name, or empty if the record has none
-    std::string_view path;   // of a parameter without a check
+    std::string_view path;   // the path of a parameter without a check
     GatewayCounts counts;    // at the end of a gateway
     std::uint64_t end = 0;   // at the end of a gateway, the line where the next one begins
     std::vector<Item> items;
@@ -73,7 +73,7 @@ struct Record {
         may_have_spares = false;
     }
 
-    // find returns the last member with that name, or NULL.
+    // find returns the last member with the given name, or NULL.
     [[nodiscard]] const Member* find(std::string_view name) const
     {
         const auto found = std::ranges::find(members.rbegin(), members.rend(), name, &Member::name);

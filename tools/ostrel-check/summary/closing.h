@@ -1,4 +1,4 @@
-// The settings for the summary and the exit code of a batch.
+// Settings for the summary and the exit code of a batch.
 #ifndef OSTREL_TOOLS_SUMMARY_CLOSING_H
 #define OSTREL_TOOLS_SUMMARY_CLOSING_H
 

@@ -12,8 +12,8 @@
 namespace ostrel::tool {
 
 inline constexpr std::uint16_t kNoCheck = 0xFFFF;
-// kUnmapped marks a row that counts no records, but parameters of dumps for which the map has no check. The
-// example explains why, or is empty.
+// kUnmapped marks a row that does not count records, but parameters in dumps for which the map has no check.
+// The row's example is the map's explanation of why, or is empty.
 inline constexpr std::uint16_t kUnmapped = 0xFFFE;
 
 // SummaryRow contains what its records have in common, and one of them as an example. It does not own the

@@ -38,7 +38,7 @@ class Meter {
     void show(const Advance& advance);
     void clear();
 
-    // clear_keys erases the characters that the terminal shows for the interrupt keys.
+    // clear_keys erases the characters that the terminal echoed for the interrupt keys.
     void clear_keys() const;
 
     // is_due returns whether it is time to show the progress.

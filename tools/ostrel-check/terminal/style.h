@@ -13,7 +13,7 @@ bool wants_colours(int descriptor);
 
 enum class Colour { kBold, kGreen, kRed };
 
-// painted returns the text in that colour, or unchanged if with_colours is false.
+// painted returns the text in the given colour, or unchanged if with_colours is false.
 std::string painted(std::string_view text, Colour colour, bool with_colours);
 
 // kColumns is the default width.

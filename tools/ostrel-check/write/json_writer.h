@@ -16,7 +16,7 @@
 namespace ostrel::tool {
 
 // JsonWriter copies strings that need no escapes, and finished JSON, as a whole. RapidJSON's own writer
-// processes both byte by byte, which would take half of the time for a result.
+// processes both byte by byte, which would take half of the time that a result needs.
 class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
  public:
     using Writer::Writer;
@@ -58,8 +58,8 @@ void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encod
 // write_member writes the value of a member that is passed through.
 void write_member(JsonWriter& json, const Member& member);
 
-// text_of returns the value of a member that is passed through, as JSON unless it is a string. The result is a
-// view of the member or of memory.
+// text_of returns the value of a member that is passed through, as JSON unless it is a string. The result is
+// a view into the member or into memory.
 std::string_view text_of(const Member& member, std::string& memory);
 
 // append_bytes does the same as write_bytes for JSON that is built without a writer.

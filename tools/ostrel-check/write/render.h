@@ -34,7 +34,7 @@ struct Location {
     std::uint64_t line = 0;
 };
 
-// render_result returns a result in that style. The view refers to memory, or is valid until the next call.
+// render_result renders a result. The returned view refers to memory, or is valid until the next call.
 std::string_view render_result(std::string& memory, const Style& style, const Location& place,
                                const Result& result);
 

@@ -12,8 +12,8 @@
 
 namespace ostrel::tool {
 
-// append_escaped appends bytes, with control bytes, DEL and bytes from 0x80 as \xNN. If there are more than
-// limit bytes, it omits the rest and appends the size.
+// append_escaped appends bytes, with control bytes, DEL and bytes from 0x80 up as \xNN. If there are more
+// than limit bytes, it omits the rest and appends the size.
 void append_escaped(std::string& out, std::string_view bytes, std::size_t limit);
 
 // append_word appends a string as a word that Words reads as the same string, unless it is cut.
