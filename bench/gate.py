@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Fails if one of the hottest rules executes more instructions than before.
+"""Fails if one of the hottest rules executes over 10 % more instructions than its baseline.
 
 usage: gate.py PROGRAM BASELINE [--accept]
 

@@ -6,7 +6,7 @@ namespace ostrel::bench {
 
 namespace {
 
-// read_each_byte is a separate function, as every rule is.
+// read_each_byte is a separate function, like every rule.
 [[gnu::noinline]] unsigned read_each_byte(const char* value)
 {
     unsigned sum = 0;

@@ -25,8 +25,8 @@ void add_names(Candidates& candidates)
         candidates.push_back({std::string(function.name), rules::accepted(*function.check, gateway())});
 }
 
-// values_of returns the candidates for a type, in which literal words are in lower case, and placeholders
-// such as FILE are in capital letters.
+// values_of returns the candidates for an option's type. In the type, literal words are in lower case, and
+// placeholders such as FILE are in capital letters.
 Candidates values_of(const std::string& type)
 {
     Candidates candidates;

@@ -48,7 +48,7 @@ class Turn {
 // Heard is the driver's answer during a call.
 struct Heard {
     std::vector<int> channels;
-    std::string said;     // standard error from the driver's tool or from the shell
+    std::string said;     // what the driver's tool and the shell wrote to standard error
     std::string problem;  // why there is no channel list; empty if there is one
 };
 

@@ -1,4 +1,4 @@
-// Removing the values of secret arguments from results.
+// Removes the values of secret arguments from results.
 #ifndef OSTREL_TOOLS_JUDGE_REDACT_H
 #define OSTREL_TOOLS_JUDGE_REDACT_H
 

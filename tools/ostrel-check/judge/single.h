@@ -1,4 +1,4 @@
-// Judging one case in a separate process, and printing the check's output as it arrives.
+// Judges one case in a separate process, and prints the check's output as it arrives.
 #ifndef OSTREL_TOOLS_JUDGE_SINGLE_H
 #define OSTREL_TOOLS_JUDGE_SINGLE_H
 

@@ -1,4 +1,4 @@
-// Comparing the values that a data model allows with those that the gateway's check accepts.
+// Compares the values that a data model allows with those that the gateway's check accepts.
 #ifndef OSTREL_TOOLS_MAP_COMPARE_H
 #define OSTREL_TOOLS_MAP_COMPARE_H
 

@@ -21,7 +21,7 @@ struct ModelFacts {
     std::string type;    // as in the model; "string" for "list of string"
     std::string limits;  // as in the model
     bool is_list = false;
-    bool is_hidden = false;  // read back as an empty string
+    bool is_hidden = false;  // reading the parameter returns an empty string
     bool is_writable = false;
     std::vector<Range> numbers = {};  // a number must be in one of these ranges
     std::vector<Range> lengths = {};  // in characters, or in bytes for hexBinary and base64

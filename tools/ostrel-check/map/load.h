@@ -1,4 +1,4 @@
-// Reading a map, with error messages that contain the file, the line and the place of the problem.
+// Reads a map. Error messages contain the file, the line and the place of the problem.
 #ifndef OSTREL_TOOLS_MAP_LOAD_H
 #define OSTREL_TOOLS_MAP_LOAD_H
 

@@ -42,7 +42,7 @@ void PathPattern::append(std::string& out, std::span<const std::string_view> num
 
 bool PathPattern::matches(std::string_view path, std::span<const std::string_view> numbers) const
 {
-    // A pattern has fewer {i} than the path has numbers only if it contains a literal number.
+    // If the pattern has as many {i} as the path has numbers, it contains no literal number to compare.
     if (instances() == numbers.size()) return true;
     for (std::string_view rest = text_; !rest.empty();) {
         const std::size_t dot = std::min(rest.find('.'), rest.size());

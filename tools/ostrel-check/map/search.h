@@ -1,4 +1,4 @@
-// Finding a readable string in a language.
+// Finds a readable string in a language.
 #ifndef OSTREL_TOOLS_MAP_SEARCH_H
 #define OSTREL_TOOLS_MAP_SEARCH_H
 

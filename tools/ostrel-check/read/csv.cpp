@@ -30,7 +30,7 @@ CsvReader::CsvReader(FileFormat format, const Reading& reading, std::string_view
     choose_passed();
 }
 
-// column returns the last column with the given name, because the last one counts, as in JSON.
+// column returns the last column with the given name, which overrides earlier ones, as in JSON.
 std::optional<std::size_t> CsvReader::column(std::string_view name) const
 {
     const auto found = std::ranges::find(names_.rbegin(), names_.rend(), name);

@@ -133,7 +133,7 @@ class JsonCutter : public Cutter {
         }
     }
 
-    // take_element cuts off the element at a position if it is valid JSON.
+    // take_element cuts off the element at the given position if it is valid JSON.
     std::size_t take_element(std::string_view bytes, std::size_t at, Cut& cut)
     {
         find_fault(bytes.substr(at, element_.at), cut);

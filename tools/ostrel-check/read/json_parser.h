@@ -1,4 +1,4 @@
-// JSON as a sequence of events, from RapidJSON.
+// Parses JSON into a sequence of events, with RapidJSON.
 #ifndef OSTREL_TOOLS_READ_JSON_PARSER_H
 #define OSTREL_TOOLS_READ_JSON_PARSER_H
 

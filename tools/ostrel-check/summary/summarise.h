@@ -1,4 +1,4 @@
-// Adding up the output of batches that judged parts of one input.
+// Adds up the output of batches that judged parts of one input.
 #ifndef OSTREL_TOOLS_SUMMARY_SUMMARISE_H
 #define OSTREL_TOOLS_SUMMARY_SUMMARISE_H
 

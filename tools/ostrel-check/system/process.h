@@ -1,4 +1,4 @@
-// Running checks in separate processes, because a check may crash or hang.
+// Runs checks in separate processes, because a check may crash or hang.
 #ifndef OSTREL_TOOLS_SYSTEM_PROCESS_H
 #define OSTREL_TOOLS_SYSTEM_PROCESS_H
 
@@ -33,7 +33,7 @@ struct Pipe {
     Descriptor writing;
 };
 
-// make_pipe throws std::system_error.
+// make_pipe creates a pipe. Throws std::system_error.
 Pipe make_pipe();
 
 // fork_guarded forks, and returns 0 in the child and the child's process id in the parent. The child leads

@@ -20,7 +20,7 @@ struct Advance {
 // size_of returns the number of bytes in the files, or nothing if one of them is not a regular file.
 std::optional<std::uint64_t> size_of(const std::vector<std::string>& files);
 
-// describe returns the progress in a line of at most 80 columns. The estimate of the remaining time
+// describe returns the progress as a line of at most 80 columns. The estimate of the remaining time
 // disregards the skipped bytes, which were not judged.
 std::string describe(const Advance& advance, double seconds, std::optional<std::uint64_t> size,
                      std::uint64_t skipped);

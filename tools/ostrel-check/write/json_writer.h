@@ -58,8 +58,8 @@ void write_value(JsonWriter& json, const catalogue::Value& value, Encoding encod
 // write_member writes the value of a member that is passed through.
 void write_member(JsonWriter& json, const Member& member);
 
-// text_of returns the value of a member that is passed through, as JSON unless it is a string. The result is
-// a view into the member or into memory.
+// text_of returns the value of a member that is passed through: the text of a string, or the JSON of any
+// other value. The result is a view into the member or into memory.
 std::string_view text_of(const Member& member, std::string& memory);
 
 // append_bytes does the same as write_bytes for JSON that is built without a writer.
