@@ -13,7 +13,7 @@ namespace ostrel::tool {
 inline constexpr std::string_view kAdviceOnNames =
     "ostrel-check list WORD searches the names and rules of all checks.\n";
 
-// complain prints the problem and then the advice, which must end with a line ending. It returns the exit code.
+// complain prints the problem and then the advice, which must end with a line feed. It returns the exit code.
 int complain(std::string_view problem, std::string_view advice);
 
 int complain_of_usage(std::string_view problem);

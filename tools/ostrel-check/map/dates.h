@@ -1,4 +1,4 @@
-// Dates and times in the notation of XML Schema.
+// Dates and times in XML Schema notation.
 #ifndef OSTREL_TOOLS_MAP_DATES_H
 #define OSTREL_TOOLS_MAP_DATES_H
 

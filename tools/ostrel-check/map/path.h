@@ -13,7 +13,7 @@ namespace ostrel::tool {
 // kInstance stands for any instance number in a pattern.
 inline constexpr std::string_view kInstance = "{i}";
 
-// PathPattern is a path in the notation of a map.
+// PathPattern is a path as it is written in a map.
 class PathPattern {
  public:
     PathPattern() = default;
