@@ -30,11 +30,11 @@ std::vector<Check> branding_check()
               {refuse(802, longer_than(255),
                       line("Error in Param_check_server_value: The length of string :<value> shoud not be "
                            "less than 256\n"))}),
-        check("Param_check_login_value", {text("value", "the user name at the server")},
+        check("Param_check_login_value", {text("value", "the user name on the server")},
               {refuse(802, longer_than(39),
                       line("Error in Param_check_login_value: The length of string :<value> shoud not be "
                            "less than 40\n"))}),
-        check("Param_check_pword_value", {text("value", "the password at the server").secret()},
+        check("Param_check_pword_value", {text("value", "the password on the server").secret()},
               {refuse(802, longer_than(29),
                       line("Error in Param_check_pword_value: The length of string :<value> shoud not be "
                            "less than 30\n"))}),

@@ -64,7 +64,6 @@ class Parts {
 void add_runs(const std::string& members, Parts& parts)
 {
     std::string single;
-    single.reserve(2 * members.size());
     for (std::size_t begin = 0; begin < members.size();) {
         std::size_t end = begin + 1;
         while (end < members.size() &&

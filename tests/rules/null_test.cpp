@@ -52,7 +52,7 @@ std::string outcome_in_words(const Function& function, const std::vector<Value>&
 std::set<std::string> outcomes_in(const std::string& text)
 {
     const std::regex outcome(
-        "failed assertion [^ ]+( \\*\\)0\\))? != [^ )]+( \\*\\)0\\))?|memory fault|passed to the C "
+        "failed assertion [^ ]+( \\*\\)0\\))? != [^ )]+( \\*\\)0\\))?(?=\\))|memory fault|passed to the C "
         "library|does not return|accepted|"
         "(returns |refused with )(-?[0-9]+((, | or )-?[0-9]+)*)");
     const std::regex number("-?[0-9]+");
