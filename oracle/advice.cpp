@@ -143,6 +143,7 @@ std::string Follower::follow(const rules::Check& check, const Values& values, co
                              const std::function<void(const Values&, const Answer&)>& visit,
                              rules::Counts* counts)
 {
+    fault_call_.clear();
     const Reason& reason = answer.reason;
     const Refusal refusal(check, values, answer, turn_++);
     const Way* way = way_of(reason.id);
@@ -152,7 +153,6 @@ std::string Follower::follow(const rules::Check& check, const Values& values, co
     way->advise(refusal, advice);
     Less& less = less_[{check.name, reason.id}];
     std::string fault;
-    fault_call_.clear();
     const auto answer_of = [&](const Values& call) {
         Answer result = rules::evaluate(check, call, build, counts);
         if (result.outside == Outside::kNo) visit(call, result);
