@@ -66,7 +66,6 @@ int judge_words(const CLI::App& app, Options& options)
     }
 }
 
-// run_batch_of runs a batch according to the options.
 int run_batch_of(Options& options)
 {
     Rules& rules = rules_of(options);

@@ -27,8 +27,7 @@ std::uint64_t count_lines(std::string_view text);
 struct Progress {
     std::size_t read = 0;  // bytes of input that have been processed
     std::uint64_t line = 0;
-    // The line at which to resume. If the current entry, as a Reader defines it, contains several gateways,
-    // this is the first line of the current gateway.
+    // The line at which to resume: that of the entry, or of the current gateway if the entry has several.
     std::uint64_t next = 0;
     std::size_t part = 0;     // number of records already read from the current entry
     bool is_within = false;   // only some of a gateway's records have been judged
@@ -54,8 +53,7 @@ struct Progress {
 // The whole Arena is mapped, but only pages that have been written to occupy memory.
 class Arena {
  public:
-    // commit publishes the progress atomically. No matter when the worker ends, progress() returns either the
-    // previous or the new progress.
+    // commit is atomic: whenever the worker ends, progress() returns the previous or the new progress.
     void commit(const Progress& progress)
     {
         const std::uint64_t next = commits_.load(std::memory_order_relaxed) + 1;
@@ -99,8 +97,7 @@ struct Unmap {
 // map_arena creates an arena in shared memory. Throws std::system_error.
 std::unique_ptr<Arena, Unmap> map_arena();
 
-// release_pages returns to the system those pages of one of the arena's arrays that lie after the first kept
-// bytes and within the first used bytes.
+// release_pages returns the pages between byte kept and byte used of an arena's array to the system.
 void release_pages(char* begin, std::size_t used, std::size_t kept);
 
 // release_prints does the same for the arrays that contain what the last call printed.

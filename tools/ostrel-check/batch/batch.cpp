@@ -52,8 +52,7 @@ class Batch {
     }
 
  private:
-    // begin writes the header of CSV results. A resumed batch writes none, because it appends to results that
-    // already have one.
+    // begin writes no CSV header for a resumed batch, which appends to results that already have one.
     bool begin()
     {
         const Style& style = rules_->style;
@@ -64,8 +63,6 @@ class Batch {
         return error_ == 0;
     }
 
-    // is_stopped returns whether the batch was interrupted and no worker is running for the slot at the front
-    // of the queue.
     [[nodiscard]] bool is_stopped() const
     {
         return StopSignals::number() != 0 && (busy_.empty() || !busy_.front()->is_running());
@@ -82,7 +79,6 @@ class Batch {
         meter_.show(advance);
     }
 
-    // take_finished writes the results of the finished slots at the front of the queue.
     void take_finished()
     {
         while (!busy_.empty() && !busy_.front()->is_running()) {
@@ -137,8 +133,7 @@ class Batch {
         busy_.back()->judge(*chunk);
     }
 
-    // skip removes from a chunk everything that begins before the start line, and returns whether anything is
-    // left.
+    // skip drops what begins before the start line from a chunk, and returns whether anything is left.
     bool skip(Chunk& chunk)
     {
         if (chunk.line >= rules_->start_line) return true;
@@ -150,14 +145,11 @@ class Batch {
         return !chunk.text.empty();
     }
 
-    // clear_keys erases the characters that the terminal echoed for the interrupt keys. Only the first call
-    // has an effect.
     void clear_keys()
     {
         if (!std::exchange(is_interrupted_, true)) meter_.clear_keys();
     }
 
-    // stop ends an unfinished batch and reports where it stopped.
     int stop()
     {
         meter_.clear();
@@ -208,8 +200,7 @@ class Batch {
         return std::max(summary_.tally().exit_code(), is_readable ? kExitAccepted : kExitUsage);
     }
 
-    // sum_up writes the summary and returns whether this succeeded. The summary does not follow the results
-    // if they are in the stream or CSV format, or if they could not be written.
+    // sum_up does not let the summary follow stream or CSV results, or results that could not be written.
     bool sum_up()
     {
         summary_.add_unreadable_files(input_.unreadable_files());

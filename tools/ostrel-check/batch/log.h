@@ -40,9 +40,8 @@ struct Log {
     std::array<Entry, kMostRecords> entries;
     std::array<char, kRows> rows;
 
-    // has_room returns whether two more entries of any size fit: one from the worker, and one from the
-    // supervisor for the record that ended the worker. If is_half_full returns true, the worker stops at the
-    // next place where the batch can be resumed.
+    // has_room returns whether two entries fit: the worker's next, and the supervisor's for the record that
+    // ended the worker. If is_half_full returns true, the worker stops where the batch can next be resumed.
     static bool has_room(const Size& size)
     {
         return size.entries + 2 <= kMostRecords && size.bytes + 2 * kLongestRow <= kRows;
@@ -53,11 +52,9 @@ struct Log {
     }
 };
 
-// for_each_row calls visit with each row of a log, in order.
 void for_each_row(const Log& log, const Log::Size& size, const std::function<void(const SummaryRow&)>& visit);
 
-// LogWriter adds entries to a log. It remembers which rows the log contains, and which examples it has
-// written.
+// LogWriter remembers which rows the log contains, and which examples it has written.
 class LogWriter {
  public:
     explicit LogWriter(Log& log) : log_(&log) {}

@@ -10,8 +10,7 @@
 
 namespace ostrel::tool {
 
-// judge_in_json prints the result that batch --stream would print for the check and the words, and returns
-// the exit code.
+// judge_in_json prints the result that batch --stream would print, and returns the exit code.
 int judge_in_json(const catalogue::Function& function, std::span<const std::string> words, Rules rules);
 
 }  // namespace ostrel::tool

@@ -139,8 +139,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
     arena_->commit(progress);
 }
 
-// write_out writes the heading, the results and the conclusion. It returns the number of bytes written, not
-// counting the heading.
+// write_out returns the number of bytes written, not counting the heading.
 std::size_t Slot::write_out(int descriptor, int& error)
 {
     std::size_t written = 0;

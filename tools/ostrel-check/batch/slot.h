@@ -28,7 +28,6 @@ struct Rules {
     std::uint64_t first_number = 1;  // number of the first file's first line
 };
 
-// Taken is the outcome of writing results.
 struct Taken {
     int error = 0;                // errno if some results could not be written
     std::uint64_t line = 0;       // the line after the last one whose results were written
@@ -53,7 +52,6 @@ class Slot {
     // answers returns the descriptor to wait for while the slot is running.
     [[nodiscard]] int answers() const { return answers_.reading.number(); }
 
-    // ask_to_stop makes the worker stop after the current record.
     void ask_to_stop() { arena_->ask_to_stop(); }
 
     // take writes the results obtained so far and counts those that could be written. The worker then
@@ -62,12 +60,10 @@ class Slot {
 
     // judged returns the worker's progress, which counts only the cases whose results have not been taken.
     [[nodiscard]] const Progress& judged() const { return arena_->progress(); }
-    // left returns the number of bytes of the chunk that have not been judged.
     [[nodiscard]] std::size_t left() const { return arena_->rest_of_input().size(); }
 
     [[nodiscard]] std::size_t file() const { return arena_->file; }
 
-    // is_done returns whether the whole chunk has been judged and taken.
     [[nodiscard]] bool is_done() const { return !is_running_ && arena_->rest_of_input().empty(); }
 
  private:

@@ -17,7 +17,6 @@ namespace ostrel::tool {
 
 namespace {
 
-// Judge judges records and reuses its memory.
 class Judge {
  public:
     Judge(Arena& arena, Style style, const Reading& reading, const std::vector<std::string>& files)
@@ -31,8 +30,7 @@ class Judge {
     {
     }
 
-    // round judges records until the input ends, the output or the log is full, or the supervisor asks it to
-    // stop.
+    // round ends when the input ends, the output or the log is full, or the supervisor asks it to stop.
     void round()
     {
         log_.begin();

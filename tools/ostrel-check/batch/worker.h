@@ -11,9 +11,8 @@
 
 namespace ostrel::tool {
 
-// A worker pauses after writing kEnoughOutput bytes, so that the supervisor can take the output. Within a
-// gateway, it continues up to kMostOutput bytes, because a batch can usually be resumed only between
-// gateways.
+// A worker pauses after kEnoughOutput bytes, so that the supervisor can take them. Within a gateway, it
+// continues up to kMostOutput, because a batch can usually be resumed only between gateways.
 inline constexpr std::size_t kEnoughOutput = std::size_t{4} << 20;
 inline constexpr std::size_t kMostOutput = 8 * kEnoughOutput;
 

@@ -14,7 +14,6 @@ namespace ostrel::tool {
 // kOr separates the words in an option's type.
 inline constexpr char kOr = '|';
 
-// refuse_others makes an option accept only these words.
 template <typename Word>
 CLI::Option* refuse_others(CLI::Option* option, const std::vector<Word>& words)
 {
@@ -29,8 +28,7 @@ inline CLI::Option* choose_from(CLI::Option* option, const std::vector<std::stri
     return refuse_others(option, words)->type_name(CLI::detail::join(words, std::string(1, kOr)));
 }
 
-// add_choice adds an option that stores the value of the chosen word in target, which must outlive the
-// command.
+// add_choice stores the value of the chosen word in target, which must outlive the command.
 template <typename Target, typename Value>
 CLI::Option* add_choice(CLI::App& app, const char* name, Target& target,
                         const std::vector<std::pair<std::string, Value>>& choices, const char* what)

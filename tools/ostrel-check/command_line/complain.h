@@ -21,8 +21,7 @@ int complain_of_usage(std::string_view problem);
 // complain_of_name reports a word that is neither a command nor a check, with suggestions.
 int complain_of_name(const CLI::App& app, const std::string& name);
 
-// find_meant returns the check with the given name, ignoring case, or NULL if there is none. It prints a note
-// if the case differs.
+// find_meant ignores case, but prints a note if it differs. It returns NULL if there is no such check.
 const catalogue::Function* find_meant(const std::string& name);
 
 }  // namespace ostrel::tool

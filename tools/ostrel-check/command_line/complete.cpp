@@ -25,8 +25,7 @@ void add_names(Candidates& candidates)
         candidates.push_back({std::string(function.name), rules::accepted(*function.check, gateway())});
 }
 
-// values_of returns the candidates for an option's type. In the type, literal words are in lower case, and
-// placeholders such as FILE are in capital letters.
+// In an option's type, literal words are in lower case, and placeholders such as FILE in capital letters.
 Candidates values_of(const std::string& type)
 {
     Candidates candidates;
@@ -114,7 +113,6 @@ class Parser {
     }
 
  private:
-    // takes_value returns the option with the given name if it takes a value, and NULL otherwise.
     [[nodiscard]] const CLI::Option* takes_value(const std::string& name) const
     {
         const CLI::Option* option = app_->get_option_no_throw(name);

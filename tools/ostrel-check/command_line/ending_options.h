@@ -24,10 +24,8 @@ void add_call_options(CLI::App& app, Manner& manner, std::optional<std::string>&
 // add_ending_options adds options to batch. --stream must already exist, because --summary-only excludes it.
 void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules);
 
-// add_summarise_options adds the options of summarise.
 void add_summarise_options(CLI::App& summarise, EndingOptions& options);
 
-// closing_of returns the Closing that the options select.
 Closing closing_of(const EndingOptions& options, const Style& style);
 
 }  // namespace ostrel::tool

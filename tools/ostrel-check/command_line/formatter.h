@@ -14,7 +14,6 @@ std::vector<const CLI::App*> commands_of(const CLI::App& app);
 // options_of returns the options that begin with "-".
 std::vector<const CLI::Option*> options_of(const CLI::App& app);
 
-// positionals_of returns the positional arguments.
 std::vector<const CLI::Option*> positionals_of(const CLI::App& app);
 
 // synopses_of returns a line for each way to call the program or, for a command, a single line.

@@ -26,7 +26,6 @@ CLI::Option* add_positional(CLI::App& command, const char* name, std::vector<std
     return command.add_option(name, target, what)->type_name("");
 }
 
-// exclude_each_other allows at most one of the options.
 void exclude_each_other(const std::vector<CLI::Option*>& options)
 {
     for (CLI::Option* option : options) {

@@ -12,7 +12,6 @@ int show_comparison(const Options& options);
 int show_list(const Options& options);
 int show_explanation(const Options& options);
 
-// show_candidates prints the completions of the last word.
 int show_candidates(const CLI::App& app, const Options& options);
 
 // show_help prints the help or the version, whichever was requested.

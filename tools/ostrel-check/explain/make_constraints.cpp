@@ -1,7 +1,5 @@
-// make_constraints FILE writes a source file with the constraints that follow from the descriptions in
-// rules/, for use by programs and forms.
-//
-// The build runs this program, because deriving the constraints each time a command runs would take too long.
+// make_constraints FILE writes a source file with the constraints that the descriptions in rules/ imply.
+// The build runs it, because deriving the constraints each time a command runs would take too long.
 
 #include <algorithm>
 #include <fstream>

@@ -24,7 +24,6 @@ using calling::kChannelList;
 
 namespace {
 
-// kTool is the driver's tool, which the check runs.
 constexpr char kTool[] = "wlctl";
 
 bool asks_driver(const catalogue::Function& function) { return rules::asks_driver(*function.check); }
@@ -99,7 +98,6 @@ bool is_on_path(std::string_view tool)
     }
 }
 
-// read_whole reads a small file from its beginning.
 std::string read_whole(const Descriptor& file)
 {
     constexpr std::size_t kMost = std::size_t{64} << 10;

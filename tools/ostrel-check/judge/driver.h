@@ -12,10 +12,9 @@
 
 namespace ostrel::tool {
 
-// StandIn replaces the driver during its lifetime. It puts its own wlctl, which lists the given channels,
-// first on PATH. If the user cannot write to /var, where the driver's answer is stored, the process gets a
-// private /var. The constructor throws std::invalid_argument if the list contains anything but numbers and
-// blanks.
+// StandIn puts its own wlctl, which lists the given channels, first on PATH during its lifetime. If the user
+// cannot write to /var, where the driver's answer is stored, the process gets a private /var. The constructor
+// throws std::invalid_argument if the list contains anything but numbers and blanks.
 class StandIn {
  public:
     explicit StandIn(std::string_view channels);
@@ -33,9 +32,8 @@ class StandIn {
     std::string problem_;
 };
 
-// Turn waits until no other process is running a check that queries the driver, because such a check uses a
-// file with a fixed name. For any other check, it does nothing. While it waits, it calls still_waiting
-// repeatedly.
+// Turn waits until no other process runs a check that queries the driver, because such checks use a file with
+// a fixed name. It does nothing for other checks. While it waits, it calls still_waiting repeatedly.
 class Turn {
  public:
     explicit Turn(
@@ -52,8 +50,7 @@ struct Heard {
     std::string problem;  // why there is no channel list; empty if there is one
 };
 
-// Listening records the driver's answers from its construction until heard() is called. Call the check in
-// between.
+// Listening records the driver's answers from its construction until heard() is called.
 class Listening {
  public:
     Listening();

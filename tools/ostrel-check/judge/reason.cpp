@@ -31,7 +31,6 @@ std::size_t position_of(const catalogue::Function& function)
     return static_cast<std::size_t>(&function - catalogue::functions().data());
 }
 
-// functions_that returns, for each function in the catalogue, whether its check satisfies a condition.
 std::vector<bool> functions_that(bool (*holds)(const rules::Check&))
 {
     std::vector<bool> result;
@@ -141,7 +140,6 @@ void explain_lack(Result& result, const Record& record)
 
 namespace {
 
-// write_lack writes the reason why no call could be made for a record that is itself correct.
 void write_lack(JsonWriter& json, const Result& result)
 {
     const Record& record = *result.record;

@@ -13,12 +13,10 @@
 
 namespace ostrel::tool {
 
-// gateway returns the build settings with which this program was compiled. The caller may set the channels
-// that the wireless driver lists.
+// gateway returns this program's build settings, in which the caller may set the driver's channels.
 rules::Build& gateway();
 
-// explain uses the check's description to set the reason why the check refused, ended its process or did not
-// return.
+// explain sets the reason if the check's description predicts the outcome.
 void explain(Result& result);
 
 // is_known_not_to_return returns whether, according to the description, a call does not return. For such a

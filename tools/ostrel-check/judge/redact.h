@@ -12,8 +12,7 @@
 
 namespace ostrel::tool {
 
-// Redactor replaces each secret value with its length. It owns the strings of the last result that it
-// changed.
+// Redactor replaces each secret value with its length. It owns the strings of the last changed result.
 class Redactor {
  public:
     // redact removes the secrets from a result that already has its reason. It changes the values, the

@@ -84,8 +84,7 @@ Marker& marker_of(int descriptor)
     return descriptor == STDOUT_FILENO ? out : error;
 }
 
-// pass_on writes text and returns what the C library expects from a stream's write function. It must not
-// throw.
+// pass_on returns what the C library expects from a stream's write function. It must not throw.
 ssize_t pass_on(int descriptor, std::string_view text)
 {
     try {
@@ -114,7 +113,6 @@ void watch_output(const Descriptor& news)
     stderr = calling::open_stream(print_error, const_cast<Descriptor*>(&news), _IONBF);
 }
 
-// verdict_line returns the verdict as text. On a terminal, the part up to the colon is coloured.
 std::string verdict_line(const Result& result)
 {
     std::string text;
@@ -126,7 +124,6 @@ std::string verdict_line(const Result& result)
            text.substr(end);
 }
 
-// call_check makes the call and finds the reason.
 void call_check(Caller& caller, Result& result, const Descriptor& news)
 {
     std::optional<Listening> listening;
@@ -157,7 +154,6 @@ void call_check(Caller& caller, Result& result, const Descriptor& news)
     _exit(exit_code(result.verdict));
 }
 
-// wait_for_news waits until the check's process sends a byte or ends, or until the time limit expires.
 enum class News { kReturned, kAsserted, kEnded, kNone };
 
 News wait_for_news(const Descriptor& news, double seconds)

@@ -46,7 +46,6 @@ inline constexpr int kExitEnded = 3;
 
 int exit_code(Verdict verdict);
 
-// Tally counts the cases with each verdict.
 struct Tally {
     std::array<std::uint64_t, kVerdicts> counts{};
 
@@ -59,7 +58,6 @@ struct Tally {
     [[nodiscard]] std::uint64_t sum() const;
 };
 
-// Why contains the reason why a check refused, ended its process or did not return.
 struct Why {
     std::string text;  // as a sentence; empty if the reason is not known
     rules::Reason reason;
@@ -79,15 +77,13 @@ struct Result {
     bool is_tried = true;  // the check was called
     Why why = {};
 
-    // clear prepares the result for the next case.
     void clear();
 };
 
 // judge sets the verdict on a call that returned.
 void judge(Result& result, int code);
 
-// describe returns the verdict as a line, such as "refused: 802, too long (has 34 bytes; at most 32 are
-// allowed)".
+// describe returns a line such as "refused: 802, too long (has 34 bytes; at most 32 are allowed)".
 std::string describe(const Result& result);
 
 }  // namespace ostrel::tool

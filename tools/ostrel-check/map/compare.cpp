@@ -81,8 +81,7 @@ class Comparer {
         return {claim.holds, claim.fails, claim.is_decided};
     }
 
-    // is_of returns whether a value would be a difference of the given kind if the check had the
-    // corresponding outcome.
+    // is_of returns whether a value would be such a difference if the check had the matching outcome.
     bool is_of(Kind kind, const std::string& value)
     {
         const bool is_ascii = std::ranges::all_of(value, [](unsigned char c) { return c < 0x80; });
@@ -98,8 +97,7 @@ class Comparer {
         return languages_.contains(standard_.foreign, value);
     }
 
-    // is_allowed_utf8 returns whether the model allows a UTF-8 string, which depends only on the number of
-    // its characters.
+    // is_allowed_utf8 depends only on the number of the string's characters.
     bool is_allowed_utf8(const std::string& value)
     {
         if (!standard_.is_text || !facts_.keywords.empty()) return false;
@@ -132,8 +130,7 @@ class Comparer {
         return found;
     }
 
-    // search tries values that it derives from the description. If the description is incomplete, some of
-    // them might not be differences.
+    // search derives values from the description. If it is incomplete, some may not be differences.
     std::optional<Difference> search(Kind kind)
     {
         constexpr int kMostTexts = 8;

@@ -13,7 +13,6 @@
 
 namespace ostrel::tool {
 
-// Relation compares the values that the check accepts with those that the model allows.
 enum class Relation {
     kSame,
     kNarrower,  // the check refuses some values that are allowed

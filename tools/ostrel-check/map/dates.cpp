@@ -26,7 +26,6 @@ Language number_of_two(Languages& languages, int low, int high)
     return languages.words(words, false);
 }
 
-// days returns all dates from year 1 to year 9999.
 Language days(Languages& languages)
 {
     const Language year = languages.both({digits(languages, 4), languages.negated(languages.text("0000"))});

@@ -6,8 +6,7 @@
 
 namespace ostrel::tool {
 
-// date_times returns all dates from year 1 to year 9999 with a time, optionally followed by a fraction of a
-// second and a time zone.
+// date_times returns dates from year 1 to 9999 with a time, optionally with a fraction and a time zone.
 rules::Language date_times(rules::Languages& languages);
 
 }  // namespace ostrel::tool

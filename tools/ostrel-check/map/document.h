@@ -31,14 +31,12 @@ class Document {
     void require_members(const std::string& pointer, const Json& object,
                          std::initializer_list<std::string_view> names) const;
 
-    // text returns a string member, or an empty string if the member is missing and not needed. text_of
-    // returns a part that is a string.
+    // text returns a string member, or an empty string if the member is missing and not needed.
     [[nodiscard]] std::string text(const std::string& pointer, const Json& object, const char* name,
                                    bool is_needed = false) const;
     [[nodiscard]] std::string text_of(const std::string& pointer, const Json& value) const;
 
-    // array returns an array member, or an empty array if the member is missing and not needed. texts returns
-    // the strings in such an array.
+    // array returns a member, or an empty array if it is missing and not needed. texts returns its strings.
     [[nodiscard]] const Json& array(const std::string& pointer, const Json& object, const char* name,
                                     bool is_needed) const;
     [[nodiscard]] std::vector<std::string> texts(const std::string& pointer, const Json& object,

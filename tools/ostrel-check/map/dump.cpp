@@ -52,7 +52,6 @@ void Dump::read(std::string_view text)
     }
 }
 
-// require returns the member with the given name, or throws std::invalid_argument.
 const Member& Dump::require(std::string_view name) const
 {
     const Member* member = find(record_.members, name);
@@ -60,8 +59,7 @@ const Member& Dump::require(std::string_view name) const
     return *member;
 }
 
-// path_name returns the name of the column or member that contains a row's path, or an empty string if there
-// is none.
+// path_name returns the column or member with a row's path, or an empty string if there is none.
 std::string_view Dump::path_name() const
 {
     if (!reading_.parameter.empty()) return reading_.parameter;

@@ -17,15 +17,13 @@ namespace ostrel::tool {
 // plain_reading returns the settings for reading the rows of a dump, without the map that applies to them.
 Reading plain_reading(const Reading& reading);
 
-// Dump reads the CSV rows or JSON objects of a file one after another. An object is either a row or a whole
-// gateway.
+// Dump reads a file's CSV rows or JSON objects. An object is either a row or a whole gateway.
 class Dump {
  public:
     // Throws std::invalid_argument with a message for the user.
     Dump(FileFormat format, const Reading& reading, std::string_view preamble);
 
-    // next returns the size of the row or object at the front of rest, including the separator that follows
-    // it.
+    // next returns the size of the row or object at the front of rest, including the separator after it.
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
     // read reads a CSV row or an object, and next_row then returns its rows. Throws std::invalid_argument
@@ -36,7 +34,6 @@ class Dump {
     // is valid until the next call.
     bool next_row(DumpRow& row);
 
-    // is_whole_gateway returns whether the last object was a whole gateway.
     [[nodiscard]] bool is_whole_gateway() const { return is_whole_gateway_; }
 
     // gateway returns the content of the column that identifies the row's gateway.

@@ -11,7 +11,6 @@
 
 namespace ostrel::tool {
 
-// Range has two ends, either of which may be missing.
 struct Range {
     std::optional<long long> low;
     std::optional<long long> high;

@@ -74,7 +74,6 @@ bool FlatJson::end()
     return true;
 }
 
-// take_base64 replaces an object {"base64": TEXT} with the decoded bytes.
 bool FlatJson::take_base64(rapidjson::SizeType members)
 {
     constexpr std::string_view kName = ".base64";

@@ -23,8 +23,7 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
  public:
     explicit FlatJson(Encoding encoding) : encoding_(encoding) {}
 
-    // read reads an object. The results are valid until the next call. Throws std::invalid_argument with a
-    // message for the user.
+    // The results are valid until the next call. Throws std::invalid_argument with a message for the user.
     void read(std::string_view text);
 
     struct Parameter {

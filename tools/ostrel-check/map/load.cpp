@@ -53,7 +53,6 @@ class Loader {
     }
 
  private:
-    // bytes_of returns the text in the encoding of the values.
     std::string bytes_of(const std::string& at, std::string_view text)
     {
         std::string bytes;
@@ -65,7 +64,6 @@ class Loader {
         return bytes;
     }
 
-    // argument_of returns the bytes of a string, or the digits of a number.
     std::string argument_of(const std::string& at, const ordered_json& value)
     {
         return value.is_number_integer() ? value.dump() : bytes_of(at, document_.text_of(at, value));
@@ -210,8 +208,7 @@ class Loader {
         return source;
     }
 
-    // call_of returns a key that identifies an entry's call. Entries that make the same call for different
-    // parameters have the same key.
+    // call_of returns the same key for entries that make the same call for different parameters.
     static std::string call_of(const MapEntry& entry)
     {
         std::string name(entry.function->name);

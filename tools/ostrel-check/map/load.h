@@ -9,8 +9,7 @@
 
 namespace ostrel::tool {
 
-// load_map reads a map. Strings that are compared with values, or passed to checks, are converted to the
-// encoding. Throws std::invalid_argument with the file, the line and the place of a problem.
+// load_map encodes strings that are compared with values or passed to checks. Throws std::invalid_argument.
 Map load_map(const std::string& file, Encoding encoding);
 
 }  // namespace ostrel::tool

@@ -28,7 +28,6 @@ using ByText = std::unordered_map<std::string, T, TextHash, std::equal_to<>>;
 // WordTable contains, for each value in the data model, the string that is passed to the check.
 using WordTable = ByText<std::string>;
 
-// Source defines where the value of an argument comes from.
 struct Source {
     enum class Kind {
         kValue,     // the parameter itself
@@ -42,7 +41,6 @@ struct Source {
     std::string example = {};  // a value for comparisons, before the words are applied
 };
 
-// MapEntry pairs a parameter path with the check that judges it.
 struct MapEntry {
     PathPattern path;
     const catalogue::Function* function = nullptr;

@@ -33,7 +33,6 @@ class MapReader : public Reader {
     Found read(std::string_view text, std::size_t part, Record& record) override;
 
  private:
-    // Next is the result of read_row.
     enum class Next { kRow, kGatewayEnd, kProblem, kNothing };
 
     void begin(std::string_view text);

@@ -66,8 +66,7 @@ void Mapper::take(const DumpRow& row)
     use_ = is_sibling ? Use::kSibling : Use::kNone;
 }
 
-// next_of_row derives the next call from the current row, or reports a row without a check. It returns false
-// if nothing is left.
+// next_of_row derives the next call from the current row, or reports a row without a check.
 bool Mapper::next_of_row(Record& record, Lack& lack)
 {
     while (entries_ != nullptr && next_entry_ < entries_->size()) {

@@ -48,7 +48,6 @@ class Mapper {
     // until next is called again. If something is missing, lack describes it and the record has no items.
     bool next(Record& record, Lack& lack);
 
-    // counts returns the counts of the current gateway so far.
     [[nodiscard]] const GatewayCounts& counts() const { return counts_; }
 
  private:

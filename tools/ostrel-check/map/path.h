@@ -25,7 +25,6 @@ class PathPattern {
     // have this general form.
     [[nodiscard]] std::string general() const;
 
-    // instances returns how many times the pattern contains {i}.
     [[nodiscard]] std::size_t instances() const { return pieces_.size() - 1; }
 
     // append appends the path, with each {i} replaced by the next number. Excess numbers are ignored.
@@ -40,8 +39,7 @@ class PathPattern {
     std::vector<std::string> pieces_;  // the parts between the occurrences of {i}
 };
 
-// generalise stores a path with {i} in place of each name that is a number. It also stores those numbers, as
-// views into the path.
+// generalise stores a path with {i} in place of each numeric name, and these names as views into the path.
 void generalise(std::string_view path, std::string& general, std::vector<std::string_view>& numbers);
 
 }  // namespace ostrel::tool

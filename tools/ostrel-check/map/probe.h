@@ -16,14 +16,12 @@ class Probe {
     // Throws std::invalid_argument if an example is missing.
     Probe(const Map& map, const MapEntry& entry);
 
-    // predict returns the code according to the description, or nothing if the description does not cover the
-    // call.
+    // predict returns the code according to the description, or nothing if that does not cover the call.
     [[nodiscard]] std::optional<int> predict(const std::string& value) const;
 
     // judge returns the library's code, or nothing if the check does not return.
     [[nodiscard]] std::optional<int> judge(const std::string& value) const;
 
-    // reason returns a sentence that explains why the value is refused.
     [[nodiscard]] std::string reason(const std::string& value) const;
 
     // others returns the other arguments that were passed, by name.

@@ -45,8 +45,7 @@ std::string shown(std::string_view value)
     return text;
 }
 
-// brief returns a short form of a value. A long value that repeats one character is shown as a count and that
-// character.
+// brief shows a long value that repeats one character as a count and that character.
 std::string brief(const std::string& value)
 {
     constexpr std::size_t kLongest = 40;
@@ -63,7 +62,6 @@ std::string brief(const std::string& value)
     return "\"" + shown(value) + "\"";
 }
 
-// standing returns a short description of what is known about an entry.
 std::string standing(const Comparison& one)
 {
     std::string text(name_of(one.relation));

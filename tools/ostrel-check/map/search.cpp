@@ -15,7 +15,6 @@ using rules::Language;
 using rules::Languages;
 using rules::Leaf;
 
-// plainest returns the most readable byte of a set.
 char plainest(const rules::Set& set)
 {
     constexpr std::string_view kOrder =

@@ -59,7 +59,6 @@ void Unmapped::add(std::string_view path, std::uint64_t count, std::string_view 
     paths_.erase(last);
 }
 
-// note_split stores the name of one gateway whose rows are not adjacent.
 void Unmapped::note_split(std::string_view first)
 {
     if (first_split_.empty()) first_split_ = first;
@@ -74,7 +73,6 @@ void Unmapped::add(const Unmapped& other)
     note_split(other.first_split_);
 }
 
-// sorted returns the paths, most frequent first.
 std::vector<const Unmapped::Paths::value_type*> Unmapped::sorted() const
 {
     std::vector<const Paths::value_type*> rows;

@@ -15,8 +15,7 @@ namespace ostrel::tool {
 
 struct Map;
 
-// why_unmapped returns the map's explanation of why a path has no check, or an empty string if the map does
-// not explain it.
+// why_unmapped returns the map's explanation of why a path has no check, or an empty string.
 std::string_view why_unmapped(const Map& map, std::string_view path);
 
 // SplitGateways remembers recent gateways, and counts those whose rows are not adjacent.
@@ -35,7 +34,6 @@ class SplitGateways {
     std::array<std::size_t, 4096> known_{};  // hashes of gateway names, indexed by their low bits
 };
 
-// DumpCounts counts gateways and their parameters.
 struct DumpCounts {
     std::uint64_t gateways = 0;
     std::uint64_t parameters = 0;
@@ -44,14 +42,12 @@ struct DumpCounts {
     std::uint64_t split = 0;
 };
 
-// Unmapped stores at most kMostPaths paths, which are the first ones in byte order. It counts the parameters
-// with other paths together, even if such a path occurs again. Therefore, adding up the counts of the parts
-// of an input yields the counts of the whole input.
+// Unmapped stores at most kMostPaths paths, the first ones in byte order, and counts all others together,
+// even if one occurs again, so that the counts of the parts of an input add up to those of the whole.
 class Unmapped {
  public:
     static constexpr std::size_t kMostPaths = 10'000;
 
-    // has_map returns whether anything was judged with a map. use_map records that a map was used.
     [[nodiscard]] bool has_map() const { return has_map_; }
     void use_map() { has_map_ = true; }
 

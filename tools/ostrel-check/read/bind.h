@@ -13,10 +13,9 @@ namespace ostrel::tool {
 // bind_check finds the check that the record names. Throws std::invalid_argument with a message for the user.
 const catalogue::Function& bind_check(const Record& record);
 
-// bind converts items to the check's arguments. A string is read as a number if the argument is a number,
-// and an argument of several blocks may take several consecutive strings. The output-only arguments must all
-// be given or all be omitted. The memory of values is reused. Throws std::invalid_argument with a message for
-// the user.
+// bind reads a string as a number if the argument is a number, and may take several consecutive strings for
+// an argument of several blocks. The output-only arguments must all be given or all be omitted. The memory of
+// values is reused. Throws std::invalid_argument with a message for the user.
 void bind(const catalogue::Function& function, std::span<const Item> items,
           std::vector<catalogue::Value>& values);
 

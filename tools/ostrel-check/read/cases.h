@@ -11,8 +11,7 @@
 
 namespace ostrel::tool {
 
-// Cases reads the entries of files one after another and reuses its memory. A Reader divides the files into
-// entries.
+// Cases reads the entries that a Reader finds, and reuses its memory.
 class Cases {
  public:
     explicit Cases(const Reading& reading) : reading_(&reading) {}
@@ -23,15 +22,13 @@ class Cases {
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
     // read reads a record as Reader::read does and, if it is a case, finds the check and the arguments. It
-    // returns false if the entry contains no record. Throws std::invalid_argument with a message for the
-    // user.
+    // returns false if there is no record. Throws std::invalid_argument with a message for the user.
     bool read(std::string_view text, std::size_t part);
 
     // has_more returns whether the entry contains another record, even after read has thrown.
     [[nodiscard]] bool has_more() const { return found_ == Found::kMore; }
 
-    // These return what read found, even if it then threw an exception. function returns NULL if no check was
-    // found.
+    // These return what read found, even if it then threw. function returns NULL if no check was found.
     [[nodiscard]] const catalogue::Function* function() const { return function_; }
     [[nodiscard]] const std::vector<catalogue::Value>& values() const { return values_; }
     [[nodiscard]] const Record& record() const { return record_; }

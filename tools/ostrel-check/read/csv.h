@@ -13,7 +13,6 @@
 
 namespace ostrel::tool {
 
-// delimiter_of returns the byte that separates the fields.
 char delimiter_of(FileFormat format, const Reading& reading);
 
 // CsvReader takes the check and its arguments from columns, and passes every other column through. By
@@ -21,8 +20,7 @@ char delimiter_of(FileFormat format, const Reading& reading);
 // and so on.
 class CsvReader : public Reader {
  public:
-    // Throws std::invalid_argument, with a message for the user, if a required column is missing from the
-    // header or the header is faulty.
+    // Throws std::invalid_argument, with a message for the user, if the header is faulty or lacks a column.
     CsvReader(FileFormat format, const Reading& reading, std::string_view header);
 
     std::size_t next(std::string_view rest) override;

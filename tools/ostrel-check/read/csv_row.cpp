@@ -80,8 +80,7 @@ void CsvRow::split(std::string_view row, char delimiter)
     }
 }
 
-// take_quoted adds a quoted field. It returns the position after the closing quotation mark, or npos if there
-// is none.
+// take_quoted returns the position after the closing quotation mark, or npos if there is none.
 std::size_t CsvRow::take_quoted(std::string_view row, std::size_t at)
 {
     const std::size_t end = skip_quoted(row, at);

@@ -20,7 +20,6 @@ struct RowEnd {
 // the first line.
 RowEnd find_row_end(std::string_view text, char delimiter);
 
-// CsvRow splits rows and reuses its memory.
 class CsvRow {
  public:
     // split throws std::invalid_argument with a message for the user.

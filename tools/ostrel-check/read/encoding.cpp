@@ -20,7 +20,6 @@ struct Character {
     std::size_t size = 0;  // in bytes, or 0 if they are not valid UTF-8
 };
 
-// read_character reads the first character of the text.
 Character read_character(std::string_view text)
 {
     const unsigned lead = byte_at(text, 0);
@@ -117,8 +116,7 @@ void decode_base64(std::string& bytes, std::string_view text)
         bits = bits << 6 | static_cast<unsigned>(digit);
         if (i % 4 != 3) continue;
         const std::size_t made = i + 1 == text.size() ? 3 - padding : 3;
-        // The bits that the padding leaves unused must be zero. Otherwise, several strings would encode the
-        // same bytes.
+        // Unused bits before the padding must be zero, or several strings would encode the same bytes.
         if ((bits & ((1U << 8 * (3 - made)) - 1)) != 0) refuse();
         for (std::size_t byte = 0; byte < made; ++byte) {
             bytes += static_cast<char>(bits >> (16 - 8 * byte) & 0xFF);

@@ -23,8 +23,7 @@ inline bool is_ascii(std::string_view text) { return ascii_size(text) == text.si
 // message for the user, for a character that does not exist in Latin-1 and for an invalid byte.
 void encode(std::string& bytes, std::string_view text, Encoding encoding);
 
-// utf8_of converts in the opposite direction. With UTF-8, it returns the bytes unchanged, even if they are
-// invalid.
+// utf8_of converts back. With UTF-8, it returns the bytes unchanged, even if they are invalid.
 std::string utf8_of(std::string_view bytes, Encoding encoding);
 
 // decode_base64 appends the decoded bytes. Throws std::invalid_argument with a message for the user.

@@ -171,8 +171,7 @@ std::optional<Chunk> Input::read()
     if (cutter_ == nullptr && !begin_file()) return {};
     std::optional<Chunk> chunk = next_chunk();
     if (file_.number() < 0) return chunk;
-    // The next chunk might need no more bytes, because a problem, or entries after a problem, may still have
-    // to be returned.
+    // A problem, or entries after one, may still have to be returned, which needs no more bytes.
     is_ready_ = !problem_.empty() || (chunk && !chunk->problem.empty());
     if (!chunk && is_file_read_) end_file();
     if (chunk && is_file_read_) is_ready_ = true;

@@ -16,8 +16,7 @@
 
 namespace ostrel::tool {
 
-// Chunk is a sequence of whole entries of one file, as Reader defines them. Its views are valid until the
-// next read.
+// Chunk is a sequence of whole entries (see Reader) of one file. Its views are valid until the next read.
 struct Chunk {
     std::size_t file = 0;    // index of the file
     std::uint64_t line = 1;  // the number of the first line

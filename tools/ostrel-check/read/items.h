@@ -14,8 +14,7 @@ namespace ostrel::tool {
 // Items makes items, whose views are valid until the next call to begin.
 class Items {
  public:
-    // begin reserves memory for the items of a record of the given size. Each byte of the record may be used
-    // twice.
+    // begin reserves memory for a record of the given size, each byte of which may be used twice.
     void begin(std::size_t size, Encoding encoding)
     {
         encoding_ = encoding;

@@ -22,7 +22,6 @@ struct Element {
     bool is_in_string = false;
     bool is_whole = false;
 
-    // look scans to the end of the element or of the text.
     void look(std::string_view text)
     {
         while (at < text.size() && !is_whole) {
@@ -133,7 +132,6 @@ class JsonCutter : public Cutter {
         }
     }
 
-    // take_element cuts off the element at the given position if it is valid JSON.
     std::size_t take_element(std::string_view bytes, std::size_t at, Cut& cut)
     {
         find_fault(bytes.substr(at, element_.at), cut);
@@ -169,8 +167,7 @@ class JsonCutter : public Cutter {
         }
     }
 
-    // complain stores a problem and its position, from which the line is derived. count_columns adds the
-    // column.
+    // complain stores a position, from which the line is derived. count_columns adds the column.
     static void complain(Cut& cut, std::string problem, std::size_t at)
     {
         cut.problem = std::move(problem);
@@ -178,8 +175,7 @@ class JsonCutter : public Cutter {
         cut.ends_file = true;
     }
 
-    // count_columns determines the column after the bytes that are dropped and cut off. If there is a
-    // problem, it adds the column of the problem to the message.
+    // count_columns moves past the bytes dropped and cut off, and adds the column to a problem's message.
     void count_columns(std::string_view bytes, Cut& cut)
     {
         const auto count = [&](std::string_view text) {

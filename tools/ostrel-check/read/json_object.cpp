@@ -61,7 +61,6 @@ void JsonObject::require_all()
     }
 }
 
-// complain stores the problem unless there is an earlier one.
 void JsonObject::complain(std::string problem)
 {
     if (problem_.empty()) problem_ = std::move(problem);

@@ -65,8 +65,7 @@ class TokenStream : public rapidjson::InsituStringStream {
         }
         return taken;
     }
-    // PutBegin is called at the beginning of a number, and at the beginning of a string, after its quotation
-    // mark.
+    // PutBegin is called at the beginning of a number, and after the quotation mark that begins a string.
     char* PutBegin()
     {
         char* const begin = GenericInsituStringStream::PutBegin();
@@ -124,8 +123,7 @@ class JsonParser {
                                                                                                  handler);
     }
 
-    // offset returns the parser's position. While a handler is called for the beginning or the end of an
-    // array or an object, that is the position after the bracket.
+    // offset is after the bracket while a handler is called for the beginning or end of an array or object.
     [[nodiscard]] std::size_t offset() const { return stream_->Tell(); }
 
     // offset_of returns the position in the text of a number or a string that a handler received. A string's
@@ -143,7 +141,6 @@ class JsonParser {
 // describe returns a message about a JSON error, for the user.
 std::string describe(rapidjson::ParseErrorCode error);
 
-// ByteKinds records which kinds of bytes occur in JSON text.
 struct ByteKinds {
     bool has_controls = false;  // below 0x20
     bool has_backslashes = false;

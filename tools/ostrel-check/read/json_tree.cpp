@@ -26,7 +26,6 @@ bool add_number(ordered_json& value, std::string_view token)
     return true;
 }
 
-// TreeBuilder is a SAX handler that builds a value.
 class TreeBuilder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, TreeBuilder> {
  public:
     ordered_json take() { return std::move(root_); }

@@ -157,7 +157,6 @@ bool JsonObject::end()
     return true;
 }
 
-// finish_value continues with the members after the value of a member that is an argument.
 void JsonObject::finish_value()
 {
     if (state_ == State::kValue) state_ = State::kMembers;

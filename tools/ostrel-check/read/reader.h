@@ -37,16 +37,14 @@ class Reader {
     // counted from 0 at the beginning of rest.
     virtual std::size_t skip(std::string_view rest, std::uint64_t line);
 
-    // read reads one record of an entry. part is the number of the entry's records that were read before.
-    // An entry has several records only if there is a map. Throws std::invalid_argument with a message for
-    // the user. In that case, the record contains the parts that were read, and the rest of the entry is
-    // skipped.
+    // read reads one record of an entry. part is the number of records read before, 0 if there is no map.
+    // Throws std::invalid_argument with a message for the user. In that case, the record contains the parts
+    // that were read, and the rest of the entry is skipped.
     virtual Found read(std::string_view text, std::size_t part, Record& record) = 0;
 };
 
-// make_reader returns the reader for a file. The preamble is the part of the file that applies to all its
-// records, such as a CSV header. It must outlive the reader. Throws std::invalid_argument if the
-// preamble cannot be used.
+// make_reader returns the reader for a file. The preamble, such as a CSV header, applies to all its records
+// and must outlive the reader. Throws std::invalid_argument if the preamble cannot be used.
 std::unique_ptr<Reader> make_reader(FileFormat format, const Reading& reading, std::string_view preamble);
 
 }  // namespace ostrel::tool

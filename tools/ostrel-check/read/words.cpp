@@ -28,8 +28,7 @@ int hexadecimal(char c)
     return -1;
 }
 
-// read_escape reads an escape from the position after its backslash, and returns the position after the
-// escape.
+// read_escape reads an escape from the position after its backslash, and returns the position after it.
 std::size_t read_escape(std::string_view text, std::size_t at, std::string& word)
 {
     if (at == text.size()) throw std::invalid_argument("a backslash at the end must be written as \\\\");

@@ -45,9 +45,8 @@ inline constexpr std::string_view kNull = "@null";
 // item_of returns the item for a word. The item's text is a view into the word.
 Item item_of(std::string_view word);
 
-// read_values assigns the words to the arguments, with one word for each block. A word may be a number, a
-// string or NULL. The output-only arguments must all be given or all be omitted. Throws
-// std::invalid_argument.
+// read_values takes a word for each block: a number, a string or NULL. The output-only arguments must all be
+// given or all be omitted. Throws std::invalid_argument.
 void read_values(const catalogue::Function& function, std::span<const std::string> words,
                  std::vector<catalogue::Value>& values);
 

@@ -16,9 +16,8 @@ struct Closing {
     bool exits_with_zero = false;
 };
 
-// write_summary writes the summary to its file if it has one, otherwise after the results if it may follow
-// them, and otherwise to standard error. It returns whether this succeeded, and reports an error on standard
-// error.
+// write_summary writes to the summary's file, or else after the results if the summary may follow them, or
+// else to standard error. If this fails, it reports the error on standard error and returns false.
 bool write_summary(const Closing& closing, const Summary& summary, bool follows_results);
 
 }  // namespace ostrel::tool

@@ -59,7 +59,6 @@ std::string escaped_text(std::string_view text)
     return out;
 }
 
-// member_text returns a member of the record as text, or an empty string if the record has no such member.
 std::string_view member_text(const Result& result, std::string_view name, std::string& memory)
 {
     const Member* member = result.record == nullptr ? nullptr : result.record->find(name);

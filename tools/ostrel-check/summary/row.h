@@ -16,8 +16,7 @@ inline constexpr std::uint16_t kNoCheck = 0xFFFF;
 // The row's example is the map's explanation of why, or is empty.
 inline constexpr std::uint16_t kUnmapped = 0xFFFE;
 
-// SummaryRow contains what its records have in common, and one of them as an example. It does not own the
-// memory that its views refer to.
+// SummaryRow contains what its records have in common, and one of them as an example. It owns no memory.
 struct SummaryRow {
     std::uint16_t check = kNoCheck;  // index of the check in the catalogue's functions
     Verdict verdict = Verdict::kMalformed;
@@ -27,19 +26,16 @@ struct SummaryRow {
     std::string_view example;    // a JSON object; empty if there is none
 };
 
-// append_counted_parameter appends a parameter's path with {i} in place of each instance number or alias. It
-// keeps only the beginning of a very long path.
+// append_counted_parameter puts {i} for each instance number or alias, and shortens a very long path.
 void append_counted_parameter(std::string& out, std::string_view path);
 
-// row_of returns the row in which a result is counted. It stores the row's parameter in the string parameter,
-// which must outlive the row.
+// row_of stores the parameter of a result's row in the string parameter, which must outlive the row.
 SummaryRow row_of(const Result& result, std::string& parameter);
 
 // row_of_unmapped returns the row in which a parameter without a check is counted.
 SummaryRow row_of_unmapped(const Record& record, std::string& parameter);
 
-// example_of returns the id, the arguments and the problem of a result as JSON, or an empty string for an
-// acceptance or an answer.
+// example_of returns id, arguments and problem as JSON, or an empty string for an acceptance or an answer.
 std::string example_of(const Result& result, Encoding encoding);
 
 }  // namespace ostrel::tool

@@ -33,7 +33,6 @@ struct Rows {
 
 [[noreturn]] void refuse(const std::string& problem) { throw std::invalid_argument(problem); }
 
-// text_of returns the content of a string member, or the JSON of any other member.
 std::optional<std::string> text_of(const ordered_json& object, const char* name)
 {
     const auto found = object.find(name);

@@ -9,8 +9,7 @@
 
 namespace ostrel::tool {
 
-// summarise adds up the summaries and the results in the files, reports on standard error what cannot be
-// read, prints the sum and returns the exit code.
+// summarise reports on standard error what cannot be read, prints the sum and returns the exit code.
 int summarise(const std::vector<std::string>& files, bool as_json);
 
 // add_line adds the content of a line, which is either a summary with rows or a result, in JSON. For any

@@ -22,8 +22,7 @@ void Summary::add(const CountedRow& counted)
     }
     tally_.add(row.verdict, counted.count);
     OfCheck& check = checks_[std::min<std::size_t>(row.check, checks_.size() - 1)];
-    // Parameters that are counted together have no example, because it would depend on the order of the
-    // records.
+    // Parameters counted together have no example, because it would depend on the order of the records.
     SummaryRow without_example = row;
     without_example.example = {};
     auto& parameters = check.parameters;

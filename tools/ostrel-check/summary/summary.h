@@ -16,17 +16,15 @@
 
 namespace ostrel::tool {
 
-// CountedRow is a row with the number of its records.
 struct CountedRow {
     SummaryRow row;
     bool is_others = false;  // the records have parameters that are not counted individually
     std::uint64_t count = 0;
 };
 
-// Summary stores at most kMostParameters parameters of each check, which are the first ones in byte order. It
-// counts the records with any other parameters of the check together. A parameter that has been counted in
-// this way is never counted individually again. Therefore, adding up the summaries of the parts of an input
-// yields the summary of the whole input.
+// Summary stores at most kMostParameters parameters of each check, the first ones in byte order, and counts
+// the records with any other parameters of the check together, even if such a parameter occurs again.
+// Therefore, adding up the summaries of the parts of an input yields the summary of the whole input.
 class Summary {
  public:
     static constexpr std::size_t kMostParameters = 1000;

@@ -72,7 +72,6 @@ ordered_json families_json(const Summary& summary)
     return families;
 }
 
-// append_example appends the example on a separate line.
 void append_example(std::string& text, std::string_view example)
 {
     if (example.empty()) return;

@@ -79,8 +79,7 @@ pid_t fork_guarded()
     setpgid(0, 0);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != parent) _exit(0);
-    // The limit does not apply if core files are piped to a handler, so the process is also marked as not
-    // dumpable.
+    // The limit does not apply to core files piped to a handler, so the process is also not dumpable.
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
     prctl(PR_SET_DUMPABLE, 0);

@@ -41,13 +41,11 @@ Pipe make_pipe();
 // Throws std::system_error.
 pid_t fork_guarded();
 
-// Ending is how a process ended.
 struct Ending {
     bool by_signal = false;
     int number = 0;  // signal number or exit status
 };
 
-// wait_for waits for a child to end.
 Ending wait_for(pid_t child);
 
 // stop kills a child and the processes that it has started, and waits for the child.
@@ -56,10 +54,8 @@ void stop(pid_t child);
 // mentions_assertion returns whether the output contains the C library's report of a failed assertion.
 bool mentions_assertion(std::string_view printed);
 
-// describe_ending describes what ended the process of a check.
 std::string describe_ending(const Ending& ending, bool by_assertion);
 
-// describe_no_return describes a call that did not return within the given number of seconds.
 std::string describe_no_return(double seconds);
 
 // occupy_standard_descriptors prevents a pipe or a file from being assigned the number of a closed standard
@@ -69,16 +65,14 @@ void occupy_standard_descriptors();
 // say writes to standard error and ignores errors.
 void say(std::string_view text);
 
-// write_what_fits writes as much of the text as possible. It returns how much was written, and 0 or the errno
-// of the write that failed.
+// write_what_fits writes as much as possible. error is 0 or the errno of the write that failed.
 struct Fitted {
     std::size_t size = 0;
     int error = 0;
 };
 Fitted write_what_fits(int descriptor, std::string_view text);
 
-// take_back removes the last size bytes that were written to a regular file. For any other kind of file, it
-// does nothing.
+// take_back removes the last size bytes written to a regular file. It does nothing for other files.
 void take_back(int descriptor, std::size_t size);
 
 // write_all writes everything, or returns false if the reader has closed the pipe. Throws std::system_error.

@@ -10,7 +10,6 @@
 
 namespace ostrel::tool {
 
-// Advance is the progress of a batch.
 struct Advance {
     std::uint64_t cases = 0;
     std::uint64_t refused = 0;
@@ -41,7 +40,6 @@ class Meter {
     // clear_keys erases the characters that the terminal echoed for the interrupt keys.
     void clear_keys() const;
 
-    // is_due returns whether it is time to show the progress.
     [[nodiscard]] bool is_due() const;
     [[nodiscard]] bool is_wanted() const { return is_wanted_; }
 

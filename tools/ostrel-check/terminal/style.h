@@ -13,7 +13,6 @@ bool wants_colours(int descriptor);
 
 enum class Colour { kBold, kGreen, kRed };
 
-// painted returns the text in the given colour, or unchanged if with_colours is false.
 std::string painted(std::string_view text, Colour colour, bool with_colours);
 
 // kColumns is the default width.
@@ -25,7 +24,6 @@ inline constexpr std::size_t kAnyWidth = 0;
 // columns_of returns the width of a terminal. For any other descriptor, it returns the second argument.
 std::size_t columns_of(int descriptor, std::size_t otherwise);
 
-// Look is the appearance of a page.
 struct Look {
     bool with_colours = false;
     std::size_t columns = kColumns;

@@ -89,7 +89,6 @@ void append_bytes(std::string& out, std::string_view bytes, Encoding encoding)
 
 namespace {
 
-// StringReader is a SAX handler for a JSON string.
 struct StringReader : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, StringReader> {
     std::string text;
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)

@@ -39,15 +39,13 @@ class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
         std::memcpy(os_->Push(json.size()), json.data(), json.size());
     }
 
-    // raw writes finished JSON.
     void raw(std::string_view json);
 
     // text writes a string, which must be valid UTF-8.
     void text(std::string_view text);
 };
 
-// write_text writes a string. If it is not valid UTF-8, every byte that is not printable ASCII is escaped as
-// \xNN.
+// write_text escapes every byte that is not printable ASCII as \xNN if the string is not valid UTF-8.
 void write_text(JsonWriter& json, std::string_view text);
 
 // write_bytes writes the bytes of a value as a string, or as {"base64": text} if they cannot be decoded.

@@ -12,8 +12,7 @@
 
 namespace ostrel::tool {
 
-// Format is the format of results. kStream is JSON that has a line for every entry and omits the name of the
-// file.
+// kStream is JSON that has a line for every entry and omits the name of the file.
 enum class Format { kTable, kJson, kStream, kCsv };
 
 struct Style {
@@ -28,7 +27,6 @@ struct Style {
     std::string driver_problem;           // why --channels could not replace the wireless driver, or empty
 };
 
-// Location is the file and the line of a case.
 struct Location {
     std::string_view file;
     std::uint64_t line = 0;

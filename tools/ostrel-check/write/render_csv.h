@@ -8,7 +8,6 @@
 
 namespace ostrel::tool {
 
-// append_csv appends a result as a row, and csv_header returns the header.
 void append_csv(std::string& out, const Style& style, const Location& place, const Result& result);
 std::string csv_header(const Style& style);
 

@@ -11,8 +11,7 @@ namespace ostrel::tool {
 
 namespace {
 
-// kOwn lists the members that a result defines itself. A member of the record with one of these names is put
-// into "given".
+// kOwn lists the members that a result defines itself. The record's members with such a name go into "given".
 constexpr std::array<std::string_view, 16> kOwn = {"file",   "line",    "check", "verdict", "code", "meaning",
                                                    "reason", "remarks", "out",   "flushed", "err",  "cut",
                                                    "after",  "args",    "given", "tried"};
@@ -25,7 +24,6 @@ bool is_own(std::string_view name)
     return std::ranges::find(kOwn, name) != kOwn.end();
 }
 
-// ResultLine writes one line after another and reuses its memory.
 class ResultLine {
  public:
     ResultLine() : json_(buffer_) {}

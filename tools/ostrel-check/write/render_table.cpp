@@ -27,7 +27,6 @@ void append_padded(std::string& out, std::string_view text, std::size_t width, b
     if (!to_the_right) out += blanks;
 }
 
-// append_printed appends the printed lines, each after a mark.
 void append_printed(std::string& out, std::string_view text, std::string_view mark, std::size_t columns)
 {
     for (int shown = 0; !text.empty(); ++shown) {
@@ -44,7 +43,6 @@ void append_printed(std::string& out, std::string_view text, std::string_view ma
     }
 }
 
-// append_whose appends the record's id and parameter.
 void append_whose(std::string& out, const Result& result)
 {
     if (result.record == nullptr) return;

@@ -9,7 +9,6 @@
 
 namespace ostrel::tool {
 
-// append_row appends a result to a table.
 void append_row(std::string& out, const Style& style, const Location& place, const Result& result);
 
 // append_after appends a line for each argument that the check may have written to.
