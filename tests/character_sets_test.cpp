@@ -66,7 +66,6 @@ TEST(CharacterSets, EveryByteThroughEveryText)
     }
 }
 
-// A set of one byte admits that byte and no other.
 TEST(CharacterSets, EveryByteAgainstEveryByte)
 {
     for (int member = 0x01; member <= 0xFF; ++member) {

@@ -1,5 +1,4 @@
-// Compares the verdict on every day of four hundred years with the C++ library's calendar, and tests every
-// time-zone offset.
+// Compares the days of four centuries with the C++ library's calendar, and tests every time-zone offset.
 
 #include <gtest/gtest.h>
 #include <ostrel/date_time.h>
@@ -22,7 +21,6 @@ bool is_calendar_day(int year, unsigned month, int day)
         .ok();
 }
 
-// padded adds leading zeros to a number of at most width digits.
 template <typename Number>
 std::string padded(Number number, std::size_t width)
 {
@@ -44,7 +42,6 @@ TEST(ValidateDay, EveryDayOfFourHundredYears)
     }
 }
 
-// The leap-year rule is the same for negative and positive years.
 TEST(ValidateDay, LeapDaysOfNegativeYears)
 {
     for (int year = -800; year <= 800; ++year) {

@@ -24,8 +24,7 @@ double cpu_seconds(const std::string& list, const char* lan_address, int code)
     return static_cast<double>(least) / CLOCKS_PER_SEC;
 }
 
-// expect_linear compares the times for two lists, one of which is 64 times as long as the other. With
-// quadratic growth, the longer list would take 4096 times as long.
+// The large list is 64 times as long as the small one. Quadratic growth would make it 4096 times as slow.
 void expect_linear(const std::string& small, const std::string& large, const char* lan_address, int code)
 {
     ASSERT_EQ(64U, large.size() / small.size());

@@ -1,5 +1,4 @@
-// Tests that the export list, the public headers, the catalogue and the loaded library name the same
-// functions and data.
+// Tests that export list, public headers, catalogue and loaded library name the same functions and data.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -60,8 +59,7 @@ std::vector<std::string> catalogue_names()
     return names;
 }
 
-// public_headers returns the path of each header as hosts write it in #include. It omits api.h, which
-// declares nothing.
+// The paths are as hosts write them in #include. api.h is omitted, since it declares nothing.
 std::vector<std::string> public_headers()
 {
     const std::filesystem::path root = OSTREL_SOURCE_DIR "/include";
@@ -87,8 +85,7 @@ std::vector<std::string> declared_names()
     return names;
 }
 
-// differences returns the names that occur more often in one list than in the other, to keep failure messages
-// short.
+// differences returns the names that occur more often in one list, to keep failure messages short.
 std::vector<std::string> differences(const std::vector<std::string>& a, const std::vector<std::string>& b)
 {
     const std::multiset<std::string> sorted_a(a.begin(), a.end());
@@ -166,7 +163,6 @@ TEST(Exports, TheLibraryThatIsAskedForIsLoaded)
     dlclose(library);
 }
 
-// The catalogue must contain a meaning for each result code, and the name that it has in the header.
 TEST(ResultCodes, HaveTheNamesOfTheHeaderAndAMeaning)
 {
     const std::string header = contents(OSTREL_SOURCE_DIR "/include/ostrel/result_code.h");

@@ -1,5 +1,4 @@
-// A host that defines functions with the library's names, as real hosts do. Calls inside the library must
-// still reach the library's own functions.
+// A host that defines functions with the library's names. The library must still call its own functions.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -47,7 +46,6 @@ extern "C" __attribute__((visibility("default"))) int ValidateURL(const char* /*
 {
     return impostor_answer();
 }
-// The host's table classifies no byte as a digit or a letter.
 const unsigned char ostrel_ctype[256] = {};
 
 namespace ostrel::tests {

@@ -67,8 +67,7 @@ const std::vector<std::string>& hostile_texts()
     return texts;
 }
 
-// try_all passes the string as each text argument, one at a time, and returns how many of the calls returned
-// a code that the catalogue does not list.
+// try_all passes the string as each text argument in turn and returns how many calls return unlisted codes.
 int try_all(const Function& function, const std::string& text, std::array<Caller, 2>& callers)
 {
     int unlisted = 0;
@@ -104,7 +103,6 @@ TEST_P(Misuse, HostileValuesInEveryTextArgument)
     EXPECT_EQ(0, end.status) << testing::PrintToString(end);
 }
 
-// In each call, all strings are empty, and all numbers are 0, 1, -1, or the largest or smallest int.
 TEST_P(Misuse, EmptyValuesWithEveryExtremeNumber)
 {
     const Function& function = *GetParam();

@@ -57,7 +57,6 @@ def relocations(path):
 
 
 def sections(path):
-    """sections returns the flags and the size of each section."""
     found = {}
     for line in read("--sections", path).splitlines():
         match = re.match(r"\s*\[\s*\d+\]\s+(\S+)\s+\S+\s+[0-9a-f]+\s+[0-9a-f]+\s+([0-9a-f]+)\s+[0-9a-f]+\s+([A-Z]*)",
@@ -177,8 +176,7 @@ class SharedObject(unittest.TestCase):
         self.assertRegex(self.segments, r"(?m)^\s+GNU_RELRO\s")
 
     def test_no_floating_point(self):
-        """Only MIPS libraries are examined, since floating-point instructions have distinct names there. The source is
-        the same for all processors."""
+        """Only MIPS has distinct names for floating-point instructions; the source is the same for all processors."""
         if "MIPS" not in self.header:
             return
         code = subprocess.run([READELF.replace("readelf", "objdump"), "--disassemble", "--no-show-raw-insn", LIBRARY],

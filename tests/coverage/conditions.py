@@ -58,11 +58,9 @@ def within(place, decision):
 
 
 def conditions(exported, root):
-    """conditions yields the conditions of each decision. A template's decisions occur once for each instantiation.
-
-    The compiler omits decisions that it cannot analyse, such as nested ones. For these, each operator is returned as a
-    condition that has not been shown to decide.
-    """
+    """conditions yields the conditions of each decision. A template's decisions occur once for each instantiation. The
+    compiler omits decisions that it cannot analyse, such as nested ones. For these, each operator is returned as a
+    condition that has not been shown to decide."""
     files = {pathlib.Path(file["filename"]).resolve(): file for file in exported["data"][0]["files"]}
     for path in sorted(path for path in (root / "src").rglob("*") if path.suffix in (".cpp", ".h")):
         source = Source(root, path)

@@ -16,7 +16,6 @@ ENTRY = "file: src/a.cpp\nline: %s\ncondition: %s\nwhy: so it is\n"
 
 class Gate(unittest.TestCase):
     def judge(self, shown, listed, decisions=1):
-        """judge returns whether conditions.py accepts the input, and what it prints."""
         with tempfile.TemporaryDirectory() as folder:
             root = pathlib.Path(folder).resolve()
             (root / "src").mkdir()

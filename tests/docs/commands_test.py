@@ -33,7 +33,6 @@ LONG_BUILD = re.compile(r"(cmake --preset|cmake --build --preset|ctest --test-di
 FILES = {"packaging/wlctl", "fleet/ostrel-fleet"}
 # Code spans of several words that are not commands.
 TEXTS = {"lan_check: refuse an address without a dot"}
-# Placeholders, each with an example.
 FOR_EXAMPLE = {"FILE": "examples/lan.txt", "<module>": "l3forwarding_check"}
 
 # A daemon that contains the document's C code.
@@ -92,7 +91,6 @@ class Clone(contextlib.AbstractContextManager):
 
 class Commands(unittest.TestCase):
     def follow(self, document):
-        """follow runs the document's commands in order."""
         text = (SOURCE / document).read_text(encoding="utf-8")
         with Clone() as clone:
             self.write_daemon(clone, documents.code(text))

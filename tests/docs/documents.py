@@ -44,7 +44,6 @@ def in_console(first, lines):
 
 
 def in_blocks(text):
-    """in_blocks yields all commands in the fenced blocks."""
     for language, first, lines in blocks(text):
         if language not in SHELL:
             continue

@@ -43,8 +43,7 @@ void put_string(std::string& packed, std::string_view bytes)
     packed += bytes;
 }
 
-// repeated_at returns the size and the repeat count of a piece that is repeated many times at the beginning
-// of the text, or zeros if there is none.
+// repeated_at returns the size and the count of a piece repeated at the beginning of the text, or zeros.
 std::pair<std::size_t, std::size_t> repeated_at(std::string_view text)
 {
     constexpr std::size_t kLongestPiece = 64;

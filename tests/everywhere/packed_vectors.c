@@ -117,7 +117,6 @@ unsigned long open_rows(const char* path)
     return number_from(&at);
 }
 
-/* read_texts reads count texts and returns the first one. */
 static struct text read_texts(unsigned long count)
 {
     struct text first = {NULL, 0};

@@ -36,11 +36,7 @@ struct row {
 
 /* open_rows reads the whole file and returns the number of rows. It exits on failure. */
 unsigned long open_rows(const char* path);
-
-/* next_row reads the next row. */
 void next_row(struct row* row);
-
-/* next_text returns the text that follows this one. */
 struct text next_text(const struct text* text);
 
 /* text_length returns the number of bytes without a terminator. */

@@ -45,7 +45,6 @@ static char* map(size_t size)
     return memory + page;
 }
 
-/* on_signal reports a row that ends the process. */
 static void on_signal(int signal_number)
 {
     static const char text[] = " ended the process\n";
@@ -166,9 +165,8 @@ static int run(void* function, enum edge edge)
     return failed;
 }
 
-/* atoi_at_hand returns the kind of this C library. For a number that does not fit in an int, atoi returns the
-   low 32 bits of the nearest 64-bit long (1), the nearest int (2), or the low 32 bits of the number itself
-   (4). */
+/* atoi_at_hand returns the kind of C library. For a number beyond an int, atoi returns the low 32 bits of the
+   nearest 64-bit long (1), the nearest int (2), or the low 32 bits of the number itself (4). */
 static unsigned long atoi_at_hand(void)
 {
     switch (atoi("99999999999999999999")) {

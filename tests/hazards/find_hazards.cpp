@@ -44,7 +44,6 @@ std::string hazardous_bytes()
     return {bytes.begin(), bytes.end()};
 }
 
-// texts_of returns pointers to an argument's strings. The strings are const if the argument is.
 template <typename V>
 auto texts_of(V& value)
 {
@@ -57,7 +56,6 @@ auto texts_of(V& value)
     return texts;
 }
 
-// Attempt contains the text before a tried byte and the text after it.
 struct Attempt {
     std::string before;
     std::string after;

@@ -31,7 +31,6 @@ def installed_natively(scratch):
 
 
 def installed_as_documented(scratch):
-    """installed_as_documented runs the commands of docs/porting.md in a folder that resembles a clone."""
     block = re.search(r"```sh\n(prefix=(\S+)\n.*?)```", (SOURCE / "docs/porting.md").read_text(), re.S)
     for entry in SOURCE.iterdir():
         if entry.name != "build":
@@ -70,7 +69,6 @@ class Daemon(unittest.TestCase):
             "-o", program)
 
     def judge(self, lines):
-        """judge returns the output and the log of each program."""
         results = [subprocess.run([*self.emulator, str(program)], input=lines, capture_output=True, check=False,
                                   env=self.environment, timeout=LONG) for program in self.programs]
         for program, result in zip(self.programs, results):

@@ -86,7 +86,6 @@ class Workshop:
         return dict(os.environ, OSTREL_TEST_FIRST=file.removeprefix("rules/").removesuffix(".cpp"), **more)
 
     def notices(self, program, file, more, *options):
-        """notices returns whether a test of the program fails."""
         def limit():
             resource.setrlimit(resource.RLIMIT_CPU, (SECONDS, SECONDS))
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
@@ -117,8 +116,7 @@ class Workshop:
         yield from ((numbered[number], "killed" if number in noticed else "unknown") for number in [*tried, *others])
 
     def alone(self, mutant, text):
-        """alone judges a mutant in a separate build, with every test and row. The slow tests skip rows with long
-        strings."""
+        """alone judges a mutant in a separate build, with every test. The slow tests skip rows with long strings."""
         text = text[:mutant.offset] + mutant.replacement + text[mutant.end:]
         made, errors = self.compile(mutant.file, text)
         if errors:

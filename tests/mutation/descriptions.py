@@ -53,7 +53,6 @@ def words(found, text):
 
 
 def reported(found):
-    """reported returns all tokens except the strings that no refusal contains."""
     return [token for i, token in enumerate(found) if token.kind != "string" or callee(found, i) not in NOT_REPORTED]
 
 

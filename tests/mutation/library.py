@@ -129,8 +129,7 @@ class Workshop:
         return output if done.returncode == 0 else None
 
     def make(self, file, text):
-        """make builds the library with the given text instead of the file's. It returns "made", "same" if the object
-        code does not change, or "broken"."""
+        """make returns "made", "same" if the change leaves the object code unchanged, or "broken"."""
         overlay = self.folder / "overlay"
         shutil.rmtree(overlay, ignore_errors=True)
         shutil.rmtree(self.folder / OBJECTS, ignore_errors=True)

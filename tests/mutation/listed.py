@@ -6,8 +6,6 @@ OPTIONAL = ("in", "above")
 
 
 class Entry:
-    """Entry is a reason and the items to which it applies."""
-
     def __init__(self, text, path, keys):
         self.values = {key: [] for key in (*keys, "why")}
         self.used = set()
@@ -64,7 +62,6 @@ class Listed:
         return item in self.known
 
     def stale(self, patterns):
-        """stale returns the lines that no longer match any item."""
         return ["%s: %s: %s" % (entry.values["file"][0], *unused) for entry in self.entries
                 for unused in entry.unused()
                 if any(fnmatch.fnmatch(entry.values["file"][0], pattern) for pattern in patterns)]

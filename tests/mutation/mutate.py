@@ -32,8 +32,7 @@ def digest(data):
 
 
 class Results:
-    """Results stores the status of each mutant until its source file is edited. A surviving mutant is tried again if
-    the tests change."""
+    """Results stores the status of each mutant until its source file or, for a survivor, a test is edited."""
 
     def __init__(self, path, texts, programs):
         self.path = path
@@ -67,8 +66,6 @@ class Results:
 
 
 class Worker:
-    """Worker judges mutants in a separate process."""
-
     def __init__(self, suites, folder):
         self.suites = suites
         self.workshop = Workshop(suites.build, folder)

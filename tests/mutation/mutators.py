@@ -210,7 +210,6 @@ def shown(text):
 
 
 def mutants(file, text, mutators=tuple(MUTATORS)):
-    """mutants yields every mutant of a file, in source order."""
     found = tokens(text)
     made = {}
     for mutator in mutators:

@@ -1,5 +1,3 @@
-"""Tests which parts of a source file the mutators change."""
-
 import pathlib
 import sys
 import tempfile

@@ -95,10 +95,8 @@ def regions(found):
 
 
 def with_all(text, numbered, kept):
-    """with_all returns the text with all of these mutants, and the numbers of the mutants that no region contains.
-
-    The constants in kept remain constants.
-    """
+    """with_all returns the text with all of these mutants, and the numbers of the mutants that no region contains. The
+    constants in kept remain constants."""
     # Static assertions are removed because the constants that they need become functions.
     text = re.sub(r"static_assert\([^;]*;", lambda found: " " * len(found.group()), text)
     mutants_of = {region: [] for region in regions(tokens(text)) if region.name not in kept}

@@ -74,7 +74,6 @@ class Suites:
         return found
 
     def passes(self, suite, workshop, seconds, library=None):
-        """passes returns whether all tests pass within the given processor time."""
         tries = 3 if suite[0] in TIMED else 1
         return any(self.run(suite, workshop, seconds, library) for _ in range(tries))
 

@@ -41,7 +41,6 @@ class Recipes(unittest.TestCase):
         return {str(path.relative_to(root)) for path in root.rglob("*") if path.is_file()}
 
     def assert_mips16(self, build, is_expected=True):
-        """assert_mips16 compiles one of the library's source files and checks whether the object file uses MIPS16."""
         result = run("make", "-C", build / "src", "verdict.o", "VERBOSE=1")
         self.assertEqual(0, result.returncode, result.stdout + result.stderr)
         (built,) = build.rglob("verdict.cpp.o")

@@ -249,7 +249,6 @@ class FreshStreams {
     std::FILE* saved_err_ = stderr;
 };
 
-// count_requests runs the loaded call and counts its allowed and its forbidden allocations.
 void count_requests(Caller& caller, Counts& allowed, Counts& forbidden)
 {
     const FreshStreams streams;

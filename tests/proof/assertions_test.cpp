@@ -1,6 +1,5 @@
 // Passes NULL for each pointer of each function. Exactly the listed checks must fail an assertion, and they
-// must print nothing else. Each report names the condition, the module, the function and a line, which is
-// either fixed or different for each function. All other checks return, or end with a memory fault.
+// must print nothing else. All other checks return, or end with a memory fault.
 
 #include <gtest/gtest.h>
 

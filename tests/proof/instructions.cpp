@@ -27,9 +27,8 @@ using namespace ostrel::calling;
 using namespace ostrel::catalogue;
 using namespace ostrel::tests;
 
-// kParts are the pieces that are repeated to build long values: single characters of every set and of none,
-// items of every kind of list, and fragments of the strings that the rules search for. The first pieces
-// differ the most.
+// kParts are repeated to build long values: single characters of every set and of none, items of every kind
+// of list, and fragments of the strings that the rules search for. The first ones differ the most.
 constexpr std::string_view kParts[] = {
     "a",      "0",    ",",       "192.168.1.1,",
     ".",      "\xff", "1.",      "&#65;",
@@ -188,7 +187,6 @@ void add(const Function& function, const std::vector<Value>& values)
     CALLGRIND_TOGGLE_COLLECT;
 }
 
-// write_down writes the current sum and starts a new one.
 void write_down(const std::string& name)
 {
     CALLGRIND_DUMP_STATS_AT(name.c_str());
@@ -213,8 +211,7 @@ void count_case(const LongCase& one, std::size_t size, bool each)
                ' ' + std::to_string(size));
 }
 
-// count_argument counts the instructions of calls in which the given argument is long. If its index is one
-// past the last, all text arguments are long.
+// count_argument passes long values for the given argument or, if it is one past the last, for all texts.
 void count_argument(const Function& function, std::size_t argument, std::size_t size, bool each)
 {
     const bool all = argument == function.arguments.size();

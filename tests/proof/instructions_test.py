@@ -2,14 +2,9 @@
 
 usage: instructions_test.py VALGRIND PROGRAM together|each BYTES...
 
-A call for a value that is ten times as long may take at most eleven times as many instructions. This bound does not
-apply to calls that take only a few instructions per byte, since a length limit may decide whether they print the value,
-and a call that prints would be compared with one that does not. In addition, no call may exceed a fixed number of
-instructions per byte, which detects any growth that is faster than linear.
-
-The contract requires one exception: for each item in a list of reserved addresses that is as long as the next item,
-the rest of the list must be searched. The bound for such a list is a fixed number of instructions per item and byte.
-The bound for a list of long items that are nearly alike is the cost of an equally long list of short items.
+README.md describes the bounds. The bound on growth does not apply to calls that take only a few instructions per byte,
+since a length limit may decide whether they print the value, and a call that prints would be compared with one that
+does not.
 """
 
 import collections
@@ -34,7 +29,6 @@ Count = collections.namedtuple("Count", "instructions items calls")
 
 
 def counted():
-    """counted runs the program and returns the counts by call and size."""
     counts = collections.defaultdict(dict)
     with tempfile.NamedTemporaryFile("r", encoding="ascii", errors="replace") as output:
         subprocess.run([VALGRIND, "--quiet", "--tool=callgrind", "--combine-dumps=yes", "--collect-atstart=no",

@@ -62,7 +62,6 @@ def proofs():
             ctest(folder, r"(^|\.)(assertions|parameter_check)_test(\.|$)")])
         yield Proof("file", "the finished file", preset + ", each variant", ["gcc", preset],
                     [ctest(folder, r"(^|\.)shared_object(\.|$)")])
-    # The following proofs have their own scripts.
     yield Proof("coverage", "every line and branch is tested", "coverage", [], [script("coverage")])
     yield Proof("coverage", "every condition seen to decide", "modified condition/decision", [], [
         Step([str(ROOT / "scripts" / "coverage"), "--mcdc"], r"(\d+ of \d+ conditions seen to decide, \d+ listed)")])

@@ -1,9 +1,8 @@
 // Measures how much stack the library needs. Each call runs on a separate stack that is painted with a
 // pattern first. The deepest overwritten word marks the depth of the call.
 //
-// The figures cover the library's own frames. This program is a host that replaces those C library functions
-// that have large frames with versions that need almost no stack. The C library's other byte and string
-// functions have no frames. The depth of a function that does nothing, called in the same way, is subtracted.
+// The figures cover the library's own frames: this program replaces the C library functions that have frames,
+// and subtracts the depth of a function that does nothing.
 
 #include <gtest/gtest.h>
 #include <ucontext.h>
@@ -125,8 +124,7 @@ constexpr std::uint64_t kPaint = 0xA5A5'5A5A'C3C3'3C3C;
 
 int do_nothing(const char* /*value*/) { return 0; }
 
-// of_text makes a function that has one text argument and is not in the catalogue. It uses the description of
-// isEmail.
+// of_text makes a function outside the catalogue, with one text argument and the description of isEmail.
 template <int (*F)(const char*)>
 Function of_text(const char* name)
 {
@@ -226,7 +224,6 @@ class Stack : public testing::Test {
         }
     }
 
-    // write_table writes the figures to the file that OSTREL_STACK_TABLE names, if it is set.
     void write_table() const
     {
         const char* path = std::getenv("OSTREL_STACK_TABLE");  // NOLINT(concurrency-mt-unsafe)

@@ -5,10 +5,8 @@
 // The MAC address checks print a character without a line ending, which may precede any line, so their rows are
 // judged separately, and their output is compared byte by byte.
 //
-// If OSTREL_LONGEST_TEXT is set in the environment, rows with longer strings are skipped.
-//
-// Only one thread at a time may call WLAN_check_channel, so its rows are skipped if they need the driver's
-// channel list.
+// If OSTREL_LONGEST_TEXT is set, rows with longer strings are skipped. So are rows of WLAN_check_channel that
+// need the driver's channel list, because only one thread at a time may call it.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -117,8 +115,7 @@ bool is_as_promised(const CallResult& expected, const std::vector<calling::Writt
     return code == expected.code && std::ranges::equal(written, expected.after, {}, &calling::Written::value);
 }
 
-// judge_all runs every case, starting at a different one in each thread, and returns the number of wrong
-// results.
+// judge_all runs every case, starting at a different one in each thread, and counts the wrong results.
 std::size_t judge_all(const std::vector<Expected>& all, std::size_t thread)
 {
     std::size_t wrong = 0;
@@ -148,8 +145,7 @@ std::size_t judge_in_threads(const std::vector<Expected>& all)
     return wrong;
 }
 
-// differing returns only a few of the lines that occur more often on one side, which keeps failure messages
-// short.
+// differing returns a few of the lines that occur more often on one side, to keep failure messages short.
 std::string differing(const Pieces& expected, const Pieces& actual)
 {
     std::string result;
@@ -166,7 +162,6 @@ std::string differing(const Pieces& expected, const Pieces& actual)
     return result;
 }
 
-// Vectors contains the rows, which are read only once.
 struct Vectors {
     Vectors()
     {

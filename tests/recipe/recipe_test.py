@@ -77,8 +77,7 @@ L3FORWARDING_check_preference 256
 """),
     "CHANGELOG.md": ("\n## ", "\n- `L3FORWARDING_check_preference`.\n"),
 }
-# The generators, by their names in CONTRIBUTING.md. scripts/footprint is omitted, because none of the tests above reads
-# docs/footprint.md.
+# The generators, by their names in CONTRIBUTING.md. No test above reads docs/footprint.md of scripts/footprint.
 GENERATORS = {
     "scripts/hazards": "scripts/hazards",
     "scripts/stubs": "scripts/stubs",

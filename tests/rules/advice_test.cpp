@@ -24,7 +24,6 @@ std::string fault_of(const Check& check, const std::vector<Value>& values)
     return oracle::Follower().follow(check, values, build, answer, [](const auto&, const auto&) {});
 }
 
-// fault_of tests a check that has one text argument and refuses in one step.
 std::string fault_of(Condition condition, const std::string& value)
 {
     return fault_of(

@@ -45,8 +45,7 @@ RowReason told(const Answer& answer)
     return {std::string(reason.id), std::string(reason.name), reason.part, reason.item, reason.offset};
 }
 
-// is_beyond_rows returns whether a check has steps that no row reaches, such as steps for another model, for
-// the wireless driver's list or for calls that do not return.
+// Steps for another model, for the wireless driver's list and for calls that never return have no rows.
 bool is_beyond_rows(const Check& check)
 {
     constexpr std::string_view kOthers[] = {"WLAN_check_HNAP_SecurityType", "WLAN_check_radio_id",

@@ -94,8 +94,7 @@ class Maker {
         }
     }
 
-    // groups generates each group of a shape at its minimum and maximum length, and one byte shorter and
-    // longer than each.
+    // groups generates each group of a shape at its shortest and longest, and one byte shorter and longer.
     void groups(const rules::Runs& shape)
     {
         for (std::size_t at = 0; at <= shape.size(); ++at) {

@@ -10,7 +10,6 @@
 
 namespace ostrel::tests {
 
-// candidates returns strings for a form, derived from the form and from known strings.
 std::set<std::string> candidates(const rules::Form& form, const std::set<std::string>& known);
 
 // numbers returns values of type int for a form.

@@ -161,8 +161,7 @@ TEST(ConstraintsTest, KeywordsInAnyCaseAreOfferedAsTheyAreWritten)
     EXPECT_FALSE(protocol.form.recommended.front().ignores_case);
 }
 
-// Prints which arguments have exact constraints, which have constraints that are only necessary, and which
-// have neither.
+// Prints which arguments have exact constraints, only necessary ones, or none.
 TEST(ConstraintsTest, HowMuchIsSaid)
 {
     std::map<std::string, std::string> names;

@@ -69,7 +69,6 @@ TEST(OutsideTest, SaysWhy)
     }
 }
 
-// registered_with makes a check with two text arguments, of which the second is secret and must not be NULL.
 Check registered_with(std::vector<Step> steps)
 {
     std::vector<ArgumentWords> arguments;
@@ -93,7 +92,6 @@ TEST(HidingTest, HidesSecretsAlone)
     EXPECT_EQ("abc " + length_shown(3), evaluate_hiding(kMostWork, check, values, {}).out);
 }
 
-// The answer passed to the second call still contains the result of the first.
 TEST(ExplainTest, NothingIsLeftOfAnotherCall)
 {
     const std::vector<Value> refused = {"65536"};
@@ -120,7 +118,6 @@ TEST(WriteTest, WhatIsWrittenIsJudgedFromItsBeginning)
     EXPECT_EQ(2U, judged.size);
 }
 
-// The offset is 0 if no condition has found a fault.
 TEST(OffsetTest, IsZeroWithoutAFault)
 {
     EXPECT_EQ(0, answer_of({refuse(1, above("offset", 0)), refuse(2, below("offset", 0))}, {""}).code);
@@ -162,7 +159,6 @@ TEST(WorkTest, OfASearchIsLittleMoreThanOneOfTheText)
     EXPECT_EQ(Outside::kNo, evaluate_within(4096, check, values, {}).outside);
 }
 
-// A model refuses the values that only another model supports.
 TEST(ModelTest, OfAnotherModel)
 {
     Build other;

@@ -23,16 +23,14 @@ class Experiment {
     // change makes the given number of calls with changed rows. Accepted values must obey the constraints.
     void change(std::size_t times, calling::Capture& capture);
 
-    // vary inserts candidates for an argument into accepted rows. Accepted values must obey the constraints
-    // and, if the constraints are sufficient, values that obey them must be accepted. Recommended values must
-    // be accepted too.
+    // vary inserts candidates for an argument into accepted rows. Accepted values must obey the constraints.
+    // Recommended values and, if the constraints are sufficient, those that obey them must be accepted.
     void vary(std::size_t argument, calling::Capture& capture);
 
     // pass_null returns the outcomes that the description predicts for NULL and, if the call can be made,
     // those that occur.
     std::set<rules::NullOutcome> pass_null(std::size_t argument, calling::Capture& capture);
 
-    // constraints returns the constraints of an argument, or NULL if there are none.
     [[nodiscard]] const rules::Constraints* constraints(std::size_t argument) const
     {
         const auto found = constraints_.find(argument);

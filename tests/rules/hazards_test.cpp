@@ -63,8 +63,7 @@ TEST_F(Hazards, EachWitnessIsAccepted)
     EXPECT_GT(calls, 10000U);
 }
 
-// The catalogue must list the hazards of each text argument before the call and, if the call can write to the
-// argument, also after it.
+// The catalogue lists the hazards of each text before the call and, if the call can write it, after it.
 TEST_F(Hazards, EachTextIsSpokenOf)
 {
     for (const Function& function : catalogue::functions()) {

@@ -26,7 +26,6 @@ class NullTest : public testing::TestWithParam<const Function*> {
     const Check& check_ = *function_.check;
 };
 
-// outcome_in_words calls the function in a separate process and describes the outcome.
 std::string outcome_in_words(const Function& function, const std::vector<Value>& values)
 {
     int code = 0;

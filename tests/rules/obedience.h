@@ -17,8 +17,7 @@ class Obedience {
     // fault returns the first constraint that the text violates, or an empty string.
     std::string fault(const rules::Form& form, const std::string& text);
 
-    // fault_of does the same for an argument of a call. NULL obeys, and so does any argument that is
-    // neither a text nor a number.
+    // fault_of does the same for an argument of a call. A value that is neither text nor number obeys.
     std::string fault_of(const rules::Constraints& constraints, const std::vector<catalogue::Value>& values,
                          std::size_t argument);
 

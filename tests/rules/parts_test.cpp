@@ -65,7 +65,6 @@ TEST(PartsTest, AreCalledTheSameInWhatIsRemembered)
     EXPECT_EQ("the port is 0; at least 1 is needed", told(answer_of(steps, {"a:0"})));
 }
 
-// A piece of a part does not inherit the part's name.
 TEST(PartsTest, LoseTheirNameWhenTheyAreCut)
 {
     const Expression port = called("the port", after_first(it, ":"));

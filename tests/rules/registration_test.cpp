@@ -1,5 +1,4 @@
-// Tests that every description is in the module whose header declares the function, and that a description
-// that refers to something undefined is rejected.
+// Tests that each description is in its function's module, and that undefined references are rejected.
 
 #include <gtest/gtest.h>
 
@@ -33,7 +32,6 @@ TEST(RegistrationTest, TheModuleIsThatOfTheHeader)
     }
 }
 
-// fault registers a check with these steps and returns the error message.
 std::string fault(std::vector<Step> steps, std::vector<ArgumentWords> arguments)
 {
     try {

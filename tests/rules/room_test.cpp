@@ -19,7 +19,6 @@ namespace ostrel::tests {
 
 namespace {
 
-// kOther is the byte that fills a buffer before the call.
 constexpr char kOther = '\xAA';
 
 // died returns whether the status reports a memory fault, including one that a sanitizer detected.
@@ -33,7 +32,6 @@ class Buffer {
         std::memset(begin_, kOther, size);
     }
 
-    // hold copies a string into the buffer and fills the rest with zeros.
     void hold(const std::string& text)
     {
         std::memset(begin_, 0, size_);

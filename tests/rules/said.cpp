@@ -33,7 +33,6 @@ Reason read_as(long long number, Reason result)
     return result;
 }
 
-// limited adds to a reason the limit that the number exceeds.
 Reason limited(std::string_view limit, Reason result)
 {
     result.limit = limit;

@@ -1,5 +1,4 @@
-// Reasons with the sentence that a reader expects for each, written by hand and not copied from
-// sentences.cpp.
+// Reasons with the sentence that a reader expects for each, written by hand, not taken from sentences.cpp.
 #ifndef OSTREL_TESTS_RULES_SAID_H
 #define OSTREL_TESTS_RULES_SAID_H
 
@@ -15,7 +14,6 @@ struct Expectation {
     std::string sentence;
 };
 
-// all_said returns the expected sentences for every id in every form.
 const std::vector<Expectation>& all_said();
 
 }  // namespace ostrel::rules

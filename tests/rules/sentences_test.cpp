@@ -123,7 +123,6 @@ Check of_one()
     return check_of(std::move(arguments));
 }
 
-// The second argument is secret.
 Check of_two()
 {
     std::vector<ArgumentWords> arguments;

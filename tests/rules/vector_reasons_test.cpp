@@ -22,7 +22,6 @@ using rules::Condition;
 using rules::Counts;
 using rules::Step;
 
-// refusals returns the refusing steps of a check, in order.
 std::vector<const Step*> refusals(const std::vector<Step>& steps)
 {
     std::vector<const Step*> result;
@@ -63,7 +62,6 @@ std::vector<std::string> paths_of(const Check& check)
     return result;
 }
 
-// path_of returns the path that a call took.
 std::string path_of(const Check& check, const Counts& counts)
 {
     const std::vector<const Step*> all = refusals(check.steps);
@@ -91,7 +89,6 @@ std::map<std::string, std::size_t> paths_shown()
     return result;
 }
 
-// A check that refuses two different faults must have a step for each.
 TEST(VectorReasonsTest, ConditionsHaveAStepEach)
 {
     for (const Check& check : rules::checks()) {

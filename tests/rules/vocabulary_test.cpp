@@ -1,5 +1,3 @@
-// Tests each word of the vocabulary separately.
-
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -30,8 +30,7 @@ class SmallSpaces : public testing::Test {
     std::optional<int> expect(const catalogue::Function& function, const Values& values);
     std::optional<int> expect(std::string_view name, const Values& values);
 
-    // expect_each passes each string to each of the checks and returns the number of occurrences of each
-    // code.
+    // expect_each passes each string to each of the checks and counts the occurrences of each code.
     std::map<int, int> expect_each(const std::vector<std::string_view>& names, const Texts& texts);
 
  private:

@@ -6,7 +6,6 @@
 
 namespace ostrel::tests {
 
-// in_ranges returns whether the byte lies in one of the ranges.
 inline bool in_ranges(std::string_view pairs, int byte)
 {
     for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {

@@ -11,8 +11,7 @@
 
 namespace ostrel::tests {
 
-// ChildEnd describes how a child ended. It contains the output that the child flushed, explicitly or by
-// returning.
+// The output is what the child flushed, explicitly or by returning.
 struct ChildEnd {
     bool timed_out = false;  // it was still running at the limit and was killed
     int signal = 0;          // the signal that ended it, or 0 if there was none or it timed out
@@ -44,7 +43,6 @@ class Child {
     int err_ = -1;
 };
 
-// run_in_child starts a child and waits for it.
 ChildEnd run_in_child(std::chrono::milliseconds limit, const std::function<int()>& body);
 
 }  // namespace ostrel::tests

@@ -11,8 +11,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// Other tests use children for calls that end by a signal or never return, so Child must tell these endings
-// apart.
+// Other tests rely on this for calls that end by a signal or never return.
 TEST(Child, TellsReturnSignalAndTimeOutApart)
 {
     const ChildEnd returned = run_in_child(milliseconds(10000), [] {

@@ -14,9 +14,8 @@ namespace {
 constexpr int kFailed = 1;
 constexpr int kSkipped = 77;
 
-// Counts derives the exit status from the number of tests that ran and that were skipped. It is a listener
-// because no listener is called if a program only lists its tests, which must not be reported as
-// "No test ran."
+// Counts derives the exit status from the tests that ran and that were skipped. It is a listener because none
+// is called if a program only lists its tests, which must not be reported as "No test ran."
 class Counts : public testing::EmptyTestEventListener {
  public:
     [[nodiscard]] int status() const { return status_; }

@@ -32,7 +32,6 @@ TEST(Sample, DISABLED_FailsInACapture)
     EXPECT_EQ("before after", captured) << "the capture holds more";
 }
 
-// run_samples runs the samples whose names match the filter.
 ChildEnd run_samples(const std::string& samples, const char* ci)
 {
     return run_in_child(std::chrono::seconds(60), [&] {

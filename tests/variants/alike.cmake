@@ -1,4 +1,3 @@
-# ostrel_copy_properties copies these properties of the library to a target.
 function(ostrel_copy_properties target)
     foreach(property ${ARGN})
         get_target_property(value ostrel_check ${property})

@@ -65,8 +65,7 @@ class Channel : public testing::Test {
 
     void list(const std::string& text) { tool("printf '" + text + "'"); }
 
-    // Reply is a code and the bytes written to the descriptors of standard output and standard error,
-    // including what the shell and the tool write.
+    // Reply is the code and what the check, the shell and the tool write to standard output and error.
     struct Reply {
         int code = 0;
         std::string out;

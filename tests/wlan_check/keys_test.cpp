@@ -20,7 +20,6 @@ constexpr char kFilling = '\x5A';
 using Keys = std::array<std::string, 4>;
 using Block = std::array<char, 4 * kDistance>;
 
-// block_of stores the keys in a block in which all other bytes are kFilling.
 Block block_of(const Keys& keys)
 {
     Block block;
@@ -31,8 +30,7 @@ Block block_of(const Keys& keys)
     return block;
 }
 
-// check returns the code of WLAN_check_wepkeys, and expects it to write a NUL at the start of the given keys
-// and nothing else.
+// check expects WLAN_check_wepkeys to write only a NUL at the start of these keys, and returns its code.
 int check(const Keys& keys, const std::array<bool, 4>& emptied)
 {
     Block block = block_of(keys);

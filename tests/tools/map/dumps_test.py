@@ -33,8 +33,6 @@ def matches(pattern, path):
 
 
 class Unmapped(unittest.TestCase):
-    """Parameters without a check are counted and listed."""
-
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)

@@ -19,7 +19,6 @@ IP = "WANDevice.1.WANConnectionDevice.2.WANIPConnection.1."
 
 
 def port_mapping(base, number, port, protocol):
-    """port_mapping returns the parameters of a port mapping."""
     base = f"{base}PortMapping.{number}."
     return {
         base + "PortMappingEnabled": "1",
@@ -33,7 +32,6 @@ def port_mapping(base, number, port, protocol):
 
 
 def wlan(number, standard, channel, name):
-    """wlan returns the parameters of a wireless network."""
     base = f"{WLAN}{number}."
     keys = {f"{base}WEPKey.{key}.WEPKey": f"{key}123456789" for key in range(1, 5)}
     return {
@@ -63,7 +61,6 @@ def wlan(number, standard, channel, name):
 
 
 def good_gateway(number):
-    """good_gateway returns the parameters of a gateway, all of which their checks accept."""
     net = f"192.168.{number % 250}."
     colours = {f"UserInterface.{name}Color": "00a0ff" for name in ("Text", "Background", "Button", "ButtonText")}
     servers = {f"Time.NTPServer{n}": f"ntp{n}.example.net" for n in range(1, 6)}
@@ -200,7 +197,6 @@ def gateways(count, seed=1):
 
 
 def nested(parameters):
-    """nested returns the parameters as a tree."""
     tree = {}
     for path, value in parameters.items():
         *names, last = path.split(".")

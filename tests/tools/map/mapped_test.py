@@ -95,8 +95,6 @@ class Fleet(unittest.TestCase):
 
 
 class Rows(unittest.TestCase):
-    """Tests maps that the test writes itself."""
-
     def judge(self, parameters, rows, *options, header="gateway,parameter,value"):
         with tempfile.NamedTemporaryFile("w", suffix=".json") as file:
             json.dump({"parameters": parameters}, file)

@@ -11,8 +11,6 @@ BOUNDS = {"int": (-(2**31), 2**31 - 1), "unsignedInt": (0, 2**32 - 1)}
 
 
 class Facts:
-    """Facts is a row of a file of facts."""
-
     def __init__(self, row):
         self.type = row["type"].removeprefix("list of ")
         self.is_list = self.type != row["type"]
@@ -22,7 +20,6 @@ class Facts:
             self.limits[name].append(limit.removeprefix(name + " "))
 
     def allows(self, value):
-        """allows returns whether the model allows a value."""
         if self.is_list:
             items = value.split(",") if value else []
             return self._within("list length", len(value)) and all(self._allows_item(item) for item in items)
@@ -105,6 +102,5 @@ def decoded(value):
 
 
 def read_facts(path):
-    """read_facts returns the facts of each parameter."""
     with open(path, encoding="ascii", newline="") as file:
         return {row["path"]: Facts(row) for row in csv.DictReader(file, delimiter="\t")}

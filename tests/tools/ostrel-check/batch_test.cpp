@@ -1,5 +1,3 @@
-// Tests batches of cases from files and from standard input.
-
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>

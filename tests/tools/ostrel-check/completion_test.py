@@ -18,8 +18,6 @@ import unittest
 
 
 class Shell:
-    """Shell is a shell that runs in a terminal."""
-
     PROMPT = "ready> "
     LONGEST = 60.0
 

@@ -71,7 +71,6 @@ TEST_F(Driver, AnswersABatchToo)
     EXPECT_EQ(-1, rows[1]["code"]);
 }
 
-// WithTool installs a shell script named wlctl at the front of the PATH.
 class WithTool {
  public:
     explicit WithTool(std::string_view script)

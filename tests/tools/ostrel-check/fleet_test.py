@@ -48,11 +48,8 @@ def ends_row(name, line):
 
 
 def write_pieces(name, whole, piece):
-    """write_pieces splits a form between gateways, writes the pieces to files and yields their names.
-
-    It keeps only one line in memory: if this process held all lines, its peak memory would be attributed to programs
-    started later.
-    """
+    """write_pieces splits a form between gateways, writes the pieces to files and yields their names. It keeps only one
+    line in memory: if this process held all lines, its peak memory would be attributed to programs started later."""
     gateways = -(-ROWS // (PIECES * GATEWAY))
     is_tree = name == "fleet.json"
     with open(whole, "rb") as lines:
@@ -89,10 +86,8 @@ class Fleet(unittest.TestCase):
 
     @classmethod
     def judge(cls, name, *words):
-        """judge writes the results and the summary to files and returns the name of the results file.
-
-        On a busy machine, a worker may wait for the processor longer than the usual time limit of a call.
-        """
+        """judge writes the results and the summary to files and returns the name of the results file. On a busy
+        machine, a worker may wait for the processor longer than the usual time limit of a call."""
         begin = time.monotonic()
         with open(cls.path(name), "wb") as results:
             process = subprocess.Popen([PROGRAM, "batch", "--stream", "--exit-zero", "--limit-time", "60", "--summary-file",
@@ -171,8 +166,7 @@ class Fleet(unittest.TestCase):
                 results.write(process.stdout.read(100))
                 if part < 3:
                     process.send_signal((signal.SIGINT, signal.SIGTERM)[part % 2])
-                # The output is copied in pieces: if this process held all of it, its peak memory would be attributed to
-                # programs started later.
+                # The output is copied in pieces to keep this process small, as in write_pieces.
                 shutil.copyfileobj(process.stdout, results)
                 err = process.stderr.read()
                 process.stdout.close()

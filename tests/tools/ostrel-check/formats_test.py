@@ -25,7 +25,6 @@ def run(data, *options):
 
 
 def judged(data, *options):
-    """Returns the results of a batch without its summary."""
     rows = [json.loads(line) for line in run(data, "--json", *options).stdout.splitlines()]
     assert "summary" in rows[-1]
     return rows[:-1]
@@ -57,8 +56,6 @@ def write(form, cases):
 
 
 class OneText(unittest.TestCase):
-    """A value has the same verdict in every format."""
-
     TEXTS = ("", "secret", "Straße", "日本", "naïve café", "a,b", 'a"b', '"', "a\tb", "a\nb", "a\r\nb", "#a", "{a}", "@null",
              "a\\b", "\\xE9", " a ", "é", "\x7f", "\x01", "\ufeff", "\u0080", "\u00ff", "0", "1.10", "'", "€" * 30, "ß" * 20,
              "a\0b")
@@ -287,8 +284,6 @@ class Json(unittest.TestCase):
 
 
 class Choice(unittest.TestCase):
-    """The file's name or its first bytes determine the format."""
-
     def test_by_name_and_by_first_bytes(self):
         cases = [("PARAM_check_port", "1"), ("PARAM_check_bool_value", "x,y")]
         with tempfile.TemporaryDirectory() as folder:

@@ -16,8 +16,7 @@ namespace {
 
 std::string in_small_letters(const std::string& text) { return CLI::detail::to_lower(text); }
 
-// argument_of returns an option's type as mdoc markup: either the list of words that the option accepts, or a
-// placeholder for its value.
+// argument_of returns an option's type as mdoc markup: the words that it accepts, or a placeholder.
 std::string argument_of(const CLI::Option& option)
 {
     if (option.get_items_expected_max() == 0) return "";

@@ -15,7 +15,6 @@ import vectors  # noqa: E402  (sys.path must be set first)
 
 
 def batch(lines, *options):
-    """batch judges lines and returns the results in order."""
     result = subprocess.run([PROGRAM, "batch", "--json", *options], input=lines, capture_output=True, text=True,
                             check=False)
     return [row for row in map(json.loads, result.stdout.splitlines()) if "check" in row]
@@ -34,8 +33,6 @@ def said(*words):
 
 
 class Vectors(unittest.TestCase):
-    """Each refusal has a reason."""
-
     @classmethod
     def setUpClass(cls):
         lines = []

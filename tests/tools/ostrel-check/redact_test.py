@@ -117,8 +117,7 @@ class Redaction(unittest.TestCase):
             self.assertIn("not shown", shown)
 
     def test_members_that_are_passed_through(self):
-        """A passed-through member may repeat the value plainly, inside a string, with escapes, as a number, or in a
-        list."""
+        """The member may repeat the value plainly, inside a string, with escapes, as a number, or in a list."""
         lines = []
         for marker in MARKERS:
             number = marker if marker.isdigit() and marker[0] != "0" else f'"{marker}"'

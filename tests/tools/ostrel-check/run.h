@@ -23,7 +23,6 @@ void PrintTo(const RunResult& outcome, std::ostream* stream);
 // program returns the path of ostrel-check, from the environment variable OSTREL_CHECK or from the build.
 std::string program();
 
-// run runs ostrel-check with these arguments and this standard input.
 RunResult run(std::vector<std::string> arguments, std::string_view input = "");
 
 // run_batch runs a batch with JSON results over the input and parses each line; the last one is the summary.

@@ -1,5 +1,3 @@
-// Tests single values on the command line.
-
 #include <gtest/gtest.h>
 
 #include "run.h"
@@ -13,7 +11,6 @@ std::string usage_error(const std::string& problem)
     return "ostrel-check: " + problem + "\nostrel-check --help shows how to use it.\n";
 }
 
-// value_error returns the message for values that do not match a check's arguments.
 std::string value_error(const std::string& problem, const std::string& name)
 {
     return "ostrel-check: " + problem + "\nostrel-check explain " + name + " describes its arguments.\n";

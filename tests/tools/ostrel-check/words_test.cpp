@@ -95,7 +95,6 @@ TEST(Words, ALongTextIsShownWithItsLength)
     EXPECT_EQ("abc... (6 bytes)", shown);
 }
 
-// described returns a function that has a description and is never called.
 Function described(std::span<const catalogue::Argument> arguments)
 {
     Function function;
