@@ -3,8 +3,7 @@
 //
 // usage: vectors_test [MODULE]...
 //
-// If modules are named, only their files are read, as in vectors_test hosts wlan_check/keys. A folder selects
-// all its modules.
+// If modules are named (hosts, wlan_check/keys), only their files are read. A folder selects all its modules.
 
 #include <gtest/gtest.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-// Tests that export list, public headers, catalogue and loaded library name the same functions and data.
+// Tests that the export list, public headers, catalogue and loaded library name the same functions and data.
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
@@ -32,7 +32,6 @@ std::string contents(const std::filesystem::path& path)
 
 bool is_name_character(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; }
 
-// names_before returns the name before each occurrence of any of the marks.
 std::vector<std::string> names_before(const std::string& text, std::string_view marks)
 {
     std::vector<std::string> names;

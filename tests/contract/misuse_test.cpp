@@ -1,6 +1,5 @@
-// Passes hostile values, each next to an unreadable page, as every text argument of every function. No call
-// may crash, access memory outside its values, return a code that the catalogue does not list, or exceed a
-// time limit that only linear time can meet.
+// Passes hostile values next to an unreadable page as every text argument. No call may crash, access memory
+// outside its values, return an unlisted code, or exceed a time limit that only linear time can meet.
 
 #include <gtest/gtest.h>
 

@@ -33,8 +33,7 @@ void dump(int signal_number)
     std::raise(signal_number);
 }
 
-// The tests kill a call that has not returned within 300 ms. The timer expires after 100 ms, by which time
-// such a call has reached its endless loop.
+// The tests kill a call after 300 ms. After 100 ms, a call that never returns has reached its endless loop.
 void start_timer()
 {
     const itimerval once = {{0, 0}, {0, 100000}};

@@ -33,8 +33,7 @@ PHRASES = [("at least", "at most"), ("needed", "allowed"), ("first", "last"), ("
 NOT_REPORTED = {"text", "buffer", "blocks", "integer", "natural", "integer_out", "in"}
 # Steps of this kind have the same reason, so their order makes no difference.
 ALIKE = {"refuse_repeated"}
-# No value is refused both by a step that matches the first pattern and by one that matches the second, so the order
-# of two such steps makes no difference.
+# No value is refused by two steps that match different patterns, so the order of such steps makes no difference.
 TOO_LITTLE = re.compile(r'(?:below|shorter_than)\((?:.*, )?-?\d+\)|empty\(\)')
 TOO_MUCH = re.compile(r'(?:above|longer_than)\((?:.*, )?-?\d+\)|refuse_above|outside\(k\w+\)')
 

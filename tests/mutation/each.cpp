@@ -1,6 +1,5 @@
-// Runs the tests with each of the changes that are compiled into the program. Each line of standard input is
-// the number of a change; the program prints that number, then 1 if a test failed and 0 otherwise. It reads
-// the rows only once.
+// Runs the tests with each of the changes compiled into the program, and reads the rows only once. Each input
+// line is the number of a change; the program prints that number, then 1 if a test failed and 0 otherwise.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

@@ -45,9 +45,8 @@ class Listed:
         line: the text of the source line
         why: the reason, on one or more lines
 
-    keys maps the keys that an entry may have, besides "why", to the fields of an item with which they are compared. A
-    key may occur several times, and "*" matches anything. An entry applies to the items that match one value of each
-    key.
+    keys maps the keys of an entry, except "why", to the fields of an item with which they are compared. A key may occur
+    several times, and "*" matches anything. An entry applies to the items that match one value of each key.
     """
 
     def __init__(self, path, items, keys):

@@ -18,8 +18,7 @@ OPERATORS = {
 }
 UNARY = {"++": "--", "--": "++"}
 WORDS = {"true": "false", "false": "true", "nullptr": None, "__func__": '"nobody"'}
-# FUNCTION matches the name of a function whose definition begins in the first column. After the end of a function, it
-# matches an empty name.
+# FUNCTION matches the name of a function that is defined in the first column and, after its end, an empty name.
 FUNCTION = re.compile(r"^(?:[a-z\[][^=;]*?(\w+)\(|\}\n|namespace)", re.MULTILINE)
 CODE = re.compile(r"OSTREL_[A-Z_]+$")
 CODES = ["OSTREL_VALID", "OSTREL_INVALID", "OSTREL_INVALID_VALUE", "OSTREL_OUT_OF_RANGE"]

@@ -75,8 +75,7 @@ std::vector<Asserting> asserting_checks()
     return all;
 }
 
-// Reports contains the messages of failed assertions, without the program's name and with "*" in place of a
-// line number that is not fixed.
+// Reports are failure messages without the program's name, and with "*" for a line number that is not fixed.
 using Reports = std::multiset<std::string>;
 
 // Places maps a module and a line to the functions that the reports name.

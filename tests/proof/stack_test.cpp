@@ -75,8 +75,7 @@ int fclose(std::FILE* /*stream*/) { return 0; }
 
 int unlink(const char* /*name*/) noexcept { return 0; }
 
-// The C library's strstr uses a table of 2 KiB for long strings. Its C++ overloads prevent a definition under
-// that name.
+// The C library's strstr uses a table of 2 KiB. Its C++ overloads prevent a definition under that name.
 const char* find_part(const char* text, const char* part) __asm__("strstr");
 const char* find_part(const char* text, const char* part)
 {
@@ -88,8 +87,7 @@ const char* find_part(const char* text, const char* part)
     }
 }
 
-// This atoi works as in a C library with a 64-bit long: it clamps the number to the range of a long, which it
-// then truncates to an int.
+// As in a C library with a 64-bit long, atoi clamps the number to a long, which it then truncates to an int.
 int atoi(const char* nptr) noexcept
 {
     while (*nptr == ' ' || (*nptr >= '\t' && *nptr <= '\r')) ++nptr;

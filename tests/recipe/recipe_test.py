@@ -24,8 +24,7 @@ SKIPPED = 77
 LIMITS = {"OSTREL_LONGEST_TEXT": "9000"}
 PRINTED = "Error in L3FORWARDING_check_preference: Invalid preference:%s, RANGE[1, 255]\n"
 
-# TESTS are the tests of the gcc preset that read every check or a file generated from all checks. TARGETS are the build
-# targets that they need.
+# The tests of the gcc preset that read every check or a file generated from all checks, and their build targets.
 TESTS = ("vectors_test|paths|exports_test|misuse_test|abi|headers|shared_object|rules_test|constraints_test|json_schema|"
          "assertions_test|pages|terminal|explain|reasons|examples_test|packed_vectors|sql.table")
 TARGETS = ["ostrel_check", "ostrel_check_O0", "ostrel_empty", "ostrel-check", "find_hazards", "fuzz_replay", "vectors_test",
@@ -77,7 +76,7 @@ L3FORWARDING_check_preference 256
 """),
     "CHANGELOG.md": ("\n## ", "\n- `L3FORWARDING_check_preference`.\n"),
 }
-# The generators, by their names in CONTRIBUTING.md. No test above reads docs/footprint.md of scripts/footprint.
+# The generators, by their names in CONTRIBUTING.md, except scripts/footprint: no test above reads docs/footprint.md.
 GENERATORS = {
     "scripts/hazards": "scripts/hazards",
     "scripts/stubs": "scripts/stubs",

@@ -42,8 +42,7 @@ TEST(CountsTest, CasesAndItemsCountToo)
     // address, refuse an invalid name, refuse an invalid address.
     const Check& host = *find("ValidateURL");
     // TcmValidateDomainName's steps: refuse an empty value, refuse a byte outside the set, refuse a value of
-    // only digits and dots, refuse too many labels, visit each label, refuse an empty label, refuse a long
-    // one.
+    // only digits and dots, refuse too many labels, visit each label, refuse an empty one, refuse a long one.
     const Check& name = *find("TcmValidateDomainName");
     Counts counts;
     using Times = std::vector<std::uint64_t>;

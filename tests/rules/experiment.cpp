@@ -27,7 +27,6 @@ namespace {
 
 constexpr std::size_t kMostRows = 3;  // rows into which candidates are inserted
 
-// build returns a build whose driver lists channels.
 const rules::Build& build() { return oracle::builds_with_channels().front(); }
 
 bool is_in_range(Kind kind, long long number)

@@ -27,8 +27,7 @@ class Experiment {
     // Recommended values and, if the constraints are sufficient, those that obey them must be accepted.
     void vary(std::size_t argument, calling::Capture& capture);
 
-    // pass_null returns the outcomes that the description predicts for NULL and, if the call can be made,
-    // those that occur.
+    // pass_null returns the predicted outcomes for NULL and, if the call can be made, the actual ones.
     std::set<rules::NullOutcome> pass_null(std::size_t argument, calling::Capture& capture);
 
     [[nodiscard]] const rules::Constraints* constraints(std::size_t argument) const

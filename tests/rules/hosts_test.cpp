@@ -90,8 +90,7 @@ TEST(HostsTest, MailAddresses)
               told("TcmValidateEmailAddress", {"a.b@c"}));
 }
 
-// The sentence lists the bytes that a host may contain, although the set that is tested first includes "_"
-// and ":".
+// The sentence lists the bytes that a host may contain, although the first set also includes "_" and ":".
 TEST(HostsTest, OfTelephony)
 {
     const char* const registrar = "TcmValidateVoIPRegistrar";

@@ -1,5 +1,4 @@
-// Tests every value in small spaces of hosts, URLs, mail addresses, IP and MAC addresses, lists of addresses,
-// and ports.
+// Tests every value in small spaces of hosts, URLs, mail, IP and MAC addresses, address lists, and ports.
 
 #include <string>
 

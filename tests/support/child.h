@@ -32,8 +32,7 @@ class Child {
     Child& operator=(const Child&) = delete;
     ~Child();
 
-    // wait returns how the child ended. It kills the child when the limit, counted from the child's start,
-    // has passed. Call it only once.
+    // wait kills the child when the limit, counted from the child's start, has passed. Call it only once.
     ChildEnd wait(std::chrono::milliseconds limit);
 
  private:

@@ -1,5 +1,4 @@
-// A host that defines the two utilities cmsUtl_strcmp and htmlToText. The library must call them and use
-// their results.
+// A host that defines cmsUtl_strcmp and htmlToText. The library must call them and use their results.
 
 #include <gtest/gtest.h>
 #include <ostrel/result_code.h>

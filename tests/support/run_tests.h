@@ -4,9 +4,8 @@
 
 namespace ostrel::tests {
 
-// run_tests runs the tests and returns the exit status. It is 1 if a test failed or none ran, and 77, which
-// ctest counts as skipped, if a test was skipped. If CI is set in the environment, a skipped test is a
-// failure.
+// run_tests returns the exit status: 1 if a test failed or none ran, and 77, which ctest counts as skipped,
+// if a test was skipped. If CI is set in the environment, a skipped test is a failure.
 int run_tests();
 
 }  // namespace ostrel::tests

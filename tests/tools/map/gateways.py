@@ -140,8 +140,7 @@ def good_gateway(number):
     return {ROOT + path: value for path, value in gateway.items()}
 
 
-# A fault consists of a parameter, its bad value (None if it is missing), the check that detects it, the offending
-# argument, and the reason.
+# Each fault is a parameter, its bad value (None if missing), the check, the offending argument, and the reason.
 FAULTS = [
     ("DeviceInfo.ProvisioningCode", "TLCO.GRP2", "PARAM_check_provisioning_code", "value_p", "wrong_length"),
     ("ManagementServer.URL", "https://acs.example.net/", "MGTSERVER_check_server_url", "value_p", "wrong_prefix"),

@@ -1,5 +1,3 @@
-// Prints the manual page's synopsis or its list of options.
-//
 // usage: print_manual synopsis|options
 
 #include <iostream>
