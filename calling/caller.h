@@ -22,8 +22,7 @@ class GuardedMemory {
     GuardedMemory& operator=(const GuardedMemory&) = delete;
     ~GuardedMemory();
 
-    // place returns size bytes of memory that adjoin the unreadable page at the given edge. Any earlier
-    // contents are lost.
+    // place returns memory that adjoins the unreadable page at the given edge. Earlier contents are lost.
     char* place(std::size_t size, Edge edge);
 
  private:
@@ -44,15 +43,12 @@ class Caller {
  public:
     explicit Caller(Edge edge = Edge::kEnd) : edge_(edge) {}
 
-    // load accepts either one value for each argument or one for each argument that the function reads. If
-    // the values do not match the arguments in number, kind or range, it throws std::invalid_argument with a
-    // message for the user.
+    // load accepts a value for each argument, or for each one that the function reads. It throws
+    // std::invalid_argument with a message for the user if their number, a kind or a range is wrong.
     void load(const catalogue::Function& function, const std::vector<catalogue::Value>& values);
 
-    // call calls the function with the loaded values.
     int call() { return function_->invoke(raw_); }
 
-    // written returns the arguments that the function may have written, with their values.
     [[nodiscard]] std::vector<Written> written() const;
 
  private:

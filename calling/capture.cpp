@@ -30,8 +30,7 @@ Prints& map_prints()
     return *static_cast<Prints*>(memory);
 }
 
-// own_prints returns the memory that the default constructor uses. It is mapped only once, because mapping
-// takes longer than most calls.
+// own_prints maps the default constructor's memory only once; mapping takes longer than most calls.
 Prints& own_prints()
 {
     static Prints& prints = map_prints();

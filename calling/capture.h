@@ -41,9 +41,8 @@ struct Printed {
     std::string err;
 };
 
-// Capture replaces standard output and standard error during its lifetime. Only one may exist at a time. It
-// replaces the streams of this process but not its file descriptors, so processes started by the library
-// still print to the original descriptors.
+// Capture replaces the streams stdout and stderr during its lifetime. Only one may exist at a time. The file
+// descriptors stay, so processes started by the library still print to the original ones.
 class Capture {
  public:
     Capture();
@@ -59,7 +58,6 @@ class Capture {
     // look returns a view of the output since the last take or clear.
     PrintedView look();
 
-    // clear discards the output.
     void clear();
 
  private:

@@ -7,10 +7,9 @@ namespace ostrel::calling {
 inline constexpr char kChannelFolder[] = "/var";
 inline constexpr char kChannelList[] = "/var/hnapwl0chlist";
 
-// move_to_own_var moves this process, and any children that it starts later, to a mount namespace in which
-// /var is a private folder with the same files and folders. It returns whether /var is writable. If the
-// system does not allow such a namespace, the process keeps the shared /var. Call it before starting a second
-// thread.
+// move_to_own_var moves this process and its later children to a mount namespace in which /var is a private
+// folder with the same contents. If the system does not allow that, /var stays shared. It returns whether
+// /var is writable. Call it before starting a second thread.
 bool move_to_own_var();
 
 // can_list_channels returns whether the channel list can be written, to a private /var if possible and

@@ -19,8 +19,7 @@ struct List {
     }
 };
 
-// list_functions deduces each function's arguments from its declaration. Everything else is described in
-// rules/.
+// The arguments are deduced from the declarations. Everything else is described in rules/.
 std::vector<Function> list_functions()
 {
     List list;

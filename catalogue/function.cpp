@@ -8,8 +8,7 @@
 
 namespace ostrel::catalogue {
 
-// A declaration does not show whether a buffer contains one string or several, so described accepts either in
-// the description.
+// A declaration does not show whether a buffer contains several strings, so described accepts either.
 Function described(std::string_view name, std::string_view family, std::vector<Kind> kinds,
                    const void* address, int (*invoke)(std::span<const Raw>))
 {

@@ -35,12 +35,10 @@ struct Function {
     int (*invoke)(std::span<const Raw> arguments) = nullptr;
 };
 
-// kUnwritten is the initial value of a number that the function only writes. No function sets a number to
-// this value.
+// kUnwritten is the initial value of a number that is only written. No function writes this value.
 inline constexpr long long kUnwritten = std::numeric_limits<int>::min();
 
-// completed adds an initial value for each argument that the function only writes, if the caller omitted
-// these arguments.
+// completed adds initial values for the arguments that the function only writes, if they are missing.
 std::vector<Value> completed(const Function& function, std::span<const Value> given);
 
 // room_of returns the number of bytes that a caller must provide for a buffer, or for each string in an
@@ -93,8 +91,7 @@ struct Signature<F> {
 
 }  // namespace detail
 
-// described returns a function with its description. It throws std::logic_error if the argument kinds in the
-// description differ from those in the declaration.
+// described throws std::logic_error if the argument kinds in the description differ from those declared.
 Function described(std::string_view name, std::string_view family, std::vector<Kind> kinds,
                    const void* address, int (*invoke)(std::span<const Raw>));
 

@@ -92,7 +92,6 @@ Exposure exposure_from(const Function& function, std::string_view line)
     return exposure;
 }
 
-// read parses the lines for one function and skips all other lines.
 std::vector<Exposure> read(const Function& function)
 {
     std::vector<Exposure> result;

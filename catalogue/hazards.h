@@ -30,7 +30,6 @@ inline constexpr std::array kPlaces = {Place::kFirst, Place::kInside, Place::kLa
 
 std::string_view name_of(Place place);
 
-// stands_at returns whether the byte occurs at the given place in the string.
 bool stands_at(Place place, std::string_view text, char byte);
 
 // Witness is a call that is accepted no matter which of these bytes is at the given offset in an argument.
@@ -57,7 +56,6 @@ struct Exposure {
     [[nodiscard]] std::string bytes(Place place, const Hazard& hazard) const;
 };
 
-// exposures_of returns the exposures of a check's arguments.
 const std::vector<Exposure>& exposures_of(const Function& function);
 
 // line_of returns an exposure in the form of a line in docs/hazards.md.

@@ -20,8 +20,6 @@ constexpr std::size_t kShortest = 2;
 bool is_letter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 bool is_capital(char c) { return c >= 'A' && c <= 'Z'; }
 
-// begins_word returns whether a word begins at the given offset in a name. A word begins after a byte that is
-// not a letter, and at a capital letter that follows a lower-case one.
 bool begins_word(std::string_view name, std::size_t at)
 {
     if (at == 0 || !is_letter(name[at - 1])) return true;

@@ -6,11 +6,9 @@
 
 namespace ostrel::catalogue {
 
-// meaning returns the meaning of a result code in a few words.
 std::string_view meaning(int code);
 
-// constant returns the name that result_code.h defines for a result code, or an empty string for any other
-// number.
+// constant returns the name of the code in result_code.h, or an empty string for any other number.
 std::string_view constant(int code);
 
 }  // namespace ostrel::catalogue

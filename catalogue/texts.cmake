@@ -1,5 +1,4 @@
-# Generates texts.cpp, which contains files from the source tree as string literals, so that the program does
-# not need to read the files.
+# Generates texts.cpp, which embeds files from the source tree, so that the program does not need to read them.
 set(hazards ${PROJECT_SOURCE_DIR}/docs/hazards.md)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS catalogue.schema.json ${hazards})
 file(READ catalogue.schema.json OSTREL_SCHEMA)

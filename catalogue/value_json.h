@@ -15,8 +15,7 @@ namespace ostrel::catalogue {
 // results of more than 16 MiB are refused.
 std::string text_from_json(const nlohmann::json& text);
 
-// value_from_json reads an argument, which is null, a number, a string in any of these forms, or an array of
-// strings.
+// value_from_json reads null, a number, a string in any of these forms, or an array of strings.
 Value value_from_json(const nlohmann::json& value);
 
 // json_from_value is the inverse of value_from_json. It writes every string as a plain JSON string.

@@ -14,7 +14,6 @@ using rules::Value;
 
 namespace {
 
-// missing returns what a reason lacks, or an empty string if the reason is complete.
 std::string missing(const rules::Reason& reason)
 {
     if (reason.id.empty()) return "no id";

@@ -1,5 +1,5 @@
-// Fuzzer makes the calls that inputs encode. It compares the results with the description, follows the reason
-// for a refusal as advice, and compares the bytes of accepted values with docs/hazards.md.
+// Fuzzer makes the calls that inputs of one family encode. It compares the results with the description,
+// follows the reason for a refusal as advice, and compares the bytes of accepted values with docs/hazards.md.
 #ifndef OSTREL_FUZZ_FUZZER_H
 #define OSTREL_FUZZ_FUZZER_H
 
@@ -16,14 +16,12 @@
 
 namespace ostrel::fuzz {
 
-// RunResult is the outcome of running an input.
 enum class RunResult {
     kAgreed,
     kOutside,  // not called, because the contract does not cover the call
     kDiffered,
 };
 
-// Fuzzer runs the inputs for one family of the catalogue.
 class Fuzzer {
  public:
     // This constructor throws std::invalid_argument for an unknown family.
@@ -39,8 +37,7 @@ class Fuzzer {
     // the actual one, or the fault in the reason.
     [[nodiscard]] const std::string& fault() const { return fault_; }
 
-    // encode returns the input for a call, or nothing if the function is not in this family or a string is
-    // too long.
+    // encode returns nothing if the function is not in this family or a string is too long.
     [[nodiscard]] std::optional<std::string> encode(const catalogue::Function& function,
                                                     const std::vector<rules::Value>& values) const;
 
@@ -48,14 +45,12 @@ class Fuzzer {
     [[nodiscard]] bool decodes(std::string_view input, const catalogue::Function& function,
                                const std::vector<rules::Value>& values);
 
-    // function returns the function that an input calls.
     [[nodiscard]] const catalogue::Function& function(std::string_view input) const;
 
     [[nodiscard]] const oracle::Follower& follower() const { return follower_; }
     [[nodiscard]] std::size_t calls() const { return comparer_.calls(); }
 
-    // refused returns how many inputs were refused. A refusal without an id or a sentence counts as a
-    // difference.
+    // refused counts the inputs that were refused. A refusal without an id or a sentence is a difference.
     [[nodiscard]] std::size_t refused() const { return refused_; }
 
  private:

@@ -56,7 +56,6 @@ bool refuses(const std::vector<rules::Step>& steps)
 
 bool may_refuse(const Function& function) { return refuses(function.check->steps); }
 
-// Replay runs the inputs of one family.
 class Replay {
  public:
     Replay(std::string_view family, const ReplayOptions& options, rules::Counts& counts,
@@ -174,8 +173,7 @@ bool are_met(const rules::Counts& counts, const rules::Counts& further, const Re
     return below == 0;
 }
 
-// require_families throws if inputs are in a folder that is not named after a family, because these inputs
-// would never run.
+// require_families throws for a folder that is not named after a family, because its inputs would never run.
 void require_families(const std::vector<std::filesystem::path>& folders)
 {
     const std::vector<std::string_view> families = catalogue::families();

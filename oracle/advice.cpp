@@ -99,7 +99,6 @@ bool is_same(const Answer& answer, const Reason& reason)
            other.part == reason.part && other.item == reason.item && other.offset == reason.offset;
 }
 
-// way_of returns NULL for an unknown id.
 const Way* way_of(std::string_view id)
 {
     const auto* way = std::ranges::lower_bound(kWays, id, {}, &Way::id);

@@ -1,7 +1,6 @@
-// Follows each reason as a user who reads its sentence would. If the advice is followed, the same reason must
-// not occur again. A call that falls one step short of the advice, for example with a number one above the
-// limit, must be refused for the same reason. This finds false reasons even in a description that agrees with
-// the library in every result code.
+// Follows each reason as a user who reads its sentence would. The same reason must not occur again, and a
+// call one step short of the advice, for example with a number one above the limit, must be refused for it.
+// This finds false reasons even in a description that agrees with the library in every result code.
 #ifndef OSTREL_ORACLE_ADVICE_H
 #define OSTREL_ORACLE_ADVICE_H
 
@@ -26,8 +25,7 @@ struct Advice {
     std::vector<Values> attempts;  // each is either one step short or accepted
 };
 
-// Way defines how to follow the reasons with the given id. The function is NULL if no check has such a
-// reason, or if such reasons cannot be followed.
+// Way defines how to follow the reasons with an id. advise is NULL if there are none or none can be followed.
 struct Way {
     std::string_view id;
     void (*advise)(const Refusal& refusal, Advice& advice);

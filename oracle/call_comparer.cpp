@@ -43,8 +43,7 @@ std::string row(const Function& function, const std::vector<Value>& values, cons
     return result.dump();
 }
 
-// is_left returns whether a number that is only an output of the function was left unwritten. Caller returns
-// NULL for such a number.
+// is_left returns whether a number that is only an output was left unwritten; Caller then returns NULL.
 bool is_left(const Value& expected, const Value& actual)
 {
     const auto* number = std::get_if<long long>(&expected);

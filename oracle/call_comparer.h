@@ -14,9 +14,8 @@ namespace ostrel::oracle {
 
 class CallComparer {
  public:
-    // agrees makes the call twice: once with every argument ending next to an unreadable page, and once with
-    // every argument beginning next to one. It compares the code, the output, how much was flushed, and the
-    // written arguments. The contract must cover the call.
+    // agrees makes the call twice, with the arguments ending and then beginning next to an unreadable page.
+    // It compares all effects, including how much was flushed. The contract must cover the call.
     bool agrees(const catalogue::Function& function, const std::vector<rules::Value>& values,
                 const rules::Answer& expected);
 
@@ -24,7 +23,6 @@ class CallComparer {
     // format of vectors/, one for what the description expects and one for what the library did.
     [[nodiscard]] const std::string& difference() const { return difference_; }
 
-    // calls returns the number of calls that were made.
     [[nodiscard]] std::size_t calls() const { return calls_; }
 
  private:

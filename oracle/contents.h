@@ -12,16 +12,14 @@
 
 namespace ostrel::oracle {
 
-// texts_of returns the strings in an argument.
 std::vector<std::string> texts_of(const catalogue::Value& value);
 
 class Contents {
  public:
     explicit Contents(const catalogue::Function& function);
 
-    // fault describes a byte of an accepted call that occurs in a place for which docs/hazards.md does not
-    // list it. If there is no such byte, fault returns an empty string. after contains the final value of
-    // each argument that the function may write to, in order.
+    // fault describes a byte of an accepted call in a place for which docs/hazards.md does not list it, or is
+    // empty. after contains the final values of the arguments that may be written, in order.
     [[nodiscard]] std::string fault(std::span<const catalogue::Value> values,
                                     std::span<const catalogue::Value> after) const;
 

@@ -21,7 +21,6 @@ constexpr std::size_t kMostSteps = 128;  // 8192 bytes
 
 bool is_null(std::string_view field) { return field.size() == 1 && field.front() == kNull; }
 
-// next_field removes and returns the first field.
 std::string_view next_field(std::string_view& fields)
 {
     const std::size_t end = std::min(fields.find('\0'), fields.size());
@@ -68,7 +67,6 @@ long long decode_number(std::string_view field, Kind kind)
     return is_unsigned ? static_cast<long long>(bits) : static_cast<int>(bits);
 }
 
-// reuse returns the string in a value. If the value was a string before, its memory is reused.
 std::string& reuse(Value& value)
 {
     auto* text = std::get_if<std::string>(&value);

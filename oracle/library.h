@@ -9,13 +9,11 @@
 
 namespace ostrel::oracle {
 
-// library_build returns the build options of the loaded library. For a variant of the library, the
-// environment variables OSTREL_TEST_MODEL, OSTREL_TEST_ACCOUNT_REALM and OSTREL_TEST_SETUP_REALM contain
-// these options.
+// library_build returns the loaded library's build options. For a variant, the environment variables
+// OSTREL_TEST_MODEL, OSTREL_TEST_ACCOUNT_REALM and OSTREL_TEST_SETUP_REALM contain them.
 const rules::Build& library_build();
 
-// builds_with_channels returns copies of that build with different channel lists, for use with a Driver that
-// lists the same channels.
+// builds_with_channels returns copies of it with different channel lists, each for a Driver with that list.
 const std::vector<rules::Build>& builds_with_channels();
 
 }  // namespace ostrel::oracle

@@ -9,7 +9,6 @@ namespace ostrel::oracle {
 
 namespace {
 
-// with_items returns the list cut or extended to the given number of items.
 std::string with_items(std::string_view text, char separator, long long items)
 {
     std::string result(text);

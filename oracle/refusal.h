@@ -21,18 +21,15 @@ class Refusal {
 
     [[nodiscard]] const rules::Reason& reason() const { return answer_.reason; }
 
-    // judged returns the part of the argument's text that was judged.
     [[nodiscard]] std::string_view judged() const;
     [[nodiscard]] bool is_text() const { return is_text_; }
 
     // byte returns the byte at the reason's offset.
     [[nodiscard]] std::optional<char> byte() const;
 
-    // These functions return what the reason allows, as a list.
     [[nodiscard]] std::vector<long long> allowed_numbers() const;
     [[nodiscard]] std::vector<std::string> allowed_texts() const;
 
-    // some returns at most the given number of items of a list.
     template <typename T>
     [[nodiscard]] std::vector<T> some(const std::vector<T>& all, std::size_t most = 3) const
     {

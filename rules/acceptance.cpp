@@ -132,7 +132,6 @@ Acceptance::Outcome Acceptance::choose(const Step& step, Scope& scope)
             chosen(first.goes_on, second.goes_on)};
 }
 
-// forget discards what is known about values that may have been written.
 void Acceptance::forget(const std::vector<Write>& writes, Scope& scope)
 {
     for (const Write& one : writes) {
@@ -141,7 +140,7 @@ void Acceptance::forget(const std::vector<Write>& writes, Scope& scope)
     }
 }
 
-// This overload discards what is known about values that one iteration may pass to the next.
+// forget discards what is known about values that one iteration may pass to the next.
 void Acceptance::forget(const std::vector<Step>& steps, Scope& scope)
 {
     for (const Step& step : steps) {

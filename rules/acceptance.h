@@ -70,7 +70,6 @@ class Acceptance {
     Claim refused_by(const Condition& condition, const Scope& scope);
     Claim all_of(const std::vector<Condition>& parts, const Scope& scope);
 
-    // These functions claim that a string belongs to a language, or a number to a set of numbers.
     Claim text_in(const Term& term, Language language);
     Claim number_in(const Term& term, const Intervals& numbers);
     Claim unknown(const Term& a, const Term& b = {});

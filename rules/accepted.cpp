@@ -11,7 +11,6 @@ namespace {
 
 using Kind = Step::Kind;
 
-// kNothing describes steps that refuse everything.
 constexpr std::string_view kNothing = "nothing";
 
 class Summary {
@@ -78,7 +77,6 @@ class Summary {
         if (!part.empty()) text.append(text.empty() ? "" : "; ").append(part);
     }
 
-    // enclosed puts a phrase in parentheses if it has several parts.
     static std::string enclosed(const std::string& phrase)
     {
         return phrase.find("; ") == std::string::npos ? phrase : "(" + phrase + ")";
@@ -144,7 +142,6 @@ class Summary {
         return true;
     }
 
-    // is_flat returns whether a check consists only of steps that refuse values or read arguments.
     static bool is_flat(const Check& check)
     {
         return std::ranges::all_of(check.steps, [](const Step& step) {
@@ -156,7 +153,6 @@ class Summary {
     int depth_ = 0;
 };
 
-// remembers_twice returns whether several steps store values under the same name.
 bool remembers_twice(const std::vector<Step>& steps, std::vector<int>& counts)
 {
     return std::ranges::any_of(steps, [&](const Step& step) {

@@ -11,7 +11,6 @@ namespace {
 bool is_white(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
-// bounded reads the digits as a signed number and clamps it to the range from lowest to highest.
 std::int64_t bounded(std::string_view digits, bool negative, std::int64_t lowest, std::int64_t highest)
 {
     std::int64_t value = 0;

@@ -1,5 +1,4 @@
-// A claim states what a condition implies for one argument, the target, if the other arguments may have any
-// value.
+// A claim states what a condition implies for one argument, the target, whatever the other arguments are.
 #ifndef OSTREL_RULES_CLAIM_H
 #define OSTREL_RULES_CLAIM_H
 

@@ -7,7 +7,6 @@ namespace ostrel::rules {
 
 namespace {
 
-// between returns the substring of a predicate between the given beginning and the unit.
 std::string between(const std::string& predicate, std::string_view beginning, std::string_view unit)
 {
     if (!predicate.starts_with(beginning)) return "";
@@ -32,8 +31,7 @@ bool merge(Clause& one, const Clause& other, std::string_view least, std::string
     return true;
 }
 
-// least_bytes returns the minimum length in bytes that a predicate states, or 0 if it states no fixed
-// minimum.
+// least_bytes returns the minimum length that a predicate states, or 0 if it states no fixed minimum.
 int least_bytes(const std::string& predicate)
 {
     if (predicate == "is not empty") return 1;

@@ -25,7 +25,6 @@ std::vector<std::string> all_of_them(const std::vector<long long>& numbers)
     return result;
 }
 
-// in_plural puts a predicate into the plural.
 std::string in_plural(std::string predicate)
 {
     if (predicate.starts_with("has ")) return "have " + predicate.substr(4);
@@ -65,7 +64,6 @@ std::string Speaker::set(const Expression& expression) const
     return "the bytes of " + value(expression);
 }
 
-// among states that a byte is in a set or, if holds is false, that it is not.
 std::string Speaker::among(const Expression& expression, bool holds) const
 {
     const Expression* fixed = constant(expression);

@@ -43,7 +43,6 @@ struct Grammar {
     std::optional<GrammarFault> (*judge)(std::string_view text, const Build& build);
 };
 
-// Table is a list of rows with a cell for each column.
 struct Table {
     std::vector<std::string_view> columns;  // a description of each column
     std::vector<std::vector<std::string_view>> rows;

@@ -1,5 +1,4 @@
 // The requirements on an argument that follow from the check's description, for use in programs and forms.
-//
 // They do not cover numbers that do not fit in an int, because builds read such numbers differently.
 #ifndef OSTREL_RULES_CONSTRAINTS_H
 #define OSTREL_RULES_CONSTRAINTS_H
@@ -58,7 +57,6 @@ struct Constraints {
 // number that the check reads.
 bool has_constraints(const Check& check, std::size_t argument);
 
-// constraints_of returns the constraints that the check places on an argument.
 Constraints constraints_of(const Check& check, std::size_t argument, const Build& build);
 
 }  // namespace ostrel::rules

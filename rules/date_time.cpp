@@ -12,7 +12,6 @@ Shape joined_shapes(std::initializer_list<Shape> shapes)
     return result;
 }
 
-// Forms contains the shapes of complete values and of a time zone offset.
 struct Forms {
     Shape compact_date_time;
     Shape date_time;

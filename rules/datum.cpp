@@ -26,8 +26,7 @@ bool same_letter(char a, char b)
     return lower(a) == lower(b);
 }
 
-// in_common returns the length of the longest substring that occurs in both strings, ignoring case, or the
-// given value of longest if that is greater.
+// in_common returns the length of the longest common substring, ignoring case, or longest if that is greater.
 std::size_t in_common(std::string_view one, std::string_view other, std::size_t longest)
 {
     for (std::size_t i = 0; i + longest < one.size(); ++i) {

@@ -10,8 +10,7 @@
 
 namespace ostrel::rules {
 
-// in_words describes a datum. For a long list, it returns the size and the entry that is closest to what was
-// found.
+// For a long list, in_words returns only the size and the entry that is closest to what was found.
 std::string in_words(const Datum& datum, const Datum& found = {});
 
 // is_one returns whether a verb or noun that refers to the datum must be singular.
@@ -20,8 +19,7 @@ bool is_one(const Datum& datum);
 // keyword_in_words returns a keyword, in quotation marks if it could be mistaken for something else.
 std::string keyword_in_words(std::string_view word);
 
-// quoted returns a string in quotation marks, truncated if it is long, with unprintable bytes in the form
-// \x9F.
+// quoted truncates a long string, and shows unprintable bytes in the form \x9F.
 std::string quoted(std::string_view text);
 
 // length_shown returns what is shown in place of a secret, such as "<12 bytes>".

@@ -58,12 +58,10 @@ struct Counts {
 Answer evaluate(const Check& check, std::span<const Value> values, const Build& build,
                 Counts* counts = nullptr);
 
-// kMostWork limits the number of bytes that are examined to find a reason, because finding the reason must
-// not take longer than the call.
+// kMostWork limits the bytes examined to find a reason, which must not take longer than the call.
 inline constexpr std::uint64_t kMostWork = std::uint64_t{128} << 20U;
 
-// evaluate_within stops after examining the given number of bytes. A byte that is examined twice is counted
-// twice.
+// evaluate_within stops after examining this many bytes. A byte that is examined twice counts twice.
 Answer evaluate_within(std::uint64_t bytes, const Check& check, std::span<const Value> values,
                        const Build& build);
 

@@ -48,13 +48,10 @@ struct Explanation {
 
 Explanation explain(const Check& check, const Build& build);
 
-// said_arguments describes each argument, the effect of NULL, and the values that may be written to it.
 std::vector<SaidArgument> said_arguments(const Check& check, const Build& build);
 
-// how_numbers_are_read describes how a number is read from a string.
 std::string how_numbers_are_read(const Build& build);
 
-// accepted describes in one line what is accepted, or which number is returned.
 std::string accepted(const Check& check, const Build& build);
 
 }  // namespace ostrel::rules

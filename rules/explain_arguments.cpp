@@ -26,7 +26,6 @@ std::string room_of(const Argument& argument, const Speaker& speaker)
     return "the length of the string and its terminator";
 }
 
-// add_written lists the values that may be written to an argument.
 void add_written(const std::vector<Step>& steps, std::size_t argument, const Speaker& speaker,
                  std::vector<std::string>& values)
 {

@@ -9,7 +9,6 @@ namespace ostrel::rules {
 
 namespace {
 
-// reads_number returns true if any condition reads a number.
 bool reads_number(const Languages& languages, Language one)
 {
     const Leaf* leaf = languages.leaf(one);

@@ -1,5 +1,4 @@
-// Conversion of languages to forms with lengths, bytes, keywords, numbers and a pattern. Only constraints.cpp
-// uses it.
+// Conversion of languages to forms. Only constraints.cpp uses it.
 #ifndef OSTREL_RULES_FORM_H
 #define OSTREL_RULES_FORM_H
 

@@ -11,7 +11,6 @@ namespace ostrel::rules {
 
 namespace {
 
-// leaf_among returns the leaf of the given kind among the parts of a language, or NULL if there is none.
 const Leaf* leaf_among(const Languages& languages, Language one, Leaf::Kind kind)
 {
     for (const Language part : parts_of(languages, one)) {

@@ -55,7 +55,6 @@ void Speaker::add_sources(const Condition& condition, std::set<std::string>& nam
     for (const Condition& part : condition.parts) add_sources(part, names);
 }
 
-// remember records the names of remembered values.
 void Speaker::remember(const std::vector<Step>& steps)
 {
     for (const Step& step : steps) {

@@ -23,8 +23,7 @@ struct Meant {
     std::set<std::string> sources = {};    // the arguments from which it is derived
 };
 
-// Facts contains the facts that are known about strings at some step. Each string is identified by the words
-// that describe it.
+// Facts are known about strings at some step. Each string is identified by the words that describe it.
 struct Facts {
     std::set<std::string> empty = {};
     std::set<std::string> not_empty = {};
@@ -66,7 +65,6 @@ class Speaker {
     [[nodiscard]] std::string number(const Expression& expression) const;
     [[nodiscard]] bool is_number(const Expression& expression) const;
 
-    // clause states that a condition holds or fails.
     [[nodiscard]] Clause clause(const Condition& condition, bool holds = true) const;
     [[nodiscard]] std::string when(const Condition& condition) const { return clause(condition).text(); }
 
@@ -92,10 +90,8 @@ class Speaker {
     [[nodiscard]] bool is_null(const Expression& expression) const;
     [[nodiscard]] bool reads_null(const Expression& expression) const;
 
-    // add_sources adds the arguments that a condition depends on.
     void add_sources(const Condition& condition, std::set<std::string>& names) const;
 
-    // reads_number returns true if a condition reads a number from a string.
     [[nodiscard]] bool reads_number(const Condition& condition) const;
 
  private:
@@ -133,7 +129,6 @@ class Speaker {
     Facts facts_;
 };
 
-// in_words describes the strings that have a shape.
 std::string in_words(const Shape& shape);
 
 // bytes_in_words names the bytes of a set in the plural, such as "spaces".

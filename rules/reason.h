@@ -19,7 +19,6 @@ namespace ostrel::rules {
 using Datum = std::variant<std::monostate, long long, std::string, Set, std::vector<std::string_view>,
                            std::vector<long long>>;
 
-// Span is part of a string.
 struct Span {
     std::size_t begin = 0;
     std::size_t size = 0;

@@ -10,8 +10,7 @@
 
 namespace ostrel::rules {
 
-// append_json_text appends a JSON string, in which each byte above 0x7F becomes the code point with the same
-// number.
+// append_json_text turns each byte above 0x7F into the code point with the same number.
 void append_json_text(std::string& out, std::string_view bytes);
 
 // AppendBytes appends bytes of a value as JSON.

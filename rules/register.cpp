@@ -1,5 +1,4 @@
-// Registration of descriptions: resolving names, numbering steps and conditions, and splitting lines into
-// parts.
+// Registration of descriptions: resolves names, numbers steps and conditions, and splits lines into parts.
 
 #include <algorithm>
 #include <map>

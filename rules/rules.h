@@ -18,8 +18,7 @@ std::vector<Check> make_checks();
 // find returns the description of the check with the given name, or NULL if there is none.
 const Check* find(std::string_view name);
 
-// registered prepares a description that is not among checks() for evaluation. It throws the same exception
-// as checks.
+// registered prepares a description that is not among checks() for evaluation, and throws as checks does.
 Check registered(Check check);
 
 // Each of these functions returns the descriptions of one module.

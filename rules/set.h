@@ -19,7 +19,6 @@ class Set {
         for (const char c : members) add(static_cast<unsigned char>(c));
     }
 
-    // range returns the bytes from first to last.
     static constexpr Set range(unsigned first, unsigned last)
     {
         Set set;
@@ -51,7 +50,6 @@ class Set {
     [[nodiscard]] std::size_t size() const;
     [[nodiscard]] bool empty() const { return *this == Set(); }
 
-    // hash returns a number that differs for most sets.
     [[nodiscard]] constexpr std::size_t hash() const
     {
         std::uint64_t mixed = 0;

@@ -1,5 +1,4 @@
-// The values of expressions over unknown arguments, such as part of an argument, a literal, or an unknown
-// value.
+// The values of expressions over unknown arguments, such as part of an argument or a literal.
 #ifndef OSTREL_RULES_TERM_H
 #define OSTREL_RULES_TERM_H
 

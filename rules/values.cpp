@@ -8,7 +8,6 @@ namespace {
 
 using Kind = Expression::Kind;
 
-// bracketed puts an operand in parentheses, unless it is a literal number.
 std::string bracketed(const std::string& operand)
 {
     return operand[0] >= '0' && operand[0] <= '9' ? operand : "(" + operand + ")";
@@ -93,7 +92,6 @@ std::string Speaker::slice(const Expression& expression) const
     return "bytes " + begin + " to " + std::to_string(offset->number + count->number) + " of " + whole;
 }
 
-// as_many returns "4 bytes", or "as many bytes as value has".
 std::string Speaker::as_many(const Expression& number) const
 {
     if (number.kind == Kind::kLength) return "as many bytes as " + value(number.of[0]) + " has";

@@ -1,7 +1,5 @@
-// The data types of which a description consists. words.h declares the functions that create the data.
-//
-// A check consists of steps. A step may have a condition and further steps, and a condition has
-// expressions. All strings are literals, or exist until the program ends.
+// The data types of which a description consists. words.h declares the functions that create the data. All
+// strings are literals, or exist until the program ends.
 #ifndef OSTREL_RULES_VOCABULARY_H
 #define OSTREL_RULES_VOCABULARY_H
 
@@ -35,14 +33,12 @@ struct Code {
     }
 };
 
-// Write changes an argument.
 struct Write {
     Expression target;  // the name of an argument, or the item
     Expression value;
     bool is_terminated = true;
 };
 
-// List describes the list over which a step iterates.
 struct List {
     Expression of;
     char separator = '\0';  // '\0' if the items are the keys of a block

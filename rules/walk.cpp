@@ -80,8 +80,7 @@ class Keywords {
  private:
     using Kind = Condition::Kind;
 
-    // is_model returns whether the product model satisfies a condition, or nullopt if the condition does not
-    // test the model.
+    // is_model returns nullopt if the condition does not test the product model.
     [[nodiscard]] std::optional<bool> is_model(const Condition& condition) const
     {
         const bool asks =

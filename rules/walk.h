@@ -13,16 +13,13 @@ namespace ostrel::rules {
 // prints returns true if a check, or one that it calls, can print.
 bool prints(const Check& check);
 
-// may_not_return returns true if some calls of a check do not return.
 bool may_not_return(const Check& check);
 
 // asks_driver returns true if a check queries the wireless driver for its channels.
 bool asks_driver(const Check& check);
 
-// tables returns the tables that a check's conditions use.
 std::vector<const Table*> tables(const Check& check);
 
-// is_written returns true for an argument that a function may write to.
 bool is_written(const Argument& argument);
 
 // keywords returns the words and numbers that steps allow for an argument or its items, in the order of the

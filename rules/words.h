@@ -154,7 +154,6 @@ Step never_returns(Condition condition);
 List list_of(Expression text, char separator, const Set& trimmed = {}, std::string_view called = {});
 List keys_of(Expression blocks);
 
-// joined_steps concatenates lists of steps that checks share.
 std::vector<Step> joined_steps(std::initializer_list<std::vector<Step>> lists);
 
 // Arguments. Properties are added with methods, as in text("value", "a password").secret().
@@ -172,8 +171,7 @@ ArgumentWords integer(std::string_view name, std::string_view what);
 ArgumentWords natural(std::string_view name, std::string_view what);
 ArgumentWords integer_out(std::string_view name, std::string_view what);
 
-// Complete descriptions. check is for functions that return a result code, and number for those that return a
-// number.
+// Complete descriptions, of functions that return a result code and of functions that return a number.
 Check check(std::string_view name, std::vector<ArgumentWords> arguments, std::vector<Step> steps);
 Check number(std::string_view name, std::vector<ArgumentWords> arguments, std::vector<Step> steps);
 std::vector<Check> joined_checks(std::initializer_list<std::vector<Check>> lists);

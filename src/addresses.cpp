@@ -60,9 +60,8 @@ bool is_mac_address(const char* value, bool station_only)
 }
 
 // skip_octet returns the end of a number from 0 to 255 at the start of the string, or NULL if there is none.
-// It always examines three characters, because branches on the number of digits would often be mispredicted.
-// Without such branches, checking an address takes half the time. For the same reason, a multiplication
-// replaces a second condition.
+// It always examines three characters, and multiplies instead of testing a second condition: branches on the
+// number of digits would often be mispredicted, which doubles the time to check an address.
 inline const char* skip_octet(const char* text)
 {
     while (text[0] == '0' && digit(text[1]) <= kLargestDigit) ++text;

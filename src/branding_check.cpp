@@ -13,7 +13,6 @@ namespace {
 
 constexpr auto kBooleans = keywords("0|1");
 
-// check_length accepts lengths below the limit.
 int check_length(const char* value, int limit, const char* function)
 {
     if (std::strlen(value) < static_cast<std::size_t>(limit)) return OSTREL_VALID;

@@ -53,7 +53,6 @@ class Reader {
     const char* at_;
 };
 
-// Date contains the fields that determine whether the day of a date-time is valid.
 struct Date {
     unsigned year = 0;
     unsigned month = 0;

@@ -9,9 +9,8 @@
 
 namespace ostrel {
 
-// validate_length returns 0, OSTREL_TOO_SHORT or OSTREL_TOO_LONG. The limits are signed: a negative minimum
-// accepts every length, and a negative maximum accepts none. The result is correct even for lengths that do
-// not fit in an int.
+// validate_length returns 0, OSTREL_TOO_SHORT or OSTREL_TOO_LONG. A negative minimum accepts every length, a
+// negative maximum accepts none, and lengths need not fit in an int.
 int validate_length(int min_len, int max_len, std::size_t length);
 
 // Text packs the length limits and the allowed set into one number, because compilers load a structure from

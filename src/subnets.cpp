@@ -15,15 +15,13 @@ namespace {
 
 constexpr int kMostOfferedServers = 2;
 
-// after_last_dot returns its argument if it contains no dot.
 const char* after_last_dot(const char* text)
 {
     const char* dot = std::strrchr(text, '.');
     return dot == nullptr ? text : dot + 1;
 }
 
-// subnet_of returns the part of an address up to and including the last ".", or an empty string if the
-// address contains no ".".
+// subnet_of includes the last "."; the result is empty if the address contains no ".".
 std::string_view subnet_of(const char* address)
 {
     return {address, static_cast<std::size_t>(after_last_dot(address) - address)};

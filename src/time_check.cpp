@@ -55,7 +55,6 @@ int get_tzone_by_tzone_name(char* tzone_out, const char* name)
     return refuse(OSTREL_WRONG_FORM, "Error in %s: Error Time Zone Name:%s\n\n", __func__, name);
 }
 
-// is_tzone_consistent_with_tz_name searches for a row whose offset equals tzone and whose name contains name.
 int is_tzone_consistent_with_tz_name(const char* tzone, const char* name)
 {
     for (const char* row = kTimeZones; *row != '\0'; row = row_after(row)) {

@@ -1,7 +1,6 @@
-// Functions that apply a rule and print the line for a refusal in one call, for rules that many checks share.
-//
-// Each function returns OSTREL_VALID if the rule accepts the value. Otherwise it prints the line with the
-// name of the check and the value, flushes every output stream and returns the result code.
+// Functions for rules that many checks share. Each returns OSTREL_VALID if the rule accepts the value.
+// Otherwise it prints the line with the name of the check and the value, flushes every output stream and
+// returns the result code.
 #ifndef OSTREL_SRC_VERDICT_H
 #define OSTREL_SRC_VERDICT_H
 

@@ -11,7 +11,6 @@ using nlohmann::json;
 
 namespace {
 
-// member_of returns the name of the member that contains the separate answer for this kind of C library.
 std::string member_of(Atoi atoi)
 {
     switch (atoi) {

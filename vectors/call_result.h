@@ -11,7 +11,6 @@
 
 namespace ostrel::vectors {
 
-// CallResult contains the code, the output and the written arguments of a call.
 struct CallResult {
     int code = 0;
     std::string out;
@@ -25,7 +24,6 @@ struct CallResult {
 // PrintTo prints a result in readable form when a test fails.
 void PrintTo(const CallResult& result, std::ostream* stream);
 
-// values_of returns the values of the written arguments.
 std::vector<catalogue::Value> values_of(const std::vector<calling::Written>& written);
 
 // actual_result makes the loaded call and returns its result.

@@ -49,10 +49,9 @@ struct Row {
     std::optional<RowReason> reason;
 };
 
-// read_rows returns the rows of all files in order, except that the module named by the environment variable
-// OSTREL_TEST_FIRST comes first. It omits rows with a string of more than OSTREL_LONGEST_TEXT bytes. If
-// modules or folders are given, it reads only their files. It throws std::invalid_argument if a file has no
-// row or does not exist.
+// read_rows returns the rows of all files, or of the given modules or folders. The module named by the
+// environment variable OSTREL_TEST_FIRST comes first, and rows with a string of more than OSTREL_LONGEST_TEXT
+// bytes are omitted. It throws std::invalid_argument if a file has no row or does not exist.
 std::vector<Row> read_rows(const std::set<std::string>& modules = {});
 
 // read_cases returns the rows of all files. It throws std::invalid_argument if a row has a fault.
@@ -61,8 +60,7 @@ std::vector<Row> read_cases();
 // longest_text returns the length of the longest string argument.
 std::size_t longest_text(const calling::Case& given);
 
-// expected_result returns the result that a row promises for this kind of C library. before contains the
-// arguments that the function may write to, with their values before the call.
+// For expected_result, before contains the arguments that may be written, as they were before the call.
 CallResult expected_result(const Row& row, const std::vector<calling::Written>& before,
                            Atoi atoi = rules::atoi_here());
 

@@ -45,8 +45,7 @@ bool is_deterministic(const Runs& shape)
     return true;
 }
 
-// overlaps returns true if a string begins and ends with the same shorter string, so that two occurrences can
-// share bytes.
+// overlaps returns true if two occurrences of a string can share bytes.
 bool overlaps(std::string_view text)
 {
     for (std::size_t size = 1; size < text.size(); ++size) {

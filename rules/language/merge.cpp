@@ -10,7 +10,6 @@ namespace {
 
 using Kind = Node::Kind;
 
-// are_alike returns true if two leaves can be merged.
 bool are_alike(const Leaf& a, const Leaf& b, Kind kind)
 {
     if (a.kind != b.kind) return false;

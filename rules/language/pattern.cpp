@@ -12,8 +12,7 @@ using Pattern = std::optional<std::string>;
 constexpr std::string_view kEnd = "(?![\\s\\S])";  // "$" would accept a line ending
 constexpr std::string_view kNever = "(?!)";
 
-// Context describes the bytes that a part of a string can contain, and the expression for what follows the
-// part.
+// Context contains the bytes that a part can contain, and the expression for what follows the part.
 struct Context {
     Set bytes;
     std::string end;
@@ -61,8 +60,7 @@ class Writer {
         return leaf.kind == Leaf::Kind::kWithin && (leaf.cut.separator.size() == 1 || is_after);
     }
 
-    // same replaces a leaf for which patterns have no special notation with the equal language that defines
-    // it.
+    // same replaces a leaf that patterns have no notation for with the equal language that defines it.
     Language same(Language one)
     {
         const Leaf* leaf = languages_.leaf(one);

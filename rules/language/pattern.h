@@ -9,15 +9,13 @@
 
 namespace ostrel::rules {
 
-// pattern_of returns an expression that matches the strings in a language, in which each byte is the
-// character with the same number. The expression is valid with and without the u flag. Some languages have no
-// such expression.
+// In the expression that pattern_of returns, each byte is the character with the same number. The expression
+// is valid with and without the u flag. Some languages have no such expression.
 std::optional<std::string> pattern_of(Languages& languages, Language one);
 
 // class_of returns an expression for one byte of the set.
 std::string class_of(const Set& set);
 
-// times_of returns an expression for the given number of repetitions.
 std::string times_of(const std::string& one, std::size_t least, std::size_t most);
 
 }  // namespace ostrel::rules

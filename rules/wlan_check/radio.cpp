@@ -12,7 +12,6 @@ Step refuse_unknown_radio()
     return refuse(-1, ignoring_case(none_of("radio", {"RADIO_2.4GHz", "RADIO_5GHz"})));
 }
 
-// by_radio selects the steps for the radio band.
 Step by_radio(std::vector<Step> on_2_4_ghz, std::vector<Step> on_5_ghz)
 {
     return when(ignoring_case(one_of("radio", {"RADIO_2.4GHz"})), std::move(on_2_4_ghz), std::move(on_5_ghz));

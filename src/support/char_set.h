@@ -1,8 +1,6 @@
-// Sets of bytes, including the sets of allowed characters that the rules use.
-//
-// The members of a set are written as a string. Bytes from 0x80 up are treated like any others, whether or
-// not char is signed. No set contains the terminator, so a scan for the first byte outside a set stops at the
-// end of the value.
+// Sets of bytes, including the sets of allowed characters that the rules use. The members of a set are
+// written as a string. Bytes from 0x80 up are treated like any others, whether or not char is signed. No set
+// contains the terminator, so a scan for the first byte outside a set stops at the end of the value.
 #ifndef OSTREL_SUPPORT_CHAR_SET_H
 #define OSTREL_SUPPORT_CHAR_SET_H
 
@@ -116,8 +114,7 @@ class OwnSet {
 
 inline bool contains(const OwnSet& set, char c) { return set.contains(c); }
 
-// first_outside returns a pointer to the first byte of the string that is not in the set, which may be the
-// terminator.
+// first_outside returns a pointer to the first byte that is not in the set, which may be the terminator.
 template <typename Set>
 inline const char* first_outside(Set set, const char* text)
 {

@@ -39,8 +39,7 @@ struct Reference {
 
 constexpr Reference kNone = {0, 0};
 
-// digit_value returns the value of a digit. If the character is not a digit in the given base, the result is
-// the base or more.
+// digit_value returns the base or more for a character that is not a digit in that base.
 int digit_value(char c, int base)
 {
     if (c >= '0' && c <= '9') return c - '0';
@@ -88,7 +87,6 @@ Reference named_reference(std::string_view text)
     return kNone;
 }
 
-// reference_at reads the text after an "&".
 Reference reference_at(std::string_view text)
 {
     if (text.size() < 2 || text[0] != '#') return named_reference(text);

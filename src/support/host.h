@@ -1,7 +1,5 @@
-// The two functions that the host process may supply. Only this module refers to them.
-//
-// They are weak imports. If the host process supplies one, it is called; otherwise, the library uses its own
-// equivalent.
+// The two functions that the host process may supply, as weak imports. Only this module refers to them. If
+// the host process does not supply one, the library uses its own equivalent.
 #ifndef OSTREL_SUPPORT_HOST_H
 #define OSTREL_SUPPORT_HOST_H
 

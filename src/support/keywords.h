@@ -1,7 +1,5 @@
-// Lists of keywords.
-//
-// A list is written with "|" between the keywords and compiled into a single string without pointers. In that
-// string, each keyword is preceded by a byte that contains the distance to the next such byte, and a 0
+// A list of keywords is written with "|" between them and compiled into a single string without pointers. In
+// that string, each keyword is preceded by a byte that contains the distance to the next such byte, and a 0
 // follows the last keyword.
 #ifndef OSTREL_SUPPORT_KEYWORDS_H
 #define OSTREL_SUPPORT_KEYWORDS_H

@@ -1,6 +1,5 @@
-// Prints report lines. No other module formats or flushes them.
-//
-// Each message is printed by one output call, so that the lines of concurrent callers are not interleaved.
+// Prints report lines. No other module formats or flushes them. Each message is printed by one output call,
+// so that the lines of concurrent callers are not interleaved.
 #ifndef OSTREL_SUPPORT_REPORT_H
 #define OSTREL_SUPPORT_REPORT_H
 
