@@ -1,6 +1,5 @@
-// Times every contender on every shape of its family's values. All contenders judge the same values.
-//
-// The program accepts Google Benchmark's options. Each benchmark is named family/shape/contender.
+// Times every contender on every shape of its family's values, as benchmarks named family/shape/contender.
+// The program accepts Google Benchmark's options.
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
@@ -46,8 +45,7 @@ extern "C" void* realloc(void* block, std::size_t size)
 
 namespace {
 
-// corpus creates each corpus when it is first needed, so that a run of a few benchmarks does not create all
-// of them.
+// corpus creates a corpus when it is first needed, because a run may need only a few of them.
 const Corpus& corpus(const std::string& name, Shape shape)
 {
     static std::map<std::pair<std::string, Shape>, std::unique_ptr<const Corpus>> all;
@@ -56,8 +54,7 @@ const Corpus& corpus(const std::string& name, Shape shape)
     return *entry;
 }
 
-// require_same_verdict ends the program if a contender refused a valid value, because its time would then not
-// be comparable.
+// A contender that refuses a valid value ends the program, because its time would not be comparable.
 void require_same_verdict(const Contender& contender, const Corpus& values, std::size_t accepted)
 {
     if (accepted == values.values().size()) return;

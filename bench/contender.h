@@ -19,8 +19,7 @@ struct Contender {
     std::function<std::size_t(const Corpus&)> pass;  // judges every value once and counts the accepted ones
 };
 
-// contender makes a Contender from a function that judges one value. The loop over the corpus is compiled
-// around the call, so that its cost is the same for every contender.
+// The loop over the corpus is compiled around the call, so that its cost is the same for every contender.
 template <typename Accepts>
 Contender contender(std::string family, std::string name, Accepts accepts)
 {
@@ -35,11 +34,9 @@ Contender contender(std::string family, std::string name, Accepts accepts)
 
 using Contenders = std::vector<Contender>;
 
-// contenders returns all contenders that are linked into the program. These include the peers if the program
-// contains peers/all.cpp, but not if it contains alone.cpp.
+// contenders returns all linked contenders: with peers (peers/all.cpp) or without them (alone.cpp).
 Contenders contenders();
 
-// Each of these adds contenders for the families that it supports.
 void add_ours(Contenders& all);
 void add_limits(Contenders& all);  // they only read each value
 void add_libc(Contenders& all);
@@ -50,8 +47,7 @@ void add_libyang(Contenders& all);
 void add_urls(Contenders& all);  // uriparser and libcurl
 void add_cares(Contenders& all);
 
-// pattern returns the regular expression for a family's valid values. It is anchored at both ends and uses
-// only syntax that every engine supports.
+// pattern returns a family's regular expression, anchored at both ends, in syntax that every engine supports.
 std::string pattern(const std::string& family);
 
 }  // namespace ostrel::bench

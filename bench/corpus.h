@@ -41,7 +41,6 @@ class Random {
     std::uint64_t state_;
 };
 
-// some returns a string of the given length, made of characters from members.
 std::string some(Random& random, std::size_t length, std::string_view members);
 
 // number returns a decimal number from low to high, padded with zeros to the width.
@@ -83,7 +82,6 @@ class Corpus {
     std::vector<const char*> values_;
 };
 
-// families returns all families, in the order in which families.cpp lists them.
 const std::vector<ValueFamily>& families();
 
 const ValueFamily& family(std::string_view name);

@@ -24,8 +24,7 @@ std::string mac(Random& random)
     return address;
 }
 
-// host generates names like those of servers, with two to four labels of letters, digits and "-". The last
-// label has only letters.
+// host generates two to four labels of letters, digits and "-". The last label has only letters.
 std::string host(Random& random)
 {
     std::string name;
@@ -73,8 +72,7 @@ std::string rates(Random& random)
 
 std::string servers(Random& random) { return ipv4(random) + (random.one_in(2) ? "," : ", ") + ipv4(random); }
 
-// reservations generates different addresses in one subnet. All have the same length, because an address that
-// is a prefix of another one counts as repeated.
+// All reservations have the same length, because a prefix of another address counts as repeated.
 std::string reservations(Random& random)
 {
     std::string list;
@@ -97,8 +95,7 @@ auto repeated(const std::string& head, std::string (*piece)(Random&), const std:
     };
 }
 
-// members returns a family whose values are made of a set's characters. Its hostile values differ only in
-// length.
+// members returns a family of strings over a set's characters, of which the hostile ones are only longer.
 ValueFamily members(const char* name, std::string_view set, unsigned shortest, unsigned longest)
 {
     const std::string all(set);

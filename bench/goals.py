@@ -1,7 +1,4 @@
-"""The goals for the rules' speed on valid values, as multiples of a peer's speed.
-
-REASONS explains why a goal is missed, and the tables show these explanations.
-"""
+"""Goals for the rules' speed on valid values, as multiples of a peer's speed, and the REASONS why some are missed."""
 
 LIBYANG = 15  # the goal for every family
 LIMIT = 3  # keywords and lists may take this many times as long as the plain reading loop

@@ -1,5 +1,4 @@
-// Runs each contender under callgrind, which writes a dump for each benchmark, named
-// family/shape/contender/values.
+// Runs each contender under callgrind, which dumps each benchmark as family/shape/contender/values.
 //
 //   valgrind --tool=callgrind --collect-atstart=no … instructions VALUES [FAMILY…]
 #include <valgrind/callgrind.h>

@@ -15,7 +15,6 @@ import sys
 import goals
 
 LIMITS = ("reading", "strlen")
-# The families' names on the page.
 NAMES = {
     "ipv4": "IPv4 address", "mac": "MAC address", "host": "host name", "url": "URL", "email": "e-mail address",
     "account": "account", "date_time": "date-time", "printable": "printable string", "password": "password",
@@ -53,8 +52,7 @@ def read_times(path):
 
 
 def ratio_to(ours, other):
-    """ratio_to returns the other contender's time as a multiple of ours. It uses the medians or, if they are noisy, the
-    fastest repetitions."""
+    """ratio_to returns the other time as a multiple of ours, using the fastest repetitions if the medians are noisy."""
     if max(ours[1], other[1]) <= NOISY:
         return other[0] / ours[0]
     return other[2] / ours[2]
@@ -105,15 +103,13 @@ def print_tables(table, instructions):
 
 
 def multiples(row):
-    """multiples returns the times of the peers and of the plain reading loop on valid values, as multiples of ours, in
-    ascending order. The fastest repetitions are compared."""
+    """multiples returns the others' fastest times on valid values, as multiples of ours, in ascending order."""
     least = {contender: figures[2] for contender, figures in row["valid"].items() if contender != "strlen"}
     ours = least.pop("ours")
     return sorted(((contender, time / ours) for contender, time in least.items()), key=lambda pair: pair[1])
 
 
 def faster(row):
-    """faster returns the peers that take less time than our rule."""
     return [contender for contender, multiple in multiples(row) if multiple < 1 and contender not in LIMITS]
 
 
@@ -164,7 +160,6 @@ def shown(peer):
 
 
 def page_table(table):
-    """page_table returns the page's table of all families."""
     lost = [family for family in table if faster(table[family])]
     lines = [f"In {len(lost)} of {len(table)} families a peer is faster. "
              "These families come first, and the faster peers are in bold.", "",

@@ -65,8 +65,7 @@ def require_program(client: Client, job: Job) -> None:
 
 def judge_all(client: Client, job: Job, parts: Sequence[Part], tell: Callable[[Part, Outcome], None],
               look: Callable[[int], None]) -> None:
-    """judge_all judges the parts, and calls tell with each outcome. While it waits, it calls look with the number of
-    workers."""
+    """judge_all judges the parts, and calls tell with each outcome and, meanwhile, look with the number of workers."""
     keys = {f"judge-{part.name}-{os.path.basename(part.file)}-{job.number}": part for part in parts}
     finished: queue.SimpleQueue[Future] = queue.SimpleQueue()
     futures = client.map(functools.partial(ostrel_part.judge, job), parts, key=list(keys), pure=False)
@@ -108,8 +107,7 @@ def _outcome_of(future: Future, part: Part) -> Outcome:
 
 
 def _stop(client: Client, job: Job, futures: Sequence[Future]) -> None:
-    """_stop stops all parts. Otherwise the workers, which outlive the run, would continue to judge them while the
-    runner removes their incomplete results."""
+    """_stop stops all parts on the workers, which outlive the run, before the runner removes incomplete results."""
     with contextlib.suppress(Exception):
         client.cancel(futures)
         client.run(ostrel_program.abandon, job.number, on_error="ignore")

@@ -86,8 +86,7 @@ def parse(words: Sequence[str]) -> tuple[argparse.Namespace, list[str]]:
 
 
 def require_options(program: str, manifest: Manifest) -> None:
-    """require_options runs the program without cases, so that invalid options are reported once rather than for
-    each part."""
+    """require_options runs the program without cases, so that invalid options are reported once, not for each part."""
     said = ostrel_program.output_of(program, "batch", "--stream", "--exit-zero", "--summary", "json", *manifest.words())
     if said:
         raise Refused(f"{shlex.join(manifest.options)}: the options of ostrel-check must not name a file")
@@ -108,8 +107,7 @@ def manifest_of(given: argparse.Namespace, options: Sequence[str]) -> Manifest:
 
 
 class Run:
-    """Run is one invocation of the runner. An interrupted run is continued by further invocations with the same
-    folder."""
+    """Run is one invocation of the runner. Further invocations with the same folder continue an interrupted run."""
 
     def __init__(self, given: argparse.Namespace, manifest: Manifest) -> None:
         self._given, self._manifest = given, manifest

@@ -1,5 +1,4 @@
-"""Judges one part of a run on a worker of the cluster, and moves the results into place when they are complete. The
-runner sends this module to the workers, so it needs only Python's standard library."""
+"""Judges one part of a run on a worker. The runner sends this module, so it needs only Python's standard library."""
 
 import contextlib
 import dataclasses
@@ -15,7 +14,6 @@ from typing import Any, BinaryIO, Literal
 
 import ostrel_program
 
-# TEMPORARY is the suffix of an incomplete file's name.
 TEMPORARY = ".tmp"
 
 _MOST_SENT = 1 << 26

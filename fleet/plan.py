@@ -41,7 +41,6 @@ class Manifest:
     block: int
 
     def words(self) -> tuple[str, ...]:
-        """words returns the options for ostrel-check."""
         return self.options if self.map is None else (*self.options, "--map", self.map)
 
 
@@ -83,7 +82,6 @@ def begin(folder: pathlib.Path, manifest: Manifest) -> None:
 
 
 def require_same(begun: Manifest, now: Manifest) -> None:
-    """require_same refuses to continue a run that was begun with different parameters."""
     for field in dataclasses.fields(Manifest):
         before, after = getattr(begun, field.name), getattr(now, field.name)
         if before != after:
@@ -130,8 +128,7 @@ def _begins_as_text(file: BinaryIO) -> bool:
 
 
 def _blocks(file: BinaryIO, size: int, block: int) -> Iterator[tuple[int, int, int]]:
-    """_blocks splits a file at the ends of lines, and yields the beginning and end of each block and the number of its
-    first line."""
+    """_blocks splits a file at the ends of lines, and yields the beginning, end and first line of each block."""
     begin, line = 0, 1
     while begin < size:
         end, lines, last = begin, 0, b""
@@ -168,8 +165,7 @@ def _parts_of(number: int, file: str, manifest: Manifest) -> Iterator[Part]:
 
 
 def make_plan(manifest: Manifest) -> list[Part]:
-    """make_plan returns the parts in the order of the files and their lines. The parts' names sort in the same
-    order."""
+    """make_plan returns the parts in the order of the files and their lines, in which the parts' names sort too."""
     return [part for number, file in enumerate(manifest.files, 1) for part in _parts_of(number, file, manifest)]
 
 

@@ -8,13 +8,11 @@ _SECONDS_BETWEEN = 0.25
 
 
 class Failed(Exception):
-    """Failed is raised if nothing more can be judged. The message states the cause. Once the cause has been removed,
-    --resume continues the run."""
+    """Failed is raised if nothing more can be judged. --resume continues the run after the cause has been removed."""
 
 
 class Progress:
-    """Progress shows its line, and the messages passed to mention, only on a terminal. The messages passed to say are
-    always shown."""
+    """Progress shows its line and the messages passed to mention only on a terminal, and those passed to say always."""
 
     def __init__(self, parts: int, size: int, stream: TextIO = sys.stderr) -> None:
         self._parts, self._size = parts, size

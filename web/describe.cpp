@@ -122,7 +122,6 @@ class Phrases {
     std::set<std::string> all_;
 };
 
-// subject_first adds a subject to a sentence that has none.
 std::string subject_first(const ostrel::rules::Sentence& sentence)
 {
     return (sentence.has_subject ? "" : "{subject} ") + std::string(sentence.text);

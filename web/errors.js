@@ -1,6 +1,5 @@
 // Errors for calls that would stop the gateway's daemon.
 
-// FailedAssertion is thrown if an assertion would have ended the daemon.
 export class FailedAssertion extends Error {
   constructor(condition, check, module, line) {
     super(`${module}:${line}: ${check}: Assertion \`${condition}' failed.`);
@@ -8,7 +7,6 @@ export class FailedAssertion extends Error {
   }
 }
 
-// NeverReturns is thrown if the daemon would have hung.
 export class NeverReturns extends Error {
   name = 'NeverReturns';
   message = 'the check does not return for this value';

@@ -211,7 +211,6 @@ class Field {
   }
 }
 
-// attach judges each field of a form that names a check. It returns a function that detaches the checks from the form.
 export function attach(form, ostrel, {sentences = english} = {}) {
   const fields = [];
   for (const input of form.elements) {

@@ -68,7 +68,6 @@ export class Memory {
     this.#numbers = new Int32Array(buffer);
   }
 
-  // write stores a call.
   write(check, values) {
     const size = longest(values, this.#isLatin1);
     if (size > this.#room) {
@@ -120,7 +119,6 @@ export class Memory {
 const asText = (text) => text;
 const asData = (json) => Object.freeze(JSON.parse(json));
 
-// whole joins the two halves of a 64-bit number.
 const whole = (low, high) => (low >> 31 === high ? low : high * 2 ** 32 + (low >>> 0));
 
 // Reasons is an instance of the module. Strings whose addresses stay valid are read only once.

@@ -24,7 +24,6 @@ function countOf(datum) {
   return datum?.members?.length ?? (Array.isArray(datum) ? datum.length : 1);
 }
 
-// bytesOf returns the number of bytes that a string occupies on the gateway.
 export function bytesOf(text, encoding = 'utf-8') {
   let bytes = 0;
   for (const character of text) {
@@ -36,8 +35,7 @@ export function bytesOf(text, encoding = 'utf-8') {
   return bytes;
 }
 
-// placeOf returns the character that contains the byte at an offset, its number (counted from 0), and its index in the
-// string. After the last byte, the character is empty.
+// After the last byte, the character that placeOf returns is empty.
 export function placeOf(text, offset, encoding) {
   let bytes = 0;
   let index = 0;
@@ -180,11 +178,8 @@ class Teller {
   }
 }
 
-// clause returns the reason without the initial capital and the full stop.
 export const clause = (reason, language, options = {}) => new Teller(reason, language, options).tell();
 
-// sentence returns the reason as a sentence. If options.text contains the value, characters are shown and counted
-// instead of bytes.
 export function sentence(reason, language, options = {}) {
   const said = clause(reason, language, {subject: language.subject, ...options});
   return said === '' ? language.refused : `${capital(said)}.`;

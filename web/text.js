@@ -39,7 +39,6 @@ const decoder = new TextDecoder('utf-8', {ignoreBOM: true});
 const kShort = 64;      // in bytes; strings up to this size are decoded faster without the decoder
 const kAtOnce = 0x1000;  // the number of bytes that are passed as arguments to one call
 
-// take decodes length bytes.
 export function take(bytes, at, length, isLatin1) {
   const end = at + length;
   let text = '';

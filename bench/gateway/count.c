@@ -1,8 +1,5 @@
-/* A plugin for QEMU that counts the instructions of an emulated program.
- *
- * It declares the functions of the plugin interface (version 1) itself, because not every distribution
- * provides the header.
- */
+/* A plugin for QEMU that counts the instructions of an emulated program. It declares the functions of the
+   plugin interface (version 1) itself, because not every distribution provides the header. */
 #include <inttypes.h>
 #include <stdint.h>
 #include <stdio.h>

@@ -1,6 +1,5 @@
-// judge FAMILY CONTENDER PASSES judges a family's values the given number of times.
-//
-// The difference between two runs is the cost of the second run's additional passes.
+// judge FAMILY CONTENDER PASSES judges a family's values the given number of times. The difference between
+// two runs is the cost of the second run's additional passes.
 #include <cstdlib>
 
 #include "bench/contender.h"

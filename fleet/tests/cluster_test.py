@@ -1,7 +1,4 @@
-"""Tests runs on a separate scheduler, with workers that die, are missing, or have another version of the program.
-
-usage: cluster_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Tests runs on a separate scheduler, with workers that die, are missing, or have another version of the program."""
 
 import signal
 import unittest

@@ -1,7 +1,4 @@
-"""Runs the commands in docs/fleets.md exactly as they are written there.
-
-usage: document_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Runs the commands in docs/fleets.md exactly as they are written there."""
 
 import pathlib
 import re

@@ -1,7 +1,4 @@
-"""Tests that runs on this machine produce the same results as a single batch, even after faults and interruptions.
-
-usage: local_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Tests that runs on this machine produce the same results as a single batch, even after faults and interruptions."""
 
 import json
 import os
@@ -85,7 +82,6 @@ class Broken(support.Folder):
         self.assertEqual(before, {name: time for name, time in self.times().items() if name in before})
 
     def times(self):
-        """times returns the time at which each part was judged."""
         return {path.name: path.stat().st_mtime_ns for path in (self.out / "results").iterdir()}
 
     def test_a_file_that_was_cut_is_named_and_judged_later(self):

@@ -53,8 +53,6 @@ class Processes(unittest.TestCase):
 
 
 class Folder(Processes):
-    """Folder is the base class of tests that need files of cases and a folder for results."""
-
     PARTS = 4
     ROWS = 300
 
@@ -86,7 +84,6 @@ class Folder(Processes):
         return slow, {**ENVIRONMENT, "SLOW_WHILE": str(self.hold)}
 
     def fleet(self, *words, **options):
-        """fleet runs the runner, and returns its exit code and all its output."""
         process = self.start(RUNNER, *words, **options)
         said, _ = process.communicate(timeout=120)
         return process.returncode, said
@@ -105,8 +102,7 @@ class Folder(Processes):
         return json.loads((self.out / "summary.json").read_bytes())
 
     def assert_whole(self, files, *options):
-        """assert_whole asserts that the results and the summary equal those of a single batch, and that no temporary
-        file is left."""
+        """assert_whole asserts that the results and summary equal those of one batch, and that no .tmp file is left."""
         results, summary = self.judged(*options, *files)
         self.assertGreater(len(results), 0)
         self.assertTrue(results == self.joined())
@@ -128,8 +124,6 @@ class Folder(Processes):
 
 
 class Cluster(Folder):
-    """Cluster is the base class of tests that need a scheduler and workers, each of which is a process."""
-
     def setUp(self):
         super().setUp()
         with contextlib.closing(socket.create_server(("127.0.0.1", 0))) as free:

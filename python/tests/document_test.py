@@ -1,7 +1,4 @@
-"""Runs the commands and the examples in docs/python.md.
-
-usage: document_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Runs the commands and the examples in docs/python.md."""
 
 import dataclasses
 import doctest

@@ -1,8 +1,4 @@
-"""Judges 100,000 hostile values. The caller must survive, and the results must equal those of the program when it is
-run without the package.
-
-usage: hostile_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Judges 100,000 hostile values. The caller must survive, and the results must equal those of the program alone."""
 
 import base64
 import json

@@ -1,7 +1,4 @@
-"""Tests sessions whose program is killed, sessions in forked processes, and sessions that threads share.
-
-usage: life_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Tests sessions whose program is killed, sessions in forked processes, and sessions that threads share."""
 
 import itertools
 import multiprocessing
@@ -34,7 +31,6 @@ def lines_of(verdicts):
 
 
 def count_in_child(session):
-    """count_in_child judges cases in a forked child and returns the child's exit code."""
     child = os.fork()
     if child == 0:
         status = 1

@@ -1,7 +1,4 @@
-"""Tests closed pipes, interrupts, and more output than a pipe can hold.
-
-usage: pipes_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Tests closed pipes, interrupts, and more output than a pipe can hold."""
 
 import os
 import unittest

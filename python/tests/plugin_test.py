@@ -1,7 +1,4 @@
-"""Tests the fixture of the pytest plugin and its failure messages.
-
-usage: plugin_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Tests the fixture of the pytest plugin and its failure messages."""
 
 import pathlib
 import sys

@@ -1,7 +1,4 @@
-"""Tests how a session finds its program, checks its version, and ends it.
-
-usage: program_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Tests how a session finds its program, checks its version, and ends it."""
 
 import gc
 import os

@@ -1,7 +1,4 @@
-"""Tests the results of a session and the calls that it rejects.
-
-usage: session_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Tests the results of a session and the calls that it rejects."""
 
 import copy
 import dataclasses

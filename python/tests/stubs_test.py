@@ -1,7 +1,4 @@
-"""Tests that stale stubs are noticed, and that mypy, using the stubs, reports every misuse and nothing else.
-
-usage: stubs_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Tests that stale stubs are noticed, and that mypy, using the stubs, reports every misuse and nothing else."""
 
 import pathlib
 import re

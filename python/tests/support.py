@@ -15,7 +15,6 @@ sys.path[:0] = [str(PACKAGE), str(SOURCE / "vectors")]
 
 
 def run(*command, **options):
-    """run runs a command and returns its exit code and all its output."""
     result = subprocess.run(list(map(str, command)), stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                             stderr=subprocess.STDOUT, check=False, text=True, **{"env": ENVIRONMENT, **options})
     return result.returncode, result.stdout

@@ -1,7 +1,4 @@
-"""Judges every vector as bytes, and as a str in each of the two encodings.
-
-usage: vectors_test.py OSTREL_CHECK SOURCE_DIR
-"""
+"""Judges every vector as bytes, and as a str in each of the two encodings."""
 
 import unittest
 

@@ -1,9 +1,7 @@
 /*
- * Replacements for C library functions. This header is included before each source file of the library, so
- * that print.c receives the library's output.
- *
- * A database process can have several threads, and the library must not write to or flush its standard
- * output. With these replacements, the library uses no stream and runs no shell.
+ * Replacements for C library functions, included before each source file of the library. A database process
+ * can have several threads, and the library must not write to or flush its standard output, so print.c
+ * receives the output.
  */
 #ifndef OSTREL_SQL_HOST_H
 #define OSTREL_SQL_HOST_H

@@ -84,7 +84,6 @@ const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t val
     return check;
 }
 
-/* read_integer reads a value that consists only of a decimal integer. */
 static bool read_integer(const OstrelText* given, long long lowest, long long highest, long long* number)
 {
     const char first = given->bytes[0];
@@ -131,8 +130,7 @@ static bool load_value(const OstrelCheck* check, const OstrelArgument* argument,
     return false;
 }
 
-/* load_buffer allocates the buffer for an argument that the check writes to, and copies the values into it.
-   It returns false if it runs out of memory. */
+/* load_buffer copies the values of a writable argument to a new buffer, or returns false if out of memory. */
 static bool load_buffer(const OstrelCheck* check, const OstrelText* given, const OstrelText* own,
                         OstrelSlot* slots, unsigned i)
 {

@@ -63,10 +63,7 @@ const OstrelCheck* ostrel_choose_check(const char* name, size_t size, size_t val
 /* ostrel_is_callable performs the same tests on a check that has already been found. */
 bool ostrel_is_callable(const OstrelCheck* check, size_t values, bool is_verdict, OstrelFault* fault);
 
-/*
- * ostrel_judge calls a callable check. If it returns true, the caller must release the answer with
- * ostrel_release. If it returns false, the fault contains the reason.
- */
+/* ostrel_judge calls a callable check. Unless it returns false and sets the fault, release the answer. */
 bool ostrel_judge(const OstrelCheck* check, const OstrelText* given, OstrelWish wish, OstrelAnswer* answer,
                   OstrelFault* fault);
 

@@ -11,7 +11,6 @@ static __thread OstrelPrints* captured;
 
 void ostrel_capture(OstrelPrints* prints) { captured = prints; }
 
-/* reserve makes room for a given number of additional bytes and a NUL byte. */
 static bool reserve(OstrelPrints* prints, size_t size)
 {
     if (prints->room - prints->size > size) return true;

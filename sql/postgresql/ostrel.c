@@ -1,8 +1,6 @@
 /*
- * PostgreSQL functions for the checks. docs/sql.md describes these functions.
- *
- * ostrel_judge reports a fault, which is raised as an error only after it has returned. Raising the error
- * inside ostrel_judge would skip its cleanup.
+ * PostgreSQL functions for the checks, which docs/sql.md describes. A fault is raised as an error only after
+ * ostrel_judge has returned, because raising it inside would skip the cleanup.
  */
 #include "postgres.h"
 
@@ -14,15 +12,13 @@
 
 PG_MODULE_MAGIC;
 
-/* judge calls ostrel_judge and raises its fault, if there is one, as an error. */
 static void judge(const OstrelCheck* check, const OstrelText* given, OstrelWish wish, OstrelAnswer* answer)
 {
     OstrelFault fault;
     if (!ostrel_judge(check, given, wish, answer, &fault)) ostrel_raise(&fault);
 }
 
-/* judge_one implements the SQL function for one check, whose arguments have the types text, integer and
-   bigint. */
+/* judge_one implements the SQL function for one check, which takes text, integer and bigint arguments. */
 static Datum judge_one(FunctionCallInfo fcinfo, const OstrelCheck* check)
 {
     OstrelFault fault;

@@ -1,8 +1,6 @@
 /*
- * SQLite functions for the checks. docs/sql.md describes these functions.
- *
- * The functions are deterministic and use only their arguments, so they may be called from CHECK constraints,
- * from indexes, and from untrusted schemas.
+ * SQLite functions for the checks, which docs/sql.md describes. They are deterministic and use only their
+ * arguments, so they may be called from CHECK constraints, from indexes, and from untrusted schemas.
  */
 #include <sqlite3ext.h>
 #include <string.h>
@@ -31,10 +29,7 @@ static const OstrelQuestion kQuestions[] = {
 
 static const OstrelQuestion kCodeAlone = {"", kCode, false, false};
 
-/*
- * take stores the bytes of a value, followed by a NUL byte. A blob is stored unchanged, text as UTF-8, and a
- * number as the text to which SQLite converts it. The caller frees *copy.
- */
+/* take stores a value's bytes (text as UTF-8), followed by a NUL byte. The caller frees *copy. */
 static bool take(sqlite3_value* value, int type, OstrelText* text, char** copy)
 {
     if (type != SQLITE_BLOB) {
@@ -93,7 +88,6 @@ static void judge(sqlite3_context* context, const OstrelCheck* check, const Ostr
     }
 }
 
-/* call_check implements the SQL function for one check. */
 static void call_check(sqlite3_context* context, int count, sqlite3_value** values)
 {
     const OstrelCheck* const check = sqlite3_user_data(context);
@@ -105,10 +99,7 @@ static void call_check(sqlite3_context* context, int count, sqlite3_value** valu
     }
 }
 
-/*
- * call_question implements a function whose first argument names the check. If the name is a constant, SQLite
- * keeps the check that the first call has found for later calls.
- */
+/* The first argument names the check. If it is a constant, SQLite keeps the check for later calls. */
 static void call_question(sqlite3_context* context, int count, sqlite3_value** values)
 {
     const OstrelQuestion* const question = sqlite3_user_data(context);

@@ -46,8 +46,7 @@ def text_in_sql(value):
 
 
 def loaded(calls):
-    """loaded returns the SQL that creates a table of calls. Each row contains a number, the check, the values, and
-    whether the check returns a verdict."""
+    """loaded returns SQL that creates a table of calls: number, check, values, and whether it returns a verdict."""
     lines = ["%d\t%s\t{%s}\t%s" % (i, name, ",".join('"\\\\\\\\x%s"' % as_bytes(value).hex() for value in values),
                                      VERDICTS[name]) for i, (name, values) in enumerate(calls)]
     return ("CREATE TEMPORARY TABLE calls(number integer, name text, given bytea[], is_verdict boolean);\n"

@@ -27,8 +27,7 @@ def is_number(argument):
 
 
 def hostile_value(source):
-    """hostile_value returns a value without NUL bytes, composed of pieces that checks search for. Some values are
-    long."""
+    """hostile_value returns a value without NUL bytes, which may be long, composed of pieces that checks search for."""
     if source.random() < 0.0005:
         return source.choice(PIECES[1:]) * (20000 // source.randrange(1, 20))
     return b"".join(source.choice(PIECES) for _ in range(source.randrange(5)))

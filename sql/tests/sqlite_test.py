@@ -26,7 +26,6 @@ def connect(name=":memory:"):
 
 
 def ask(database, sql, *values):
-    """ask runs a query and returns the first row."""
     return database.execute(sql, values).fetchone()
 
 
@@ -233,7 +232,6 @@ class Process(unittest.TestCase):
 
 
 def hostile():
-    """hostile calls every function with hostile values."""
     database = connect()
     verdicts = {check["name"]: check["answers"] == "code" for check in shared.CHECKS}
     for name, values in shared.hostile_calls(30000, 20):

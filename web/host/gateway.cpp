@@ -1,5 +1,4 @@
-// The environment of the library, which consists of the C library's atoi and assertions, the wireless driver
-// and the two utilities.
+// The library's environment: atoi, assertions, the wireless driver and the two utilities.
 
 #include <unistd.h>
 

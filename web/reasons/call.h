@@ -13,8 +13,7 @@
 
 namespace ostrel::web {
 
-// room_for_call returns a buffer for calls of at most size bytes. It is valid until a larger size is
-// requested.
+// room_for_call returns a buffer for calls of at most size bytes, valid until a larger size is requested.
 char* room_for_call(std::size_t size);
 
 // written_call reads the call. The result is valid until the next call is read.

@@ -1,8 +1,6 @@
-// Lists the fields of a description that are read when it is evaluated, in the same order for packing and
-// unpacking.
-//
-// Fields that evaluation does not need, such as step numbers and descriptions of arguments, are omitted.
-// Each function names every field, so that it does not compile if a field is added.
+// Lists the fields of a description that evaluation reads, which excludes step numbers and descriptions of
+// arguments, in the same order for packing and unpacking. Each function names every field, so that it does
+// not compile if a field is added.
 #ifndef OSTREL_WEB_REASONS_FIELDS_H
 #define OSTREL_WEB_REASONS_FIELDS_H
 

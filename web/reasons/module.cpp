@@ -60,7 +60,6 @@ OSTREL_EXPORT(configure) void ostrel_configure(bool has_long_of_64_bits)
     gateway.atoi = has_long_of_64_bits ? Build::Atoi::kLong64 : Build::Atoi::kLong32;
 }
 
-// ostrel_add_channel adds a channel that the wireless driver lists.
 OSTREL_EXPORT(add_channel) void ostrel_add_channel(int channel) { gateway.channels->push_back(channel); }
 
 OSTREL_EXPORT(reserve) char* ostrel_reserve(std::size_t size) { return ostrel::web::room_for_call(size); }
@@ -68,8 +67,7 @@ OSTREL_EXPORT(reserve) char* ostrel_reserve(std::size_t size) { return ostrel::w
 // ostrel_told returns the address at which explain stores the reason.
 OSTREL_EXPORT(told) const Told* ostrel_told() { return &told; }
 
-// ostrel_explain stores the reason why the written call is refused. It returns false if the call is not
-// refused.
+// ostrel_explain stores the reason why the written call is refused, or returns false if it is not refused.
 OSTREL_EXPORT(explain) bool ostrel_explain(std::size_t check)
 {
     called = &descriptions()[check];

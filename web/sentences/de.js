@@ -1,5 +1,3 @@
-// Deutsch.
-
 export default {
   locale: 'de',
   subject: 'der Wert',

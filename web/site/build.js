@@ -45,7 +45,6 @@ for (const name of kPages) {
   }));
 }
 
-// The file that contains the whole site.
 const bundled = await require('esbuild').build({
   stdin: {contents: source('single.js'), resolveDir: folder, loader: 'js'},
   bundle: true,

@@ -13,7 +13,6 @@ function shown(name, className, text) {
   return made;
 }
 
-// articleOf returns the article that contains the anchor.
 const articleOf = (hash) => document.getElementById(hash)?.closest('main > *');
 
 function route() {

@@ -111,7 +111,6 @@ function fieldsOf(check) {
     })).join('');
 }
 
-// articleOf returns the section about a check.
 export function articleOf(check) {
   const answers = check.codes.map(({code: number, name, meaning}) =>
     `<tr><td>${number}</td><td>${code(name)}</td><td>${escaped(meaning)}</td></tr>`).join('');
@@ -128,7 +127,6 @@ ${(check.tables ?? []).map(tableOf).join('')}
 </article>`;
 }
 
-// indexOf lists the checks by family.
 export function indexOf(checks) {
   const families = new Map();
   for (const check of checks) families.set(check.family, [...(families.get(check.family) ?? []), check]);

@@ -93,8 +93,7 @@ export class Bare {
   }
 }
 
-// edges lists the arguments that can be placed at the end of the memory. If there are none, it lists only -1, so that
-// the call is made once.
+// edges lists the arguments that can be placed at the end of the memory or, if there are none, only -1.
 export function edges(check, given) {
   const values = complete(check, given);
   const found = check.arguments.flatMap((argument, i) => (isPointer(argument) && values[i] !== null ? [i] : []));

@@ -1,5 +1,4 @@
-// Returns details of a call that the tests need but the reasons module does not return. They are derived from
-// the descriptions.
+// Returns details, derived from the descriptions, that the tests need but the reasons module does not return.
 
 #include "rules/evaluate.h"
 #include "rules/rules.h"

@@ -34,7 +34,6 @@ export async function serve(t, {policy = kPolicy, pages = {}} = {}) {
   return `http://127.0.0.1:${server.address().port}`;
 }
 
-// started starts Debian's Chromium.
 export async function started(t) {
   const browser = await chromium.launch({
     executablePath: process.env.OSTREL_CHROMIUM || '/usr/bin/chromium',
@@ -61,12 +60,10 @@ export async function opened(t, browser, url, options = {}) {
 
 export const isReady = (page) => page.waitForSelector('[data-ready]', {state: 'attached'});
 
-// checkNetwork asserts that the page sent requests only to the site.
 export function checkNetwork(page, base) {
   for (const url of page.asked) assert.ok(url.startsWith(`${base}/`) || url.startsWith('data:'), url);
 }
 
-// retype clears a field and types the given text into it.
 export async function retype(page, selector, text) {
   await page.fill(selector, '');
   await page.locator(selector).pressSequentially(text);

@@ -25,7 +25,6 @@ function answerOf(row, long) {
   };
 }
 
-// rowsOf returns the rows in the lines of a file.
 export const rowsOf = (name, lines) => lines.split('\n').filter(Boolean).map((line, i) => {
   const row = JSON.parse(line);
   return {

@@ -19,8 +19,7 @@ function mixed(number, text) {
   return number;
 }
 
-// judgedRows judges the rows that contain a result. It lists the rows that differ, and computes a checksum of the
-// reasons.
+// judgedRows returns the rows that differ from their expected result, and a checksum of the reasons.
 export async function judgedRows(load, rows, long) {
   const ostrel = await load({encoding: 'latin1', long});
   const faults = [];
