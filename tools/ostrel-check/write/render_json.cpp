@@ -74,6 +74,16 @@ class ResultLine {
         json_.members(file_member_);
     }
 
+    void write_named(const Member& passed)
+    {
+        if (passed.has_plain_name) {
+            json_.plain(passed.name);
+        } else {
+            json_.text(passed.name);
+        }
+        write_member(json_, passed);
+    }
+
     void write_passed(const Result& result)
     {
         if (result.record == nullptr) return;
@@ -83,20 +93,14 @@ class ResultLine {
                 has_own = true;
                 continue;
             }
-            if (passed.has_plain_name) {
-                json_.plain(passed.name);
-            } else {
-                json_.text(passed.name);
-            }
-            write_member(json_, passed);
+            write_named(passed);
         }
         if (!has_own) return;
         json_.plain("given");
         json_.StartObject();
         for (const Member& passed : result.record->members) {
             if (!is_own(passed.name)) continue;
-            json_.text(passed.name);
-            write_member(json_, passed);
+            write_named(passed);
         }
         json_.EndObject();
     }
