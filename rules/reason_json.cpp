@@ -1,5 +1,6 @@
 #include "rules/reason_json.h"
 
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <utility>
@@ -47,6 +48,25 @@ void append_list(std::string& out, const std::vector<T>& values, F append)
     out += ']';
 }
 
+const std::string& json_of(const Set& set, AppendBytes append_bytes)
+{
+    // Recent results are kept for the same reason as in in_words.
+    struct Known {
+        Set set;
+        AppendBytes append_bytes = nullptr;
+        std::string json;
+    };
+    thread_local std::array<Known, 64> recent;
+    Known& known = recent[set.hash() % recent.size()];
+    if (known.append_bytes == append_bytes && known.set == set) return known.json;
+    known = {set, append_bytes, "{\"text\":"};
+    append_json_text(known.json, in_words(set));
+    known.json += ",\"members\":";
+    append_bytes(known.json, set.members());
+    known.json += '}';
+    return known.json;
+}
+
 void append_member(std::string& out, std::string_view name, const Datum& datum, AppendBytes append_bytes)
 {
     if (std::holds_alternative<std::monostate>(datum)) return;
@@ -63,11 +83,7 @@ void append_json_datum(std::string& out, const Datum& datum, AppendBytes append_
     } else if (const auto* text = std::get_if<std::string>(&datum)) {
         append_bytes(out, *text);
     } else if (const auto* set = std::get_if<Set>(&datum)) {
-        out += "{\"text\":";
-        append_json_text(out, in_words(*set));
-        out += ",\"members\":";
-        append_bytes(out, set->members());
-        out += '}';
+        out += json_of(*set, append_bytes);
     } else if (const auto* words = std::get_if<std::vector<std::string_view>>(&datum)) {
         append_list(out, *words, [&](std::string_view word) { append_bytes(out, word); });
     } else if (const auto* numbers = std::get_if<std::vector<long long>>(&datum)) {

@@ -135,7 +135,7 @@ std::string in_words(const Set& set)
         Set set;
         std::string words = described(Set());
     };
-    thread_local std::array<Known, 32> recent;
+    thread_local std::array<Known, 64> recent;
     Known& known = recent[set.hash() % recent.size()];
     if (known.set != set) known = {set, described(set)};
     return known.words;

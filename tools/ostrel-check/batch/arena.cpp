@@ -9,14 +9,6 @@
 
 namespace ostrel::tool {
 
-std::uint64_t count_lines(std::string_view text)
-{
-    std::uint64_t count = 0;
-    for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1))
-        ++count;
-    return count;
-}
-
 void Unmap::operator()(Arena* arena) const { munmap(arena, sizeof *arena); }
 
 std::unique_ptr<Arena, Unmap> map_arena()

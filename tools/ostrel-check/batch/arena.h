@@ -20,9 +20,6 @@ namespace ostrel::tool {
 inline constexpr std::size_t kChunk = std::size_t{256} << 10;
 inline constexpr std::size_t kOutput = std::size_t{256} << 20;
 
-// count_lines returns the number of line feeds in the text.
-std::uint64_t count_lines(std::string_view text);
-
 // Progress describes how far a worker has processed its chunk.
 struct Progress {
     std::size_t read = 0;  // bytes of input that have been processed
@@ -36,16 +33,17 @@ struct Progress {
     std::uint64_t refused = 0;
     Log::Size log;
 
-    // advance moves past a record and, if the entry contains no more records, past the entry.
-    void advance(std::string_view text, bool has_more, const Record& record)
+    // advance moves past a record and, if the entry contains no more records, past the entry, which has the
+    // given numbers of bytes and line feeds.
+    void advance(std::size_t bytes, std::uint64_t lines, bool has_more, const Record& record)
     {
         const bool ends_gateway = has_more && record.kind == Record::Kind::kGatewayEnd;
         if (ends_gateway) next = line + record.end;
         is_within = has_more && !ends_gateway;
         part = has_more ? part + 1 : 0;
         if (has_more) return;
-        read += text.size();
-        line += count_lines(text);
+        read += bytes;
+        line += lines;
         next = line;
     }
 };

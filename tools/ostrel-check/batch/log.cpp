@@ -17,6 +17,18 @@ struct Head {
     std::uint32_t example = 0;
 };
 
+Head head_of(const SummaryRow& row)
+{
+    Head head;
+    head.check = row.check;
+    head.verdict = static_cast<std::uint16_t>(row.verdict);
+    head.code = row.code;
+    head.reason = static_cast<std::uint32_t>(row.reason.size());
+    head.parameter = static_cast<std::uint32_t>(row.parameter.size());
+    head.example = static_cast<std::uint32_t>(row.example.size());
+    return head;
+}
+
 // A worker that has logged this many kinds of cases forgets them, and logs an example of each kind again.
 constexpr std::size_t kMostKnown = std::size_t{1} << 14;
 
@@ -44,25 +56,21 @@ void for_each_row(const Log& log, const Log::Size& size, const std::function<voi
     }
 }
 
-std::uint32_t LogWriter::append(Log::Size& size, const SummaryRow& row)
+std::uint32_t LogWriter::append(Log::Size& size, SummaryRow row)
 {
-    Head head;
-    head.check = row.check;
-    head.verdict = static_cast<std::uint16_t>(row.verdict);
-    head.code = row.code;
-    const std::size_t room = Log::kLongestRow - sizeof head;
-    const std::string_view reason = row.reason.substr(0, room);
-    const std::string_view parameter = row.parameter.substr(0, room - reason.size());
+    std::size_t room = Log::kLongestRow - sizeof(Head);
+    row.reason = row.reason.substr(0, room);
+    room -= row.reason.size();
+    row.parameter = row.parameter.substr(0, room);
+    room -= row.parameter.size();
     // An example that does not fit is omitted, because cutting it would leave invalid JSON.
-    const bool fits = row.example.size() <= room - reason.size() - parameter.size();
-    const std::string_view example = fits ? row.example : std::string_view();
-    head.reason = static_cast<std::uint32_t>(reason.size());
-    head.parameter = static_cast<std::uint32_t>(parameter.size());
-    head.example = static_cast<std::uint32_t>(example.size());
+    if (row.example.size() > room) row.example = {};
+    const Head head = head_of(row);
     char* at = log_->rows.data() + size.bytes;
     std::memcpy(at, &head, sizeof head);
     at += sizeof head;
-    for (const std::string_view text : {reason, parameter, example}) at = std::ranges::copy(text, at).out;
+    for (const std::string_view text : {row.reason, row.parameter, row.example})
+        at = std::ranges::copy(text, at).out;
     size.bytes = static_cast<std::uint32_t>(at - log_->rows.data());
     return size.rows++;
 }
@@ -70,10 +78,8 @@ std::uint32_t LogWriter::append(Log::Size& size, const SummaryRow& row)
 void LogWriter::add(Log::Size& size, const SummaryRow& row, std::uint32_t lines, std::size_t written,
                     const std::function<std::string()>& example)
 {
-    key_.assign(reinterpret_cast<const char*>(&row.check), sizeof row.check);
-    key_.append(reinterpret_cast<const char*>(&row.code), sizeof row.code);
-    key_ += static_cast<char>(row.verdict);
-    key_.append(row.reason).append(1, '\0').append(row.parameter);
+    const Head head = head_of(row);
+    key_.assign(reinterpret_cast<const char*>(&head), sizeof head).append(row.reason).append(row.parameter);
     KnownRow*& known = last_known_[row.check % last_known_.size()];
     if (known == nullptr || known->first != key_) {
         const auto found = known_.find(key_);

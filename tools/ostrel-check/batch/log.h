@@ -77,7 +77,7 @@ class LogWriter {
 
     using KnownRow = std::pair<const std::string, Known>;
 
-    std::uint32_t append(Log::Size& size, const SummaryRow& row);
+    std::uint32_t append(Log::Size& size, SummaryRow row);
 
     Log* log_;
     std::uint64_t round_ = 1;

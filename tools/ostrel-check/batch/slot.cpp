@@ -128,7 +128,8 @@ void Slot::conclude(Verdict verdict, std::string problem)
     conclusion_ += render_result(memory, rules_->style,
                                  {rules_->files[arena_->file], progress.line + cases_.record().line}, result);
     const std::uint64_t line = progress.next;
-    progress.advance(text, !text.empty() && cases_.has_more(), cases_.record());
+    const bool has_more = !text.empty() && cases_.has_more();
+    progress.advance(text.size(), text.empty() ? 0 : cases_.lines(text), has_more, cases_.record());
     ++progress.cases;
     std::string parameter;
     LogWriter(arena_->log)

@@ -2,6 +2,7 @@
 
 #include "rules/evaluate.h"
 #include "rules/reason_json.h"
+#include "rules/rules.h"
 #include "rules/sentences.h"
 #include "rules/walk.h"
 
@@ -26,16 +27,10 @@ Answer answer_of(const catalogue::Function& function, const std::vector<catalogu
     return answer;
 }
 
-std::size_t position_of(const catalogue::Function& function)
-{
-    return static_cast<std::size_t>(&function - catalogue::functions().data());
-}
-
-std::vector<bool> functions_that(bool (*holds)(const rules::Check&))
+std::vector<bool> checks_that(bool (*holds)(const rules::Check&))
 {
     std::vector<bool> result;
-    for (const catalogue::Function& function : catalogue::functions())
-        result.push_back(holds(*function.check));
+    for (const rules::Check& check : rules::checks()) result.push_back(holds(check));
     return result;
 }
 
@@ -87,15 +82,15 @@ void explain(Result& result)
 
 bool is_known_not_to_return(const catalogue::Function& function, const std::vector<catalogue::Value>& values)
 {
-    static const std::vector<bool> may_not_return = functions_that(rules::may_not_return);
-    return may_not_return[position_of(function)] &&
+    static const std::vector<bool> may_not_return = checks_that(rules::may_not_return);
+    return may_not_return[function.check->number] &&
            answer_of(function, values).outside == rules::Outside::kNeverReturns;
 }
 
 bool asks_driver(const catalogue::Function& function, const std::vector<catalogue::Value>& values)
 {
-    static const std::vector<bool> may_ask = functions_that(rules::asks_driver);
-    return may_ask[position_of(function)] && answer_of(function, values).outside == rules::Outside::kDriver;
+    static const std::vector<bool> may_ask = checks_that(rules::asks_driver);
+    return may_ask[function.check->number] && answer_of(function, values).outside == rules::Outside::kDriver;
 }
 
 void answer_at_once(Result& result)

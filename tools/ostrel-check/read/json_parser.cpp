@@ -25,8 +25,6 @@ std::string describe(rapidjson::ParseErrorCode error)
 
 ByteKinds kinds_in(std::string_view text)
 {
-    // The compiler uses the processor's vector instructions for such a block.
-    using Block = unsigned char __attribute__((vector_size(16)));
     Block controls{};
     Block backslashes{};
     Block high_bytes{};

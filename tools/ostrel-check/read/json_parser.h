@@ -5,6 +5,7 @@
 #include <rapidjson/reader.h>
 #include <rapidjson/stream.h>
 
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -12,36 +13,39 @@
 #include <string>
 #include <string_view>
 
+#include "read/block.h"
+
 namespace ostrel::tool {
 
 // kDeepest limits how deeply JSON may be nested. The parser recurses for each level, so a handler must return
 // false beyond this limit.
 inline constexpr std::size_t kDeepest = 32;
 
-// plain_size returns the size of the longest prefix that JSON strings contain without escapes.
+// plain_size returns the number of bytes at the front of a block that JSON strings contain without escapes.
+inline std::size_t plain_size(const Block& block)
+{
+    const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(
+        static_cast<Block>((block < ' ') | (block == '"') | (block == '\\')));
+    const auto unmarked = [](std::uint64_t marks) {
+        const bool is_little = std::endian::native == std::endian::little;
+        return static_cast<std::size_t>(is_little ? std::countr_zero(marks) : std::countl_zero(marks)) / 8;
+    };
+    return halves[0] != 0 ? unmarked(halves[0]) : sizeof halves[0] + unmarked(halves[1]);
+}
+
+// This plain_size returns the size of the longest such prefix of a text.
 inline std::size_t plain_size(std::string_view text)
 {
-    constexpr std::uint64_t kOnes = 0x0101010101010101;
-    constexpr std::uint64_t kHighs = 0x80 * kOnes;
-    // A subtraction borrows from the next byte only if a lower byte has been marked.
-    const auto mark_below = [&](std::uint64_t bytes, std::uint64_t limit) {
-        return (bytes - limit * kOnes) & ~bytes & kHighs;
-    };
     std::size_t size = 0;
-    for (; size + 8 <= text.size(); size += 8) {
-        std::uint64_t eight = 0;
-        std::memcpy(&eight, text.data() + size, sizeof eight);
-        const std::uint64_t marks =
-            mark_below(eight, ' ') | mark_below(eight ^ '"' * kOnes, 1) | mark_below(eight ^ '\\' * kOnes, 1);
-        if (marks == 0) continue;
-        if (std::endian::native != std::endian::little) break;
-        return size + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+    Block block;
+    for (; size + sizeof block <= text.size(); size += sizeof block) {
+        std::memcpy(&block, text.data() + size, sizeof block);
+        if (const std::size_t plain = plain_size(block); plain < sizeof block) return size + plain;
     }
-    const auto is_plain = [](char c) {
-        return static_cast<unsigned char>(c) >= ' ' && c != '"' && c != '\\';
-    };
-    while (size < text.size() && is_plain(text[size])) ++size;
-    return size;
+    if (size == text.size()) return size;
+    block = Block{};
+    std::memcpy(&block, text.data() + size, text.size() - size);
+    return size + plain_size(block);
 }
 
 // TokenStream hides all but the first of several consecutive digits from the parser, unless the first is 0.
@@ -115,7 +119,8 @@ class JsonParser {
     template <typename Handler>
     rapidjson::ParseResult parse(std::string_view text, Handler& handler)
     {
-        copy_.assign(text);
+        // The bytes after the text make whole blocks of its end.
+        copy_.assign(text).append(sizeof(Block), '\0');
         TokenStream stream(copy_.data(), copy_.size());
         stream_ = &stream;
         rapidjson::Reader reader;

@@ -12,6 +12,9 @@
 
 namespace ostrel::tool {
 
+// count_lines returns the number of line feeds in the text.
+std::uint64_t count_lines(std::string_view text);
+
 // Found is the result of reading an entry.
 enum class Found {
     kNothing,  // a blank line or a comment
@@ -32,6 +35,9 @@ class Reader {
     // next returns the size of the entry at the front of rest, including any separators before the next
     // entry. rest consists of at least one entry, and all its entries are whole.
     virtual std::size_t next(std::string_view rest) = 0;
+
+    // lines returns the number of line feeds in an entry.
+    [[nodiscard]] virtual std::uint64_t lines(std::string_view entry) const { return count_lines(entry); }
 
     // skip returns the size of the entries at the front of rest that begin before the given line. Lines are
     // counted from 0 at the beginning of rest.

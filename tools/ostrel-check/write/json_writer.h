@@ -31,12 +31,21 @@ class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
         place[text.size() + 1] = '"';
     }
 
-    // members writes finished members of an object unchanged.
-    void members(std::string_view json)
+    // members writes finished members of an object unchanged. They may be given in several pieces.
+    template <typename... Pieces>
+    [[gnu::always_inline]] void members(const Pieces&... pieces)
     {
-        Prefix(rapidjson::kStringType);
-        ++level_stack_.template Top<Level>()->valueCount;
-        std::memcpy(os_->Push(json.size()), json.data(), json.size());
+        Level& object = *level_stack_.template Top<Level>();
+        const std::size_t comma = object.valueCount > 0 ? 1 : 0;
+        object.valueCount += 2;  // a name and a value
+        char* place = os_->Push((std::string_view(pieces).size() + ... + comma));
+        *place = ',';
+        place += comma;
+        const auto append = [&place](std::string_view piece) {
+            std::memcpy(place, piece.data(), piece.size());
+            place += piece.size();
+        };
+        (append(pieces), ...);
     }
 
     void raw(std::string_view json);

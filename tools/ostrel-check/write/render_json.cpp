@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <limits>
 
 #include "catalogue/result_codes.h"
 #include "judge/reason.h"
@@ -40,8 +42,7 @@ class ResultLine {
         encoding_ = style.encoding;
         json_.StartObject();
         if (style.format != Format::kStream) write_file(place.file);
-        json_.plain("line");
-        json_.Uint64(place.line);
+        write_line(place.line);
         write_passed(result);
         write_verdict(result);
         if (style.with_args) write_args(result);
@@ -74,13 +75,20 @@ class ResultLine {
         json_.members(file_member_);
     }
 
+    void write_line(std::uint64_t line)
+    {
+        std::array<char, std::numeric_limits<std::uint64_t>::digits10 + 1> digits;
+        const auto written = std::to_chars(digits.begin(), digits.end(), line);
+        json_.members("\"line\":", std::string_view(digits.begin(), written.ptr));
+    }
+
     void write_named(const Member& passed)
     {
-        if (passed.has_plain_name) {
-            json_.plain(passed.name);
-        } else {
-            json_.text(passed.name);
+        if (passed.has_plain_name && passed.is_json) {
+            json_.members("\"", passed.name, "\":", passed.value);
+            return;
         }
+        json_.text(passed.name);
         write_member(json_, passed);
     }
 
@@ -107,13 +115,14 @@ class ResultLine {
 
     void write_verdict(const Result& result)
     {
+        if (result.verdict == Verdict::kAccepted) {
+            json_.members(R"("check":")", result.function->name,
+                          R"(","verdict":"accepted","code":0,"meaning":"valid")");
+            return;
+        }
         if (result.function != nullptr) {
             json_.plain("check");
             json_.plain(result.function->name);
-        }
-        if (result.verdict == Verdict::kAccepted) {
-            json_.members(R"("verdict":"accepted","code":0,"meaning":"valid")");
-            return;
         }
         json_.plain("verdict");
         json_.plain(json_name(result.verdict));
