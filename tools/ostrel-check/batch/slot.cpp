@@ -133,9 +133,9 @@ void Slot::conclude(Verdict verdict, std::string problem)
     ++progress.cases;
     std::string parameter;
     LogWriter(arena_->log)
-        .add(progress.log, row_of(result, parameter), static_cast<std::uint32_t>(progress.next - line),
-             progress.written + conclusion_.size(),
-             [&] { return example_of(result, rules_->style.encoding); });
+        .add(progress.log, row_of(result, rules_->style, parameter),
+             static_cast<std::uint32_t>(progress.next - line), progress.written + conclusion_.size(),
+             [&] { return example_of(result, rules_->style); });
     release_prints(arena_->prints);
     arena_->commit(progress);
 }

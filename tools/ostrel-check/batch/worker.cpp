@@ -173,8 +173,8 @@ class Judge {
         if (map_ != nullptr && !kind_ && lines == 0) return;
         const Record& record = cases_.record();
         if (kind_ == Record::Kind::kCase) {
-            log_.add(progress.log, row_of(result_, parameter_), lines, progress.written,
-                     [&] { return example_of(result_, style_.encoding); });
+            log_.add(progress.log, row_of(result_, style_, parameter_), lines, progress.written,
+                     [&] { return example_of(result_, style_); });
         } else if (kind_ == Record::Kind::kUnmapped) {
             log_.add(progress.log, row_of_unmapped(record, parameter_), lines, progress.written,
                      [&] { return std::string(why_unmapped(*map_, parameter_)); });

@@ -89,7 +89,7 @@ void append_counted_parameter(std::string& out, std::string_view path)
     out += path.substr(kept);
 }
 
-SummaryRow row_of(const Result& result, std::string& parameter)
+SummaryRow row_of(const Result& result, const Style& style, std::string& parameter)
 {
     SummaryRow row;
     if (result.function != nullptr) {
@@ -98,6 +98,7 @@ SummaryRow row_of(const Result& result, std::string& parameter)
     }
     row.verdict = result.verdict;
     if (is_code(result.verdict)) row.code = result.code;
+    if (!style.with_rows) return row;
     row.reason = result.why.reason.id;
     parameter.clear();
     std::string memory;
@@ -116,9 +117,9 @@ SummaryRow row_of_unmapped(const Record& record, std::string& parameter)
     return row;
 }
 
-std::string example_of(const Result& result, Encoding encoding)
+std::string example_of(const Result& result, const Style& style)
 {
-    if (exit_code(result.verdict) == kExitAccepted) return "";
+    if (!style.with_rows || exit_code(result.verdict) == kExitAccepted) return "";
     rapidjson::StringBuffer buffer;
     JsonWriter json(buffer);
     json.StartObject();
@@ -132,7 +133,8 @@ std::string example_of(const Result& result, Encoding encoding)
     if (result.verdict != Verdict::kMalformed) {
         json.plain("args");
         json.StartArray();
-        for (const catalogue::Value& value : *result.values) write_value(json, shortened(value), encoding);
+        for (const catalogue::Value& value : *result.values)
+            write_value(json, shortened(value), style.encoding);
         json.EndArray();
     }
     add("text", result.why.text.empty() ? std::string_view(result.problem) : result.why.text);

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "judge/verdict.h"
-#include "read/encoding.h"
+#include "write/render.h"
 
 namespace ostrel::tool {
 
@@ -29,14 +29,16 @@ struct SummaryRow {
 // append_counted_parameter puts {i} for each instance number or alias, and shortens a very long path.
 void append_counted_parameter(std::string& out, std::string_view path);
 
-// row_of stores the parameter of a result's row in the string parameter, which must outlive the row.
-SummaryRow row_of(const Result& result, std::string& parameter);
+// row_of stores the parameter of a result's row in the string parameter, which must outlive the row. If the
+// summary will have no rows, the reason and the parameter are left out, so that fewer cases differ.
+SummaryRow row_of(const Result& result, const Style& style, std::string& parameter);
 
 // row_of_unmapped returns the row in which a parameter without a check is counted.
 SummaryRow row_of_unmapped(const Record& record, std::string& parameter);
 
-// example_of returns id, arguments and problem as JSON, or an empty string for an acceptance or an answer.
-std::string example_of(const Result& result, Encoding encoding);
+// example_of returns id, arguments and problem as JSON. It returns an empty string for an acceptance or an
+// answer, and if the summary will have no rows.
+std::string example_of(const Result& result, const Style& style);
 
 }  // namespace ostrel::tool
 

@@ -21,6 +21,7 @@ struct Style {
     bool with_args = false;               // JSON and CSV repeat the arguments
     Encoding encoding = Encoding::kUtf8;  // of the values, for JSON and CSV
     bool no_results = false;              // results are not written
+    bool with_rows = false;               // the summary has rows by check, parameter and reason
     bool redacts = false;                 // secret values are replaced by their length
     bool tries_known = false;             // calls that are known not to return are made too
     std::size_t columns = 0;              // width of a table, or 0 if nothing is to be wrapped
