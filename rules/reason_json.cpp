@@ -59,11 +59,12 @@ const std::string& json_of(const Set& set, AppendBytes append_bytes)
     thread_local std::array<Known, 64> recent;
     Known& known = recent[set.hash() % recent.size()];
     if (known.append_bytes == append_bytes && known.set == set) return known.json;
-    known = {set, append_bytes, "{\"text\":"};
-    append_json_text(known.json, in_words(set));
-    known.json += ",\"members\":";
-    append_bytes(known.json, set.members());
-    known.json += '}';
+    std::string json = "{\"text\":";
+    append_json_text(json, in_words(set));
+    json += ",\"members\":";
+    append_bytes(json, set.members());
+    json += '}';
+    known = {set, append_bytes, std::move(json)};
     return known.json;
 }
 
