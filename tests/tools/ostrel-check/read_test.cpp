@@ -1,16 +1,19 @@
-// Tests that a file with arbitrary bytes yields the same records, no matter how it is divided into chunks.
+// Tests that a file with arbitrary bytes yields the same records, no matter how it is divided into chunks, and
+// the functions that examine several bytes at a time.
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <random>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "batch/arena.h"
 #include "read/cases.h"
 #include "read/cutter.h"
+#include "read/json_parser.h"
+#include "read/reader.h"
 
 namespace ostrel::tool {
 
@@ -86,8 +89,10 @@ class FileReading {
             const std::size_t size = cases_.next(texts);
             ASSERT_GT(size, 0U);
             ASSERT_LE(size, texts.size());
-            add_record(texts.substr(0, size));
-            line_ += count_lines(texts.substr(0, size));
+            const std::string_view entry = texts.substr(0, size);
+            add_record(entry);
+            EXPECT_EQ(std::ranges::count(entry, '\n'), cases_.lines(entry));
+            line_ += cases_.lines(entry);
             texts.remove_prefix(size);
         }
     }
@@ -243,6 +248,36 @@ TEST(Readers, FindTheSameRecordsHoweverTheBytesArrive)
         met += whole.records.size();
     }
     EXPECT_GT(met, static_cast<std::size_t>(count));
+}
+
+TEST(Lines, AreCounted)
+{
+    constexpr std::size_t kLongest = 9000;
+    Dice dice(18);  // NOLINT(bugprone-random-generator-seed): the same texts in every run
+    for (std::size_t size = 0; size < kLongest; size += 1 + size / 100) {
+        std::string text(size, '\n');
+        EXPECT_EQ(size, count_lines(text));
+        for (char& c : text) c = "\n\x0B\x8A\xFF"[roll(dice, 4)];
+        EXPECT_EQ(std::ranges::count(text, '\n'), count_lines(text));
+    }
+}
+
+TEST(PlainSize, EndsBeforeTheFirstByteThatJsonEscapes)
+{
+    constexpr std::size_t kLongest = 50;
+    for (std::size_t size = 0; size < kLongest; ++size) {
+        EXPECT_EQ(size, plain_size(std::string(size, 'x')));
+        for (std::size_t at = 0; at < size; ++at) {
+            for (int byte = 0; byte < 256; ++byte) {
+                std::string text(size, 'x');
+                text[at] = static_cast<char>(byte);
+                const bool is_plain = byte >= ' ' && byte != '"' && byte != '\\';
+                EXPECT_EQ(is_plain ? size : at, plain_size(text)) << byte;
+                text.back() = '"';
+                EXPECT_EQ(is_plain ? size - 1 : at, plain_size(text)) << byte;
+            }
+        }
+    }
 }
 
 }  // namespace
