@@ -78,7 +78,8 @@ class Replay {
             if (row.given.function != &function) continue;
             const auto input = fuzzer_.encode(function, row.given.values);
             if (input && !fuzzer_.decodes(*input, function, row.given.values))
-                totals_.fail("a call of " + std::string(function.name) + " comes out as another\n");
+                totals_.fail("the input for a call of " + std::string(function.name) +
+                             " decodes to another call\n");
         }
         std::vector<std::string> inputs = seeds(fuzzer_, function, rows);
         for (const std::string& input : kept_) {
@@ -126,7 +127,7 @@ class Replay {
                 totals_.fail(fuzzer_.fault());
                 break;
         }
-        if (driver.has_left_its_list()) totals_.fail("the list of channels is left\n");
+        if (driver.has_left_its_list()) totals_.fail("the channel list was not deleted\n");
     }
 
     const ReplayOptions& options_;
@@ -163,7 +164,7 @@ bool are_met(const rules::Counts& counts, const rules::Counts& further, const Re
     std::ranges::sort(rows, {}, &oracle::StepCount::times);
     const auto below =
         std::ranges::lower_bound(rows, options.floor, {}, &oracle::StepCount::times) - rows.begin();
-    std::printf("%zu steps and conditions, %td met less than %llu times\n", rows.size(), below,
+    std::printf("%zu steps and conditions, %td met fewer than %llu times\n", rows.size(), below,
                 static_cast<unsigned long long>(options.floor));
     constexpr std::ptrdiff_t kMostTold = 50;
     for (std::ptrdiff_t i = 0; i < std::min(below, kMostTold); ++i) {
@@ -222,10 +223,10 @@ bool run_all(const ReplayOptions& options)
         calls += totals.calls;
         if (options.floor == 0) continue;
         for (const std::string& id : totals.unproven)
-            std::printf("never met with one step less: %s\n", id.c_str());
+            std::printf("never refused for the same reason one step short of the advice: %s\n", id.c_str());
         good = good && totals.unproven.empty();
     }
-    if (inputs == 0) throw std::invalid_argument("no function " + options.check);
+    if (inputs == 0) throw std::invalid_argument("no such function: " + options.check);
     std::printf("%zu inputs, %zu refused, %s, %zu calls compared\n", inputs, refused,
                 good ? "each with an id and a sentence" : "with failures", calls);
     return are_met(counts, further, options) && good;

@@ -101,7 +101,8 @@ void add_table(const std::filesystem::path& file, std::vector<StepCount>& rows)
     for (std::string what; stream >> times && std::getline(stream.ignore(), what);) earlier[what] = times;
     for (StepCount& row : rows) {
         const auto found = earlier.find(row.what);
-        if (found == earlier.end()) throw std::runtime_error("not of these descriptions: " + file.string());
+        if (found == earlier.end())
+            throw std::runtime_error(file.string() + " has no count for: " + row.what);
         row.times += found->second;
     }
 }
