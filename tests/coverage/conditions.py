@@ -83,12 +83,12 @@ def report(found, path):
     """report prints the faults and returns whether there are none."""
     missing = {condition for condition in found if not condition.shown}
     listed = Listed(path, missing, NAMED)
-    wrong = ["%s:%d: not seen to decide: %s\n    %s" %
+    wrong = ["%s:%d: not shown to decide: %s\n    %s" %
              (condition.file, condition.number, condition.text, condition.line)
              for condition in sorted(missing) if condition not in listed]
-    wrong += ["%s: shown by now, or not there any more: %s" % (path.name, entry) for entry in listed.stale(["*"])]
+    wrong += ["%s: already shown, or no longer present: %s" % (path.name, entry) for entry in listed.stale(["*"])]
     print(*wrong, sep="\n", end="\n" if wrong else "")
-    print("%d of %d conditions seen to decide, %d listed" %
+    print("%d of %d conditions shown to decide, %d listed" %
           (sum(condition.shown for condition in found), len(found), len(listed.known)))
     return not wrong
 

@@ -30,23 +30,23 @@ class Gate(unittest.TestCase):
             return passed, out.getvalue()
 
     def test_all_are_seen(self):
-        self.assertEqual((True, "3 of 3 conditions seen to decide, 0 listed\n"), self.judge([True] * 3, ""))
+        self.assertEqual((True, "3 of 3 conditions shown to decide, 0 listed\n"), self.judge([True] * 3, ""))
 
     def test_one_is_not_seen(self):
         passed, printed = self.judge([True, False, True], "")
         self.assertFalse(passed)
-        self.assertIn("src/a.cpp:4: not seen to decide: a < 5\n    (a < 5 || a == 7);\n", printed)
+        self.assertIn("src/a.cpp:4: not shown to decide: a < 5\n    (a < 5 || a == 7);\n", printed)
         self.assertIn("2 of 3 conditions", printed)
 
     def test_the_one_that_is_not_seen_is_listed(self):
         passed, printed = self.judge([False, True, True], ENTRY % ("return a > 1 &&", "a > 1"))
-        self.assertEqual((True, "2 of 3 conditions seen to decide, 1 listed\n"), (passed, printed))
+        self.assertEqual((True, "2 of 3 conditions shown to decide, 1 listed\n"), (passed, printed))
 
     def test_another_is_listed(self):
         passed, printed = self.judge([False, True, True], ENTRY % ("(a < 5 || a == 7);", "a == 7"))
         self.assertFalse(passed)
-        self.assertIn("not seen to decide: a > 1\n", printed)
-        self.assertIn("mcdc.txt: shown by now, or not there any more: src/a.cpp: condition: a == 7\n", printed)
+        self.assertIn("not shown to decide: a > 1\n", printed)
+        self.assertIn("mcdc.txt: already shown, or no longer present: src/a.cpp: condition: a == 7\n", printed)
 
     def test_what_is_listed_is_shown_by_now(self):
         self.assertFalse(self.judge([True] * 3, ENTRY % ("return a > 1 &&", "a > 1"))[0])
@@ -57,8 +57,8 @@ class Gate(unittest.TestCase):
     def test_what_the_compiler_left_out_is_not_seen(self):
         passed, printed = self.judge([], "", decisions=0)
         self.assertFalse(passed)
-        self.assertIn("src/a.cpp:3: not seen to decide: &&\n", printed)
-        self.assertIn("src/a.cpp:4: not seen to decide: ||\n", printed)
+        self.assertIn("src/a.cpp:3: not shown to decide: &&\n", printed)
+        self.assertIn("src/a.cpp:4: not shown to decide: ||\n", printed)
 
     def test_the_order_of_the_conditions_is_known(self):
         with self.assertRaises(SystemExit):

@@ -46,12 +46,12 @@ def proofs():
         Step([str(GCC / "bin" / "stack_test")], r"deepest: (.*)",
              {"OSTREL_STACK_TABLE": str(REPORTS / "stack-table.txt")}),
         ctest(GCC, r"(^|\.)stack_test\.")])
-    yield Proof("time", "time in proportion to the value", "callgrind, 1 kB to 1 MB", ["gcc"], [
+    yield Proof("time", "time proportional to the length", "callgrind, 1 kB to 1 MB", ["gcc"], [
         Step([sys.executable, "tests/proof/instructions_test.py", VALGRIND, str(GCC / "bin" / "instructions"),
               "each", "1000", "10000", "100000", "1000000"], r"growth: (at most [0-9.]+)")])
     # The sanitizer is very slow on strings of a megabyte, so only the build without it judges them.
     lines = r"(\d+ threads, \d+ calls each: [1-9]\d* lines \w+ \w+)"
-    yield Proof("threads", "threads judge side by side", "thread sanitizer; every vector without", ["gcc", "tsan"], [
+    yield Proof("threads", "threads judge concurrently", "every vector, and thread sanitizer", ["gcc", "tsan"], [
         Step([str(TSAN / "bin" / "threads_test")], lines, {"OSTREL_LONGEST_TEXT": "9000"}),
         Step([str(GCC / "bin" / "threads_test")], lines)])
     yield Proof("locale", "the same verdicts in any locale", "every vector", ["gcc"], [
@@ -60,15 +60,15 @@ def proofs():
         preset = folder.name
         yield Proof("assertions", "assertions and endless calls", preset + ", each variant", ["gcc", preset], [
             ctest(folder, r"(^|\.)(assertions|parameter_check)_test(\.|$)")])
-        yield Proof("file", "the finished file", preset + ", each variant", ["gcc", preset],
+        yield Proof("file", "the finished shared object", preset + ", each variant", ["gcc", preset],
                     [ctest(folder, r"(^|\.)shared_object(\.|$)")])
     yield Proof("coverage", "every line and branch is tested", "coverage", [], [script("coverage")])
-    yield Proof("coverage", "every condition seen to decide", "modified condition/decision", [], [
-        Step([str(ROOT / "scripts" / "coverage"), "--mcdc"], r"(\d+ of \d+ conditions seen to decide, \d+ listed)")])
-    yield Proof("fuzzing", "no relation is broken", "fuzzing", [], [script("fuzz")])
+    yield Proof("coverage", "every condition decides", "modified condition/decision", [], [
+        Step([str(ROOT / "scripts" / "coverage"), "--mcdc"], r"(\d+ of \d+ conditions shown to decide, \d+ listed)")])
+    yield Proof("fuzzing", "library and descriptions agree", "fuzzing", [], [script("fuzz")])
     yield Proof("fuzzing", "every step of every rule is met", "counted, with sanitizers", [],
                 [script("fuzz", "--table")])
-    yield Proof("reasons", "every refusal is given a reason", "a million of them at random", ["gcc"], [
+    yield Proof("reasons", "every refusal has a reason", "a million random refusals", ["gcc"], [
         Step([str(GCC / "bin" / "fuzz_replay"), "--refusals", "1000000"],
              r"(\d+ refused, each with an id and a sentence)")])
     yield Proof("mutation", "tests notice every change", "mutation", [], [script("mutate")])
@@ -98,7 +98,7 @@ def run(proof, report):
         result = subprocess.run(step.command, cwd=ROOT, env=environment, check=False, text=True, errors="replace",
                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
         report.write("$ " + " ".join(step.command) + "\n" + result.stdout + "\n")
-        figures.append(figure_of(result.stdout, step.figure) or "ended with %d" % result.returncode)
+        figures.append(figure_of(result.stdout, step.figure) or "exit status %d" % result.returncode)
         if result.returncode != 0:
             return figures, False
     return figures, True
@@ -107,7 +107,7 @@ def run(proof, report):
 def main(names):
     chosen = [proof for proof in proofs() if not names or proof.name in names]
     if not chosen:
-        sys.exit("no proof has such a name")
+        sys.exit("no proof has that name")
     REPORTS.mkdir(parents=True, exist_ok=True)
     for preset in dict.fromkeys(preset for proof in chosen for preset in proof.presets):
         build(preset)
@@ -121,7 +121,7 @@ def main(names):
             figures, holds = run(proof, report)
         print(row % (proof.promise, proof.measure, "holds" if holds else "FAILS", "; ".join(figures)), flush=True)
         held = held and holds
-    print("What each proof printed is in %s." % REPORTS.relative_to(ROOT))
+    print("The output of each proof is in %s." % REPORTS.relative_to(ROOT))
     sys.exit(0 if held else 1)
 
 
