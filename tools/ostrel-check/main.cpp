@@ -76,7 +76,6 @@ int run_batch_of(Options& options)
     if (isatty(STDIN_FILENO) == 1 && std::ranges::count(rules.files, "-") > 0)
         say("Reading cases from the terminal: NAME VALUE... on each line; Ctrl-D ends the input.\n");
     const Closing closing = closing_of(options.ending, rules.style);
-    rules.style.with_rows = closing.with_rows;
     if (options.map.empty()) return run_batch(rules, closing, options.jobs);
     std::optional<Map> map;
     try {

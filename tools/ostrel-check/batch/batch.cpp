@@ -210,7 +210,8 @@ class Batch {
             summary_.unmapped().note_split(split->first());
             if (!closing_->has_summary) say(summary_.unmapped().text());
         }
-        return write_summary(*closing_, summary_, error_ == 0 && is_followed_by_summary());
+        return write_summary(*closing_, summary_, rules_->style.with_rows,
+                             error_ == 0 && is_followed_by_summary());
     }
 
     [[nodiscard]] bool is_followed_by_summary() const

@@ -50,11 +50,11 @@ void add_summarise_options(CLI::App& summarise, EndingOptions& options)
         ->type_name("");
 }
 
-Closing closing_of(const EndingOptions& options, const Style& style)
+Closing closing_of(const EndingOptions& options, Style& style)
 {
     Closing closing = options.closing;
-    closing.with_rows = !options.summary.empty() || style.no_results || !closing.file.empty();
-    closing.has_summary = closing.with_rows || style.format != Format::kStream;
+    style.with_rows = !options.summary.empty() || style.no_results || !closing.file.empty();
+    closing.has_summary = style.with_rows || style.format != Format::kStream;
     const bool results_are_json = style.format == Format::kJson || style.format == Format::kStream;
     closing.as_json = options.summary.empty() ? results_are_json : options.summary == "json";
     return closing;

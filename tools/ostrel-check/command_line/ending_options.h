@@ -26,7 +26,8 @@ void add_ending_options(CLI::App& batch, EndingOptions& options, Rules& rules);
 
 void add_summarise_options(CLI::App& summarise, EndingOptions& options);
 
-Closing closing_of(const EndingOptions& options, const Style& style);
+// closing_of also sets style.with_rows.
+Closing closing_of(const EndingOptions& options, Style& style);
 
 }  // namespace ostrel::tool
 

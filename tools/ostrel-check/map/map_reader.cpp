@@ -1,6 +1,5 @@
 #include "map/map_reader.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace ostrel::tool {
@@ -117,7 +116,7 @@ void MapReader::take_text()
     begin_ = text_.size() - rest_.size();
     rest_.remove_prefix(text.size());
     line_ = next_line_;
-    next_line_ += static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
+    next_line_ += count_lines(text);
     dump_.read(text);
     is_read_ = true;
 }

@@ -21,8 +21,8 @@ namespace ostrel::tool {
 // false beyond this limit.
 inline constexpr std::size_t kDeepest = 32;
 
-// plain_size returns the number of bytes at the front of a block that JSON strings contain without escapes.
-inline std::size_t plain_size(const Block& block)
+// plain_bytes returns the number of bytes at the front of a block that JSON strings contain without escapes.
+inline std::size_t plain_bytes(const Block& block)
 {
     const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(
         static_cast<Block>((block < ' ') | (block == '"') | (block == '\\')));
@@ -33,19 +33,19 @@ inline std::size_t plain_size(const Block& block)
     return halves[0] != 0 ? unmarked(halves[0]) : sizeof halves[0] + unmarked(halves[1]);
 }
 
-// This plain_size returns the size of the longest such prefix of a text.
+// plain_size returns the size of the longest such prefix of a text.
 inline std::size_t plain_size(std::string_view text)
 {
     std::size_t size = 0;
     Block block;
     for (; size + sizeof block <= text.size(); size += sizeof block) {
         std::memcpy(&block, text.data() + size, sizeof block);
-        if (const std::size_t plain = plain_size(block); plain < sizeof block) return size + plain;
+        if (const std::size_t plain = plain_bytes(block); plain < sizeof block) return size + plain;
     }
     if (size == text.size()) return size;
     block = Block{};
     std::memcpy(&block, text.data() + size, text.size() - size);
-    return size + plain_size(block);
+    return size + plain_bytes(block);
 }
 
 // TokenStream hides all but the first of several consecutive digits from the parser, unless the first is 0.
@@ -119,7 +119,7 @@ class JsonParser {
     template <typename Handler>
     rapidjson::ParseResult parse(std::string_view text, Handler& handler)
     {
-        // The bytes after the text make whole blocks of its end.
+        // With more bytes after the text, plain_size does not have to copy the end of the text into a block.
         copy_.assign(text).append(sizeof(Block), '\0');
         TokenStream stream(copy_.data(), copy_.size());
         stream_ = &stream;

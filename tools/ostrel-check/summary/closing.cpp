@@ -21,11 +21,11 @@ bool complain(int error)
 
 }  // namespace
 
-bool write_summary(const Closing& closing, const Summary& summary, bool follows_results)
+bool write_summary(const Closing& closing, const Summary& summary, bool with_rows, bool follows_results)
 {
     if (!closing.has_summary) return true;
     const std::string text =
-        closing.as_json ? summary_json(summary, closing.with_rows) : summary_text(summary, closing.with_rows);
+        closing.as_json ? summary_json(summary, with_rows) : summary_text(summary, with_rows);
     if (closing.file.empty() && !follows_results) {
         say(text);
         return true;

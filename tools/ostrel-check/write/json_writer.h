@@ -31,13 +31,14 @@ class JsonWriter : public rapidjson::Writer<rapidjson::StringBuffer> {
         place[text.size() + 1] = '"';
     }
 
-    // members writes finished members of an object unchanged. They may be given in several pieces.
+    // members writes finished members of an object unchanged. They may be given in several pieces, of which at
+    // least one must not be empty.
     template <typename... Pieces>
     [[gnu::always_inline]] void members(const Pieces&... pieces)
     {
         Level& object = *level_stack_.template Top<Level>();
         const std::size_t comma = object.valueCount > 0 ? 1 : 0;
-        object.valueCount += 2;  // a name and a value
+        object.valueCount += 2;  // any even number of names and values
         char* place = os_->Push((std::string_view(pieces).size() + ... + comma));
         *place = ',';
         place += comma;

@@ -78,8 +78,8 @@ class ResultLine {
     void write_line(std::uint64_t line)
     {
         std::array<char, std::numeric_limits<std::uint64_t>::digits10 + 1> digits;
-        const auto written = std::to_chars(digits.begin(), digits.end(), line);
-        json_.members("\"line\":", std::string_view(digits.begin(), written.ptr));
+        const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), line);
+        json_.members("\"line\":", std::string_view(digits.data(), written.ptr));
     }
 
     void write_named(const Member& passed)
