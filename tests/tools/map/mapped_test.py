@@ -180,6 +180,15 @@ class Rows(unittest.TestCase):
             self.assertEqual([(one["parameter"] if "parameter" in one else one["path"], one["verdict"]) for one in results],
                              [("A.Port", "accepted")], text)
 
+    def test_a_file_of_words(self):
+        for text in ("PARAM_check_port 9\n", "A.Port=1\nA.Port=2\n", "# nothing\n"):
+            for options in ((), ("--format", "words"), ("--jobs", "2")):
+                results, _, _ = batch(text, *options, code=2)
+                self.assertEqual([(1, "with --map, a file must be CSV, TSV or JSON; set its format with --format")],
+                                 [(one["line"], one["meaning"]) for one in results])
+
+        self.assertEqual([], batch("", code=0)[0])
+
     def test_malformed_rows(self):
         parameters = [{"path": "Port", "check": "PARAM_check_port"}]
         results, _, _ = self.judge(parameters, ["a,Port,1", "a,Port", "a,Port,70000"])

@@ -4,6 +4,7 @@ usage: formats_test.py OSTREL_CHECK
 """
 
 import base64
+import bz2
 import csv
 import io
 import json
@@ -167,8 +168,9 @@ class Malformed(unittest.TestCase):
         for data, meaning in ((b"\x1f\x8b\x08\x00" + b"x" * 100, "the file is compressed with gzip"),
                               (b"PK\x03\x04rest", "the file is a ZIP archive"),
                               (text.encode("utf-16"), "the file is UTF-16"),
-                              (text.encode("utf-16-le"), "the file is UTF-16"),
-                              (text.encode("utf-16-be"), "the file is UTF-16"),
+                              (bz2.compress(text.encode()), "the file is compressed with bzip2"),
+                              (text.encode("utf-16-le"), "the file is UTF-16LE"),
+                              (text.encode("utf-16-be"), "the file is UTF-16BE"),
                               (b"\xfe\xff" + text.encode("utf-16-be"), "the file is UTF-16"),
                               (text.encode("utf-32"), "the file is UTF-32"),
                               (b"\0\0\xfe\xff" + text.encode("utf-32-be"), "the file is UTF-32")):
@@ -224,6 +226,11 @@ class Csv(unittest.TestCase):
         self.assertEqual(rows, judged(text, *options))
         rows = judged("rule,v\nPARAM_check_port,1\n", "--check", "rule", "--value", "v", "--format", "csv")
         self.assertEqual("accepted", rows[0]["verdict"])
+        with tempfile.NamedTemporaryFile("w", suffix=".csv") as file:
+            file.write("v,w\n1,x\n")
+            file.flush()
+            for words in (("--value", "v", file.name), (file.name, "--value", "v"), ("--value=v", file.name)):
+                self.assertEqual(["accepted"], [row["verdict"] for row in judged("", "--check", "PARAM_check_port", *words)])
         rows = judged("check,value_1,value_2,value_3\nPARAM_check_num_range,15,1,20\nPARAM_check_port,80,,\n"
                       "PARAM_check_port,80,1,\nTcmValidatePPPUsername,a,,\n")
         self.assertEqual(["accepted", "accepted", "malformed", "accepted"], [row["verdict"] for row in rows])

@@ -135,6 +135,12 @@ class Redaction(unittest.TestCase):
         row = json.loads(self.batch([line], "--redact", "--json", "--with-args").splitlines()[0])
         self.assertEqual([7, "A.1.B", "north", ["<14 bytes>"]], [row[name] for name in ("id", "parameter", "site", "args")])
 
+    def test_lengths_are_those_of_the_values(self):
+        rows = self.batch(['{"id": "hunter2hunter2", "note": "\\u0068unter2hunter2", "check": "TcmValidatePSK", '
+                           '"args": ["hunter2hunter2"]}'], "--redact", "--json", "--with-args").splitlines()
+        row = json.loads(rows[0])
+        self.assertEqual(["<14 bytes>", "<14 bytes>", ["<14 bytes>"]], [row[name] for name in ("id", "note", "args")])
+
     def test_values_that_a_map_does_not_translate(self):
         """The value may belong to a parameter other than the judged one, and may be secret there."""
         with tempfile.NamedTemporaryFile("w", suffix=".json") as file:

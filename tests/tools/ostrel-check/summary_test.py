@@ -186,6 +186,24 @@ class Sum(unittest.TestCase):
                        if "summary" not in line]
             self.assertEqual(expected, json.loads(self.summarise("".join(results[:2]), "".join(results[2:])).stdout))
 
+    def test_of_results_with_their_summary_counts_them_once(self):
+        lines = "PARAM_check_port 65536\nPARAM_check_port 1\nx\n"
+        expected = summary_of(lines)
+        whole, refused, plain = (run("batch", "--json", *options, text=lines).stdout for options in
+                                 (("--summary", "json"), ("--only-refused", "--summary", "json"), ()))
+        for output in whole, refused:
+            shown = self.summarise(output)
+            self.assertEqual((expected, 0), (json.loads(shown.stdout), shown.returncode))
+        shown = self.summarise(plain)
+        self.assertEqual((expected["summary"], 0), (json.loads(shown.stdout)["summary"], shown.returncode), shown.stderr)
+        stream = run("batch", "--stream", text=lines).stdout
+        several = json.loads(self.summarise(whole + plain + refused + stream + whole, plain).stdout)
+        self.assertEqual([6 * row["count"] for row in expected["rows"]], [row["count"] for row in several["rows"]])
+        incomplete = self.summarise("".join(plain.splitlines(keepends=True)[1:]))
+        self.assertEqual((2, f"ostrel-check: {self.folder}/0:3: the summary has no \"rows\", and not all results precede it; "
+                          "batch --summary json writes rows\n"), (incomplete.returncode, incomplete.stderr))
+        self.assertEqual(1, json.loads(incomplete.stdout)["summary"]["accepted"])
+
     def test_the_first_example_stays(self):
         first, second = (self.row(verdict="refused", code=601, example={"args": [text]}) for text in "ab")
         added = json.loads(self.summarise(self.summary(first), self.summary(second)).stdout)
@@ -202,7 +220,9 @@ class Sum(unittest.TestCase):
         good = self.summary(self.row())
         for bad, why in (("nothing\n", "invalid JSON: Invalid value; each line must be a summary or a result in JSON"),
                          ("[]\n", "neither a summary nor a result"), ("1\n", "neither a summary nor a result"),
-                         ('{"summary": {}}\n', "the summary has no \"rows\"; batch --summary json writes them"),
+                         (good.replace('"rows"', '"x"'), 'the summary has no "rows", and not all results precede it; '
+                          "batch --summary json writes rows"),
+                         ('{"summary": {}}\n', '"unreadable_files" is not a count'),
                          ('{"summary": 1, "rows": []}\n', '"summary" is not an object'),
                          (self.summary(self.row(check="x")), 'there is no check "x"'),
                          (self.summary(self.row(code=1)), '"code" does not match "verdict"'),

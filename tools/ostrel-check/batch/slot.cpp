@@ -101,6 +101,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
     const std::string_view rest = arena_->rest_of_input();
     Result result;
     std::string_view text;
+    bool has_more = false;
     if (verdict != Verdict::kMalformed) {
         try {
             cases_.open(arena_->file, arena_->format, arena_->preamble());
@@ -111,6 +112,9 @@ void Slot::conclude(Verdict verdict, std::string problem)
             // A record that cannot be read cannot have ended the worker.
             result.function = nullptr;
         }
+        has_more = !text.empty() && cases_.has_more();
+        // If no record can be found, the rest of the chunk cannot be judged.
+        if (text.empty()) text = rest;
         result.values = &cases_.values();
         result.record = &cases_.record();
     }
@@ -128,8 +132,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
     conclusion_ += render_result(memory, rules_->style,
                                  {rules_->files[arena_->file], progress.line + cases_.record().line}, result);
     const std::uint64_t line = progress.next;
-    const bool has_more = !text.empty() && cases_.has_more();
-    progress.advance(text.size(), text.empty() ? 0 : cases_.lines(text), has_more, cases_.record());
+    progress.advance(text.size(), count_lines(text), has_more, cases_.record());
     ++progress.cases;
     std::string parameter;
     LogWriter(arena_->log)

@@ -43,7 +43,7 @@ void add_reading(CLI::App& batch, Reading& reading)
         ->type_name("COLUMN|NAME");
     batch.add_option("--value", reading.values, "Read an argument from this column; repeatable")
         ->type_name("COLUMN")
-        ->expected(1)
+        ->allow_extra_args(false)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     batch.add_option("--group", reading.group, "With --map: tell gateways apart by this column")
         ->type_name("COLUMN");

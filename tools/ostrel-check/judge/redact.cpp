@@ -7,6 +7,7 @@
 #include "rules/datum.h"
 #include "rules/evaluate.h"
 #include "rules/sentences.h"
+#include "write/json_writer.h"
 
 namespace ostrel::tool {
 
@@ -159,7 +160,8 @@ void Redactor::redact_members(Result& result)
     }
     for (Member& member : record_.members) {
         if (!holds_secret(member)) continue;
-        member.value = members_.emplace_back(length_shown(member.value.size()));
+        std::string memory;
+        member.value = members_.emplace_back(length_shown(text_of(member, memory).size()));
         member.is_json = false;
     }
     result.record = &record_;

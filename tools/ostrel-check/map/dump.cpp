@@ -34,9 +34,6 @@ Dump::Dump(FileFormat format, const Reading& reading, std::string_view preamble)
       is_json_(format == FileFormat::kJson || format == FileFormat::kNdjson),
       json_(reading.encoding)
 {
-    if (format == FileFormat::kWords)
-        throw std::invalid_argument(
-            "with --map, a file must be CSV, TSV or JSON; set its format with --format");
     reader_ = make_reader(format, reading_, preamble);
 }
 

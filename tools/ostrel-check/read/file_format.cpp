@@ -22,6 +22,9 @@ constexpr std::array<Ending, 7> kEndings = {{{".ndjson", FileFormat::kNdjson},
                                              {".words", FileFormat::kWords}}};
 
 constexpr std::string_view kUtf16 = "the file is UTF-16; convert it with iconv -f UTF-16 -t UTF-8";
+// Without a byte-order mark, iconv must be told the order.
+constexpr std::string_view kUtf16Be = "the file is UTF-16BE; convert it with iconv -f UTF-16BE -t UTF-8";
+constexpr std::string_view kUtf16Le = "the file is UTF-16LE; convert it with iconv -f UTF-16LE -t UTF-8";
 constexpr std::string_view kUtf32 = "the file is UTF-32; convert it with iconv -f UTF-32 -t UTF-8";
 
 // Front describes a kind of unreadable file that is identified by its first bytes.
@@ -32,8 +35,9 @@ struct Front {
 
 using namespace std::string_view_literals;
 
-constexpr std::array<Front, 8> kFronts = {{
+constexpr std::array<Front, 9> kFronts = {{
     {"\x1F\x8B", "the file is compressed with gzip; decompress it with gzip -d"},
+    {"BZh91AY&SY", "the file is compressed with bzip2; decompress it with bzip2 -d"},
     {"\xFD"
      "7zXZ",
      "the file is compressed with xz; decompress it with xz -d"},
@@ -94,7 +98,8 @@ std::string_view why_not_text(std::string_view front)
     if (front.size() < 4) return {};
     const auto is_nul = [&](std::size_t at) { return front[at] == '\0'; };
     const bool is_utf16 = is_nul(0) == is_nul(2) && is_nul(1) == is_nul(3) && is_nul(0) != is_nul(1);
-    return is_utf16 ? kUtf16 : std::string_view();
+    if (!is_utf16) return {};
+    return is_nul(0) ? kUtf16Be : kUtf16Le;
 }
 
 }  // namespace ostrel::tool

@@ -99,6 +99,9 @@ bool Input::begin_file()
     format_ = by_name ? *by_name : format_of_bytes(rest(), *reading_);
     cutter_ = make_cutter(format_, *reading_);
     problem_ = why_not_text(rest());
+    const bool is_dump = reading_->map != nullptr && !rest().empty();
+    if (problem_.empty() && is_dump && format_ == FileFormat::kWords)
+        problem_ = "with --map, a file must be CSV, TSV or JSON; set its format with --format";
     problem_line_ = line_;
     ends_file_ = !problem_.empty();
     return true;

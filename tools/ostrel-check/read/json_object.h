@@ -40,7 +40,7 @@ class JsonObject : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, JsonOb
 
  private:
     static constexpr const char* kNotAName = "\"check\" must be the name of a check";
-    static constexpr const char* kNotAnArray = "\"args\" must be an array";
+    static constexpr const char* kNotAnArray = "\"args\" must be an array of values";
     static constexpr const char* kNotBase64 =
         "an argument that is an object must have the form {\"base64\": text}";
 

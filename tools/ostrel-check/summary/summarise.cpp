@@ -159,6 +159,78 @@ void complain(const std::string& file, std::uint64_t line, std::string_view prob
     say(message + "\n");
 }
 
+void add_rows(Summary& summary, const Rows& rows)
+{
+    for (const CountedRow& counted : rows.counted) summary.add(counted);
+    summary.unmapped().add(rows.unmapped);
+}
+
+// FileSum adds up the lines of a file. The results of a batch may be followed by its summary, which counts
+// them too.
+class FileSum {
+ public:
+    explicit FileSum(Summary& sum) : sum_(&sum) {}
+
+    // add_line adds the content of a line, which is either a summary or a result, in JSON. For any other line,
+    // it adds nothing and throws std::invalid_argument with a message for the user.
+    void add_line(const std::string& line)
+    {
+        const ordered_json given = read_line(line);
+        if (given.is_object() && given.contains("summary")) {
+            add_summary(given);
+        } else if (given.is_object() && given.contains("verdict")) {
+            Rows rows;
+            read_result(rows, given);
+            // Results with the name of their file are from batch --json, which also writes a summary.
+            add_rows(given.contains("file") ? results_ : *sum_, rows);
+        } else {
+            refuse("neither a summary nor a result");
+        }
+    }
+
+    // add_results adds the results that no summary follows.
+    void add_results()
+    {
+        results_.for_each([&](const CountedRow& counted) { sum_->add(counted); });
+        results_ = Summary();
+    }
+
+ private:
+    void add_summary(const ordered_json& given)
+    {
+        const ordered_json& total = given["summary"];
+        if (!total.is_object()) refuse("\"summary\" is not an object");
+        const std::uint64_t unreadable_files = number_of(total, "unreadable_files");
+        const bool has_rows = given.contains("rows") && given["rows"].is_array();
+        Rows rows;
+        if (has_rows) {
+            for (const ordered_json& row : given["rows"]) read_row(rows, row);
+        }
+        if (given.contains("map")) read_map(rows.unmapped, given["map"]);
+        Tally tally;
+        for (const CountedRow& counted : rows.counted) tally.add(counted.row.verdict, counted.count);
+        bool counts_results = true;
+        for (std::size_t i = 0; i < kVerdicts; ++i) {
+            const std::string name(json_name(static_cast<Verdict>(i)));
+            const std::uint64_t count = number_of(total, name.c_str());
+            const std::uint64_t of_results = results_.tally().counts.at(i);
+            if (has_rows && count != tally.counts.at(i)) refuse("the rows do not add up to \"" + name + "\"");
+            if (!has_rows && count != of_results)
+                refuse(
+                    "the summary has no \"rows\", and not all results precede it; batch --summary json "
+                    "writes rows");
+            counts_results = counts_results && count >= of_results;
+        }
+        if (has_rows && counts_results) results_ = Summary();
+        add_results();
+        add_rows(*sum_, rows);
+        sum_->add_unreadable_files(unreadable_files);
+    }
+
+    Summary* sum_;
+    Summary results_;  // the results that a summary may follow
+};
+
 // add_file returns whether the whole file was read.
 bool add_file(Summary& summary, const std::string& file)
 {
@@ -169,51 +241,24 @@ bool add_file(Summary& summary, const std::string& file)
         complain(file, 0, "cannot be read: " + std::generic_category().message(errno));
         return false;
     }
+    FileSum sum(summary);
     bool is_good = true;
     std::uint64_t number = 0;
     for (std::string line; std::getline(lines, line);) {
         ++number;
         if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
         try {
-            add_line(summary, line);
+            sum.add_line(line);
         } catch (const std::invalid_argument& error) {
             complain(file, number, error.what());
             is_good = false;
         }
     }
+    sum.add_results();
     return is_good;
 }
 
 }  // namespace
-
-void add_line(Summary& summary, const std::string& line)
-{
-    const ordered_json given = read_line(line);
-    Rows rows;
-    std::uint64_t unreadable_files = 0;
-    if (given.is_object() && given.contains("summary")) {
-        if (!given["summary"].is_object()) refuse("\"summary\" is not an object");
-        if (!given.contains("rows") || !given["rows"].is_array())
-            refuse("the summary has no \"rows\"; batch --summary json writes them");
-        for (const ordered_json& row : given["rows"]) read_row(rows, row);
-        unreadable_files = number_of(given["summary"], "unreadable_files");
-        if (given.contains("map")) read_map(rows.unmapped, given["map"]);
-        Tally tally;
-        for (const CountedRow& counted : rows.counted) tally.add(counted.row.verdict, counted.count);
-        for (std::size_t i = 0; i < kVerdicts; ++i) {
-            const std::string name(json_name(static_cast<Verdict>(i)));
-            if (number_of(given["summary"], name.c_str()) != tally.counts.at(i))
-                refuse("the rows do not add up to \"" + name + "\"");
-        }
-    } else if (given.is_object() && given.contains("verdict")) {
-        read_result(rows, given);
-    } else {
-        refuse("neither a summary nor a result");
-    }
-    for (const CountedRow& counted : rows.counted) summary.add(counted);
-    summary.add_unreadable_files(unreadable_files);
-    summary.unmapped().add(rows.unmapped);
-}
 
 int summarise(const std::vector<std::string>& files, bool as_json)
 {
