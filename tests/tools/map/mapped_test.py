@@ -127,6 +127,35 @@ class Rows(unittest.TestCase):
         results, _, _ = self.judge(pool, rows)
         self.assertEqual([(one["line"], one["verdict"]) for one in results], [(2, "accepted"), (3, "refused")])
 
+    def test_an_alias_is_an_instance(self):
+        pool = [{"path": "Pool.{i}.Start", "check": "TIME_check_sync_daylight_saving_time", "value": "start",
+                 "with": {"end": {"path": "Pool.{i}.End"}}},
+                {"path": "Pool.{i}.Wan.{i}.Port", "check": "PARAM_check_port"},
+                {"path": "Pool.[lan].Name", "check": "PARAM_check_port"}]
+        gateway = {"Pool": {"[lan]": {"Start": "x", "Wan": {"[a-1]": {"Port": "70000"}, "7": {"Port": "1"}}, "Name": "1"},
+                            "1": {"Start": "x", "End": "y", "Name": "1"}, "[guest]": {"Start": "x", "End": "y", "Name": "1"},
+                            "lan]": {"Start": "x"}}}
+        paths = {f"Pool.{name}": value for name, value in (
+            ("[lan].Start", "x"), ("[lan].Wan.[a-1].Port", "70000"), ("[lan].Wan.7.Port", "1"), ("[lan].Name", "1"),
+            ("1.Start", "x"), ("1.End", "y"), ("1.Name", "1"), ("[guest].Start", "x"), ("[guest].End", "y"),
+            ("[guest].Name", "1"), ("lan].Start", "x"))}
+        rows = [{"path": path, "value": value} for path, value in paths.items()]
+        forms = [("ndjson", json.dumps(gateway)), ("json", json.dumps(gateway, indent=1)),
+                 ("ndjson", "\n".join(json.dumps(row) for row in rows)),
+                 ("csv", "path,value\n" + "".join(f"{row['path']},{row['value']}\n" for row in rows))]
+        for form, text in forms:
+            with self.subTest(text), tempfile.NamedTemporaryFile("w") as file:
+                json.dump({"parameters": pool}, file)
+                file.flush()
+                results, counted, _ = batch(text, "--format", form, map_file=file.name)
+                self.assertEqual(
+                    [(one["parameter"], one["verdict"], one.get("reason", {}).get("parameter")) for one in results],
+                    [("Pool.[lan].Wan.[a-1].Port", "refused", None), ("Pool.[lan].Wan.7.Port", "accepted", None),
+                     ("Pool.[lan].Name", "accepted", None), ("Pool.[lan].Start", "malformed", "Pool.[lan].End"),
+                     ("Pool.1.Start", "accepted", None), ("Pool.[guest].Start", "accepted", None)])
+                self.assertEqual(counted["unmapped"]["paths"], [{"path": "Pool.{i}.Name", "count": 2},
+                                                                {"path": "Pool.lan].Start", "count": 1}])
+
     def test_a_call_that_does_not_return(self):
         parameters = [
             {"path": "Stays", "check": "PARAM_check_ui2_value"},

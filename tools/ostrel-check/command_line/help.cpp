@@ -74,9 +74,9 @@ depends only on the record and its line number (it is empty for a line without a
 case), so a file can be judged in pieces.
 
 --summary counts cases by check, parameter and reason, with an example of each
-combination. Instance numbers in a parameter's path are replaced by {i}. The
-summary follows the results or is written to --summary-file; with --stream and
-without --summary-file, it is written to standard error.
+combination. Instance numbers and aliases in a parameter's path are replaced by
+{i}. The summary follows the results or is written to --summary-file; with
+--stream and without --summary-file, it is written to standard error.
 
 SIGINT, SIGTERM and a full disk stop a batch after the current record. A message
 on standard error names the last line, and --start-line resumes after it. With

@@ -100,7 +100,7 @@ class Loader {
     PathPattern sibling(const std::string& at, const std::string& relative, const MapEntry& entry)
     {
         PathPattern pattern = path(at, relative);
-        if (pattern.instances() > entry.path.instances())
+        if (pattern.wildcards() > entry.path.wildcards())
             document_.complain(at, "has more {i} than the path of the parameter");
         map_.paths[pattern.general()].is_sibling = true;
         return pattern;

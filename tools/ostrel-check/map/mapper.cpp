@@ -55,7 +55,7 @@ void Mapper::end_gateway() { is_complete_ = true; }
 void Mapper::take(const DumpRow& row)
 {
     row_ = row;
-    generalise(row.path, general_, numbers_);
+    generalise(row.path, general_, instances_);
     const auto found = map_->paths.find(general_);
     const bool is_known = found != map_->paths.end();
     entries_ = is_known ? &found->second.entries : nullptr;
@@ -72,7 +72,7 @@ bool Mapper::next_of_row(Record& record, Lack& lack)
     while (entries_ != nullptr && next_entry_ < entries_->size()) {
         const std::size_t index = (*entries_)[next_entry_++];
         const MapEntry& entry = map_->entries[index];
-        if (!entry.path.matches(row_.path, numbers_)) continue;
+        if (!entry.path.matches(row_.path, instances_)) continue;
         if (std::ranges::find(entry.skipped, row_.value) != entry.skipped.end()) {
             use_ = std::max(use_, Use::kSkipped);
             continue;
@@ -82,7 +82,7 @@ bool Mapper::next_of_row(Record& record, Lack& lack)
             defer(index);
             continue;
         }
-        make(entry, row_, numbers_, record, lack);
+        make(entry, row_, instances_, record, lack);
         return true;
     }
     const Use use = std::exchange(use_, Use::kJudged);
@@ -102,8 +102,8 @@ bool Mapper::next(Record& record, Lack& lack)
     while (is_complete_ && next_deferred_ < deferred_.size()) {
         const Deferred& one = deferred_[next_deferred_++];
         const MapEntry& entry = map_->entries[one.entry];
-        if (!is_first(entry, one.numbers)) continue;
-        make(entry, one.row, one.numbers, record, lack);
+        if (!is_first(entry, one.instances)) continue;
+        make(entry, one.row, one.instances, record, lack);
         return true;
     }
     return false;
@@ -111,12 +111,12 @@ bool Mapper::next(Record& record, Lack& lack)
 
 void Mapper::defer(std::size_t entry)
 {
-    Deferred one{entry, row_, Numbers(&memory_), std::pmr::vector<Member>(&memory_)};
+    Deferred one{entry, row_, Instances(&memory_), std::pmr::vector<Member>(&memory_)};
     one.row.path = keep(row_.path);
     one.row.value = keep(row_.value);
-    for (const std::string_view number : numbers_) {
-        one.numbers.push_back(
-            one.row.path.substr(static_cast<std::size_t>(number.data() - row_.path.data()), number.size()));
+    for (const std::string_view instance : instances_) {
+        one.instances.push_back(one.row.path.substr(
+            static_cast<std::size_t>(instance.data() - row_.path.data()), instance.size()));
     }
     for (const Member& member : row_.members)
         one.members.push_back({keep(member.name), keep(member.value), member.is_json});
@@ -125,17 +125,17 @@ void Mapper::defer(std::size_t entry)
 }
 
 // is_first returns true unless the same call has already been derived from another of its parameters.
-bool Mapper::is_first(const MapEntry& entry, std::span<const std::string_view> numbers)
+bool Mapper::is_first(const MapEntry& entry, std::span<const std::string_view> instances)
 {
     std::string call = std::to_string(entry.call);
     for (const Source& source : entry.sources) {
-        if (source.kind == Source::Kind::kValue) entry.path.append(call.append(" "), numbers);
-        for (const PathPattern& path : source.paths) path.append(call.append(" "), numbers);
+        if (source.kind == Source::Kind::kValue) entry.path.append(call.append(" "), instances);
+        for (const PathPattern& path : source.paths) path.append(call.append(" "), instances);
     }
     return made_.insert(std::move(call)).second;
 }
 
-void Mapper::make(const MapEntry& entry, const DumpRow& row, std::span<const std::string_view> numbers,
+void Mapper::make(const MapEntry& entry, const DumpRow& row, std::span<const std::string_view> instances,
                   Record& record, Lack& lack)
 {
     record.clear();
@@ -144,7 +144,7 @@ void Mapper::make(const MapEntry& entry, const DumpRow& row, std::span<const std
     record.check = entry.function->name;
     paths_.clear();
     for (std::size_t i = 0; i < entry.sources.size(); ++i) {
-        if (!add_item(entry, i, row, numbers, record, lack)) {
+        if (!add_item(entry, i, row, instances, record, lack)) {
             lack.argument = argument_of(*entry.function, i).name;
             record.items.clear();
             break;
@@ -154,7 +154,7 @@ void Mapper::make(const MapEntry& entry, const DumpRow& row, std::span<const std
 }
 
 bool Mapper::add_item(const MapEntry& entry, std::size_t argument, const DumpRow& row,
-                      std::span<const std::string_view> numbers, Record& record, Lack& lack)
+                      std::span<const std::string_view> instances, Record& record, Lack& lack)
 {
     const Source& source = entry.sources[argument];
     if (source.kind == Source::Kind::kValue) return add_text(source, row.value, row.path, record, lack);
@@ -172,7 +172,7 @@ bool Mapper::add_item(const MapEntry& entry, std::size_t argument, const DumpRow
     }
     for (const PathPattern& pattern : source.paths) {
         path_.clear();
-        pattern.append(path_, numbers);
+        pattern.append(path_, instances);
         if (&pattern != source.paths.data()) paths_ += ',';
         append_json_text(paths_, path_);
         const auto found = values_.find(path_);

@@ -51,22 +51,22 @@ class Mapper {
     [[nodiscard]] const GatewayCounts& counts() const { return counts_; }
 
  private:
-    using Numbers = std::pmr::vector<std::string_view>;
+    using Instances = std::pmr::vector<std::string_view>;
     struct Deferred {
         std::size_t entry;
         DumpRow row;
-        Numbers numbers;
+        Instances instances;
         std::pmr::vector<Member> members;
     };
 
     bool next_of_row(Record& record, Lack& lack);
     std::string_view keep(std::string_view text);
     void defer(std::size_t entry);
-    bool is_first(const MapEntry& entry, std::span<const std::string_view> numbers);
-    void make(const MapEntry& entry, const DumpRow& row, std::span<const std::string_view> numbers,
+    bool is_first(const MapEntry& entry, std::span<const std::string_view> instances);
+    void make(const MapEntry& entry, const DumpRow& row, std::span<const std::string_view> instances,
               Record& record, Lack& lack);
     bool add_item(const MapEntry& entry, std::size_t argument, const DumpRow& row,
-                  std::span<const std::string_view> numbers, Record& record, Lack& lack);
+                  std::span<const std::string_view> instances, Record& record, Lack& lack);
     static bool add_text(const Source& source, std::string_view value, std::string_view path, Record& record,
                          Lack& lack);
     void add_members(const MapEntry& entry, const DumpRow& row, Record& record);
@@ -74,7 +74,7 @@ class Mapper {
     const Map* map_;
     DumpRow row_;
     std::string general_;
-    std::vector<std::string_view> numbers_;
+    std::vector<std::string_view> instances_;
     const std::vector<std::size_t>* entries_ = nullptr;  // entries for the current row
     std::size_t next_entry_ = 0;
     enum class Use { kNone, kSibling, kSkipped, kJudged };

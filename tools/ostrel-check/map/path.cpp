@@ -5,14 +5,12 @@
 
 namespace ostrel::tool {
 
-namespace {
-
-bool is_number(std::string_view name)
+bool is_instance(std::string_view name)
 {
-    return !name.empty() && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
+    if (name.empty()) return false;
+    if (name.front() == '[' && name.back() == ']') return true;
+    return std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
 }
-
-}  // namespace
 
 PathPattern::PathPattern(std::string text) : text_(std::move(text))
 {
@@ -27,23 +25,23 @@ PathPattern::PathPattern(std::string text) : text_(std::move(text))
 std::string PathPattern::general() const
 {
     std::string general;
-    std::vector<std::string_view> numbers;
-    generalise(text_, general, numbers);
+    std::vector<std::string_view> instances;
+    generalise(text_, general, instances);
     return general;
 }
 
-void PathPattern::append(std::string& out, std::span<const std::string_view> numbers) const
+void PathPattern::append(std::string& out, std::span<const std::string_view> instances) const
 {
     for (std::size_t i = 0; i < pieces_.size(); ++i) {
-        if (i > 0) out += numbers[i - 1];
+        if (i > 0) out += instances[i - 1];
         out += pieces_[i];
     }
 }
 
-bool PathPattern::matches(std::string_view path, std::span<const std::string_view> numbers) const
+bool PathPattern::matches(std::string_view path, std::span<const std::string_view> instances) const
 {
-    // If the pattern has as many {i} as the path has numbers, it contains no literal number to compare.
-    if (instances() == numbers.size()) return true;
+    // If the pattern has as many {i} as the path has instances, it contains no literal instance to compare.
+    if (wildcards() == instances.size()) return true;
     for (std::string_view rest = text_; !rest.empty();) {
         const std::size_t dot = std::min(rest.find('.'), rest.size());
         const std::size_t end = std::min(path.find('.'), path.size());
@@ -55,19 +53,20 @@ bool PathPattern::matches(std::string_view path, std::span<const std::string_vie
     return true;
 }
 
-void generalise(std::string_view path, std::string& general, std::vector<std::string_view>& numbers)
+void generalise(std::string_view path, std::string& general, std::vector<std::string_view>& instances)
 {
     general = path;
-    numbers.clear();
-    // Numbers are short and rare, so most of a path is skipped.
+    instances.clear();
+    // Instances are short and rare, so most of a path is skipped.
     std::size_t grown = 0;  // number of bytes by which general is longer than path
     for (std::size_t begin = 0; begin < path.size(); ++begin) {
         const bool begins_name = begin == 0 || path[begin - 1] == '.';
-        if (!begins_name || path[begin] < '0' || path[begin] > '9') continue;
+        const bool may_be_instance = (path[begin] >= '0' && path[begin] <= '9') || path[begin] == '[';
+        if (!begins_name || !may_be_instance) continue;
         const std::size_t end = std::min(path.find('.', begin), path.size());
         const std::string_view name = path.substr(begin, end - begin);
-        if (is_number(name)) {
-            numbers.push_back(name);
+        if (is_instance(name)) {
+            instances.push_back(name);
             general.replace(begin + grown, name.size(), kInstance);
             grown += kInstance.size() - name.size();
         }

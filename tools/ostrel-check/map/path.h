@@ -1,4 +1,4 @@
-// Paths of parameters, with {i} for instance numbers.
+// Paths of parameters, with {i} for instances.
 #ifndef OSTREL_TOOLS_MAP_PATH_H
 #define OSTREL_TOOLS_MAP_PATH_H
 
@@ -10,8 +10,12 @@
 
 namespace ostrel::tool {
 
-// kInstance stands for any instance number in a pattern.
+// kInstance stands for any instance in a pattern.
 inline constexpr std::string_view kInstance = "{i}";
+
+// is_instance returns whether a name in a path identifies an instance: by its number, or by its alias in
+// brackets.
+bool is_instance(std::string_view name);
 
 // PathPattern is a path as it is written in a map.
 class PathPattern {
@@ -21,26 +25,27 @@ class PathPattern {
 
     [[nodiscard]] const std::string& text() const { return text_; }
 
-    // general returns the pattern with {i} in place of its literal numbers. All paths that match the pattern
+    // general returns the pattern with {i} in place of its literal instances. All paths that match the pattern
     // have this general form.
     [[nodiscard]] std::string general() const;
 
-    [[nodiscard]] std::size_t instances() const { return pieces_.size() - 1; }
+    // wildcards returns the number of {i} in the pattern.
+    [[nodiscard]] std::size_t wildcards() const { return pieces_.size() - 1; }
 
-    // append appends the path, with each {i} replaced by the next number. Excess numbers are ignored.
-    void append(std::string& out, std::span<const std::string_view> numbers) const;
+    // append appends the path, with each {i} replaced by the next instance. Excess instances are ignored.
+    void append(std::string& out, std::span<const std::string_view> instances) const;
 
-    // matches returns whether a path contains the pattern's literal numbers in the same places. Both must
+    // matches returns whether a path contains the pattern's literal instances in the same places. Both must
     // have the same general form.
-    [[nodiscard]] bool matches(std::string_view path, std::span<const std::string_view> numbers) const;
+    [[nodiscard]] bool matches(std::string_view path, std::span<const std::string_view> instances) const;
 
  private:
     std::string text_;
     std::vector<std::string> pieces_;  // the parts between the occurrences of {i}
 };
 
-// generalise stores a path with {i} in place of each numeric name, and these names as views into the path.
-void generalise(std::string_view path, std::string& general, std::vector<std::string_view>& numbers);
+// generalise stores a path with {i} in place of each instance, and these instances as views into the path.
+void generalise(std::string_view path, std::string& general, std::vector<std::string_view>& instances);
 
 }  // namespace ostrel::tool
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "map/path.h"
 #include "write/json_writer.h"
 #include "write/show.h"
 
@@ -13,13 +14,6 @@ namespace {
 constexpr std::size_t kLongestPath = 256;
 // An example shows only the beginning and the size of a longer string.
 constexpr std::size_t kLongestShown = 200;
-
-bool is_instance(std::string_view name)
-{
-    if (name.empty()) return false;
-    if (name.front() == '[' && name.back() == ']') return true;
-    return std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
-}
 
 // cut_text returns the beginning of a long text. It does not split characters if the text is UTF-8.
 std::string_view cut_text(std::string_view text, std::size_t size)
