@@ -6,6 +6,7 @@ usage: compare_test.py OSTREL_CHECK SOURCE_DIR
 standard.py judges values for the model, and the library judges them for the gateway.
 """
 
+import functools
 import json
 import pathlib
 import subprocess
@@ -19,6 +20,7 @@ program, source = sys.argv[1:3]
 maps = pathlib.Path(source) / "examples/maps"
 
 
+@functools.cache  # a comparison takes seconds
 def compare(path, *options):
     return subprocess.run([program, "compare", *options, path], capture_output=True, text=True)
 
@@ -104,6 +106,26 @@ class Comparison(unittest.TestCase):
 
     def test_tr_181(self):
         self.check_map("tr-181.json")
+
+    def test_every_relation_is_documented(self):
+        relations = {one["relation"] for name in ("tr-098.json", "tr-181.json")
+                     for one in json.loads(compare(maps / name, "--json").stdout)["parameters"]}
+        self.assertEqual({"same", "narrower", "wider", "other", "unknown"}, relations)
+        told = subprocess.run([program, "compare", "--help"], capture_output=True, text=True).stdout
+        manual = (pathlib.Path(source) / "docs/ostrel-check.1").read_text()
+        page = compare(maps / "tr-098.json", "--markdown").stdout
+        for relation in relations:
+            self.assertRegex(told, rf"(?m)^  {relation} +\w")
+            self.assertRegex(manual, rf"(?m)^\.Cm {relation}( ,)?$")
+            self.assertRegex(page, rf"(?m)^- \*\*{relation}\*\*: ")
+
+    def test_values_without_the_form_of_the_type_are_outside_the_relation(self):
+        told = json.loads(compare(maps / "tr-098.json", "--json").stdout)["parameters"]
+        kinds = [found["kind"] for one in told for found in one["differences"]]
+        page = compare(maps / "tr-098.json", "--markdown").stdout
+        self.assertEqual(kinds.count("not of the form and accepted"), page.count("; outside the relation: `"))
+        self.assertIn("| value\\_p is not empty | **same**; outside the relation: `\"1x\"` is accepted, although it does",
+                      page)
 
     def test_page_is_fresh(self):
         page = compare(maps / "tr-098.json", "--markdown").stdout

@@ -159,9 +159,21 @@ Examples:
 std::string_view compare_help()
 {
     return R"(Compares what a data model allows for each parameter of a map with what the
-check accepts. The relation is same, narrower, wider or other; each difference
-is shown with a value that the library has judged. The map names a file of facts
-with the types and limits of the model.
+check accepts. The map names a file of facts with the types and limits of the
+model. The relation compares only values that have the form of the parameter's
+type, such as decimal numbers, because a management server does not send others:
+
+  same      the check accepts exactly the values that the model allows
+  narrower  it refuses some of them
+  wider     it accepts others
+  other     both
+  unknown   no difference is known, but it is not proved that there is none
+
+Each difference is shown with a value that the library has judged. If the check
+also accepts values that do not have the form of the type, one is shown as a
+remark outside the relation. In JSON, "proved" is true if differences that were
+not found cannot change the relation, and "tried" is the number of values for
+which the outcome was predicted from the check's description.
 
 Examples:
   ostrel-check compare examples/maps/tr-098.json

@@ -44,7 +44,7 @@ struct Comparison {
     // is_proved means that no undiscovered difference of kind kRefused or kAccepted can change relation.
     bool is_proved = false;
     std::vector<Difference> differences = {};  // at most one of each kind
-    std::size_t tried = 0;                     // number of values that were judged
+    std::size_t tried = 0;                     // number of values whose outcome was predicted
 };
 
 // compare calls the library in separate processes. Throws std::invalid_argument if the map's entry lacks data

@@ -80,7 +80,8 @@ std::string sentence(const Difference& one, bool is_markdown)
     const auto show = [&](const std::string& value) {
         return is_markdown ? as_code(brief(value)) : brief(value);
     };
-    std::string text = show(one.value) + " is ";
+    std::string text = one.kind == Kind::kForeign ? "outside the relation: " : "";
+    text += show(one.value) + " is ";
     text += one.kind == Kind::kRefused ? "refused" : "accepted";
     if (one.kind == Kind::kForeign) text += ", although it does not have the form of the type";
     if (!one.reason.empty()) text += ": " + (is_markdown ? in_markdown(one.reason) : one.reason);
@@ -174,16 +175,22 @@ constexpr std::string_view kIntroduction =
     R"(For each parameter that a check of the gateway judges, this page shows what the data model allows, what the check
 accepts, and values on which they disagree. The library has judged each of these values.
 
-- **same**: of the values that have the form of the type, the check accepts exactly those that the model allows.
+The relation compares only values that have the form of the parameter's type, because a management server does not send
+others. Any decimal number has the form of an int and of an unsignedInt, and any text has the form of a string.
+
+- **same**: the check accepts exactly the values that the model allows.
 - **narrower**: the check refuses some values that the model allows.
-- **wider**: the check accepts some values of this form that the model does not allow: another number, a longer string,
-  another keyword.
+- **wider**: the check accepts some values that the model does not allow: another number, a longer string, another
+  keyword.
 - **other**: both.
+- **unknown**: no difference is known, but it is not proved that there is none.
+
+Many checks also accept values that do not have the form of the type, for example letters after a number. The row then
+shows one, as a remark outside the relation.
 
 The relation is derived from the description of the check, not from examples. If a description or a type leaves
 something open, the row states what is known. Numbers have no redundant sign and no leading zeros. Strings are in UTF-8;
-the model counts characters, and the checks count bytes. Vendor-specific keywords are not considered. Many checks also
-accept values that do not have the form of the type, for example letters after a number; the row then shows one.
+the model counts characters, and the checks count bytes. Vendor-specific keywords are not considered.
 )";
 
 std::string markdown_of(const Map& map, const std::vector<Comparison>& all)
