@@ -184,6 +184,18 @@ class Rows(unittest.TestCase):
                           ("refused", "too_long")])
         self.assertEqual((counted["skipped"], counted["unmapped"]["paths"]), (1, [{"path": "Other", "count": 1}]))
 
+    def test_a_value_without_a_translation(self):
+        parameters = [{"path": "Band", "check": "WLAN_check_radio_id",
+                       "words": {"b, c": "RADIO_5GHz", "2.4GHz": "RADIO_2.4GHz", "ä": "RADIO_5GHz"}}]
+        schema = json.loads(subprocess.run([program, "list", "--schema", "result"], capture_output=True).stdout)
+        for encoding, shown in (("utf-8", "\\xC3\\xA9"), ("latin-1", "\\xE9")):
+            result, = self.judge(parameters, ["a,Band,é"], "--encoding", encoding)[0]
+            jsonschema.Draft202012Validator(schema).validate(result)
+            last = '"\\xC3\\xA4"' if encoding == "utf-8" else '"\\xE4"'
+            self.assertEqual(result["reason"], {
+                "id": "no_word", "argument": "radio", "parameter": "Band", "found": "é", "allowed": ["2.4GHz", "b, c", "ä"],
+                "text": f'Band has a value that the map does not translate: "{shown}" (allowed: 2.4GHz, "b, c", {last})'})
+
     def test_texts_of_the_map_are_in_the_encoding_of_the_values(self):
         parameters = [{"path": "A", "check": "TcmValidatePPPPassword", "words": {"ä": "Straße"}, "skip": ["ß"]},
                       {"path": "B", "check": "LAN_check_dhcp_reserved_addr", "value": "lanAddress",

@@ -151,6 +151,9 @@ class Redaction(unittest.TestCase):
             lines = [json.dumps({"id": 7, "parameter": path, "value": marker}) for marker in MARKERS for path in ("Band", "Key")]
             for options in FORMS:
                 shown = self.assert_hidden(lines, "--map", file.name, "--format", "ndjson", *options)
+                if "--json" in options:
+                    self.assertTrue(all("found" not in one["reason"] and one["reason"]["allowed"]
+                                        for one in map(json.loads, shown.splitlines()) if "reason" in one))
                 if options != ["--summary-only"]:
                     self.assertIn("Key has a value that the map does not translate: (the content of the line is not shown)", shown)
 

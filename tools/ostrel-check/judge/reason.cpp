@@ -131,22 +131,34 @@ void explain_lack(Result& result, const Record& record)
     result.why.reason.name = record.problem_argument;
     result.why.reason.argument = 0;
     result.why.text = record.problem;
+    if (record.problem_allowed.empty()) return;
+    result.why.reason.found = std::string(record.problem_found);
+    result.why.reason.allowed = std::vector(record.problem_allowed.begin(), record.problem_allowed.end());
 }
 
 namespace {
 
-void write_lack(JsonWriter& json, const Result& result)
+void write_lack(JsonWriter& json, const Result& result, rules::AppendBytes append)
 {
     const Record& record = *result.record;
     const auto write = [&](std::string_view name, std::string_view text) {
         json.Key(name.data(), static_cast<rapidjson::SizeType>(name.size()));
         write_text(json, text);
     };
+    const auto write_datum = [&](std::string_view name, const rules::Datum& datum) {
+        if (std::holds_alternative<std::monostate>(datum)) return;
+        std::string text;
+        rules::append_json_datum(text, datum, append);
+        json.plain(name);
+        json.raw(text);
+    };
     json.Key("reason");
     json.StartObject();
     write("id", record.problem_id);
     write("argument", record.problem_argument);
     write("parameter", record.problem_path);
+    write_datum("found", result.why.reason.found);
+    write_datum("allowed", result.why.reason.allowed);
     write("text", result.why.text);
     json.EndObject();
 }
@@ -155,14 +167,14 @@ void write_lack(JsonWriter& json, const Result& result)
 
 void write_reasons(JsonWriter& json, const Result& result, Encoding encoding)
 {
+    const rules::AppendBytes append = encoding == Encoding::kUtf8 ? append_utf8 : rules::append_json_text;
     if (result.record != nullptr && !result.record->problem_id.empty()) {
-        write_lack(json, result);
+        write_lack(json, result, append);
         return;
     }
     const Why& why = result.why;
     if (why.text.empty()) return;
     const rules::Check& check = *result.function->check;
-    const rules::AppendBytes append = encoding == Encoding::kUtf8 ? append_utf8 : rules::append_json_text;
     static std::string text;
     const auto write = [&](const Reason& reason, std::string_view sentence) {
         text.clear();

@@ -173,6 +173,7 @@ void Redactor::redact(Result& result, Encoding encoding)
     if (result.verdict == Verdict::kMalformed) {
         result.problem = without_quotations(result.problem);
         result.why.text = without_quotations(result.why.text);
+        result.why.reason.found = std::monostate();
         // Any value of a malformed record may be a secret.
         if (result.record != nullptr) {
             for (const Item& item : result.record->items) {

@@ -50,6 +50,8 @@ bool MapReader::make_next(Record& record)
             record.problem_id = lack_.id;
             record.problem_argument = lack_.argument;
             record.problem_path = lack_.parameter;
+            record.problem_found = lack_.found;
+            record.problem_allowed = lack_.allowed;
             return true;
         }
         if (is_ending_) {

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <utility>
 
+#include "rules/datum.h"
 #include "write/show.h"
 
 namespace ostrel::tool {
@@ -17,14 +18,6 @@ const catalogue::Argument& argument_of(const catalogue::Function& function, std:
         if (!argument.is_only_written() && index-- == 0) return argument;
     }
     return function.arguments.front();
-}
-
-std::string quoted(std::string_view value)
-{
-    constexpr std::size_t kLongest = 60;
-    std::string text = "\"";
-    append_escaped(text, value, kLongest);
-    return text + "\"";
 }
 
 }  // namespace
@@ -196,7 +189,12 @@ bool Mapper::add_text(const Source& source, std::string_view value, std::string_
         if (found == source.words->end()) {
             lack.id = "no_word";
             lack.parameter = path;
-            lack.text = std::string(path) + " has a value that the map does not translate: " + quoted(value);
+            lack.found = value;
+            for (const auto& [word, translation] : *source.words) lack.allowed.push_back(word);
+            std::ranges::sort(lack.allowed);
+            lack.text = std::string(path) +
+                        " has a value that the map does not translate: " + rules::quoted(value) +
+                        " (allowed: " + rules::in_words(lack.allowed, std::string(value)) + ")";
             return false;
         }
         value = found->second;

@@ -19,10 +19,12 @@ namespace ostrel::tool {
 
 // Lack is the reason why a call cannot be made, if the cause is not the value itself.
 struct Lack {
-    std::string_view id;        // "missing_sibling" or "no_word"; empty if nothing is missing
-    std::string_view argument;  // the argument that has no value
-    std::string parameter;      // the parameter that its value should come from
-    std::string text;           // the reason as a sentence
+    std::string_view id;                    // "missing_sibling" or "no_word"; empty if nothing is missing
+    std::string_view argument;              // the argument that has no value
+    std::string parameter;                  // the parameter that its value should come from
+    std::string_view found;                 // for no_word, the value that has no translation
+    std::vector<std::string_view> allowed;  // for no_word, the values that have one
+    std::string text;                       // the reason as a sentence
 };
 
 // DumpRow is a parameter of a gateway. Its views must be valid until the next row is taken.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -60,7 +61,9 @@ struct Record {
     std::string_view problem_id;  // id of the problem, if the record itself is correct
     std::string_view problem_argument;  // the argument that has no value
     std::string_view problem_path;      // the parameter that its value would come from
-    bool may_have_spares = false;       // superfluous empty items at the end are to be ignored
+    std::string_view problem_found;     // the value that has no translation, if problem_allowed is not empty
+    std::span<const std::string_view> problem_allowed;  // the values that have one
+    bool may_have_spares = false;  // superfluous empty items at the end are to be ignored
 
     void clear()
     {
@@ -69,7 +72,8 @@ struct Record {
         path = {};
         items.clear();
         members.clear();
-        problem = problem_id = problem_argument = problem_path = {};
+        problem = problem_id = problem_argument = problem_path = problem_found = {};
+        problem_allowed = {};
         may_have_spares = false;
     }
 
