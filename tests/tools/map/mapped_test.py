@@ -230,62 +230,6 @@ class Rows(unittest.TestCase):
 
         self.assertEqual([], batch("", code=0)[0])
 
-    def test_malformed_rows(self):
-        parameters = [{"path": "Port", "check": "PARAM_check_port"}]
-        results, _, _ = self.judge(parameters, ["a,Port,1", "a,Port", "a,Port,70000"])
-        self.assertEqual([(one["line"], one["verdict"]) for one in results],
-                         [(2, "accepted"), (3, "malformed"), (4, "refused")])
-
-
-class Errors(unittest.TestCase):
-    def complaint(self, text):
-        with tempfile.NamedTemporaryFile("w", suffix=".json") as file:
-            file.write(text)
-            file.flush()
-            _, _, error = batch("parameter,value\n", map_file=file.name, code=2)
-            self.assertIn(file.name, error)
-            return error.replace(file.name, "MAP").splitlines()[0].removeprefix("ostrel-check: ")
-
-    def test_errors_name_the_line_and_the_place(self):
-        entry = '{"parameters": [\n {"path": "A", "check": "PARAM_check_port"},\n %s\n]}'
-        pool = '"check": "LAN_check_dhcp_reserved_addr", "value": "reservedList"'
-        cases = [
-            ("{\n \"parameters\": [\n}", "MAP:3: invalid JSON: "),
-            ("[]", "MAP:1: must be an object"),
-            ("{}", 'MAP:1: "parameters" is missing'),
-            ('{"parameters": []}', "MAP:1: /parameters: must not be empty"),
-            (entry % '{"path": "B", "check": "PARAM_check_prot"}', 'MAP:3: /parameters/1/check: '),
-            (entry % '{"check": "PARAM_check_port"}', 'MAP:3: /parameters/1: "path" is missing'),
-            (entry % '{"path": "B",\n "check": 7}', "MAP:4: /parameters/1/check: must be a string"),
-            (entry % '{"path": "B..C", "check": "PARAM_check_port"}',
-             "MAP:3: /parameters/1/path: the path has an empty name"),
-            (entry % '{"path": "B.{j}", "check": "PARAM_check_port"}', "MAP:3: /parameters/1/path: braces"),
-            (entry % '{"path": "A", "check": "PARAM_check_port"}', "MAP:3: /parameters/1: the parameter already has"),
-            (entry % '{"path": "B", "check": "PARAM_check_port", "values": 1}',
-             "MAP:3: /parameters/1/values: unknown member"),
-            (entry % ('{"path": "B", ' + pool + "}"),
-             'MAP:3: /parameters/1: no source is given for the argument "lanAddress"'),
-            (entry % ('{"path": "B", ' + pool + ',\n "with": {"lanAddress": {"path": "C.{i}"}}}'),
-             "MAP:4: /parameters/1/with/lanAddress/path: has more {i}"),
-            (entry % ('{"path": "B", ' + pool + ', "with": {"lan": {"path": "C"}, "lanAddress": {"path": "C"}}}'),
-             "MAP:3: /parameters/1/with/lan: LAN_check_dhcp_reserved_addr has no such argument; "
-             "its arguments are reservedList"),
-            (entry % ('{"path": "B", ' + pool + ', "with": {"lanAddress": {}}}'),
-             "MAP:3: /parameters/1/with/lanAddress: exactly one of"),
-        ]
-        for text, expected in cases:
-            with self.subTest(text):
-                self.assertTrue(self.complaint(text).startswith(expected), self.complaint(text))
-
-    def test_maps_obey_the_schema(self):
-        schema = json.loads(subprocess.run([program, "list", "--schema", "map"], capture_output=True).stdout)
-        for path in tr_098.parent.glob("*.json"):
-            jsonschema.validate(json.loads(path.read_text()), schema)
-
-    def test_a_map_that_is_not_there(self):
-        _, _, error = batch("parameter,value\n", map_file="/nonexistent/map.json", code=2)
-        self.assertIn("cannot read /nonexistent/map.json: No such file or directory", error)
-
 
 if __name__ == "__main__":
     unittest.main(argv=sys.argv[:1])

@@ -52,8 +52,8 @@ struct Strings : rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Strings> {
 
 std::string without_quotations(std::string_view problem)
 {
-    constexpr std::string_view kMembers[] = {"check", "args",   "repeat", "times",
-                                             "join",  "base64", "id",     "parameter"};
+    constexpr std::string_view kMembers[] = {"check", "args",      "repeat", "times", "join", "base64",
+                                             "id",    "parameter", "path",   "name",  "value"};
     std::size_t end = 0;
     while (true) {
         const std::size_t begin = problem.find_first_of("\"'", end);

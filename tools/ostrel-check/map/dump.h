@@ -27,8 +27,12 @@ class Dump {
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
 
     // read reads a CSV row or an object, and next_row then returns its rows. Throws std::invalid_argument
-    // with a message for the user. In that case, there are no rows.
+    // with a message for the user. In that case, there are no rows, and faulty_row returns what was read of
+    // the row.
     void read(std::string_view text);
+
+    // faulty_row's path is empty if it is not known.
+    [[nodiscard]] DumpRow faulty_row() const { return {path_, {}, 0, record_.members}; }
 
     // next_row stores the next row, except for its line number, or returns false if there is none. The row
     // is valid until the next call.
@@ -42,7 +46,8 @@ class Dump {
  private:
     void read_json(std::string_view text);
     void read_row(std::string_view text);
-    [[nodiscard]] const Member& require(std::string_view name) const;
+    void read_path(std::string_view name);
+    void read_gateway();
     [[nodiscard]] std::string_view path_name() const;
 
     Reading reading_;  // without the map

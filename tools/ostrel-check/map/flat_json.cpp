@@ -96,10 +96,17 @@ bool FlatJson::take_base64(rapidjson::SizeType members)
     return true;
 }
 
-bool FlatJson::skip()
+bool FlatJson::Null()
 {
+    if (is_at_member()) members_.push_back({name_, "null", true});
     if (!levels_.empty() && levels_.back().is_array) ++levels_.back().count;
     return true;
+}
+
+// is_at_member returns whether the value that is being read is that of a member.
+bool FlatJson::is_at_member() const
+{
+    return levels_.size() == 1 && name_.find('.') == std::string_view::npos;
 }
 
 bool FlatJson::Key(const char* begin, rapidjson::SizeType size, bool /*copy*/)
@@ -114,8 +121,7 @@ bool FlatJson::scalar(std::string_view text, bool is_token)
         problem_ = "a gateway must be a JSON object";
         return false;
     }
-    const bool is_member = levels_.size() == 1 && name_.find('.') == std::string_view::npos;
-    if (is_member) {
+    if (is_at_member()) {
         members_.push_back({name_, text, is_token});
         return true;
     }

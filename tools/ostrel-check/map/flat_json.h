@@ -18,7 +18,7 @@ namespace ostrel::tool {
 
 // A value directly in the object is a member if its name contains no ".". Every other value is a parameter.
 // Its path consists of the names that lead to it, and the elements of an array are numbered from 1. null is
-// not a value, and {"base64": TEXT} stands for the decoded bytes.
+// not the value of a parameter, and {"base64": TEXT} stands for the decoded bytes.
 class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson> {
  public:
     explicit FlatJson(Encoding encoding) : encoding_(encoding) {}
@@ -39,7 +39,7 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
 
     // The parser calls these functions. The base class provides those that are not defined here.
     // NOLINTBEGIN(bugprone-derived-method-shadowing-base-method)
-    bool Null() { return skip(); }
+    bool Null();
     bool Bool(bool value) { return scalar(value ? "true" : "false", true); }
     bool RawNumber(const char* begin, rapidjson::SizeType size, bool /*copy*/)
     {
@@ -71,7 +71,7 @@ class FlatJson : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, FlatJson
 
     bool start(bool is_array);
     bool end();
-    bool skip();
+    [[nodiscard]] bool is_at_member() const;
     bool scalar(std::string_view text, bool is_token);
     void enter(std::string_view name);
     bool take_base64(rapidjson::SizeType members);

@@ -84,6 +84,7 @@ bool MapReader::make_next(Record& record)
                 record.clear();
                 record.line = line_;
                 record.problem = problem_;
+                add_members(dump_.faulty_row(), record);
                 return true;
             case Next::kNothing:
                 if (!is_in_gateway_) return false;

@@ -22,6 +22,13 @@ const catalogue::Argument& argument_of(const catalogue::Function& function, std:
 
 }  // namespace
 
+void add_members(const DumpRow& row, Record& record)
+{
+    record.members.assign(row.members.begin(), row.members.end());
+    const bool has_name = row.path.empty() || record.find("parameter") != nullptr;
+    if (!has_name) record.members.push_back({"parameter", row.path});
+}
+
 std::string_view Mapper::keep(std::string_view text)
 {
     if (text.empty()) return {};
@@ -205,8 +212,7 @@ bool Mapper::add_text(const Source& source, std::string_view value, std::string_
 
 void Mapper::add_members(const MapEntry& entry, const DumpRow& row, Record& record)
 {
-    record.members.assign(row.members.begin(), row.members.end());
-    if (record.find("parameter") == nullptr) record.members.push_back({"parameter", row.path});
+    tool::add_members(row, record);
     if (!entry.has_siblings || record.items.empty()) return;
     paths_ += '}';
     record.members.push_back({"siblings", paths_, true});

@@ -35,6 +35,9 @@ struct DumpRow {
     std::span<const Member> members = {};  // members that results repeat
 };
 
+// add_members adds the members of a row to a record, and the row's path as "parameter".
+void add_members(const DumpRow& row, Record& record);
+
 // Mapper takes the rows of one gateway at a time. It immediately derives the calls that need only one
 // parameter, and reports parameters without a check. At the end of the gateway, it derives the calls that
 // also need other parameters, in the order of their rows. It stores the data of only one gateway.
