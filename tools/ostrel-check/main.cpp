@@ -73,6 +73,7 @@ int run_batch_of(Options& options)
     if (options.json) rules.style.format = Format::kJson;
     if (options.stream) rules.style.format = Format::kStream;
     rules.style.columns = columns_of(STDOUT_FILENO, kAnyWidth);
+    rules.style.group = rules.reading.group;
     if (isatty(STDIN_FILENO) == 1 && std::ranges::count(rules.files, "-") > 0)
         say("Reading cases from the terminal: NAME VALUE... on each line; Ctrl-D ends the input.\n");
     const Closing closing = closing_of(options.ending, rules.style);

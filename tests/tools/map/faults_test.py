@@ -100,6 +100,7 @@ class Maps(unittest.TestCase):
              "MAP:3: /parameters/1/path: the path has an empty name"),
             (entry % '{"path": "B.{j}", "check": "PARAM_check_port"}', "MAP:3: /parameters/1/path: braces"),
             (entry % '{"path": "A", "check": "PARAM_check_port"}', "MAP:3: /parameters/1: the parameter already has"),
+            (entry % '{"path": "B", "check": "PARAM_check_port", "words": {}}', "MAP:3: /parameters/1/words: must not be empty"),
             (entry % '{"path": "B", "check": "PARAM_check_port", "values": 1}',
              "MAP:3: /parameters/1/values: unknown member"),
             (entry % ('{"path": "B", ' + pool + "}"),

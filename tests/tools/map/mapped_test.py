@@ -111,6 +111,21 @@ class Rows(unittest.TestCase):
                                 ("c", "accepted", None)])
         self.assertEqual(counted["split_gateways"], 1)
 
+    def test_an_instance_that_the_map_names(self):
+        pool = [{"path": "A.1.Pool.{i}.Start", "check": "TIME_check_sync_daylight_saving_time", "value": "start",
+                 "with": {"end": {"path": "A.2.Pool.{i}.End"}}}]
+        results, _, _ = self.judge(pool, ["a,A.1.Pool.7.Start,x", "a,A.2.Pool.7.End,y", "a,A.2.Pool.7.Start,z"])
+        self.assertEqual([({"end": "A.2.Pool.7.End"}, "accepted")],
+                         [(one["siblings"], one["verdict"]) for one in results])
+
+    def test_a_table_names_the_gateways(self):
+        with tempfile.NamedTemporaryFile("w", suffix=".json") as file:
+            json.dump({"parameters": [{"path": "Port", "check": "PARAM_check_port"}]}, file)
+            file.flush()
+            run = subprocess.run([program, "batch", "--map", file.name, "--group", "gateway"],
+                                 input="gateway,id,parameter,value\ng1,7,Port,0\n", capture_output=True, text=True)
+        self.assertIn("g1 7 Port: PARAM_check_port 0\n", run.stdout)
+
     def test_rows_without_a_gateway_column(self):
         pool = [{"path": "Start", "check": "TIME_check_sync_daylight_saving_time", "value": "start",
                  "with": {"end": {"path": "End"}}}]

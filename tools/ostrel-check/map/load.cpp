@@ -74,6 +74,7 @@ class Loader {
         const auto found = object.find("words");
         if (found == object.end()) return std::nullopt;
         if (!found->is_object()) document_.complain(at + "/words", "must be an object");
+        if (found->empty()) document_.complain(at + "/words", "must not be empty");
         WordTable result;
         for (const auto& [word, value] : found->items()) {
             const std::string place = at + "/words/" + word;

@@ -72,7 +72,7 @@ bool Mapper::next_of_row(Record& record, Lack& lack)
     while (entries_ != nullptr && next_entry_ < entries_->size()) {
         const std::size_t index = (*entries_)[next_entry_++];
         const MapEntry& entry = map_->entries[index];
-        if (!entry.path.matches(row_.path, instances_)) continue;
+        if (!entry.path.matches(row_.path, instances_, own_instances_)) continue;
         if (std::ranges::find(entry.skipped, row_.value) != entry.skipped.end()) {
             use_ = std::max(use_, Use::kSkipped);
             continue;
@@ -82,7 +82,7 @@ bool Mapper::next_of_row(Record& record, Lack& lack)
             defer(index);
             continue;
         }
-        make(entry, row_, instances_, record, lack);
+        make(entry, row_, own_instances_, record, lack);
         return true;
     }
     const Use use = std::exchange(use_, Use::kJudged);
@@ -114,7 +114,7 @@ void Mapper::defer(std::size_t entry)
     Deferred one{entry, row_, Instances(&memory_), std::pmr::vector<Member>(&memory_)};
     one.row.path = keep(row_.path);
     one.row.value = keep(row_.value);
-    for (const std::string_view instance : instances_) {
+    for (const std::string_view instance : own_instances_) {
         one.instances.push_back(one.row.path.substr(
             static_cast<std::size_t>(instance.data() - row_.path.data()), instance.size()));
     }

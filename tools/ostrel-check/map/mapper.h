@@ -80,6 +80,7 @@ class Mapper {
     DumpRow row_;
     std::string general_;
     std::vector<std::string_view> instances_;
+    std::vector<std::string_view> own_instances_;        // those at {i} in the current entry's path
     const std::vector<std::size_t>* entries_ = nullptr;  // entries for the current row
     std::size_t next_entry_ = 0;
     enum class Use { kNone, kSibling, kSkipped, kJudged };

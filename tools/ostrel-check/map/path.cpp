@@ -38,15 +38,22 @@ void PathPattern::append(std::string& out, std::span<const std::string_view> ins
     }
 }
 
-bool PathPattern::matches(std::string_view path, std::span<const std::string_view> instances) const
+bool PathPattern::matches(std::string_view path, std::span<const std::string_view> instances,
+                          std::vector<std::string_view>& own) const
 {
     // If the pattern has as many {i} as the path has instances, it contains no literal instance to compare.
-    if (wildcards() == instances.size()) return true;
+    own.assign(instances.begin(), instances.end());
+    if (wildcards() == own.size()) return true;
+    own.clear();
     for (std::string_view rest = text_; !rest.empty();) {
         const std::size_t dot = std::min(rest.find('.'), rest.size());
         const std::size_t end = std::min(path.find('.'), path.size());
         const std::string_view name = rest.substr(0, dot);
-        if (name != kInstance && name != path.substr(0, end)) return false;
+        if (name == kInstance) {
+            own.push_back(path.substr(0, end));
+        } else if (name != path.substr(0, end)) {
+            return false;
+        }
         rest.remove_prefix(std::min(dot + 1, rest.size()));
         path.remove_prefix(std::min(end + 1, path.size()));
     }

@@ -35,9 +35,10 @@ class PathPattern {
     // append appends the path, with each {i} replaced by the next instance. Excess instances are ignored.
     void append(std::string& out, std::span<const std::string_view> instances) const;
 
-    // matches returns whether a path contains the pattern's literal instances in the same places. Both must
-    // have the same general form.
-    [[nodiscard]] bool matches(std::string_view path, std::span<const std::string_view> instances) const;
+    // matches returns whether a path, which contains the given instances, contains the pattern's literal
+    // instances in the same places, and stores the other instances in own. Both must have the same general form.
+    bool matches(std::string_view path, std::span<const std::string_view> instances,
+                 std::vector<std::string_view>& own) const;
 
  private:
     std::string text_;

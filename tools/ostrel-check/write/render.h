@@ -24,6 +24,7 @@ struct Style {
     bool with_rows = false;               // the summary has rows by check, parameter and reason
     bool redacts = false;                 // secret values are replaced by their length
     bool tries_known = false;             // calls that are known not to return are made too
+    std::string group;                    // the column that tells gateways apart, which a table shows
     std::size_t columns = 0;              // width of a table, or 0 if nothing is to be wrapped
     std::string driver_problem;           // why --channels could not replace the wireless driver, or empty
 };

@@ -1,6 +1,7 @@
 #include "write/render_table.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "catalogue/result_codes.h"
 #include "terminal/style.h"
@@ -43,11 +44,13 @@ void append_printed(std::string& out, std::string_view text, std::string_view ma
     }
 }
 
-void append_whose(std::string& out, const Result& result)
+void append_whose(std::string& out, const Style& style, const Result& result)
 {
     if (result.record == nullptr) return;
     bool has_name = false;
-    for (const std::string_view name : {"id", "parameter"}) {
+    std::vector<std::string_view> names = {"id", "parameter"};
+    if (!style.group.empty() && style.group != "id") names.insert(names.begin(), style.group);
+    for (const std::string_view name : names) {
         const Member* member = result.record->find(name);
         if (member == nullptr || member->value.empty()) continue;
         if (has_name) out += ' ';
@@ -83,14 +86,14 @@ void append_row(std::string& out, const Style& style, const Location& place, con
     append_padded(row, name_of(result.verdict), 9, false);
     if (result.verdict == Verdict::kMalformed) {
         row += "       ";
-        append_whose(row, result);
+        append_whose(row, style, result);
         append_escaped(row, result.problem, kLongestShown);
         append_wrapped(out, row, 0, kIndentation + kHanging, style.columns);
         return;
     }
     append_padded(row, has_code(result.verdict) ? std::to_string(result.code) : "", 6, true);
     row += "  ";
-    append_whose(row, result);
+    append_whose(row, style, result);
     row += result.function->name;
     for (const catalogue::Value& value : *result.values) {
         row += ' ';
