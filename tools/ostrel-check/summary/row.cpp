@@ -67,20 +67,11 @@ void append_counted_parameter(std::string& out, std::string_view path)
     std::string escaped;
     if (valid_utf8(path) < path.size()) path = escaped = escaped_text(path);
     // The first name is the name of the tree, never an instance.
-    std::size_t kept = 0;
-    // Names are short, so that a call of memchr would take longer.
-    const auto find_dot = [&](std::size_t at) {
-        while (at < path.size() && path[at] != '.') ++at;
-        return at;
-    };
-    for (std::size_t end = find_dot(0); end < path.size();) {
-        const std::size_t begin = end + 1;
-        end = find_dot(begin);
-        if (!is_instance(path.substr(begin, end - begin))) continue;
-        out.append(path.substr(kept, begin - kept)).append("{i}");
-        kept = end;
-    }
-    out += path.substr(kept);
+    const std::size_t root = std::min(path.find('.'), path.size());
+    std::string general;
+    std::vector<std::string_view> instances;
+    generalise(path.substr(root), general, instances);
+    out.append(path.substr(0, root)).append(general);
 }
 
 SummaryRow row_of(const Result& result, const Style& style, std::string& parameter)

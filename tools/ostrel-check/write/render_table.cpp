@@ -1,7 +1,6 @@
 #include "write/render_table.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "catalogue/result_codes.h"
 #include "terminal/style.h"
@@ -48,16 +47,17 @@ void append_whose(std::string& out, const Style& style, const Result& result)
 {
     if (result.record == nullptr) return;
     bool has_name = false;
-    std::vector<std::string_view> names = {"id", "parameter"};
-    if (!style.group.empty() && style.group != "id") names.insert(names.begin(), style.group);
-    for (const std::string_view name : names) {
+    const auto add = [&](std::string_view name) {
         const Member* member = result.record->find(name);
-        if (member == nullptr || member->value.empty()) continue;
+        if (member == nullptr || member->value.empty()) return;
         if (has_name) out += ' ';
         std::string memory;
         append_escaped(out, text_of(*member, memory), kLongestShown);
         has_name = true;
-    }
+    };
+    if (!style.group.empty() && style.group != "id") add(style.group);
+    add("id");
+    add("parameter");
     if (has_name) out += ": ";
 }
 
