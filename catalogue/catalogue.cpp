@@ -2,8 +2,6 @@
 
 #include <ostrel/check.h>
 
-#include <cstdint>
-#include <cstring>
 #include <unordered_map>
 
 namespace ostrel::catalogue {
@@ -215,17 +213,6 @@ std::vector<Function> list_functions()
     return list.functions;
 }
 
-// NameHash uses the length and the end of a name, where names differ most.
-struct NameHash {
-    std::size_t operator()(std::string_view name) const
-    {
-        std::uint64_t end = 0;
-        if (name.size() >= sizeof end) std::memcpy(&end, name.data() + name.size() - sizeof end, sizeof end);
-        constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
-        return static_cast<std::size_t>((end + name.size()) * kFactor >> 32);
-    }
-};
-
 }  // namespace
 
 const std::vector<Function>& functions()
@@ -246,7 +233,7 @@ std::vector<std::string_view> families()
 const Function* find(std::string_view name)
 {
     static const auto by_name = [] {
-        std::unordered_map<std::string_view, const Function*, NameHash> all;
+        std::unordered_map<std::string_view, const Function*> all;
         for (const Function& function : functions()) all.emplace(function.name, &function);
         return all;
     }();

@@ -12,6 +12,7 @@
 #include "batch/log.h"
 #include "calling/capture.h"
 #include "read/cutter.h"
+#include "read/reader.h"
 #include "read/reading.h"
 #include "read/record.h"
 
@@ -33,17 +34,16 @@ struct Progress {
     std::uint64_t refused = 0;
     Log::Size log;
 
-    // advance moves past a record and, if the entry contains no more records, past the entry, which has the
-    // given numbers of bytes and line feeds.
-    void advance(std::size_t bytes, std::uint64_t lines, bool has_more, const Record& record)
+    // advance moves past a record and, if the entry contains no more records, past the entry.
+    void advance(std::string_view text, bool has_more, const Record& record)
     {
         const bool ends_gateway = has_more && record.kind == Record::Kind::kGatewayEnd;
         if (ends_gateway) next = line + record.end;
         is_within = has_more && !ends_gateway;
         part = has_more ? part + 1 : 0;
         if (has_more) return;
-        read += bytes;
-        line += lines;
+        read += text.size();
+        line += count_lines(text);
         next = line;
     }
 };

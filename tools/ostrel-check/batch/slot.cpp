@@ -132,7 +132,7 @@ void Slot::conclude(Verdict verdict, std::string problem)
     conclusion_ += render_result(memory, rules_->style,
                                  {rules_->files[arena_->file], progress.line + cases_.record().line}, result);
     const std::uint64_t line = progress.next;
-    progress.advance(text.size(), count_lines(text), has_more, cases_.record());
+    progress.advance(text, has_more, cases_.record());
     ++progress.cases;
     std::string parameter;
     LogWriter(arena_->log)

@@ -40,11 +40,10 @@ class Judge {
         std::string_view rest = arena_->rest_of_input();
         while (!rest.empty() && goes_on(progress)) {
             const std::string_view text = rest.substr(0, cases_.next(rest));
-            const std::uint64_t lines = cases_.lines(text);
             bool has_more = true;
             while (has_more && goes_on(progress)) {
                 has_more = judge(text, progress);
-                progress.advance(text.size(), lines, has_more, cases_.record());
+                progress.advance(text, has_more, cases_.record());
                 note(progress);
                 arena_->commit(progress);
             }

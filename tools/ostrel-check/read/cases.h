@@ -20,7 +20,6 @@ class Cases {
     void open(std::size_t file, FileFormat format, std::string_view preamble);
 
     std::size_t next(std::string_view rest) { return reader_->next(rest); }
-    [[nodiscard]] std::uint64_t lines(std::string_view entry) const { return reader_->lines(entry); }
 
     // read reads a record as Reader::read does and, if it is a case, finds the check and the arguments. It
     // returns false if there is no record. Throws std::invalid_argument with a message for the user.

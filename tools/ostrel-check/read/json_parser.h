@@ -119,8 +119,7 @@ class JsonParser {
     template <typename Handler>
     rapidjson::ParseResult parse(std::string_view text, Handler& handler)
     {
-        // With more bytes after the text, plain_size does not have to copy the end of the text into a block.
-        copy_.assign(text).append(sizeof(Block), '\0');
+        copy_.assign(text);
         TokenStream stream(copy_.data(), copy_.size());
         stream_ = &stream;
         rapidjson::Reader reader;

@@ -16,10 +16,6 @@ class LineReader : public Reader {
     LineReader(const Reading& reading, bool only_json);
 
     std::size_t next(std::string_view rest) override;
-    [[nodiscard]] std::uint64_t lines(std::string_view entry) const override
-    {
-        return entry.ends_with('\n') ? 1 : 0;
-    }
     Found read(std::string_view text, std::size_t part, Record& record) override;
 
  private:

@@ -35,7 +35,7 @@ std::size_t Reader::skip(std::string_view rest, std::uint64_t line)
     for (std::uint64_t at = 0; at < line && size < rest.size();) {
         const std::string_view text = rest.substr(size, next(rest.substr(size)));
         size += text.size();
-        at += lines(text);
+        at += count_lines(text);
     }
     return size;
 }

@@ -36,9 +36,6 @@ class Reader {
     // entry. rest consists of at least one entry, and all its entries are whole.
     virtual std::size_t next(std::string_view rest) = 0;
 
-    // lines returns the number of line feeds in an entry.
-    [[nodiscard]] virtual std::uint64_t lines(std::string_view entry) const { return count_lines(entry); }
-
     // skip returns the size of the entries at the front of rest that begin before the given line. Lines are
     // counted from 0 at the beginning of rest.
     virtual std::size_t skip(std::string_view rest, std::uint64_t line);

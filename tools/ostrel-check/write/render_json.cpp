@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <limits>
 
 #include "catalogue/result_codes.h"
 #include "judge/reason.h"
@@ -42,7 +40,8 @@ class ResultLine {
         encoding_ = style.encoding;
         json_.StartObject();
         if (style.format != Format::kStream) write_file(place.file);
-        write_line(place.line);
+        json_.plain("line");
+        json_.Uint64(place.line);
         write_passed(result);
         write_verdict(result);
         if (style.with_args) write_args(result);
@@ -73,13 +72,6 @@ class ResultLine {
             file_member_ = std::string_view(buffer.GetString(), buffer.GetSize()).substr(1);
         }
         json_.members(file_member_);
-    }
-
-    void write_line(std::uint64_t line)
-    {
-        std::array<char, std::numeric_limits<std::uint64_t>::digits10 + 1> digits;
-        const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), line);
-        json_.members("\"line\":", std::string_view(digits.data(), written.ptr));
     }
 
     void write_named(const Member& passed)
